@@ -1,0 +1,423 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="ID_CameraPage_1">
+        <source></source>
+        <translation>1. Check that the device is plugged in and chosen in the list.</translation>
+    </message>
+    <message id="ID_CameraPage_2">
+        <source></source>
+        <translation>2. Close other programs that use the camera.</translation>
+    </message>
+    <message id="ID_CameraPage_3">
+        <source></source>
+        <translation>3. Open the lens cover, or switch the camera on with its key.</translation>
+    </message>
+    <message id="ID_CameraPage_4">
+        <source></source>
+        <translation>4. Allow camera access in the system's privacy settings.</translation>
+    </message>
+    <message id="ID_CameraPage_5">
+        <source></source>
+        <translation>5. Restart the computer, or try another device.</translation>
+    </message>
+    <message id="ID_CameraPage_Camera">
+        <source></source>
+        <translation>Camera:</translation>
+    </message>
+    <message id="ID_CameraPage_CameraDisabled">
+        <source></source>
+        <translation>The camera is off or disabled</translation>
+    </message>
+    <message id="ID_CameraPage_CannotSee">
+        <source></source>
+        <translation>No, I can't see</translation>
+    </message>
+    <message id="ID_CameraPage_ClickHere">
+        <source></source>
+        <translation>Can't see yourself? Click here</translation>
+    </message>
+    <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
+        <source></source>
+        <translation>The camera is off. Choose one here, or enable it.</translation>
+    </message>
+    <message id="ID_CameraPage_No">
+        <source></source>
+        <translation>No, I can't</translation>
+    </message>
+    <message id="ID_CameraPage_NoCameraImageWasDetected">
+        <source></source>
+        <translation>The camera shows no picture</translation>
+    </message>
+    <message id="ID_CameraPage_NotDetected">
+        <source></source>
+        <translation>This check was not answered</translation>
+    </message>
+    <message id="ID_CameraPage_Yes">
+        <source></source>
+        <translation>Yes, I can see</translation>
+    </message>
+    <message id="ID_CameraPage_choseNo">
+        <source></source>
+        <translation>You can't see yourself</translation>
+    </message>
+    <message id="ID_Camera_Check">
+        <source></source>
+        <translation>Camera</translation>
+    </message>
+    <message id="ID_CheckResultPage_Abnormal">
+        <source></source>
+        <translation>Failed</translation>
+    </message>
+    <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
+        <source></source>
+        <translation>Please fix it and check again.</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentAbnormal">
+        <source></source>
+        <translation>Something is not working</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentNormal">
+        <source></source>
+        <translation>Everything works</translation>
+    </message>
+    <message id="ID_CheckResultPage_Headphone">
+        <source></source>
+        <translation>Speaker</translation>
+    </message>
+    <message id="ID_CheckResultPage_Normal">
+        <source></source>
+        <translation>Passed</translation>
+    </message>
+    <message id="ID_CheckResultPage_OK">
+        <source></source>
+        <translation>You are ready for class.</translation>
+    </message>
+    <message id="ID_CheckResultPage_Redetect">
+        <source></source>
+        <translation>Retest</translation>
+    </message>
+    <message id="ID_CheckResultPage_System">
+        <source></source>
+        <translation>System</translation>
+    </message>
+    <message id="ID_ContentPage_NotFinishedIfLeave">
+        <source></source>
+        <translation>The system check is not finished. Do you want to leave it?</translation>
+    </message>
+    <message id="ID_Engine_BuiltInResponder">
+        <source></source>
+        <translation>This computer (test responder)</translation>
+    </message>
+    <message id="ID_Engine_NoCamera">
+        <source></source>
+        <translation>No camera</translation>
+    </message>
+    <message id="ID_Engine_NoMicrophone">
+        <source></source>
+        <translation>No microphone</translation>
+    </message>
+    <message id="ID_Engine_NoSpeaker">
+        <source></source>
+        <translation>No speaker found</translation>
+    </message>
+    <message id="ID_Engine_NoSpeakerSelected">
+        <source></source>
+        <translation>No speaker selected</translation>
+    </message>
+    <message id="ID_HeadsetPage_2">
+        <source></source>
+        <translation>2. Turn the volume up, and check that the sound is not muted.</translation>
+    </message>
+    <message id="ID_HeadsetPage_3">
+        <source></source>
+        <translation>3. Push the plug all the way in, or reconnect Bluetooth.</translation>
+    </message>
+    <message id="ID_HeadsetPage_4">
+        <source></source>
+        <translation>4. Choose the same output in the system's sound settings.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Bubble">
+        <source></source>
+        <translation>Bubbles</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanHear">
+        <source></source>
+        <translation>Yes, I can hear</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanNotHear">
+        <source></source>
+        <translation>No, I can't hear</translation>
+    </message>
+    <message id="ID_HeadsetPage_ChoseWrong">
+        <source></source>
+        <translation>The right sound was not chosen</translation>
+    </message>
+    <message id="ID_HeadsetPage_ClickHere">
+        <source></source>
+        <translation>Can't hear the sound? Click here</translation>
+    </message>
+    <message id="ID_HeadsetPage_Doorbell">
+        <source></source>
+        <translation>Doorbell</translation>
+    </message>
+    <message id="ID_HeadsetPage_Piano">
+        <source></source>
+        <translation>Piano</translation>
+    </message>
+    <message id="ID_HeadsetPage_Play">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="ID_HeadsetPage_PlayAgain">
+        <source></source>
+        <translation>Replay</translation>
+    </message>
+    <message id="ID_HeadsetPage_Playing">
+        <source></source>
+        <translation>Playing</translation>
+    </message>
+    <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
+        <source></source>
+        <translation>Which sound do you hear?</translation>
+    </message>
+    <message id="ID_HeadsetPage_Saxophone">
+        <source></source>
+        <translation>Saxophone</translation>
+    </message>
+    <message id="ID_HeadsetPage_Seagull">
+        <source></source>
+        <translation>Seagull</translation>
+    </message>
+    <message id="ID_HeadsetPage_Shutter">
+        <source></source>
+        <translation>Shutter</translation>
+    </message>
+    <message id="ID_HeadsetPage_Speaker">
+        <source></source>
+        <translation>Speaker:</translation>
+    </message>
+    <message id="ID_HeadsetPage_Thunder">
+        <source></source>
+        <translation>Thunder</translation>
+    </message>
+    <message id="ID_HeadsetPage_Tip">
+        <source></source>
+        <translation>Press the play button, listen, and choose the sound that you hear.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Typing">
+        <source></source>
+        <translation>Typing</translation>
+    </message>
+    <message id="ID_HeadsetPage_choseNo">
+        <source></source>
+        <translation>You can't hear the sound</translation>
+    </message>
+    <message id="ID_HeadsetPage_play">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound0">
+        <source></source>
+        <translation>Sound 1</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound1">
+        <source></source>
+        <translation>Sound 2</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound2">
+        <source></source>
+        <translation>Sound 3</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound3">
+        <source></source>
+        <translation>Sound 4</translation>
+    </message>
+    <message id="ID_Kestrel_SystemTesting">
+        <source></source>
+        <translation>System check</translation>
+    </message>
+    <message id="ID_MessageBox_Critical">
+        <source></source>
+        <translation>Error</translation>
+    </message>
+    <message id="ID_MessageBox_Information">
+        <source></source>
+        <translation>Information</translation>
+    </message>
+    <message id="ID_MessageBox_Question">
+        <source></source>
+        <translation>Question</translation>
+    </message>
+    <message id="ID_MessageBox_Warning">
+        <source></source>
+        <translation>Warning</translation>
+    </message>
+    <message id="ID_Microphone">
+        <source></source>
+        <translation>Mic:</translation>
+    </message>
+    <message id="ID_MicrophonePage_2">
+        <source></source>
+        <translation>2. Unmute the microphone: look for a switch or a mute key.</translation>
+    </message>
+    <message id="ID_MicrophonePage_3">
+        <source></source>
+        <translation>3. Turn the volume up, and speak close to the microphone.</translation>
+    </message>
+    <message id="ID_MicrophonePage_4">
+        <source></source>
+        <translation>4. Allow microphone access in the system's privacy settings.</translation>
+    </message>
+    <message id="ID_MicrophonePage_Again">
+        <source></source>
+        <translation>Again</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanHearOrSee">
+        <source></source>
+        <translation>Yes, I hear and see it</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanNotHearOrSee">
+        <source></source>
+        <translation>No, I don't</translation>
+    </message>
+    <message id="ID_MicrophonePage_ChoseNo">
+        <source></source>
+        <translation>You can't hear your voice or see it</translation>
+    </message>
+    <message id="ID_MicrophonePage_ClickHere">
+        <source></source>
+        <translation>Can't hear yourself or see the bar? Click here</translation>
+    </message>
+    <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
+        <source></source>
+        <translation>The microphone is off. Choose one here, or enable it.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MayNoisy">
+        <source></source>
+        <translation>Above 100 your voice may become noisy.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneDisabled">
+        <source></source>
+        <translation>The microphone is off or disabled</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneTest">
+        <source></source>
+        <translation>Press "Record" and count aloud from 1 to 10. Listen to your voice, and watch whether the green bar moves.</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
+        <source></source>
+        <translation>No microphone was found</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoVoiceWasRecorded">
+        <source></source>
+        <translation>The microphone picks up no sound</translation>
+    </message>
+    <message id="ID_MicrophonePage_OfS">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="ID_MicrophonePage_Recording">
+        <source></source>
+        <translation>Speak…</translation>
+    </message>
+    <message id="ID_Microphone_Check">
+        <source></source>
+        <translation>Mic</translation>
+    </message>
+    <message id="ID_NetworkPage_1">
+        <source></source>
+        <translation>1. Move closer to the Wi-Fi router, or use a network cable.</translation>
+    </message>
+    <message id="ID_NetworkPage_2">
+        <source></source>
+        <translation>2. Stop downloads and videos, on other devices as well.</translation>
+    </message>
+    <message id="ID_NetworkPage_3">
+        <source></source>
+        <translation>3. Turn off VPN and proxy, or restart the router.</translation>
+    </message>
+    <message id="ID_NetworkPage_Account">
+        <source></source>
+        <translation>Account:</translation>
+    </message>
+    <message id="ID_NetworkPage_AvailableCacheSpace">
+        <source></source>
+        <translation>Free cache space:</translation>
+    </message>
+    <message id="ID_NetworkPage_CPU">
+        <source></source>
+        <translation>CPU:</translation>
+    </message>
+    <message id="ID_NetworkPage_ClickHere">
+        <source></source>
+        <translation>Network slow or unstable? Click here</translation>
+    </message>
+    <message id="ID_NetworkPage_Client">
+        <source></source>
+        <translation>Client:</translation>
+    </message>
+    <message id="ID_NetworkPage_LostRate">
+        <source></source>
+        <translation>Packet loss:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkDelay">
+        <source></source>
+        <translation>Network delay:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkSlowOrUnstable">
+        <source></source>
+        <translation>The network is slow or unstable</translation>
+    </message>
+    <message id="ID_NetworkPage_OS">
+        <source></source>
+        <translation>OS:</translation>
+    </message>
+    <message id="ID_NewLogin_Server">
+        <source></source>
+        <translation>Server:</translation>
+    </message>
+    <message id="ID_Next">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="ID_Nickname_NetworkPage">
+        <source></source>
+        <translation>Nickname:</translation>
+    </message>
+    <message id="ID_OK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="ID_Record">
+        <source></source>
+        <translation>Record</translation>
+    </message>
+    <message id="ID_Skip">
+        <source></source>
+        <translation>Skip</translation>
+    </message>
+    <message id="ID_Volume">
+        <source></source>
+        <translation>Volume:</translation>
+    </message>
+    <message id="ID_WelcomePage_StartTest">
+        <source></source>
+        <translation>Start the check</translation>
+    </message>
+    <message id="ID_WelcomePage_Welcome">
+        <source></source>
+        <translation>Welcome to the online classroom</translation>
+    </message>
+    <message id="ID_hardwaremgrinterface_NoSpeakerFound">
+        <source></source>
+        <translation>No speaker was found</translation>
+    </message>
+    <message id="ID_lumcamera_NoWebcamFound">
+        <source></source>
+        <translation>No camera was found</translation>
+    </message>
+</context>
+</TS>
