@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "agent/EnvCheckAgent.h"
+
+#include "wizard/ContentPage.h"
+
+#include <LumWidgets/LumCustomNormalDialog.h>
+
+EnvCheckAgent* EnvCheckAgent::m_instance = nullptr;
+
+EnvCheckAgent* EnvCheckAgent::instance()
+{
+    if (!m_instance) {
+        m_instance = new EnvCheckAgent;
+    }
+    return m_instance;
+}
+
+void EnvCheckAgent::release()
+{
+    delete m_instance;
+    m_instance = nullptr;
+}
+
+EnvCheckAgent::EnvCheckAgent(QObject* parent) : QObject(parent)
+{
+}
+
+EnvCheckAgent::~EnvCheckAgent() = default;
+
+void EnvCheckAgent::showEnvCheck(QWidget* parent)
+{
+    // Nothing here may use the agent after exec(): the host may release it while the dialog runs.
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Type(0), parent, Qt::WindowFlags(), nullptr,
+                                 false);
+    auto* page = new ContentPage(nullptr);
+    dialog.setCenterWidget(page, false);
+    dialog.setTitleText(qtTrId("ID_Kestrel_SystemTesting"));
+    dialog.exec();
+}
+
+void EnvCheckAgent::showKestrel()
+{
+    Q_EMIT signalShowMainWindow();
+}

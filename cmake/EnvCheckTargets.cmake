@@ -1,0 +1,31 @@
+# SPDX-FileCopyrightText: 2026 The EnvCheck authors
+# SPDX-License-Identifier: MIT
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Programs, tests and the sounds below them stand in one folder, as they do after the installation.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+# What every target of the project is compiled with.
+add_library(EnvCheckOptions INTERFACE)
+target_compile_definitions(EnvCheckOptions INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_MESSAGELOGCONTEXT QT_DEPRECATED_WARNINGS)
+target_compile_options(EnvCheckOptions INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${ENVCHECK_WARNINGS_AS_ERRORS}>:-Werror>)
+if(ENVCHECK_SANITIZERS)
+    target_compile_options(EnvCheckOptions INTERFACE
+        -fsanitize=${ENVCHECK_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(EnvCheckOptions INTERFACE -fsanitize=${ENVCHECK_SANITIZERS})
+endif()

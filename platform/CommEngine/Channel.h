@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Whose device is meant.
+enum class Channel : int {
+    Local = 0,
+};

@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include <CommEngine/LumCameraBase.h>
+
+LumCameraBase::LumCameraBase(QObject* parent) : QObject(parent)
+{
+}
+
+LumCameraBase::~LumCameraBase() = default;

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CommEngine/CommEngineExport.h>
+#include <QImage>
+#include <QObject>
+#include <QString>
+
+// A source of pictures that a PlayerContainer shows. GUI thread only.
+class COMMENGINE_EXPORT LumCameraBase : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(LumCameraBase)
+
+public:
+    explicit LumCameraBase(QObject* parent = nullptr);
+    ~LumCameraBase() override;
+
+    virtual QImage latestPicture() const = 0; // null before the first
+
+    // The preview's device pixel ratio, so that pictures come sharp. At least 1.
+    virtual void setPreviewPixelRatio(qreal ratio) = 0;
+
+Q_SIGNALS:
+    void currentDeivceChanged(const QString& id);
+    void pictureArrived();
+};

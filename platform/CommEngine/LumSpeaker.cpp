@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include <CommEngine/LumSpeaker.h>
+
+#include <CommEngine/NoneDevice.h>
+
+#include "platform/backend/Engine.h"
+#include "platform/backend/EngineRegistry.h"
+
+class LumSpeaker::Bridge final : public Platform::SpeakerBackend::Listener
+{
+public:
+    explicit Bridge(LumSpeaker& speaker)
+        : m_speaker(speaker), m_backend(Platform::EngineRegistry::engine().createSpeaker(*this))
+    {
+    }
+
+    Platform::SpeakerBackend& backend() const { return *m_backend; }
+
+    void speakerListChanged() override { Q_EMIT m_speaker.deviceListChanged(); }
+    void currentSpeakerChanged(const QString& id) override
+    {
+        Q_EMIT m_speaker.currentDeviceChanged(NoneDevice::toFacade(id), m_speaker.isWorking());
+    }
+    void speakerVolumeChanged(int percent) override { Q_EMIT m_speaker.volumeChanged(percent); }
+    void speakerWorkStateChanged(bool works) override { Q_EMIT m_speaker.workStateChanged(works); }
+
+private:
+    LumSpeaker& m_speaker;
+    std::unique_ptr<Platform::SpeakerBackend> m_backend;
+};
+
+LumSpeaker::LumSpeaker(QObject* parent) : QObject(parent), m_bridge(std::make_unique<Bridge>(*this))
+{
+}
+
+LumSpeaker::~LumSpeaker() = default;
+
+std::vector<std::pair<QString, QString>> LumSpeaker::getDeviceList(bool /*withVirtual*/)
+{
+    std::vector<std::pair<QString, QString>> result;
+    for (const Platform::DeviceInfo& device : Platform::EngineRegistry::engine().speakers()) {
+        result.emplace_back(device.id, device.name);
+    }
+    return result;
+}
+
+QString LumSpeaker::getNoneDeviceText(bool listIsEmpty)
+{
+    return listIsEmpty ? qtTrId("ID_Engine_NoSpeaker") : qtTrId("ID_Engine_NoSpeakerSelected");
+}
+
+QString LumSpeaker::getCurrentDevice() const
+{
+    return NoneDevice::toFacade(m_bridge->backend().currentId());
+}
+
+void LumSpeaker::setCurrentDevice(const QString& id)
+{
+    m_bridge->backend().setCurrent(NoneDevice::toBackend(id));
+}
+
+QString LumSpeaker::getDeviceName() const
+{
+    return m_bridge->backend().currentName();
+}
+
+int LumSpeaker::getVolume() const
+{
+    return m_bridge->backend().volume();
+}
+
+void LumSpeaker::setVolume(int percent)
+{
+    m_bridge->backend().setVolume(percent);
+}
+
+bool LumSpeaker::isWorking() const
+{
+    return Platform::isUsable(m_bridge->backend().state());
+}

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include <LumWidgets/LumCustomNormalDialog.h>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+constexpr int TitleBarHeight = 40;
+constexpr int CloseButtonSize = 24;
+constexpr int TitleMargin = 16;
+
+const char* const TitleBarStyle = "QWidget#titleBar{background:#FFFFFF;}"
+                                  "QLabel#titleLabel{color:#232323;font-size:14px;}";
+const char* const CloseButtonStyle =
+    "QToolButton{border:none;border-radius:4px;background:transparent;color:#595959;"
+    "font-size:16px;}"
+    "QToolButton:hover{background:#F0F0F0;}"
+    "QToolButton:focus{background:#F0F0F0;}";
+
+} // namespace
+
+ICustomedTitleBar::~ICustomedTitleBar() = default;
+
+LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt::WindowFlags flags,
+                                             ICustomedTitleBar* titleBar, bool /*isResizable*/)
+    : QDialog(nullptr, flags | Qt::Dialog | Qt::FramelessWindowHint),
+      m_owner(parent),
+      m_customTitleBar(titleBar)
+{
+    setObjectName(QStringLiteral("LumCustomNormalDialog"));
+    setStyleSheet(QStringLiteral("QDialog#LumCustomNormalDialog{background:#FFFFFF;"
+                                 "border:1px solid #D5D5D5;}"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
+    layout->addWidget(m_titleBar);
+    if (m_owner) {
+        connect(m_owner, &QObject::destroyed, this, [this] { done(Rejected); });
+    }
+}
+
+LumCustomNormalDialog::~LumCustomNormalDialog() = default;
+
+void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool /*isScrollable*/)
+{
+    delete m_center;
+    m_center = widget;
+    if (!widget) {
+        return;
+    }
+    layout()->addWidget(widget);
+    widget->installEventFilter(this);
+    connect(widget, &QObject::destroyed, this, [this] { done(Accepted); });
+}
+
+void LumCustomNormalDialog::setTitleText(const QString& text)
+{
+    setWindowTitle(text);
+    if (m_customTitleBar) {
+        m_customTitleBar->setTitleText(text);
+    } else {
+        m_titleLabel->setText(text);
+    }
+}
+
+bool LumCustomNormalDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // The centre widget is also hidden, but not explicitly, when the dialog is.
+    if (watched == m_center && event->type() == QEvent::Hide && m_center->isHidden()) {
+        done(Accepted);
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+int LumCustomNormalDialog::exec()
+{
+    setWindowModality(Qt::ApplicationModal);
+    return QDialog::exec();
+}
+
+void LumCustomNormalDialog::reject()
+{
+    if (askCenterToClose()) {
+        done(Rejected);
+    }
+}
+
+void LumCustomNormalDialog::closeEvent(QCloseEvent* event)
+{
+    if (!askCenterToClose()) {
+        event->ignore();
+        return;
+    }
+    QDialog::closeEvent(event);
+}
+
+void LumCustomNormalDialog::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && m_titleBar->geometry().contains(event->pos()) &&
+        windowHandle()) {
+        windowHandle()->startSystemMove();
+    }
+    QDialog::mousePressEvent(event);
+}
+
+void LumCustomNormalDialog::showEvent(QShowEvent* event)
+{
+    if (m_owner && m_owner->window()->windowHandle() && windowHandle()) {
+        windowHandle()->setTransientParent(m_owner->window()->windowHandle());
+    }
+    moveAboveOwner();
+    QDialog::showEvent(event);
+}
+
+QWidget* LumCustomNormalDialog::createTitleBar()
+{
+    auto* bar = new QWidget(this);
+    bar->setObjectName(QStringLiteral("titleBar"));
+    bar->setAttribute(Qt::WA_StyledBackground);
+    bar->setFixedHeight(TitleBarHeight);
+    bar->setStyleSheet(QLatin1String(TitleBarStyle));
+    m_titleLabel = new QLabel(bar);
+    m_titleLabel->setObjectName(QStringLiteral("titleLabel"));
+    m_titleLabel->setTextFormat(Qt::PlainText);
+    m_closeButton = new QToolButton(bar);
+    m_closeButton->setObjectName(QStringLiteral("closeButton"));
+    m_closeButton->setText(QString(QChar(0x2715)));
+    m_closeButton->setAccessibleName(tr("Close"));
+    m_closeButton->setFixedSize(CloseButtonSize, CloseButtonSize);
+    m_closeButton->setStyleSheet(QLatin1String(CloseButtonStyle));
+    connect(m_closeButton, &QToolButton::clicked, this, &QWidget::close);
+
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(TitleMargin, 0, TitleMargin / 2, 0);
+    layout->addWidget(m_titleLabel);
+    layout->addStretch();
+    layout->addWidget(m_closeButton);
+    return bar;
+}
+
+void LumCustomNormalDialog::moveAboveOwner()
+{
+    adjustSize();
+    QRect place = geometry();
+    const QScreen* screen = m_owner ? m_owner->screen() : QGuiApplication::primaryScreen();
+    place.moveCenter(m_owner ? m_owner->window()->frameGeometry().center()
+                             : screen->availableGeometry().center());
+    move(place.topLeft());
+}
+
+bool LumCustomNormalDialog::askCenterToClose()
+{
+    // What close() returns isn't enough: a centre widget that is already asking its user says true
+    // and stays.
+    if (m_center && !m_center->isHidden()) {
+        m_center->close();
+    }
+    return !m_center || m_center->isHidden();
+}

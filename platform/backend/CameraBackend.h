@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+#include <QImage>
+#include <QSize>
+
+namespace Platform {
+
+// One user of the cameras: the list, the choice and the pictures. Called on the GUI thread, never
+// blocks; the listener is called on the GUI thread from the event loop, never from inside a call,
+// and never after the back end's destructor.
+class CameraBackend
+{
+public:
+    class Listener
+    {
+    public:
+        virtual void cameraListChanged() = 0;
+        virtual void currentCameraChanged(const QString& id) = 0;
+        virtual void cameraWorkStateChanged(const QString& id, bool works) = 0;
+        virtual void pictureArrived() = 0; // at most one is under way at a time
+
+    protected:
+        ~Listener() = default;
+    };
+
+    virtual ~CameraBackend() = default;
+
+    virtual DeviceList devices() const = 0;
+    // The chosen camera, also while it is unplugged; an empty id where none was chosen or the entry
+    // for no camera is.
+    virtual QString currentId() const = 0;
+    virtual QString currentName() const = 0;
+    virtual void setCurrent(const QString& id) = 0; // an empty id turns the camera off
+    virtual DeviceState state() const = 0;
+    // A picture arrived within the last five frame periods or 500 ms, whichever is longer.
+    virtual bool delivers() const = 0;
+
+    virtual void start() = 0;
+    virtual void stop() = 0;                             // its pictures end with this call
+    virtual void setOutputSize(const QSize& pixels) = 0; // an upper bound; the aspect is kept
+    virtual QImage latestPicture() const = 0;            // mirrored; null before the first
+};
+
+} // namespace Platform

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/DeviceInfo.h"
+
+#include <QSet>
+
+namespace Platform {
+
+namespace {
+
+constexpr int MaxNameLength = 200;
+
+QString printableName(const QString& name)
+{
+    QString result;
+    for (const QChar c : name.left(MaxNameLength + 1)) {
+        result += c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+                          c == QChar::ParagraphSeparator
+                      ? QChar(' ')
+                      : c;
+    }
+    if (result.size() > MaxNameLength) {
+        result.truncate(MaxNameLength - 1);
+        if (result.at(result.size() - 1).isHighSurrogate()) {
+            result.chop(1);
+        }
+        result += QChar(0x2026);
+    }
+    return result.trimmed();
+}
+
+} // namespace
+
+bool isUsable(DeviceState state)
+{
+    switch (state) {
+    case DeviceState::Absent:
+    case DeviceState::Off:
+    case DeviceState::Denied:
+    case DeviceState::Failed:
+        return false;
+    case DeviceState::Busy:
+    case DeviceState::Hung:
+    case DeviceState::Silent:
+    case DeviceState::Ready:
+    case DeviceState::Working:
+        return true;
+    }
+    return false;
+}
+
+QString toString(DeviceState state)
+{
+    switch (state) {
+    case DeviceState::Absent:
+        return QStringLiteral("absent");
+    case DeviceState::Off:
+        return QStringLiteral("off");
+    case DeviceState::Denied:
+        return QStringLiteral("denied");
+    case DeviceState::Failed:
+        return QStringLiteral("failed");
+    case DeviceState::Busy:
+        return QStringLiteral("busy");
+    case DeviceState::Hung:
+        return QStringLiteral("hung");
+    case DeviceState::Silent:
+        return QStringLiteral("silent");
+    case DeviceState::Ready:
+        return QStringLiteral("ready");
+    case DeviceState::Working:
+        return QStringLiteral("working");
+    }
+    return {};
+}
+
+DeviceList withDistinctNames(DeviceList devices)
+{
+    QSet<QString> taken;
+    for (DeviceInfo& device : devices) {
+        const QString plain = printableName(device.name);
+        QString name = plain;
+        for (int number = 2; taken.contains(name); ++number) {
+            name = QStringLiteral("%1 (%2)").arg(plain, QString::number(number));
+        }
+        taken.insert(name);
+        device.name = name;
+    }
+    return devices;
+}
+
+} // namespace Platform

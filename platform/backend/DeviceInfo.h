@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <QString>
+#include <vector>
+
+namespace Platform {
+
+// A device as a back end reports it. Both texts are foreign: any Unicode, any length.
+struct DeviceInfo
+{
+    QString id;   // unique in its list, stable over replugging where the system allows it
+    QString name; // for display, equal names already numbered
+
+    friend bool operator==(const DeviceInfo& a, const DeviceInfo& b)
+    {
+        return a.id == b.id && a.name == b.name;
+    }
+};
+
+using DeviceList = std::vector<DeviceInfo>;
+
+// Why a chosen device works or doesn't.
+enum class DeviceState {
+    Absent,  // none is chosen, or the chosen one isn't plugged in
+    Off,     // the entry for no device is chosen
+    Denied,  // the system refuses to open it
+    Failed,  // it was opened and broke
+    Busy,    // another program holds it
+    Hung,    // it didn't answer before the deadline
+    Silent,  // open, and nothing (or nothing above its noise) comes from it
+    Ready,   // usable, not opened yet
+    Working, // it delivers
+};
+
+// Chosen, present, and may be opened: all but Absent, Off, Denied and Failed.
+CLASSROOMBACKEND_EXPORT bool isUsable(DeviceState state);
+
+// The state as one lower-case English word, for logs and reports.
+CLASSROOMBACKEND_EXPORT QString toString(DeviceState state);
+
+// Makes equal names distinct: the second "Camera" becomes "Camera (2)". Control characters become
+// blanks, and a name longer than 200 characters is cut with an ellipsis.
+CLASSROOMBACKEND_EXPORT DeviceList withDistinctNames(DeviceList devices);
+
+} // namespace Platform

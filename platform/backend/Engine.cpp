@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/Engine.h"
+
+namespace Platform {
+
+Engine::~Engine() = default;
+
+} // namespace Platform

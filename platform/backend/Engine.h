@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+#include "platform/backend/CameraBackend.h"
+#include "platform/backend/MicrophoneBackend.h"
+#include "platform/backend/NetworkProbe.h"
+#include "platform/backend/PlayerBackend.h"
+#include "platform/backend/ReportSink.h"
+#include "platform/backend/SpeakerBackend.h"
+#include "platform/backend/SystemFacts.h"
+
+#include <memory>
+
+namespace Platform {
+
+// A back end as a whole: what the façades ask for everything. One is installed in the
+// EngineRegistry. GUI thread only. What it creates must be destroyed before it.
+class CLASSROOMBACKEND_EXPORT Engine
+{
+public:
+    virtual ~Engine();
+
+    virtual std::unique_ptr<CameraBackend> createCamera(CameraBackend::Listener& listener) = 0;
+    virtual std::unique_ptr<MicrophoneBackend>
+    createMicrophone(MicrophoneBackend::Listener& listener) = 0;
+    virtual std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) = 0;
+    // Null where no player can be made. volume is a factor, 0 to 1, on top of the device's volume.
+    virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
+                                                        PlayerBackend::Listener& listener) = 0;
+    virtual std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) = 0;
+
+    virtual DeviceList speakers() const = 0;
+    virtual SystemFacts& systemFacts() = 0;
+    virtual ReportSink& reportSink() = 0;
+    // The folder that keeps the settings stores; it need not exist yet.
+    virtual QString settingsFolder() const = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/Mailbox.h"
+
+#include <QMetaObject>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QObject>
+
+namespace Platform {
+
+struct Mailbox::Sender::Shared
+{
+    QMutex mutex;
+    std::unique_ptr<QObject> receiver; // null once closed; its posted events die with it
+};
+
+void Mailbox::Sender::post(Letter letter) const
+{
+    const QMutexLocker lock(&m_shared->mutex);
+    if (m_shared->receiver) {
+        QMetaObject::invokeMethod(m_shared->receiver.get(), std::move(letter),
+                                  Qt::QueuedConnection);
+    }
+}
+
+Mailbox::Mailbox()
+{
+    m_sender.m_shared = std::make_shared<Sender::Shared>();
+    m_sender.m_shared->receiver = std::make_unique<QObject>();
+}
+
+Mailbox::~Mailbox()
+{
+    close();
+}
+
+void Mailbox::close()
+{
+    std::unique_ptr<QObject> receiver;
+    {
+        const QMutexLocker lock(&m_sender.m_shared->mutex);
+        receiver = std::move(m_sender.m_shared->receiver);
+    }
+}
+
+} // namespace Platform

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <functional>
+#include <memory>
+
+class QObject;
+
+namespace Platform {
+
+// The one way from a media thread to the GUI thread. The owner lives on the GUI thread and keeps
+// the mailbox; media threads keep copies of its sender. What is posted runs on the GUI thread from
+// the event loop, in order; after close() or the destructor nothing runs any more, also what was
+// posted before. Posting is thread-safe and never waits for the GUI thread.
+class CLASSROOMBACKEND_EXPORT Mailbox
+{
+public:
+    using Letter = std::function<void()>;
+
+    class CLASSROOMBACKEND_EXPORT Sender
+    {
+    public:
+        void post(Letter letter) const;
+
+    private:
+        friend class Mailbox;
+        struct Shared;
+        std::shared_ptr<Shared> m_shared;
+    };
+
+    Mailbox();
+    ~Mailbox();
+    Mailbox(const Mailbox&) = delete;
+    Mailbox& operator=(const Mailbox&) = delete;
+
+    Sender sender() const { return m_sender; }
+    void close(); // idempotent
+
+private:
+    Sender m_sender;
+};
+
+} // namespace Platform

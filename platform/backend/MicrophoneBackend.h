@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+namespace Platform {
+
+// One user of the microphones: the list, the choice, the level, the volume, listening to oneself.
+// Threads as for CameraBackend.
+class MicrophoneBackend
+{
+public:
+    class Listener
+    {
+    public:
+        virtual void microphoneListChanged() = 0;
+        virtual void currentMicrophoneChanged(const QString& id) = 0;
+        virtual void levelMeasured(double level) = 0; // 0 to 1, at least 30 a second while open
+        virtual void microphoneVolumeChanged(int percent) = 0; // as set by this user
+        virtual void microphoneInfoChanged() = 0;              // name, mute or adjustability
+        virtual void microphoneWorkStateChanged(const QString& id, bool works) = 0;
+        virtual void systemVolumeChanged(float percent) = 0; // moved by somebody else
+
+    protected:
+        ~Listener() = default;
+    };
+
+    virtual ~MicrophoneBackend() = default;
+
+    virtual DeviceList devices() const = 0;
+    virtual QString currentId() const = 0; // as for cameras
+    virtual QString currentName() const = 0;
+    virtual void setCurrent(const QString& id) = 0; // an empty id chooses none
+    virtual DeviceState state() const = 0;
+    virtual bool hasHeardSound() const = 0; // from the current device while it was open
+
+    virtual void open() = 0;
+    virtual void close() = 0; // leaves no stream behind
+    virtual void setListening(bool on) = 0;
+
+    virtual bool isVolumeAdjustable() const = 0;
+    virtual int volume() const = 0; // percent, 0 to 150
+    virtual void setVolume(int percent) = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace Platform {
+
+// What a probe measured over its window.
+struct NetworkFigures
+{
+    int lossPercent = 0; // of the probes whose deadline has passed
+    int delayMs = -1;    // median round trip; -1 while none came back
+    int jitterMs = 0;    // interarrival jitter, RFC 3550 section 6.4.1
+    int sent = 0;
+    int answered = 0;
+};
+
+// A running measurement of the way to the server, from its creation to its destruction. Threads as
+// for CameraBackend.
+class NetworkProbe
+{
+public:
+    class Listener
+    {
+    public:
+        virtual void networkFiguresChanged() = 0; // first within a second, then once a second
+
+    protected:
+        ~Listener() = default;
+    };
+
+    virtual ~NetworkProbe() = default;
+    virtual NetworkFigures figures() const = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace Platform {
+
+// One sound being played on the current speaker; it starts with its creation and stops with its
+// destruction.
+class PlayerBackend
+{
+public:
+    class Listener
+    {
+    public:
+        // Exactly once, on the GUI thread from the event loop, also when nothing could be played.
+        virtual void playbackFinished() = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+
+    virtual ~PlayerBackend() = default;
+};
+
+} // namespace Platform

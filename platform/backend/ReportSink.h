@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+namespace Platform {
+
+// Where the outcome of a run goes. GUI thread; nothing here waits for a disk or a server.
+class ReportSink
+{
+public:
+    virtual ~ReportSink() = default;
+
+    // A value of the run, such as "camera.userState" = 1. The last one written wins.
+    virtual void recordResult(const QString& key, const QJsonValue& value) = 0;
+    // What a back end measured of a check ("camera", "speaker", "microphone", "network").
+    virtual void recordMeasurement(const QString& check, const QJsonObject& figures) = 0;
+    // A report code, posted by the device manager of the given name.
+    virtual void postCode(const QString& managerName, int code) = 0;
+};
+
+} // namespace Platform

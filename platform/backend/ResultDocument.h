@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <QJsonObject>
+#include <QString>
+
+namespace Platform {
+
+// The values of one run as one JSON document:
+//   { "version": 1, "results": { "camera": { "userState": 1, … }, … },
+//     "measurements": { "camera": { … }, … }, "codes": [ 3 ] }
+// GUI thread only. Where a path is set, every change replaces the file whole (FileWriter).
+class CLASSROOMBACKEND_EXPORT ResultDocument
+{
+public:
+    explicit ResultDocument(const QString& path = {});
+
+    void setPath(const QString& path); // an empty path keeps the document in memory
+    QString path() const { return m_path; }
+    QJsonObject toJson() const { return m_document; }
+    void clear(); // for the next run; the file stays until something is recorded
+
+    // key is "check.value", such as "camera.userState".
+    void recordResult(const QString& key, const QJsonValue& value);
+    void recordMeasurement(const QString& check, const QJsonObject& figures);
+    void recordCode(int code);
+
+private:
+    void set(const QString& section, const QString& check, const QString& name,
+             const QJsonValue& value);
+    void write() const;
+
+    QString m_path;
+    QJsonObject m_document;
+};
+
+} // namespace Platform

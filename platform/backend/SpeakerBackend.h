@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+namespace Platform {
+
+// One user of the playback devices. Threads as for CameraBackend. The list itself is the engine's
+// (Engine::speakers), as it is asked for without a speaker at hand.
+class SpeakerBackend
+{
+public:
+    class Listener
+    {
+    public:
+        virtual void speakerListChanged() = 0;
+        virtual void currentSpeakerChanged(const QString& id) = 0;
+        virtual void speakerVolumeChanged(int percent) = 0; // from outside, not from setVolume
+        virtual void speakerWorkStateChanged(bool works) = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+
+    virtual ~SpeakerBackend() = default;
+
+    virtual QString currentId() const = 0; // empty where there is none
+    virtual QString currentName() const = 0;
+    virtual void setCurrent(const QString& id) = 0;
+    virtual DeviceState state() const = 0;
+    virtual int volume() const = 0; // percent, 0 to 100
+    virtual void setVolume(int percent) = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "wizard/ContentPage.h"
+
+#include "ui_ContentPage.h"
+
+#include <CommEngine/HardwareMgr.h>
+#include <CoreEngine/CoreEngine.h>
+#include <LumUtility/LumSettings.h>
+#include <LumUtility/LumUtils.h>
+#include <LumWidgets/LumMessageBox.h>
+
+#include <QCloseEvent>
+#include <QDebug>
+#include <QDialog>
+#include <QPointer>
+
+namespace {
+
+constexpr int FontPixelSize = 12;
+constexpr int ReportAllAnswered = 3;
+constexpr int ReportLeftEarly = 7;
+
+const QColor StepTextColor(35, 35, 35, 204);
+
+const QLatin1String
+    CurrentStepStyle("QLabel{background:#F0F0F0;border-radius:4px;padding-left:10px;}");
+const QLatin1String
+    OtherStepStyle("QLabel{background:#FFFFFF;border-radius:4px;padding-left:10px;}");
+const QLatin1String
+    InitialCurrentStepStyle("QLabel{background:#F0F0F0; color: rgba(35, 35, 35, 0.8); "
+                            "border-radius:4px;padding-left:10px;}");
+const QLatin1String
+    InitialOtherStepStyle("QLabel{background:#FFFFFF; color: rgba(35, 35, 35, 0.8); "
+                          "border-radius:4px;padding-left:10px;}");
+
+} // namespace
+
+ContentPage::ContentPage(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::ContentPage>())
+{
+    QFont font;
+    font.setPixelSize(FontPixelSize);
+    setFont(font);
+    ui->setupUi(this);
+    setObjectName(QStringLiteral("selfcheckContentPage"));
+    setStyleSheet(QStringLiteral("QWidget#selfcheckContentPage{border-bottom-left-radius: 6px; "
+                                 "border-bottom-right-radius: 6px;}"));
+    setWindowFlags(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_DeleteOnClose, true);
+
+    setupStepLabels();
+    connectSteps();
+    ui->resultPage->setPages(ui->networkPage, ui->cameraPage, ui->headsetPage, ui->microphonePage);
+    connect(ui->resultPage, &CheckPage::complete, this, &ContentPage::onResultDone);
+    ui->stackedWidget->setCurrentWidget(ui->networkPage);
+
+    auto* core = LumEngine::CoreEngine::instance();
+    connect(core, &LumEngine::CoreEngine::signalBasicBreakdown, this, &ContentPage::forceClose);
+    connect(core, &LumEngine::CoreEngine::signalKickout, this, &ContentPage::forceClose);
+}
+
+ContentPage::~ContentPage() = default;
+
+void ContentPage::selectStep(QWidget* stepLabel)
+{
+    for (ClickColorLabel* label :
+         {ui->label_SystemCheck, ui->label_CameraCheck, ui->label_SoundCheck, ui->label_MicCheck}) {
+        label->setStyleSheet(OtherStepStyle);
+        QPalette palette = label->palette();
+        palette.setColor(QPalette::WindowText, StepTextColor);
+        label->setPalette(palette);
+    }
+    if (stepLabel == ui->label_SystemCheck) {
+        ui->label_SystemCheck->setStyleSheet(CurrentStepStyle);
+        ui->stackedWidget->setCurrentWidget(ui->networkPage);
+    } else if (stepLabel == ui->label_CameraCheck) {
+        ui->label_CameraCheck->setStyleSheet(CurrentStepStyle);
+        ui->stackedWidget->setCurrentWidget(ui->cameraPage);
+        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        ui->networkPage->saveResult();
+    } else if (stepLabel == ui->label_SoundCheck) {
+        ui->label_SoundCheck->setStyleSheet(CurrentStepStyle);
+        ui->stackedWidget->setCurrentWidget(ui->headsetPage);
+        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        ui->networkPage->saveResult();
+        ui->label_CameraCheck->setResultColor(ui->cameraPage->isPassed());
+        ui->cameraPage->saveResult();
+    } else if (stepLabel == ui->label_MicCheck) {
+        ui->label_MicCheck->setStyleSheet(CurrentStepStyle);
+        ui->stackedWidget->setCurrentWidget(ui->microphonePage);
+        ui->networkPage->saveResult();
+        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        ui->cameraPage->saveResult();
+        ui->label_CameraCheck->setResultColor(ui->cameraPage->isPassed());
+        ui->headsetPage->saveResult();
+        ui->label_SoundCheck->setResultColor(ui->headsetPage->isPassed());
+    }
+}
+
+void ContentPage::showResult()
+{
+    ui->checkArea->setCurrentWidget(ui->resultPage);
+    ui->microphonePage->saveResult();
+    ui->label_MicCheck->setResultColor(ui->microphonePage->isPassed());
+}
+
+void ContentPage::onResultDone()
+{
+    if (ui->resultPage->isRedetect()) {
+        ui->checkArea->setCurrentWidget(ui->checkPage);
+    } else {
+        close();
+    }
+}
+
+bool ContentPage::canClose()
+{
+    return mayClose(QStringLiteral("isCanCloseFunc"));
+}
+
+void ContentPage::closeEvent(QCloseEvent* event)
+{
+    const QPointer<ContentPage> self(this);
+    const bool may = mayClose(QStringLiteral("ContentPage::closeEvent"));
+    if (!self) {
+        return; // destroyed while the question was open
+    }
+    if (!may) {
+        event->ignore();
+    }
+}
+
+void ContentPage::setupStepLabels()
+{
+    ui->label_SystemCheck->setStyleSheet(InitialCurrentStepStyle);
+    ui->label_CameraCheck->setStyleSheet(InitialOtherStepStyle);
+    ui->label_SoundCheck->setStyleSheet(InitialOtherStepStyle);
+    ui->label_MicCheck->setStyleSheet(InitialOtherStepStyle);
+
+    ui->label_SystemCheck->setText(qtTrId("ID_CheckResultPage_System"));
+    ui->label_CameraCheck->setText(qtTrId("ID_Camera_Check"));
+    ui->label_SoundCheck->setText(qtTrId("ID_CheckResultPage_Headphone"));
+    ui->label_MicCheck->setText(qtTrId("ID_Microphone_Check"));
+}
+
+void ContentPage::connectSteps()
+{
+    for (ClickColorLabel* label :
+         {ui->label_SystemCheck, ui->label_CameraCheck, ui->label_SoundCheck, ui->label_MicCheck}) {
+        connect(label, &ClickColorLabel::clicked, this, [this, label] { selectStep(label); });
+    }
+    connect(ui->networkPage, &CheckPage::complete, ui->label_CameraCheck,
+            &ClickColorLabel::clicked);
+    connect(ui->cameraPage, &CheckPage::complete, ui->label_SoundCheck, &ClickColorLabel::clicked);
+    connect(ui->headsetPage, &CheckPage::complete, ui->label_MicCheck, &ClickColorLabel::clicked);
+    connect(ui->microphonePage, &CheckPage::complete, this, &ContentPage::showResult);
+}
+
+void ContentPage::forceClose()
+{
+    if (m_forceClose) {
+        return;
+    }
+    m_forceClose = true;
+    // Qt ignores close() while a close is under way, as it is while the question is open. Then the
+    // question has to go; the close that asked it goes on as a forced one.
+    const QPointer<ContentPage> self(this);
+    const QList<QDialog*> questions = findChildren<QDialog*>();
+    for (QDialog* question : questions) {
+        question->reject();
+    }
+    close();
+    if (self) {
+        Q_EMIT closeDialog();
+    }
+}
+
+bool ContentPage::mayClose(const QString& managerName)
+{
+    HardwareMgr hardwareMgr(managerName);
+    if (!m_forceClose) {
+        if (ui->networkPage->isTested() && ui->cameraPage->isTested() &&
+            ui->headsetPage->isTested() && ui->microphonePage->isTested()) {
+            LumSettings::instance(QString())->setSetting(QStringLiteral("ShowSystemCheck"),
+                                                         QVariant(false));
+            hardwareMgr.postHardwardInfoToServer(ReportAllAnswered);
+        } else {
+            const QPointer<ContentPage> self(this);
+            const bool isConfirmed = confirmEarlyClose();
+            if (!self) {
+                return true;
+            }
+            if (!m_forceClose) {
+                if (!isConfirmed) {
+                    return false;
+                }
+                hardwareMgr.postHardwardInfoToServer(ReportLeftEarly);
+            }
+        }
+    }
+    if (ui->checkArea->currentWidget() == ui->checkPage) {
+        ui->stackedWidget->currentWidget()->hide();
+    }
+    return true;
+}
+
+bool ContentPage::confirmEarlyClose()
+{
+    const QString title = LumUtils::getMessageBoxTitle(QMessageBox::Question);
+    const QString text = qtTrId("ID_ContentPage_NotFinishedIfLeave");
+    qInfo().noquote() << title << text;
+    const QMessageBox::StandardButton answer = LumMessageBox::question(
+        this, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    qInfo() << answer;
+    return answer == QMessageBox::Yes;
+}
