@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QSaveFile>
 #include <QTextStream>
@@ -100,6 +101,12 @@ int main(int argc, char* argv[])
     if (arguments.size() != 1 || (parser.isSet(check) && parser.isSet(sheet))) {
         complain(QStringLiteral("name the top folder of the source tree and at most one mode; "
                                 "--help lists them"));
+        return BadUsage;
+    }
+    if (!QFileInfo(arguments.first() + QLatin1String("/resources/sources")).isDir()) {
+        complain(QStringLiteral("%1 holds no folder resources/sources; name the top folder of the "
+                                "source tree")
+                     .arg(arguments.first()));
         return BadUsage;
     }
     return parser.isSet(sheet) ? writeContactSheet(arguments.first())
