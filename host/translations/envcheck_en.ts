@@ -281,7 +281,7 @@
     </message>
     <message id="ID_MicrophonePage_CanNotHearOrSee">
         <source></source>
-        <translation>No, I don't</translation>
+        <translation>No, I can't hear or see</translation>
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>

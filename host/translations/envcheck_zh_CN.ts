@@ -33,7 +33,7 @@
     </message>
     <message id="ID_CameraPage_CannotSee">
         <source></source>
-        <translation>不，看不到</translation>
+        <translation>否，看不到</translation>
     </message>
     <message id="ID_CameraPage_ClickHere">
         <source></source>
@@ -45,7 +45,7 @@
     </message>
     <message id="ID_CameraPage_No">
         <source></source>
-        <translation>不，看不到</translation>
+        <translation>否，看不到</translation>
     </message>
     <message id="ID_CameraPage_NoCameraImageWasDetected">
         <source></source>
@@ -149,7 +149,7 @@
     </message>
     <message id="ID_HeadsetPage_CanNotHear">
         <source></source>
-        <translation>不，听不到</translation>
+        <translation>否，听不到</translation>
     </message>
     <message id="ID_HeadsetPage_ChoseWrong">
         <source></source>
@@ -281,7 +281,7 @@
     </message>
     <message id="ID_MicrophonePage_CanNotHearOrSee">
         <source></source>
-        <translation>不，听不到或看不到</translation>
+        <translation>否，听不到或看不到</translation>
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>

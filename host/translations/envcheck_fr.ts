@@ -1,0 +1,423 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="ID_CameraPage_1">
+        <source></source>
+        <translation>1. Vérifiez que l'appareil est branché et choisi dans la liste.</translation>
+    </message>
+    <message id="ID_CameraPage_2">
+        <source></source>
+        <translation>2. Fermez les autres programmes qui utilisent la caméra.</translation>
+    </message>
+    <message id="ID_CameraPage_3">
+        <source></source>
+        <translation>3. Ouvrez le cache de l'objectif ou allumez la caméra.</translation>
+    </message>
+    <message id="ID_CameraPage_4">
+        <source></source>
+        <translation>4. Autorisez la caméra dans les paramètres de confidentialité.</translation>
+    </message>
+    <message id="ID_CameraPage_5">
+        <source></source>
+        <translation>5. Redémarrez l'ordinateur ou essayez un autre appareil.</translation>
+    </message>
+    <message id="ID_CameraPage_Camera">
+        <source></source>
+        <translation>Vidéo :</translation>
+    </message>
+    <message id="ID_CameraPage_CameraDisabled">
+        <source></source>
+        <translation>La caméra est désactivée</translation>
+    </message>
+    <message id="ID_CameraPage_CannotSee">
+        <source></source>
+        <translation>Je ne vois rien</translation>
+    </message>
+    <message id="ID_CameraPage_ClickHere">
+        <source></source>
+        <translation>Vous ne vous voyez pas ? Cliquez ici</translation>
+    </message>
+    <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
+        <source></source>
+        <translation>La caméra est désactivée. Choisissez-en une ou activez-la.</translation>
+    </message>
+    <message id="ID_CameraPage_No">
+        <source></source>
+        <translation>Je ne vois rien</translation>
+    </message>
+    <message id="ID_CameraPage_NoCameraImageWasDetected">
+        <source></source>
+        <translation>La caméra ne donne pas d'image</translation>
+    </message>
+    <message id="ID_CameraPage_NotDetected">
+        <source></source>
+        <translation>Ce test est resté sans réponse</translation>
+    </message>
+    <message id="ID_CameraPage_Yes">
+        <source></source>
+        <translation>Oui, je me vois</translation>
+    </message>
+    <message id="ID_CameraPage_choseNo">
+        <source></source>
+        <translation>Vous ne vous voyez pas</translation>
+    </message>
+    <message id="ID_Camera_Check">
+        <source></source>
+        <translation>Caméra</translation>
+    </message>
+    <message id="ID_CheckResultPage_Abnormal">
+        <source></source>
+        <translation>Échec</translation>
+    </message>
+    <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
+        <source></source>
+        <translation>Vérifiez et testez à nouveau.</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentAbnormal">
+        <source></source>
+        <translation>Un problème persiste</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentNormal">
+        <source></source>
+        <translation>Tout fonctionne</translation>
+    </message>
+    <message id="ID_CheckResultPage_Headphone">
+        <source></source>
+        <translation>Son</translation>
+    </message>
+    <message id="ID_CheckResultPage_Normal">
+        <source></source>
+        <translation>Réussi</translation>
+    </message>
+    <message id="ID_CheckResultPage_OK">
+        <source></source>
+        <translation>Vous êtes prêt pour le cours.</translation>
+    </message>
+    <message id="ID_CheckResultPage_Redetect">
+        <source></source>
+        <translation>Retester</translation>
+    </message>
+    <message id="ID_CheckResultPage_System">
+        <source></source>
+        <translation>Système</translation>
+    </message>
+    <message id="ID_ContentPage_NotFinishedIfLeave">
+        <source></source>
+        <translation>La vérification n'est pas terminée. Voulez-vous quitter ?</translation>
+    </message>
+    <message id="ID_Engine_BuiltInResponder">
+        <source></source>
+        <translation>Cet ordinateur (test intégré)</translation>
+    </message>
+    <message id="ID_Engine_NoCamera">
+        <source></source>
+        <translation>Aucune caméra</translation>
+    </message>
+    <message id="ID_Engine_NoMicrophone">
+        <source></source>
+        <translation>Aucun micro</translation>
+    </message>
+    <message id="ID_Engine_NoSpeaker">
+        <source></source>
+        <translation>Aucun haut-parleur trouvé</translation>
+    </message>
+    <message id="ID_Engine_NoSpeakerSelected">
+        <source></source>
+        <translation>Aucun haut-parleur choisi</translation>
+    </message>
+    <message id="ID_HeadsetPage_2">
+        <source></source>
+        <translation>2. Augmentez le volume et vérifiez que le son n'est pas coupé.</translation>
+    </message>
+    <message id="ID_HeadsetPage_3">
+        <source></source>
+        <translation>3. Enfoncez bien la fiche ou reconnectez le Bluetooth.</translation>
+    </message>
+    <message id="ID_HeadsetPage_4">
+        <source></source>
+        <translation>4. Choisissez la même sortie dans les paramètres de son.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Bubble">
+        <source></source>
+        <translation>Bulles</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanHear">
+        <source></source>
+        <translation>Oui, j'entends</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanNotHear">
+        <source></source>
+        <translation>Je n'entends pas</translation>
+    </message>
+    <message id="ID_HeadsetPage_ChoseWrong">
+        <source></source>
+        <translation>Le bon son n'a pas été choisi</translation>
+    </message>
+    <message id="ID_HeadsetPage_ClickHere">
+        <source></source>
+        <translation>Vous n'entendez pas le son ? Cliquez ici</translation>
+    </message>
+    <message id="ID_HeadsetPage_Doorbell">
+        <source></source>
+        <translation>Sonnette</translation>
+    </message>
+    <message id="ID_HeadsetPage_Piano">
+        <source></source>
+        <translation>Piano</translation>
+    </message>
+    <message id="ID_HeadsetPage_Play">
+        <source></source>
+        <translation>Écouter</translation>
+    </message>
+    <message id="ID_HeadsetPage_PlayAgain">
+        <source></source>
+        <translation>Répéter</translation>
+    </message>
+    <message id="ID_HeadsetPage_Playing">
+        <source></source>
+        <translation>En cours</translation>
+    </message>
+    <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
+        <source></source>
+        <translation>Quel son entendez-vous ?</translation>
+    </message>
+    <message id="ID_HeadsetPage_Saxophone">
+        <source></source>
+        <translation>Saxophone</translation>
+    </message>
+    <message id="ID_HeadsetPage_Seagull">
+        <source></source>
+        <translation>Mouette</translation>
+    </message>
+    <message id="ID_HeadsetPage_Shutter">
+        <source></source>
+        <translation>Clic photo</translation>
+    </message>
+    <message id="ID_HeadsetPage_Speaker">
+        <source></source>
+        <translation>Sortie :</translation>
+    </message>
+    <message id="ID_HeadsetPage_Thunder">
+        <source></source>
+        <translation>Tonnerre</translation>
+    </message>
+    <message id="ID_HeadsetPage_Tip">
+        <source></source>
+        <translation>Appuyez sur le bouton de lecture, écoutez et choisissez le son que vous entendez.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Typing">
+        <source></source>
+        <translation>Clavier</translation>
+    </message>
+    <message id="ID_HeadsetPage_choseNo">
+        <source></source>
+        <translation>Vous n'entendez pas le son</translation>
+    </message>
+    <message id="ID_HeadsetPage_play">
+        <source></source>
+        <translation>Écouter</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound0">
+        <source></source>
+        <translation>Son 1</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound1">
+        <source></source>
+        <translation>Son 2</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound2">
+        <source></source>
+        <translation>Son 3</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound3">
+        <source></source>
+        <translation>Son 4</translation>
+    </message>
+    <message id="ID_Kestrel_SystemTesting">
+        <source></source>
+        <translation>Vérification du système</translation>
+    </message>
+    <message id="ID_MessageBox_Critical">
+        <source></source>
+        <translation>Erreur</translation>
+    </message>
+    <message id="ID_MessageBox_Information">
+        <source></source>
+        <translation>Information</translation>
+    </message>
+    <message id="ID_MessageBox_Question">
+        <source></source>
+        <translation>Question</translation>
+    </message>
+    <message id="ID_MessageBox_Warning">
+        <source></source>
+        <translation>Avertissement</translation>
+    </message>
+    <message id="ID_Microphone">
+        <source></source>
+        <translation>Micro :</translation>
+    </message>
+    <message id="ID_MicrophonePage_2">
+        <source></source>
+        <translation>2. Réactivez le micro : cherchez un bouton ou une touche.</translation>
+    </message>
+    <message id="ID_MicrophonePage_3">
+        <source></source>
+        <translation>3. Augmentez le volume et parlez près du micro.</translation>
+    </message>
+    <message id="ID_MicrophonePage_4">
+        <source></source>
+        <translation>4. Autorisez le micro dans les paramètres de confidentialité.</translation>
+    </message>
+    <message id="ID_MicrophonePage_Again">
+        <source></source>
+        <translation>Répéter</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanHearOrSee">
+        <source></source>
+        <translation>J'entends et je vois</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanNotHearOrSee">
+        <source></source>
+        <translation>Non, pas les deux</translation>
+    </message>
+    <message id="ID_MicrophonePage_ChoseNo">
+        <source></source>
+        <translation>Voix inaudible ou barre immobile</translation>
+    </message>
+    <message id="ID_MicrophonePage_ClickHere">
+        <source></source>
+        <translation>Voix ou barre absente ? Cliquez ici</translation>
+    </message>
+    <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
+        <source></source>
+        <translation>Le micro est désactivé. Choisissez-en un ou activez-le.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MayNoisy">
+        <source></source>
+        <translation>Au-delà de 100, du bruit est possible.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneDisabled">
+        <source></source>
+        <translation>Le micro est désactivé</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneTest">
+        <source></source>
+        <translation>Appuyez sur « Parler » et comptez à voix haute de 1 à 10. Écoutez votre voix et regardez si la barre verte bouge.</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
+        <source></source>
+        <translation>Aucun micro trouvé</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoVoiceWasRecorded">
+        <source></source>
+        <translation>Le micro ne capte aucun son</translation>
+    </message>
+    <message id="ID_MicrophonePage_OfS">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="ID_MicrophonePage_Recording">
+        <source></source>
+        <translation>Parlez…</translation>
+    </message>
+    <message id="ID_Microphone_Check">
+        <source></source>
+        <translation>Micro</translation>
+    </message>
+    <message id="ID_NetworkPage_1">
+        <source></source>
+        <translation>1. Rapprochez-vous de la box Wi-Fi ou utilisez un câble réseau.</translation>
+    </message>
+    <message id="ID_NetworkPage_2">
+        <source></source>
+        <translation>2. Arrêtez téléchargements et vidéos, aussi sur les autres appareils.</translation>
+    </message>
+    <message id="ID_NetworkPage_3">
+        <source></source>
+        <translation>3. Désactivez VPN et proxy, ou redémarrez la box.</translation>
+    </message>
+    <message id="ID_NetworkPage_Account">
+        <source></source>
+        <translation>Compte :</translation>
+    </message>
+    <message id="ID_NetworkPage_AvailableCacheSpace">
+        <source></source>
+        <translation>Cache disponible :</translation>
+    </message>
+    <message id="ID_NetworkPage_CPU">
+        <source></source>
+        <translation>Processeur :</translation>
+    </message>
+    <message id="ID_NetworkPage_ClickHere">
+        <source></source>
+        <translation>Réseau lent ou instable ? Cliquez ici</translation>
+    </message>
+    <message id="ID_NetworkPage_Client">
+        <source></source>
+        <translation>Client :</translation>
+    </message>
+    <message id="ID_NetworkPage_LostRate">
+        <source></source>
+        <translation>Taux de perte :</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkDelay">
+        <source></source>
+        <translation>Délai du réseau :</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkSlowOrUnstable">
+        <source></source>
+        <translation>Le réseau est lent ou instable</translation>
+    </message>
+    <message id="ID_NetworkPage_OS">
+        <source></source>
+        <translation>Système :</translation>
+    </message>
+    <message id="ID_NewLogin_Server">
+        <source></source>
+        <translation>Serveur :</translation>
+    </message>
+    <message id="ID_Next">
+        <source></source>
+        <translation>Suivant</translation>
+    </message>
+    <message id="ID_Nickname_NetworkPage">
+        <source></source>
+        <translation>Pseudo :</translation>
+    </message>
+    <message id="ID_OK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="ID_Record">
+        <source></source>
+        <translation>Parler</translation>
+    </message>
+    <message id="ID_Skip">
+        <source></source>
+        <translation>Passer</translation>
+    </message>
+    <message id="ID_Volume">
+        <source></source>
+        <translation>Niveau :</translation>
+    </message>
+    <message id="ID_WelcomePage_StartTest">
+        <source></source>
+        <translation>Commencer</translation>
+    </message>
+    <message id="ID_WelcomePage_Welcome">
+        <source></source>
+        <translation>Bienvenue dans la classe en ligne</translation>
+    </message>
+    <message id="ID_hardwaremgrinterface_NoSpeakerFound">
+        <source></source>
+        <translation>Aucun haut-parleur trouvé</translation>
+    </message>
+    <message id="ID_lumcamera_NoWebcamFound">
+        <source></source>
+        <translation>Aucune caméra trouvée</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,423 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name></name>
+    <message id="ID_CameraPage_1">
+        <source></source>
+        <translation>1. 機器が接続され、一覧で選ばれているか確認してください。</translation>
+    </message>
+    <message id="ID_CameraPage_2">
+        <source></source>
+        <translation>2. カメラを使っているほかのプログラムを終了してください。</translation>
+    </message>
+    <message id="ID_CameraPage_3">
+        <source></source>
+        <translation>3. レンズカバーを開けるか、キーでカメラをオンにしてください。</translation>
+    </message>
+    <message id="ID_CameraPage_4">
+        <source></source>
+        <translation>4. システムのプライバシー設定でカメラを許可してください。</translation>
+    </message>
+    <message id="ID_CameraPage_5">
+        <source></source>
+        <translation>5. パソコンを再起動するか、別の機器を試してください。</translation>
+    </message>
+    <message id="ID_CameraPage_Camera">
+        <source></source>
+        <translation>カメラ：</translation>
+    </message>
+    <message id="ID_CameraPage_CameraDisabled">
+        <source></source>
+        <translation>カメラがオフか無効です</translation>
+    </message>
+    <message id="ID_CameraPage_CannotSee">
+        <source></source>
+        <translation>見えません</translation>
+    </message>
+    <message id="ID_CameraPage_ClickHere">
+        <source></source>
+        <translation>映像が見えませんか？こちらをクリック</translation>
+    </message>
+    <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
+        <source></source>
+        <translation>カメラがオフです。ここで選ぶか、有効にしてください。</translation>
+    </message>
+    <message id="ID_CameraPage_No">
+        <source></source>
+        <translation>見えません</translation>
+    </message>
+    <message id="ID_CameraPage_NoCameraImageWasDetected">
+        <source></source>
+        <translation>カメラの映像が届きません</translation>
+    </message>
+    <message id="ID_CameraPage_NotDetected">
+        <source></source>
+        <translation>まだ回答されていません</translation>
+    </message>
+    <message id="ID_CameraPage_Yes">
+        <source></source>
+        <translation>はい、見えます</translation>
+    </message>
+    <message id="ID_CameraPage_choseNo">
+        <source></source>
+        <translation>自分の映像が見えません</translation>
+    </message>
+    <message id="ID_Camera_Check">
+        <source></source>
+        <translation>カメラ</translation>
+    </message>
+    <message id="ID_CheckResultPage_Abnormal">
+        <source></source>
+        <translation>異常</translation>
+    </message>
+    <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
+        <source></source>
+        <translation>確認して、もう一度お試しください。</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentAbnormal">
+        <source></source>
+        <translation>問題が見つかりました</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentNormal">
+        <source></source>
+        <translation>すべて正常です</translation>
+    </message>
+    <message id="ID_CheckResultPage_Headphone">
+        <source></source>
+        <translation>音声出力</translation>
+    </message>
+    <message id="ID_CheckResultPage_Normal">
+        <source></source>
+        <translation>正常</translation>
+    </message>
+    <message id="ID_CheckResultPage_OK">
+        <source></source>
+        <translation>授業の準備ができました。</translation>
+    </message>
+    <message id="ID_CheckResultPage_Redetect">
+        <source></source>
+        <translation>再チェック</translation>
+    </message>
+    <message id="ID_CheckResultPage_System">
+        <source></source>
+        <translation>システム</translation>
+    </message>
+    <message id="ID_ContentPage_NotFinishedIfLeave">
+        <source></source>
+        <translation>チェックがまだ終わっていません。終了しますか？</translation>
+    </message>
+    <message id="ID_Engine_BuiltInResponder">
+        <source></source>
+        <translation>このパソコン（テスト用内蔵）</translation>
+    </message>
+    <message id="ID_Engine_NoCamera">
+        <source></source>
+        <translation>カメラなし</translation>
+    </message>
+    <message id="ID_Engine_NoMicrophone">
+        <source></source>
+        <translation>マイクなし</translation>
+    </message>
+    <message id="ID_Engine_NoSpeaker">
+        <source></source>
+        <translation>スピーカーが見つかりません</translation>
+    </message>
+    <message id="ID_Engine_NoSpeakerSelected">
+        <source></source>
+        <translation>スピーカーが選ばれていません</translation>
+    </message>
+    <message id="ID_HeadsetPage_2">
+        <source></source>
+        <translation>2. 音量を上げ、ミュートになっていないか確認してください。</translation>
+    </message>
+    <message id="ID_HeadsetPage_3">
+        <source></source>
+        <translation>3. プラグを奥まで差すか、Bluetooth をつなぎ直してください。</translation>
+    </message>
+    <message id="ID_HeadsetPage_4">
+        <source></source>
+        <translation>4. システムのサウンド設定で同じ出力先を選んでください。</translation>
+    </message>
+    <message id="ID_HeadsetPage_Bubble">
+        <source></source>
+        <translation>泡</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanHear">
+        <source></source>
+        <translation>はい、聞こえます</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanNotHear">
+        <source></source>
+        <translation>聞こえません</translation>
+    </message>
+    <message id="ID_HeadsetPage_ChoseWrong">
+        <source></source>
+        <translation>正しい音が選ばれていません</translation>
+    </message>
+    <message id="ID_HeadsetPage_ClickHere">
+        <source></source>
+        <translation>音が聞こえませんか？こちらをクリック</translation>
+    </message>
+    <message id="ID_HeadsetPage_Doorbell">
+        <source></source>
+        <translation>呼び鈴</translation>
+    </message>
+    <message id="ID_HeadsetPage_Piano">
+        <source></source>
+        <translation>ピアノ</translation>
+    </message>
+    <message id="ID_HeadsetPage_Play">
+        <source></source>
+        <translation>再生</translation>
+    </message>
+    <message id="ID_HeadsetPage_PlayAgain">
+        <source></source>
+        <translation>もう一度</translation>
+    </message>
+    <message id="ID_HeadsetPage_Playing">
+        <source></source>
+        <translation>再生中</translation>
+    </message>
+    <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
+        <source></source>
+        <translation>どの音が聞こえましたか？</translation>
+    </message>
+    <message id="ID_HeadsetPage_Saxophone">
+        <source></source>
+        <translation>サックス</translation>
+    </message>
+    <message id="ID_HeadsetPage_Seagull">
+        <source></source>
+        <translation>カモメ</translation>
+    </message>
+    <message id="ID_HeadsetPage_Shutter">
+        <source></source>
+        <translation>シャッター</translation>
+    </message>
+    <message id="ID_HeadsetPage_Speaker">
+        <source></source>
+        <translation>出力：</translation>
+    </message>
+    <message id="ID_HeadsetPage_Thunder">
+        <source></source>
+        <translation>雷</translation>
+    </message>
+    <message id="ID_HeadsetPage_Tip">
+        <source></source>
+        <translation>再生ボタンを押して音を聞き、聞こえた音を選んでください。</translation>
+    </message>
+    <message id="ID_HeadsetPage_Typing">
+        <source></source>
+        <translation>タイピング</translation>
+    </message>
+    <message id="ID_HeadsetPage_choseNo">
+        <source></source>
+        <translation>音が聞こえません</translation>
+    </message>
+    <message id="ID_HeadsetPage_play">
+        <source></source>
+        <translation>再生</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound0">
+        <source></source>
+        <translation>音 1</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound1">
+        <source></source>
+        <translation>音 2</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound2">
+        <source></source>
+        <translation>音 3</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound3">
+        <source></source>
+        <translation>音 4</translation>
+    </message>
+    <message id="ID_Kestrel_SystemTesting">
+        <source></source>
+        <translation>システムチェック</translation>
+    </message>
+    <message id="ID_MessageBox_Critical">
+        <source></source>
+        <translation>エラー</translation>
+    </message>
+    <message id="ID_MessageBox_Information">
+        <source></source>
+        <translation>情報</translation>
+    </message>
+    <message id="ID_MessageBox_Question">
+        <source></source>
+        <translation>確認</translation>
+    </message>
+    <message id="ID_MessageBox_Warning">
+        <source></source>
+        <translation>警告</translation>
+    </message>
+    <message id="ID_Microphone">
+        <source></source>
+        <translation>マイク：</translation>
+    </message>
+    <message id="ID_MicrophonePage_2">
+        <source></source>
+        <translation>2. マイクのスイッチやミュートキーで消音を解除してください。</translation>
+    </message>
+    <message id="ID_MicrophonePage_3">
+        <source></source>
+        <translation>3. 音量を上げ、マイクに近づいて話してください。</translation>
+    </message>
+    <message id="ID_MicrophonePage_4">
+        <source></source>
+        <translation>4. システムのプライバシー設定でマイクを許可してください。</translation>
+    </message>
+    <message id="ID_MicrophonePage_Again">
+        <source></source>
+        <translation>もう一度</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanHearOrSee">
+        <source></source>
+        <translation>はい、両方できます</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanNotHearOrSee">
+        <source></source>
+        <translation>いいえ、できません</translation>
+    </message>
+    <message id="ID_MicrophonePage_ChoseNo">
+        <source></source>
+        <translation>声かバーの動きを確認できません</translation>
+    </message>
+    <message id="ID_MicrophonePage_ClickHere">
+        <source></source>
+        <translation>声が聞こえない、バーが動かないときはこちら</translation>
+    </message>
+    <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
+        <source></source>
+        <translation>マイクがオフです。ここで選ぶか、有効にしてください。</translation>
+    </message>
+    <message id="ID_MicrophonePage_MayNoisy">
+        <source></source>
+        <translation>100 を超えると雑音が入ることがあります。</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneDisabled">
+        <source></source>
+        <translation>マイクがオフか無効です</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneTest">
+        <source></source>
+        <translation>「録音」を押し、声を出して 1 から 10 まで数えてください。自分の声が聞こえ、緑のバーが動くか確認してください。</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
+        <source></source>
+        <translation>マイクが見つかりません</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoVoiceWasRecorded">
+        <source></source>
+        <translation>マイクに音が入っていません</translation>
+    </message>
+    <message id="ID_MicrophonePage_OfS">
+        <source></source>
+        <translation>%1 秒</translation>
+    </message>
+    <message id="ID_MicrophonePage_Recording">
+        <source></source>
+        <translation>話して</translation>
+    </message>
+    <message id="ID_Microphone_Check">
+        <source></source>
+        <translation>マイク</translation>
+    </message>
+    <message id="ID_NetworkPage_1">
+        <source></source>
+        <translation>1. Wi-Fi ルーターに近づくか、LAN ケーブルを使ってください。</translation>
+    </message>
+    <message id="ID_NetworkPage_2">
+        <source></source>
+        <translation>2. ほかの機器も含め、ダウンロードや動画を止めてください。</translation>
+    </message>
+    <message id="ID_NetworkPage_3">
+        <source></source>
+        <translation>3. VPN やプロキシを切るか、ルーターを再起動してください。</translation>
+    </message>
+    <message id="ID_NetworkPage_Account">
+        <source></source>
+        <translation>アカウント：</translation>
+    </message>
+    <message id="ID_NetworkPage_AvailableCacheSpace">
+        <source></source>
+        <translation>キャッシュ空き：</translation>
+    </message>
+    <message id="ID_NetworkPage_CPU">
+        <source></source>
+        <translation>CPU：</translation>
+    </message>
+    <message id="ID_NetworkPage_ClickHere">
+        <source></source>
+        <translation>通信が遅い、または不安定ですか？こちらをクリック</translation>
+    </message>
+    <message id="ID_NetworkPage_Client">
+        <source></source>
+        <translation>クライアント：</translation>
+    </message>
+    <message id="ID_NetworkPage_LostRate">
+        <source></source>
+        <translation>パケット損失率：</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkDelay">
+        <source></source>
+        <translation>ネットワーク遅延：</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkSlowOrUnstable">
+        <source></source>
+        <translation>通信が遅いか不安定です</translation>
+    </message>
+    <message id="ID_NetworkPage_OS">
+        <source></source>
+        <translation>OS：</translation>
+    </message>
+    <message id="ID_NewLogin_Server">
+        <source></source>
+        <translation>サーバー：</translation>
+    </message>
+    <message id="ID_Next">
+        <source></source>
+        <translation>次へ</translation>
+    </message>
+    <message id="ID_Nickname_NetworkPage">
+        <source></source>
+        <translation>ニックネーム：</translation>
+    </message>
+    <message id="ID_OK">
+        <source></source>
+        <translation>完了</translation>
+    </message>
+    <message id="ID_Record">
+        <source></source>
+        <translation>録音</translation>
+    </message>
+    <message id="ID_Skip">
+        <source></source>
+        <translation>スキップ</translation>
+    </message>
+    <message id="ID_Volume">
+        <source></source>
+        <translation>音量：</translation>
+    </message>
+    <message id="ID_WelcomePage_StartTest">
+        <source></source>
+        <translation>チェックを開始</translation>
+    </message>
+    <message id="ID_WelcomePage_Welcome">
+        <source></source>
+        <translation>オンライン教室へようこそ</translation>
+    </message>
+    <message id="ID_hardwaremgrinterface_NoSpeakerFound">
+        <source></source>
+        <translation>スピーカーが見つかりません</translation>
+    </message>
+    <message id="ID_lumcamera_NoWebcamFound">
+        <source></source>
+        <translation>カメラが見つかりません</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,423 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko">
+<context>
+    <name></name>
+    <message id="ID_CameraPage_1">
+        <source></source>
+        <translation>1. 장치가 연결되어 있고 목록에서 선택되었는지 확인하세요.</translation>
+    </message>
+    <message id="ID_CameraPage_2">
+        <source></source>
+        <translation>2. 카메라를 사용하는 다른 프로그램을 닫으세요.</translation>
+    </message>
+    <message id="ID_CameraPage_3">
+        <source></source>
+        <translation>3. 렌즈 덮개를 열거나 카메라 키로 카메라를 켜세요.</translation>
+    </message>
+    <message id="ID_CameraPage_4">
+        <source></source>
+        <translation>4. 시스템의 개인 정보 설정에서 카메라를 허용하세요.</translation>
+    </message>
+    <message id="ID_CameraPage_5">
+        <source></source>
+        <translation>5. 컴퓨터를 다시 시작하거나 다른 장치를 사용해 보세요.</translation>
+    </message>
+    <message id="ID_CameraPage_Camera">
+        <source></source>
+        <translation>카메라:</translation>
+    </message>
+    <message id="ID_CameraPage_CameraDisabled">
+        <source></source>
+        <translation>카메라가 꺼져 있습니다</translation>
+    </message>
+    <message id="ID_CameraPage_CannotSee">
+        <source></source>
+        <translation>보이지 않아요</translation>
+    </message>
+    <message id="ID_CameraPage_ClickHere">
+        <source></source>
+        <translation>내 모습이 보이지 않나요? 여기를 클릭하세요</translation>
+    </message>
+    <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
+        <source></source>
+        <translation>카메라가 꺼져 있습니다. 여기서 선택하거나 켜 주세요.</translation>
+    </message>
+    <message id="ID_CameraPage_No">
+        <source></source>
+        <translation>안 보여요</translation>
+    </message>
+    <message id="ID_CameraPage_NoCameraImageWasDetected">
+        <source></source>
+        <translation>카메라 영상이 없습니다</translation>
+    </message>
+    <message id="ID_CameraPage_NotDetected">
+        <source></source>
+        <translation>아직 응답하지 않은 항목입니다</translation>
+    </message>
+    <message id="ID_CameraPage_Yes">
+        <source></source>
+        <translation>네, 보여요</translation>
+    </message>
+    <message id="ID_CameraPage_choseNo">
+        <source></source>
+        <translation>내 모습이 보이지 않습니다</translation>
+    </message>
+    <message id="ID_Camera_Check">
+        <source></source>
+        <translation>카메라</translation>
+    </message>
+    <message id="ID_CheckResultPage_Abnormal">
+        <source></source>
+        <translation>이상</translation>
+    </message>
+    <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
+        <source></source>
+        <translation>장치를 확인하고 다시 점검하세요.</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentAbnormal">
+        <source></source>
+        <translation>문제가 있습니다</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentNormal">
+        <source></source>
+        <translation>모두 정상입니다</translation>
+    </message>
+    <message id="ID_CheckResultPage_Headphone">
+        <source></source>
+        <translation>스피커</translation>
+    </message>
+    <message id="ID_CheckResultPage_Normal">
+        <source></source>
+        <translation>정상</translation>
+    </message>
+    <message id="ID_CheckResultPage_OK">
+        <source></source>
+        <translation>수업 준비가 되었습니다.</translation>
+    </message>
+    <message id="ID_CheckResultPage_Redetect">
+        <source></source>
+        <translation>다시 점검</translation>
+    </message>
+    <message id="ID_CheckResultPage_System">
+        <source></source>
+        <translation>시스템</translation>
+    </message>
+    <message id="ID_ContentPage_NotFinishedIfLeave">
+        <source></source>
+        <translation>시스템 점검이 끝나지 않았습니다. 나가시겠습니까?</translation>
+    </message>
+    <message id="ID_Engine_BuiltInResponder">
+        <source></source>
+        <translation>이 컴퓨터(내장 테스트 서버)</translation>
+    </message>
+    <message id="ID_Engine_NoCamera">
+        <source></source>
+        <translation>카메라 없음</translation>
+    </message>
+    <message id="ID_Engine_NoMicrophone">
+        <source></source>
+        <translation>마이크 없음</translation>
+    </message>
+    <message id="ID_Engine_NoSpeaker">
+        <source></source>
+        <translation>스피커를 찾을 수 없음</translation>
+    </message>
+    <message id="ID_Engine_NoSpeakerSelected">
+        <source></source>
+        <translation>선택된 스피커 없음</translation>
+    </message>
+    <message id="ID_HeadsetPage_2">
+        <source></source>
+        <translation>2. 볼륨을 높이고 음소거되지 않았는지 확인하세요.</translation>
+    </message>
+    <message id="ID_HeadsetPage_3">
+        <source></source>
+        <translation>3. 플러그를 끝까지 꽂거나 블루투스를 다시 연결하세요.</translation>
+    </message>
+    <message id="ID_HeadsetPage_4">
+        <source></source>
+        <translation>4. 시스템의 소리 설정에서 같은 출력 장치를 선택하세요.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Bubble">
+        <source></source>
+        <translation>물방울</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanHear">
+        <source></source>
+        <translation>네, 들려요</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanNotHear">
+        <source></source>
+        <translation>안 들려요</translation>
+    </message>
+    <message id="ID_HeadsetPage_ChoseWrong">
+        <source></source>
+        <translation>맞는 소리를 고르지 않았습니다</translation>
+    </message>
+    <message id="ID_HeadsetPage_ClickHere">
+        <source></source>
+        <translation>소리가 들리지 않나요? 여기를 클릭하세요</translation>
+    </message>
+    <message id="ID_HeadsetPage_Doorbell">
+        <source></source>
+        <translation>초인종</translation>
+    </message>
+    <message id="ID_HeadsetPage_Piano">
+        <source></source>
+        <translation>피아노</translation>
+    </message>
+    <message id="ID_HeadsetPage_Play">
+        <source></source>
+        <translation>재생</translation>
+    </message>
+    <message id="ID_HeadsetPage_PlayAgain">
+        <source></source>
+        <translation>다시 듣기</translation>
+    </message>
+    <message id="ID_HeadsetPage_Playing">
+        <source></source>
+        <translation>재생 중</translation>
+    </message>
+    <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
+        <source></source>
+        <translation>어떤 소리가 들리나요?</translation>
+    </message>
+    <message id="ID_HeadsetPage_Saxophone">
+        <source></source>
+        <translation>색소폰</translation>
+    </message>
+    <message id="ID_HeadsetPage_Seagull">
+        <source></source>
+        <translation>갈매기</translation>
+    </message>
+    <message id="ID_HeadsetPage_Shutter">
+        <source></source>
+        <translation>셔터</translation>
+    </message>
+    <message id="ID_HeadsetPage_Speaker">
+        <source></source>
+        <translation>스피커:</translation>
+    </message>
+    <message id="ID_HeadsetPage_Thunder">
+        <source></source>
+        <translation>천둥</translation>
+    </message>
+    <message id="ID_HeadsetPage_Tip">
+        <source></source>
+        <translation>재생 버튼을 눌러 소리를 듣고, 들리는 소리를 고르세요.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Typing">
+        <source></source>
+        <translation>타자 소리</translation>
+    </message>
+    <message id="ID_HeadsetPage_choseNo">
+        <source></source>
+        <translation>소리가 들리지 않습니다</translation>
+    </message>
+    <message id="ID_HeadsetPage_play">
+        <source></source>
+        <translation>재생</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound0">
+        <source></source>
+        <translation>소리 1</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound1">
+        <source></source>
+        <translation>소리 2</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound2">
+        <source></source>
+        <translation>소리 3</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound3">
+        <source></source>
+        <translation>소리 4</translation>
+    </message>
+    <message id="ID_Kestrel_SystemTesting">
+        <source></source>
+        <translation>시스템 점검</translation>
+    </message>
+    <message id="ID_MessageBox_Critical">
+        <source></source>
+        <translation>오류</translation>
+    </message>
+    <message id="ID_MessageBox_Information">
+        <source></source>
+        <translation>알림</translation>
+    </message>
+    <message id="ID_MessageBox_Question">
+        <source></source>
+        <translation>확인</translation>
+    </message>
+    <message id="ID_MessageBox_Warning">
+        <source></source>
+        <translation>경고</translation>
+    </message>
+    <message id="ID_Microphone">
+        <source></source>
+        <translation>마이크:</translation>
+    </message>
+    <message id="ID_MicrophonePage_2">
+        <source></source>
+        <translation>2. 스위치나 음소거 키를 확인해 마이크 음소거를 푸세요.</translation>
+    </message>
+    <message id="ID_MicrophonePage_3">
+        <source></source>
+        <translation>3. 볼륨을 높이고 마이크 가까이에서 말하세요.</translation>
+    </message>
+    <message id="ID_MicrophonePage_4">
+        <source></source>
+        <translation>4. 시스템의 개인 정보 설정에서 마이크를 허용하세요.</translation>
+    </message>
+    <message id="ID_MicrophonePage_Again">
+        <source></source>
+        <translation>다시</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanHearOrSee">
+        <source></source>
+        <translation>네, 들리고 보여요</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanNotHearOrSee">
+        <source></source>
+        <translation>안 들리거나 안 보여요</translation>
+    </message>
+    <message id="ID_MicrophonePage_ChoseNo">
+        <source></source>
+        <translation>목소리나 막대가 확인되지 않습니다</translation>
+    </message>
+    <message id="ID_MicrophonePage_ClickHere">
+        <source></source>
+        <translation>소리나 막대에 문제가 있나요? 여기를 클릭하세요</translation>
+    </message>
+    <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
+        <source></source>
+        <translation>마이크가 꺼져 있습니다. 여기서 선택하거나 켜 주세요.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MayNoisy">
+        <source></source>
+        <translation>100을 넘으면 잡음이 생길 수 있습니다.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneDisabled">
+        <source></source>
+        <translation>마이크가 꺼져 있습니다</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneTest">
+        <source></source>
+        <translation>“녹음”을 누르고 1부터 10까지 소리 내어 세어 보세요. 내 목소리가 들리고 녹색 막대가 움직이는지 확인하세요.</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
+        <source></source>
+        <translation>마이크를 찾을 수 없습니다</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoVoiceWasRecorded">
+        <source></source>
+        <translation>마이크에 소리가 들어오지 않습니다</translation>
+    </message>
+    <message id="ID_MicrophonePage_OfS">
+        <source></source>
+        <translation>%1초</translation>
+    </message>
+    <message id="ID_MicrophonePage_Recording">
+        <source></source>
+        <translation>말하세요</translation>
+    </message>
+    <message id="ID_Microphone_Check">
+        <source></source>
+        <translation>마이크</translation>
+    </message>
+    <message id="ID_NetworkPage_1">
+        <source></source>
+        <translation>1. 무선 공유기에 가까이 가거나 유선 랜을 사용하세요.</translation>
+    </message>
+    <message id="ID_NetworkPage_2">
+        <source></source>
+        <translation>2. 다른 기기를 포함해 다운로드와 동영상을 중지하세요.</translation>
+    </message>
+    <message id="ID_NetworkPage_3">
+        <source></source>
+        <translation>3. VPN과 프록시를 끄거나 공유기를 다시 시작하세요.</translation>
+    </message>
+    <message id="ID_NetworkPage_Account">
+        <source></source>
+        <translation>계정:</translation>
+    </message>
+    <message id="ID_NetworkPage_AvailableCacheSpace">
+        <source></source>
+        <translation>캐시 여유 공간:</translation>
+    </message>
+    <message id="ID_NetworkPage_CPU">
+        <source></source>
+        <translation>프로세서:</translation>
+    </message>
+    <message id="ID_NetworkPage_ClickHere">
+        <source></source>
+        <translation>네트워크가 느리거나 불안정한가요? 여기를 클릭하세요</translation>
+    </message>
+    <message id="ID_NetworkPage_Client">
+        <source></source>
+        <translation>클라이언트:</translation>
+    </message>
+    <message id="ID_NetworkPage_LostRate">
+        <source></source>
+        <translation>패킷 손실률:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkDelay">
+        <source></source>
+        <translation>네트워크 지연:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkSlowOrUnstable">
+        <source></source>
+        <translation>네트워크가 느리거나 불안정합니다</translation>
+    </message>
+    <message id="ID_NetworkPage_OS">
+        <source></source>
+        <translation>운영 체제:</translation>
+    </message>
+    <message id="ID_NewLogin_Server">
+        <source></source>
+        <translation>서버:</translation>
+    </message>
+    <message id="ID_Next">
+        <source></source>
+        <translation>다음</translation>
+    </message>
+    <message id="ID_Nickname_NetworkPage">
+        <source></source>
+        <translation>닉네임:</translation>
+    </message>
+    <message id="ID_OK">
+        <source></source>
+        <translation>완료</translation>
+    </message>
+    <message id="ID_Record">
+        <source></source>
+        <translation>녹음</translation>
+    </message>
+    <message id="ID_Skip">
+        <source></source>
+        <translation>건너뛰기</translation>
+    </message>
+    <message id="ID_Volume">
+        <source></source>
+        <translation>볼륨:</translation>
+    </message>
+    <message id="ID_WelcomePage_StartTest">
+        <source></source>
+        <translation>점검 시작</translation>
+    </message>
+    <message id="ID_WelcomePage_Welcome">
+        <source></source>
+        <translation>온라인 교실에 오신 것을 환영합니다</translation>
+    </message>
+    <message id="ID_hardwaremgrinterface_NoSpeakerFound">
+        <source></source>
+        <translation>스피커를 찾을 수 없습니다</translation>
+    </message>
+    <message id="ID_lumcamera_NoWebcamFound">
+        <source></source>
+        <translation>카메라를 찾을 수 없습니다</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,423 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name></name>
+    <message id="ID_CameraPage_1">
+        <source></source>
+        <translation>1. Verifique se o aparelho está conectado e escolhido na lista.</translation>
+    </message>
+    <message id="ID_CameraPage_2">
+        <source></source>
+        <translation>2. Feche outros programas que usam a câmera.</translation>
+    </message>
+    <message id="ID_CameraPage_3">
+        <source></source>
+        <translation>3. Abra a tampa da lente ou ligue a câmera com a tecla dela.</translation>
+    </message>
+    <message id="ID_CameraPage_4">
+        <source></source>
+        <translation>4. Permita o uso da câmera nas configurações de privacidade.</translation>
+    </message>
+    <message id="ID_CameraPage_5">
+        <source></source>
+        <translation>5. Reinicie o computador ou tente outro aparelho.</translation>
+    </message>
+    <message id="ID_CameraPage_Camera">
+        <source></source>
+        <translation>Câmera:</translation>
+    </message>
+    <message id="ID_CameraPage_CameraDisabled">
+        <source></source>
+        <translation>A câmera está desligada</translation>
+    </message>
+    <message id="ID_CameraPage_CannotSee">
+        <source></source>
+        <translation>Não me vejo</translation>
+    </message>
+    <message id="ID_CameraPage_ClickHere">
+        <source></source>
+        <translation>Não consegue se ver? Clique aqui</translation>
+    </message>
+    <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
+        <source></source>
+        <translation>A câmera está desligada. Escolha uma aqui ou ative-a.</translation>
+    </message>
+    <message id="ID_CameraPage_No">
+        <source></source>
+        <translation>Não me vejo</translation>
+    </message>
+    <message id="ID_CameraPage_NoCameraImageWasDetected">
+        <source></source>
+        <translation>A câmera não mostra imagem</translation>
+    </message>
+    <message id="ID_CameraPage_NotDetected">
+        <source></source>
+        <translation>Este teste ficou sem resposta</translation>
+    </message>
+    <message id="ID_CameraPage_Yes">
+        <source></source>
+        <translation>Eu me vejo</translation>
+    </message>
+    <message id="ID_CameraPage_choseNo">
+        <source></source>
+        <translation>Você não consegue se ver</translation>
+    </message>
+    <message id="ID_Camera_Check">
+        <source></source>
+        <translation>Câmera</translation>
+    </message>
+    <message id="ID_CheckResultPage_Abnormal">
+        <source></source>
+        <translation>Falhou</translation>
+    </message>
+    <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
+        <source></source>
+        <translation>Corrija e teste novamente.</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentAbnormal">
+        <source></source>
+        <translation>Algo não funciona</translation>
+    </message>
+    <message id="ID_CheckResultPage_EquipmentNormal">
+        <source></source>
+        <translation>Tudo funciona</translation>
+    </message>
+    <message id="ID_CheckResultPage_Headphone">
+        <source></source>
+        <translation>Som</translation>
+    </message>
+    <message id="ID_CheckResultPage_Normal">
+        <source></source>
+        <translation>Aprovado</translation>
+    </message>
+    <message id="ID_CheckResultPage_OK">
+        <source></source>
+        <translation>Tudo pronto para a aula.</translation>
+    </message>
+    <message id="ID_CheckResultPage_Redetect">
+        <source></source>
+        <translation>Repetir</translation>
+    </message>
+    <message id="ID_CheckResultPage_System">
+        <source></source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="ID_ContentPage_NotFinishedIfLeave">
+        <source></source>
+        <translation>A verificação não terminou. Deseja sair mesmo assim?</translation>
+    </message>
+    <message id="ID_Engine_BuiltInResponder">
+        <source></source>
+        <translation>Este computador (teste interno)</translation>
+    </message>
+    <message id="ID_Engine_NoCamera">
+        <source></source>
+        <translation>Nenhuma câmera</translation>
+    </message>
+    <message id="ID_Engine_NoMicrophone">
+        <source></source>
+        <translation>Nenhum microfone</translation>
+    </message>
+    <message id="ID_Engine_NoSpeaker">
+        <source></source>
+        <translation>Nenhum alto-falante encontrado</translation>
+    </message>
+    <message id="ID_Engine_NoSpeakerSelected">
+        <source></source>
+        <translation>Nenhum alto-falante escolhido</translation>
+    </message>
+    <message id="ID_HeadsetPage_2">
+        <source></source>
+        <translation>2. Aumente o volume e veja se o som não está mudo.</translation>
+    </message>
+    <message id="ID_HeadsetPage_3">
+        <source></source>
+        <translation>3. Encaixe bem o plugue ou reconecte o Bluetooth.</translation>
+    </message>
+    <message id="ID_HeadsetPage_4">
+        <source></source>
+        <translation>4. Escolha a mesma saída nas configurações de som do sistema.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Bubble">
+        <source></source>
+        <translation>Bolhas</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanHear">
+        <source></source>
+        <translation>Sim, eu ouço</translation>
+    </message>
+    <message id="ID_HeadsetPage_CanNotHear">
+        <source></source>
+        <translation>Não, não ouço</translation>
+    </message>
+    <message id="ID_HeadsetPage_ChoseWrong">
+        <source></source>
+        <translation>O som certo não foi escolhido</translation>
+    </message>
+    <message id="ID_HeadsetPage_ClickHere">
+        <source></source>
+        <translation>Não ouve o som? Clique aqui</translation>
+    </message>
+    <message id="ID_HeadsetPage_Doorbell">
+        <source></source>
+        <translation>Campainha</translation>
+    </message>
+    <message id="ID_HeadsetPage_Piano">
+        <source></source>
+        <translation>Piano</translation>
+    </message>
+    <message id="ID_HeadsetPage_Play">
+        <source></source>
+        <translation>Tocar</translation>
+    </message>
+    <message id="ID_HeadsetPage_PlayAgain">
+        <source></source>
+        <translation>Repetir</translation>
+    </message>
+    <message id="ID_HeadsetPage_Playing">
+        <source></source>
+        <translation>Tocando</translation>
+    </message>
+    <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
+        <source></source>
+        <translation>Que som você ouve?</translation>
+    </message>
+    <message id="ID_HeadsetPage_Saxophone">
+        <source></source>
+        <translation>Saxofone</translation>
+    </message>
+    <message id="ID_HeadsetPage_Seagull">
+        <source></source>
+        <translation>Gaivota</translation>
+    </message>
+    <message id="ID_HeadsetPage_Shutter">
+        <source></source>
+        <translation>Obturador</translation>
+    </message>
+    <message id="ID_HeadsetPage_Speaker">
+        <source></source>
+        <translation>Saída:</translation>
+    </message>
+    <message id="ID_HeadsetPage_Thunder">
+        <source></source>
+        <translation>Trovão</translation>
+    </message>
+    <message id="ID_HeadsetPage_Tip">
+        <source></source>
+        <translation>Clique no botão de tocar, ouça e escolha o som que você ouve.</translation>
+    </message>
+    <message id="ID_HeadsetPage_Typing">
+        <source></source>
+        <translation>Digitação</translation>
+    </message>
+    <message id="ID_HeadsetPage_choseNo">
+        <source></source>
+        <translation>Você não ouve o som</translation>
+    </message>
+    <message id="ID_HeadsetPage_play">
+        <source></source>
+        <translation>Tocar</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound0">
+        <source></source>
+        <translation>Som 1</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound1">
+        <source></source>
+        <translation>Som 2</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound2">
+        <source></source>
+        <translation>Som 3</translation>
+    </message>
+    <message id="ID_HeadsetPage_sound3">
+        <source></source>
+        <translation>Som 4</translation>
+    </message>
+    <message id="ID_Kestrel_SystemTesting">
+        <source></source>
+        <translation>Verificação do sistema</translation>
+    </message>
+    <message id="ID_MessageBox_Critical">
+        <source></source>
+        <translation>Erro</translation>
+    </message>
+    <message id="ID_MessageBox_Information">
+        <source></source>
+        <translation>Informação</translation>
+    </message>
+    <message id="ID_MessageBox_Question">
+        <source></source>
+        <translation>Pergunta</translation>
+    </message>
+    <message id="ID_MessageBox_Warning">
+        <source></source>
+        <translation>Aviso</translation>
+    </message>
+    <message id="ID_Microphone">
+        <source></source>
+        <translation>Microfone:</translation>
+    </message>
+    <message id="ID_MicrophonePage_2">
+        <source></source>
+        <translation>2. Ative o microfone: procure um botão ou tecla de mudo.</translation>
+    </message>
+    <message id="ID_MicrophonePage_3">
+        <source></source>
+        <translation>3. Aumente o volume e fale perto do microfone.</translation>
+    </message>
+    <message id="ID_MicrophonePage_4">
+        <source></source>
+        <translation>4. Permita o uso do microfone nas configurações de privacidade.</translation>
+    </message>
+    <message id="ID_MicrophonePage_Again">
+        <source></source>
+        <translation>Repetir</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanHearOrSee">
+        <source></source>
+        <translation>Sim, ouço e vejo</translation>
+    </message>
+    <message id="ID_MicrophonePage_CanNotHearOrSee">
+        <source></source>
+        <translation>Não ouço ou não vejo</translation>
+    </message>
+    <message id="ID_MicrophonePage_ChoseNo">
+        <source></source>
+        <translation>Você não se ouve ou não vê a barra</translation>
+    </message>
+    <message id="ID_MicrophonePage_ClickHere">
+        <source></source>
+        <translation>Não se ouve ou não vê a barra? Clique aqui</translation>
+    </message>
+    <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
+        <source></source>
+        <translation>O microfone está desligado. Escolha um aqui ou ative-o.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MayNoisy">
+        <source></source>
+        <translation>Acima de 100 pode haver ruído.</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneDisabled">
+        <source></source>
+        <translation>O microfone está desligado</translation>
+    </message>
+    <message id="ID_MicrophonePage_MicrophoneTest">
+        <source></source>
+        <translation>Clique em “Gravar” e conte em voz alta de 1 a 10. Ouça sua voz e veja se a barra verde se move.</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
+        <source></source>
+        <translation>Nenhum microfone encontrado</translation>
+    </message>
+    <message id="ID_MicrophonePage_NoVoiceWasRecorded">
+        <source></source>
+        <translation>O microfone não capta som</translation>
+    </message>
+    <message id="ID_MicrophonePage_OfS">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="ID_MicrophonePage_Recording">
+        <source></source>
+        <translation>Fale…</translation>
+    </message>
+    <message id="ID_Microphone_Check">
+        <source></source>
+        <translation>Mic</translation>
+    </message>
+    <message id="ID_NetworkPage_1">
+        <source></source>
+        <translation>1. Fique mais perto do roteador Wi-Fi ou use um cabo de rede.</translation>
+    </message>
+    <message id="ID_NetworkPage_2">
+        <source></source>
+        <translation>2. Pare downloads e vídeos, também em outros aparelhos.</translation>
+    </message>
+    <message id="ID_NetworkPage_3">
+        <source></source>
+        <translation>3. Desligue a VPN e o proxy ou reinicie o roteador.</translation>
+    </message>
+    <message id="ID_NetworkPage_Account">
+        <source></source>
+        <translation>Conta:</translation>
+    </message>
+    <message id="ID_NetworkPage_AvailableCacheSpace">
+        <source></source>
+        <translation>Cache disponível:</translation>
+    </message>
+    <message id="ID_NetworkPage_CPU">
+        <source></source>
+        <translation>Processador:</translation>
+    </message>
+    <message id="ID_NetworkPage_ClickHere">
+        <source></source>
+        <translation>Rede lenta ou instável? Clique aqui</translation>
+    </message>
+    <message id="ID_NetworkPage_Client">
+        <source></source>
+        <translation>Cliente:</translation>
+    </message>
+    <message id="ID_NetworkPage_LostRate">
+        <source></source>
+        <translation>Taxa de perda:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkDelay">
+        <source></source>
+        <translation>Atraso da rede:</translation>
+    </message>
+    <message id="ID_NetworkPage_NetworkSlowOrUnstable">
+        <source></source>
+        <translation>A rede está lenta ou instável</translation>
+    </message>
+    <message id="ID_NetworkPage_OS">
+        <source></source>
+        <translation>Sistema:</translation>
+    </message>
+    <message id="ID_NewLogin_Server">
+        <source></source>
+        <translation>Servidor:</translation>
+    </message>
+    <message id="ID_Next">
+        <source></source>
+        <translation>Avançar</translation>
+    </message>
+    <message id="ID_Nickname_NetworkPage">
+        <source></source>
+        <translation>Apelido:</translation>
+    </message>
+    <message id="ID_OK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="ID_Record">
+        <source></source>
+        <translation>Gravar</translation>
+    </message>
+    <message id="ID_Skip">
+        <source></source>
+        <translation>Pular</translation>
+    </message>
+    <message id="ID_Volume">
+        <source></source>
+        <translation>Volume:</translation>
+    </message>
+    <message id="ID_WelcomePage_StartTest">
+        <source></source>
+        <translation>Iniciar o teste</translation>
+    </message>
+    <message id="ID_WelcomePage_Welcome">
+        <source></source>
+        <translation>Boas-vindas à sala de aula on-line</translation>
+    </message>
+    <message id="ID_hardwaremgrinterface_NoSpeakerFound">
+        <source></source>
+        <translation>Nenhum alto-falante encontrado</translation>
+    </message>
+    <message id="ID_lumcamera_NoWebcamFound">
+        <source></source>
+        <translation>Nenhuma câmera encontrada</translation>
+    </message>
+</context>
+</TS>
