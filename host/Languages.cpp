@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/Languages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace {
+
+const QLatin1String FilePrefix("envcheck_");
+const QLatin1String FileSuffix(".qm");
+const QLatin1String Fallback("en");
+
+QString folder()
+{
+    return QCoreApplication::applicationDirPath() + QLatin1String("/translations");
+}
+
+// The wanted language itself, otherwise one of the same script or name, otherwise English.
+QString nearest(const QString& wanted, const QStringList& available)
+{
+    QStringList names;
+    if (wanted.isEmpty()) {
+        names = QLocale::system().uiLanguages();
+    } else {
+        names = QStringList{wanted} + QLocale(wanted).uiLanguages();
+    }
+    for (QString name : names) {
+        name.replace(QLatin1Char('-'), QLatin1Char('_'));
+        if (name.startsWith(QLatin1String("zh_Hant")) || name == QLatin1String("zh_HK")) {
+            name = QStringLiteral("zh_TW");
+        } else if (name == QLatin1String("zh") || name.startsWith(QLatin1String("zh_Hans"))) {
+            name = QStringLiteral("zh_CN");
+        }
+        if (available.contains(name)) {
+            return name;
+        }
+        const QString language = name.section(QLatin1Char('_'), 0, 0);
+        for (const QString& candidate : available) {
+            if (candidate.section(QLatin1Char('_'), 0, 0) == language) {
+                return candidate;
+            }
+        }
+    }
+    return Fallback;
+}
+
+} // namespace
+
+Languages::Languages() = default;
+
+Languages::~Languages()
+{
+    QCoreApplication::removeTranslator(&m_texts);
+    QCoreApplication::removeTranslator(&m_qtTexts);
+}
+
+QStringList Languages::available()
+{
+    QStringList result;
+    const QStringList files =
+        QDir(folder()).entryList({FilePrefix + QLatin1Char('*') + FileSuffix}, QDir::Files);
+    for (const QString& file : files) {
+        result << file.mid(FilePrefix.size(), file.size() - FilePrefix.size() - FileSuffix.size());
+    }
+    return result;
+}
+
+void Languages::use(const QString& language)
+{
+    m_current = nearest(language, available());
+    QLocale::setDefault(QLocale(m_current));
+    const QString qtTexts = QStringLiteral("qtbase_") + m_current;
+    if (m_qtTexts.load(qtTexts, QLibraryInfo::location(QLibraryInfo::TranslationsPath)) ||
+        m_qtTexts.load(qtTexts, folder())) {
+        QCoreApplication::installTranslator(&m_qtTexts);
+    }
+    // Installed last, ours are asked first.
+    if (m_texts.load(FilePrefix + m_current, folder())) {
+        QCoreApplication::installTranslator(&m_texts);
+    }
+}

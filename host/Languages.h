@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+#include <QTranslator>
+
+// The texts of the program and of Qt in one of the languages that the program brings. Keeps the
+// translators installed while it lives. GUI thread only.
+class Languages
+{
+public:
+    Languages();
+    ~Languages();
+    Languages(const Languages&) = delete;
+    Languages& operator=(const Languages&) = delete;
+
+    static QStringList available(); // such as "en", "zh_CN"
+
+    // Takes the nearest of what is asked for (empty: the system's), otherwise English.
+    void use(const QString& language);
+    QString current() const { return m_current; }
+
+private:
+    QString m_current;
+    QTranslator m_texts;
+    QTranslator m_qtTexts;
+};

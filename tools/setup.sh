@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The EnvCheck authors
+# SPDX-License-Identifier: MIT
+# Sourced by run, test and .ci/run: the Debian packages that each needs, and how they get here.
+
+run_packages=(
+    cmake ninja-build g++ ccache pkg-config
+    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+    libnice-dev libpulse-dev libsndfile1-dev libpipewire-0.3-dev libspa-0.2-dev libyuv-dev
+    libudev-dev
+    xvfb xauth fonts-dejavu-core fonts-noto-core fonts-noto-cjk
+)
+test_packages=(
+    coturn pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
+    libspa-0.2-modules dbus openbox x11-utils xdotool espeak-ng sox ffmpeg
+    fluidsynth fluid-soundfont-gm python3-numpy python3-scipy binutils
+)
+ci_packages=(clang-format clang-tidy)
+
+# install_packages NAME...: nothing where all are there; as root or through sudo; without either the
+# one line to run, and the end.
+install_packages()
+{
+    local missing=() name
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get)
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! sudo -n true 2>/dev/null && ! { [ -t 0 ] && command -v sudo >/dev/null; }; then
+            echo "These packages are missing, and only root may install them. Please run:" >&2
+            echo "    apt-get install -y --no-install-recommends ${missing[*]}" >&2
+            exit 69
+        fi
+        apt=(sudo "${apt[@]}")
+    fi
+    echo "Installing ${#missing[@]} packages: ${missing[*]}"
+    local log
+    log=$(mktemp)
+    if ! { "${apt[@]}" update -qq && "${apt[@]}" install -y -qq --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+        tail -n 20 "$log" >&2
+        rm -f "$log"
+        echo "The packages could not be installed: see above." >&2
+        exit 69
+    fi
+    rm -f "$log"
+}
+
+# start_display: a virtual display in DISPLAY, ended with the script.
+start_display()
+{
+    local folder
+    folder=$(mktemp -d)
+    mkfifo "$folder/number"
+    Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3<>"$folder/number" >"$folder/log" 2>&1 &
+    xvfb_pid=$!
+    trap 'kill $xvfb_pid 2>/dev/null; wait $xvfb_pid 2>/dev/null' EXIT
+    local number
+    read -r -t 20 number <>"$folder/number" || { cat "$folder/log" >&2; echo "No virtual display came up." >&2; exit 69; }
+    export DISPLAY=":$number"
+    rm -rf "$folder"
+}
