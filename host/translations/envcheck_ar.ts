@@ -69,7 +69,7 @@
     </message>
     <message id="ID_CheckResultPage_Abnormal">
         <source></source>
-        <translation>فاشل</translation>
+        <translation>غير سليم</translation>
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
@@ -89,7 +89,7 @@
     </message>
     <message id="ID_CheckResultPage_Normal">
         <source></source>
-        <translation>ناجح</translation>
+        <translation>سليم</translation>
     </message>
     <message id="ID_CheckResultPage_OK">
         <source></source>
@@ -321,11 +321,11 @@
     </message>
     <message id="ID_MicrophonePage_Recording">
         <source></source>
-        <translation>تكلّم…</translation>
+        <translation>تحدّث…</translation>
     </message>
     <message id="ID_Microphone_Check">
         <source></source>
-        <translation>الميكروفون</translation>
+        <translation>المايك</translation>
     </message>
     <message id="ID_NetworkPage_1">
         <source></source>
@@ -337,7 +337,7 @@
     </message>
     <message id="ID_NetworkPage_3">
         <source></source>
-        <translation>3. عطّل VPN والوكيل، أو أعد تشغيل جهاز التوجيه.</translation>
+        <translation>3. عطّل VPN وخادم الوكيل، أو أعد تشغيل جهاز التوجيه.</translation>
     </message>
     <message id="ID_NetworkPage_Account">
         <source></source>

@@ -53,7 +53,7 @@
     </message>
     <message id="ID_CameraPage_NotDetected">
         <source></source>
-        <translation>Prüfung nicht beantwortet</translation>
+        <translation>Noch nicht beantwortet</translation>
     </message>
     <message id="ID_CameraPage_Yes">
         <source></source>
@@ -73,7 +73,7 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>Bitte beheben und erneut prüfen.</translation>
+        <translation>Beheben und erneut prüfen.</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
@@ -129,7 +129,7 @@
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
-        <translation>2. Drehen Sie die Lautstärke auf; der Ton darf nicht stumm sein.</translation>
+        <translation>2. Erhöhen Sie die Lautstärke und schalten Sie den Ton ein.</translation>
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
@@ -169,11 +169,11 @@
     </message>
     <message id="ID_HeadsetPage_Play">
         <source></source>
-        <translation>Abspielen</translation>
+        <translation>Hören</translation>
     </message>
     <message id="ID_HeadsetPage_PlayAgain">
         <source></source>
-        <translation>Nochmal</translation>
+        <translation>Erneut</translation>
     </message>
     <message id="ID_HeadsetPage_Playing">
         <source></source>
@@ -217,7 +217,7 @@
     </message>
     <message id="ID_HeadsetPage_play">
         <source></source>
-        <translation>Abspielen</translation>
+        <translation>Hören</translation>
     </message>
     <message id="ID_HeadsetPage_sound0">
         <source></source>
@@ -273,7 +273,7 @@
     </message>
     <message id="ID_MicrophonePage_Again">
         <source></source>
-        <translation>Nochmal</translation>
+        <translation>Erneut</translation>
     </message>
     <message id="ID_MicrophonePage_CanHearOrSee">
         <source></source>
@@ -321,7 +321,7 @@
     </message>
     <message id="ID_MicrophonePage_Recording">
         <source></source>
-        <translation>Sprechen</translation>
+        <translation>Läuft …</translation>
     </message>
     <message id="ID_Microphone_Check">
         <source></source>
@@ -365,7 +365,7 @@
     </message>
     <message id="ID_NetworkPage_NetworkDelay">
         <source></source>
-        <translation>Netzverzögerung:</translation>
+        <translation>Verzögerung:</translation>
     </message>
     <message id="ID_NetworkPage_NetworkSlowOrUnstable">
         <source></source>

@@ -285,7 +285,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>You can't hear your voice or see it</translation>
+        <translation>Voice not heard, or bar not moving</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>
@@ -345,7 +345,7 @@
     </message>
     <message id="ID_NetworkPage_AvailableCacheSpace">
         <source></source>
-        <translation>Free cache space:</translation>
+        <translation>Free cache:</translation>
     </message>
     <message id="ID_NetworkPage_CPU">
         <source></source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="ID_CameraPage_1">
         <source></source>
-        <translation>1. Compruebe que el equipo está conectado y elegido en la lista.</translation>
+        <translation>1. Compruebe que el dispositivo esté conectado y seleccionado.</translation>
     </message>
     <message id="ID_CameraPage_2">
         <source></source>
@@ -21,7 +21,7 @@
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
-        <translation>5. Reinicie el ordenador o pruebe otro equipo.</translation>
+        <translation>5. Reinicie el equipo o pruebe otro dispositivo.</translation>
     </message>
     <message id="ID_CameraPage_Camera">
         <source></source>
@@ -61,7 +61,7 @@
     </message>
     <message id="ID_CameraPage_choseNo">
         <source></source>
-        <translation>Usted no se ve</translation>
+        <translation>No ve su imagen</translation>
     </message>
     <message id="ID_Camera_Check">
         <source></source>
@@ -133,7 +133,7 @@
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
-        <translation>3. Meta el conector hasta el fondo o reconecte el Bluetooth.</translation>
+        <translation>3. Introduzca bien el conector o reconecte el Bluetooth.</translation>
     </message>
     <message id="ID_HeadsetPage_4">
         <source></source>
@@ -177,7 +177,7 @@
     </message>
     <message id="ID_HeadsetPage_Playing">
         <source></source>
-        <translation>Sonando</translation>
+        <translation>Suena…</translation>
     </message>
     <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
         <source></source>
@@ -213,7 +213,7 @@
     </message>
     <message id="ID_HeadsetPage_choseNo">
         <source></source>
-        <translation>Usted no oye el sonido</translation>
+        <translation>No oye el sonido</translation>
     </message>
     <message id="ID_HeadsetPage_play">
         <source></source>
@@ -285,7 +285,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>Usted no se oye o no ve la barra</translation>
+        <translation>No se oye o no ve la barra</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>
@@ -333,7 +333,7 @@
     </message>
     <message id="ID_NetworkPage_2">
         <source></source>
-        <translation>2. Detenga descargas y vídeos, también en otros equipos.</translation>
+        <translation>2. Detenga descargas y vídeos, también en otros dispositivos.</translation>
     </message>
     <message id="ID_NetworkPage_3">
         <source></source>
@@ -345,7 +345,7 @@
     </message>
     <message id="ID_NetworkPage_AvailableCacheSpace">
         <source></source>
-        <translation>Espacio en caché:</translation>
+        <translation>Caché libre:</translation>
     </message>
     <message id="ID_NetworkPage_CPU">
         <source></source>

@@ -25,7 +25,7 @@
     </message>
     <message id="ID_CameraPage_Camera">
         <source></source>
-        <translation>Vidéo :</translation>
+        <translation>Vidéo :</translation>
     </message>
     <message id="ID_CameraPage_CameraDisabled">
         <source></source>
@@ -37,7 +37,7 @@
     </message>
     <message id="ID_CameraPage_ClickHere">
         <source></source>
-        <translation>Vous ne vous voyez pas ? Cliquez ici</translation>
+        <translation>Vous ne vous voyez pas ? Cliquez ici</translation>
     </message>
     <message id="ID_CameraPage_DisabledWillMakeCameraUnusable">
         <source></source>
@@ -77,7 +77,7 @@
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
-        <translation>Un problème persiste</translation>
+        <translation>Problème détecté</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentNormal">
         <source></source>
@@ -101,11 +101,11 @@
     </message>
     <message id="ID_CheckResultPage_System">
         <source></source>
-        <translation>Système</translation>
+        <translation>Réseau</translation>
     </message>
     <message id="ID_ContentPage_NotFinishedIfLeave">
         <source></source>
-        <translation>La vérification n'est pas terminée. Voulez-vous quitter ?</translation>
+        <translation>La vérification n'est pas terminée. Voulez-vous quitter ?</translation>
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
@@ -157,7 +157,7 @@
     </message>
     <message id="ID_HeadsetPage_ClickHere">
         <source></source>
-        <translation>Vous n'entendez pas le son ? Cliquez ici</translation>
+        <translation>Vous n'entendez pas le son ? Cliquez ici</translation>
     </message>
     <message id="ID_HeadsetPage_Doorbell">
         <source></source>
@@ -177,11 +177,11 @@
     </message>
     <message id="ID_HeadsetPage_Playing">
         <source></source>
-        <translation>En cours</translation>
+        <translation>Lecture</translation>
     </message>
     <message id="ID_HeadsetPage_PleaseSelectTheAnswer">
         <source></source>
-        <translation>Quel son entendez-vous ?</translation>
+        <translation>Quel son entendez-vous ?</translation>
     </message>
     <message id="ID_HeadsetPage_Saxophone">
         <source></source>
@@ -197,7 +197,7 @@
     </message>
     <message id="ID_HeadsetPage_Speaker">
         <source></source>
-        <translation>Sortie :</translation>
+        <translation>Sortie :</translation>
     </message>
     <message id="ID_HeadsetPage_Thunder">
         <source></source>
@@ -257,7 +257,7 @@
     </message>
     <message id="ID_Microphone">
         <source></source>
-        <translation>Micro :</translation>
+        <translation>Micro :</translation>
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
@@ -289,7 +289,7 @@
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>
-        <translation>Voix ou barre absente ? Cliquez ici</translation>
+        <translation>Voix ou barre absente ? Cliquez ici</translation>
     </message>
     <message id="ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable">
         <source></source>
@@ -305,7 +305,7 @@
     </message>
     <message id="ID_MicrophonePage_MicrophoneTest">
         <source></source>
-        <translation>Appuyez sur « Parler » et comptez à voix haute de 1 à 10. Écoutez votre voix et regardez si la barre verte bouge.</translation>
+        <translation>Appuyez sur « Parler » et comptez à voix haute de 1 à 10. Écoutez votre voix et regardez si la barre verte bouge.</translation>
     </message>
     <message id="ID_MicrophonePage_NoMicrophoneWasDetected">
         <source></source>
@@ -341,31 +341,31 @@
     </message>
     <message id="ID_NetworkPage_Account">
         <source></source>
-        <translation>Compte :</translation>
+        <translation>Compte :</translation>
     </message>
     <message id="ID_NetworkPage_AvailableCacheSpace">
         <source></source>
-        <translation>Cache disponible :</translation>
+        <translation>Cache libre :</translation>
     </message>
     <message id="ID_NetworkPage_CPU">
         <source></source>
-        <translation>Processeur :</translation>
+        <translation>Processeur :</translation>
     </message>
     <message id="ID_NetworkPage_ClickHere">
         <source></source>
-        <translation>Réseau lent ou instable ? Cliquez ici</translation>
+        <translation>Réseau lent ou instable ? Cliquez ici</translation>
     </message>
     <message id="ID_NetworkPage_Client">
         <source></source>
-        <translation>Client :</translation>
+        <translation>Client :</translation>
     </message>
     <message id="ID_NetworkPage_LostRate">
         <source></source>
-        <translation>Taux de perte :</translation>
+        <translation>Taux de perte :</translation>
     </message>
     <message id="ID_NetworkPage_NetworkDelay">
         <source></source>
-        <translation>Délai du réseau :</translation>
+        <translation>Latence réseau :</translation>
     </message>
     <message id="ID_NetworkPage_NetworkSlowOrUnstable">
         <source></source>
@@ -373,11 +373,11 @@
     </message>
     <message id="ID_NetworkPage_OS">
         <source></source>
-        <translation>Système :</translation>
+        <translation>Système :</translation>
     </message>
     <message id="ID_NewLogin_Server">
         <source></source>
-        <translation>Serveur :</translation>
+        <translation>Serveur :</translation>
     </message>
     <message id="ID_Next">
         <source></source>
@@ -385,7 +385,7 @@
     </message>
     <message id="ID_Nickname_NetworkPage">
         <source></source>
-        <translation>Pseudo :</translation>
+        <translation>Pseudo :</translation>
     </message>
     <message id="ID_OK">
         <source></source>
@@ -401,7 +401,7 @@
     </message>
     <message id="ID_Volume">
         <source></source>
-        <translation>Niveau :</translation>
+        <translation>Niveau :</translation>
     </message>
     <message id="ID_WelcomePage_StartTest">
         <source></source>

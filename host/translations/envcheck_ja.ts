@@ -73,7 +73,7 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>確認して、もう一度お試しください。</translation>
+        <translation>確認して再度お試しください。</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
@@ -161,7 +161,7 @@
     </message>
     <message id="ID_HeadsetPage_Doorbell">
         <source></source>
-        <translation>呼び鈴</translation>
+        <translation>ドアチャイム</translation>
     </message>
     <message id="ID_HeadsetPage_Piano">
         <source></source>
@@ -277,11 +277,11 @@
     </message>
     <message id="ID_MicrophonePage_CanHearOrSee">
         <source></source>
-        <translation>はい、両方できます</translation>
+        <translation>はい、確認できました</translation>
     </message>
     <message id="ID_MicrophonePage_CanNotHearOrSee">
         <source></source>
-        <translation>いいえ、できません</translation>
+        <translation>確認できません</translation>
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
@@ -365,7 +365,7 @@
     </message>
     <message id="ID_NetworkPage_NetworkDelay">
         <source></source>
-        <translation>ネットワーク遅延：</translation>
+        <translation>通信遅延：</translation>
     </message>
     <message id="ID_NetworkPage_NetworkSlowOrUnstable">
         <source></source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="ID_CameraPage_1">
         <source></source>
-        <translation>1. Verifique se o aparelho está conectado e escolhido na lista.</translation>
+        <translation>1. Verifique se o dispositivo está conectado e escolhido na lista.</translation>
     </message>
     <message id="ID_CameraPage_2">
         <source></source>
@@ -21,7 +21,7 @@
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
-        <translation>5. Reinicie o computador ou tente outro aparelho.</translation>
+        <translation>5. Reinicie o computador ou tente outro dispositivo.</translation>
     </message>
     <message id="ID_CameraPage_Camera">
         <source></source>
@@ -333,7 +333,7 @@
     </message>
     <message id="ID_NetworkPage_2">
         <source></source>
-        <translation>2. Pare downloads e vídeos, também em outros aparelhos.</translation>
+        <translation>2. Pare downloads e vídeos, também em outros dispositivos.</translation>
     </message>
     <message id="ID_NetworkPage_3">
         <source></source>

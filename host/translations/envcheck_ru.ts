@@ -73,7 +73,7 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>Исправьте и проверьте снова.</translation>
+        <translation>Исправьте и повторите.</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
@@ -101,7 +101,7 @@
     </message>
     <message id="ID_CheckResultPage_System">
         <source></source>
-        <translation>Система</translation>
+        <translation>Сеть</translation>
     </message>
     <message id="ID_ContentPage_NotFinishedIfLeave">
         <source></source>
@@ -169,11 +169,11 @@
     </message>
     <message id="ID_HeadsetPage_Play">
         <source></source>
-        <translation>Слушать</translation>
+        <translation>Пуск</translation>
     </message>
     <message id="ID_HeadsetPage_PlayAgain">
         <source></source>
-        <translation>Ещё раз</translation>
+        <translation>Снова</translation>
     </message>
     <message id="ID_HeadsetPage_Playing">
         <source></source>
@@ -217,7 +217,7 @@
     </message>
     <message id="ID_HeadsetPage_play">
         <source></source>
-        <translation>Слушать</translation>
+        <translation>Пуск</translation>
     </message>
     <message id="ID_HeadsetPage_sound0">
         <source></source>
@@ -273,7 +273,7 @@
     </message>
     <message id="ID_MicrophonePage_Again">
         <source></source>
-        <translation>Ещё раз</translation>
+        <translation>Снова</translation>
     </message>
     <message id="ID_MicrophonePage_CanHearOrSee">
         <source></source>
@@ -321,7 +321,7 @@
     </message>
     <message id="ID_MicrophonePage_Recording">
         <source></source>
-        <translation>Говорите</translation>
+        <translation>Идёт…</translation>
     </message>
     <message id="ID_Microphone_Check">
         <source></source>

@@ -101,7 +101,7 @@
     </message>
     <message id="ID_CheckResultPage_System">
         <source></source>
-        <translation>Hệ thống</translation>
+        <translation>Mạng</translation>
     </message>
     <message id="ID_ContentPage_NotFinishedIfLeave">
         <source></source>

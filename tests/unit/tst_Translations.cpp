@@ -38,7 +38,8 @@ const QStringList SOUND_IDS = {
 const QString PLACELESS = QStringLiteral("ID_Host_");
 
 // Where texts stand: the room in pixels that the frame, the padding or the indicator leaves, and
-// the size of the letters. A height means that the text wraps.
+// the size of the letters. A height means that the text wraps. The 12 points of the check area are
+// 16 pixels on a desktop and 17 on the offscreen platform.
 struct Place
 {
     const char* ids;
@@ -49,9 +50,9 @@ struct Place
 };
 
 constexpr Place PLACES[] = {
-    // Step labels: 86 wide, 10 of them padding, at the 12 points of the check area.
+    // Step labels: 86 wide, less 10 of padding and the indent of a framed label.
     {"ID_CheckResultPage_System ID_Camera_Check ID_CheckResultPage_Headphone ID_Microphone_Check",
-     16, 76},
+     17, 71},
     // The same texts in the item column of the result table.
     {"ID_CheckResultPage_System ID_Camera_Check ID_CheckResultPage_Headphone ID_Microphone_Check",
      12, 82},
@@ -59,31 +60,31 @@ constexpr Place PLACES[] = {
     {"ID_Next ID_CameraPage_CannotSee ID_HeadsetPage_CanHear ID_HeadsetPage_CanNotHear", 14, 128},
     {"ID_CameraPage_Yes ID_CameraPage_No", 14, 128, 0, "(3)"},
     {"ID_MicrophonePage_CanHearOrSee ID_MicrophonePage_CanNotHearOrSee", 14, 160},
-    // Captions and values of the network page, at the 12 points of the check area.
+    // Captions and values of the network page.
     {"ID_NetworkPage_Account ID_Nickname_NetworkPage ID_NetworkPage_OS ID_NetworkPage_CPU "
      "ID_NetworkPage_AvailableCacheSpace ID_NetworkPage_NetworkDelay ID_NetworkPage_LostRate "
      "ID_NewLogin_Server ID_NetworkPage_Client",
-     16, 150},
-    {"ID_Engine_BuiltInResponder", 16, 278},
+     17, 150},
+    {"ID_Engine_BuiltInResponder", 17, 278},
     // Captions of the device pages.
     {"ID_CameraPage_Camera", 12, 52},
     {"ID_HeadsetPage_Speaker ID_Microphone", 12, 65},
     {"ID_Volume", 12, 50},
-    // Answers: 95 at most, less the indicator and its spacing.
+    // Answers: 95 at most, less 21 for the indicator and its spacing.
     {"ID_HeadsetPage_Piano ID_HeadsetPage_Seagull ID_HeadsetPage_Thunder ID_HeadsetPage_Doorbell "
      "ID_HeadsetPage_Shutter ID_HeadsetPage_Bubble ID_HeadsetPage_Typing "
      "ID_HeadsetPage_Saxophone ID_HeadsetPage_sound0 ID_HeadsetPage_sound1 "
      "ID_HeadsetPage_sound2 ID_HeadsetPage_sound3",
      12, 73},
-    // Below the play and record buttons, at the 12 points of the check area.
+    // Below the play and record buttons: 78 wide, less the frame and its indent.
     {"ID_HeadsetPage_play ID_HeadsetPage_Play ID_HeadsetPage_Playing ID_HeadsetPage_PlayAgain "
      "ID_Record ID_MicrophonePage_Recording ID_MicrophonePage_OfS ID_MicrophonePage_Again",
-     16, 78},
+     17, 71},
     // How-to lines.
     {"ID_HeadsetPage_Tip ID_MicrophonePage_MicrophoneTest", 12, 306, 60},
-    // Result page: 14 points above, 12 below.
+    // Result page: 14 points, and the 12 of the check area.
     {"ID_CheckResultPage_EquipmentNormal ID_CheckResultPage_EquipmentAbnormal", 19, 270},
-    {"ID_CheckResultPage_OK ID_CheckResultPage_CheckEquipmentAndRetest", 16, 270},
+    {"ID_CheckResultPage_OK ID_CheckResultPage_CheckEquipmentAndRetest", 17, 270},
     {"ID_CheckResultPage_Redetect ID_OK", 14, 84},
     {"ID_CheckResultPage_Normal ID_CheckResultPage_Abnormal", 12, 80},
     // Details column of the result table, one line for each problem.
@@ -105,12 +106,12 @@ constexpr Place PLACES[] = {
     {"ID_CameraPage_DisabledWillMakeCameraUnusable "
      "ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable",
      12, 370},
-    {"ID_MicrophonePage_MayNoisy ID_HeadsetPage_PleaseSelectTheAnswer", 16, 360},
+    {"ID_MicrophonePage_MayNoisy ID_HeadsetPage_PleaseSelectTheAnswer", 17, 360},
     // Entries of the device lists.
     {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected",
      12, 270},
     // Dialog, question and welcome page.
-    {"ID_Kestrel_SystemTesting", 16, 300},
+    {"ID_Kestrel_SystemTesting", 17, 300},
     {"ID_MessageBox_Question ID_MessageBox_Information ID_MessageBox_Warning "
      "ID_MessageBox_Critical",
      14, 200},
