@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Platform {
+
+// What the host tells the real engine. Texts are shown as they are.
+struct DeviceEngineConfig
+{
+    QString server;               // "stun:HOST:PORT"; empty: the program's own responder
+    QString builtInResponderText; // what the server line says then; empty: the usual words
+    QString cdnFirstPart;
+    QString cdnSecondPart;
+    QString account;        // empty: the operating system's user
+    QString nickname;       // likewise
+    QString resultsPath;    // the results' JSON document; empty: kept in memory
+    QString reportUrl;      // http or https; empty: reports stay in the journal
+    QString settingsFolder; // the settings stores, the journal and the outbox
+    QString cacheFolder;    // its volume's free space is a fact to show
+};
+
+} // namespace Platform

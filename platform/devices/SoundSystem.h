@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/MicrophoneBackend.h"
+#include "platform/backend/PlayerBackend.h"
+#include "platform/backend/SpeakerBackend.h"
+
+#include <memory>
+
+namespace Platform {
+
+struct DeviceEngineConfig;
+
+// The sound of the real engine: one per engine, made with it and destroyed after all that it
+// created. GUI thread only.
+class SoundSystem
+{
+public:
+    virtual ~SoundSystem() = default;
+
+    virtual std::unique_ptr<MicrophoneBackend>
+    createMicrophone(MicrophoneBackend::Listener& listener) = 0;
+    virtual std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) = 0;
+    // Null where no player can be made.
+    virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
+                                                        PlayerBackend::Listener& listener) = 0;
+    virtual DeviceList speakers() const = 0;
+};
+
+// Defined once, by the folder that provides the sound of this build.
+std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& config);
+
+} // namespace Platform

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/facts/HostUser.h"
+
+#include <pwd.h>
+#include <unistd.h>
+#include <vector>
+
+namespace Platform {
+
+namespace {
+
+constexpr size_t BufferSize = 64 * 1024;
+
+} // namespace
+
+HostUser HostUser::current()
+{
+    std::vector<char> buffer(BufferSize);
+    passwd entry = {};
+    passwd* found = nullptr;
+    const uid_t id = getuid();
+    if (getpwuid_r(id, &entry, buffer.data(), buffer.size(), &found) != 0 || !found) {
+        return {QString::number(id), {}};
+    }
+    // The field holds the name, then office and telephones behind commas.
+    const QString details = QString::fromLocal8Bit(found->pw_gecos);
+    return {QString::fromLocal8Bit(found->pw_name),
+            details.section(QLatin1Char(','), 0, 0).trimmed()};
+}
+
+} // namespace Platform

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Platform {
+
+// The operating system's user this process runs as. Both texts are foreign.
+struct HostUser
+{
+    QString loginName; // the number where the user has no name
+    QString realName;  // may be empty
+
+    // Asks the user database, which may be a slow server: not for the GUI thread.
+    static HostUser current();
+};
+
+} // namespace Platform
