@@ -73,7 +73,7 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>أصلح المشكلة ثم أعد الفحص.</translation>
+        <translation>عالج المشكلة ثم كرر الفحص.</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
@@ -93,7 +93,7 @@
     </message>
     <message id="ID_CheckResultPage_OK">
         <source></source>
-        <translation>أنت جاهز للدرس.</translation>
+        <translation>يمكنك دخول الدرس.</translation>
     </message>
     <message id="ID_CheckResultPage_Redetect">
         <source></source>

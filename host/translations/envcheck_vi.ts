@@ -73,7 +73,7 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>Hãy khắc phục rồi kiểm tra lại.</translation>
+        <translation>Hãy sửa và thử lại.</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
@@ -93,7 +93,7 @@
     </message>
     <message id="ID_CheckResultPage_OK">
         <source></source>
-        <translation>Bạn đã sẵn sàng vào lớp.</translation>
+        <translation>Xin mời vào lớp.</translation>
     </message>
     <message id="ID_CheckResultPage_Redetect">
         <source></source>
