@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/ScriptedCamera.h"
+
+#include "platform/scripted/ScriptedCameras.h"
+#include "platform/scripted/TestPattern.h"
+
+#include <algorithm>
+
+namespace Platform {
+
+namespace {
+
+constexpr int MsPerSecond = 1000;
+constexpr int RecentFramePeriods = 5;
+constexpr int RecentMs = 500;
+
+} // namespace
+
+ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, Listener& listener)
+    : m_cameras(cameras), m_listener(listener), m_session(log, QStringLiteral("camera"))
+{
+    m_frameTimer.setTimerType(Qt::PreciseTimer);
+    m_watchdog.setSingleShot(true);
+    connect(&m_frameTimer, &QTimer::timeout, this, &ScriptedCamera::onFrame);
+    connect(&m_watchdog, &QTimer::timeout, this, &ScriptedCamera::notifyWorkState);
+
+    connect(
+        &m_cameras, &ScriptedCameras::listChanged, this, [this] { m_listener.cameraListChanged(); },
+        Qt::QueuedConnection);
+    connect(&m_cameras, &ScriptedCameras::currentChanged, this, &ScriptedCamera::onCurrentChanged);
+    connect(
+        &m_cameras, &ScriptedCameras::currentChanged, this,
+        [this](const QString& id) { m_listener.currentCameraChanged(id); }, Qt::QueuedConnection);
+    const auto refresh = [this] {
+        runFrames();
+        notifyWorkState();
+    };
+    connect(&m_cameras, &ScriptedCameras::currentStateChanged, this, refresh);
+    connect(&m_cameras, &ScriptedCameras::currentFeedChanged, this, refresh);
+    m_notified = workStateOf(currentState());
+}
+
+ScriptedCamera::~ScriptedCamera() = default;
+
+DeviceList ScriptedCamera::devices() const
+{
+    m_session.query("devices");
+    return m_cameras.devices();
+}
+
+QString ScriptedCamera::currentId() const
+{
+    m_session.query("currentId");
+    return m_cameras.currentId();
+}
+
+QString ScriptedCamera::currentName() const
+{
+    m_session.query("currentName");
+    return m_cameras.currentName();
+}
+
+void ScriptedCamera::setCurrent(const QString& id)
+{
+    m_session.call("setCurrent", id);
+    m_cameras.choose(id);
+}
+
+DeviceState ScriptedCamera::state() const
+{
+    m_session.query("state");
+    return currentState();
+}
+
+bool ScriptedCamera::delivers() const
+{
+    m_session.query("delivers");
+    return isDelivering();
+}
+
+void ScriptedCamera::start()
+{
+    m_session.call("start");
+    m_isStarted = true;
+    runFrames();
+    m_notified = workStateOf(currentState());
+}
+
+// What changes by this call is known to the caller: it is not notified.
+void ScriptedCamera::stop()
+{
+    m_session.call("stop");
+    m_isStarted = false;
+    m_watchdog.stop();
+    runFrames();
+    m_notified = workStateOf(currentState());
+}
+
+void ScriptedCamera::setOutputSize(const QSize& pixels)
+{
+    m_session.call("setOutputSize",
+                   QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height()));
+    m_outputSize = pixels;
+    m_picture = {};
+}
+
+QImage ScriptedCamera::latestPicture() const
+{
+    m_session.query("latestPicture");
+    if (m_frame > 0 && m_picture.isNull()) {
+        const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
+        const QSize size = TestPattern::fitted(feed.size, m_outputSize);
+        m_picture = feed.pictures == ScriptedCameras::Pictures::Black
+                        ? TestPattern::black(size)
+                        : TestPattern::picture(size, m_cameras.currentName(), m_frame);
+    }
+    return m_picture;
+}
+
+// The listener hears of another camera, and with that of its state, in one call.
+void ScriptedCamera::onCurrentChanged()
+{
+    m_watchdog.stop();
+    m_frame = 0;
+    m_picture = {};
+    runFrames();
+    m_notified = workStateOf(currentState());
+}
+
+void ScriptedCamera::onFrame()
+{
+    const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
+    if (m_frame == 0 || feed.pictures != ScriptedCameras::Pictures::Frozen) {
+        ++m_frame;
+        m_picture = {};
+    }
+    m_watchdog.start(std::max(RecentMs, RecentFramePeriods * MsPerSecond / feed.framesPerSecond));
+    notifyWorkState();
+    m_listener.pictureArrived();
+}
+
+bool ScriptedCamera::canDeliver() const
+{
+    const DeviceState state = m_cameras.currentState();
+    return (state == DeviceState::Ready || state == DeviceState::Working) &&
+           m_cameras.feed(m_cameras.currentId()).pictures != ScriptedCameras::Pictures::None;
+}
+
+bool ScriptedCamera::isDelivering() const
+{
+    return m_watchdog.isActive() ||
+           (canDeliver() && m_cameras.currentState() == DeviceState::Working);
+}
+
+DeviceState ScriptedCamera::currentState() const
+{
+    const DeviceState state = m_cameras.currentState();
+    if (state != DeviceState::Ready && state != DeviceState::Working) {
+        return state;
+    }
+    if (isDelivering()) {
+        return DeviceState::Working;
+    }
+    return m_isStarted ? DeviceState::Silent : DeviceState::Ready;
+}
+
+// A stall is noticed by the watchdog, as with a real camera; what the state says holds at once.
+void ScriptedCamera::runFrames()
+{
+    if (m_isStarted && canDeliver()) {
+        const int rate = m_cameras.feed(m_cameras.currentId()).framesPerSecond;
+        m_frameTimer.start(MsPerSecond / rate);
+        return;
+    }
+    m_frameTimer.stop();
+    const DeviceState state = m_cameras.currentState();
+    if (state != DeviceState::Ready && state != DeviceState::Working) {
+        m_watchdog.stop();
+    }
+}
+
+void ScriptedCamera::notifyWorkState()
+{
+    const WorkState now = workStateOf(currentState());
+    if (now == m_notified) {
+        return;
+    }
+    m_notified = now;
+    QMetaObject::invokeMethod(
+        this,
+        [this, id = m_cameras.currentId(), works = now.works] {
+            m_listener.cameraWorkStateChanged(id, works);
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace Platform

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/ScriptedEngine.h"
+
+#include "platform/backend/EngineRegistry.h"
+#include "platform/scripted/ScriptedCamera.h"
+#include "platform/scripted/ScriptedMicrophone.h"
+#include "platform/scripted/ScriptedNetworkProbe.h"
+#include "platform/scripted/ScriptedPlayer.h"
+#include "platform/scripted/ScriptedSpeaker.h"
+
+#include <QFileInfo>
+
+namespace Platform {
+
+ScriptedEngine::ScriptedEngine()
+    : m_facts(m_log), m_reports(m_log), m_settingsFolder(m_privateFolder.path())
+{
+}
+
+ScriptedEngine::~ScriptedEngine() = default;
+
+ScriptedEngine& ScriptedEngine::install()
+{
+    auto engine = std::make_unique<ScriptedEngine>();
+    ScriptedEngine& result = *engine;
+    EngineRegistry::install(std::move(engine));
+    return result;
+}
+
+std::unique_ptr<CameraBackend> ScriptedEngine::createCamera(CameraBackend::Listener& listener)
+{
+    return std::make_unique<ScriptedCamera>(m_cameras, m_log, listener);
+}
+
+std::unique_ptr<MicrophoneBackend>
+ScriptedEngine::createMicrophone(MicrophoneBackend::Listener& listener)
+{
+    return std::make_unique<ScriptedMicrophone>(m_microphones, m_log, listener);
+}
+
+std::unique_ptr<SpeakerBackend> ScriptedEngine::createSpeaker(SpeakerBackend::Listener& listener)
+{
+    return std::make_unique<ScriptedSpeaker>(m_speakers, m_log, listener);
+}
+
+std::unique_ptr<PlayerBackend> ScriptedEngine::createPlayer(const QString& path, float /*volume*/,
+                                                            PlayerBackend::Listener& listener)
+{
+    if (m_speakers.playerFails()) {
+        m_log.add(QStringLiteral("player.refuse(%1)").arg(QFileInfo(path).fileName()));
+        return nullptr;
+    }
+    return std::make_unique<ScriptedPlayer>(m_speakers, m_log, path, listener);
+}
+
+std::unique_ptr<NetworkProbe> ScriptedEngine::createNetworkProbe(NetworkProbe::Listener& listener)
+{
+    return std::make_unique<ScriptedNetworkProbe>(m_network, m_log, listener);
+}
+
+DeviceList ScriptedEngine::speakers() const
+{
+    m_log.addQuery(QStringLiteral("engine.speakers()"));
+    return m_speakers.devices();
+}
+
+} // namespace Platform

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/MicrophoneBackend.h"
+#include "platform/scripted/LoggedSession.h"
+#include "platform/scripted/WorkState.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+namespace Platform {
+
+class ScriptedMicrophones;
+
+// One user of the scripted microphones.
+class ScriptedMicrophone final : public QObject, public MicrophoneBackend
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(ScriptedMicrophone)
+
+public:
+    ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog& log, Listener& listener);
+    ~ScriptedMicrophone() override;
+
+    DeviceList devices() const override;
+    QString currentId() const override;
+    QString currentName() const override;
+    void setCurrent(const QString& id) override;
+    DeviceState state() const override;
+    bool hasHeardSound() const override;
+
+    void open() override;
+    void close() override;
+    void setListening(bool on) override;
+
+    bool isVolumeAdjustable() const override;
+    int volume() const override;
+    void setVolume(int percent) override;
+
+private:
+    void connectModel();
+    void onCurrentChanged();
+    void onStateChanged();
+    void onLevelTick();
+    void measure(double level);
+    bool hasHeard() const;
+    DeviceState currentState() const;
+    void runLevels();
+    void notifyWorkState();
+
+    ScriptedMicrophones& m_microphones;
+    Listener& m_listener;
+    LoggedSession m_session;
+    QTimer m_levelTimer;
+    QElapsedTimer m_openClock;
+    bool m_isOpen = false;
+    bool m_hasHeard = false;
+    WorkState m_notified;
+};
+
+} // namespace Platform

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/scripted/ScriptedDevices.h"
+
+#include <QMap>
+
+namespace Platform {
+
+// The scripted microphones and what each of them hears.
+class CLASSROOMSCRIPTED_EXPORT ScriptedMicrophones : public ScriptedDevices
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(ScriptedMicrophones)
+
+public:
+    static constexpr int MaxVolume = 150;
+
+    struct LevelPoint
+    {
+        int atMs = 0;
+        double level = 0; // 0 to 1
+    };
+    // Straight lines between its points, repeated from the last one on. Without a point no level
+    // is measured but those of emitLevel().
+    using LevelCurve = std::vector<LevelPoint>;
+
+    ScriptedMicrophones();
+    ~ScriptedMicrophones() override;
+
+    // Kept while the microphone is unplugged.
+    void setLevelCurve(const QString& id, const LevelCurve& curve);
+    void setLevel(const QString& id, double level); // a constant one
+    void setAdjustable(const QString& id, bool isAdjustable);
+    void setVolume(const QString& id, int percent);
+
+    // One level, whatever it is, as if the current microphone had measured it.
+    void emitLevel(double level);
+    // Somebody else moves the volume of the current microphone.
+    void moveVolumeFromOutside(float percent);
+
+    bool hasLevels() const; // of the current microphone
+    double levelAt(qint64 ms) const;
+    bool isAdjustable() const;
+    int volume() const;
+    void setVolumeByUser(int percent);
+
+Q_SIGNALS:
+    void currentLevelsChanged();
+    void levelEmitted(double level);
+    void volumeSetByUser(int percent);
+    void volumeMovedFromOutside(float percent);
+
+private:
+    struct Input
+    {
+        LevelCurve curve;
+        bool isAdjustable = true;
+        int volume = 100;
+    };
+
+    Input current() const { return m_inputs.value(currentId()); }
+
+    QMap<QString, Input> m_inputs;
+};
+
+} // namespace Platform

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/ScriptedPlayer.h"
+
+#include "platform/scripted/ScriptedSpeakers.h"
+
+#include <QFileInfo>
+
+namespace Platform {
+
+namespace {
+
+constexpr int UsualLengthMs = 3000;
+
+int lengthOf(const ScriptedSpeakers& speakers, const QFileInfo& file)
+{
+    const int scripted = speakers.soundLength(file.fileName());
+    if (scripted >= 0) {
+        return scripted;
+    }
+    return file.isFile() ? UsualLengthMs : 0;
+}
+
+} // namespace
+
+ScriptedPlayer::ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, const QString& path,
+                               Listener& listener)
+    : m_speakers(speakers),
+      m_listener(listener),
+      m_session(log, QStringLiteral("player"), QFileInfo(path).fileName())
+{
+    m_speakers.addPlayedFile(path);
+    m_endTimer.setSingleShot(true);
+    connect(&m_endTimer, &QTimer::timeout, this, &ScriptedPlayer::finish);
+    connect(&m_speakers, &ScriptedSpeakers::playbackEnded, this, &ScriptedPlayer::finish,
+            Qt::QueuedConnection);
+    connect(&m_speakers, &ScriptedSpeakers::currentStateChanged, this,
+            &ScriptedPlayer::endWithoutSpeaker);
+    connect(&m_speakers, &ScriptedSpeakers::currentChanged, this,
+            &ScriptedPlayer::endWithoutSpeaker);
+    m_endTimer.start(lengthOf(m_speakers, QFileInfo(path)));
+    endWithoutSpeaker();
+}
+
+ScriptedPlayer::~ScriptedPlayer() = default;
+
+void ScriptedPlayer::endWithoutSpeaker()
+{
+    if (!isUsable(m_speakers.currentState())) {
+        m_endTimer.start(0);
+    }
+}
+
+void ScriptedPlayer::finish()
+{
+    if (!m_isFinished) {
+        m_isFinished = true;
+        m_endTimer.stop();
+        m_listener.playbackFinished();
+    }
+}
+
+} // namespace Platform

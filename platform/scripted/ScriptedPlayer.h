@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/PlayerBackend.h"
+#include "platform/scripted/LoggedSession.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace Platform {
+
+class ScriptedSpeakers;
+
+// One sound that takes its time and makes no noise. It ends early when its speaker goes away, and
+// at once when there is no such file.
+class ScriptedPlayer final : public QObject, public PlayerBackend
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(ScriptedPlayer)
+
+public:
+    ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, const QString& path,
+                   Listener& listener);
+    ~ScriptedPlayer() override;
+
+private:
+    void endWithoutSpeaker();
+    void finish();
+
+    ScriptedSpeakers& m_speakers;
+    Listener& m_listener;
+    LoggedSession m_session;
+    QTimer m_endTimer;
+    bool m_isFinished = false;
+};
+
+} // namespace Platform

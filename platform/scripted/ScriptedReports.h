@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomScripted/ClassroomScriptedExport.h"
+#include "platform/backend/ReportSink.h"
+#include "platform/backend/ResultDocument.h"
+
+#include <QVector>
+
+namespace Platform {
+
+class CallLog;
+
+// Takes what a run reports, and keeps it for the scenario's author to look at.
+class CLASSROOMSCRIPTED_EXPORT ScriptedReports final : public ReportSink
+{
+public:
+    enum class Outcome { Accepted, Refused, Unreachable };
+
+    struct Post
+    {
+        QString managerName;
+        int code = 0;
+        Outcome outcome = Outcome::Accepted; // what the server made of it
+    };
+
+    explicit ScriptedReports(CallLog& log);
+    ~ScriptedReports() override;
+
+    void setOutcome(Outcome outcome) { m_outcome = outcome; } // of the posts to come
+    QVector<Post> posts() const { return m_posts; }
+    ResultDocument& document() { return m_document; } // in memory unless it is given a path
+
+    void recordResult(const QString& key, const QJsonValue& value) override;
+    void recordMeasurement(const QString& check, const QJsonObject& figures) override;
+    void postCode(const QString& managerName, int code) override;
+
+private:
+    CallLog& m_log;
+    ResultDocument m_document;
+    QVector<Post> m_posts;
+    Outcome m_outcome = Outcome::Accepted;
+};
+
+} // namespace Platform

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/ScriptedSpeaker.h"
+
+#include "platform/scripted/ScriptedSpeakers.h"
+
+namespace Platform {
+
+ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Listener& listener)
+    : m_speakers(speakers), m_listener(listener), m_session(log, QStringLiteral("speaker"))
+{
+    connect(
+        &m_speakers, &ScriptedSpeakers::listChanged, this,
+        [this] { m_listener.speakerListChanged(); }, Qt::QueuedConnection);
+    connect(
+        &m_speakers, &ScriptedSpeakers::currentChanged, this,
+        [this](const QString& id) { m_listener.currentSpeakerChanged(id); }, Qt::QueuedConnection);
+    connect(
+        &m_speakers, &ScriptedSpeakers::volumeMovedFromOutside, this,
+        [this](int percent) { m_listener.speakerVolumeChanged(percent); }, Qt::QueuedConnection);
+    connect(
+        &m_speakers, &ScriptedSpeakers::currentStateChanged, this,
+        [this] { m_listener.speakerWorkStateChanged(isUsable(m_speakers.currentState())); },
+        Qt::QueuedConnection);
+}
+
+ScriptedSpeaker::~ScriptedSpeaker() = default;
+
+QString ScriptedSpeaker::currentId() const
+{
+    m_session.query("currentId");
+    return m_speakers.currentId();
+}
+
+QString ScriptedSpeaker::currentName() const
+{
+    m_session.query("currentName");
+    return m_speakers.currentName();
+}
+
+void ScriptedSpeaker::setCurrent(const QString& id)
+{
+    m_session.call("setCurrent", id);
+    m_speakers.choose(id);
+}
+
+DeviceState ScriptedSpeaker::state() const
+{
+    m_session.query("state");
+    return m_speakers.currentState();
+}
+
+int ScriptedSpeaker::volume() const
+{
+    m_session.query("volume");
+    return m_speakers.volume();
+}
+
+void ScriptedSpeaker::setVolume(int percent)
+{
+    m_session.call("setVolume", QString::number(percent));
+    m_speakers.setVolumeByUser(percent);
+}
+
+} // namespace Platform

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/ScriptedSpeakers.h"
+
+#include <algorithm>
+
+namespace Platform {
+
+ScriptedSpeakers::ScriptedSpeakers() = default;
+
+ScriptedSpeakers::~ScriptedSpeakers() = default;
+
+void ScriptedSpeakers::setVolume(const QString& id, int percent)
+{
+    m_volumes.insert(id, std::clamp(percent, 0, MaxVolume));
+}
+
+void ScriptedSpeakers::moveVolumeFromOutside(int percent)
+{
+    setVolume(currentId(), percent);
+    Q_EMIT volumeMovedFromOutside(volume());
+}
+
+void ScriptedSpeakers::finishPlayback()
+{
+    Q_EMIT playbackEnded();
+}
+
+int ScriptedSpeakers::volume() const
+{
+    return m_volumes.value(currentId(), DefaultVolume);
+}
+
+void ScriptedSpeakers::setVolumeByUser(int percent)
+{
+    setVolume(currentId(), percent);
+}
+
+int ScriptedSpeakers::soundLength(const QString& fileName) const
+{
+    return m_soundLengths.value(fileName, -1);
+}
+
+} // namespace Platform

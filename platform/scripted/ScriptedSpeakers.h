@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/scripted/ScriptedDevices.h"
+
+#include <QMap>
+#include <QStringList>
+
+namespace Platform {
+
+// The scripted speakers and the sounds that are played on them.
+class CLASSROOMSCRIPTED_EXPORT ScriptedSpeakers : public ScriptedDevices
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(ScriptedSpeakers)
+
+public:
+    static constexpr int DefaultVolume = 50;
+    static constexpr int MaxVolume = 100;
+
+    ScriptedSpeakers();
+    ~ScriptedSpeakers() override;
+
+    void setVolume(const QString& id, int percent); // kept while the speaker is unplugged
+    // Somebody else moves the volume of the current speaker.
+    void moveVolumeFromOutside(int percent);
+
+    // How long the file of that name plays; without it as long as the file says.
+    void setSoundLength(const QString& fileName, int ms) { m_soundLengths.insert(fileName, ms); }
+    // From now on no player can be made.
+    void setPlayerFails(bool fails) { m_playerFails = fails; }
+    // The sound that is playing ends now.
+    void finishPlayback();
+    // Full paths of all sounds that were started.
+    QStringList playedFiles() const { return m_playedFiles; }
+
+    int volume() const; // of the current speaker
+    void setVolumeByUser(int percent);
+    bool playerFails() const { return m_playerFails; }
+    int soundLength(const QString& fileName) const; // -1 where none was set
+    void addPlayedFile(const QString& path) { m_playedFiles.append(path); }
+
+Q_SIGNALS:
+    void volumeMovedFromOutside(int percent);
+    void playbackEnded();
+
+private:
+    QMap<QString, int> m_volumes;
+    QMap<QString, int> m_soundLengths;
+    QStringList m_playedFiles;
+    bool m_playerFails = false;
+};
+
+} // namespace Platform

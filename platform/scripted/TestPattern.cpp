@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/TestPattern.h"
+
+#include <QFont>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace Platform {
+
+namespace {
+
+constexpr int Hues = 360;
+constexpr int BarSteps = 90; // frames for one way across the picture
+constexpr int BarShare = 20; // the bar's width as a part of the picture's
+constexpr int FontShare = 8; // the letters' height as a part of the picture's
+constexpr int MarginShare = 20;
+
+QImage emptyPicture(const QSize& size)
+{
+    QImage picture(size.expandedTo(QSize(1, 1)), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    return picture;
+}
+
+} // namespace
+
+QSize TestPattern::fitted(const QSize& size, const QSize& bound)
+{
+    if (bound.isEmpty() || (size.width() <= bound.width() && size.height() <= bound.height())) {
+        return size;
+    }
+    return size.scaled(bound, Qt::KeepAspectRatio);
+}
+
+QImage TestPattern::picture(const QSize& size, const QString& name, int frame)
+{
+    QImage picture = emptyPicture(size);
+    const QRect area = picture.rect();
+    const int hue = static_cast<int>(qHash(name, 0) % Hues);
+    QLinearGradient background(area.topLeft(), area.bottomRight());
+    background.setColorAt(0, QColor::fromHsv(hue, 150, 150));
+    background.setColorAt(1, QColor::fromHsv((hue + Hues / 6) % Hues, 200, 70));
+
+    QPainter painter(&picture);
+    painter.fillRect(area, background);
+    const int barWidth = std::max(1, area.width() / BarShare);
+    const int barLeft = (area.width() - barWidth) * (frame % BarSteps) / BarSteps;
+    painter.fillRect(barLeft, 0, barWidth, area.height(), QColor(255, 255, 255, 110));
+
+    QFont font = painter.font();
+    font.setPixelSize(std::max(1, area.height() / FontShare));
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    const int margin = area.width() / MarginShare;
+    painter.drawText(area.adjusted(margin, 0, -margin, 0), Qt::AlignCenter | Qt::TextWrapAnywhere,
+                     name);
+    return picture;
+}
+
+QImage TestPattern::black(const QSize& size)
+{
+    return emptyPicture(size);
+}
+
+} // namespace Platform

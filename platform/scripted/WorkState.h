@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+namespace Platform {
+
+// What the listeners are told of a device's state: whether it may be opened and whether it works.
+struct WorkState
+{
+    bool isUsable = false;
+    bool works = false;
+
+    friend bool operator==(WorkState a, WorkState b)
+    {
+        return a.isUsable == b.isUsable && a.works == b.works;
+    }
+};
+
+inline WorkState workStateOf(DeviceState state)
+{
+    return {isUsable(state), state == DeviceState::Working};
+}
+
+} // namespace Platform
