@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "Journal.h"
+
+#include <CommEngine/HardwareMgr.h>
+#include <CommEngine/HardwareMgrInterface.h>
+#include <CommEngine/LumCamera.h>
+#include <CommEngine/SystemTestingResult.h>
+#include <CoreEngine/CommandNetworkTest.h>
+#include <CoreEngine/CoreEngine.h>
+#include <LumMedia/AudioPlayer.h>
+#include <LumUtility/LumSettings.h>
+#include <LumUtility/LumUtils.h>
+#include <LumUtility/OperatingSystem.h>
+#include <LumWidgets/LumCustomNormalDialog.h>
+#include <LumWidgets/LumMessageBox.h>
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+QStringList& journal()
+{
+    static QStringList lines;
+    return lines;
+}
+
+namespace {
+
+void note(const char* what, const QString& value)
+{
+    journal() << QLatin1String(what) + QLatin1Char(' ') + value;
+}
+
+void note(const char* what, int value)
+{
+    note(what, QString::number(value));
+}
+
+} // namespace
+
+const QString HardwareMgrInterface::NoneDevice = QStringLiteral("0");
+
+HardwareMgr::HardwareMgr(const QString& name, QObject* parent) : QObject(parent)
+{
+    setObjectName(name);
+}
+
+void HardwareMgr::postHardwardInfoToServer(int code)
+{
+    note("post", code);
+}
+
+QString LumCamera::getCurrentDevice() const
+{
+    return HardwareMgrInterface::NoneDevice;
+}
+
+void SystemTestingResult::writeCameraStateFromUser(int answer)
+{
+    note("camera answer", answer);
+}
+void SystemTestingResult::writeCameraState(int state)
+{
+    note("camera state", state);
+}
+void SystemTestingResult::writeCurrentCamera(const QString& name)
+{
+    note("camera name", name);
+}
+void SystemTestingResult::writeHeadphoneStateFromUser(int answer)
+{
+    note("headphone answer", answer);
+}
+void SystemTestingResult::writeHeadphoneState(int state)
+{
+    note("headphone state", state);
+}
+void SystemTestingResult::writeCurrentHeadphone(const QString& name)
+{
+    note("headphone name", name);
+}
+void SystemTestingResult::writeMicrophoneStateFromUser(int answer)
+{
+    note("microphone answer", answer);
+}
+void SystemTestingResult::writeMicrophoneState(int state)
+{
+    note("microphone state", state);
+}
+void SystemTestingResult::writeCurrentMicrophone(const QString& name)
+{
+    note("microphone name", name);
+}
+void SystemTestingResult::writeNetworkDelay(const QString& text)
+{
+    note("delay", text);
+}
+void SystemTestingResult::writeFrameLossRate(const QString& text)
+{
+    note("loss", text);
+}
+
+LumEngine::CoreEngine* LumEngine::CoreEngine::instance()
+{
+    static CoreEngine core;
+    return &core;
+}
+
+CommandNetworkTest::CommandNetworkTest(QObject* parent) : QObject(parent)
+{
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &CommandNetworkTest::networkInfoChanged);
+    timer->start(10);
+}
+
+AudioPlayer* CreateAudioPlayer(AudioPlayerType, QString, float, char*, int, bool, bool)
+{
+    auto* player = new AudioPlayer;
+    QTimer::singleShot(10, player, &AudioPlayer::playFileFinished);
+    return player;
+}
+
+int DeleleAudioPlayer(AudioPlayer* player)
+{
+    player->deleteLater();
+    return 0;
+}
+
+LumSettings* LumSettings::instance(const QString&)
+{
+    static LumSettings settings;
+    return &settings;
+}
+
+QString LumUtils::getMessageBoxTitle(QMessageBox::Icon)
+{
+    return QStringLiteral("Question");
+}
+
+QString OperatingSystem::getName(const QString& separator) const
+{
+    return QStringLiteral("minimal") + separator + QStringLiteral("system");
+}
+
+LumCustomNormalDialog::LumCustomNormalDialog(Type, QWidget* parent, Qt::WindowFlags flags,
+                                             ICustomedTitleBar*, bool)
+    : QDialog(parent, flags)
+{
+    new QVBoxLayout(this);
+}
+
+void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool)
+{
+    layout()->addWidget(widget);
+    connect(widget, &QObject::destroyed, this, &QDialog::accept);
+}
+
+QMessageBox::StandardButton LumMessageBox::question(QWidget*, const QString&, const QString& text,
+                                                    QMessageBox::StandardButtons,
+                                                    QMessageBox::StandardButton defaultButton)
+{
+    note("question", text);
+    return defaultButton;
+}
