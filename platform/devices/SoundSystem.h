@@ -11,6 +11,7 @@
 namespace Platform {
 
 struct DeviceEngineConfig;
+class ReportSink;
 
 // The sound of the real engine: one per engine, made with it and destroyed after all that it
 // created. GUI thread only.
@@ -28,7 +29,9 @@ public:
     virtual DeviceList speakers() const = 0;
 };
 
-// Defined once, by the folder that provides the sound of this build.
-std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& config);
+// Defined once, by the folder that provides the sound of this build. What it measured of a device
+// goes to the report.
+std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& config,
+                                               ReportSink& report);
 
 } // namespace Platform

@@ -55,7 +55,7 @@ public:
 
 } // namespace
 
-std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig&)
+std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig&, ReportSink&)
 {
     return std::make_unique<AbsentSoundSystem>();
 }
