@@ -105,6 +105,11 @@ class Shipped(unittest.TestCase):
                 left, right = np.sum(track**2, axis=1)
                 self.assertLess(abs(10 * np.log10(left / right)), 3)
 
+    def test_one_speaker_carries_both_channels(self):
+        for name, track in self.tracks.items():
+            with self.subTest(sound=name):
+                self.assertGreater(np.sum(track.mean(axis=0) ** 2), 0.5 * np.mean(np.sum(track**2, axis=1)))
+
     def test_sound_begins_at_once(self):
         for name, track in self.tracks.items():
             with self.subTest(sound=name):
@@ -198,7 +203,7 @@ class Rendered(unittest.TestCase):
                 quantised = render.rendered(name)
                 entry = render.record(quantised)
                 if entry["sha256"] != entries[name]["sha256"]:
-                    print(f"{name}: this machine rounds differently, compared within 2 steps of 65536")
+                    print(f"{name}: not the same to the last bit; comparing within 2 steps of 65536")
                     expected = render.recorded_samples(entries[name]).astype(int)
                     found = render.recorded_samples(entry).astype(int)
                     self.assertEqual(found.shape, expected.shape)

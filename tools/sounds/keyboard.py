@@ -28,12 +28,12 @@ def position(key):
 def blow(rng, scale, weight, bright):
     partials = []
     for hertz, gain, decay in (
-        (430, 0.32, 0.010), (760, 0.45, 0.008), (1240, 0.5, 0.006), (2150, 0.7, 0.0045), (3300, 0.8, 0.0035),
-        (4700, 0.6, 0.0025), (6300, 0.3, 0.002),
+        (430, 0.32, 0.014), (760, 0.45, 0.011), (1240, 0.5, 0.009), (2150, 0.7, 0.0065), (3300, 0.8, 0.0050),
+        (4700, 0.6, 0.0035), (6300, 0.3, 0.0025),
     ):
         tilt = (hertz / 1500) ** bright
         partials.append((hertz * scale * (1 + 0.03 * rng.standard_normal()), gain * tilt, decay))
-    return weight * kit.knock(rng, 0.07, partials, 0.0003, 0.7, (1500, 7500), 0.0028)
+    return weight * kit.knock(rng, 0.09, partials, 0.0003, 0.7, (1400, 7500), 0.0042)
 
 
 def stroke(rng, key, force):

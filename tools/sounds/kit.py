@@ -121,6 +121,12 @@ def room(rng, track, decay, wet, damping=5000, predelay=0.004, reflections=6):
     return result
 
 
+def narrowed(track, width):
+    """Moves both channels towards their middle, so that a device with one speaker loses little."""
+    middle = track.mean(axis=0)
+    return middle + width * (track - middle)
+
+
 def soften(track, amount):
     """Lowers loud stretches by a part of their level, as an engineer's compressor does. 0 leaves the track alone."""
     power = ndimage.gaussian_filter1d(np.sum(track**2, axis=0), 0.03 * RATE)

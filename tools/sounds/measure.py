@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
-"""Measures of a sound: format, length, loudness and true peak by EBU R 128, where its energy lies, how its ends sound."""
+"""Measures of a sound: format, length, loudness and true peak by EBU R 128, where its energy lies, how it ends."""
 
 import json
 import pathlib

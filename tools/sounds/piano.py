@@ -13,5 +13,5 @@ SECONDS = 3.9
 
 def render():
     track = score.play(pathlib.Path(__file__).with_name("piano.score"), SECONDS)
-    track = kit.highpass(150, track)
+    track = kit.narrowed(kit.highpass(150, track), 0.5)
     return kit.faded(kit.room(kit.generator(SEED), track, 0.9, 0.18, 4500, 0.012), 0.004, 0.6)

@@ -111,7 +111,8 @@ def play(score, seconds):
         song.write_bytes(midi(score.read_text(encoding="utf-8")))
         subprocess.run(
             ["fluidsynth", "-n", "-i", "-q", "-R", "0", "-C", "0", "-g", "0.5", "-r", str(kit.RATE),
-             "-o", "synth.cpu-cores=1", "-O", "float", "-E", "little", "-T", "raw", "-F", str(wave), str(FONT), str(song)],
+             "-o", "synth.cpu-cores=1", "-O", "float", "-E", "little", "-T", "raw",
+             "-F", str(wave), str(FONT), str(song)],
             check=True, stdout=subprocess.DEVNULL,
         )
         data = np.fromfile(wave, dtype="<f4").reshape(-1, 2)

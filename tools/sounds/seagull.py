@@ -79,7 +79,8 @@ def render():
     )
     for start, seconds, *shape, gain in cries:
         kit.place(near, start, cry(rng, seconds, *shape), -0.15 + 0.12 * start, gain)
-    for start, seconds, *shape, gain in ((2.62, 0.42, 640, 1260, 900, 0.3, 0.22), (3.1, 0.40, 640, 1230, 880, 0.3, 0.20)):
+    answers = ((2.62, 0.42, 640, 1260, 900, 0.3, 0.22), (3.1, 0.40, 640, 1230, 880, 0.3, 0.20))
+    for start, seconds, *shape, gain in answers:
         kit.place(far, start, kit.lowpass(3500, cry(rng, seconds, *shape), 1), 0.7, gain)
     # Open air: no tail to speak of, only the sea wall and the houses behind it answer.
     echo = kit.silence(SECONDS)

@@ -51,7 +51,9 @@ def motor(rng, seconds):
         sound += gain * (1 + 0.25 * kit.slow_noise(rng, count, 60)) * np.sin(order * turn + rng.uniform(0, 6.28))
     sound *= 1 + 0.35 * np.sin(turn / 5) + 0.2 * kit.slow_noise(rng, count, 90)
     grind = kit.bandpass(900, 6000, rng.standard_normal(count)) * (0.5 + 0.5 * np.sin(turn / 5 + 1)) ** 2
-    envelope = kit.curve(seconds, (0, 0), (0.015, 0.8), (0.1, 1), (seconds - 0.04, 0.9), (seconds - 0.005, 0), (seconds, 0))
+    envelope = kit.curve(
+        seconds, (0, 0), (0.015, 0.8), (0.1, 1), (seconds - 0.04, 0.9), (seconds - 0.005, 0), (seconds, 0),
+    )
     return (0.28 * sound + 0.5 * grind) * envelope
 
 
@@ -72,7 +74,8 @@ def picture(rng, track, start, exposure, winding):
     kit.place(track, moment + 0.026, mirror(rng, False), 0.0, 0.10)
     moment += 0.03
     kit.place(track, moment, motor(rng, winding), 0.05, 0.34)
-    stop = kit.knock(rng, 0.06, ((780, 0.6, 0.009), (1900, 0.5, 0.006), (3300, 0.4, 0.004)), 0.0004, 0.4, (1200, 6000), 0.004)
+    pawl = ((780, 0.6, 0.009), (1900, 0.5, 0.006), (3300, 0.4, 0.004))
+    stop = kit.knock(rng, 0.06, pawl, 0.0004, 0.4, (1200, 6000), 0.004)
     kit.place(track, moment + winding - 0.012, stop, 0.05, 0.3)
 
 
