@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/DeviceEngine.h"
+
+#include "platform/devices/CameraSystem.h"
+#include "platform/devices/SoundSystem.h"
+#include "platform/devices/facts/DeviceFacts.h"
+#include "platform/devices/network/StunProbe.h"
+#include "platform/devices/network/StunResponder.h"
+#include "platform/devices/reports/ReportOutbox.h"
+
+#include <QLoggingCategory>
+
+Q_LOGGING_CATEGORY(deviceEngineLog, "engine.devices")
+
+namespace Platform {
+
+namespace {
+
+QString shownServer(const DeviceEngineConfig& config)
+{
+    if (config.server.isEmpty()) {
+        return config.builtInResponderText.isEmpty() ? qtTrId("ID_Engine_BuiltInResponder")
+                                                     : config.builtInResponderText;
+    }
+    const std::optional<StunServer> server = StunServer::fromUrl(config.server);
+    return server ? server->toString() : config.server;
+}
+
+} // namespace
+
+// A probe with what it needs to live: the responder, where it asks that. Its last figures go into
+// the results.
+class DeviceEngine::EngineProbe final : public NetworkProbe
+{
+public:
+    EngineProbe(std::shared_ptr<StunResponder> responder, const StunServer& server,
+                Listener& listener, StunProbe::AddressHandler onClientAddress, ReportSink* sink)
+        : m_responder(std::move(responder)),
+          m_sink(sink),
+          m_probe(server, listener, std::move(onClientAddress))
+    {
+    }
+
+    ~EngineProbe() override
+    {
+        const NetworkFigures last = figures();
+        if (m_sink && last.sent > 0) {
+            m_sink->recordMeasurement(QStringLiteral("network"),
+                                      {{QStringLiteral("lossPercent"), last.lossPercent},
+                                       {QStringLiteral("delayMs"), last.delayMs},
+                                       {QStringLiteral("jitterMs"), last.jitterMs},
+                                       {QStringLiteral("sent"), last.sent},
+                                       {QStringLiteral("answered"), last.answered}});
+        }
+    }
+
+    NetworkFigures figures() const override { return m_probe.figures(); }
+
+private:
+    std::shared_ptr<StunResponder> m_responder;
+    ReportSink* m_sink;
+    StunProbe m_probe;
+};
+
+DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
+    : m_config(config),
+      m_reports(std::make_unique<ReportOutbox>(
+          config.resultsPath, config.settingsFolder + QLatin1String("/reports"), config.reportUrl)),
+      m_facts(std::make_unique<DeviceFacts>(
+          config, shownServer(config),
+          [this](NetworkProbe::Listener& listener, DeviceFacts::AddressHandler handler) {
+              return probe(listener, std::move(handler), nullptr);
+          })),
+      m_sound(createSoundSystem(config)),
+      m_cameras(createCameraSystem(config))
+{
+    if (!config.server.isEmpty() && !StunServer::fromUrl(config.server)) {
+        qCWarning(deviceEngineLog).noquote()
+            << "The network is not measured: the server" << config.server
+            << "is not one. Give it as stun:HOST:PORT";
+    }
+}
+
+DeviceEngine::~DeviceEngine() = default;
+
+void DeviceEngine::prepare(std::function<void()> done)
+{
+    m_facts->prepare(std::move(done));
+}
+
+std::unique_ptr<CameraBackend> DeviceEngine::createCamera(CameraBackend::Listener& listener)
+{
+    return m_cameras->createCamera(listener);
+}
+
+std::unique_ptr<MicrophoneBackend>
+DeviceEngine::createMicrophone(MicrophoneBackend::Listener& listener)
+{
+    return m_sound->createMicrophone(listener);
+}
+
+std::unique_ptr<SpeakerBackend> DeviceEngine::createSpeaker(SpeakerBackend::Listener& listener)
+{
+    return m_sound->createSpeaker(listener);
+}
+
+std::unique_ptr<PlayerBackend> DeviceEngine::createPlayer(const QString& path, float volume,
+                                                          PlayerBackend::Listener& listener)
+{
+    return m_sound->createPlayer(path, volume, listener);
+}
+
+std::unique_ptr<NetworkProbe> DeviceEngine::createNetworkProbe(NetworkProbe::Listener& listener)
+{
+    return probe(listener, {}, m_reports.get());
+}
+
+DeviceList DeviceEngine::speakers() const
+{
+    return m_sound->speakers();
+}
+
+SystemFacts& DeviceEngine::systemFacts()
+{
+    return *m_facts;
+}
+
+ReportSink& DeviceEngine::reportSink()
+{
+    return *m_reports;
+}
+
+QString DeviceEngine::settingsFolder() const
+{
+    return m_config.settingsFolder;
+}
+
+std::shared_ptr<StunResponder> DeviceEngine::responder()
+{
+    std::shared_ptr<StunResponder> present = m_responder.lock();
+    if (!present) {
+        present = std::make_shared<StunResponder>();
+        if (present->server().port == 0) {
+            qCWarning(deviceEngineLog).noquote()
+                << "The built-in responder doesn't run:" << present->errorString();
+        }
+        m_responder = present;
+    }
+    return present;
+}
+
+std::unique_ptr<NetworkProbe>
+DeviceEngine::probe(NetworkProbe::Listener& listener,
+                    std::function<void(const QString&)> onClientAddress, ReportSink* sink)
+{
+    if (m_config.server.isEmpty()) {
+        std::shared_ptr<StunResponder> present = responder();
+        const StunServer server = present->server();
+        return std::make_unique<EngineProbe>(std::move(present), server, listener,
+                                             std::move(onClientAddress), sink);
+    }
+    const StunServer server = StunServer::fromUrl(m_config.server).value_or(StunServer());
+    return std::make_unique<EngineProbe>(nullptr, server, listener, std::move(onClientAddress),
+                                         sink);
+}
+
+} // namespace Platform

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/facts/DeviceFacts.h"
+
+#include "platform/devices/facts/MachineFacts.h"
+
+#include <thread>
+#include <utility>
+
+namespace Platform {
+
+namespace {
+
+constexpr int SlowFacts = 3;
+
+// A thread that nobody waits for: one that hangs in a dead file system can't be ended, and must
+// hold up neither the dialog nor the end of the program.
+template <typename Gather, typename Take>
+void gatherElsewhere(const Mailbox::Sender& sender, Gather gather, Take take)
+{
+    std::thread([sender, gather, take] {
+        sender.post([take, value = gather()] { take(value); });
+    }).detach();
+}
+
+} // namespace
+
+DeviceFacts::DeviceFacts(const DeviceEngineConfig& config, const QString& serverName,
+                         ProbeMaker makeProbe)
+    : m_config(config),
+      m_serverName(serverName),
+      m_makeProbe(std::move(makeProbe)),
+      m_processorName(MachineFacts::processorName()),
+      m_operatingSystem(MachineFacts::operatingSystem())
+{
+    m_deadline.setSingleShot(true);
+    m_deadline.setTimerType(Qt::PreciseTimer);
+    m_deadline.setInterval(PrepareDeadlineMs);
+    QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline, [this] { finish(); });
+}
+
+DeviceFacts::~DeviceFacts() = default;
+
+void DeviceFacts::prepare(Done done)
+{
+    m_waiting.push_back(std::move(done));
+    if (m_waiting.size() > 1) {
+        return; // shares the run under way
+    }
+    m_missing = SlowFacts;
+    const auto taken = [this, run = ++m_run] { tick(run); };
+    m_deadline.start();
+    gatherUser(taken);
+    gatherAvailableBytes(taken);
+    gatherClientAddress(taken);
+}
+
+QString DeviceFacts::nickName() const
+{
+    if (!m_config.nickname.isEmpty()) {
+        return m_config.nickname;
+    }
+    return m_user.realName.isEmpty() ? m_user.loginName : m_user.realName;
+}
+
+void DeviceFacts::refreshUserInfo()
+{
+    gatherUser([this] {
+        if (m_listener) {
+            m_listener->userInfoArrived();
+        }
+    });
+}
+
+void DeviceFacts::gatherUser(Done taken)
+{
+    gatherElsewhere(m_mailbox.sender(), &HostUser::current,
+                    [this, taken = std::move(taken)](const HostUser& user) {
+                        m_user = user;
+                        taken();
+                    });
+}
+
+void DeviceFacts::gatherAvailableBytes(Done taken)
+{
+    gatherElsewhere(
+        m_mailbox.sender(),
+        [folder = m_config.cacheFolder] { return MachineFacts::availableBytes(folder); },
+        [this, taken = std::move(taken)](qint64 bytes) {
+            m_availableBytes = bytes;
+            taken();
+        });
+}
+
+void DeviceFacts::gatherClientAddress(Done taken)
+{
+    m_clientAddress = MachineFacts::localAddress(); // until a server tells a better one
+    m_probe = m_makeProbe(*this, [this, taken = std::move(taken)](const QString& address) {
+        m_clientAddress = address;
+        taken();
+    });
+}
+
+void DeviceFacts::tick(int run)
+{
+    if (run == m_run && --m_missing == 0) {
+        // Not from here: the probe, which may be calling, is destroyed there.
+        m_mailbox.sender().post([this, run] {
+            if (run == m_run) {
+                finish();
+            }
+        });
+    }
+}
+
+void DeviceFacts::finish()
+{
+    m_deadline.stop();
+    m_probe.reset();
+    const std::vector<Done> waiting = std::exchange(m_waiting, {});
+    for (const Done& done : waiting) {
+        done();
+    }
+}
+
+} // namespace Platform

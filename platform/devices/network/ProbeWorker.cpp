@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/network/ProbeWorker.h"
+
+#include <QHostInfo>
+#include <QLoggingCategory>
+#include <QNetworkDatagram>
+#include <QNetworkProxy>
+#include <QTimerEvent>
+#include <QUdpSocket>
+#include <algorithm>
+
+Q_LOGGING_CATEGORY(probeLog, "engine.network")
+
+namespace Platform {
+
+namespace {
+
+constexpr int ProbeIntervalMs = 100;
+constexpr int FirstVerdictMs = 900; // within a second, with room for a late timer
+constexpr int VerdictIntervalMs = 1000;
+constexpr ProbeWindow::Time LookupInterval = std::chrono::seconds(1);
+// So long without an answer, and the address is looked up anew.
+constexpr ProbeWindow::Time SilenceLimit = ProbeWindow::Deadline + std::chrono::seconds(1);
+constexpr qint64 MaxDatagramSize = 1500;
+constexpr int MaxDatagramsAtOnce = 64; // a flood must not hold up the timers
+
+} // namespace
+
+ProbeWorker::ProbeWorker(const StunServer& server, Reports reports)
+    : m_server(server), m_reports(std::move(reports))
+{
+}
+
+ProbeWorker::~ProbeWorker()
+{
+    if (m_lookup >= 0) {
+        QHostInfo::abortHostLookup(m_lookup);
+    }
+}
+
+void ProbeWorker::start()
+{
+    m_clock.start();
+    m_probeTimer.start(ProbeIntervalMs, Qt::PreciseTimer, this);
+    m_verdictTimer.start(FirstVerdictMs, Qt::PreciseTimer, this);
+    tick();
+}
+
+void ProbeWorker::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_probeTimer.timerId()) {
+        tick();
+    } else if (event->timerId() == m_verdictTimer.timerId()) {
+        m_verdictTimer.start(VerdictIntervalMs, Qt::PreciseTimer, this);
+        m_reports.figures(m_window.figures(now()));
+    }
+}
+
+ProbeWindow::Time ProbeWorker::now() const
+{
+    return std::chrono::duration_cast<ProbeWindow::Time>(
+        std::chrono::nanoseconds(m_clock.nsecsElapsed()));
+}
+
+void ProbeWorker::tick()
+{
+    forgetOverdue();
+    closeWhereSilent();
+    if (!m_socket) {
+        openNext();
+    }
+    // While the first lookup takes its time there is nobody to ask; after that, a probe that can't
+    // be sent is a lost one.
+    if (m_socket || now() > ProbeWindow::Deadline) {
+        sendProbe();
+    }
+}
+
+void ProbeWorker::forgetOverdue()
+{
+    while (!m_open.empty() && now() - m_open.front().sentAt > ProbeWindow::Deadline) {
+        m_client.forget(m_open.front().id);
+        m_open.pop_front();
+    }
+}
+
+void ProbeWorker::closeWhereSilent()
+{
+    if (m_socket && now() - m_lastSign > SilenceLimit) {
+        m_socket.reset();
+    }
+}
+
+void ProbeWorker::openNext()
+{
+    if (m_addresses.isEmpty()) {
+        lookUp();
+    }
+    if (m_addresses.isEmpty()) {
+        return;
+    }
+    m_address = m_addresses.takeFirst();
+    m_socket = std::make_unique<QUdpSocket>();
+    m_socket->setProxy(QNetworkProxy::NoProxy);
+    connect(m_socket.get(), &QUdpSocket::readyRead, this, &ProbeWorker::readDatagrams);
+    // Connected, so that the kernel keeps other senders' datagrams out of the queue.
+    m_socket->connectToHost(m_address, m_server.port);
+    m_lastSign = now();
+    if (m_socket->state() != QAbstractSocket::ConnectedState) {
+        qCInfo(probeLog).noquote()
+            << "No way to" << m_address.toString() << "-" << m_socket->errorString();
+        m_socket.reset();
+    }
+}
+
+void ProbeWorker::lookUp()
+{
+    if (m_lookup >= 0 || now() < m_nextLookup) {
+        return;
+    }
+    m_nextLookup = now() + LookupInterval;
+    const QHostAddress literal(m_server.host);
+    if (!literal.isNull()) {
+        m_addresses = {literal};
+        return;
+    }
+    m_lookup = QHostInfo::lookupHost(m_server.host, this,
+                                     [this](const QHostInfo& info) { takeAddresses(info); });
+}
+
+void ProbeWorker::takeAddresses(const QHostInfo& info)
+{
+    m_lookup = -1;
+    m_addresses = info.addresses();
+    if (m_addresses.isEmpty()) {
+        qCInfo(probeLog).noquote() << "No address of" << m_server.host << "-" << info.errorString();
+    } else if (!m_socket) {
+        tick();
+    }
+}
+
+void ProbeWorker::sendProbe()
+{
+    const ProbeWindow::Time sentAt = now();
+    const int number = m_window.addProbe(sentAt);
+    const std::optional<StunClient::Request> request =
+        m_socket ? m_client.createRequest() : std::nullopt;
+    if (!request) {
+        return;
+    }
+    m_open.push_back({request->id, number, sentAt});
+    if (!write(request->datagram)) {
+        m_socket.reset(); // the next tick tries the next address
+    }
+}
+
+// False where the socket is of no use any more.
+bool ProbeWorker::write(const QByteArray& datagram)
+{
+    if (m_socket->write(datagram) == datagram.size()) {
+        return true;
+    }
+    // The kernel reports the refusal of an earlier datagram in place of sending this one.
+    if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
+        m_socket->write(datagram);
+        return true;
+    }
+    return m_socket->error() == QAbstractSocket::TemporaryError ||
+           m_socket->error() == QAbstractSocket::SocketResourceError;
+}
+
+void ProbeWorker::readDatagrams()
+{
+    for (int count = 0; count < MaxDatagramsAtOnce; ++count) {
+        const QNetworkDatagram datagram = m_socket->receiveDatagram(MaxDatagramSize);
+        if (!datagram.isValid()) {
+            return;
+        }
+        take(datagram);
+    }
+}
+
+void ProbeWorker::take(const QNetworkDatagram& datagram)
+{
+    const ProbeWindow::Time arrivedAt = now();
+    QHostAddress sender = datagram.senderAddress();
+    sender.setScopeId(m_address.scopeId()); // told as a name or as a number
+    if (sender != m_address || datagram.senderPort() != m_server.port) {
+        return;
+    }
+    const std::optional<StunClient::Answer> answer = m_client.readAnswer(datagram.data());
+    if (!answer) {
+        return;
+    }
+    const auto probe = std::find_if(m_open.begin(), m_open.end(), [&answer](const OpenProbe& each) {
+        return each.id == answer->id;
+    });
+    if (probe == m_open.end()) {
+        return;
+    }
+    m_lastSign = arrivedAt;
+    m_window.addAnswer(probe->number, arrivedAt);
+    m_open.erase(probe);
+    if (!m_hasClientAddress && !answer->clientAddress.isNull()) {
+        m_hasClientAddress = true;
+        m_reports.clientAddress(answer->clientAddress);
+    }
+}
+
+} // namespace Platform

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+#include <chrono>
+#include <deque>
+
+class QNetworkReply;
+
+namespace Platform {
+
+// How long and how much the outbox keeps, and how often it tries.
+struct OutboxLimits
+{
+    int maxReports = 100;
+    std::chrono::milliseconds maxAge = std::chrono::hours(14 * 24);
+    std::chrono::milliseconds firstRetry = std::chrono::seconds(5);
+    std::chrono::milliseconds longestRetry = std::chrono::hours(1);
+    std::chrono::milliseconds transferTimeout = std::chrono::seconds(15);
+};
+
+// Posts the reports of an outbox folder, one after the other, and removes each one that the server
+// took. Lives on a thread of its own, since reading the folder and starting TLS take time.
+class OutboxPoster : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(OutboxPoster)
+
+public:
+    OutboxPoster(const QUrl& url, const QString& folder, const OutboxLimits& limits);
+    ~OutboxPoster() override;
+
+    void start(); // with what earlier runs left
+    void add(const QString& fileName, const QByteArray& report);
+
+private:
+    struct Report
+    {
+        QString fileName;
+        QByteArray content;
+    };
+
+    void readFolder();
+    void postNext();
+    void finish(QNetworkReply* reply, const QString& fileName);
+    void retryLater(const QString& reason);
+    void dropSurplus();
+    bool isOutdated(const Report& report) const;
+    void forget(const QString& fileName);
+    void drop(const QString& fileName, const char* reason);
+
+    const QUrl m_url;
+    const QString m_folder;
+    const OutboxLimits m_limits;
+    std::deque<Report> m_reports; // the oldest first
+    std::chrono::milliseconds m_retry;
+    bool m_isPosting = false;
+    QTimer m_retryTimer;
+    QNetworkAccessManager m_network;
+};
+
+} // namespace Platform

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/reports/ReportOutbox.h"
+
+#include "platform/backend/FileWriter.h"
+
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QLoggingCategory>
+#include <QUuid>
+
+Q_LOGGING_CATEGORY(reportLog, "engine.reports")
+
+namespace Platform {
+
+namespace {
+
+const QLatin1String JournalName("/journal.txt");
+const QLatin1String OutboxName("/outbox");
+constexpr int MaxJournalBytes = 1024 * 1024;
+constexpr int ReportVersion = 1;
+
+QUrl webAddress(const QString& text)
+{
+    const QUrl url(text, QUrl::StrictMode);
+    const bool isWeb =
+        url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    return url.isValid() && isWeb && !url.host().isEmpty() ? url : QUrl();
+}
+
+// The oldest lines go where the journal grows too large.
+QByteArray withLine(const QByteArray& journal, const QByteArray& line)
+{
+    const QByteArray whole = journal + line;
+    if (whole.size() <= MaxJournalBytes) {
+        return whole;
+    }
+    return whole.mid(whole.indexOf('\n', whole.size() - MaxJournalBytes) + 1);
+}
+
+} // namespace
+
+ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
+                           const QString& reportUrl, const OutboxLimits& limits)
+    : m_results(resultsPath), m_folder(folder)
+{
+    if (reportUrl.isEmpty()) {
+        return;
+    }
+    const QUrl url = webAddress(reportUrl);
+    if (url.isEmpty()) {
+        qCWarning(reportLog).noquote() << "Reports are not posted: the report address" << reportUrl
+                                       << "is not one. Give it as http://HOST/PATH or "
+                                          "https://HOST/PATH";
+        return;
+    }
+    startPosting(url, limits);
+}
+
+ReportOutbox::~ReportOutbox()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void ReportOutbox::recordResult(const QString& key, const QJsonValue& value)
+{
+    m_results.recordResult(key, value);
+}
+
+void ReportOutbox::recordMeasurement(const QString& check, const QJsonObject& figures)
+{
+    m_results.recordMeasurement(check, figures);
+}
+
+void ReportOutbox::postCode(const QString& managerName, int code)
+{
+    m_results.recordCode(code);
+
+    const QString time = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    const QString line =
+        QStringLiteral("%1 %2 %3\n").arg(time, QString::number(code), managerName.simplified());
+    FileWriter::update(m_folder + JournalName, [text = line.toUtf8()](const QByteArray& journal) {
+        return withLine(journal, text);
+    });
+    if (!m_poster) {
+        return;
+    }
+    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QJsonObject content{{QStringLiteral("version"), ReportVersion},
+                              {QStringLiteral("id"), id},
+                              {QStringLiteral("time"), time},
+                              {QStringLiteral("manager"), managerName},
+                              {QStringLiteral("code"), code}};
+    const QByteArray report = QJsonDocument(content).toJson(QJsonDocument::Compact);
+    // Colons in a file name are trouble elsewhere; the names still sort by time.
+    QString fileName = time + QLatin1Char('-') + id + QStringLiteral(".json");
+    fileName.remove(QLatin1Char(':'));
+    FileWriter::replace(m_folder + OutboxName + QLatin1Char('/') + fileName, report);
+    QMetaObject::invokeMethod(
+        m_poster, [poster = m_poster, fileName, report] { poster->add(fileName, report); });
+}
+
+void ReportOutbox::startPosting(const QUrl& url, const OutboxLimits& limits)
+{
+    m_poster = new OutboxPoster(url, m_folder + OutboxName, limits);
+    m_poster->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::started, m_poster, &OutboxPoster::start);
+    QObject::connect(&m_thread, &QThread::finished, m_poster, &QObject::deleteLater);
+    m_thread.setObjectName(QStringLiteral("ReportOutbox"));
+    m_thread.start();
+}
+
+} // namespace Platform
