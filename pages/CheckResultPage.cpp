@@ -6,6 +6,7 @@
 
 #include <LumUtility/LumColor.h>
 
+#include <QHeaderView>
 #include <QScrollBar>
 
 namespace {
@@ -85,6 +86,7 @@ void CheckResultPage::setupTable()
     table->setColumnWidth(ItemColumn, ItemWidth);
     table->setColumnWidth(DetailsColumn, DetailsWidth);
     table->setColumnWidth(ResultColumn, ResultWidth);
+    table->verticalHeader()->setMinimumSectionSize(RowHeight); // the form's would keep rows higher
     for (int row = 0; row < RowCount; ++row) {
         table->setRowHeight(row, RowHeight);
     }

@@ -55,6 +55,7 @@ QString sizeText(quint64 size)
 
 QString elidedWhereTooLong(const QString& text, Qt::TextElideMode mode, const QLabel& label)
 {
+    label.ensurePolished(); // so that the style sheet's font is measured
     return label.fontMetrics().elidedText(text, mode, label.width());
 }
 

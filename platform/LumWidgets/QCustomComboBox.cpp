@@ -11,6 +11,9 @@ QCustomComboBox::QCustomComboBox(QWidget* parent, bool /*isThemed*/) : QComboBox
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
+    // Of a name that is too long its beginning is shown.
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), lineEdit(),
+            [this] { lineEdit()->setCursorPosition(0); });
 }
 
 QCustomComboBox::~QCustomComboBox() = default;
