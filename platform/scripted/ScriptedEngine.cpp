@@ -8,21 +8,26 @@
 #include "platform/scripted/ScriptedNetworkProbe.h"
 #include "platform/scripted/ScriptedPlayer.h"
 #include "platform/scripted/ScriptedSpeaker.h"
+#include "platform/scripted/Timeline.h"
 
 #include <QFileInfo>
 
 namespace Platform {
 
-ScriptedEngine::ScriptedEngine()
+ScriptedEngine::ScriptedEngine(const Scenario& scenario)
     : m_facts(m_log), m_reports(m_log), m_settingsFolder(m_privateFolder.path())
 {
+    for (const Scenario::Action& action : scenario.setup) {
+        action(*this);
+    }
+    m_timeline = std::make_unique<Timeline>(scenario.timeline, *this);
 }
 
 ScriptedEngine::~ScriptedEngine() = default;
 
-ScriptedEngine& ScriptedEngine::install()
+ScriptedEngine& ScriptedEngine::install(const Scenario& scenario)
 {
-    auto engine = std::make_unique<ScriptedEngine>();
+    auto engine = std::make_unique<ScriptedEngine>(scenario);
     ScriptedEngine& result = *engine;
     EngineRegistry::install(std::move(engine));
     return result;

@@ -5,6 +5,7 @@
 #include "ClassroomScripted/ClassroomScriptedExport.h"
 #include "platform/backend/Engine.h"
 #include "platform/scripted/CallLog.h"
+#include "platform/scripted/Scenario.h"
 #include "platform/scripted/ScriptedCameras.h"
 #include "platform/scripted/ScriptedFacts.h"
 #include "platform/scripted/ScriptedMicrophones.h"
@@ -16,6 +17,8 @@
 
 namespace Platform {
 
+class Timeline;
+
 // A back end without hardware: what the library is told is steered through the objects below, by a
 // test or by a scenario, and what it asks is logged. A fresh one has no device, measures nothing
 // and knows nothing. Changes reach the listeners from the event loop: a test turns it
@@ -24,11 +27,11 @@ namespace Platform {
 class CLASSROOMSCRIPTED_EXPORT ScriptedEngine final : public Engine
 {
 public:
-    ScriptedEngine();
+    explicit ScriptedEngine(const Scenario& scenario = {});
     ~ScriptedEngine() override;
 
     // Makes one, installs it in the EngineRegistry, which owns it, and hands it out for steering.
-    static ScriptedEngine& install();
+    static ScriptedEngine& install(const Scenario& scenario = {});
 
     ScriptedCameras& cameras() { return m_cameras; }
     ScriptedMicrophones& microphones() { return m_microphones; }
@@ -67,6 +70,7 @@ private:
     ScriptedReports m_reports;
     QTemporaryDir m_privateFolder; // never the user's own settings, unless the host says so
     QString m_settingsFolder;
+    std::unique_ptr<Timeline> m_timeline;
 };
 
 } // namespace Platform

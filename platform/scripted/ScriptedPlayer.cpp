@@ -6,11 +6,16 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Platform {
 
 namespace {
 
-constexpr int UsualLengthMs = 3000;
+// The shipped sounds are encoded at a constant rate.
+constexpr qint64 BitsPerMs = 192;
+constexpr qint64 BitsPerByte = 8;
+constexpr qint64 MaxLengthMs = 60 * 1000;
 
 int lengthOf(const ScriptedSpeakers& speakers, const QFileInfo& file)
 {
@@ -18,7 +23,8 @@ int lengthOf(const ScriptedSpeakers& speakers, const QFileInfo& file)
     if (scripted >= 0) {
         return scripted;
     }
-    return file.isFile() ? UsualLengthMs : 0;
+    const qint64 length = file.isFile() ? file.size() * BitsPerByte / BitsPerMs : 0;
+    return static_cast<int>(std::min(length, MaxLengthMs));
 }
 
 } // namespace

@@ -18,10 +18,8 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Liste
     connect(
         &m_speakers, &ScriptedSpeakers::volumeMovedFromOutside, this,
         [this](int percent) { m_listener.speakerVolumeChanged(percent); }, Qt::QueuedConnection);
-    connect(
-        &m_speakers, &ScriptedSpeakers::currentStateChanged, this,
-        [this] { m_listener.speakerWorkStateChanged(isUsable(m_speakers.currentState())); },
-        Qt::QueuedConnection);
+    connect(&m_speakers, &ScriptedSpeakers::currentStateChanged, this,
+            &ScriptedSpeaker::notifyWorkState);
 }
 
 ScriptedSpeaker::~ScriptedSpeaker() = default;
@@ -60,6 +58,16 @@ void ScriptedSpeaker::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
     m_speakers.setVolumeByUser(percent);
+}
+
+void ScriptedSpeaker::notifyWorkState()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, works = isUsable(m_speakers.currentState())] {
+            m_listener.speakerWorkStateChanged(works);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace Platform

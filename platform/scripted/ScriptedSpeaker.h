@@ -29,6 +29,8 @@ public:
     void setVolume(int percent) override;
 
 private:
+    void notifyWorkState();
+
     ScriptedSpeakers& m_speakers;
     Listener& m_listener;
     LoggedSession m_session;

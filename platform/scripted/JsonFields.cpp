@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/JsonFields.h"
+
+#include <cmath>
+
+namespace Platform {
+
+void JsonProblem::set(const QString& fieldPath, const QString& what)
+{
+    if (!isSet()) {
+        path = fieldPath;
+        text = what;
+    }
+}
+
+JsonFields::JsonFields(const QJsonObject& object, const QString& path, JsonProblem& problem)
+    : m_object(object), m_path(path), m_problem(problem)
+{
+}
+
+bool JsonFields::contains(const char* key) const
+{
+    return m_object.contains(QLatin1String(key));
+}
+
+QString JsonFields::path(const char* key) const
+{
+    return m_path.isEmpty() ? QLatin1String(key) : m_path + QLatin1Char('.') + QLatin1String(key);
+}
+
+QString JsonFields::text(const char* key, int maxLength)
+{
+    return has(key, true) ? text(key, maxLength, {}) : QString();
+}
+
+QString JsonFields::text(const char* key, int maxLength, const QString& fallback)
+{
+    if (!has(key, false)) {
+        return fallback;
+    }
+    const QJsonValue field = value(key);
+    if (!field.isString() || field.toString().size() > maxLength) {
+        m_problem.set(path(key),
+                      QStringLiteral("must be a text of at most %1 characters").arg(maxLength));
+        return fallback;
+    }
+    return field.toString();
+}
+
+qint64 JsonFields::number(const char* key, qint64 min, qint64 max)
+{
+    return has(key, true) ? number(key, min, max, min) : min;
+}
+
+qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallback)
+{
+    if (!has(key, false)) {
+        return fallback;
+    }
+    const QJsonValue field = value(key);
+    const double number = field.toDouble();
+    if (!field.isDouble() || std::floor(number) != number || number < double(min) ||
+        number > double(max)) {
+        m_problem.set(path(key),
+                      QStringLiteral("must be a whole number from %1 to %2").arg(min).arg(max));
+        return fallback;
+    }
+    return static_cast<qint64>(number);
+}
+
+bool JsonFields::flag(const char* key, bool fallback)
+{
+    if (!has(key, false)) {
+        return fallback;
+    }
+    const QJsonValue field = value(key);
+    if (!field.isBool()) {
+        m_problem.set(path(key), QStringLiteral("must be true or false"));
+    }
+    return field.toBool(fallback);
+}
+
+int JsonFields::word(const char* key, const QStringList& words)
+{
+    return has(key, true) ? word(key, words, 0) : 0;
+}
+
+int JsonFields::word(const char* key, const QStringList& words, int fallback)
+{
+    if (!has(key, false)) {
+        return fallback;
+    }
+    const int index = words.indexOf(value(key).toString());
+    if (index < 0) {
+        m_problem.set(path(key),
+                      QStringLiteral("must be one of ") + words.join(QStringLiteral(", ")));
+        return fallback;
+    }
+    return index;
+}
+
+JsonFields JsonFields::object(const char* key)
+{
+    if (has(key, false) && !value(key).isObject()) {
+        m_problem.set(path(key), QStringLiteral("must be an object"));
+    }
+    return {value(key).toObject(), path(key), m_problem};
+}
+
+std::vector<JsonFields> JsonFields::objects(const char* key, int maxCount)
+{
+    std::vector<JsonFields> result;
+    const QJsonArray elements = array(key, maxCount);
+    for (int i = 0; i < elements.size(); ++i) {
+        const QString elementPath = QStringLiteral("%1[%2]").arg(path(key)).arg(i);
+        if (!elements.at(i).isObject()) {
+            m_problem.set(elementPath, QStringLiteral("must be an object"));
+        }
+        result.emplace_back(elements.at(i).toObject(), elementPath, m_problem);
+    }
+    return result;
+}
+
+QJsonArray JsonFields::array(const char* key, int maxCount)
+{
+    if (!has(key, false)) {
+        return {};
+    }
+    const QJsonValue field = value(key);
+    if (!field.isArray() || field.toArray().size() > maxCount) {
+        m_problem.set(path(key),
+                      QStringLiteral("must be a list of at most %1 elements").arg(maxCount));
+        return {};
+    }
+    return field.toArray();
+}
+
+void JsonFields::rejectOthers()
+{
+    const QStringList keys = m_object.keys();
+    for (const QString& key : keys) {
+        if (!m_taken.contains(key)) {
+            m_problem.set(m_path.isEmpty() ? key : m_path + QLatin1Char('.') + key,
+                          QStringLiteral("is not a known field here"));
+        }
+    }
+}
+
+bool JsonFields::has(const char* key, bool isRequired)
+{
+    take(QLatin1String(key));
+    if (isRequired && !contains(key)) {
+        m_problem.set(path(key), QStringLiteral("is missing"));
+    }
+    return contains(key);
+}
+
+QJsonValue JsonFields::value(const char* key)
+{
+    return m_object.value(QLatin1String(key));
+}
+
+} // namespace Platform

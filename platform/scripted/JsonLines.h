@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+namespace Platform {
+
+// Where the fields of a JSON text stand, as QJsonDocument doesn't tell. The text must be valid. A
+// field is named by its path, such as "cameras[0].name"; the document itself by an empty one.
+class JsonLines
+{
+public:
+    explicit JsonLines(const QByteArray& json);
+
+    int lineOf(const QString& path) const; // of its nearest ancestor where it isn't there
+    QString duplicate() const { return m_duplicate; } // first key that stands twice, or empty
+
+    static int lineAt(const QByteArray& json, int offset); // from 1
+
+private:
+    void scanValue(const QString& path);
+    void scanObject(const QString& path);
+    void scanArray(const QString& path);
+    void skipBlanks();
+    QString takeString();
+    char current() const;
+
+    QByteArray m_json;
+    int m_position = 0;
+    int m_line = 1;
+    QHash<QString, int> m_lines;
+    QString m_duplicate;
+};
+
+} // namespace Platform

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/scripted/Scenario.h"
+
+#include "platform/scripted/JsonLines.h"
+#include "platform/scripted/ScenarioReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace Platform {
+
+namespace {
+
+constexpr qint64 MaxFileBytes = 1024 * 1024;
+const QLatin1String BundledFolder(":/scenarios");
+const QLatin1String Suffix(".json");
+const QLatin1String BaseKey("base");
+
+// Empty on success, otherwise why the file can't be read.
+QString load(const QString& path, QByteArray* content)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return QStringLiteral("no such file, and no bundled scenario of this name (those are %1)")
+            .arg(Scenario::bundledNames().join(QStringLiteral(", ")));
+    }
+    if (!info.isFile()) {
+        return QStringLiteral("not a regular file; name a scenario file");
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QStringLiteral("can't be read: %1").arg(file.errorString());
+    }
+    *content = file.read(MaxFileBytes + 1);
+    if (content->size() > MaxFileBytes) {
+        return QStringLiteral("larger than 1 MiB; name a scenario file");
+    }
+    return {};
+}
+
+QString bundledPath(const QString& name)
+{
+    return BundledFolder + QLatin1Char('/') + name + Suffix;
+}
+
+// What a scenario doesn't say stands in the bundled one that it builds on.
+QJsonObject withBase(const QJsonObject& document, JsonProblem& problem)
+{
+    if (!document.contains(BaseKey)) {
+        return document;
+    }
+    const QString base = document.value(BaseKey).toString();
+    if (!Scenario::bundledNames().contains(base)) {
+        problem.set(BaseKey, QStringLiteral("must name a bundled scenario"));
+        return document;
+    }
+    QByteArray json;
+    load(bundledPath(base), &json);
+    QJsonObject result = withBase(QJsonDocument::fromJson(json).object(), problem);
+    for (auto it = document.begin(); it != document.end(); ++it) {
+        result.insert(it.key(), it.value());
+    }
+    result.remove(BaseKey);
+    return result;
+}
+
+QString message(const QString& file, int line, const QString& text)
+{
+    return QStringLiteral("%1:%2: ").arg(file).arg(line) + text;
+}
+
+} // namespace
+
+std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error)
+{
+    const bool isBundled = bundledNames().contains(nameOrPath);
+    const QString path = isBundled ? bundledPath(nameOrPath) : nameOrPath;
+    QByteArray json;
+    const QString unreadable = load(path, &json);
+    if (!unreadable.isEmpty()) {
+        *error = path + QStringLiteral(": ") + unreadable;
+        return {};
+    }
+    QJsonParseError syntax;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
+    if (syntax.error != QJsonParseError::NoError) {
+        *error = message(path, JsonLines::lineAt(json, syntax.offset),
+                         QStringLiteral("not valid JSON: ") + syntax.errorString());
+        return {};
+    }
+    const JsonLines lines(json);
+    JsonProblem problem;
+    if (!document.isObject()) {
+        problem.set({}, QStringLiteral("the document must be an object"));
+    }
+    if (!lines.duplicate().isEmpty()) {
+        problem.set(lines.duplicate(), QStringLiteral("stands twice"));
+    }
+    const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
+    if (problem.isSet()) {
+        const QString field =
+            problem.path.isEmpty() ? QString() : problem.path + QStringLiteral(": ");
+        *error = message(path, lines.lineOf(problem.path), field + problem.text);
+        return {};
+    }
+    return scenario;
+}
+
+QStringList Scenario::bundledNames()
+{
+    QStringList names;
+    const QFileInfoList files = QDir(BundledFolder).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files) {
+        names.append(file.completeBaseName());
+    }
+    return names;
+}
+
+} // namespace Platform

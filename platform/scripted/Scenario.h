@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomScripted/ClassroomScriptedExport.h"
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace Platform {
+
+class ScriptedEngine;
+
+// What a scripted engine plays: how everything is at its start, and what happens when.
+class CLASSROOMSCRIPTED_EXPORT Scenario
+{
+public:
+    using Action = std::function<void(ScriptedEngine&)>;
+
+    struct Event
+    {
+        int atMs = 0; // from the start of the engine
+        Action action;
+    };
+
+    QString description;
+    std::vector<Action> setup;
+    std::vector<Event> timeline; // in the order of time
+
+    // Reads a bundled scenario by its name, or a file (docs/scenario-format.md). Where that fails,
+    // error is one line that names the file, the line and the field.
+    static std::optional<Scenario> read(const QString& nameOrPath, QString* error);
+    static QStringList bundledNames();
+};
+
+} // namespace Platform
