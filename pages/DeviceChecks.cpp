@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "pages/DeviceChecks.h"
+
+#include "widgets/LumToolTip.h"
+#include "wizard/CheckPage.h"
+
+#include <LumWidgets/QCustomComboBox.h>
+#include <LumWidgets/QCustomComboBoxItem.h>
+
+#include <QAbstractItemView>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+constexpr int NotAnswered = 0;
+constexpr int AnsweredYes = 1;
+constexpr int AnsweredNo = 2;
+constexpr int DeviceWorks = 1;
+constexpr int DeviceFails = 2;
+
+constexpr QSize SmallHandSize(31, 38);
+constexpr QSize BigHandSize(38, 48);
+constexpr QPoint HandOffset(10, 0);
+
+} // namespace
+
+namespace DeviceChecks {
+
+int answerCode(bool isTested, bool isConfirmed)
+{
+    if (!isTested) {
+        return NotAnswered;
+    }
+    return isConfirmed ? AnsweredYes : AnsweredNo;
+}
+
+int stateCode(bool works)
+{
+    return works ? DeviceWorks : DeviceFails;
+}
+
+void setUpComboBox(QCustomComboBox* combo, CheckPage* page)
+{
+    combo->setItemDelegate(new QCustomComboBoxItem(page));
+    combo->view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    combo->view()->setStyleSheet(QStringLiteral("background-color: white"));
+    combo->setPopupWidth(combo->width());
+    combo->setMaxVisibleItems(8);
+    combo->installEventFilter(page);
+    combo->setEnableClickLineEdit(true);
+    combo->lineEdit()->setReadOnly(true);
+    combo->lineEdit()->setStyleSheet(
+        QStringLiteral("background-color: transparent; border: none;"));
+}
+
+void placeAbove(LumToolTip* popup, const QWidget* widget)
+{
+    const QPoint corner = widget->mapToGlobal(QPoint(0, 0));
+    popup->setGeometry(corner.x(), corner.y() - popup->height(), popup->width(), popup->height());
+}
+
+QLabel* createHand(QWidget* parent)
+{
+    auto* hand = new QLabel(parent);
+    hand->setStyleSheet(QStringLiteral("background:transparent;border: none;"));
+    hand->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hand->setFixedSize(BigHandSize);
+    return hand;
+}
+
+void placeHand(QLabel* hand, const QWidget* button)
+{
+    hand->move(button->geometry().center() + HandOffset);
+    hand->show();
+    hand->raise();
+}
+
+void showHand(QLabel* hand, bool isSmall)
+{
+    const QString size = isSmall ? QStringLiteral("small") : QStringLiteral("big");
+    const qreal ratio = hand->devicePixelRatioF();
+    QPixmap picture = QPixmap(QStringLiteral(":/Kestrel/Images/hand_%1.png").arg(size))
+                          .scaled((isSmall ? SmallHandSize : BigHandSize) * ratio,
+                                  Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    hand->setPixmap(picture);
+}
+
+} // namespace DeviceChecks
