@@ -72,7 +72,7 @@ DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
           [this](NetworkProbe::Listener& listener, DeviceFacts::AddressHandler handler) {
               return probe(listener, std::move(handler), nullptr);
           })),
-      m_sound(createSoundSystem(config)),
+      m_sound(createSoundSystem(config, *m_reports)),
       m_cameras(createCameraSystem(config))
 {
     if (!config.server.isEmpty() && !StunServer::fromUrl(config.server)) {

@@ -66,7 +66,7 @@ ProbeWindow::Time ProbeWorker::now() const
 void ProbeWorker::tick()
 {
     forgetOverdue();
-    closeWhereSilent();
+    closeWhereUseless();
     if (!m_socket) {
         openNext();
     }
@@ -85,9 +85,12 @@ void ProbeWorker::forgetOverdue()
     }
 }
 
-void ProbeWorker::closeWhereSilent()
+// A refusal alone is a lost probe: the server may be starting. It leads on to the name's next
+// address, if there is one.
+void ProbeWorker::closeWhereUseless()
 {
-    if (m_socket && now() - m_lastSign > SilenceLimit) {
+    const bool isRefused = m_socket && m_isRefused && !m_addresses.isEmpty();
+    if (isRefused || now() - m_lastSign > SilenceLimit) {
         m_socket.reset();
     }
 }
@@ -107,6 +110,7 @@ void ProbeWorker::openNext()
     // Connected, so that the kernel keeps other senders' datagrams out of the queue.
     m_socket->connectToHost(m_address, m_server.port);
     m_lastSign = now();
+    m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
         qCInfo(probeLog).noquote()
             << "No way to" << m_address.toString() << "-" << m_socket->errorString();
@@ -163,6 +167,7 @@ bool ProbeWorker::write(const QByteArray& datagram)
     }
     // The kernel reports the refusal of an earlier datagram in place of sending this one.
     if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
+        m_isRefused = true;
         m_socket->write(datagram);
         return true;
     }
@@ -175,6 +180,7 @@ void ProbeWorker::readDatagrams()
     for (int count = 0; count < MaxDatagramsAtOnce; ++count) {
         const QNetworkDatagram datagram = m_socket->receiveDatagram(MaxDatagramSize);
         if (!datagram.isValid()) {
+            m_isRefused |= m_socket->error() == QAbstractSocket::ConnectionRefusedError;
             return;
         }
         take(datagram);

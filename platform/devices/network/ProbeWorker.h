@@ -56,7 +56,7 @@ private:
     void lookUp();
     void takeAddresses(const QHostInfo& info);
     void openNext();
-    void closeWhereSilent();
+    void closeWhereUseless();
     void sendProbe();
     bool write(const QByteArray& datagram);
     void readDatagrams();
@@ -73,6 +73,7 @@ private:
     QHostAddress m_address;          // the one being asked
     std::unique_ptr<QUdpSocket> m_socket;
     ProbeWindow::Time m_lastSign{0}; // of life: an answer, or the socket's opening
+    bool m_isRefused = false;
     bool m_hasClientAddress = false;
     StunClient m_client;
     ProbeWindow m_window;
