@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/Mp3Decoder.h"
+
+#include "platform/devices/pulse/SoundBuffer.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <mpg123.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace Platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcPlayer, "envcheck.devices.player", QtInfoMsg)
+
+// The first piece is short, so that the sound starts soon; the later ones spare the hand-overs.
+constexpr std::size_t FirstPieceSamples = 2304;
+constexpr std::size_t PieceSamples = 32768;
+
+struct FileCloser
+{
+    explicit FileCloser(int opened) : descriptor(opened) {}
+    ~FileCloser()
+    {
+        if (descriptor >= 0) {
+            ::close(descriptor);
+        }
+    }
+    FileCloser(const FileCloser&) = delete;
+    FileCloser& operator=(const FileCloser&) = delete;
+
+    int descriptor;
+};
+
+struct DecoderCloser
+{
+    void operator()(mpg123_handle* handle) const { mpg123_delete(handle); }
+};
+
+// Empty where the file may be read.
+QString refusal(int descriptor)
+{
+    struct stat facts = {};
+    if (descriptor < 0 || ::fstat(descriptor, &facts) != 0) {
+        return QString::fromLocal8Bit(std::strerror(errno));
+    }
+    if (!S_ISREG(facts.st_mode)) {
+        return QStringLiteral("it is not a regular file");
+    }
+    if (facts.st_size > Mp3Decoder::MaxFileBytes) {
+        return QStringLiteral("it is larger than %1 bytes").arg(Mp3Decoder::MaxFileBytes);
+    }
+    return {};
+}
+
+// Returns why it ended before its time, if it did.
+QString readSound(int descriptor, float volume, SoundBuffer& buffer)
+{
+    const std::unique_ptr<mpg123_handle, DecoderCloser> decoder(mpg123_new(nullptr, nullptr));
+    if (!decoder) {
+        return QStringLiteral("there is no decoder");
+    }
+    mpg123_handle* handle = decoder.get();
+    mpg123_param(handle, MPG123_ADD_FLAGS,
+                 MPG123_QUIET | MPG123_FORCE_FLOAT | MPG123_SKIP_ID3V2 | MPG123_NO_RESYNC, 0.0);
+    long rate = 0;
+    int channels = 0;
+    int encoding = 0;
+    if (mpg123_open_fd(handle, descriptor) != MPG123_OK ||
+        mpg123_getformat(handle, &rate, &channels, &encoding) != MPG123_OK || rate <= 0 ||
+        channels <= 0 || encoding != MPG123_ENC_FLOAT_32) {
+        return QStringLiteral("it is no MP3 sound");
+    }
+    // The format stays what it is, whatever a later frame says.
+    mpg123_format_none(handle);
+    mpg123_format(handle, rate, channels, encoding);
+    mpg123_volume(handle, static_cast<double>(volume));
+    buffer.begin({static_cast<unsigned>(rate), static_cast<unsigned>(channels)});
+
+    const std::size_t limit =
+        std::size_t{Mp3Decoder::MaxSeconds} * static_cast<std::size_t>(rate * channels);
+    std::vector<float> piece(PieceSamples);
+    std::size_t wanted = FirstPieceSamples;
+    int outcome = MPG123_OK;
+    while (outcome == MPG123_OK && buffer.size() < limit && !buffer.isCancelled()) {
+        std::size_t bytes = 0;
+        outcome = mpg123_read(handle, piece.data(), wanted * sizeof(float), &bytes);
+        if (bytes > 0) {
+            buffer.append(piece.data(), bytes / sizeof(float));
+        }
+        wanted = PieceSamples;
+    }
+    return outcome == MPG123_OK || outcome == MPG123_DONE
+               ? QString()
+               : QString::fromLocal8Bit(mpg123_strerror(handle));
+}
+
+} // namespace
+
+void Mp3Decoder::decode(const QString& path, float volume, SoundBuffer& buffer)
+{
+    // Opening a pipe that nobody writes to must not wait either.
+    const FileCloser file(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    QString problem = refusal(file.descriptor);
+    if (problem.isEmpty()) {
+        problem = readSound(file.descriptor, volume, buffer);
+    }
+    if (!problem.isEmpty()) {
+        qCInfo(lcPlayer) << "The sound" << path << "ends early:" << problem;
+    }
+    buffer.end();
+}
+
+} // namespace Platform

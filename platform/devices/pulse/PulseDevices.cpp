@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/PulseDevices.h"
+
+#include <algorithm>
+
+namespace Platform {
+
+double PulseDevice::volumePercent() const
+{
+    return 100.0 * pa_cvolume_max(&volume) / PA_VOLUME_NORM;
+}
+
+const PulseDevice* PulseSide::find(const QString& id) const
+{
+    const auto found = std::find_if(devices.begin(), devices.end(),
+                                    [&id](const PulseDevice& device) { return device.id == id; });
+    return found == devices.end() ? nullptr : &*found;
+}
+
+QString PulseSide::preferredId() const
+{
+    if (find(defaultId)) {
+        return defaultId;
+    }
+    return devices.empty() ? QString() : devices.front().id;
+}
+
+DeviceList PulseSide::list() const
+{
+    DeviceList result;
+    for (const PulseDevice& device : devices) {
+        result.push_back({device.id, device.name});
+    }
+    return withDistinctNames(std::move(result));
+}
+
+QString nameIn(const DeviceList& list, const QString& id)
+{
+    const auto found = std::find_if(list.begin(), list.end(),
+                                    [&id](const DeviceInfo& device) { return device.id == id; });
+    return found == list.end() ? QString() : found->name;
+}
+
+PulseSide& PulseDevices::side(PulseKind kind)
+{
+    return kind == PulseKind::Speaker ? speakers : microphones;
+}
+
+const PulseSide& PulseDevices::side(PulseKind kind) const
+{
+    return kind == PulseKind::Speaker ? speakers : microphones;
+}
+
+bool operator==(const PulseDevice& a, const PulseDevice& b)
+{
+    return a.id == b.id && a.name == b.name && pa_cvolume_equal(&a.volume, &b.volume) != 0 &&
+           a.isMuted == b.isMuted && a.isAdjustable == b.isAdjustable;
+}
+
+bool operator==(const PulseSide& a, const PulseSide& b)
+{
+    return a.devices == b.devices && a.defaultId == b.defaultId && a.settledOrder == b.settledOrder;
+}
+
+bool operator==(const PulseDevices& a, const PulseDevices& b)
+{
+    return a.isConnected == b.isConnected && a.speakers == b.speakers &&
+           a.microphones == b.microphones;
+}
+
+} // namespace Platform

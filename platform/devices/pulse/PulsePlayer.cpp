@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/PulsePlayer.h"
+
+#include "platform/devices/pulse/Mp3Decoder.h"
+#include "platform/devices/pulse/PulsePlayback.h"
+#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/SoundBuffer.h"
+
+#include <chrono>
+#include <utility>
+
+namespace Platform {
+
+namespace {
+
+// A reader that is told to stop does so within one piece, unless the disk hangs.
+constexpr std::chrono::milliseconds ReaderPatience(20);
+
+} // namespace
+
+PulsePlayer::PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
+                         Listener& listener)
+    : m_session(std::move(session)), m_listener(listener)
+{
+    m_watchdog.setSingleShot(true);
+    QObject::connect(&m_watchdog, &QTimer::timeout, &m_context, [this] { finish(); });
+    m_watchdog.start(GraceMs);
+
+    startReading(path, volume);
+    QObject::connect(m_session.get(), &PulseSession::changed, &m_context,
+                     [this] { followSpeaker(); });
+    followSpeaker();
+}
+
+PulsePlayer::~PulsePlayer()
+{
+    m_sound->cancel();
+    PulseConnection& connection = m_session->connection();
+    connection.run([&connection, playback = m_playback] {
+        playback->stop();
+        connection.remove(playback);
+    });
+    if (m_readerEnd.wait_for(ReaderPatience) == std::future_status::ready) {
+        m_reader.join();
+    } else {
+        m_reader.detach();
+    }
+}
+
+void PulsePlayer::startReading(const QString& path, float volume)
+{
+    PulseConnection& connection = m_session->connection();
+    const Mailbox::Sender sender = m_mailbox.sender();
+    // The playback comes after the sound that it plays, hence the box to find it by.
+    const auto playback = std::make_shared<std::weak_ptr<PulsePlayback>>();
+    m_sound = std::make_shared<SoundBuffer>([this, &connection, sender, playback](bool hasEnded) {
+        connection.run([playback] {
+            if (const auto alive = playback->lock()) {
+                alive->soundAdvanced();
+            }
+        });
+        if (hasEnded) {
+            sender.post([this] { m_watchdog.start(m_sound->lengthMs() + GraceMs); });
+        }
+    });
+    m_playback = std::make_shared<PulsePlayback>(connection, m_sound, [this, sender](bool isGood) {
+        sender.post([this, isGood] { playbackEnded(isGood); });
+    });
+    *playback = m_playback;
+    connection.run([&connection, added = m_playback] { connection.add(added); });
+
+    // The reader shares nothing but the sound: where a disk hangs, it is left behind.
+    std::packaged_task<void()> reading(
+        [path, volume, sound = m_sound] { Mp3Decoder::decode(path, volume, *sound); });
+    m_readerEnd = reading.get_future();
+    m_reader = std::thread(std::move(reading));
+}
+
+void PulsePlayer::followSpeaker()
+{
+    if (!m_session->isKnown()) {
+        return;
+    }
+    const QString id = m_session->speakerId();
+    if (id.isEmpty()) {
+        m_mailbox.sender().post([this] { finish(); });
+    } else if (std::exchange(m_speakerId, id) != id) {
+        m_session->connection().run([playback = m_playback, id] { playback->playOn(id); });
+    }
+}
+
+void PulsePlayer::playbackEnded(bool isGood)
+{
+    if (!m_speakerId.isEmpty() && m_sound->size() > 0) {
+        m_session->setSpeakerFailed(m_speakerId, !isGood);
+    }
+    finish();
+}
+
+void PulsePlayer::finish()
+{
+    if (!std::exchange(m_isFinished, true)) {
+        m_watchdog.stop();
+        m_listener.playbackFinished();
+    }
+}
+
+} // namespace Platform

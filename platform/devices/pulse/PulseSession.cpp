@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/PulseSession.h"
+
+#include <mutex>
+#include <optional>
+#include <utility>
+
+namespace Platform {
+
+// The newest list on its way to the GUI thread. One that comes before the last was fetched replaces
+// it, so that a storm of changes doesn't pile up in the event loop.
+struct PulseSession::Arrival
+{
+    std::mutex mutex;
+    std::optional<PulseDevices> devices;
+
+    bool put(const PulseDevices& newest) // true where nobody is on the way to fetch it
+    {
+        const std::lock_guard lock(mutex);
+        const bool isFirst = !devices;
+        devices = newest;
+        return isFirst;
+    }
+
+    PulseDevices take()
+    {
+        const std::lock_guard lock(mutex);
+        return *std::exchange(devices, std::nullopt);
+    }
+};
+
+PulseSession::PulseSession() : m_arrival(std::make_shared<Arrival>())
+{
+    m_connection = std::make_unique<PulseConnection>(
+        [this, arrival = m_arrival, sender = m_mailbox.sender()](const PulseDevices& devices) {
+            if (arrival->put(devices)) {
+                sender.post([this, arrival] { takeDevices(arrival->take()); });
+            }
+        });
+}
+
+PulseSession::~PulseSession() = default;
+
+quint64 PulseSession::setVolume(PulseKind kind, const QString& id, int percent)
+{
+    const quint64 order = ++m_lastOrder;
+    m_connection->run([connection = m_connection.get(), kind, id, percent, order] {
+        connection->setVolume(kind, id, percent, order);
+    });
+    return order;
+}
+
+QString PulseSession::speakerId() const
+{
+    if (m_chosenSpeakerId.isEmpty()) {
+        return m_devices.speakers.preferredId();
+    }
+    return m_devices.speakers.find(m_chosenSpeakerId) ? m_chosenSpeakerId : QString();
+}
+
+void PulseSession::chooseSpeaker(const QString& id)
+{
+    m_chosenSpeakerId = id;
+    m_failedSpeakerId.clear();
+    announce();
+}
+
+void PulseSession::setSpeakerFailed(const QString& id, bool hasFailed)
+{
+    const QString failed = hasFailed && m_devices.speakers.find(id) ? id : QString();
+    if (m_failedSpeakerId != failed) {
+        m_failedSpeakerId = failed;
+        announce();
+    }
+}
+
+void PulseSession::takeDevices(const PulseDevices& devices)
+{
+    m_isKnown = true;
+    m_devices = devices;
+    if (!m_devices.speakers.find(m_failedSpeakerId)) {
+        m_failedSpeakerId.clear();
+    }
+    Q_EMIT changed();
+}
+
+void PulseSession::announce()
+{
+    m_mailbox.sender().post([this] { Q_EMIT changed(); });
+}
+
+} // namespace Platform

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/SoundSystem.h"
+
+namespace Platform {
+
+class PulseSession;
+class ReportSink;
+
+// The sound of a machine with PulseAudio or PipeWire. While nobody uses it, it has no connection,
+// no thread and no list.
+class PulseSound final : public SoundSystem
+{
+public:
+    explicit PulseSound(ReportSink& report);
+    ~PulseSound() override;
+
+    std::unique_ptr<MicrophoneBackend>
+    createMicrophone(MicrophoneBackend::Listener& listener) override;
+    std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) override;
+    std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
+                                                PlayerBackend::Listener& listener) override;
+    DeviceList speakers() const override;
+
+private:
+    std::shared_ptr<PulseSession> session();
+
+    ReportSink& m_report;
+    std::weak_ptr<PulseSession> m_session;
+};
+
+} // namespace Platform

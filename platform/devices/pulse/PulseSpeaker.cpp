@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/PulseSpeaker.h"
+
+#include "platform/backend/ReportSink.h"
+#include "platform/devices/pulse/PulseSession.h"
+
+#include <QJsonObject>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Platform {
+
+namespace {
+
+constexpr int MaxVolume = 100;
+
+int percentOf(const PulseDevice& device)
+{
+    return std::clamp(static_cast<int>(std::lround(device.volumePercent())), 0, MaxVolume);
+}
+
+} // namespace
+
+PulseSpeaker::PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener,
+                           ReportSink& report)
+    : m_session(std::move(session)), m_listener(listener), m_report(report)
+{
+    QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
+    update();
+}
+
+PulseSpeaker::~PulseSpeaker()
+{
+    recordMeasurement();
+}
+
+QString PulseSpeaker::currentName() const
+{
+    return nameIn(m_list, m_id);
+}
+
+void PulseSpeaker::setCurrent(const QString& id)
+{
+    m_session->chooseSpeaker(id);
+}
+
+DeviceState PulseSpeaker::state() const
+{
+    if (!device()) {
+        return DeviceState::Absent;
+    }
+    return m_session->hasSpeakerFailed() ? DeviceState::Failed : DeviceState::Ready;
+}
+
+void PulseSpeaker::setVolume(int percent)
+{
+    if (device()) {
+        const int wanted = std::clamp(percent, 0, MaxVolume);
+        m_volume.set(wanted, m_session->setVolume(PulseKind::Speaker, m_id, wanted));
+        m_wasMovedByUser = true;
+    }
+}
+
+const PulseDevice* PulseSpeaker::device() const
+{
+    return m_session->devices().speakers.find(m_id);
+}
+
+// The letters tell what is already so: by the time they are read, all questions are answered anew.
+void PulseSpeaker::update()
+{
+    const PulseSide& speakers = m_session->devices().speakers;
+    const DeviceList list = speakers.list();
+    const QString id = m_session->speakerId();
+    const bool isOther = m_id != id;
+    if (isOther) {
+        recordMeasurement();
+        m_id = id;
+    }
+    const Mailbox::Sender sender = m_mailbox.sender();
+    const bool isListChanged = !(m_list == list);
+    if (isListChanged) {
+        m_list = list;
+        sender.post([this] { m_listener.speakerListChanged(); });
+    }
+
+    const PulseDevice* current = device();
+    if (isOther) {
+        m_foundVolume = current ? percentOf(*current) : 0;
+        m_wasFoundMuted = current && current->isMuted;
+        m_wasMovedByUser = false;
+        m_volume.reset(m_foundVolume);
+    } else if (current && m_volume.take(percentOf(*current), speakers.settledOrder)) {
+        sender.post([this] { m_listener.speakerVolumeChanged(volume()); });
+    }
+    // A new list says nothing of the choice, which has to be shown in it again.
+    if (isOther || isListChanged) {
+        sender.post([this] { m_listener.currentSpeakerChanged(m_id); });
+    }
+    const bool works = isUsable(state());
+    if (m_works != works) {
+        m_works = works;
+        sender.post([this] { m_listener.speakerWorkStateChanged(m_works); });
+    }
+}
+
+void PulseSpeaker::recordMeasurement() const
+{
+    if (m_id.isEmpty()) {
+        return;
+    }
+    const PulseDevice* current = device();
+    m_report.recordMeasurement(QStringLiteral("speaker"),
+                               {{QStringLiteral("device"), currentName()},
+                                {QStringLiteral("volumeBefore"), m_foundVolume},
+                                {QStringLiteral("volumeAfter"), volume()},
+                                {QStringLiteral("mutedBefore"), m_wasFoundMuted},
+                                {QStringLiteral("mutedAfter"), current && current->isMuted},
+                                {QStringLiteral("movedByUser"), m_wasMovedByUser},
+                                {QStringLiteral("state"), toString(state())}});
+}
+
+} // namespace Platform

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/Mailbox.h"
+#include "platform/backend/SpeakerBackend.h"
+#include "platform/devices/pulse/DeviceVolume.h"
+#include "platform/devices/pulse/PulseDevices.h"
+
+#include <QObject>
+#include <memory>
+
+namespace Platform {
+
+class PulseSession;
+class ReportSink;
+
+// The playback devices of the sound server. Choosing one concerns this program alone: the server's
+// default stays what it was. At the end it reports the device, its volume and its mute.
+class PulseSpeaker final : public SpeakerBackend
+{
+public:
+    PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
+    ~PulseSpeaker() override;
+
+    QString currentId() const override { return m_id; }
+    QString currentName() const override;
+    void setCurrent(const QString& id) override;
+    DeviceState state() const override;
+    int volume() const override { return m_volume.percent(); }
+    void setVolume(int percent) override;
+
+private:
+    const PulseDevice* device() const;
+    void update();
+    void recordMeasurement() const;
+
+    std::shared_ptr<PulseSession> m_session;
+    Listener& m_listener;
+    ReportSink& m_report;
+    DeviceList m_list;
+    QString m_id;
+    bool m_works = false;
+    DeviceVolume m_volume;
+    // As the current device was found, before the user touched it.
+    int m_foundVolume = 0;
+    bool m_wasFoundMuted = false;
+    bool m_wasMovedByUser = false;
+    QObject m_context; // of the connection to the session
+    Mailbox m_mailbox;
+};
+
+} // namespace Platform

@@ -1,0 +1,363 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/Mp3Decoder.h"
+#include "platform/devices/pulse/PulseSound.h"
+#include "platform/devices/pulse/SoundBuffer.h"
+#include "tests/support/GapMeter.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cmath>
+#include <memory>
+#include <sys/stat.h>
+
+using namespace Platform;
+using TestSupport::SoundRecording;
+using TestSupport::SoundServer;
+
+namespace {
+
+constexpr int MaxGapMs = 50;
+constexpr int TimeoutMs = 5000;
+constexpr int BadFileMs = 1000;
+constexpr int PlayMs = 8000;
+constexpr double AlikeAtLeast = 0.95;
+constexpr double OthersAtMost = 0.5;
+constexpr float Audible = 0.003F;
+
+class SpeakerListener final : public SpeakerBackend::Listener
+{
+public:
+    void speakerListChanged() override {}
+    void currentSpeakerChanged(const QString&) override {}
+    void speakerVolumeChanged(int) override {}
+    void speakerWorkStateChanged(bool) override {}
+};
+
+class PlayerListener final : public PlayerBackend::Listener
+{
+public:
+    void playbackFinished() override { ++finished; }
+
+    int finished = 0;
+};
+
+QString id(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+QString soundPath(const QString& name)
+{
+    return QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds/") + name;
+}
+
+QStringList soundNames()
+{
+    return QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds"))
+        .entryList({QStringLiteral("*.mp3")});
+}
+
+// The file in one channel at the rate of the recordings.
+std::vector<float> readSound(const QString& path)
+{
+    SoundBuffer buffer;
+    Mp3Decoder::decode(path, 1.0F, buffer);
+    const SoundBuffer::Format format = buffer.format();
+    std::vector<float> all(buffer.size());
+    buffer.read(0, all.data(), all.size());
+    const std::size_t frames = format.channels == 0 ? 0 : all.size() / format.channels;
+    const auto mono = [&](std::size_t frame) {
+        double sum = 0.0;
+        for (unsigned channel = 0; channel < format.channels; ++channel) {
+            sum += static_cast<double>(all[frame * format.channels + channel]);
+        }
+        return sum / format.channels;
+    };
+    std::vector<float> result;
+    const double step = static_cast<double>(format.rate) / SoundRecording::Rate;
+    for (double at = 0.0; at + 1.0 < static_cast<double>(frames); at += step) {
+        const auto frame = static_cast<std::size_t>(at);
+        const double part = at - std::floor(at);
+        result.push_back(static_cast<float>((1.0 - part) * mono(frame) + part * mono(frame + 1)));
+    }
+    return result;
+}
+
+} // namespace
+
+class tst_PulsePlayer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<bool>("isPipeWire");
+        QTest::newRow("PulseAudio") << false;
+        QTest::newRow("PipeWire") << true;
+    }
+
+    void init()
+    {
+        QFETCH_GLOBAL(bool, isPipeWire);
+        m_server = std::make_unique<SoundServer>(isPipeWire ? SoundServer::Kind::PipeWire
+                                                            : SoundServer::Kind::PulseAudio);
+        QVERIFY(m_server->start());
+        m_sound = std::make_unique<PulseSound>(m_report);
+        m_speaker = m_sound->createSpeaker(m_speakerListener);
+        QTRY_COMPARE_WITH_TIMEOUT(m_speaker->currentId(), id("speaker_a"), TimeoutMs);
+        m_listener = {};
+    }
+
+    void cleanup()
+    {
+        m_player.reset();
+        m_speaker.reset();
+        m_sound.reset();
+        m_server.reset();
+    }
+
+    // Each of the sounds comes out as itself, on the chosen device and on no other.
+    void playsTheSounds()
+    {
+        QFETCH_GLOBAL(bool, isPipeWire);
+        const QStringList names = soundNames();
+        QCOMPARE(names.size(), 8);
+        std::vector<std::vector<float>> references;
+        for (const QString& name : names) {
+            references.push_back(readSound(soundPath(name)));
+        }
+        m_speaker->setCurrent(id("speaker_b"));
+        // One server plays them all; on the other it is about the server, not about the sounds.
+        const int count = isPipeWire ? 2 : names.size();
+        for (int played = 0; played < count; ++played) {
+            SoundRecording chosen(id("speaker_b.monitor"));
+            SoundRecording other(id("speaker_a.monitor"));
+            QVERIFY(chosen.waitForStart());
+            QVERIFY(other.waitForStart());
+            m_listener = {};
+            play(soundPath(names.at(played)));
+            QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+            const std::vector<float> heard = chosen.samples();
+            QStringList table;
+            for (int candidate = 0; candidate < names.size(); ++candidate) {
+                const double alike = TestSupport::correlation(
+                    heard, references[static_cast<std::size_t>(candidate)]);
+                table += QString::number(alike, 'f', 3);
+                QVERIFY2(candidate == played ? alike > AlikeAtLeast : alike < OthersAtMost,
+                         qPrintable(QStringLiteral("%1 heard as %2: %3")
+                                        .arg(names.at(played), names.at(candidate))
+                                        .arg(alike)));
+            }
+            qInfo("%-14s %s", qUtf8Printable(names.at(played)),
+                  qUtf8Printable(table.join(QStringLiteral("  "))));
+            QVERIFY(other.peak() < Audible);
+        }
+    }
+
+    void volumeIsWhatIsHeard()
+    {
+        const QString path = soundPath(QStringLiteral("Saxophone.mp3"));
+        const double full = loudnessOf(path);
+        m_speaker->setVolume(50);
+        QTRY_VERIFY(m_server->control({id("get-sink-volume"), id("speaker_a")}).contains("50%"));
+        const double half = loudnessOf(path);
+        // The percentages of sound servers are cubic.
+        QVERIFY2(std::abs((half - full) - 60.0 * std::log10(0.5)) < 0.5,
+                 qPrintable(QStringLiteral("%1 dB").arg(half - full)));
+    }
+
+    void badFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"missing", "folder", "fifo", "empty", "huge", "noise", "text",
+                                 "half-header", "unreadable-path\n<b>"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void badFiles()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(name);
+        if (name == QLatin1String("folder")) {
+            QVERIFY(QDir().mkdir(path));
+        } else if (name == QLatin1String("fifo")) {
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        } else if (name != QLatin1String("missing") && !name.startsWith(QLatin1String("unread"))) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            if (name == QLatin1String("huge")) {
+                QVERIFY(file.resize(1LL << 40));
+            } else if (name == QLatin1String("noise")) {
+                quint32 state = 1;
+                for (int i = 0; i < 200000; ++i) {
+                    state = state * 1664525U + 1013904223U;
+                    file.putChar(static_cast<char>(state >> 24U));
+                }
+            } else if (name == QLatin1String("text")) {
+                file.write(QByteArray("This is no sound.\n").repeated(5000));
+            } else if (name == QLatin1String("half-header")) {
+                file.write(QByteArray::fromHex("fffb90"));
+            }
+        }
+        QElapsedTimer clock;
+        clock.start();
+        play(path);
+        QCOMPARE(m_listener.finished, 0); // not from inside the call
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
+        QVERIFY(clock.elapsed() < BadFileMs);
+        QTest::qWait(100);
+        QCOMPARE(m_listener.finished, 1);
+        QVERIFY(isUsable(m_speaker->state())); // the device is not to blame
+    }
+
+    // A file that breaks off plays up to there.
+    void cutFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("cut.mp3"));
+        QFile whole(soundPath(QStringLiteral("Piano.mp3")));
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        QFile cut(path);
+        QVERIFY(cut.open(QIODevice::WriteOnly));
+        cut.write(whole.read(30000));
+        cut.write(QByteArray(3000, '\x55'));
+        cut.close();
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+        QVERIFY(recording.peak() > Audible);
+    }
+
+    void stopsAtOnce()
+    {
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(soundPath(QStringLiteral("Saxophone.mp3")));
+        QTRY_VERIFY(recording.peak() > Audible);
+        QElapsedTimer clock;
+        clock.start();
+        m_player.reset();
+        QVERIFY(clock.elapsed() < MaxGapMs);
+        QTRY_COMPARE(m_server->control({id("list"), id("short"), id("sink-inputs")}), QByteArray());
+        QCOMPARE(m_listener.finished, 0);
+    }
+
+    void followsTheChoice()
+    {
+        SoundRecording recording(id("speaker_b.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(soundPath(QStringLiteral("Saxophone.mp3")));
+        QTRY_VERIFY(m_server->control({id("list"), id("sink-inputs")}).contains("float32"));
+        m_speaker->setCurrent(id("speaker_b"));
+        QTRY_VERIFY(recording.peak() > Audible);
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+    }
+
+    void endsWithItsDevice()
+    {
+        m_speaker->setCurrent(id("speaker_b"));
+        SoundRecording other(id("speaker_a.monitor"));
+        SoundRecording chosen(id("speaker_b.monitor"));
+        QVERIFY(other.waitForStart());
+        QVERIFY(chosen.waitForStart());
+        play(soundPath(QStringLiteral("Saxophone.mp3")));
+        QTRY_VERIFY(chosen.peak() > Audible);
+        m_server->unplug(m_server->speakerB());
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, 1000);
+        QVERIFY(other.peak() < Audible);
+    }
+
+    void endsWithTheServer()
+    {
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(soundPath(QStringLiteral("Saxophone.mp3")));
+        QTRY_VERIFY(recording.peak() > Audible);
+        m_server->kill();
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, 1000);
+        // Without a server there is nothing to play on.
+        m_listener = {};
+        play(soundPath(QStringLiteral("Saxophone.mp3")));
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
+    }
+
+    void frozenServer()
+    {
+        const QString path = soundPath(QStringLiteral("Shutter.mp3"));
+        m_server->freeze();
+        TestSupport::GapMeter gaps;
+        play(path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+        m_player.reset();
+        m_server->thaw();
+        QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
+        m_listener = {};
+        play(path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+    }
+
+    void withoutASpeaker()
+    {
+        m_server->control({id("unload-module"), id("module-null-sink")});
+        QTRY_VERIFY(m_sound->speakers().empty());
+        play(soundPath(QStringLiteral("Shutter.mp3")));
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
+    }
+
+    // A player that comes first brings the connection itself.
+    void aloneIsEnough()
+    {
+        m_speaker.reset();
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(soundPath(QStringLiteral("Shutter.mp3")));
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
+        QVERIFY(recording.peak() > Audible);
+    }
+
+private:
+    void play(const QString& path)
+    {
+        m_player.reset();
+        m_player = m_sound->createPlayer(path, 1.0F, m_listener);
+    }
+
+    double loudnessOf(const QString& path)
+    {
+        SoundRecording recording(id("speaker_a.monitor"));
+        if (!recording.waitForStart()) {
+            return 0.0;
+        }
+        m_listener = {};
+        play(path);
+        if (!QTest::qWaitFor([this] { return m_listener.finished == 1; }, PlayMs)) {
+            return 0.0;
+        }
+        const std::vector<float> samples = recording.samples();
+        const std::size_t start = TestSupport::firstAbove(samples, Audible / 10.0F);
+        return TestSupport::decibels(
+            TestSupport::rms(samples, start, 3 * std::size_t{SoundRecording::Rate}));
+    }
+
+    std::unique_ptr<SoundServer> m_server;
+    TestSupport::MemoryReport m_report;
+    std::unique_ptr<PulseSound> m_sound;
+    SpeakerListener m_speakerListener;
+    std::unique_ptr<SpeakerBackend> m_speaker;
+    PlayerListener m_listener;
+    std::unique_ptr<PlayerBackend> m_player;
+};
+
+QTEST_GUILESS_MAIN(tst_PulsePlayer)
+#include "tst_PulsePlayer.moc"

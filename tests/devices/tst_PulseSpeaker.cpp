@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/PulseSound.h"
+#include "tests/support/GapMeter.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/SoundServer.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <memory>
+
+using namespace Platform;
+using TestSupport::SoundServer;
+
+namespace {
+
+constexpr int MaxGapMs = 50;
+constexpr int TimeoutMs = 5000;
+
+class Listener final : public SpeakerBackend::Listener
+{
+public:
+    void speakerListChanged() override { ++lists; }
+    void currentSpeakerChanged(const QString& id) override { currents.append(id); }
+    void speakerVolumeChanged(int percent) override { volumes.append(percent); }
+    void speakerWorkStateChanged(bool works) override { works_.append(works); }
+
+    int lists = 0;
+    QStringList currents;
+    QList<int> volumes;
+    QList<bool> works_;
+};
+
+QString nameOf(const DeviceList& list, const QString& id)
+{
+    for (const DeviceInfo& device : list) {
+        if (device.id == id) {
+            return device.name;
+        }
+    }
+    return {};
+}
+
+QString id(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+} // namespace
+
+class tst_PulseSpeaker : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<bool>("isPipeWire");
+        QTest::newRow("PulseAudio") << false;
+        QTest::newRow("PipeWire") << true;
+    }
+
+    void init()
+    {
+        QFETCH_GLOBAL(bool, isPipeWire);
+        m_server = std::make_unique<SoundServer>(isPipeWire ? SoundServer::Kind::PipeWire
+                                                            : SoundServer::Kind::PulseAudio);
+        QVERIFY(m_server->start());
+        m_sound = std::make_unique<PulseSound>(m_report);
+        m_listener = std::make_unique<Listener>();
+        m_speaker = m_sound->createSpeaker(*m_listener);
+        QVERIFY(m_sound->speakers().empty());
+        QTRY_COMPARE_WITH_TIMEOUT(m_speaker->currentId(), id("speaker_a"), TimeoutMs);
+    }
+
+    void cleanup()
+    {
+        m_speaker.reset();
+        m_sound.reset();
+        m_server.reset();
+    }
+
+    void listsTheDevices()
+    {
+        QCOMPARE(m_sound->speakers().size(), std::size_t{3});
+        QCOMPARE(nameOf(m_sound->speakers(), id("speaker_b")), QStringLiteral("Test Speaker B"));
+        QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker A"));
+        QTRY_VERIFY(m_listener->lists > 0);
+        QTRY_COMPARE(m_listener->currents.value(0), id("speaker_a"));
+        QTRY_COMPARE(m_listener->works_, QList<bool>{true});
+        QVERIFY(m_speaker->state() == DeviceState::Ready);
+
+        m_speaker.reset(); // nobody is left who needs the server
+        QVERIFY(m_sound->speakers().empty());
+    }
+
+    void plugging()
+    {
+        const QByteArray twin = m_server->plugSpeaker(id("twin"), QStringLiteral("Test Speaker A"));
+        QTRY_COMPARE(nameOf(m_sound->speakers(), id("twin")), QStringLiteral("Test Speaker A (2)"));
+        m_server->plugSpeaker(id("markup"), QStringLiteral("<b>Bold</b>"));
+        QTRY_COMPARE(nameOf(m_sound->speakers(), id("markup")), QStringLiteral("<b>Bold</b>"));
+        m_server->unplug(twin);
+        QTRY_COMPARE(nameOf(m_sound->speakers(), id("twin")), QString());
+        // A refilled list has to show the choice again.
+        QTRY_COMPARE(m_listener->currents.size(), 1 + 3);
+        QCOMPARE(m_listener->currents.last(), id("speaker_a"));
+    }
+
+    void choosingLeavesTheDefaultAlone()
+    {
+        m_speaker->setCurrent(id("speaker_b"));
+        QVERIFY(m_listener->currents.isEmpty() ||
+                m_listener->currents.last() != id("speaker_b")); // not from inside the call
+        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
+        QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker B"));
+        QCOMPARE(m_server->control({id("get-default-sink")}), QByteArray("speaker_a"));
+
+        // Nor does the default move the choice.
+        m_server->control({id("set-default-sink"), id("voice")});
+        m_server->plugSpeaker(id("late"), id("Late")); // behind it, so that it is known to be over
+        QTRY_COMPARE(nameOf(m_sound->speakers(), id("late")), id("Late"));
+        QCOMPARE(m_speaker->currentId(), id("speaker_b"));
+    }
+
+    void followsTheDefault()
+    {
+        m_server->control({id("set-default-sink"), id("speaker_b")});
+        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
+        m_server->unplug(m_server->speakerB());
+        QTRY_VERIFY(m_speaker->currentId() != id("speaker_b"));
+        QVERIFY(isUsable(m_speaker->state()));
+    }
+
+    void chosenDeviceComesBack()
+    {
+        m_speaker->setCurrent(id("speaker_b"));
+        QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
+        m_server->unplug(m_server->speakerB());
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QVERIFY(m_speaker->state() == DeviceState::Absent);
+        QTRY_COMPARE(m_listener->works_.last(), false);
+        m_server->plugSpeaker(id("speaker_b"), QStringLiteral("Test Speaker B"));
+        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
+        QTRY_COMPARE(m_listener->works_.last(), true);
+    }
+
+    void dummyOutputIsNoSpeaker()
+    {
+        QFETCH_GLOBAL(bool, isPipeWire);
+        m_server->control({id("unload-module"), id("module-null-sink")});
+        if (!isPipeWire) {
+            m_server->plugSpeaker(id("auto_null"), QStringLiteral("Dummy Output"));
+        }
+        QTRY_VERIFY(
+            m_server->control({id("list"), id("short"), id("sinks")}).contains("auto_null"));
+        QTRY_VERIFY(m_sound->speakers().empty());
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QVERIFY(m_speaker->state() == DeviceState::Absent);
+        QCOMPARE(m_speaker->volume(), 0);
+    }
+
+    void volume()
+    {
+        QTRY_COMPARE(m_speaker->volume(), 100);
+        for (int percent = 99; percent >= 37; --percent) { // a slider being dragged
+            m_speaker->setVolume(percent);
+            QCOMPARE(m_speaker->volume(), percent);
+        }
+        QTRY_VERIFY(sinkVolumes().contains("37%"));
+        m_server->control({id("set-sink-volume"), id("speaker_a"), id("61%")});
+        QTRY_COMPARE(m_speaker->volume(), 61);
+        // What the user set never came back as somebody else's change.
+        QCOMPARE(m_listener->volumes, QList<int>{61});
+
+        m_server->control({id("set-sink-volume"), id("speaker_a"), id("150%")});
+        QTRY_COMPARE(m_listener->volumes.last(), 100);
+        m_speaker->setVolume(-5);
+        QTRY_VERIFY(sinkVolumes().contains(" 0%"));
+        m_speaker->setVolume(50); // balance is lost at nought, but both sides come back
+        QTRY_COMPARE(sinkVolumes().count(" 50%"), 2);
+    }
+
+    void volumeKeepsTheBalance()
+    {
+        m_server->control({id("set-sink-volume"), id("speaker_a"), id("80%"), id("40%")});
+        QTRY_COMPARE(m_speaker->volume(), 80);
+        m_speaker->setVolume(40);
+        QTRY_VERIFY(sinkVolumes().contains(" 20%"));
+        QVERIFY(sinkVolumes().contains(" 40%"));
+    }
+
+    void movingEndsAMute()
+    {
+        m_speaker.reset();
+        m_server->control({id("set-sink-mute"), id("speaker_b"), id("1")});
+        m_speaker = m_sound->createSpeaker(*m_listener);
+        m_speaker->setCurrent(id("speaker_b"));
+        QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
+        QVERIFY(isUsable(m_speaker->state()));
+        m_speaker->setVolume(70);
+        QTRY_COMPARE(m_server->control({id("get-sink-mute"), id("speaker_b")}),
+                     QByteArray("Mute: no"));
+        m_speaker.reset();
+        const QJsonObject figures = m_report.measurements.value(id("speaker"));
+        QCOMPARE(figures.value(id("device")).toString(), QStringLiteral("Test Speaker B"));
+        QCOMPARE(figures.value(id("mutedBefore")).toBool(), true);
+        QCOMPARE(figures.value(id("mutedAfter")).toBool(), false);
+        QCOMPARE(figures.value(id("volumeBefore")).toInt(), 100);
+        QCOMPARE(figures.value(id("volumeAfter")).toInt(), 70);
+        QCOMPARE(figures.value(id("movedByUser")).toBool(), true);
+    }
+
+    void comesBackWithTheServer()
+    {
+        m_speaker->setCurrent(id("speaker_b"));
+        QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
+        TestSupport::GapMeter gaps;
+        m_server->kill();
+        QTRY_VERIFY(m_sound->speakers().empty());
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_COMPARE(m_listener->works_.last(), false);
+        QVERIFY(m_server->start());
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener->currents.last(), id("speaker_b"), TimeoutMs);
+        QTRY_COMPARE(m_listener->works_.last(), true);
+        QCOMPARE(m_sound->speakers().size(), std::size_t{3});
+        qInfo("longest gap %lld ms", gaps.longestMs());
+    }
+
+    void frozenServerHoldsNobodyUp()
+    {
+        m_server->freeze();
+        QElapsedTimer clock;
+        clock.start();
+        m_speaker->setVolume(20);
+        m_speaker->setCurrent(id("speaker_b"));
+        const std::unique_ptr<SpeakerBackend> other = m_sound->createSpeaker(*m_listener);
+        QCOMPARE(m_speaker->volume(), 20);
+        m_speaker.reset();
+        QVERIFY2(clock.elapsed() < MaxGapMs, qPrintable(QString::number(clock.elapsed())));
+        QTRY_COMPARE(other->currentId(), id("speaker_b"));
+        m_server->thaw();
+        QTRY_VERIFY(sinkVolumes().contains(" 20%"));
+    }
+
+    void leavesAFrozenServer()
+    {
+        Listener second;
+        m_server->freeze();
+        QElapsedTimer clock;
+        clock.start();
+        m_speaker.reset(); // with it the connection
+        m_speaker = m_sound->createSpeaker(second);
+        m_speaker.reset(); // one that never got through
+        QVERIFY2(clock.elapsed() < MaxGapMs, qPrintable(QString::number(clock.elapsed())));
+        m_server->thaw();
+    }
+
+    void manyPluggings()
+    {
+        constexpr int Rounds = 25;
+        TestSupport::GapMeter gaps;
+        for (int round = 0; round < Rounds; ++round) {
+            const QByteArray module = m_server->plugSpeaker(id("hasty"), id("Hasty"));
+            m_server->unplug(module);
+        }
+        m_server->plugSpeaker(id("last"), id("Last"));
+        QTRY_COMPARE(nameOf(m_sound->speakers(), id("last")), id("Last"));
+        QCOMPARE(nameOf(m_sound->speakers(), id("hasty")), QString());
+        QCOMPARE(m_speaker->currentId(), id("speaker_a"));
+    }
+
+private:
+    QByteArray sinkVolumes() { return m_server->control({id("get-sink-volume"), id("speaker_a")}); }
+
+    std::unique_ptr<SoundServer> m_server;
+    TestSupport::MemoryReport m_report;
+    std::unique_ptr<PulseSound> m_sound;
+    std::unique_ptr<Listener> m_listener;
+    std::unique_ptr<SpeakerBackend> m_speaker;
+};
+
+QTEST_GUILESS_MAIN(tst_PulseSpeaker)
+#include "tst_PulseSpeaker.moc"

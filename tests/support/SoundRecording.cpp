@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/SoundRecording.h"
+
+#include <QEventLoop>
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace TestSupport {
+
+namespace {
+
+constexpr int StartTimeoutMs = 5000;
+constexpr int EndTimeoutMs = 30000;
+// A quarter of the rate is plenty to tell sounds apart, and forgives half a sample of delay.
+constexpr std::size_t Decimation = 4;
+constexpr std::ptrdiff_t SearchedDelay = SoundRecording::Rate / Decimation / 30;
+constexpr float OnsetThreshold = 0.01F;
+
+std::vector<float> decimated(const std::vector<float>& samples)
+{
+    std::vector<float> result(samples.size() / Decimation);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        for (std::size_t k = 0; k < Decimation; ++k) {
+            result[i] += samples[Decimation * i + k] / static_cast<float>(Decimation);
+        }
+    }
+    return result;
+}
+
+QStringList rawFormat(const QString& device, int channels)
+{
+    return {QStringLiteral("--raw"),
+            QStringLiteral("--device=%1").arg(device),
+            QStringLiteral("--format=float32le"),
+            QStringLiteral("--rate=%1").arg(SoundRecording::Rate),
+            QStringLiteral("--channels=%1").arg(channels),
+            QStringLiteral("--latency-msec=20")};
+}
+
+} // namespace
+
+SoundRecording::SoundRecording(const QString& device, int channels) : m_channels(channels)
+{
+    QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
+                     [this] { m_data += m_process.readAllStandardOutput(); });
+    m_process.start(QStringLiteral("parec"), rawFormat(device, channels));
+}
+
+SoundRecording::~SoundRecording()
+{
+    stop();
+}
+
+bool SoundRecording::waitForStart()
+{
+    return QTest::qWaitFor([this] { return !m_data.isEmpty(); }, StartTimeoutMs);
+}
+
+std::vector<float> SoundRecording::samples(int channel) const
+{
+    const std::size_t frameSize = static_cast<std::size_t>(m_channels) * sizeof(float);
+    const std::size_t frames = static_cast<std::size_t>(m_data.size()) / frameSize;
+    std::vector<float> result(frames);
+    for (std::size_t frame = 0; frame < frames; ++frame) {
+        std::memcpy(&result[frame],
+                    m_data.constData() + frame * frameSize +
+                        static_cast<std::size_t>(channel) * sizeof(float),
+                    sizeof(float));
+    }
+    return result;
+}
+
+float SoundRecording::peak(std::size_t from) const
+{
+    const std::vector<float> all = samples();
+    float result = 0.0F;
+    for (std::size_t i = from; i < all.size(); ++i) {
+        result = std::max(result, std::abs(all[i]));
+    }
+    return result;
+}
+
+void SoundRecording::stop()
+{
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+SoundSource::SoundSource(const QString& device, const std::vector<float>& samples)
+{
+    m_process.start(QStringLiteral("pacat"), rawFormat(device, 1));
+    m_process.write(reinterpret_cast<const char*>(samples.data()),
+                    static_cast<qint64>(samples.size() * sizeof(float)));
+    m_process.closeWriteChannel();
+}
+
+SoundSource::~SoundSource()
+{
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+bool SoundSource::waitForEnd()
+{
+    return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; },
+                           EndTimeoutMs);
+}
+
+std::vector<float> silence(double seconds)
+{
+    return std::vector<float>(static_cast<std::size_t>(seconds * SoundRecording::Rate));
+}
+
+std::vector<float> tone(double seconds, double frequency, double decibels)
+{
+    std::vector<float> result = silence(seconds);
+    const double amplitude = std::pow(10.0, decibels / 20.0);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        result[i] = static_cast<float>(amplitude *
+                                       std::sin(2.0 * M_PI * frequency * static_cast<double>(i) /
+                                                static_cast<double>(SoundRecording::Rate)));
+    }
+    return result;
+}
+
+double decibels(double amplitude)
+{
+    return 20.0 * std::log10(std::max(amplitude, 1e-9));
+}
+
+double rms(const std::vector<float>& samples, std::size_t from, std::size_t count)
+{
+    double sum = 0.0;
+    const std::size_t end = std::min(samples.size(), from + count);
+    for (std::size_t i = from; i < end; ++i) {
+        sum += static_cast<double>(samples[i]) * static_cast<double>(samples[i]);
+    }
+    return end > from ? std::sqrt(sum / static_cast<double>(end - from)) : 0.0;
+}
+
+double correlation(const std::vector<float>& recording, const std::vector<float>& sound)
+{
+    const std::vector<float> hay = decimated(recording);
+    const std::vector<float> needle = decimated(sound);
+    const auto offset = static_cast<std::ptrdiff_t>(firstAbove(hay, OnsetThreshold)) -
+                        static_cast<std::ptrdiff_t>(firstAbove(needle, OnsetThreshold));
+    double best = 0.0;
+    for (std::ptrdiff_t delay = offset - SearchedDelay; delay <= offset + SearchedDelay; ++delay) {
+        double product = 0.0;
+        double hayEnergy = 0.0;
+        double needleEnergy = 0.0;
+        for (std::size_t i = 0; i < needle.size(); ++i) {
+            const std::ptrdiff_t at = delay + static_cast<std::ptrdiff_t>(i);
+            const float heard = at >= 0 && at < static_cast<std::ptrdiff_t>(hay.size())
+                                    ? hay[static_cast<std::size_t>(at)]
+                                    : 0.0F;
+            product += static_cast<double>(heard * needle[i]);
+            hayEnergy += static_cast<double>(heard * heard);
+            needleEnergy += static_cast<double>(needle[i] * needle[i]);
+        }
+        const double energies = std::sqrt(hayEnergy * needleEnergy);
+        best = std::max(best, energies > 0.0 ? product / energies : 0.0);
+    }
+    return best;
+}
+
+std::size_t firstAbove(const std::vector<float>& samples, float threshold, std::size_t from)
+{
+    for (std::size_t i = from; i < samples.size(); ++i) {
+        if (std::abs(samples[i]) > threshold) {
+            return i;
+        }
+    }
+    return samples.size();
+}
+
+} // namespace TestSupport

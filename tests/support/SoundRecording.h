@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QString>
+#include <vector>
+
+namespace TestSupport {
+
+// What comes out of a playback device, or into a microphone, from its making on.
+class SoundRecording
+{
+public:
+    static constexpr int Rate = 48000;
+
+    // device is a source of the server, such as "speaker_a.monitor".
+    explicit SoundRecording(const QString& device, int channels = 1);
+    ~SoundRecording();
+
+    bool waitForStart();                               // until the first sample
+    std::vector<float> samples(int channel = 0) const; // so far
+    // The loudest sample from the given one on.
+    float peak(std::size_t from = 0) const;
+    void stop();
+
+private:
+    QProcess m_process;
+    int m_channels;
+    QByteArray m_data;
+};
+
+// Plays samples on a device, beginning at once.
+class SoundSource
+{
+public:
+    SoundSource(const QString& device, const std::vector<float>& samples);
+    ~SoundSource();
+
+    bool waitForEnd();
+
+private:
+    QProcess m_process;
+};
+
+std::vector<float> silence(double seconds);
+std::vector<float> tone(double seconds, double frequency, double decibels);
+double decibels(double amplitude);
+double rms(const std::vector<float>& samples, std::size_t from, std::size_t count);
+// How alike (0 to 1) the part of a recording from its first sound on and a sound are, at the best
+// of the delays near by.
+double correlation(const std::vector<float>& recording, const std::vector<float>& sound);
+// Where the first sample louder than the threshold is; the size where none is.
+std::size_t firstAbove(const std::vector<float>& samples, float threshold, std::size_t from = 0);
+
+} // namespace TestSupport
