@@ -34,6 +34,15 @@ const QLatin1String
     InitialOtherStepStyle("QLabel{background:#FFFFFF; color: rgba(35, 35, 35, 0.8); "
                           "border-radius:4px;padding-left:10px;}");
 
+// A new style sheet takes back the text colour, so that is set last.
+void showPlain(ClickColorLabel* label, const QString& style)
+{
+    label->setStyleSheet(style);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, StepTextColor);
+    label->setPalette(palette);
+}
+
 } // namespace
 
 ContentPage::ContentPage(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::ContentPage>())
@@ -65,28 +74,25 @@ void ContentPage::selectStep(QWidget* stepLabel)
 {
     for (ClickColorLabel* label :
          {ui->label_SystemCheck, ui->label_CameraCheck, ui->label_SoundCheck, ui->label_MicCheck}) {
-        label->setStyleSheet(OtherStepStyle);
-        QPalette palette = label->palette();
-        palette.setColor(QPalette::WindowText, StepTextColor);
-        label->setPalette(palette);
+        showPlain(label, OtherStepStyle);
     }
     if (stepLabel == ui->label_SystemCheck) {
-        ui->label_SystemCheck->setStyleSheet(CurrentStepStyle);
+        showPlain(ui->label_SystemCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->networkPage);
     } else if (stepLabel == ui->label_CameraCheck) {
-        ui->label_CameraCheck->setStyleSheet(CurrentStepStyle);
+        showPlain(ui->label_CameraCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->cameraPage);
         ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
         ui->networkPage->saveResult();
     } else if (stepLabel == ui->label_SoundCheck) {
-        ui->label_SoundCheck->setStyleSheet(CurrentStepStyle);
+        showPlain(ui->label_SoundCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->headsetPage);
         ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
         ui->networkPage->saveResult();
         ui->label_CameraCheck->setResultColor(ui->cameraPage->isPassed());
         ui->cameraPage->saveResult();
     } else if (stepLabel == ui->label_MicCheck) {
-        ui->label_MicCheck->setStyleSheet(CurrentStepStyle);
+        showPlain(ui->label_MicCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->microphonePage);
         ui->networkPage->saveResult();
         ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());

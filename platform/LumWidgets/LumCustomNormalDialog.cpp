@@ -46,11 +46,17 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
     layout->addWidget(m_titleBar);
     if (m_owner) {
-        connect(m_owner, &QObject::destroyed, this, [this] { done(Rejected); });
+        connect(m_owner, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
     }
 }
 
-LumCustomNormalDialog::~LumCustomNormalDialog() = default;
+LumCustomNormalDialog::~LumCustomNormalDialog()
+{
+    if (m_center) {
+        m_center->disconnect(this);
+        delete m_center;
+    }
+}
 
 void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool /*isScrollable*/)
 {
@@ -157,6 +163,16 @@ void LumCustomNormalDialog::moveAboveOwner()
     place.moveCenter(m_owner ? m_owner->window()->frameGeometry().center()
                              : screen->availableGeometry().center());
     move(place.topLeft());
+}
+
+void LumCustomNormalDialog::abandon()
+{
+    // A question that is open runs an event loop inside ours; that has to end first.
+    const QList<QDialog*> questions = findChildren<QDialog*>();
+    for (QDialog* question : questions) {
+        question->reject();
+    }
+    done(Rejected);
 }
 
 bool LumCustomNormalDialog::askCenterToClose()

@@ -58,6 +58,7 @@ protected:
 private:
     QWidget* createTitleBar();
     void moveAboveOwner();
+    void abandon();
     bool askCenterToClose(); // false where it refused
 
     QPointer<QWidget> m_owner;

@@ -1,0 +1,511 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/EngineRegistry.h"
+#include "platform/backend/FileWriter.h"
+#include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/QuestionAnswerer.h"
+#include "wizard/CheckPage.h"
+#include "wizard/ClickColorLabel.h"
+#include "wizard/ContentPage.h"
+
+#include <LumUtility/LumSettings.h>
+
+#include <QFrame>
+#include <QLoggingCategory>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QtTest>
+
+using Platform::ScriptedEngine;
+using Platform::EngineRegistry::uninstall;
+
+namespace {
+
+const QColor Green("#009265");
+const QColor Red("#FF4A27");
+const QColor Plain(35, 35, 35, 204);
+const QString CurrentStyle = "QLabel{background:#F0F0F0;border-radius:4px;padding-left:10px;}";
+const QString OtherStyle = "QLabel{background:#FFFFFF;border-radius:4px;padding-left:10px;}";
+const char* const PageNames[] = {"networkPage", "cameraPage", "headsetPage", "microphonePage"};
+const char* const LabelNames[] = {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck",
+                                  "label_MicCheck"};
+
+} // namespace
+
+class tst_ContentPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void initialState();
+    void formIsLaidOutAsGiven();
+    void metaObjectHasOneSignal();
+    void completeMovesThroughTheSteps();
+    void unknownLabelOnlyResets();
+    void jumpingToTheMicrophoneMarksRedAndRecords();
+    void goingBackRecordsNothing();
+    void returningReplacesTheMark();
+    void microphoneCompleteShowsTheResult();
+    void redetectKeepsTheAnswers();
+    void redetectAfterOneFailure();
+    void okClosesTheFrame();
+
+    void closingUnansweredAsks();
+    void refusingKeepsTheDialog();
+    void confirmingReportsLeftEarly();
+    void closingAnsweredWritesTheSetting_data();
+    void closingAnsweredWritesTheSetting();
+    void threeAnswersAreNotEnough();
+    void closingHidesTheShownPage();
+    void questionIsLogged();
+    void canCloseFollowsTheSameRule();
+
+    void engineEndsTheSession_data();
+    void engineEndsTheSession();
+    void breakdownWinsOverTheQuestion_data();
+    void breakdownWinsOverTheQuestion();
+    void breakdownTwiceInARow();
+    void breakdownWhileClosing();
+    void frameDestroyedDuringTheQuestion();
+
+private:
+    CheckPage* page(const char* name) const { return m_frame->findChild<CheckPage*>(name); }
+    ClickColorLabel* label(const char* name) const
+    {
+        return m_frame->findChild<ClickColorLabel*>(name);
+    }
+    QStackedWidget* stack(const char* name) const
+    {
+        return m_frame->findChild<QStackedWidget*>(name);
+    }
+    void answerAll(bool answer);
+    void finishPage(const char* name, bool answer) { page(name)->finishCheck(answer); }
+    void openFrame();
+    QString shownPage() const { return stack("stackedWidget")->currentWidget()->objectName(); }
+    QColor textColor(const char* name) const
+    {
+        return label(name)->palette().color(QPalette::WindowText);
+    }
+    QVector<int> postedCodes() const;
+    bool isSettingWritten() const;
+
+    ScriptedEngine* m_engine = nullptr;
+    QPointer<ContentPage> m_frame;
+};
+
+void tst_ContentPage::init()
+{
+    m_engine = &ScriptedEngine::install();
+    openFrame();
+}
+
+void tst_ContentPage::cleanup()
+{
+    delete m_frame;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(m_engine->livingSessions(), 0);
+    QVERIFY(Platform::FileWriter::waitForWritten(5000));
+    uninstall();
+}
+
+void tst_ContentPage::openFrame()
+{
+    m_frame = new ContentPage(nullptr);
+    m_frame->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_frame));
+}
+
+void tst_ContentPage::answerAll(bool answer)
+{
+    for (const char* name : PageNames) {
+        finishPage(name, answer);
+    }
+}
+
+QVector<int> tst_ContentPage::postedCodes() const
+{
+    QVector<int> codes;
+    for (const auto& post : m_engine->reports().posts()) {
+        codes << post.code;
+    }
+    return codes;
+}
+
+bool tst_ContentPage::isSettingWritten() const
+{
+    return LumSettings::instance(QString())->setting("ShowSystemCheck").isValid();
+}
+
+void tst_ContentPage::initialState()
+{
+    QCOMPARE(m_frame->objectName(), QString("selfcheckContentPage"));
+    QCOMPARE(m_frame->styleSheet(),
+             QString("QWidget#selfcheckContentPage{border-bottom-left-radius: 6px; "
+                     "border-bottom-right-radius: 6px;}"));
+    QVERIFY(m_frame->windowFlags() & Qt::FramelessWindowHint);
+    QVERIFY(m_frame->testAttribute(Qt::WA_DeleteOnClose));
+    QCOMPARE(m_frame->font().pixelSize(), 12);
+    QCOMPARE(stack("checkArea")->currentWidget()->objectName(), QString("checkPage"));
+    QCOMPARE(shownPage(), QString("networkPage"));
+    QCOMPARE(label("label_SystemCheck")->styleSheet(),
+             QString("QLabel{background:#F0F0F0; color: rgba(35, 35, 35, 0.8); "
+                     "border-radius:4px;padding-left:10px;}"));
+    for (const char* name : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+        QCOMPARE(label(name)->styleSheet(),
+                 QString("QLabel{background:#FFFFFF; color: rgba(35, 35, 35, 0.8); "
+                         "border-radius:4px;padding-left:10px;}"));
+    }
+    QCOMPARE(label("label_SystemCheck")->text(), QString("ID_CheckResultPage_System"));
+    QCOMPARE(label("label_CameraCheck")->text(), QString("ID_Camera_Check"));
+    QCOMPARE(label("label_SoundCheck")->text(), QString("ID_CheckResultPage_Headphone"));
+    QCOMPARE(label("label_MicCheck")->text(), QString("ID_Microphone_Check"));
+}
+
+void tst_ContentPage::formIsLaidOutAsGiven()
+{
+    QCOMPARE(m_frame->minimumSize(), QSize(620, 420));
+    QCOMPARE(m_frame->maximumSize(), QSize(620, 420));
+    QCOMPARE(stack("checkArea")->geometry(), QRect(0, 20, 620, 408));
+    QCOMPARE(stack("checkArea")->font().family(), QString::fromUtf8("微软雅黑"));
+    QCOMPARE(stack("checkArea")->font().pointSize(), 12);
+    QCOMPARE(stack("stackedWidget")->geometry(), QRect(141, 5, 480, 400));
+    auto* divider = m_frame->findChild<QFrame*>("frameleft");
+    QCOMPARE(divider->geometry(), QRect(139, 5, 1, 408));
+    QCOMPARE(divider->styleSheet(), QString("QFrame#frameleft{\n\tbackground: #F7F7F7;\n}"));
+    int y = 5;
+    for (const char* name : LabelNames) {
+        QCOMPARE(label(name)->geometry(), QRect(20, y, 86, 28));
+        y += 38;
+    }
+    QStringList pages;
+    for (int i = 0; i < stack("stackedWidget")->count(); ++i) {
+        pages << stack("stackedWidget")->widget(i)->objectName();
+    }
+    QCOMPARE(pages, QStringList({"networkPage", "cameraPage", "headsetPage", "microphonePage"}));
+    QCOMPARE(m_frame->findChild<QWidget*>("resultPage")->styleSheet(),
+             QString("QWidget#resultPage\n{\n\tbackground-color: white;\n}"));
+}
+
+void tst_ContentPage::metaObjectHasOneSignal()
+{
+    const QMetaObject& meta = ContentPage::staticMetaObject;
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("closeDialog()"));
+}
+
+void tst_ContentPage::completeMovesThroughTheSteps()
+{
+    for (int i = 0; i < 3; ++i) {
+        finishPage(PageNames[i], true);
+        QCOMPARE(shownPage(), QString(PageNames[i + 1]));
+        QCOMPARE(label(LabelNames[i + 1])->styleSheet(), CurrentStyle);
+        QCOMPARE(textColor(LabelNames[i]), page(PageNames[i])->isPassed() ? Green : Red);
+        for (int j = i + 2; j < 4; ++j) {
+            QCOMPARE(label(LabelNames[j])->styleSheet(), OtherStyle);
+            QCOMPARE(textColor(LabelNames[j]), Plain);
+        }
+    }
+}
+
+void tst_ContentPage::unknownLabelOnlyResets()
+{
+    m_frame->selectStep(label("label_MicCheck"));
+    m_engine->clearCalls();
+    QWidget other;
+    m_frame->selectStep(&other);
+    QCOMPARE(shownPage(), QString("microphonePage"));
+    for (const char* name : LabelNames) {
+        QCOMPARE(label(name)->styleSheet(), OtherStyle);
+        QCOMPARE(textColor(name), Plain);
+    }
+    QVERIFY(m_engine->commands().filter("report.").isEmpty());
+}
+
+void tst_ContentPage::jumpingToTheMicrophoneMarksRedAndRecords()
+{
+    m_engine->clearCalls();
+    QTest::mouseClick(label("label_MicCheck"), Qt::LeftButton);
+    QCOMPARE(shownPage(), QString("microphonePage"));
+    for (const char* name : {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck"}) {
+        QCOMPARE(textColor(name), Red);
+        QCOMPARE(label(name)->styleSheet(), OtherStyle);
+    }
+    QCOMPARE(textColor("label_MicCheck"), Plain);
+    QCOMPARE(label("label_MicCheck")->styleSheet(), CurrentStyle);
+    QStringList answers = m_engine->commands().filter("userState");
+    QCOMPARE(answers, QStringList({"report.result(camera.userState=0)",
+                                   "report.result(speaker.userState=0)"}));
+}
+
+void tst_ContentPage::goingBackRecordsNothing()
+{
+    m_frame->selectStep(label("label_MicCheck"));
+    m_engine->clearCalls();
+    QTest::mouseClick(label("label_SystemCheck"), Qt::LeftButton);
+    QCOMPARE(shownPage(), QString("networkPage"));
+    QVERIFY(m_engine->commands().filter("report.").isEmpty());
+    for (const char* name : LabelNames) {
+        QCOMPARE(textColor(name), Plain);
+    }
+}
+
+void tst_ContentPage::returningReplacesTheMark()
+{
+    m_frame->selectStep(label("label_SoundCheck"));
+    QCOMPARE(textColor("label_CameraCheck"), Red);
+    m_frame->selectStep(label("label_CameraCheck"));
+    QCOMPARE(textColor("label_CameraCheck"), Plain);
+    QCOMPARE(textColor("label_SystemCheck"), Red);
+}
+
+void tst_ContentPage::microphoneCompleteShowsTheResult()
+{
+    m_frame->selectStep(label("label_MicCheck"));
+    m_engine->clearCalls();
+    finishPage("microphonePage", false);
+    QCOMPARE(stack("checkArea")->currentWidget()->objectName(), QString("resultPage"));
+    QCOMPARE(textColor("label_MicCheck"), Red);
+    QCOMPARE(m_engine->commands().filter("userState"),
+             QStringList({"report.result(microphone.userState=2)"}));
+}
+
+void tst_ContentPage::redetectKeepsTheAnswers()
+{
+    answerAll(true);
+    auto* redetect = m_frame->findChild<QPushButton*>("redetectButton");
+    QTRY_VERIFY(redetect->isVisible());
+    QTest::mouseClick(redetect, Qt::LeftButton);
+    QCOMPARE(stack("checkArea")->currentWidget()->objectName(), QString("checkPage"));
+    QCOMPARE(shownPage(), QString("microphonePage"));
+    for (const char* name : PageNames) {
+        QVERIFY(page(name)->isTested());
+    }
+    QCOMPARE(textColor("label_MicCheck"), Red);
+    // The second pass moves through the same connections.
+    answerAll(false);
+    QCOMPARE(stack("checkArea")->currentWidget()->objectName(), QString("resultPage"));
+}
+
+void tst_ContentPage::redetectAfterOneFailure()
+{
+    answerAll(true);
+    QTRY_VERIFY(m_frame->findChild<QPushButton*>("redetectButton")->isVisible());
+    QVERIFY(!m_frame->findChild<QPushButton*>("okButton")->isVisible());
+}
+
+void tst_ContentPage::okClosesTheFrame()
+{
+    answerAll(true);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    // OK is hidden while a check failed; its slot is what closes.
+    QVERIFY(QMetaObject::invokeMethod(page("resultPage"), "on_okButton_clicked"));
+    QVERIFY(!m_frame->isVisible());
+    QVERIFY(destroyed.wait());
+    QCOMPARE(postedCodes(), QVector<int>({3}));
+}
+
+void tst_ContentPage::closingUnansweredAsks()
+{
+    QuestionAnswerer question(QMessageBox::No);
+    QVERIFY(!m_frame->close());
+    QCOMPARE(question.count(), 1);
+    QCOMPARE(question.text(), QString("ID_ContentPage_NotFinishedIfLeave"));
+    QCOMPARE(question.title(), QString("ID_MessageBox_Question"));
+    QCOMPARE(question.buttons(), QMessageBox::Yes | QMessageBox::No);
+    QCOMPARE(question.defaultButton(), QMessageBox::Yes);
+}
+
+void tst_ContentPage::refusingKeepsTheDialog()
+{
+    m_frame->selectStep(label("label_CameraCheck"));
+    QuestionAnswerer question(QMessageBox::No);
+    m_frame->close();
+    QVERIFY(m_frame);
+    QVERIFY(m_frame->isVisible());
+    QCOMPARE(shownPage(), QString("cameraPage"));
+    QVERIFY(stack("stackedWidget")->currentWidget()->isVisible());
+    QVERIFY(!isSettingWritten());
+    QCOMPARE(postedCodes(), QVector<int>());
+}
+
+void tst_ContentPage::confirmingReportsLeftEarly()
+{
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question(QMessageBox::Yes);
+    QVERIFY(m_frame->close());
+    QCOMPARE(postedCodes(), QVector<int>({7}));
+    QCOMPARE(m_engine->reports().posts().first().managerName, QString("ContentPage::closeEvent"));
+    QVERIFY(!isSettingWritten());
+    QVERIFY(destroyed.wait());
+}
+
+void tst_ContentPage::closingAnsweredWritesTheSetting_data()
+{
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("all yes") << true;
+    QTest::newRow("all no") << false;
+}
+
+void tst_ContentPage::closingAnsweredWritesTheSetting()
+{
+    QFETCH(bool, answer);
+    answerAll(answer);
+    QuestionAnswerer question(QMessageBox::No);
+    QVERIFY(m_frame->close());
+    QCOMPARE(question.count(), 0);
+    QCOMPARE(postedCodes(), QVector<int>({3}));
+    QVERIFY(Platform::FileWriter::waitForWritten(5000));
+    const QSettings file(m_engine->settingsFolder() + "/settings.ini", QSettings::IniFormat);
+    QCOMPARE(file.value("ShowSystemCheck").toString(), QString("false"));
+}
+
+void tst_ContentPage::threeAnswersAreNotEnough()
+{
+    finishPage("cameraPage", true);
+    finishPage("headsetPage", true);
+    QuestionAnswerer question(QMessageBox::Yes);
+    m_frame->close();
+    QCOMPARE(question.count(), 1);
+    QCOMPARE(postedCodes(), QVector<int>({7}));
+}
+
+void tst_ContentPage::closingHidesTheShownPage()
+{
+    m_frame->selectStep(label("label_CameraCheck"));
+    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
+    m_engine->clearCalls();
+    QuestionAnswerer question(QMessageBox::Yes);
+    m_frame->close();
+    QVERIFY(shown->isHidden());
+    const QStringList commands = m_engine->commands();
+    QVERIFY(commands.indexOf("report.post(ContentPage::closeEvent,7)") <
+            commands.indexOf("camera.stop()"));
+}
+
+void tst_ContentPage::questionIsLogged()
+{
+    static QStringList lines;
+    lines.clear();
+    static QtMessageHandler previous = nullptr;
+    previous = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+            if (type == QtInfoMsg) {
+                lines << text;
+            } else {
+                previous(type, context, text);
+            }
+        });
+    int linesBefore = -1;
+    QuestionAnswerer question([&linesBefore](QMessageBox* box) {
+        linesBefore = lines.size();
+        box->button(QMessageBox::No)->click();
+    });
+    m_frame->close();
+    qInstallMessageHandler(previous);
+    QCOMPARE(linesBefore, 1);
+    QVERIFY(lines.at(0).contains("ID_MessageBox_Question"));
+    QVERIFY(lines.at(0).contains("ID_ContentPage_NotFinishedIfLeave"));
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(lines.at(1).contains("QMessageBox::No"));
+}
+
+void tst_ContentPage::canCloseFollowsTheSameRule()
+{
+    {
+        QuestionAnswerer question(QMessageBox::No);
+        QVERIFY(!m_frame->canClose());
+        QCOMPARE(question.count(), 1);
+        QCOMPARE(postedCodes(), QVector<int>());
+    }
+    QuestionAnswerer question(QMessageBox::Yes);
+    QVERIFY(m_frame->canClose());
+    QCOMPARE(m_engine->reports().posts().first().managerName, QString("isCanCloseFunc"));
+    QCOMPARE(postedCodes(), QVector<int>({7}));
+    QVERIFY(m_frame->isVisible());
+}
+
+void tst_ContentPage::engineEndsTheSession_data()
+{
+    QTest::addColumn<bool>("isKickout");
+    QTest::newRow("breakdown") << false;
+    QTest::newRow("kick-out") << true;
+}
+
+void tst_ContentPage::engineEndsTheSession()
+{
+    QFETCH(bool, isKickout);
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question(QMessageBox::No);
+    isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
+    QTRY_COMPARE(closeDialog.count(), 1);
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(question.count(), 0);
+    QCOMPARE(postedCodes(), QVector<int>());
+    QVERIFY(!isSettingWritten());
+}
+
+void tst_ContentPage::breakdownWinsOverTheQuestion_data()
+{
+    engineEndsTheSession_data();
+}
+
+void tst_ContentPage::breakdownWinsOverTheQuestion()
+{
+    QFETCH(bool, isKickout);
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question([this, isKickout](QMessageBox*) {
+        isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
+    });
+    m_frame->close();
+    QCOMPARE(question.count(), 1);
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(!m_frame || !m_frame->isVisible());
+    QCOMPARE(closeDialog.count(), 1);
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(postedCodes(), QVector<int>());
+    QVERIFY(!isSettingWritten());
+}
+
+void tst_ContentPage::breakdownTwiceInARow()
+{
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question([this](QMessageBox*) {
+        m_engine->facts().breakDown();
+        m_engine->facts().kickOut();
+    });
+    m_frame->close();
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(closeDialog.count(), 1);
+    QCOMPARE(postedCodes(), QVector<int>());
+}
+
+void tst_ContentPage::breakdownWhileClosing()
+{
+    answerAll(true);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    m_frame->close();
+    m_engine->facts().breakDown();
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(postedCodes(), QVector<int>({3}));
+}
+
+void tst_ContentPage::frameDestroyedDuringTheQuestion()
+{
+    QuestionAnswerer question([this](QMessageBox*) { delete m_frame; });
+    m_frame->close();
+    QVERIFY(!m_frame);
+    QCOMPARE(question.count(), 1);
+    QCOMPARE(postedCodes(), QVector<int>());
+}
+
+QTEST_MAIN(tst_ContentPage)
+#include "tst_ContentPage.moc"

@@ -1,0 +1,338 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "agent/EnvCheckAgent.h"
+#include "platform/backend/EngineRegistry.h"
+#include "platform/backend/FileWriter.h"
+#include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/QuestionAnswerer.h"
+
+#include <LumWidgets/LumCustomNormalDialog.h>
+
+#include <QDir>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QtTest>
+
+using Platform::ScriptedEngine;
+
+namespace {
+
+// Runs the dialog and, once it is open, the script in it.
+class DialogRun
+{
+public:
+    using Script = std::function<void(LumCustomNormalDialog*)>;
+
+    explicit DialogRun(Script script) : m_script(std::move(script))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            auto* dialog = qobject_cast<LumCustomNormalDialog*>(QApplication::activeModalWidget());
+            if (dialog && dialog->isVisible()) {
+                m_timer.stop();
+                m_script(dialog);
+            }
+        });
+        m_timer.start(0);
+    }
+
+    bool wasRun() const { return !m_timer.isActive(); }
+
+private:
+    Script m_script;
+    QTimer m_timer;
+};
+
+QWidget* frameOf(const LumCustomNormalDialog* dialog)
+{
+    return dialog->findChild<QWidget*>("selfcheckContentPage");
+}
+
+int entries(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
+} // namespace
+
+class tst_EnvCheckAgent : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void releaseWithoutInstance();
+    void instanceIsTheSameUntilReleased();
+    void metaObjectHasTwoSignals();
+    void showKestrelAsksForTheMainWindow();
+    void dialogWithoutParent();
+    void dialogAboveItsParent();
+    void closingEmitsNothing();
+    void everyCallStartsAfresh();
+    void userClosesThroughTheFrame_data();
+    void userClosesThroughTheFrame();
+    void frameClosingEndsTheDialog();
+    void releaseInsideTheDialog();
+    void secondCallInsideTheDialog();
+    void ownerDeletedInsideTheDialog();
+    void ownerDeletedDuringTheQuestion();
+    void applicationQuitsDuringTheQuestion();
+    void breakdownDuringTheQuestionEndsTheDialog();
+    void hundredOpeningsLeaveNothingBehind();
+
+private:
+    void kickOut() { m_engine->facts().kickOut(); }
+
+    ScriptedEngine* m_engine = nullptr;
+};
+
+void tst_EnvCheckAgent::init()
+{
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    m_engine = &ScriptedEngine::install();
+}
+
+void tst_EnvCheckAgent::cleanup()
+{
+    EnvCheckAgent::release();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(m_engine->livingSessions(), 0);
+    QCOMPARE(QApplication::topLevelWidgets().size(), 0);
+    QVERIFY(Platform::FileWriter::waitForWritten(5000));
+    Platform::EngineRegistry::uninstall();
+}
+
+void tst_EnvCheckAgent::releaseWithoutInstance()
+{
+    EnvCheckAgent::release();
+    EnvCheckAgent::instance();
+    EnvCheckAgent::release();
+    EnvCheckAgent::release();
+}
+
+void tst_EnvCheckAgent::instanceIsTheSameUntilReleased()
+{
+    const QPointer<EnvCheckAgent> agent = EnvCheckAgent::instance();
+    QCOMPARE(EnvCheckAgent::instance(), agent.data());
+    QVERIFY(!agent->parent());
+    EnvCheckAgent::release();
+    QVERIFY(!agent);
+    QVERIFY(EnvCheckAgent::instance());
+}
+
+void tst_EnvCheckAgent::metaObjectHasTwoSignals()
+{
+    const QMetaObject& meta = EnvCheckAgent::staticMetaObject;
+    QCOMPARE(meta.className(), "EnvCheckAgent");
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(),
+             QByteArray("signalHideLoginDialog()"));
+    QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(),
+             QByteArray("signalShowMainWindow()"));
+    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
+}
+
+void tst_EnvCheckAgent::showKestrelAsksForTheMainWindow()
+{
+    QSignalSpy show(EnvCheckAgent::instance(), &EnvCheckAgent::signalShowMainWindow);
+    QSignalSpy hide(EnvCheckAgent::instance(), &EnvCheckAgent::signalHideLoginDialog);
+    EnvCheckAgent::instance()->showKestrel();
+    QCOMPARE(show.count(), 1);
+    EnvCheckAgent::instance()->showKestrel();
+    QCOMPARE(show.count(), 2);
+    QCOMPARE(hide.count(), 0);
+}
+
+void tst_EnvCheckAgent::dialogWithoutParent()
+{
+    DialogRun run([this](LumCustomNormalDialog* dialog) {
+        QCOMPARE(dialog->windowTitle(), QString("ID_Kestrel_SystemTesting"));
+        QVERIFY(dialog->isModal());
+        QVERIFY(frameOf(dialog)->isVisible());
+        kickOut();
+    });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QVERIFY(run.wasRun());
+}
+
+void tst_EnvCheckAgent::dialogAboveItsParent()
+{
+    QWidget parent;
+    parent.setGeometry(100, 50, 700, 500);
+    parent.show();
+    DialogRun run([this, &parent](LumCustomNormalDialog* dialog) {
+        QCOMPARE(dialog->frameGeometry().center(), parent.frameGeometry().center());
+        QCOMPARE(dialog->windowHandle()->transientParent(), parent.windowHandle());
+        kickOut();
+    });
+    EnvCheckAgent::instance()->showEnvCheck(&parent);
+    QVERIFY(run.wasRun());
+    QVERIFY(parent.isVisible());
+}
+
+void tst_EnvCheckAgent::closingEmitsNothing()
+{
+    QSignalSpy show(EnvCheckAgent::instance(), &EnvCheckAgent::signalShowMainWindow);
+    QSignalSpy hide(EnvCheckAgent::instance(), &EnvCheckAgent::signalHideLoginDialog);
+    QuestionAnswerer question(QMessageBox::Yes);
+    DialogRun run([](LumCustomNormalDialog* dialog) { dialog->close(); });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QCOMPARE(question.count(), 1);
+    QCOMPARE(show.count(), 0);
+    QCOMPARE(hide.count(), 0);
+}
+
+void tst_EnvCheckAgent::everyCallStartsAfresh()
+{
+    for (int i = 0; i < 2; ++i) {
+        DialogRun run([this](LumCustomNormalDialog* dialog) {
+            auto* pages = dialog->findChild<QStackedWidget*>("stackedWidget");
+            QCOMPARE(pages->currentWidget()->objectName(), QString("networkPage"));
+            pages->setCurrentIndex(2);
+            kickOut();
+        });
+        EnvCheckAgent::instance()->showEnvCheck(nullptr);
+        QVERIFY(run.wasRun());
+    }
+}
+
+void tst_EnvCheckAgent::userClosesThroughTheFrame_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("title bar") << "title bar";
+    QTest::newRow("Escape") << "Escape";
+    QTest::newRow("window manager") << "window manager";
+}
+
+void tst_EnvCheckAgent::userClosesThroughTheFrame()
+{
+    QFETCH(QString, way);
+    const auto closeByUser = [way](LumCustomNormalDialog* dialog) {
+        if (way == "title bar") {
+            QTest::mouseClick(dialog->findChild<QToolButton*>("closeButton"), Qt::LeftButton);
+        } else if (way == "Escape") {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        } else {
+            dialog->close(); // what Alt+F4 comes to
+        }
+    };
+    DialogRun run([&closeByUser](LumCustomNormalDialog* dialog) {
+        {
+            QuestionAnswerer question(QMessageBox::No);
+            closeByUser(dialog);
+            QCOMPARE(question.count(), 1);
+            QVERIFY(dialog->isVisible());
+        }
+        QuestionAnswerer question(QMessageBox::Yes);
+        closeByUser(dialog);
+        QCOMPARE(question.count(), 1);
+        QVERIFY(!dialog->isVisible());
+    });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QVERIFY(run.wasRun());
+    QCOMPARE(m_engine->reports().posts().size(), 1);
+    QCOMPARE(m_engine->reports().posts().first().code, 7);
+}
+
+void tst_EnvCheckAgent::frameClosingEndsTheDialog()
+{
+    QuestionAnswerer question(QMessageBox::Yes);
+    DialogRun run([](LumCustomNormalDialog* dialog) { frameOf(dialog)->close(); });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QCOMPARE(question.count(), 1);
+    QVERIFY(run.wasRun());
+}
+
+void tst_EnvCheckAgent::releaseInsideTheDialog()
+{
+    DialogRun run([this](LumCustomNormalDialog*) {
+        EnvCheckAgent::release();
+        kickOut();
+    });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QVERIFY(run.wasRun());
+}
+
+void tst_EnvCheckAgent::secondCallInsideTheDialog()
+{
+    bool wasInnerRun = false;
+    DialogRun outer([&](LumCustomNormalDialog* first) {
+        DialogRun inner([&](LumCustomNormalDialog* second) {
+            QVERIFY(second != first);
+            QuestionAnswerer question(QMessageBox::Yes);
+            second->close();
+        });
+        EnvCheckAgent::instance()->showEnvCheck(first);
+        wasInnerRun = inner.wasRun();
+        QVERIFY(first->isVisible());
+        kickOut();
+    });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QVERIFY(wasInnerRun);
+}
+
+void tst_EnvCheckAgent::ownerDeletedInsideTheDialog()
+{
+    auto* owner = new QWidget;
+    owner->show();
+    DialogRun run([owner](LumCustomNormalDialog*) { delete owner; });
+    EnvCheckAgent::instance()->showEnvCheck(owner);
+    QVERIFY(run.wasRun());
+}
+
+void tst_EnvCheckAgent::ownerDeletedDuringTheQuestion()
+{
+    auto* owner = new QWidget;
+    owner->show();
+    QuestionAnswerer question([owner](QMessageBox*) { delete owner; });
+    DialogRun run([](LumCustomNormalDialog* dialog) { dialog->close(); });
+    EnvCheckAgent::instance()->showEnvCheck(owner);
+    QCOMPARE(question.count(), 1);
+    QVERIFY(m_engine->reports().posts().isEmpty());
+}
+
+void tst_EnvCheckAgent::applicationQuitsDuringTheQuestion()
+{
+    QuestionAnswerer question([](QMessageBox*) { QCoreApplication::quit(); });
+    DialogRun run([](LumCustomNormalDialog* dialog) { dialog->close(); });
+    // As a host does, from its own event loop.
+    QTimer::singleShot(0, [] { EnvCheckAgent::instance()->showEnvCheck(nullptr); });
+    QCoreApplication::exec();
+    QCOMPARE(question.count(), 1);
+    QVERIFY(m_engine->reports().posts().isEmpty());
+}
+
+void tst_EnvCheckAgent::breakdownDuringTheQuestionEndsTheDialog()
+{
+    QuestionAnswerer question([this](QMessageBox*) { m_engine->facts().breakDown(); });
+    DialogRun run([](LumCustomNormalDialog* dialog) { dialog->close(); });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QCOMPARE(question.count(), 1);
+    QVERIFY(m_engine->reports().posts().isEmpty());
+}
+
+void tst_EnvCheckAgent::hundredOpeningsLeaveNothingBehind()
+{
+    const auto openOnce = [this] {
+        DialogRun run([this](LumCustomNormalDialog*) { kickOut(); });
+        EnvCheckAgent::instance()->showEnvCheck(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    openOnce();
+    const int widgets = QApplication::allWidgets().size();
+    const int files = entries("/proc/self/fd");
+    const int threads = entries("/proc/self/task");
+    for (int i = 0; i < 100; ++i) {
+        openOnce();
+    }
+    QCOMPARE(QApplication::allWidgets().size(), widgets);
+    QTRY_COMPARE(entries("/proc/self/fd"), files);
+    QTRY_COMPARE(entries("/proc/self/task"), threads);
+    QCOMPARE(m_engine->livingSessions(), 0);
+}
+
+QTEST_MAIN(tst_EnvCheckAgent)
+#include "tst_EnvCheckAgent.moc"
