@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include <LumWidgets/LumCustomNormalDialog.h>
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QToolButton>
+#include <QtTest>
+
+namespace {
+
+class Center : public QLabel
+{
+public:
+    explicit Center(bool refuses = false) : QLabel("centre"), m_refuses(refuses)
+    {
+        setFixedSize(200, 100);
+    }
+
+    int asked = 0;
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        ++asked;
+        event->setAccepted(!m_refuses);
+    }
+
+private:
+    bool m_refuses;
+};
+
+class TitleBar : public QLabel, public ICustomedTitleBar
+{
+public:
+    QWidget* widget() override { return this; }
+    void setTitleText(const QString& text) override { setText(text); }
+};
+
+} // namespace
+
+class tst_LumCustomNormalDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesTheCentreOver();
+    void nullCentreClosesAtOnce();
+    void refusalKeepsItOpen();
+    void centreClosingEndsIt();
+    void centreDestroyedEndsIt();
+    void hidingTheDialogIsNoClosing();
+    void titleIsPlainText();
+    void ownTitleBar();
+};
+
+void tst_LumCustomNormalDialog::takesTheCentreOver()
+{
+    const QPointer<Center> center = new Center;
+    {
+        LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+        dialog.setCenterWidget(center, false);
+        dialog.show();
+        QVERIFY(center->isVisible());
+        QCOMPARE(center->window(), &dialog);
+    }
+    QVERIFY(!center);
+}
+
+void tst_LumCustomNormalDialog::nullCentreClosesAtOnce()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(nullptr, false);
+    QTimer::singleShot(0, &dialog, &QWidget::close);
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+}
+
+void tst_LumCustomNormalDialog::refusalKeepsItOpen()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center(true);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    QVERIFY(!dialog.close());
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QTest::mouseClick(dialog.findChild<QToolButton*>("closeButton"), Qt::LeftButton);
+    QCOMPARE(center->asked, 3);
+    QVERIFY(dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::centreClosingEndsIt()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center;
+    dialog.setCenterWidget(center, false);
+    QTimer::singleShot(0, center, &QWidget::close);
+    dialog.exec();
+    QCOMPARE(center->asked, 1);
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::centreDestroyedEndsIt()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center;
+    dialog.setCenterWidget(center, false);
+    QTimer::singleShot(0, &dialog, [center] { delete center; });
+    dialog.exec();
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::hidingTheDialogIsNoClosing()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(new Center, false);
+    QSignalSpy finished(&dialog, &QDialog::finished);
+    dialog.show();
+    dialog.hide();
+    dialog.show();
+    QCOMPARE(finished.count(), 0);
+    QVERIFY(dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::titleIsPlainText()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setTitleText("<b>bold</b>");
+    QCOMPARE(dialog.windowTitle(), QString("<b>bold</b>"));
+    auto* title = dialog.findChild<QLabel*>("titleLabel");
+    QCOMPARE(title->text(), QString("<b>bold</b>"));
+    QCOMPARE(title->textFormat(), Qt::PlainText);
+}
+
+void tst_LumCustomNormalDialog::ownTitleBar()
+{
+    auto* bar = new TitleBar;
+    const QPointer<QLabel> guard = bar;
+    {
+        LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, bar, false);
+        dialog.setTitleText("title");
+        QCOMPARE(bar->text(), QString("title"));
+        QVERIFY(!dialog.findChild<QLabel*>("titleLabel"));
+    }
+    QVERIFY(!guard);
+}
+
+QTEST_MAIN(tst_LumCustomNormalDialog)
+#include "tst_LumCustomNormalDialog.moc"
