@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/CheckPage.h"
 
-#include <QAbstractEventDispatcher>
+#include "tests/support/TimerTools.h"
+
 #include <QComboBox>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -19,17 +20,6 @@ public:
     std::vector<QString> problems;
     int updates = 0;
 };
-
-QList<QAbstractEventDispatcher::TimerInfo> timersOf(QObject* object)
-{
-    return QAbstractEventDispatcher::instance()->registeredTimers(object);
-}
-
-void tick(QObject* object, int timerId)
-{
-    QTimerEvent event(timerId);
-    QCoreApplication::sendEvent(object, &event);
-}
 
 } // namespace
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/TipsWidget.h"
 
+#include "tests/support/PageTools.h"
+
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -9,18 +11,6 @@ namespace {
 
 const QString ButtonText = "Nothing to see? Click here";
 const QString TipText = "1. The first tip.\n2. The second tip.";
-
-LumToolTip* openOrHiddenTip()
-{
-    LumToolTip* result = nullptr;
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget* widget : widgets) {
-        if (auto* tip = qobject_cast<LumToolTip*>(widget)) {
-            result = tip;
-        }
-    }
-    return result;
-}
 
 } // namespace
 
@@ -68,14 +58,14 @@ void tst_TipsWidget::init()
     m_page->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
     m_button = qobject_cast<QPushButton*>(m_tips->itemAt(0)->widget());
-    m_tip = openOrHiddenTip();
+    m_tip = balloonWith(TipText);
     QVERIFY(m_button && m_tip);
 }
 
 void tst_TipsWidget::cleanup()
 {
     m_page.reset();
-    QVERIFY(!openOrHiddenTip());
+    QVERIFY(balloons().isEmpty());
 }
 
 void tst_TipsWidget::clickThroughWindow(const QWidget* target)

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "widgets/LumToolTip.h"
+
+#include <QApplication>
+#include <QMetaMethod>
+
+// What the tests of the pages look at.
+
+template <typename T>
+T* childOf(const QWidget& page, const char* name)
+{
+    T* child = page.findChild<T*>(QLatin1String(name));
+    if (!child) {
+        qFatal("the page has no %s %s", T::staticMetaObject.className(), name);
+    }
+    return child;
+}
+
+// The balloons that are popups, shown or not.
+inline QList<LumToolTip*> balloons()
+{
+    QList<LumToolTip*> result;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* balloon = qobject_cast<LumToolTip*>(widget)) {
+            result.append(balloon);
+        }
+    }
+    return result;
+}
+
+inline LumToolTip* balloonWith(const QString& text)
+{
+    for (LumToolTip* balloon : balloons()) {
+        if (balloon->text() == text) {
+            return balloon;
+        }
+    }
+    return nullptr;
+}
+
+// The signatures that a class adds to its base's meta-object.
+inline QList<QByteArray> ownMethods(const QMetaObject& meta)
+{
+    QList<QByteArray> result;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        result.append(meta.method(i).methodSignature());
+    }
+    return result;
+}
