@@ -10,5 +10,6 @@ enum class ExitCode : int {
     PutOut = 3,       // the engine ended the session
     WrongUsage = 64,  // an unknown option or a bad value
     BadInput = 65,    // a file that was named can't be used
+    Unavailable = 69, // a display, port or server that is needed isn't there
     CannotWrite = 73, // a file or folder that was named can't be written
 };

@@ -18,16 +18,11 @@ QString folder()
     return QCoreApplication::applicationDirPath() + QLatin1String("/translations");
 }
 
-// The wanted language itself, otherwise one of the same script or name, otherwise English.
-QString nearest(const QString& wanted, const QStringList& available)
+// The first of the languages that is available, or one of the same script or name; empty where
+// there is none.
+QString nearest(const QStringList& wanted, const QStringList& available)
 {
-    QStringList names;
-    if (wanted.isEmpty()) {
-        names = QLocale::system().uiLanguages();
-    } else {
-        names = QStringList{wanted} + QLocale(wanted).uiLanguages();
-    }
-    for (QString name : names) {
+    for (QString name : wanted) {
         name.replace(QLatin1Char('-'), QLatin1Char('_'));
         if (name.startsWith(QLatin1String("zh_Hant")) || name == QLatin1String("zh_HK")) {
             name = QStringLiteral("zh_TW");
@@ -44,7 +39,7 @@ QString nearest(const QString& wanted, const QStringList& available)
             }
         }
     }
-    return Fallback;
+    return {};
 }
 
 } // namespace
@@ -68,9 +63,22 @@ QStringList Languages::available()
     return result;
 }
 
-void Languages::use(const QString& language)
+QString Languages::use(const QString& language)
 {
-    m_current = nearest(language, available());
+    const QStringList languages = available();
+    if (languages.isEmpty()) {
+        return QStringLiteral("there are no texts in %1: install or build the program anew")
+            .arg(folder());
+    }
+    m_current = nearest(
+        language.isEmpty() ? QLocale::system().uiLanguages() : QStringList{language}, languages);
+    if (m_current.isEmpty() && !language.isEmpty()) {
+        return QStringLiteral("--language %1: there are texts in %2")
+            .arg(language, languages.join(QLatin1String(", ")));
+    }
+    if (m_current.isEmpty()) {
+        m_current = Fallback;
+    }
     QLocale::setDefault(QLocale(m_current));
     const QString qtTexts = QStringLiteral("qtbase_") + m_current;
     if (m_qtTexts.load(qtTexts, QLibraryInfo::location(QLibraryInfo::TranslationsPath)) ||
@@ -78,7 +86,10 @@ void Languages::use(const QString& language)
         QCoreApplication::installTranslator(&m_qtTexts);
     }
     // Installed last, ours are asked first.
-    if (m_texts.load(FilePrefix + m_current, folder())) {
-        QCoreApplication::installTranslator(&m_texts);
+    if (!m_texts.load(FilePrefix + m_current, folder())) {
+        return QStringLiteral("the texts %1 in %2 can't be read: install or build the program anew")
+            .arg(FilePrefix + m_current + FileSuffix, folder());
     }
+    QCoreApplication::installTranslator(&m_texts);
+    return {};
 }

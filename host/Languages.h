@@ -17,8 +17,9 @@ public:
 
     static QStringList available(); // such as "en", "zh_CN"
 
-    // Takes the nearest of what is asked for (empty: the system's), otherwise English.
-    void use(const QString& language);
+    // Takes the nearest to the system's language, otherwise English, or exactly the language that
+    // is asked for. Returns nothing, or one line that says why it can't.
+    QString use(const QString& language);
     QString current() const { return m_current; }
 
 private:

@@ -8,8 +8,10 @@
 // What the command line asks for.
 struct Options
 {
-    enum class Command { Check, Version, Help };
+    enum class Command { Check, Devices, Network, Serve, Report, Version, Help };
     enum class Platform { Devices, Scripted };
+    enum class Format { Text, Html, Json, Room };
+    enum class Redaction { None, Personal, Hash };
 
     Command command = Command::Check;
     Platform platform = Platform::Devices;
@@ -20,11 +22,23 @@ struct Options
     QString nickname;
     QString cdn; // "FIRST/SECOND"
     QString resultsFile;
+    QString reportFile; // empty: the default place
     QString reportUrl;
     QString tourFolder;
+    bool isVerbose = false;
 
-    QString error;    // empty, or one line that names what is wrong and what to do
-    QString helpText; // for Command::Help
+    bool isJson = false; // devices
+    int count = 0;       // network: how many figures; 0 is without end
+    quint16 port = 0;    // serve
+    QStringList files;   // report
+    Format format = Format::Text;
+    Redaction redaction = Redaction::None;
 
+    Command helpFor = Command::Check; // for Command::Help
+    QString error;                    // empty, or one line that says what is wrong and what to do
+
+    // The first argument is the program's name.
     static Options parse(const QStringList& arguments);
+    // What --help prints. Needs an application object.
+    static QString helpText(Command command);
 };

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/RunOutcome.h"
 
+#include "host/Console.h"
+
 #include <QJsonArray>
 #include <QTextStream>
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -67,24 +68,6 @@ QString verdictText(CheckOutcome::Verdict verdict)
     return qtTrId("ID_CameraPage_NotDetected");
 }
 
-// How many columns of a terminal a text takes: East Asian letters take two.
-int columns(const QString& text)
-{
-    return std::accumulate(text.begin(), text.end(), 0, [](int sum, QChar c) {
-        const bool isWide = (c >= QChar(0x1100) && c <= QChar(0x115F)) ||
-                            (c >= QChar(0x2E80) && c <= QChar(0xA4CF)) ||
-                            (c >= QChar(0xAC00) && c <= QChar(0xD7A3)) ||
-                            (c >= QChar(0xF900) && c <= QChar(0xFAFF)) ||
-                            (c >= QChar(0xFF00) && c <= QChar(0xFF60));
-        return sum + (isWide ? 2 : 1);
-    });
-}
-
-QString padded(const QString& text, int width)
-{
-    return text + QString(std::max(0, width - columns(text)), QLatin1Char(' '));
-}
-
 } // namespace
 
 RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
@@ -123,14 +106,15 @@ QString RunOutcome::toText() const
     int nameWidth = 0;
     int verdictWidth = 0;
     for (const CheckOutcome& check : checks) {
-        nameWidth = std::max(nameWidth, columns(check.name) + Gap);
-        verdictWidth = std::max(verdictWidth, columns(verdictText(check.verdict)) + Gap);
+        nameWidth = std::max(nameWidth, Console::columns(check.name) + Gap);
+        verdictWidth = std::max(verdictWidth, Console::columns(verdictText(check.verdict)) + Gap);
     }
     QString text;
     QTextStream stream(&text);
     for (const CheckOutcome& check : checks) {
-        stream << padded(check.name, nameWidth) << padded(verdictText(check.verdict), verdictWidth)
-               << check.device.simplified() << '\n';
+        stream << Console::padded(check.name, nameWidth)
+               << Console::padded(verdictText(check.verdict), verdictWidth)
+               << Console::plainLine(check.device) << '\n';
     }
     stream.flush();
     return text;

@@ -136,6 +136,11 @@ QString DeviceEngine::settingsFolder() const
     return m_config.settingsFolder;
 }
 
+QJsonObject DeviceEngine::results() const
+{
+    return m_reports->results().toJson();
+}
+
 std::shared_ptr<StunResponder> DeviceEngine::responder()
 {
     std::shared_ptr<StunResponder> present = m_responder.lock();

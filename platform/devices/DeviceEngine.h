@@ -41,6 +41,8 @@ public:
     ReportSink& reportSink() override;
     QString settingsFolder() const override;
 
+    QJsonObject results() const; // of the run so far, see ResultDocument
+
 private:
     class EngineProbe;
 

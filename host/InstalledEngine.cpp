@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/InstalledEngine.h"
+
+#include "host/Options.h"
+#include "platform/backend/Engine.h"
+#include "platform/backend/EngineRegistry.h"
+#include "platform/backend/FileWriter.h"
+#include "platform/scripted/ScriptedEngine.h"
+#ifdef ENVCHECK_WITH_DEVICES
+#include "platform/devices/DeviceEngine.h"
+#endif
+
+#include <QEventLoop>
+
+namespace {
+
+constexpr int WriteTimeoutMs = 5000;
+
+QString cdnFirstPart(const Options& options)
+{
+    return options.cdn.section(QLatin1Char('/'), 0, 0);
+}
+
+QString cdnSecondPart(const Options& options)
+{
+    return options.cdn.section(QLatin1Char('/'), 1);
+}
+
+// What was named on the command line goes before the scenario's.
+void useTexts(const Options& options, Platform::ScriptedFacts& facts)
+{
+    Platform::ScriptedFacts::Values values = facts.values();
+    if (!options.account.isEmpty()) {
+        values.accountName = options.account;
+    }
+    if (!options.nickname.isEmpty()) {
+        values.nickName = options.nickname;
+    }
+    if (!options.cdn.isEmpty()) {
+        values.cdnFirstPart = cdnFirstPart(options);
+        values.cdnSecondPart = cdnSecondPart(options);
+    }
+    facts.setValues(values);
+}
+
+} // namespace
+
+InstalledEngine::InstalledEngine(const Options& options, const QString& dataFolder)
+{
+    if (options.platform == Options::Platform::Scripted) {
+        installScripted(options);
+    } else {
+        installDevices(options, dataFolder);
+    }
+}
+
+InstalledEngine::~InstalledEngine()
+{
+    Platform::EngineRegistry::uninstall();
+    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
+}
+
+void InstalledEngine::prepare()
+{
+    if (m_prepare) {
+        QEventLoop loop;
+        m_prepare([&loop] { loop.quit(); });
+        loop.exec();
+    }
+}
+
+Platform::Engine& InstalledEngine::engine() const
+{
+    return Platform::EngineRegistry::engine();
+}
+
+QJsonObject InstalledEngine::results() const
+{
+    return m_results();
+}
+
+void InstalledEngine::installScripted(const Options& options)
+{
+    QString error;
+    const std::optional<Platform::Scenario> scenario =
+        Platform::Scenario::read(options.scenario, &error);
+    if (!scenario) {
+        fail(error, ExitCode::BadInput);
+        return;
+    }
+    Platform::ScriptedEngine& engine = Platform::ScriptedEngine::install(*scenario);
+    useTexts(options, engine.facts());
+    engine.reports().document().setPath(options.resultsFile);
+    m_results = [&engine] { return engine.reports().document().toJson(); };
+}
+
+#ifdef ENVCHECK_WITH_DEVICES
+void InstalledEngine::installDevices(const Options& options, const QString& dataFolder)
+{
+    Platform::DeviceEngineConfig config;
+    config.server = options.server;
+    config.cdnFirstPart = cdnFirstPart(options);
+    config.cdnSecondPart = cdnSecondPart(options);
+    config.account = options.account;
+    config.nickname = options.nickname;
+    config.resultsPath = options.resultsFile;
+    config.reportUrl = options.reportUrl;
+    config.settingsFolder = dataFolder;
+    config.cacheFolder = dataFolder;
+    auto made = std::make_unique<Platform::DeviceEngine>(config);
+    Platform::DeviceEngine& engine = *made;
+    Platform::EngineRegistry::install(std::move(made));
+    m_prepare = [&engine](std::function<void()> done) { engine.prepare(std::move(done)); };
+    m_results = [&engine] { return engine.results(); };
+}
+#else
+void InstalledEngine::installDevices(const Options&, const QString&)
+{
+    fail(QStringLiteral("this program was built without the real devices (ENVCHECK_DEVICES): use "
+                        "--platform scripted"),
+         ExitCode::Unavailable);
+}
+#endif
+
+void InstalledEngine::fail(const QString& error, ExitCode code)
+{
+    m_error = error;
+    m_errorCode = code;
+}

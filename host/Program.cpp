@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/Program.h"
+
+#include "host/CheckCommand.h"
+#include "host/Console.h"
+#include "host/Options.h"
+#include "host/TerminationSignals.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <QLoggingCategory>
+#include <memory>
+
+namespace {
+
+// The balloons are windows of their own: without a page around them they take this size.
+constexpr int FontPixelSize = 12;
+
+// What the engine warns of is for the user, what Qt does for developers.
+const char* const QuietRules =
+    "*.debug=false\n*.info=false\n*.warning=false\nengine.*.warning=true";
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+QStringList textsOf(int argc, char* argv[])
+{
+    QStringList texts;
+    for (int i = 0; i < argc; ++i) {
+        texts << QString::fromLocal8Bit(argv[i]);
+    }
+    return texts;
+}
+
+void useLookOfCheck()
+{
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));
+    QFont font = QApplication::font();
+    font.setPixelSize(FontPixelSize);
+    QApplication::setFont(font);
+}
+
+ExitCode runCommand(const Options& options)
+{
+    switch (options.command) {
+    case Options::Command::Version:
+        Console::print(QStringLiteral("envcheck %1\n").arg(QCoreApplication::applicationVersion()));
+        return ExitCode::AllPassed;
+    case Options::Command::Help:
+        Console::print(Options::helpText(options.helpFor));
+        return ExitCode::AllPassed;
+    case Options::Command::Check:
+        return CheckCommand(options).run();
+    case Options::Command::Devices:
+    case Options::Command::Network:
+    case Options::Command::Serve:
+    case Options::Command::Report:
+        break;
+    }
+    return ExitCode::WrongUsage;
+}
+
+} // namespace
+
+ExitCode Program::run(int argc, char* argv[])
+{
+    const Options options = Options::parse(textsOf(argc, argv));
+    if (!options.error.isEmpty()) {
+        Console::printError(options.error);
+        return ExitCode::WrongUsage;
+    }
+    const bool isCheck = options.command == Options::Command::Check;
+    if (isCheck && !hasDisplay()) {
+        Console::printError(QStringLiteral("there is no display to open the check on: start it "
+                                           "from a desktop session, or by xvfb-run"));
+        return ExitCode::Unavailable;
+    }
+    if (!options.isVerbose) {
+        QLoggingCategory::setFilterRules(QLatin1String(QuietRules));
+    }
+    QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Qt knows a --platform of its own: it gets to see the program's name alone.
+    int shownCount = 1;
+    std::unique_ptr<QCoreApplication> application;
+    if (isCheck) {
+        application = std::make_unique<QApplication>(shownCount, argv);
+        QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
+        useLookOfCheck();
+    } else {
+        application = std::make_unique<QCoreApplication>(shownCount, argv);
+    }
+    const TerminationSignals signals;
+    return runCommand(options);
+}

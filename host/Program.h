@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/ExitCode.h"
+
+// The program as a whole: reads the command line, makes the application that the command needs,
+// and runs the command.
+namespace Program {
+
+ExitCode run(int argc, char* argv[]);
+
+} // namespace Program
