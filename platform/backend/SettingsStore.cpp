@@ -6,8 +6,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QSettings>
 #include <QTemporaryDir>
+
+Q_LOGGING_CATEGORY(settingsLog, "engine.settings")
 
 namespace Platform {
 
@@ -27,7 +30,8 @@ bool writeFile(const QString& path, const QByteArray& content)
 
 // QSettings waits for a foreign lock without a bound. On a private copy there is nobody to wait
 // for; the file itself is replaced by the FileWriter, whose wait is bounded.
-QByteArray edited(const QByteArray& present, const QMap<QString, QVariant>& changes)
+QByteArray edited(const QString& path, const QByteArray& present,
+                  const QMap<QString, QVariant>& changes)
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy.ini"));
@@ -39,7 +43,11 @@ QByteArray edited(const QByteArray& present, const QMap<QString, QVariant>& chan
         settings.setValue(it.key(), it.value());
     }
     settings.sync();
-    return settings.status() == QSettings::NoError ? readFile(copy) : present;
+    if (settings.status() == QSettings::FormatError) {
+        qCWarning(settingsLog).noquote()
+            << "Damaged settings:" << path << "- what could be read of it is kept";
+    }
+    return settings.status() == QSettings::AccessError ? present : readFile(copy);
 }
 
 } // namespace
@@ -58,8 +66,8 @@ void SettingsStore::setValue(const QString& key, const QVariant& value)
 {
     m_values.insert(key, value);
     m_written.insert(key, value);
-    FileWriter::update(m_path, [changes = m_written](const QByteArray& present) {
-        return edited(present, changes);
+    FileWriter::update(m_path, [path = m_path, changes = m_written](const QByteArray& present) {
+        return edited(path, present, changes);
     });
 }
 
@@ -75,7 +83,7 @@ void SettingsStore::load() const
     const QSettings settings(m_path, QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
     for (const QString& key : keys) {
-        if (!m_values.contains(key)) {
+        if (!key.isEmpty() && !m_values.contains(key)) {
             m_values.insert(key, settings.value(key));
         }
     }

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/FileWriter.h"
+#include "platform/backend/ResultDocument.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Platform;
+
+namespace {
+
+constexpr int WaitMs = 10000;
+
+QJsonObject parsed(const char* json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+} // namespace
+
+class tst_ResultDocument : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsEmpty();
+    void collectsAllSections();
+    void keepsTheLastValue();
+    void startsAgainWhenCleared();
+    void writesEveryChangeWhole();
+    void staysInMemoryWithoutAPath();
+};
+
+void tst_ResultDocument::startsEmpty()
+{
+    QCOMPARE(ResultDocument().toJson(),
+             parsed(R"({ "version": 1, "results": {}, "measurements": {}, "codes": [] })"));
+}
+
+void tst_ResultDocument::collectsAllSections()
+{
+    ResultDocument document;
+    document.recordResult(QStringLiteral("camera.userState"), 1);
+    document.recordResult(QStringLiteral("camera.device"), QStringLiteral("<b>A.B</b>"));
+    document.recordResult(QStringLiteral("network.delay"), QStringLiteral("37ms"));
+    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "width": 640 })"));
+    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "height": 480 })"));
+    document.recordCode(3);
+    document.recordCode(7);
+    QCOMPARE(document.toJson(), parsed(R"({
+        "version": 1,
+        "results": {
+            "camera": { "userState": 1, "device": "<b>A.B</b>" },
+            "network": { "delay": "37ms" }
+        },
+        "measurements": { "camera": { "width": 640, "height": 480 } },
+        "codes": [ 3, 7 ]
+    })"));
+}
+
+void tst_ResultDocument::keepsTheLastValue()
+{
+    ResultDocument document;
+    document.recordResult(QStringLiteral("speaker.userState"), 2);
+    document.recordResult(QStringLiteral("speaker.userState"), 1);
+    QCOMPARE(document.toJson()[QStringLiteral("results")],
+             QJsonValue(parsed(R"({ "speaker": { "userState": 1 } })")));
+}
+
+void tst_ResultDocument::startsAgainWhenCleared()
+{
+    ResultDocument document;
+    document.recordResult(QStringLiteral("camera.userState"), 1);
+    document.recordCode(3);
+    document.clear();
+    QCOMPARE(document.toJson(), ResultDocument().toJson());
+}
+
+void tst_ResultDocument::writesEveryChangeWhole()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("new/results.json"));
+    ResultDocument document(path);
+    QCOMPARE(document.path(), path);
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(!QFileInfo::exists(path)); // not before there is something to say
+    for (int i = 0; i < 20; ++i) {
+        document.recordResult(QStringLiteral("camera.userState"), i);
+    }
+    document.recordCode(3);
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QJsonDocument::fromJson(file.readAll()).object(), document.toJson());
+}
+
+void tst_ResultDocument::staysInMemoryWithoutAPath()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("results.json"));
+    ResultDocument document(path);
+    document.setPath({});
+    document.recordCode(3);
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(!QFileInfo::exists(path));
+    document.setPath(path);
+    document.recordMeasurement(QStringLiteral("network"), parsed(R"({ "sent": 5 })"));
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(QFileInfo::exists(path));
+}
+
+QTEST_GUILESS_MAIN(tst_ResultDocument)
+#include "tst_ResultDocument.moc"
