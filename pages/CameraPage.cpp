@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "pages/CameraPage.h"
 
+#include "pages/DeviceChecks.h"
 #include "ui_CameraPage.h"
 #include "widgets/LumToolTip.h"
 #include "widgets/TipsWidget.h"
@@ -9,22 +10,13 @@
 #include <CommEngine/HardwareMgrInterface.h>
 #include <CommEngine/SystemTestingResult.h>
 #include <LumUtility/LumColor.h>
-#include <LumWidgets/QCustomComboBoxItem.h>
 
-#include <QAbstractItemView>
-#include <QLineEdit>
 #include <QTimerEvent>
 
 namespace {
 
 constexpr int CountdownIntervalMs = 1000;
 constexpr int CountdownStart = 3;
-
-constexpr int NotAnswered = 0;
-constexpr int AnsweredYes = 1;
-constexpr int AnsweredNo = 2;
-constexpr int DeviceWorks = 1;
-constexpr int DeviceFails = 2;
 
 } // namespace
 
@@ -39,7 +31,7 @@ CameraPage::CameraPage(QWidget* parent)
     addTips();
     connect(ui->Btn_CanSee, &QPushButton::clicked, this, [this] { finishCheck(true); });
     connect(ui->Btn_Cant, &QPushButton::clicked, this, [this] { finishCheck(false); });
-    setupComboBox();
+    DeviceChecks::setUpComboBox(ui->cb_vd_name, this);
     ui->f_video_player->attachCamera(&m_camera);
     ui->f_video_player->play();
     connect(&m_camera, &LumCamera::deviceListChanged, this, &CameraPage::refillCameraList);
@@ -63,12 +55,9 @@ bool CameraPage::isPassed() const
 
 void CameraPage::saveResult()
 {
-    int answer = NotAnswered;
-    if (!m_untested) {
-        answer = m_userConfirmed ? AnsweredYes : AnsweredNo;
-    }
-    SystemTestingResult::writeCameraStateFromUser(answer);
-    SystemTestingResult::writeCameraState(m_imageOk ? DeviceWorks : DeviceFails);
+    SystemTestingResult::writeCameraStateFromUser(
+        DeviceChecks::answerCode(isTested(), m_userConfirmed));
+    SystemTestingResult::writeCameraState(DeviceChecks::stateCode(m_imageOk));
     SystemTestingResult::writeCurrentCamera(m_currentCameraName);
 }
 
@@ -153,20 +142,6 @@ void CameraPage::addTips()
                          qtTrId("ID_CameraPage_4") + QLatin1Char('\n') + qtTrId("ID_CameraPage_5");
     ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1,
                                      new TipsWidget(qtTrId("ID_CameraPage_ClickHere"), text, this));
-}
-
-void CameraPage::setupComboBox()
-{
-    QCustomComboBox* combo = ui->cb_vd_name;
-    combo->setItemDelegate(new QCustomComboBoxItem(this));
-    combo->view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    combo->setPopupWidth(combo->width());
-    combo->installEventFilter(this);
-    combo->setEnableClickLineEdit(true);
-    combo->lineEdit()->setReadOnly(true);
-    combo->lineEdit()->setStyleSheet(
-        QStringLiteral("background-color: transparent; border: none;"));
 }
 
 void CameraPage::followComboBox()
@@ -258,8 +233,6 @@ void CameraPage::showDisabledTip()
             std::make_unique<LumToolTip>(qtTrId("ID_CameraPage_DisabledWillMakeCameraUnusable"),
                                          false, nullptr, Qt::AlignLeft, false, LumColor::Red);
     }
-    const QPoint corner = ui->cb_vd_name->mapToGlobal(QPoint(0, 0));
-    m_disabledTip->setGeometry(corner.x(), corner.y() - m_disabledTip->height(),
-                               m_disabledTip->width(), m_disabledTip->height());
+    DeviceChecks::placeAbove(m_disabledTip.get(), ui->cb_vd_name);
     m_disabledTip->setVisible(!m_camera.getDeviceList().empty());
 }

@@ -39,7 +39,6 @@ private Q_SLOTS:
 private:
     void setTexts();
     void addTips();
-    void setupComboBox();
     void followComboBox();
     void ignoreComboBox(); // while it is filled or its choice follows the camera
 

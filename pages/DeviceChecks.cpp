@@ -20,6 +20,8 @@ constexpr int AnsweredNo = 2;
 constexpr int DeviceWorks = 1;
 constexpr int DeviceFails = 2;
 
+constexpr int MostEntries = 8; // without scrolling
+
 constexpr QSize SmallHandSize(31, 38);
 constexpr QSize BigHandSize(38, 48);
 constexpr QPoint HandOffset(10, 0);
@@ -46,14 +48,18 @@ void setUpComboBox(QCustomComboBox* combo, CheckPage* page)
     combo->setItemDelegate(new QCustomComboBoxItem(page));
     combo->view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    combo->view()->setStyleSheet(QStringLiteral("background-color: white"));
     combo->setPopupWidth(combo->width());
-    combo->setMaxVisibleItems(8);
     combo->installEventFilter(page);
     combo->setEnableClickLineEdit(true);
     combo->lineEdit()->setReadOnly(true);
     combo->lineEdit()->setStyleSheet(
         QStringLiteral("background-color: transparent; border: none;"));
+}
+
+void setUpPopup(QCustomComboBox* combo)
+{
+    combo->view()->setStyleSheet(QStringLiteral("background-color: white"));
+    combo->setMaxVisibleItems(MostEntries);
 }
 
 void placeAbove(LumToolTip* popup, const QWidget* widget)

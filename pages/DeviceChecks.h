@@ -16,6 +16,7 @@ int stateCode(bool works);                       // 1 works, 2 doesn't
 
 // The page filters the box's events and owns its delegate.
 void setUpComboBox(QCustomComboBox* combo, CheckPage* page);
+void setUpPopup(QCustomComboBox* combo); // as the speaker and the microphone page have it
 void placeAbove(LumToolTip* popup, const QWidget* widget); // with left edges aligned
 
 QLabel* createHand(QWidget* parent); // points at a button and lets clicks through

@@ -74,6 +74,7 @@ HeadsetPage::HeadsetPage(QWidget* parent)
     ui->volumeLayout->addWidget(m_volume);
     ui->volumeLayout->addStretch();
     DeviceChecks::setUpComboBox(ui->cb_ad_output_name, this);
+    DeviceChecks::setUpPopup(ui->cb_ad_output_name);
     fillSoundFiles();
     setUpAnswerButtons();
     drawAnswers();

@@ -58,6 +58,7 @@ MicrophonePage::MicrophonePage(QWidget* parent)
     ui->setupUi(this);
     setTexts();
     DeviceChecks::setUpComboBox(ui->cb_ad_input_name, this);
+    DeviceChecks::setUpPopup(ui->cb_ad_input_name);
     m_volume = new Volume(this, InitialVolume, true);
     ui->micVolumeLayout->addWidget(m_volume);
     ui->micVolumeLayout->addStretch();
