@@ -10,7 +10,8 @@
 #include <QUdpSocket>
 #include <algorithm>
 
-Q_LOGGING_CATEGORY(probeLog, "engine.network")
+// What is logged here comes back every second while the way is closed.
+Q_LOGGING_CATEGORY(probeLog, "engine.network", QtInfoMsg)
 
 namespace Platform {
 
@@ -112,7 +113,7 @@ void ProbeWorker::openNext()
     m_lastSign = now();
     m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
-        qCInfo(probeLog).noquote()
+        qCDebug(probeLog).noquote()
             << "No way to" << m_address.toString() << "-" << m_socket->errorString();
         m_socket.reset();
     }
@@ -138,7 +139,8 @@ void ProbeWorker::takeAddresses(const QHostInfo& info)
     m_lookup = -1;
     m_addresses = info.addresses();
     if (m_addresses.isEmpty()) {
-        qCInfo(probeLog).noquote() << "No address of" << m_server.host << "-" << info.errorString();
+        qCDebug(probeLog).noquote()
+            << "No address of" << m_server.host << "-" << info.errorString();
     } else if (!m_socket) {
         tick();
     }

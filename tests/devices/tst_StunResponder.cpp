@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "Measurement.h"
+#include "ThreadCount.h"
+#include "platform/devices/network/StunClient.h"
+#include "platform/devices/network/StunResponder.h"
+
+#include <QElapsedTimer>
+#include <QNetworkDatagram>
+#include <QNetworkInterface>
+#include <QTest>
+#include <QUdpSocket>
+
+using namespace Platform;
+
+class tst_StunResponder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answersWithTheAddress_data();
+    void answersWithTheAddress();
+    void isMeasured();
+    void rejectsUnknownAttributes();
+    void ignoresTheRest_data();
+    void ignoresTheRest();
+    void answersAreLimited();
+    void portInUse();
+    void endsAtOnce();
+};
+
+namespace {
+
+constexpr int PatienceMs = 5000;
+
+// One datagram sent to the responder and what came back in time.
+class Client
+{
+public:
+    explicit Client(const StunServer& server) : m_address(server.host), m_port(server.port)
+    {
+        m_socket.bind(m_address, 0);
+    }
+
+    QByteArray ask(const QByteArray& datagram, int patienceMs = PatienceMs)
+    {
+        send(datagram);
+        return m_socket.waitForReadyRead(patienceMs) ? m_socket.receiveDatagram().data()
+                                                     : QByteArray();
+    }
+
+    void send(const QByteArray& datagram) { m_socket.writeDatagram(datagram, m_address, m_port); }
+
+    int countAnswers(int quietMs)
+    {
+        int count = 0;
+        while (m_socket.hasPendingDatagrams() || m_socket.waitForReadyRead(quietMs)) {
+            m_socket.receiveDatagram();
+            ++count;
+        }
+        return count;
+    }
+
+private:
+    const QHostAddress m_address;
+    const quint16 m_port;
+    QUdpSocket m_socket;
+};
+
+} // namespace
+
+void tst_StunResponder::answersWithTheAddress_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("IPv4") << QStringLiteral("127.0.0.1");
+    QTest::newRow("IPv6") << QStringLiteral("::1");
+}
+
+void tst_StunResponder::answersWithTheAddress()
+{
+    QFETCH(QString, address);
+    if (!QNetworkInterface::allAddresses().contains(QHostAddress(address))) {
+        QSKIP("this machine has no such address");
+    }
+    const StunResponder responder{QHostAddress(address)};
+    QCOMPARE(responder.server().host, address);
+    QVERIFY2(responder.server().port != 0, qPrintable(responder.errorString()));
+    Client client(responder.server());
+    StunClient stun;
+    const std::optional<StunClient::Request> request = stun.createRequest();
+    const std::optional<StunClient::Answer> answer = stun.readAnswer(client.ask(request->datagram));
+    QVERIFY(answer);
+    QCOMPARE(answer->id, request->id);
+    QCOMPARE(answer->clientAddress, QHostAddress(address));
+}
+
+void tst_StunResponder::isMeasured()
+{
+    const StunResponder responder;
+    Measurement measurement(responder.server());
+    QTRY_COMPARE(measurement.verdicts(), 4);
+    QCOMPARE(measurement.figures().lossPercent, 0);
+    QVERIFY(measurement.figures().delayMs >= 0 && measurement.figures().delayMs <= 5);
+    QVERIFY(measurement.figures().sent - measurement.figures().answered <= 1);
+    QCOMPARE(measurement.clientAddresses(), QStringList(QStringLiteral("127.0.0.1")));
+}
+
+void tst_StunResponder::rejectsUnknownAttributes()
+{
+    const StunResponder responder;
+    Client client(responder.server());
+    QByteArray request = StunClient().createRequest()->datagram.left(20);
+    request[3] = 4; // the length of one attribute, of a kind that must be understood
+    const QByteArray answer = client.ask(request + QByteArray::fromHex("7fff0000"));
+    QCOMPARE(answer.left(2).toHex(), QByteArray("0111"));
+    QCOMPARE(answer.mid(4, 16), request.mid(4, 16));
+    QVERIFY(answer.toHex().contains("00000414")); // 420
+}
+
+void tst_StunResponder::ignoresTheRest_data()
+{
+    QTest::addColumn<QByteArray>("datagram");
+    const QByteArray request = StunClient().createRequest()->datagram;
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("text") << QByteArray("hello");
+    QTest::newRow("half a request") << request.left(10);
+    QTest::newRow("too long") << request + "12345678";
+    QTest::newRow("a length beyond the end") << QByteArray(request).replace(2, 2, "\xff\xfc");
+    QTest::newRow("no cookie") << QByteArray(request).replace(4, 4, "xxxx");
+    QTest::newRow("an indication") << QByteArray(request).replace(0, 2, "\x00\x11", 2);
+    QTest::newRow("an answer") << QByteArray(request).replace(0, 2, "\x01\x01", 2);
+    QTest::newRow("another method") << QByteArray(request).replace(0, 2, "\x00\x03", 2);
+    QTest::newRow("a large one") << QByteArray(60000, 'x');
+}
+
+void tst_StunResponder::ignoresTheRest()
+{
+    QFETCH(QByteArray, datagram);
+    const StunResponder responder;
+    Client client(responder.server());
+    StunClient stun;
+    client.send(datagram);
+    // Answers come in order, so the first one would be to the datagram.
+    QVERIFY(stun.readAnswer(client.ask(stun.createRequest()->datagram)));
+    QCOMPARE(client.countAnswers(50), 0);
+}
+
+void tst_StunResponder::answersAreLimited()
+{
+    const StunResponder responder;
+    Client client(responder.server());
+    const QByteArray request = StunClient().createRequest()->datagram;
+    QElapsedTimer clock;
+    clock.start();
+    int answers = 0;
+    // Little by little, so that no queue overflows: what is missing, the limit has kept back.
+    for (int round = 0; round < 40; ++round) {
+        for (int count = 0; count < 50; ++count) {
+            client.send(request);
+        }
+        answers += client.countAnswers(5);
+    }
+    answers += client.countAnswers(100);
+    const int seconds = int(clock.elapsed() / 1000) + 1;
+    QVERIFY2(answers >= StunResponder::MaxAnswersPerSecond, qPrintable(QString::number(answers)));
+    QVERIFY2(answers <= StunResponder::MaxAnswersPerSecond * (seconds + 1) && answers < 40 * 50,
+             qPrintable(QString::number(answers)));
+
+    // The limit is no end.
+    StunClient stun;
+    QTRY_VERIFY(stun.readAnswer(client.ask(stun.createRequest()->datagram, 100)));
+}
+
+void tst_StunResponder::portInUse()
+{
+    const StunResponder first;
+    const StunResponder second(QHostAddress::LocalHost, first.server().port);
+    QCOMPARE(int(second.server().port), 0);
+    QVERIFY(!second.errorString().isEmpty());
+}
+
+void tst_StunResponder::endsAtOnce()
+{
+    const int before = threadCount();
+    quint16 port = 0;
+    QElapsedTimer clock;
+    {
+        const StunResponder responder;
+        port = responder.server().port;
+        QCOMPARE(threadCount(), before + 1);
+        clock.start();
+    }
+    QVERIFY(clock.elapsed() < 50);
+    QTRY_COMPARE(threadCount(), before);
+    QUdpSocket socket;
+    QVERIFY(socket.bind(QHostAddress(QHostAddress::LocalHost), port, QUdpSocket::DontShareAddress));
+}
+
+QTEST_GUILESS_MAIN(tst_StunResponder)
+#include "tst_StunResponder.moc"
