@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "HttpServer.h"
+
+#include <QRegularExpression>
+#include <QTcpSocket>
+
+HttpServer::HttpServer()
+{
+    QObject::connect(&m_server, &QTcpServer::newConnection, &m_server,
+                     [this] { takeConnection(); });
+    listen();
+}
+
+HttpServer::~HttpServer()
+{
+    // Its sockets die with the server and must not call back then.
+    const QList<QTcpSocket*> sockets = m_received.keys();
+    for (QTcpSocket* socket : sockets) {
+        socket->disconnect();
+    }
+}
+
+void HttpServer::listen()
+{
+    m_server.listen(QHostAddress::LocalHost, m_port);
+    m_port = m_server.serverPort();
+}
+
+void HttpServer::refuse()
+{
+    m_server.close();
+    const QList<QTcpSocket*> sockets = m_received.keys();
+    for (QTcpSocket* socket : sockets) {
+        socket->abort();
+    }
+}
+
+QString HttpServer::url() const
+{
+    return QStringLiteral("http://127.0.0.1:%1/reports?from=check").arg(m_port);
+}
+
+void HttpServer::takeConnection()
+{
+    while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+        m_received.insert(socket, {});
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { read(socket); });
+        QObject::connect(socket, &QTcpSocket::disconnected, socket, [this, socket] {
+            m_received.remove(socket);
+            socket->deleteLater();
+        });
+    }
+}
+
+void HttpServer::read(QTcpSocket* socket)
+{
+    QByteArray& received = m_received[socket];
+    received += socket->readAll();
+    const int end = received.indexOf("\r\n\r\n");
+    if (end < 0) {
+        return;
+    }
+    const QByteArray head = received.left(end);
+    static const QRegularExpression lengthPattern(QStringLiteral("content-length: *(\\d+)"),
+                                                  QRegularExpression::CaseInsensitiveOption);
+    const int length = lengthPattern.match(QString::fromLatin1(head)).captured(1).toInt();
+    const QByteArray body = received.mid(end + 4);
+    if (body.size() < length) {
+        return;
+    }
+    received.clear();
+    m_requests.append({head, body});
+    answer(socket);
+}
+
+void HttpServer::answer(QTcpSocket* socket)
+{
+    switch (m_behaviour) {
+    case Behaviour::Take:
+        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok");
+        break;
+    case Behaviour::Fail:
+        socket->write("HTTP/1.1 500 Out of order\r\nContent-Length: 0\r\n\r\n");
+        break;
+    case Behaviour::Redirect:
+        socket->write("HTTP/1.1 302 Found\r\nLocation: http://127.0.0.1:9/\r\n"
+                      "Content-Length: 0\r\n\r\n");
+        break;
+    case Behaviour::Hang:
+        break;
+    case Behaviour::HangUp:
+        socket->abort();
+        break;
+    }
+}

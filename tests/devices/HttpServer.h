@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QTcpServer>
+
+class QTcpSocket;
+
+// A report server on 127.0.0.1 that behaves as it is told.
+class HttpServer
+{
+public:
+    enum class Behaviour { Take, Fail, Redirect, Hang, HangUp };
+
+    HttpServer();
+    ~HttpServer();
+
+    void listen(); // always on the same port
+    void refuse(); // as a server that isn't there
+    QString url() const;
+    void setBehaviour(Behaviour behaviour) { m_behaviour = behaviour; }
+
+    struct Request
+    {
+        QByteArray head;
+        QByteArray body;
+    };
+    const QList<Request>& requests() const { return m_requests; }
+
+private:
+    void takeConnection();
+    void read(QTcpSocket* socket);
+    void answer(QTcpSocket* socket);
+
+    QTcpServer m_server;
+    quint16 m_port = 0;
+    Behaviour m_behaviour = Behaviour::Take;
+    QHash<QTcpSocket*, QByteArray> m_received;
+    QList<Request> m_requests;
+};

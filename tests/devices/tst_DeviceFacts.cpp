@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "OddServer.h"
+#include "platform/devices/facts/DeviceFacts.h"
+#include "platform/devices/facts/MachineFacts.h"
+#include "platform/devices/network/StunProbe.h"
+#include "platform/devices/network/StunServer.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QNetworkDatagram>
+#include <QTest>
+
+using namespace Platform;
+
+class tst_DeviceFacts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void factsAtHand();
+    void configurationComesFirst();
+    void operatingSystemsUserComesSecond();
+    void preparedFacts();
+    void deadServerHasADeadline();
+    void lateServerIsNotWaitedFor();
+    void preparingTwice();
+    void refreshedUser();
+    void endsInTheMiddle();
+};
+
+namespace {
+
+DeviceFacts::ProbeMaker asking(const StunServer& server)
+{
+    return [server](NetworkProbe::Listener& listener, DeviceFacts::AddressHandler handler) {
+        return std::make_unique<StunProbe>(server, listener, std::move(handler));
+    };
+}
+
+// Nobody listens on the discard port.
+const StunServer NoServer{QStringLiteral("127.0.0.1"), 9};
+
+class Listener : public SystemFacts::Listener
+{
+public:
+    void userInfoArrived() override { ++arrivals; }
+    void sessionBrokeDown() override { QFAIL("no such thing happens here"); }
+    void userKickedOut() override { QFAIL("no such thing happens here"); }
+
+    int arrivals = 0;
+};
+
+} // namespace
+
+void tst_DeviceFacts::factsAtHand()
+{
+    DeviceEngineConfig config;
+    config.cdnFirstPart = QStringLiteral("<i>north</i>");
+    config.cdnSecondPart = QStringLiteral("edge 7");
+    const DeviceFacts facts(config, QStringLiteral("the server"), asking(NoServer));
+    QCOMPARE(facts.serverName(), QStringLiteral("the server"));
+    QCOMPARE(facts.cdnFirstPart(), config.cdnFirstPart);
+    QCOMPARE(facts.cdnSecondPart(), config.cdnSecondPart);
+    QCOMPARE(facts.processorName(), MachineFacts::processorName());
+    QCOMPARE(facts.operatingSystem(), MachineFacts::operatingSystem());
+    QCOMPARE(facts.cacheVolumeAvailableBytes(), qint64(-1)); // not read yet
+}
+
+void tst_DeviceFacts::configurationComesFirst()
+{
+    DeviceEngineConfig config;
+    config.account = QStringLiteral("pupil@example.org");
+    config.nickname = QStringLiteral("Zoë 🦊");
+    DeviceFacts facts(config, {}, asking(NoServer));
+    QCOMPARE(facts.accountName(), config.account);
+    QCOMPARE(facts.nickName(), config.nickname);
+    bool isDone = false;
+    facts.prepare([&isDone] { isDone = true; });
+    QTRY_VERIFY(isDone);
+    QCOMPARE(facts.accountName(), config.account);
+    QCOMPARE(facts.nickName(), config.nickname);
+}
+
+void tst_DeviceFacts::operatingSystemsUserComesSecond()
+{
+    DeviceFacts facts({}, {}, asking(NoServer));
+    bool isDone = false;
+    facts.prepare([&isDone] { isDone = true; });
+    QVERIFY(!isDone);
+    QTRY_VERIFY(isDone);
+    const HostUser user = HostUser::current();
+    QCOMPARE(facts.accountName(), QString()); // so that the other one is asked for
+    QCOMPARE(facts.accountFallbackName(), user.loginName);
+    QCOMPARE(facts.nickName(), user.realName.isEmpty() ? user.loginName : user.realName);
+}
+
+void tst_DeviceFacts::preparedFacts()
+{
+    OddServer server([](OddServer& self, const QNetworkDatagram& request) {
+        self.send(OddServer::rightAnswer(request), request);
+    });
+    DeviceEngineConfig config;
+    config.cacheFolder = QDir::tempPath() + QStringLiteral("/not/there/yet");
+    DeviceFacts facts(config, {}, asking(server.server()));
+    QElapsedTimer clock;
+    clock.start();
+    qint64 took = -1;
+    facts.prepare([&] { took = clock.elapsed(); });
+    QVERIFY2(clock.elapsed() < 50, qPrintable(QString::number(clock.elapsed())));
+    QTRY_VERIFY(took >= 0);
+    QVERIFY2(took < DeviceFacts::PrepareDeadlineMs / 2, qPrintable(QString::number(took)));
+    QCOMPARE(facts.clientAddress(), QStringLiteral("127.0.0.1")); // as the server saw it
+    QVERIFY(facts.cacheVolumeAvailableBytes() > 0);
+}
+
+void tst_DeviceFacts::deadServerHasADeadline()
+{
+    DeviceFacts facts({}, {}, asking(NoServer));
+    QElapsedTimer clock;
+    clock.start();
+    qint64 took = -1;
+    facts.prepare([&] { took = clock.elapsed(); });
+    QTRY_VERIFY(took >= 0);
+    QVERIFY2(qAbs(took - DeviceFacts::PrepareDeadlineMs) < 100, qPrintable(QString::number(took)));
+    QCOMPARE(facts.clientAddress(), MachineFacts::localAddress());
+}
+
+void tst_DeviceFacts::lateServerIsNotWaitedFor()
+{
+    QNetworkDatagram first;
+    OddServer server([&first](OddServer&, const QNetworkDatagram& request) {
+        if (!first.isValid()) {
+            first = request;
+        }
+    });
+    DeviceFacts facts({}, {}, asking(server.server()));
+    int calls = 0;
+    facts.prepare([&calls] { ++calls; });
+    QTRY_COMPARE(calls, 1);
+    server.send(OddServer::rightAnswer(first), first);
+    QTest::qWait(100);
+    QCOMPARE(calls, 1);
+    QCOMPARE(facts.clientAddress(), MachineFacts::localAddress());
+}
+
+void tst_DeviceFacts::preparingTwice()
+{
+    OddServer server([](OddServer& self, const QNetworkDatagram& request) {
+        self.send(OddServer::rightAnswer(request), request);
+    });
+    DeviceFacts facts({}, {}, asking(server.server()));
+    QList<int> calls;
+    facts.prepare([&calls] { calls.append(1); });
+    facts.prepare([&calls] { calls.append(2); }); // shares the run
+    QTRY_COMPARE(calls, QList<int>({1, 2}));
+    const int asked = server.ids().size();
+    facts.prepare([&calls] { calls.append(3); }); // asks again
+    QTRY_COMPARE(calls, QList<int>({1, 2, 3}));
+    QVERIFY(server.ids().size() > asked);
+}
+
+void tst_DeviceFacts::refreshedUser()
+{
+    Listener listener;
+    DeviceFacts facts({}, {}, asking(NoServer));
+    facts.setListener(&listener);
+    facts.refreshUserInfo();
+    QCOMPARE(listener.arrivals, 0); // never from inside the call
+    QTRY_COMPARE(listener.arrivals, 1);
+    QCOMPARE(facts.accountFallbackName(), HostUser::current().loginName);
+    facts.setListener(nullptr);
+    facts.refreshUserInfo();
+    QTest::qWait(100);
+    QCOMPARE(listener.arrivals, 1);
+}
+
+void tst_DeviceFacts::endsInTheMiddle()
+{
+    bool isDone = false;
+    QElapsedTimer clock;
+    {
+        DeviceFacts facts({}, {}, asking(NoServer));
+        facts.prepare([&isDone] { isDone = true; });
+        facts.refreshUserInfo();
+        clock.start();
+    }
+    QVERIFY(clock.elapsed() < 50);
+    QTest::qWait(DeviceFacts::PrepareDeadlineMs + 100);
+    QVERIFY(!isDone);
+}
+
+QTEST_GUILESS_MAIN(tst_DeviceFacts)
+#include "tst_DeviceFacts.moc"
