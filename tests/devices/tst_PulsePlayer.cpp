@@ -97,19 +97,12 @@ class tst_PulsePlayer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data()
-    {
-        QTest::addColumn<bool>("isPipeWire");
-        QTest::newRow("PulseAudio") << false;
-        QTest::newRow("PipeWire") << true;
-    }
+    void initTestCase_data() { SoundServer::addTestRows(); }
 
     void init()
     {
-        QFETCH_GLOBAL(bool, isPipeWire);
-        m_server = std::make_unique<SoundServer>(isPipeWire ? SoundServer::Kind::PipeWire
-                                                            : SoundServer::Kind::PulseAudio);
-        QVERIFY(m_server->start());
+        m_server = SoundServer::startForTest();
+        QVERIFY(m_server);
         m_sound = std::make_unique<PulseSound>(m_report);
         m_speaker = m_sound->createSpeaker(m_speakerListener);
         QTRY_COMPARE_WITH_TIMEOUT(m_speaker->currentId(), id("speaker_a"), TimeoutMs);
@@ -127,7 +120,7 @@ private Q_SLOTS:
     // Each of the sounds comes out as itself, on the chosen device and on no other.
     void playsTheSounds()
     {
-        QFETCH_GLOBAL(bool, isPipeWire);
+        const bool isPipeWire = m_server->kind() == SoundServer::Kind::PipeWire;
         const QStringList names = soundNames();
         QCOMPARE(names.size(), 8);
         std::vector<std::vector<float>> references;

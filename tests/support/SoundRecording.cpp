@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <functional>
 
 namespace TestSupport {
 
@@ -70,6 +71,20 @@ std::vector<float> SoundRecording::samples(int channel) const
                     m_data.constData() + frame * frameSize +
                         static_cast<std::size_t>(channel) * sizeof(float),
                     sizeof(float));
+    }
+    return result;
+}
+
+std::vector<float> SoundRecording::samples() const
+{
+    std::vector<float> result = samples(0);
+    for (int channel = 1; channel < m_channels; ++channel) {
+        const std::vector<float> other = samples(channel);
+        std::transform(result.begin(), result.end(), other.begin(), result.begin(),
+                       std::plus<float>());
+    }
+    for (float& sample : result) {
+        sample /= static_cast<float>(m_channels);
     }
     return result;
 }

@@ -16,11 +16,13 @@ public:
     static constexpr int Rate = 48000;
 
     // device is a source of the server, such as "speaker_a.monitor".
-    explicit SoundRecording(const QString& device, int channels = 1);
+    explicit SoundRecording(const QString& device, int channels = 2);
     ~SoundRecording();
 
-    bool waitForStart();                               // until the first sample
-    std::vector<float> samples(int channel = 0) const; // so far
+    bool waitForStart(); // until the first sample
+    // So far; of one channel, or the mean of all. Servers don't agree on what a mean is.
+    std::vector<float> samples(int channel) const;
+    std::vector<float> samples() const;
     // The loudest sample from the given one on.
     float peak(std::size_t from = 0) const;
     void stop();

@@ -29,6 +29,20 @@ void waitFor(QProcess& process)
 
 } // namespace
 
+void SoundServer::addTestRows()
+{
+    QTest::addColumn<Kind>("server");
+    QTest::newRow("PulseAudio") << Kind::PulseAudio;
+    QTest::newRow("PipeWire") << Kind::PipeWire;
+}
+
+std::unique_ptr<SoundServer> SoundServer::startForTest()
+{
+    QFETCH_GLOBAL(Kind, server);
+    auto result = std::make_unique<SoundServer>(server);
+    return result->start() ? std::move(result) : nullptr;
+}
+
 SoundServer::SoundServer(Kind kind) : m_kind(kind)
 {
     const QString root = m_folder.path();

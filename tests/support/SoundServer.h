@@ -21,9 +21,15 @@ class SoundServer
 public:
     enum class Kind { PulseAudio, PipeWire };
 
+    // For initTestCase_data(): every test runs with both kinds; startForTest() starts the one that
+    // it is the turn of, and gives null where it doesn't.
+    static void addTestRows();
+    static std::unique_ptr<SoundServer> startForTest();
+
     explicit SoundServer(Kind kind);
     ~SoundServer();
 
+    Kind kind() const { return m_kind; }
     bool start(); // waits until it answers; false with a warning where it doesn't
     void kill();  // at once, as in a crash; start() brings it back
     void freeze();
@@ -59,3 +65,5 @@ private:
 };
 
 } // namespace TestSupport
+
+Q_DECLARE_METATYPE(TestSupport::SoundServer::Kind)

@@ -2,28 +2,63 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/DeviceVolume.h"
 
+#include "platform/devices/pulse/PulseDevices.h"
+
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Platform {
 
-void DeviceVolume::reset(int percent)
+DeviceVolume::DeviceVolume(int maximum) : m_maximum(maximum)
 {
-    m_percent = percent;
-    m_awaitedOrder = 0;
 }
 
-void DeviceVolume::set(int percent, quint64 order)
+void DeviceVolume::reset(const PulseDevice* device)
 {
-    m_percent = percent;
+    m_percent = device ? percentOf(*device) : 0;
+    m_isMuted = device && device->isMuted;
+    m_awaitedOrder = 0;
+    m_foundPercent = m_percent;
+    m_wasFoundMuted = m_isMuted;
+    m_wasMovedByUser = false;
+}
+
+int DeviceVolume::set(int percent)
+{
+    m_percent = std::clamp(percent, 0, m_maximum);
+    m_isMuted = false;
+    m_wasMovedByUser = true;
+    return m_percent;
+}
+
+void DeviceVolume::await(quint64 order)
+{
     m_awaitedOrder = order;
 }
 
-bool DeviceVolume::take(int percent, quint64 settledOrder)
+bool DeviceVolume::take(const PulseDevice& device, quint64 settledOrder)
 {
     if (settledOrder < m_awaitedOrder) {
         return false;
     }
+    m_isMuted = device.isMuted;
+    const int percent = percentOf(device);
     return std::exchange(m_percent, percent) != percent;
+}
+
+QJsonObject DeviceVolume::figures() const
+{
+    return {{QStringLiteral("volumeBefore"), m_foundPercent},
+            {QStringLiteral("volumeAfter"), m_percent},
+            {QStringLiteral("mutedBefore"), m_wasFoundMuted},
+            {QStringLiteral("mutedAfter"), m_isMuted},
+            {QStringLiteral("movedByUser"), m_wasMovedByUser}};
+}
+
+int DeviceVolume::percentOf(const PulseDevice& device) const
+{
+    return std::clamp(static_cast<int>(std::lround(device.volumePercent())), 0, m_maximum);
 }
 
 } // namespace Platform

@@ -3,10 +3,10 @@
 #include "platform/devices/pulse/PulseMicrophone.h"
 
 #include "platform/backend/ReportSink.h"
+#include "platform/devices/pulse/MicrophoneAnalysis.h"
+#include "platform/devices/pulse/PulseCapture.h"
 #include "platform/devices/pulse/PulseSession.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Platform {
@@ -15,17 +15,21 @@ namespace {
 
 constexpr int MaxVolume = 150;
 
-int percentOf(const PulseDevice& device)
-{
-    return std::clamp(static_cast<int>(std::lround(device.volumePercent())), 0, MaxVolume);
-}
-
 } // namespace
 
 PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener,
                                  ReportSink& report)
-    : m_session(std::move(session)), m_listener(listener), m_report(report)
+    : m_session(std::move(session)),
+      m_listener(listener),
+      m_report(report),
+      m_volume(MaxVolume),
+      m_capture(std::make_shared<PulseCapture>(m_session->connection()))
 {
+    PulseConnection& connection = m_session->connection();
+    connection.run([&connection, capture = m_capture] { connection.add(capture); });
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(RetryMs);
+    QObject::connect(&m_retry, &QTimer::timeout, &m_context, [this] { updateCapture(); });
     QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
     update();
 }
@@ -33,16 +37,23 @@ PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseSession> session, Listener
 PulseMicrophone::~PulseMicrophone()
 {
     close();
+    PulseConnection& connection = m_session->connection();
+    connection.run([&connection, capture = m_capture] {
+        capture->close();
+        connection.remove(capture);
+    });
 }
 
 QString PulseMicrophone::currentName() const
 {
-    return nameIn(m_list, m_id);
+    const QString listed = nameIn(m_list, m_id);
+    return listed.isEmpty() ? m_name : listed;
 }
 
 void PulseMicrophone::setCurrent(const QString& id)
 {
     m_chosenId = id;
+    m_hasFailed = false;
     m_mailbox.sender().post([this] { update(); });
 }
 
@@ -51,31 +62,44 @@ DeviceState PulseMicrophone::state() const
     if (m_chosenId && m_chosenId->isEmpty()) {
         return DeviceState::Off;
     }
-    return device() ? DeviceState::Ready : DeviceState::Absent;
+    if (!device()) {
+        return DeviceState::Absent;
+    }
+    if (m_hasFailed) {
+        return DeviceState::Failed;
+    }
+    if (!m_isCapturing) {
+        return DeviceState::Ready;
+    }
+    if (m_hasStalled) {
+        return DeviceState::Hung;
+    }
+    return m_hasHeardSound ? DeviceState::Working : DeviceState::Silent;
 }
 
 void PulseMicrophone::open()
 {
+    m_isOpen = true;
+    updateCapture();
 }
 
 void PulseMicrophone::close()
 {
+    m_isOpen = false;
+    updateCapture();
+    updateListening();
 }
 
-void PulseMicrophone::setListening(bool /*on*/)
+void PulseMicrophone::setListening(bool on)
 {
-}
-
-bool PulseMicrophone::isVolumeAdjustable() const
-{
-    return m_isAdjustable;
+    m_isListening = on;
+    updateListening();
 }
 
 void PulseMicrophone::setVolume(int percent)
 {
     if (device()) {
-        const int wanted = std::clamp(percent, 0, MaxVolume);
-        m_volume.set(wanted, m_session->setVolume(PulseKind::Microphone, m_id, wanted));
+        m_volume.await(m_session->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
         m_mailbox.sender().post([this] { m_listener.microphoneVolumeChanged(volume()); });
     }
 }
@@ -94,6 +118,11 @@ void PulseMicrophone::update()
     const QString id = m_chosenId.value_or(microphones.preferredId());
     const bool isListChanged = !(m_list == list);
     const bool isOther = m_id != id;
+    if (isOther) {
+        endCapture();
+        m_hasFailed = false;
+        m_hasHeardSound = false;
+    }
     m_list = list;
     m_id = id;
     if (isListChanged) {
@@ -103,27 +132,146 @@ void PulseMicrophone::update()
     if (isOther || isListChanged) {
         sender.post([this] { m_listener.currentMicrophoneChanged(m_id); });
     }
+    updateInfo(device(), isOther);
+    updateCapture();
+    updateListening();
+    updateWorkState();
+}
 
-    const PulseDevice* current = device();
-    const bool isArrival = current && (isOther || !m_isPresent);
+void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
+{
+    const bool isArrival = isOther || (current && !m_isPresent);
     m_isPresent = current != nullptr;
-    if (!current) {
+    if (isArrival) {
+        m_volume.reset(current);
+    }
+    const PulseDevice info = current ? *current : PulseDevice();
+    const bool isInfoChanged =
+        m_name != info.name || m_isMuted != info.isMuted || m_isAdjustable != info.isAdjustable;
+    if (current || isOther) {
+        m_name = info.name;
+        m_isMuted = info.isMuted;
+        m_isAdjustable = info.isAdjustable;
+        if (isArrival || isInfoChanged) {
+            m_mailbox.sender().post([this] { m_listener.microphoneInfoChanged(); });
+        }
+    }
+    if (current && !isArrival &&
+        m_volume.take(*current, m_session->devices().microphones.settledOrder)) {
+        const auto percent = static_cast<float>(current->volumePercent());
+        m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
+    }
+}
+
+// Brings the stream in line with what is wanted and what is there. A stream on a device that goes
+// away is moved by some servers without a word, so that it is the list that counts.
+void PulseMicrophone::updateCapture()
+{
+    const bool isWanted = m_isOpen && device();
+    if (!isWanted) {
+        endCapture();
+        m_retry.stop();
+        m_hasFailed = false;
+    } else if (!m_isCapturing && !m_retry.isActive()) {
+        startCapture();
+    }
+    updateWorkState();
+}
+
+void PulseMicrophone::startCapture()
+{
+    m_isCapturing = true;
+    m_hasStalled = false;
+    m_analysis = std::make_shared<MicrophoneAnalysis>(PulseCapture::Rate);
+    const Mailbox::Sender sender = m_mailbox.sender();
+    const int opening = ++m_opening;
+    const auto post = [this, sender, opening](auto letter) {
+        sender.post([this, opening, letter] {
+            if (opening == m_opening) {
+                letter();
+            }
+        });
+    };
+    PulseCapture::Events events;
+    events.levelMeasured = [this, post](double level) {
+        post([this, level] { m_listener.levelMeasured(level); });
+    };
+    events.soundHeard = [this, post] {
+        post([this] {
+            m_hasHeardSound = true;
+            updateWorkState();
+        });
+    };
+    events.deliveryChanged = [this, post](bool delivers) {
+        post([this, delivers] {
+            m_hasStalled = !delivers;
+            m_hasFailed = m_hasFailed && !delivers;
+            updateWorkState();
+        });
+    };
+    events.failed = [this, post] {
+        post([this] {
+            endCapture();
+            m_hasFailed = true;
+            m_retry.start();
+            updateWorkState();
+        });
+    };
+    m_session->connection().run(
+        [capture = m_capture, id = m_id, analysis = m_analysis, events = std::move(events)] {
+            capture->open(id, analysis, events);
+        });
+    updateListening();
+}
+
+// Silence at once: what is still on its way is of an opening that is over.
+void PulseMicrophone::endCapture()
+{
+    if (!m_isCapturing) {
         return;
     }
-    if (isArrival) {
-        m_volume.reset(percentOf(*current));
-    } else if (m_volume.take(percentOf(*current), microphones.settledOrder)) {
-        const auto percent = static_cast<float>(current->volumePercent());
-        sender.post([this, percent] { m_listener.systemVolumeChanged(percent); });
+    recordMeasurement();
+    m_isCapturing = false;
+    ++m_opening;
+    m_analysis.reset();
+    m_session->connection().run([capture = m_capture] { capture->close(); });
+    m_mailbox.sender().post([this] {
+        if (!m_isCapturing) {
+            m_listener.levelMeasured(0.0);
+        }
+    });
+}
+
+void PulseMicrophone::updateListening()
+{
+    const QString speakerId = m_isListening && m_isCapturing ? m_session->speakerId() : QString();
+    if (std::exchange(m_listeningOn, speakerId) != speakerId) {
+        m_session->connection().run(
+            [capture = m_capture, speakerId] { capture->listenOn(speakerId); });
     }
-    const bool isInfoChanged = m_name != current->name || m_isMuted != current->isMuted ||
-                               m_isAdjustable != current->isAdjustable;
-    m_name = current->name;
-    m_isMuted = current->isMuted;
-    m_isAdjustable = current->isAdjustable;
-    if (isArrival || isInfoChanged) {
-        sender.post([this] { m_listener.microphoneInfoChanged(); });
+}
+
+void PulseMicrophone::updateWorkState()
+{
+    const bool usable = isUsable(state());
+    if (m_wasUsable != usable || m_hadHeardSound != m_hasHeardSound) {
+        m_wasUsable = usable;
+        m_hadHeardSound = m_hasHeardSound;
+        m_mailbox.sender().post(
+            [this] { m_listener.microphoneWorkStateChanged(m_id, hasHeardSound()); });
     }
+}
+
+void PulseMicrophone::recordMeasurement() const
+{
+    QJsonObject figures = m_analysis->figures();
+    const QJsonObject volume = m_volume.figures();
+    for (auto figure = volume.begin(); figure != volume.end(); ++figure) {
+        figures.insert(figure.key(), figure.value());
+    }
+    figures.insert(QStringLiteral("device"), currentName());
+    figures.insert(QStringLiteral("soundHeard"), m_hasHeardSound);
+    m_report.recordMeasurement(QStringLiteral("microphone"), figures);
 }
 
 } // namespace Platform

@@ -8,18 +8,24 @@
 #include "platform/devices/pulse/PulseDevices.h"
 
 #include <QObject>
+#include <QTimer>
 #include <memory>
 #include <optional>
 
 namespace Platform {
 
+class MicrophoneAnalysis;
+class PulseCapture;
 class PulseSession;
 class ReportSink;
 
-// The microphones of the sound server, and listening to oneself on the session's speaker.
+// The microphones of the sound server, and listening to oneself on the session's speaker. When it
+// is closed it reports what it measured of the device.
 class PulseMicrophone final : public MicrophoneBackend
 {
 public:
+    static constexpr int RetryMs = 1000; // a stream that broke on a device that is there
+
     PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
     ~PulseMicrophone() override;
 
@@ -34,13 +40,20 @@ public:
     void close() override;
     void setListening(bool on) override;
 
-    bool isVolumeAdjustable() const override;
+    bool isVolumeAdjustable() const override { return m_isAdjustable; }
     int volume() const override { return m_volume.percent(); }
     void setVolume(int percent) override;
 
 private:
     const PulseDevice* device() const;
     void update();
+    void updateInfo(const PulseDevice* current, bool isOther);
+    void updateCapture();
+    void updateListening();
+    void updateWorkState();
+    void startCapture();
+    void endCapture();
+    void recordMeasurement() const;
 
     std::shared_ptr<PulseSession> m_session;
     Listener& m_listener;
@@ -48,13 +61,26 @@ private:
     DeviceList m_list;
     std::optional<QString> m_chosenId; // an empty one chose none
     QString m_id;
-    QString m_name;
+    QString m_name; // of the current device when it was last there
     bool m_isPresent = false;
     bool m_isMuted = false;
     bool m_isAdjustable = false;
-    bool m_hasHeardSound = false;
     DeviceVolume m_volume;
-    QObject m_context; // of the connection to the session
+
+    bool m_isOpen = false;
+    bool m_isListening = false;
+    std::shared_ptr<PulseCapture> m_capture;
+    std::shared_ptr<MicrophoneAnalysis> m_analysis;
+    bool m_isCapturing = false;
+    int m_opening = 0; // letters of an earlier one are old
+    bool m_hasStalled = false;
+    bool m_hasFailed = false;
+    bool m_hasHeardSound = false;
+    bool m_wasUsable = false; // as told last
+    bool m_hadHeardSound = false;
+    QString m_listeningOn;
+    QTimer m_retry;
+    QObject m_context; // of the connections
     Mailbox m_mailbox;
 };
 

@@ -6,8 +6,6 @@
 #include "platform/devices/pulse/PulseSession.h"
 
 #include <QJsonObject>
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Platform {
@@ -16,16 +14,11 @@ namespace {
 
 constexpr int MaxVolume = 100;
 
-int percentOf(const PulseDevice& device)
-{
-    return std::clamp(static_cast<int>(std::lround(device.volumePercent())), 0, MaxVolume);
-}
-
 } // namespace
 
 PulseSpeaker::PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener,
                            ReportSink& report)
-    : m_session(std::move(session)), m_listener(listener), m_report(report)
+    : m_session(std::move(session)), m_listener(listener), m_report(report), m_volume(MaxVolume)
 {
     QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
     update();
@@ -57,9 +50,7 @@ DeviceState PulseSpeaker::state() const
 void PulseSpeaker::setVolume(int percent)
 {
     if (device()) {
-        const int wanted = std::clamp(percent, 0, MaxVolume);
-        m_volume.set(wanted, m_session->setVolume(PulseKind::Speaker, m_id, wanted));
-        m_wasMovedByUser = true;
+        m_volume.await(m_session->setVolume(PulseKind::Speaker, m_id, m_volume.set(percent)));
     }
 }
 
@@ -88,11 +79,8 @@ void PulseSpeaker::update()
 
     const PulseDevice* current = device();
     if (isOther) {
-        m_foundVolume = current ? percentOf(*current) : 0;
-        m_wasFoundMuted = current && current->isMuted;
-        m_wasMovedByUser = false;
-        m_volume.reset(m_foundVolume);
-    } else if (current && m_volume.take(percentOf(*current), speakers.settledOrder)) {
+        m_volume.reset(current);
+    } else if (current && m_volume.take(*current, speakers.settledOrder)) {
         sender.post([this] { m_listener.speakerVolumeChanged(volume()); });
     }
     // A new list says nothing of the choice, which has to be shown in it again.
@@ -111,15 +99,10 @@ void PulseSpeaker::recordMeasurement() const
     if (m_id.isEmpty()) {
         return;
     }
-    const PulseDevice* current = device();
-    m_report.recordMeasurement(QStringLiteral("speaker"),
-                               {{QStringLiteral("device"), currentName()},
-                                {QStringLiteral("volumeBefore"), m_foundVolume},
-                                {QStringLiteral("volumeAfter"), volume()},
-                                {QStringLiteral("mutedBefore"), m_wasFoundMuted},
-                                {QStringLiteral("mutedAfter"), current && current->isMuted},
-                                {QStringLiteral("movedByUser"), m_wasMovedByUser},
-                                {QStringLiteral("state"), toString(state())}});
+    QJsonObject figures = m_volume.figures();
+    figures.insert(QStringLiteral("device"), currentName());
+    figures.insert(QStringLiteral("state"), toString(state()));
+    m_report.recordMeasurement(QStringLiteral("speaker"), figures);
 }
 
 } // namespace Platform

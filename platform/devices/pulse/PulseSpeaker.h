@@ -42,10 +42,6 @@ private:
     QString m_id;
     bool m_works = false;
     DeviceVolume m_volume;
-    // As the current device was found, before the user touched it.
-    int m_foundVolume = 0;
-    bool m_wasFoundMuted = false;
-    bool m_wasMovedByUser = false;
     QObject m_context; // of the connection to the session
     Mailbox m_mailbox;
 };

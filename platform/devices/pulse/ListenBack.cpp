@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/ListenBack.h"
+
+#include <algorithm>
+#include <pulse/timeval.h>
+
+namespace Platform {
+
+namespace {
+
+// The server asks for more as often as that, and takes no more delay itself.
+constexpr unsigned RequestMs = 5;
+// It begins with so much, and is never short of room.
+constexpr unsigned StartMs = 7;
+constexpr unsigned RoomMs = 200;
+constexpr char StreamName[] = "Listening to oneself";
+
+} // namespace
+
+ListenBack::ListenBack(pa_context* context, const QString& speakerId, unsigned rate)
+    : m_samplesPerMs(rate / 1000.0), m_guard(rate)
+{
+    const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, rate, 1};
+    m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
+    if (!m_stream) {
+        return;
+    }
+    pa_stream_set_underflow_callback(
+        m_stream.get(),
+        [](pa_stream*, void* self) { static_cast<ListenBack*>(self)->noteUnderflow(); }, this);
+    const auto bytes = [&spec](unsigned milliseconds) {
+        return static_cast<std::uint32_t>(pa_usec_to_bytes(milliseconds * PA_USEC_PER_MSEC, &spec));
+    };
+    const pa_buffer_attr buffer = {static_cast<std::uint32_t>(-1), bytes(RoomMs), bytes(StartMs),
+                                   bytes(RequestMs), static_cast<std::uint32_t>(-1)};
+    const auto flags =
+        static_cast<pa_stream_flags_t>(PA_STREAM_DONT_MOVE | PA_STREAM_EARLY_REQUESTS);
+    pa_stream_connect_playback(m_stream.get(), speakerId.toUtf8().constData(), &buffer, flags,
+                               nullptr, nullptr);
+}
+
+bool ListenBack::hasFailed() const
+{
+    return !m_stream || !PA_STREAM_IS_GOOD(pa_stream_get_state(m_stream.get()));
+}
+
+void ListenBack::play(const float* samples, std::size_t count)
+{
+    if (hasFailed() || pa_stream_get_state(m_stream.get()) != PA_STREAM_READY) {
+        return;
+    }
+    if (m_hasStarted) {
+        m_drift.observe(storeMs(), static_cast<double>(count) / m_samplesPerMs);
+        m_resampler.setDeviation(m_drift.deviation());
+        m_toSkip += static_cast<std::size_t>(m_drift.takeExcessMs() * m_samplesPerMs);
+    }
+    m_output.clear();
+    for (std::size_t i = 0; i < count; ++i) {
+        const float sample = m_guard.pass(samples[i]);
+        if (m_toSkip > 0) {
+            --m_toSkip;
+        } else {
+            m_resampler.process(sample, m_output);
+        }
+    }
+    if (!m_output.empty()) {
+        pa_stream_write(m_stream.get(), m_output.data(), m_output.size() * sizeof(float), nullptr,
+                        0, PA_SEEK_RELATIVE);
+        m_hasStarted = true;
+    }
+}
+
+// The server asks for what is missing in its room.
+double ListenBack::storeMs() const
+{
+    const pa_buffer_attr* buffer = pa_stream_get_buffer_attr(m_stream.get());
+    const std::size_t missing =
+        std::min<std::size_t>(pa_stream_writable_size(m_stream.get()), buffer->tlength);
+    return static_cast<double>(buffer->tlength - missing) / sizeof(float) / m_samplesPerMs;
+}
+
+void ListenBack::noteUnderflow()
+{
+    m_drift.ranDry();
+}
+
+} // namespace Platform

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/DriftControl.h"
+#include "platform/devices/pulse/DriftResampler.h"
+
+#include <QTest>
+#include <cmath>
+
+using Platform::DriftControl;
+using Platform::DriftResampler;
+
+namespace {
+
+constexpr double FragmentMs = 5.0;
+
+// A store that a speaker takes from at a rate of its own, in pieces, for so many seconds.
+struct Store
+{
+    double storeMs = 0.0;
+    double lowestMs = 1000.0;
+    double highestMs = 0.0;
+    int dryTimes = 0;
+
+    void run(DriftControl& control, double speakerRate, double seconds)
+    {
+        lowestMs = 1000.0;
+        highestMs = 0.0;
+        for (double at = 0.0; at < 1000.0 * seconds; at += FragmentMs) {
+            control.observe(storeMs, FragmentMs);
+            storeMs += FragmentMs / (1.0 + control.deviation()) - control.takeExcessMs();
+            storeMs -= FragmentMs * speakerRate;
+            if (storeMs < 0.0) {
+                storeMs = 0.0;
+                ++dryTimes;
+                control.ranDry();
+            }
+            lowestMs = std::min(lowestMs, storeMs);
+            highestMs = std::max(highestMs, storeMs);
+        }
+    }
+};
+
+} // namespace
+
+class tst_DriftControl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheReserve_data()
+    {
+        QTest::addColumn<double>("speakerRate");
+        QTest::newRow("same clock") << 1.0;
+        QTest::newRow("speaker 200 ppm slow") << 0.9998;
+        QTest::newRow("speaker 200 ppm fast") << 1.0002;
+        QTest::newRow("speaker 0.2 % slow") << 0.998;
+    }
+
+    void keepsTheReserve()
+    {
+        QFETCH(double, speakerRate);
+        DriftControl control;
+        Store store{5.0};
+        store.run(control, speakerRate, 20.0);
+        store.run(control, speakerRate, 600.0);
+        QCOMPARE(store.dryTimes, 0);
+        QVERIFY(store.lowestMs > 0.0);
+        QVERIFY2(store.highestMs < control.reserveMs() + 2.0 * FragmentMs,
+                 qPrintable(QString::number(store.highestMs)));
+    }
+
+    void aPileIsCutOff()
+    {
+        DriftControl control;
+        Store store{3000.0}; // a server that was frozen
+        store.run(control, 1.0, 2.0);
+        QVERIFY2(store.storeMs < 10.0, qPrintable(QString::number(store.storeMs)));
+    }
+
+    void runningDryTakesMoreReserve()
+    {
+        DriftControl control;
+        for (int i = 0; i < 100; ++i) {
+            control.ranDry();
+        }
+        QCOMPARE(control.reserveMs(), DriftControl::LastReserveMs);
+    }
+
+    void resamplerKeepsTheSound()
+    {
+        for (const double deviation : {0.0, 0.003, -0.003, 1.0}) {
+            DriftResampler resampler;
+            resampler.setDeviation(deviation);
+            QVERIFY(std::abs(resampler.deviation()) <= DriftResampler::MaxDeviation);
+            std::vector<float> result;
+            constexpr int Count = 48000;
+            const auto wave = [](double at) { return std::sin(0.05 * at); };
+            for (int i = 0; i < Count; ++i) {
+                resampler.process(static_cast<float>(wave(i)), result);
+            }
+            const double step = 1.0 + resampler.deviation();
+            QVERIFY(std::abs(static_cast<double>(result.size()) - Count / step) < 3.0);
+            for (std::size_t i = 10; i < result.size(); ++i) {
+                const double expected = wave(static_cast<double>(i) * step - 2.0);
+                QVERIFY(std::abs(static_cast<double>(result[i]) - expected) < 0.001);
+            }
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_DriftControl)
+#include "tst_DriftControl.moc"

@@ -1,0 +1,394 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/LevelMeter.h"
+#include "platform/devices/pulse/PulseSound.h"
+#include "tests/support/GapMeter.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <cmath>
+#include <memory>
+
+using namespace Platform;
+using TestSupport::GapMeter;
+using TestSupport::SoundRecording;
+using TestSupport::SoundServer;
+using TestSupport::SoundSource;
+
+namespace {
+
+constexpr int TimeoutMs = 5000;
+constexpr int MaxGapMs = 50;
+constexpr int GoneMs = 500; // a level of nothing is due by then
+constexpr float Audible = 0.003F;
+
+class MicrophoneListener final : public MicrophoneBackend::Listener
+{
+public:
+    void microphoneListChanged() override { ++lists; }
+    void currentMicrophoneChanged(const QString& id) override { currents.append(id); }
+    void levelMeasured(double level) override { levels.append(level); }
+    void microphoneVolumeChanged(int percent) override { ownVolumes.append(percent); }
+    void microphoneInfoChanged() override { ++infos; }
+    void microphoneWorkStateChanged(const QString&, bool works) override
+    {
+        workStates.append(works);
+    }
+    void systemVolumeChanged(float percent) override { systemVolumes.append(percent); }
+
+    int lists = 0;
+    QStringList currents;
+    QList<double> levels;
+    QList<int> ownVolumes;
+    int infos = 0;
+    QList<bool> workStates;
+    QList<float> systemVolumes;
+};
+
+class SpeakerListener final : public SpeakerBackend::Listener
+{
+public:
+    void speakerListChanged() override {}
+    void currentSpeakerChanged(const QString&) override {}
+    void speakerVolumeChanged(int) override {}
+    void speakerWorkStateChanged(bool) override {}
+};
+
+QString id(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+} // namespace
+
+class tst_PulseMicrophone : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data() { SoundServer::addTestRows(); }
+
+    void init()
+    {
+        m_server = SoundServer::startForTest();
+        QVERIFY(m_server);
+        m_sound = std::make_unique<PulseSound>(m_report);
+        m_listener = std::make_unique<MicrophoneListener>();
+        m_microphone = m_sound->createMicrophone(*m_listener);
+        QTRY_COMPARE_WITH_TIMEOUT(m_microphone->currentId(), id("microphone_a"), TimeoutMs);
+    }
+
+    void cleanup()
+    {
+        m_speaker.reset();
+        m_microphone.reset();
+        m_sound.reset();
+        m_server.reset();
+    }
+
+    void monitorsAreNoMicrophones()
+    {
+        QCOMPARE(m_microphone->devices().size(), std::size_t{1});
+        QCOMPARE(m_microphone->currentName(), QStringLiteral("Test Microphone A"));
+        QTRY_COMPARE(m_listener->currents.value(0), id("microphone_a"));
+
+        m_server->control({id("set-default-source"), id("speaker_a.monitor")});
+        const QByteArray second = m_server->plugMicrophone(id("second"), id("Second"));
+        QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
+        QVERIFY(isUsable(m_microphone->state()));
+        QVERIFY(!m_microphone->currentId().contains(id("monitor")));
+
+        m_server->unplug(second);
+        m_server->unplug(m_server->microphoneA());
+        QTRY_VERIFY(m_microphone->devices().empty());
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QVERIFY(m_microphone->state() == DeviceState::Absent);
+    }
+
+    void choosing()
+    {
+        m_server->plugMicrophone(id("second"), id("Second"));
+        QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
+        m_microphone->setCurrent(id("second"));
+        QTRY_COMPARE(m_listener->currents.last(), id("second"));
+        QCOMPARE(m_server->control({id("get-default-source")}), QByteArray("microphone_a"));
+
+        m_microphone->setCurrent(QString());
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QVERIFY(m_microphone->state() == DeviceState::Off);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty());
+        m_microphone->open();
+        QCOMPARE(captures(), 0);
+    }
+
+    void unpluggedAndPluggedAgain()
+    {
+        m_microphone->setCurrent(id("microphone_a"));
+        m_microphone->open();
+        SoundSource voice(id("voice"), TestSupport::tone(20.0, 440.0, -20.0));
+        QTRY_VERIFY(level() > 0.6);
+        m_server->unplug(m_server->microphoneA());
+        QElapsedTimer clock;
+        clock.start();
+        QTRY_COMPARE(level(), 0.0);
+        QVERIFY(clock.elapsed() < GoneMs);
+        QTRY_VERIFY(m_microphone->state() == DeviceState::Absent);
+        QCOMPARE(m_microphone->currentId(), id("microphone_a"));
+        QCOMPARE(m_microphone->currentName(), QStringLiteral("Test Microphone A"));
+
+        m_server->plugMicrophone(id("microphone_a"), QStringLiteral("Test Microphone A"));
+        QTRY_VERIFY_WITH_TIMEOUT(level() > 0.6, TimeoutMs);
+    }
+
+    void levels_data()
+    {
+        QTest::addColumn<double>("decibels");
+        QTest::addColumn<double>("level");
+        QTest::newRow("full scale") << 0.0 << 1.0;
+        QTest::newRow("-6 dBFS") << -6.0 << 0.9;
+        QTest::newRow("-20 dBFS") << -20.0 << 2.0 / 3.0;
+        QTest::newRow("-40 dBFS") << -40.0 << 1.0 / 3.0;
+        QTest::newRow("-60 dBFS") << -60.0 << 0.0;
+    }
+
+    void levels()
+    {
+        QFETCH(double, decibels);
+        QFETCH(double, level);
+        m_microphone->open();
+        SoundSource voice(id("voice"), TestSupport::tone(3.0, 1000.0, decibels));
+        QTRY_VERIFY(std::abs(this->level() - level) < 0.01);
+        QTest::qWait(300);
+        m_listener->levels.clear();
+        QTest::qWait(1000);
+        QVERIFY2(m_listener->levels.size() >= 30,
+                 qPrintable(QString::number(m_listener->levels.size())));
+        for (const double measured : qAsConst(m_listener->levels)) {
+            QVERIFY2(std::abs(measured - level) < 0.01, qPrintable(QString::number(measured)));
+        }
+        qInfo("%5.0f dBFS: level %.3f, %d a second", decibels, this->level(),
+              m_listener->levels.size());
+        voice.waitForEnd();
+        QTRY_COMPARE(this->level(), 0.0); // silence rests
+    }
+
+    void soundIsHeard()
+    {
+        m_microphone->open();
+        QTRY_VERIFY(m_listener->levels.size() > 20);
+        QVERIFY(!m_microphone->hasHeardSound());
+        QVERIFY(m_microphone->state() == DeviceState::Silent);
+        {
+            SoundSource whisper(id("voice"), TestSupport::tone(0.5, 300.0, -55.0));
+            QVERIFY(whisper.waitForEnd());
+        }
+        QVERIFY(!m_microphone->hasHeardSound());
+        SoundSource voice(id("voice"), TestSupport::tone(0.5, 300.0, -35.0));
+        QTRY_VERIFY(m_microphone->hasHeardSound());
+        QVERIFY(m_microphone->state() == DeviceState::Working);
+        QTRY_COMPARE(m_listener->workStates.last(), true);
+        QVERIFY(voice.waitForEnd());
+
+        m_microphone->close();
+        QVERIFY(m_microphone->hasHeardSound());
+        QTRY_COMPARE(captures(), 0);
+        const QJsonObject figures = m_report.measurements.value(id("microphone"));
+        QCOMPARE(figures.value(id("device")).toString(), QStringLiteral("Test Microphone A"));
+        QCOMPARE(figures.value(id("soundHeard")).toBool(), true);
+        QVERIFY(std::abs(figures.value(id("peakDb")).toDouble() + 35.0) < 1.0);
+        QCOMPARE(figures.value(id("clippedShare")).toDouble(), 0.0);
+        QCOMPARE(figures.value(id("movedByUser")).toBool(), false);
+    }
+
+    void mutedIsUsableAndSilent()
+    {
+        m_server->control({id("set-source-mute"), id("microphone_a"), id("1")});
+        m_microphone->open();
+        SoundSource voice(id("voice"), TestSupport::tone(20.0, 440.0, -20.0));
+        QTest::qWait(500);
+        QCOMPARE(level(), 0.0);
+        QVERIFY(isUsable(m_microphone->state()));
+        QVERIFY(!m_microphone->hasHeardSound());
+        m_microphone->setVolume(100);
+        QTRY_VERIFY(level() > 0.6);
+        QCOMPARE(m_server->control({id("get-source-mute"), id("microphone_a")}),
+                 QByteArray("Mute: no"));
+    }
+
+    void volume()
+    {
+        QVERIFY(m_microphone->isVolumeAdjustable());
+        QTRY_COMPARE(m_microphone->volume(), 100);
+        for (int percent = 101; percent <= 150; ++percent) { // a slider being dragged
+            m_microphone->setVolume(percent);
+        }
+        QCOMPARE(m_microphone->volume(), 150);
+        QTRY_COMPARE(m_listener->ownVolumes.last(), 150);
+        QTRY_VERIFY(sourceVolume().contains("150%"));
+        QVERIFY(m_listener->systemVolumes.isEmpty());
+
+        m_server->control({id("set-source-volume"), id("microphone_a"), id("40%")});
+        QTRY_COMPARE(m_listener->systemVolumes.size(), 1);
+        QVERIFY(std::abs(m_listener->systemVolumes.last() - 40.0F) < 0.1F);
+        QCOMPARE(m_microphone->volume(), 40);
+
+        const int infos = m_listener->infos;
+        m_server->control({id("set-source-mute"), id("microphone_a"), id("1")});
+        QTRY_COMPARE(m_listener->infos, infos + 1);
+    }
+
+    void listening()
+    {
+        m_speaker = m_sound->createSpeaker(m_speakerListener);
+        m_speaker->setCurrent(id("speaker_b"));
+        m_microphone->open();
+        m_microphone->setListening(true);
+        SoundRecording chosen(id("speaker_b.monitor"));
+        SoundRecording other(id("speaker_a.monitor"));
+        QVERIFY(chosen.waitForStart());
+        QVERIFY(other.waitForStart());
+        SoundSource voice(id("voice"), TestSupport::tone(60.0, 440.0, -20.0));
+        QTRY_VERIFY(chosen.peak() > 0.05F);
+        QVERIFY(other.peak() < Audible);
+
+        m_speaker->setCurrent(id("speaker_a"));
+        QTRY_VERIFY(other.peak() > 0.05F);
+
+        // The level goes on without it; without the stream there is neither.
+        m_microphone->setListening(false);
+        QTRY_COMPARE(playbacks(), 1); // the voice
+        QVERIFY(level() > 0.6);
+        m_microphone->setListening(true);
+        QTRY_COMPARE(playbacks(), 2);
+        m_microphone->close();
+        QTRY_COMPARE(playbacks(), 1);
+        QTRY_COMPARE(captures(), 0);
+        QTRY_COMPARE(level(), 0.0);
+    }
+
+    void closingIsAtOnce()
+    {
+        m_microphone->open();
+        m_microphone->setListening(true);
+        QTRY_VERIFY(m_listener->levels.size() > 10);
+        QElapsedTimer clock;
+        clock.start();
+        m_microphone->setListening(false);
+        m_microphone->close();
+        m_listener->levels.clear();
+        QVERIFY(clock.elapsed() < MaxGapMs);
+        QTest::qWait(100);
+        QCOMPARE(m_listener->levels, QList<double>{0.0});
+    }
+
+    void comesBackWithTheServer()
+    {
+        m_microphone->open();
+        m_microphone->setListening(true);
+        QTRY_VERIFY(m_listener->levels.size() > 10);
+        GapMeter gaps;
+        m_server->kill();
+        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QVERIFY(m_microphone->state() == DeviceState::Absent);
+        QCOMPARE(level(), 0.0);
+        QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
+        QVERIFY(m_server->start());
+        QTRY_COMPARE_WITH_TIMEOUT(m_listener->currents.last(), id("microphone_a"), TimeoutMs);
+        SoundSource voice(id("voice"), TestSupport::tone(20.0, 440.0, -20.0));
+        QTRY_VERIFY_WITH_TIMEOUT(level() > 0.6, TimeoutMs);
+        QTRY_COMPARE(playbacks(), 2);
+    }
+
+    void frozenServer()
+    {
+        m_microphone->open();
+        m_microphone->setListening(true);
+        SoundSource voice(id("voice"), TestSupport::tone(20.0, 440.0, -20.0));
+        QTRY_VERIFY(level() > 0.6);
+        GapMeter gaps;
+        m_server->freeze();
+        QElapsedTimer clock;
+        clock.start();
+        QTRY_COMPARE(level(), 0.0);
+        QVERIFY(clock.elapsed() < GoneMs);
+        QTRY_VERIFY(m_microphone->state() == DeviceState::Hung);
+        QTest::qWait(1000);
+        m_microphone->setListening(false);
+        m_microphone->close();
+        m_microphone->open();
+        QTest::qWait(300);
+        m_server->thaw();
+        QTRY_VERIFY_WITH_TIMEOUT(level() > 0.6, TimeoutMs);
+        QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
+        m_server->freeze();
+        clock.restart();
+        m_microphone.reset();
+        QVERIFY(clock.elapsed() < MaxGapMs);
+        m_server->thaw();
+    }
+
+    // The microphone stands beside its own speaker, and is turned up.
+    void doesNotHowl()
+    {
+        m_server->plugMicrophone(id("near"), id("Near"), id("speaker_a"));
+        QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
+        m_microphone->setCurrent(id("near"));
+        QTRY_COMPARE(m_microphone->currentId(), id("near"));
+        m_microphone->setVolume(150);
+        m_microphone->open();
+        m_microphone->setListening(true);
+        SoundRecording speaker(id("speaker_a.monitor"));
+        QVERIFY(speaker.waitForStart());
+        {
+            SoundSource clap(id("speaker_a"), TestSupport::tone(0.2, 800.0, -20.0));
+            QTRY_VERIFY(speaker.peak() > Audible);
+        }
+        QTest::qWait(3000);
+        const std::vector<float> heard = speaker.samples();
+        double loudest = 0.0;
+        double loud = 0.0;
+        for (const float sample : heard) {
+            loudest = std::max(loudest, static_cast<double>(std::abs(sample)));
+            loud += std::abs(sample) > 0.1F ? 1.0 : 0.0;
+        }
+        const double share = loud / static_cast<double>(heard.size());
+        qInfo("loudest %.1f dBFS, above -20 dBFS %.0f %% of the time",
+              TestSupport::decibels(loudest), 100.0 * share);
+        QVERIFY(loudest < 0.7);
+        QVERIFY(share < 0.4);
+    }
+
+private:
+    double level() const { return m_listener->levels.isEmpty() ? -1.0 : m_listener->levels.last(); }
+
+    QByteArray sourceVolume()
+    {
+        return m_server->control({id("get-source-volume"), id("microphone_a")});
+    }
+
+    // Streams other than those that recording the monitors and the virtual devices take.
+    int captures()
+    {
+        return m_server->control({id("list"), id("source-outputs")}).count("Microphone check");
+    }
+
+    int playbacks()
+    {
+        const QByteArray list = m_server->control({id("list"), id("sink-inputs")});
+        return list.count("Listening to oneself") + list.count("application.name = \"pacat\"");
+    }
+
+    std::unique_ptr<SoundServer> m_server;
+    TestSupport::MemoryReport m_report;
+    std::unique_ptr<PulseSound> m_sound;
+    std::unique_ptr<MicrophoneListener> m_listener;
+    std::unique_ptr<MicrophoneBackend> m_microphone;
+    SpeakerListener m_speakerListener;
+    std::unique_ptr<SpeakerBackend> m_speaker;
+};
+
+QTEST_GUILESS_MAIN(tst_PulseMicrophone)
+#include "tst_PulseMicrophone.moc"
