@@ -200,7 +200,11 @@ void ScenarioReader::readDevices(JsonFields& root, Kind kind, Scenario& scenario
 
 void ScenarioReader::readTimeline(JsonFields& root, Scenario& scenario)
 {
-    for (JsonFields& fields : root.objects("timeline", MaxElements)) {
+    std::vector<JsonFields> events = root.objects("timeline", MaxElements);
+    for (const JsonFields& fields : events) {
+        noteLaterDevice(fields.rest());
+    }
+    for (JsonFields& fields : events) {
         const auto atMs = static_cast<int>(fields.number("atMs", 0, MaxTimeMs));
         scenario.timeline.push_back({atMs, readEvent(fields)});
         fields.rejectOthers();
@@ -208,6 +212,17 @@ void ScenarioReader::readTimeline(JsonFields& root, Scenario& scenario)
     std::stable_sort(
         scenario.timeline.begin(), scenario.timeline.end(),
         [](const Scenario::Event& a, const Scenario::Event& b) { return a.atMs < b.atMs; });
+}
+
+// The file's order isn't the order of time: an event may name a device that the file plugs in
+// below.
+void ScenarioReader::noteLaterDevice(const QJsonObject& event)
+{
+    const int kind = Kinds.indexOf(event.value(QLatin1String("kind")).toString());
+    if (kind >= 0 && event.value(QLatin1String("event")).toString() == Events.at(Plug)) {
+        m_ids.at(static_cast<std::size_t>(kind))
+            .insert(event.value(QLatin1String("id")).toString());
+    }
 }
 
 Scenario::Action ScenarioReader::readDevice(JsonFields& fields, Kind kind)

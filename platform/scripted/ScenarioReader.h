@@ -28,6 +28,7 @@ private:
     Scenario::Action readCurrent(JsonFields& root);
     void readDevices(JsonFields& root, Kind kind, Scenario& scenario);
     void readTimeline(JsonFields& root, Scenario& scenario);
+    void noteLaterDevice(const QJsonObject& event);
 
     Scenario::Action readDevice(JsonFields& fields, Kind kind);
     Scenario::Action readCamera(JsonFields& fields);

@@ -48,7 +48,8 @@ void tst_Mailbox::deliversFromManyThreads()
         threads.emplace_back([sender = mailbox.sender(), &received, &isOnGuiThread, t] {
             for (int i = 0; i < LetterCount; ++i) {
                 sender.post([&received, &isOnGuiThread, t, i] {
-                    isOnGuiThread = isOnGuiThread && QThread::currentThread() == qApp->thread();
+                    isOnGuiThread = isOnGuiThread && QThread::currentThread() ==
+                                                         QCoreApplication::instance()->thread();
                     received.at(t).append(i);
                 });
             }
