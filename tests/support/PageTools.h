@@ -5,6 +5,7 @@
 #include "widgets/LumToolTip.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QMetaMethod>
 
 // What the tests of the pages look at.
@@ -40,6 +41,17 @@ inline LumToolTip* balloonWith(const QString& text)
         }
     }
     return nullptr;
+}
+
+inline bool isArrowInTheMiddle(LumToolTip& balloon)
+{
+    QImage picture(balloon.size(), QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    balloon.render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+    const int arrowRow = balloon.height() - 5;
+    const int leftArrow = 15; // where the tip of the other kind's arrow is
+    return qAlpha(picture.pixel(balloon.width() / 2, arrowRow)) > 127 &&
+           qAlpha(picture.pixel(leftArrow, arrowRow)) == 0;
 }
 
 // The signatures that a class adds to its base's meta-object.

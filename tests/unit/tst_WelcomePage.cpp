@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
 #include "wizard/WelcomePage.h"
 
@@ -9,7 +10,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -33,21 +33,6 @@ QPushButton:hover
 {
   background-color: rgb( 25, 166, 98 );
 })";
-
-// Translates what it is given, and keeps what it was asked for.
-class Dictionary : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char* /*comment*/,
-                      int /*count*/) const override
-    {
-        return m_words.value(QString::fromUtf8(context ? context : "") + '/' +
-                             QString::fromUtf8(text));
-    }
-    bool isEmpty() const override { return false; }
-
-    QHash<QString, QString> m_words;
-};
 
 } // namespace
 
@@ -80,12 +65,9 @@ void tst_WelcomePage::texts()
 
 void tst_WelcomePage::sentenceIsTranslatedByItsSource()
 {
-    Dictionary dictionary;
-    dictionary.m_words.insert("WelcomePage/" + Sentence, "We will look at your system.");
-    dictionary.m_words.insert("/ID_Skip", "Pass over");
-    QCoreApplication::installTranslator(&dictionary);
+    const Dictionary dictionary(
+        {{"WelcomePage/" + Sentence, "We will look at your system."}, {"ID_Skip", "Pass over"}});
     const WelcomePage page;
-    QCoreApplication::removeTranslator(&dictionary);
     QCOMPARE(page.findChild<QLabel*>("wellcomeText2")->text(),
              QString("We will look at your system."));
     QCOMPARE(page.findChild<QLabel*>("wellcomeTest1")->text(), QString("Pass over"));
