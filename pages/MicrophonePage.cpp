@@ -369,7 +369,6 @@ void MicrophonePage::showNoisyTip(bool show)
                                                   Qt::AlignCenter, false, LumColor::Red);
     }
     m_noisyTip->adjustSize();
-    ui->micVolumeLayout->activate(); // a slider that has just been shown isn't in its place yet
     const QPoint corner = m_volume->mapTo(this, QPoint(0, 0));
     m_noisyTip->setGeometry(corner.x() + NoisyTipOffset.x(),
                             corner.y() - m_noisyTip->height() + NoisyTipOffset.y(),

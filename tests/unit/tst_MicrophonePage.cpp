@@ -4,6 +4,7 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/DeviceComboChecks.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
 #include "tests/support/TimerTools.h"
@@ -12,11 +13,7 @@
 
 #include <CommEngine/HardwareMgrInterface.h>
 #include <LumUtility/LumColor.h>
-#include <LumWidgets/QCustomComboBox.h>
-#include <LumWidgets/QCustomComboBoxItem.h>
 
-#include <QAbstractItemView>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
@@ -27,6 +24,7 @@
 #include <algorithm>
 #include <limits>
 
+using DeviceComboChecks::entries;
 using Platform::DeviceState;
 
 namespace {
@@ -176,7 +174,6 @@ private:
     LumToolTip* noisyBalloon() { return m_page->findChild<LumToolTip*>(); }
     LumToolTip* disabledBalloon();
     bool isDisabledBalloonVisible();
-    QStringList entries();
 
     Platform::ScriptedEngine* m_engine = nullptr;
     std::unique_ptr<MicrophonePage> m_page;
@@ -281,15 +278,6 @@ bool tst_MicrophonePage::isDisabledBalloonVisible()
     return disabledBalloon() && disabledBalloon()->isVisible();
 }
 
-QStringList tst_MicrophonePage::entries()
-{
-    QStringList result;
-    for (int i = 0; i < m_combo->count(); ++i) {
-        result.append(m_combo->itemText(i) + '=' + m_combo->itemData(i).toString());
-    }
-    return result;
-}
-
 void tst_MicrophonePage::constructionCallsInOrder_data()
 {
     QTest::addColumn<Mic>("mic");
@@ -343,20 +331,7 @@ void tst_MicrophonePage::tipsStandBeforeTheLastItem()
 void tst_MicrophonePage::comboBoxSetup()
 {
     makeShownPage(Mic::Works);
-    auto* delegate = qobject_cast<QCustomComboBoxItem*>(m_combo->itemDelegate());
-    QVERIFY(delegate);
-    QCOMPARE(delegate->parent(), m_page.get());
-    QCOMPARE(m_combo->view()->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
-    QCOMPARE(m_combo->view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QCOMPARE(m_combo->view()->styleSheet(), QString("background-color: white"));
-    QCOMPARE(m_combo->maxVisibleItems(), 8);
-    QVERIFY(m_combo->lineEdit()->isReadOnly());
-    QCOMPARE(m_combo->lineEdit()->styleSheet(),
-             QString("background-color: transparent; border: none;"));
-    QTest::mouseClick(m_combo->lineEdit(), Qt::LeftButton);
-    QVERIFY(m_combo->view()->isVisible());
-    QCOMPARE(m_combo->view()->width(), 306);
-    m_combo->hidePopup();
+    DeviceComboChecks::isSetUp(m_combo, m_page.get());
 }
 
 void tst_MicrophonePage::wheelAndArrowsChooseNothing()
@@ -364,13 +339,7 @@ void tst_MicrophonePage::wheelAndArrowsChooseNothing()
     m_engine->microphones().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage(Mic::Works);
     m_engine->clearCalls();
-    const int index = m_combo->currentIndex();
-    QTest::keyClick(m_combo, Qt::Key_Down);
-    QTest::keyClick(m_combo, Qt::Key_Up);
-    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(m_combo, &wheel);
-    QCOMPARE(m_combo->currentIndex(), index);
+    DeviceComboChecks::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
@@ -399,7 +368,7 @@ void tst_MicrophonePage::levelBars()
 void tst_MicrophonePage::noMicrophoneLeavesOneEntry()
 {
     makeShownPage(Mic::None);
-    QCOMPARE(entries(), QStringList{NoMicText + '=' + HardwareMgrInterface::NoneDevice});
+    QCOMPARE(entries(*m_combo), QStringList{NoMicText + '=' + HardwareMgrInterface::NoneDevice});
     QCOMPARE(m_combo->currentIndex(), 0);
 }
 
@@ -408,8 +377,8 @@ void tst_MicrophonePage::microphonesAreOrderedById()
     m_engine->microphones().plug({"b", "Alpha"}, DeviceState::Working);
     m_engine->microphones().plug({"a", "Zulu"}, DeviceState::Working);
     makePage();
-    QCOMPARE(entries(), (QStringList{"Zulu=a", "Alpha=b",
-                                     NoMicText + '=' + HardwareMgrInterface::NoneDevice}));
+    QCOMPARE(entries(*m_combo), (QStringList{"Zulu=a", "Alpha=b",
+                                             NoMicText + '=' + HardwareMgrInterface::NoneDevice}));
     QCOMPARE(m_combo->currentText(), QString("Alpha")); // plugged in first, so the current one
 }
 
