@@ -9,6 +9,7 @@
 namespace Platform {
 
 struct DeviceEngineConfig;
+class ReportSink;
 
 // The cameras of the real engine: one per engine, made with it and destroyed after all that it
 // created. GUI thread only.
@@ -20,7 +21,9 @@ public:
     virtual std::unique_ptr<CameraBackend> createCamera(CameraBackend::Listener& listener) = 0;
 };
 
-// Defined once, by the folder that provides the cameras of this build.
-std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config);
+// Defined once, by the folder that provides the cameras of this build. What it measured of a camera
+// goes to the report.
+std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config,
+                                                 ReportSink& report);
 
 } // namespace Platform

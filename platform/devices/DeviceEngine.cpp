@@ -73,7 +73,7 @@ DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
               return probe(listener, std::move(handler), nullptr);
           })),
       m_sound(createSoundSystem(config, *m_reports)),
-      m_cameras(createCameraSystem(config))
+      m_cameras(createCameraSystem(config, *m_reports))
 {
     if (!config.server.isEmpty() && !StunServer::fromUrl(config.server)) {
         qCWarning(deviceEngineLog).noquote()

@@ -32,7 +32,7 @@ public:
 
 } // namespace
 
-std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig&)
+std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig&, ReportSink&)
 {
     return std::make_unique<AbsentCameraSystem>();
 }

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/CameraList.h"
+
+#include <QRegularExpression>
+
+namespace Platform {
+
+namespace {
+
+const QLatin1String CameraRole("Camera");
+const QLatin1String CaptureCapability(":capture:");
+
+bool isNamedInfrared(const QString& description)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\b(IR|[Ii]nfrared)\\b"));
+    return pattern.match(description).hasMatch();
+}
+
+} // namespace
+
+bool CameraList::isCamera(const CameraNode& node)
+{
+    if (!node.role.isEmpty() && node.role != CameraRole) {
+        return false;
+    }
+    if (!node.capabilities.isEmpty() && !node.capabilities.contains(CaptureCapability)) {
+        return false;
+    }
+    return (node.hasColour || !node.hasFormats) && !isNamedInfrared(node.description);
+}
+
+bool CameraList::add(quint32 globalId, const CameraNode& node)
+{
+    const bool wasListed = m_nodes.erase(globalId) > 0;
+    if (!isCamera(node)) {
+        return wasListed;
+    }
+    m_nodes.emplace(globalId, node);
+    return true;
+}
+
+bool CameraList::remove(quint32 globalId)
+{
+    return m_nodes.erase(globalId) > 0;
+}
+
+bool CameraList::clear()
+{
+    const bool wasEmpty = m_nodes.empty();
+    m_nodes.clear();
+    return !wasEmpty;
+}
+
+DeviceList CameraList::devices() const
+{
+    DeviceList result;
+    for (const auto& [id, node] : byId()) {
+        result.push_back({id, node->description.isEmpty() ? node->name : node->description});
+    }
+    return withDistinctNames(result);
+}
+
+std::optional<QString> CameraList::serialOf(const QString& id) const
+{
+    const auto nodes = byId();
+    const auto it = nodes.find(id);
+    return it == nodes.end() ? std::nullopt : std::make_optional(it->second->serial);
+}
+
+QString CameraList::preferredId() const
+{
+    QString result;
+    int best = 0;
+    for (const auto& [id, node] : byId()) {
+        const int rank = 2 * node->priority + (node->role == CameraRole ? 1 : 0);
+        if (result.isEmpty() || rank > best) {
+            result = id;
+            best = rank;
+        }
+    }
+    return result;
+}
+
+std::map<QString, const CameraNode*> CameraList::byId() const
+{
+    std::map<QString, const CameraNode*> result;
+    for (const auto& entry : m_nodes) {
+        const CameraNode& node = entry.second;
+        const QString plain = node.name.isEmpty() ? node.serial : node.name;
+        QString id = plain;
+        for (int number = 2; result.count(id) > 0; ++number) {
+            id = QStringLiteral("%1#%2").arg(plain, QString::number(number));
+        }
+        result.emplace(id, &node);
+    }
+    return result;
+}
+
+} // namespace Platform

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+#include <QString>
+#include <map>
+#include <optional>
+
+namespace Platform {
+
+// A video source as the server describes it.
+struct CameraNode
+{
+    QString serial;       // the server's number for this appearance of the node
+    QString name;         // node.name: made from the bus path, so it survives replugging
+    QString description;  // for people
+    QString role;         // media.role
+    QString capabilities; // device.capabilities, where the server tells them
+    int priority = 0;     // the session's preference
+    bool hasFormats = false;
+    bool hasColour = false; // one of the formats has
+};
+
+// The cameras among the server's video sources. Hidden are: sources with another role than
+// "Camera", nodes of a device that can't capture (metadata), and infrared or depth sensors, which
+// offer grey formats alone or are named so.
+class CameraList
+{
+public:
+    static bool isCamera(const CameraNode& node);
+
+    // Both return whether the list changed.
+    bool add(quint32 globalId, const CameraNode& node);
+    bool remove(quint32 globalId);
+    bool clear();
+
+    DeviceList devices() const; // in the order of the ids, names distinct
+    bool contains(const QString& id) const { return serialOf(id).has_value(); }
+    std::optional<QString> serialOf(const QString& id) const;
+    QString preferredId() const; // empty where there is none
+
+private:
+    std::map<QString, const CameraNode*> byId() const;
+
+    std::map<quint32, CameraNode> m_nodes;
+};
+
+} // namespace Platform

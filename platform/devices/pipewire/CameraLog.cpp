@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/CameraLog.h"
+
+namespace Platform {
+
+Q_LOGGING_CATEGORY(CameraLog, "envcheck.camera")
+
+} // namespace Platform

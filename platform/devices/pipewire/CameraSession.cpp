@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/CameraSession.h"
+
+#include "platform/devices/pipewire/CameraLog.h"
+
+namespace Platform {
+
+namespace {
+
+constexpr std::chrono::milliseconds StartDeadline(3000);
+constexpr std::chrono::milliseconds RetryDelay(500);
+constexpr std::chrono::milliseconds WatchPeriod(100);
+// What is asked of a camera that offers several sizes: enough for a sharp preview on any screen.
+const QSize AskedSize(640, 480);
+
+} // namespace
+
+CameraSession::CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
+                             std::unique_ptr<Listener> listener)
+    : m_connection(connection),
+      m_slot(std::move(slot)),
+      m_listener(std::move(listener)),
+      m_deadlineTimer(connection.loop(), [this] { onDeadline(); }),
+      m_retryTimer(connection.loop(), [this] { onRetry(); }),
+      m_watchTimer(connection.loop(), [this] { onWatch(); })
+{
+    m_connection.addObserver(this);
+}
+
+CameraSession::~CameraSession()
+{
+    m_connection.removeObserver(this);
+}
+
+void CameraSession::open(int generation, const QString& id)
+{
+    close();
+    m_generation = generation;
+    m_id = id;
+    m_state = DeviceState::Ready;
+    openStream();
+}
+
+void CameraSession::close()
+{
+    dropStream();
+    m_id.clear();
+}
+
+void CameraSession::camerasChanged()
+{
+    const CameraList& cameras = m_connection.cameras();
+    if (m_stream && cameras.serialOf(m_id) != m_serial) {
+        dropStream();
+        report(DeviceState::Ready);
+    }
+    m_listener->listArrived(cameras.devices(), cameras.preferredId(), m_connection.isDenied());
+    openStream();
+}
+
+void CameraSession::connectionLost()
+{
+    dropStream();
+    report(DeviceState::Ready);
+}
+
+DeviceState CameraSession::stateOf(const QString& error)
+{
+    const auto says = [&error](const char* word) {
+        return error.contains(QLatin1String(word), Qt::CaseInsensitive);
+    };
+    if (says("busy")) {
+        return DeviceState::Busy;
+    }
+    if (says("denied") || says("not permitted")) {
+        return DeviceState::Denied;
+    }
+    return DeviceState::Failed;
+}
+
+void CameraSession::streamRuns()
+{
+    m_deadlineTimer.stop();
+    m_runsSince = PictureSlot::Clock::now();
+    m_watchTimer.startRepeating(WatchPeriod);
+}
+
+void CameraSession::streamEnded(const QString& error)
+{
+    if (!error.isEmpty()) {
+        qCInfo(CameraLog, "%s", qUtf8Printable(error));
+        report(stateOf(error));
+    }
+    m_retryTimer.startOnce({}); // it can't be destroyed from inside its own event
+}
+
+void CameraSession::rateAgreed(double picturesPerSecond)
+{
+    m_slot->setRate(m_generation, picturesPerSecond);
+}
+
+void CameraSession::pictureReceived(const PictureFormat& format, const PictureView& view,
+                                    const PictureOrientation& orientation)
+{
+    const QImage picture = m_converter.convert(format, view, orientation, m_outputSize);
+    if (picture.isNull()) {
+        return;
+    }
+    const bool mustNotify = m_slot->put(m_generation, picture, format.size);
+    report(DeviceState::Working);
+    if (mustNotify) {
+        m_listener->pictureArrived();
+    }
+}
+
+void CameraSession::openStream()
+{
+    const std::optional<QString> serial = m_connection.cameras().serialOf(m_id);
+    if (m_stream || !serial || m_connection.core() == nullptr) {
+        return;
+    }
+    m_serial = *serial;
+    m_stream = std::make_unique<CameraStream>(m_connection.core(), m_serial, AskedSize,
+                                              *static_cast<CameraStream::Listener*>(this));
+    m_deadlineTimer.startOnce(StartDeadline);
+}
+
+void CameraSession::dropStream()
+{
+    m_deadlineTimer.stop();
+    m_retryTimer.stop();
+    m_watchTimer.stop();
+    m_stream.reset();
+    m_slot->interrupt(m_generation);
+}
+
+void CameraSession::onDeadline()
+{
+    dropStream();
+    report(DeviceState::Hung);
+    m_retryTimer.startOnce(RetryDelay);
+}
+
+void CameraSession::onRetry()
+{
+    if (m_stream) {
+        dropStream();
+        m_retryTimer.startOnce(RetryDelay);
+    } else {
+        openStream();
+    }
+}
+
+void CameraSession::onWatch()
+{
+    if (m_slot->isSilent(m_runsSince)) {
+        report(DeviceState::Silent);
+    }
+}
+
+void CameraSession::report(DeviceState state)
+{
+    if (m_state != state && !m_id.isEmpty()) {
+        m_state = state;
+        m_listener->stateChanged(m_generation, state);
+    }
+}
+
+} // namespace Platform

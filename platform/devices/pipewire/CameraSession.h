@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+#include "platform/devices/pipewire/CameraStream.h"
+#include "platform/devices/pipewire/LoopTimer.h"
+#include "platform/devices/pipewire/PictureConverter.h"
+#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/pipewire/PipeWireConnection.h"
+
+#include <memory>
+#include <optional>
+
+namespace Platform {
+
+// The camera thread's half of a PipeWireCamera: keeps the wished camera open while it is there,
+// gives up what hangs, tries again. On the camera thread only.
+class CameraSession final : public PipeWireConnection::Observer, private CameraStream::Listener
+{
+public:
+    // Called on the camera thread.
+    class Listener
+    {
+    public:
+        virtual ~Listener() = default;
+        virtual void listArrived(const DeviceList& devices, const QString& preferredId,
+                                 bool isDenied) = 0;
+        virtual void stateChanged(int generation, DeviceState state) = 0;
+        virtual void pictureArrived() = 0;
+    };
+
+    CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
+                  std::unique_ptr<Listener> listener);
+    ~CameraSession();
+    CameraSession(const CameraSession&) = delete;
+    CameraSession& operator=(const CameraSession&) = delete;
+
+    void open(int generation, const QString& id); // now, or once it is there
+    void close();
+    void setOutputSize(const QSize& pixels) { m_outputSize = pixels; }
+
+    void camerasChanged() override;
+    void connectionLost() override;
+
+    // What a server's or a driver's words mean.
+    static DeviceState stateOf(const QString& error);
+
+private:
+    void streamRuns() override;
+    void streamEnded(const QString& error) override;
+    void rateAgreed(double picturesPerSecond) override;
+    void pictureReceived(const PictureFormat& format, const PictureView& view,
+                         const PictureOrientation& orientation) override;
+
+    void openStream();
+    void dropStream();
+    void onDeadline();
+    void onRetry();
+    void onWatch();
+    void report(DeviceState state);
+
+    PipeWireConnection& m_connection;
+    std::shared_ptr<PictureSlot> m_slot;
+    std::unique_ptr<Listener> m_listener;
+    PictureConverter m_converter;
+    QSize m_outputSize;
+    QString m_id; // empty while closed
+    int m_generation = 0;
+    DeviceState m_state = DeviceState::Ready;
+    QString m_serial; // of the camera that the stream is for
+    std::unique_ptr<CameraStream> m_stream;
+    PictureSlot::Clock::time_point m_runsSince;
+    LoopTimer m_deadlineTimer;
+    LoopTimer m_retryTimer;
+    LoopTimer m_watchTimer;
+};
+
+} // namespace Platform

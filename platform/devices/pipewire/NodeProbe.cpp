@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/NodeProbe.h"
+
+#include <spa/param/video/format-utils.h>
+
+namespace Platform {
+
+namespace {
+
+QString text(const spa_dict* properties, const char* key)
+{
+    const char* value = spa_dict_lookup(properties, key);
+    return value == nullptr ? QString() : QString::fromUtf8(value);
+}
+
+void readProperties(const spa_dict* properties, CameraNode& node)
+{
+    const auto read = [properties](QString& target, const char* key) {
+        const QString value = text(properties, key);
+        if (!value.isEmpty()) {
+            target = value;
+        }
+    };
+    read(node.serial, PW_KEY_OBJECT_SERIAL);
+    read(node.name, PW_KEY_NODE_NAME);
+    read(node.description, PW_KEY_NODE_DESCRIPTION);
+    read(node.role, PW_KEY_MEDIA_ROLE);
+    read(node.capabilities, "device.capabilities");
+    const QString priority = text(properties, PW_KEY_PRIORITY_SESSION);
+    if (!priority.isEmpty()) {
+        node.priority = priority.toInt();
+    }
+}
+
+bool isGrey(uint32_t format)
+{
+    return format == SPA_VIDEO_FORMAT_GRAY8 || format == SPA_VIDEO_FORMAT_GRAY16_BE ||
+           format == SPA_VIDEO_FORMAT_GRAY16_LE;
+}
+
+} // namespace
+
+const pw_node_events NodeProbe::NodeEvents = [] {
+    pw_node_events events{};
+    events.version = PW_VERSION_NODE_EVENTS;
+    events.info = [](void* data, const pw_node_info* info) {
+        if (info->props != nullptr) {
+            readProperties(info->props, static_cast<NodeProbe*>(data)->m_node);
+        }
+    };
+    events.param = [](void* data, int, uint32_t, uint32_t, uint32_t, const spa_pod* parameter) {
+        static_cast<NodeProbe*>(data)->onFormat(parameter);
+    };
+    return events;
+}();
+
+const pw_proxy_events NodeProbe::ProxyEvents = [] {
+    pw_proxy_events events{};
+    events.version = PW_VERSION_PROXY_EVENTS;
+    events.done = [](void* data, int) { static_cast<NodeProbe*>(data)->onDone(); };
+    return events;
+}();
+
+NodeProbe::NodeProbe(pw_registry* registry, quint32 globalId, const spa_dict* properties,
+                     std::function<void()> done)
+    : m_done(std::move(done))
+{
+    readProperties(properties, m_node);
+    m_proxy = static_cast<pw_proxy*>(
+        pw_registry_bind(registry, globalId, PW_TYPE_INTERFACE_Node, PW_VERSION_NODE, 0));
+    if (m_proxy == nullptr) {
+        m_isDone = true;
+        return;
+    }
+    pw_proxy_add_listener(m_proxy, &m_proxyHook, &ProxyEvents, this);
+    auto* const node = reinterpret_cast<pw_node*>(m_proxy);
+    pw_node_add_listener(node, &m_nodeHook, &NodeEvents, this);
+    pw_node_enum_params(node, 0, SPA_PARAM_EnumFormat, 0, UINT32_MAX, nullptr);
+    pw_proxy_sync(m_proxy, 0);
+}
+
+NodeProbe::~NodeProbe()
+{
+    if (m_proxy != nullptr) {
+        spa_hook_remove(&m_nodeHook);
+        spa_hook_remove(&m_proxyHook);
+        pw_proxy_destroy(m_proxy);
+    }
+}
+
+void NodeProbe::onFormat(const spa_pod* format)
+{
+    uint32_t mediaType = 0;
+    uint32_t mediaSubtype = 0;
+    if (format == nullptr || spa_format_parse(format, &mediaType, &mediaSubtype) < 0 ||
+        mediaType != SPA_MEDIA_TYPE_video) {
+        return;
+    }
+    m_node.hasFormats = true;
+    if (mediaSubtype != SPA_MEDIA_SUBTYPE_raw) {
+        m_node.hasColour = true;
+        return;
+    }
+    const spa_pod_prop* const property =
+        spa_pod_find_prop(format, nullptr, SPA_FORMAT_VIDEO_format);
+    if (property == nullptr) {
+        return;
+    }
+    uint32_t count = 0;
+    uint32_t choice = 0;
+    const spa_pod* const values = spa_pod_get_values(&property->value, &count, &choice);
+    if (values->type != SPA_TYPE_Id) {
+        return;
+    }
+    const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
+    for (uint32_t i = 0; i < count; ++i) {
+        m_node.hasColour = m_node.hasColour || !isGrey(ids[i]);
+    }
+}
+
+void NodeProbe::onDone()
+{
+    m_isDone = true;
+    m_done();
+}
+
+} // namespace Platform

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/PipeWireConnection.h"
+
+#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/pipewire/NodeProbe.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace Platform {
+
+namespace {
+
+constexpr std::chrono::milliseconds ReconnectDelay(300);
+constexpr std::chrono::milliseconds BurstWindow(50);
+
+} // namespace
+
+const pw_core_events PipeWireConnection::CoreEvents = [] {
+    pw_core_events events{};
+    events.version = PW_VERSION_CORE_EVENTS;
+    events.done = [](void* data, uint32_t id, int sequence) {
+        if (id == PW_ID_CORE) {
+            static_cast<PipeWireConnection*>(data)->onRoundTripDone(sequence);
+        }
+    };
+    events.error = [](void* data, uint32_t id, int, int result, const char*) {
+        if (id == PW_ID_CORE && (result == -EPIPE || result == -ECONNRESET)) {
+            // The connection can't be taken down from inside its own event.
+            static_cast<PipeWireConnection*>(data)->m_lossTimer.startOnce({});
+        }
+    };
+    return events;
+}();
+
+const pw_registry_events PipeWireConnection::RegistryEvents = [] {
+    pw_registry_events events{};
+    events.version = PW_VERSION_REGISTRY_EVENTS;
+    events.global = [](void* data, uint32_t id, uint32_t, const char* type, uint32_t,
+                       const spa_dict* properties) {
+        static_cast<PipeWireConnection*>(data)->onGlobal(id, type, properties);
+    };
+    events.global_remove = [](void* data, uint32_t id) {
+        static_cast<PipeWireConnection*>(data)->onGlobalRemoved(id);
+    };
+    return events;
+}();
+
+PipeWireConnection::PipeWireConnection(pw_main_loop* mainLoop)
+    : m_mainLoop(mainLoop),
+      m_loop(pw_main_loop_get_loop(mainLoop)),
+      m_reconnectTimer(m_loop, [this] { connectToServer(); }),
+      m_lossTimer(m_loop, [this] { onServerGone(); }),
+      m_announceTimer(m_loop, [this] { announce(); })
+{
+}
+
+PipeWireConnection::~PipeWireConnection()
+{
+    disconnectFromServer();
+    if (m_context != nullptr) {
+        pw_context_destroy(m_context);
+    }
+}
+
+void PipeWireConnection::addObserver(Observer* observer)
+{
+    m_observers.push_back(observer);
+    if (m_context == nullptr) {
+        connectToServer();
+    } else if (m_isListed || m_isDenied) {
+        observer->camerasChanged();
+    }
+}
+
+void PipeWireConnection::removeObserver(Observer* observer)
+{
+    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), observer),
+                      m_observers.end());
+}
+
+void PipeWireConnection::quit()
+{
+    pw_main_loop_quit(m_mainLoop);
+}
+
+void PipeWireConnection::connectToServer()
+{
+    if (m_context == nullptr) {
+        m_context = pw_context_new(m_loop, nullptr, 0);
+    }
+    if (m_context != nullptr) {
+        m_core = pw_context_connect(m_context, nullptr, 0);
+    }
+    if (m_core == nullptr) {
+        const int reason = errno;
+        const bool isDenied = reason == EACCES || reason == EPERM;
+        if (isDenied != m_isDenied) {
+            m_isDenied = isDenied;
+            qCInfo(CameraLog, "The camera server refuses the connection: %s", strerror(reason));
+            announce();
+        }
+        m_reconnectTimer.startOnce(ReconnectDelay);
+        return;
+    }
+    m_isDenied = false;
+    m_isRegistryRead = false;
+    pw_core_add_listener(m_core, &m_coreHook, &CoreEvents, this);
+    m_registry = pw_core_get_registry(m_core, PW_VERSION_REGISTRY, 0);
+    pw_registry_add_listener(m_registry, &m_registryHook, &RegistryEvents, this);
+    m_firstRoundTrip = pw_core_sync(m_core, PW_ID_CORE, 0);
+}
+
+void PipeWireConnection::disconnectFromServer()
+{
+    m_probes.clear();
+    if (m_registry != nullptr) {
+        spa_hook_remove(&m_registryHook);
+        pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
+        m_registry = nullptr;
+    }
+    if (m_core != nullptr) {
+        spa_hook_remove(&m_coreHook);
+        pw_core_disconnect(m_core);
+        m_core = nullptr;
+    }
+}
+
+void PipeWireConnection::onServerGone()
+{
+    qCInfo(CameraLog, "The camera server is gone");
+    for (Observer* observer : m_observers) {
+        observer->connectionLost();
+    }
+    disconnectFromServer();
+    m_cameras.clear();
+    m_isListed = false;
+    announce();
+    m_reconnectTimer.startOnce(ReconnectDelay);
+}
+
+void PipeWireConnection::onRoundTripDone(int sequence)
+{
+    if (sequence == m_firstRoundTrip) {
+        m_isRegistryRead = true;
+        listMayBeComplete();
+    }
+}
+
+void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* properties)
+{
+    if (properties == nullptr || strcmp(type, PW_TYPE_INTERFACE_Node) != 0) {
+        return;
+    }
+    const char* const mediaClass = spa_dict_lookup(properties, PW_KEY_MEDIA_CLASS);
+    if (mediaClass == nullptr || strcmp(mediaClass, "Video/Source") != 0) {
+        return;
+    }
+    m_probes[id] =
+        std::make_unique<NodeProbe>(m_registry, id, properties, [this, id] { onProbed(id); });
+}
+
+void PipeWireConnection::onGlobalRemoved(quint32 id)
+{
+    m_probes.erase(id);
+    if (m_cameras.remove(id)) {
+        announceSoon();
+    }
+    listMayBeComplete();
+}
+
+void PipeWireConnection::onProbed(quint32 id)
+{
+    const auto probe = m_probes.find(id);
+    if (m_cameras.add(id, probe->second->node())) {
+        announceSoon();
+    }
+    listMayBeComplete();
+}
+
+// The first list is told as a whole and at once; what comes later may come in bursts.
+void PipeWireConnection::listMayBeComplete()
+{
+    const bool isPending = std::any_of(m_probes.cbegin(), m_probes.cend(),
+                                       [](const auto& entry) { return !entry.second->isDone(); });
+    if (!m_isListed && m_isRegistryRead && !isPending) {
+        m_isListed = true;
+        announce();
+    }
+}
+
+void PipeWireConnection::announceSoon()
+{
+    if (m_isListed && !m_announceTimer.isActive()) {
+        m_announceTimer.startOnce(BurstWindow);
+    }
+}
+
+void PipeWireConnection::announce()
+{
+    m_announceTimer.stop();
+    for (Observer* observer : m_observers) {
+        observer->camerasChanged();
+    }
+}
+
+} // namespace Platform

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/pipewire/CameraList.h"
+#include "platform/devices/pipewire/LoopTimer.h"
+
+#include <map>
+#include <memory>
+#include <pipewire/pipewire.h>
+#include <vector>
+
+namespace Platform {
+
+class NodeProbe;
+
+// The connection to the camera server: the list of cameras, kept while the server goes and comes
+// back. On the camera thread only.
+class PipeWireConnection
+{
+public:
+    class Observer
+    {
+    public:
+        // The list changed; a burst of changes comes as one.
+        virtual void camerasChanged() = 0;
+        // The server is gone: everything made with core() must be destroyed now.
+        virtual void connectionLost() = 0;
+
+    protected:
+        ~Observer() = default;
+    };
+
+    explicit PipeWireConnection(pw_main_loop* mainLoop);
+    ~PipeWireConnection();
+    PipeWireConnection(const PipeWireConnection&) = delete;
+    PipeWireConnection& operator=(const PipeWireConnection&) = delete;
+
+    void addObserver(Observer* observer); // connects with the first one
+    void removeObserver(Observer* observer);
+    void quit(); // ends the thread's loop
+
+    pw_loop* loop() const { return m_loop; }
+    pw_core* core() const { return m_core; } // null while there is no server
+    const CameraList& cameras() const { return m_cameras; }
+    bool isListed() const { return m_isListed; } // what the server had at first is in the list
+    bool isDenied() const { return m_isDenied; } // the server refuses this program
+
+private:
+    void connectToServer();
+    void disconnectFromServer();
+    void onServerGone();
+    void onRoundTripDone(int sequence);
+    void onGlobal(quint32 id, const char* type, const spa_dict* properties);
+    void onGlobalRemoved(quint32 id);
+    void onProbed(quint32 id);
+    void listMayBeComplete();
+    void announceSoon();
+    void announce();
+
+    static const pw_core_events CoreEvents;
+    static const pw_registry_events RegistryEvents;
+
+    pw_main_loop* m_mainLoop;
+    pw_loop* m_loop;
+    pw_context* m_context = nullptr;
+    pw_core* m_core = nullptr;
+    pw_registry* m_registry = nullptr;
+    spa_hook m_coreHook{};
+    spa_hook m_registryHook{};
+    int m_firstRoundTrip = -1;
+    bool m_isRegistryRead = false;
+    bool m_isListed = false;
+    bool m_isDenied = false;
+    CameraList m_cameras;
+    std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // of the nodes not described yet
+    std::vector<Observer*> m_observers;
+    LoopTimer m_reconnectTimer;
+    LoopTimer m_lossTimer;
+    LoopTimer m_announceTimer;
+};
+
+} // namespace Platform

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/DeviceEngineConfig.h"
+#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+
+namespace Platform {
+
+std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config,
+                                                 ReportSink& report)
+{
+    return std::make_unique<PipeWireCameraSystem>(config.settingsFolder, report);
+}
+
+} // namespace Platform

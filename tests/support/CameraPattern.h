@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QColor>
+#include <QSize>
+#include <QString>
+
+namespace TestSupport {
+
+// The pictures of the virtual camera: one colour, a blue band at the left edge, a white bar that
+// moves. Written without the conversions that are under test.
+class CameraPattern
+{
+public:
+    enum Layout { Yuy2, Uyvy, Nv12, I420, Rgb, Bgr, Rgbx, Bgrx, Xrgb, Xbgr, Gray8, Mjpg };
+
+    static constexpr int NumberBits = 16; // of the picture's number, as blocks along the top
+
+    CameraPattern(Layout layout, const QSize& size, int rowPadding);
+
+    static bool layoutFromName(const QString& name, Layout& layout); // false: no such layout
+
+    Layout layout() const { return m_layout; }
+    QSize size() const { return m_size; }
+    int stride() const { return m_stride; }
+    int maxBytes() const;
+
+    void setSize(const QSize& size);
+    void setColour(const QColor& colour) { m_colour = colour; }
+    void setNumbered(bool on) { m_isNumbered = on; }
+
+    QByteArray picture(int number) const;
+
+private:
+    struct Yuv
+    {
+        uchar y, u, v;
+    };
+
+    static Yuv toYuv(QRgb colour);
+
+    QRgb pixel(int x, bool isTop, int number) const;
+    QByteArray row(int number, bool isTop) const;
+    QByteArray chromaRow(int number, bool isTop, bool isV) const;
+    QByteArray jpeg(int number) const;
+    bool isPlanar() const { return m_layout == Nv12 || m_layout == I420; }
+
+    Layout m_layout;
+    QSize m_size;
+    int m_rowPadding;
+    int m_stride = 0;
+    QColor m_colour = QColor(200, 40, 40);
+    bool m_isNumbered = false;
+};
+
+} // namespace TestSupport

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/PipeWireServer.h"
+
+#include "tests/support/TestProcess.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QtTest>
+#include <csignal>
+
+namespace TestSupport {
+
+namespace {
+
+constexpr int StartTimeoutMs = 10000;
+
+const QString Bus = QStringLiteral("dbus-daemon");
+const QString Server = QStringLiteral("pipewire");
+const QString Manager = QStringLiteral("wireplumber");
+
+// None of the machine's own devices.
+const char ManagerConfiguration[] = "alsa_monitor.enabled = false\n"
+                                    "v4l2_monitor.enabled = false\n"
+                                    "libcamera_monitor.enabled = false\n";
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    return QFileInfo(path).dir().mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+           file.write(content) == content.size();
+}
+
+QByteArray outputOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(StartTimeoutMs);
+    return process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
+}
+
+} // namespace
+
+PipeWireServer::PipeWireServer()
+    : m_runtime(m_folder.filePath(QStringLiteral("run"))),
+      m_before(QProcessEnvironment::systemEnvironment())
+{
+    QDir().mkpath(m_runtime);
+    QFile::setPermissions(m_runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    setEnvironment();
+}
+
+PipeWireServer::~PipeWireServer()
+{
+    stop();
+    const QStringList names = QProcessEnvironment::systemEnvironment().keys();
+    for (const QString& name : names) {
+        if (m_before.contains(name)) {
+            qputenv(name.toUtf8().constData(), m_before.value(name).toUtf8());
+        } else {
+            qunsetenv(name.toUtf8().constData());
+        }
+    }
+}
+
+bool PipeWireServer::start()
+{
+    m_problem.clear();
+    if (!writeConfiguration()) {
+        m_problem = QStringLiteral("can't write to ") + folder();
+        return false;
+    }
+    const QString bus = m_runtime + QStringLiteral("/bus");
+    return startProgram(Bus, {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                              QStringLiteral("--nopidfile"),
+                              QStringLiteral("--address=unix:path=") + bus}) &&
+           waitFor(Bus, [bus] { return QFileInfo::exists(bus); }) && startProgram(Server) &&
+           waitFor(Server, [this] { return isSocketThere(); }) && startProgram(Manager) &&
+           waitFor(Manager, [] {
+               return outputOf(QStringLiteral("wpctl"), {QStringLiteral("status")})
+                   .contains("WirePlumber [export]");
+           });
+}
+
+void PipeWireServer::stop()
+{
+    while (!m_programs.empty()) {
+        m_programs.back().process->end();
+        m_programs.pop_back();
+    }
+    // What a killed server leaves behind would pass for a living one.
+    const QStringList remains =
+        QDir(m_runtime).entryList(QDir::System | QDir::Files | QDir::Hidden);
+    for (const QString& name : remains) {
+        QFile::remove(QDir(m_runtime).filePath(name));
+    }
+}
+
+void PipeWireServer::kill()
+{
+    signal(Server, SIGKILL);
+    stop();
+}
+
+void PipeWireServer::freeze()
+{
+    signal(Server, SIGSTOP);
+}
+
+void PipeWireServer::thaw()
+{
+    signal(Server, SIGCONT);
+}
+
+void PipeWireServer::freezeManager()
+{
+    signal(Manager, SIGSTOP);
+}
+
+void PipeWireServer::thawManager()
+{
+    signal(Manager, SIGCONT);
+}
+
+bool PipeWireServer::isSocketThere() const
+{
+    return QFileInfo::exists(m_runtime + QStringLiteral("/pipewire-0"));
+}
+
+void PipeWireServer::setEnvironment()
+{
+    const auto set = [](const char* name, const QString& value) { qputenv(name, value.toUtf8()); };
+    set("XDG_RUNTIME_DIR", m_runtime);
+    set("PIPEWIRE_RUNTIME_DIR", m_runtime);
+    set("XDG_CONFIG_HOME", m_folder.filePath(QStringLiteral("config")));
+    set("XDG_STATE_HOME", m_folder.filePath(QStringLiteral("state")));
+    set("DBUS_SESSION_BUS_ADDRESS", QStringLiteral("unix:path=%1/bus").arg(m_runtime));
+    qunsetenv("PIPEWIRE_REMOTE");
+}
+
+bool PipeWireServer::writeConfiguration()
+{
+    return writeFile(
+        m_folder.filePath(QStringLiteral("config/wireplumber/main.lua.d/51-no-devices.lua")),
+        ManagerConfiguration);
+}
+
+bool PipeWireServer::startProgram(const QString& name, const QStringList& arguments)
+{
+    auto process = std::make_unique<TestProcess>();
+    process->start(name, arguments);
+    if (!process->waitForStarted(StartTimeoutMs)) {
+        m_problem = QStringLiteral("can't start %1: %2").arg(name, process->errorString());
+        return false;
+    }
+    m_programs.push_back({name, std::move(process)});
+    return true;
+}
+
+bool PipeWireServer::waitFor(const QString& what, const std::function<bool()>& isReady)
+{
+    if (QTest::qWaitFor(isReady, StartTimeoutMs)) {
+        return true;
+    }
+    m_problem = QStringLiteral("%1 isn't ready: %2")
+                    .arg(what, QString::fromUtf8(m_programs.back().process->readAll()));
+    return false;
+}
+
+void PipeWireServer::signal(const QString& name, int number) const
+{
+    for (const Program& program : m_programs) {
+        if (program.name == name) {
+            program.process->sendSignal(number);
+        }
+    }
+}
+
+} // namespace TestSupport

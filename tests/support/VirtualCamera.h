@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/support/CameraPattern.h"
+
+#include <QElapsedTimer>
+#include <pipewire/pipewire.h>
+#include <spa/pod/builder.h>
+
+namespace TestSupport {
+
+// A camera of a PipeWire server that isn't there. Commands come on the standard input, one a line:
+//   stall | resume | frozen | live | color RRGGBB | size WIDTHxHEIGHT | error TEXT | quit
+// The end of the input quits too.
+class VirtualCamera
+{
+public:
+    struct Options
+    {
+        QString name;
+        QString description;
+        QString role = QStringLiteral("Camera");
+        int rate = 30;
+        uint32_t transform = 0; // a SPA_META_TRANSFORMATION value
+        bool isStalled = false;
+        bool isDriverMemory = false; // buffers as a kernel driver hands them out
+        bool isTold = false;         // the time of every picture, on the standard output
+    };
+
+    VirtualCamera(const Options& options, const CameraPattern& pattern);
+    ~VirtualCamera();
+    VirtualCamera(const VirtualCamera&) = delete;
+    VirtualCamera& operator=(const VirtualCamera&) = delete;
+
+    int run(); // the exit code
+
+private:
+    bool connect();
+    const spa_pod* format(spa_pod_builder& builder, uint32_t parameter) const;
+    void onInput();
+    void obey(const QByteArray& line);
+    void onStateChanged(pw_stream_state state);
+    void onFormatChanged();
+    void onProcess();
+    void resize(const QSize& size);
+
+    static const pw_stream_events Events;
+
+    Options m_options;
+    CameraPattern m_pattern;
+    pw_main_loop* m_mainLoop = nullptr;
+    pw_stream* m_stream = nullptr;
+    spa_source* m_timer = nullptr;
+    QByteArray m_input;
+    int m_number = 0;
+    bool m_isFrozen = false;
+    int m_exitCode = 0;
+};
+
+} // namespace TestSupport

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/support/VirtualCamera.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <cstdio>
+
+using namespace TestSupport;
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    const auto option = [&parser](const char* name, const char* value, const char* fallback) {
+        parser.addOption({QLatin1String(name), QLatin1String(name), QLatin1String(value),
+                          QLatin1String(fallback)});
+    };
+    option("name", "name", "virtual_camera");
+    option("description", "text", "Virtual Camera");
+    option("role", "role", "Camera");
+    option("width", "pixels", "640");
+    option("height", "pixels", "480");
+    option("padding", "bytes", "0");
+    option("rate", "number", "30");
+    option("transform", "number", "0");
+    option("layout", "name", "YUY2");
+    option("color", "RRGGBB", "c82828");
+    for (const char* name : {"stalled", "driver-memory", "numbered", "told"}) {
+        parser.addOption({QLatin1String(name), QLatin1String(name)});
+    }
+    parser.process(application);
+    const auto text = [&parser](const char* name) { return parser.value(QLatin1String(name)); };
+    const auto number = [&text](const char* name) { return text(name).toInt(); };
+    const auto isSet = [&parser](const char* name) { return parser.isSet(QLatin1String(name)); };
+
+    CameraPattern::Layout layout = CameraPattern::Yuy2;
+    if (!CameraPattern::layoutFromName(text("layout"), layout)) {
+        std::fprintf(stderr, "virtual_camera: no such layout: %s\n", qPrintable(text("layout")));
+        return 2;
+    }
+    CameraPattern pattern(layout, QSize(number("width"), number("height")), number("padding"));
+    pattern.setColour(QColor(QLatin1Char('#') + text("color")));
+    pattern.setNumbered(isSet("numbered"));
+
+    VirtualCamera::Options options;
+    options.name = text("name");
+    options.description = text("description");
+    options.role = text("role");
+    options.rate = number("rate");
+    options.transform = static_cast<uint32_t>(number("transform"));
+    options.isStalled = isSet("stalled");
+    options.isDriverMemory = isSet("driver-memory");
+    options.isTold = isSet("told");
+    return VirtualCamera(options, pattern).run();
+}
