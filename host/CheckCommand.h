@@ -5,6 +5,14 @@
 #include "host/ExitCode.h"
 #include "host/Options.h"
 
+#include <memory>
+
+class Tour;
+
+namespace Platform {
+class Engine;
+}
+
 // The command without a name: opens the check, then says what came of it. GUI thread only.
 class CheckCommand
 {
@@ -14,5 +22,8 @@ public:
     ExitCode run(); // returns when the dialog is closed and all is written
 
 private:
+    std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null where none is wanted
+    ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
+
     const Options m_options;
 };

@@ -8,6 +8,7 @@ enum class ExitCode : int {
     SomeFailed = 1,
     LeftEarly = 2,
     PutOut = 3,       // the engine ended the session
+    TourProblems = 4, // the tour found texts that can't be read, or didn't get through
     WrongUsage = 64,  // an unknown option or a bad value
     BadInput = 65,    // a file that was named can't be used
     Unavailable = 69, // a display, port or server that is needed isn't there

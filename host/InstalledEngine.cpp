@@ -57,6 +57,8 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 
 InstalledEngine::~InstalledEngine()
 {
+    // Before the engine goes: the scripted one's settings stand in a folder that it removes.
+    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
     Platform::EngineRegistry::uninstall();
     Platform::FileWriter::waitForWritten(WriteTimeoutMs);
 }

@@ -11,7 +11,6 @@ namespace {
 
 const QLatin1String PlatformDevices("devices");
 const QLatin1String PlatformScripted("scripted");
-const QLatin1String DefaultScenario("all-well");
 constexpr int DefaultPort = 3478;
 constexpr int MaxPort = 65535;
 
@@ -239,7 +238,7 @@ private:
         if (platform == PlatformScripted || isSet("scenario")) {
             m_options.platform = Options::Platform::Scripted;
             if (m_options.scenario.isEmpty()) {
-                m_options.scenario = DefaultScenario;
+                m_options.scenario = QLatin1String(Options::DefaultScenario);
             }
             if (isSet("server")) {
                 fail(QStringLiteral("--server doesn't go with scripted devices: leave one out"));

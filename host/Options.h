@@ -8,6 +8,8 @@
 // What the command line asks for.
 struct Options
 {
+    static constexpr const char* DefaultScenario = "all-well"; // of the scripted devices
+
     enum class Command { Check, Devices, Network, Serve, Report, Version, Help };
     enum class Platform { Devices, Scripted };
     enum class Format { Text, Html, Json, Room };

@@ -97,7 +97,8 @@ void LumCamera::setOutputSize(const QSize& size)
 
 QImage LumCamera::latestPicture() const
 {
-    return m_bridge->backend().latestPicture();
+    // A picture that no longer moves would pass for a camera that works.
+    return workWell() ? m_bridge->backend().latestPicture() : QImage();
 }
 
 void LumCamera::setPreviewPixelRatio(qreal ratio)

@@ -2,7 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include <LumWidgets/LumMessageBox.h>
 
+#include <QAbstractButton>
 #include <QPointer>
+
+namespace {
+
+const QLatin1String BoxStyle("QMessageBox{background:#FFFFFF;dialogbuttonbox-buttons-have-icons:0;}"
+                             "QMessageBox QLabel{color:#232323;font-size:14px;}");
+const QLatin1String ButtonStyle(
+    "QPushButton{border:1px solid #D5D5D5;border-radius:4px;background:#FFFFFF;color:#232323;"
+    "font-size:14px;min-width:86px;min-height:28px;}"
+    "QPushButton:hover{background:#F7F7F7;}"
+    "QPushButton:default{border:none;background:#00835A;color:#FFFFFF;}"
+    "QPushButton:focus{border:1px solid #232323;}");
+
+} // namespace
 
 QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QString& title,
                                                     const QString& text,
@@ -12,6 +26,12 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
     // On the heap and watched: the parent may be destroyed while the box is open.
     const QPointer<QMessageBox> box =
         new QMessageBox(QMessageBox::Question, title, text, buttons, parent);
+    box->setStyleSheet(BoxStyle);
+    // One by one: below a parent with a sheet of its own, a rule of the box's doesn't reach them.
+    const QList<QAbstractButton*> all = box->buttons();
+    for (QAbstractButton* button : all) {
+        button->setStyleSheet(ButtonStyle);
+    }
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(defaultButton);
     box->exec();

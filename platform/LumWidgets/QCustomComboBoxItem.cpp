@@ -5,6 +5,8 @@
 namespace {
 
 constexpr int ItemHeight = 30;
+const QColor TextColor(0x23, 0x23, 0x23);
+const QColor CurrentColor(0xF0, 0xF0, 0xF0);
 
 } // namespace
 
@@ -25,4 +27,7 @@ void QCustomComboBoxItem::initStyleOption(QStyleOptionViewItem* option,
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->textElideMode = Qt::ElideMiddle;
+    option->palette.setColor(QPalette::Text, TextColor);
+    option->palette.setColor(QPalette::HighlightedText, TextColor);
+    option->palette.setColor(QPalette::Highlight, CurrentColor);
 }
