@@ -6,7 +6,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCursor>
 #include <QDialog>
 #include <QMessageBox>
 
@@ -40,8 +39,6 @@ Tour::~Tour() = default;
 
 void Tour::start()
 {
-    // A balloon that opens under the pointer would close when it leaves.
-    QCursor::setPos(0, 0);
     m_timer.start(TickMs);
 }
 
@@ -80,10 +77,11 @@ void Tour::step()
         return;
     }
     if (isLate) {
-        m_problems << QStringLiteral("%1 (stop %2): did not become ready in %3 s")
+        m_problems << QStringLiteral("%1 (stop %2): did not become ready in %3 s, %4 windows")
                           .arg(stop.name)
                           .arg(m_next + 1)
-                          .arg(StopDeadlineMs / 1000);
+                          .arg(StopDeadlineMs / 1000)
+                          .arg(view.windows().size());
     }
     if (!stop.name.isEmpty()) {
         takePicture(view, stop);

@@ -6,12 +6,14 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCursor>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMap>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
 
 using Platform::DeviceState;
@@ -26,6 +28,7 @@ using Ready = std::function<bool(const DialogView&)>;
 using Stops = std::vector<TourStop>;
 
 constexpr int LitPercent = 30;
+constexpr int PointerMs = 150; // until the pointer's move has arrived
 
 void nothing(const DialogView&)
 {
@@ -63,7 +66,9 @@ void pressTips(const DialogView& view, const QString& text)
     const QList<QPushButton*> buttons = view.dialog()->findChildren<QPushButton*>();
     for (QPushButton* button : buttons) {
         if (button->isVisible() && button->text() == QLatin1Char(' ') + text) {
-            QMetaObject::invokeMethod(button, &QAbstractButton::click, Qt::QueuedConnection);
+            // As a visitor does, the pointer first: the balloon closes when the pointer leaves it.
+            QCursor::setPos(button->mapToGlobal(button->rect().center()));
+            QTimer::singleShot(PointerMs, button, &QAbstractButton::click);
         }
     }
 }
