@@ -3,10 +3,17 @@
 #pragma once
 
 #include <QDir>
+#include <QFile>
 
-// The threads of this process, as the kernel counts them.
-inline int threadCount()
+// The threads of this process with that name, as the kernel counts them.
+inline int threadCount(const char* name)
 {
+    int count = 0;
     const QDir tasks(QStringLiteral("/proc/self/task"));
-    return int(tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
+    const QStringList ids = tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& id : ids) {
+        QFile file(tasks.filePath(id + QStringLiteral("/comm")));
+        count += file.open(QIODevice::ReadOnly) && file.readAll().trimmed() == name ? 1 : 0;
+    }
+    return count;
 }

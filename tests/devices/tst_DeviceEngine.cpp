@@ -53,10 +53,9 @@ void tst_DeviceEngine::builtInResponder()
     DeviceEngine engine(config);
     QCOMPARE(engine.settingsFolder(), folder.path());
     QCOMPARE(engine.systemFacts().serverName(), config.builtInResponderText);
-    const int before = threadCount();
     prepare(engine);
     QCOMPARE(engine.systemFacts().clientAddress(), QStringLiteral("127.0.0.1"));
-    QTRY_COMPARE(threadCount(), before); // the responder went with the question
+    QTRY_COMPARE(threadCount("StunResponder"), 0); // it went with the question
 
     Listener listener;
     std::unique_ptr<NetworkProbe> probe = engine.createNetworkProbe(listener);
@@ -64,13 +63,15 @@ void tst_DeviceEngine::builtInResponder()
     QVERIFY(probe->figures().delayMs >= 0 && probe->figures().delayMs <= 5);
     QVERIFY(probe->figures().answered > 10);
     std::unique_ptr<NetworkProbe> second = engine.createNetworkProbe(listener);
-    QTRY_COMPARE(threadCount(), before + 3); // two probes of one responder
+    QTRY_COMPARE(threadCount("StunProbe"), 2);
+    QCOMPARE(threadCount("StunResponder"), 1);
     QElapsedTimer clock;
     clock.start();
     probe.reset();
     second.reset();
     QVERIFY(clock.elapsed() < 100);
-    QTRY_COMPARE(threadCount(), before);
+    QTRY_COMPARE(threadCount("StunProbe"), 0);
+    QTRY_COMPARE(threadCount("StunResponder"), 0);
 }
 
 void tst_DeviceEngine::usualWordsForTheResponder()

@@ -38,9 +38,12 @@ private Q_SLOTS:
     void answerCountsOnce();
     void flood();
     void idsAreRandom();
+    void longSilenceEnds();
 
 private:
     CoturnServer m_coturn;
+    std::unique_ptr<ImpairedPath> m_cutPath; // from the first test on
+    std::unique_ptr<Measurement> m_cutOff;
 };
 
 namespace {
@@ -58,11 +61,15 @@ constexpr int EndsWithinMs = 50;
 void tst_StunProbe::initTestCase()
 {
     QVERIFY2(m_coturn.start(), "turnserver (package coturn) doesn't start");
+    m_cutPath = std::make_unique<ImpairedPath>(m_coturn.server());
+    m_cutPath->setLossPercent(100);
+    m_cutOff = std::make_unique<Measurement>(m_cutPath->server());
+    QTRY_COMPARE(m_cutOff->verdicts(), 1);
 }
 
 void tst_StunProbe::endsAtOnceAndLeavesNoThread()
 {
-    const int before = threadCount();
+    constexpr int CutOff = 1; // the one that runs all the time
     for (int count = 0; count < 20; ++count) {
         Measurement fresh(m_coturn.server());
         const qint64 took = fresh.end();
@@ -70,9 +77,9 @@ void tst_StunProbe::endsAtOnceAndLeavesNoThread()
     }
     Measurement running(m_coturn.server());
     QTRY_COMPARE(running.verdicts(), 1);
-    QTRY_COMPARE(threadCount(), before + 1);
+    QTRY_COMPARE(threadCount("StunProbe"), CutOff + 1);
     QVERIFY(running.end() < EndsWithinMs);
-    QTRY_COMPARE(threadCount(), before);
+    QTRY_COMPARE(threadCount("StunProbe"), CutOff);
     QTest::qWait(1200); // for a verdict that must not come
     QCOMPARE(running.verdicts(), 1);
 
@@ -316,6 +323,17 @@ void tst_StunProbe::idsAreRandom()
         }
         QVERIFY2(values.size() > Count / 2, qPrintable(QString::number(byte)));
     }
+}
+
+// More probes than can be open at once stay unanswered before the way opens.
+void tst_StunProbe::longSilenceEnds()
+{
+    constexpr int SilentVerdicts = 22;
+    QTRY_VERIFY_WITH_TIMEOUT(m_cutOff->verdicts() >= SilentVerdicts, 2 * SilentVerdicts * 1000);
+    QCOMPARE(m_cutOff->figures().lossPercent, 100);
+    m_cutPath->setLossPercent(0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_cutOff->figures().lossPercent, 0, SettledWithinMs);
+    QVERIFY(m_cutOff->figures().delayMs >= 0);
 }
 
 QTEST_GUILESS_MAIN(tst_StunProbe)

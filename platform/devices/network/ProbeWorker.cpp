@@ -104,17 +104,17 @@ void ProbeWorker::openNext()
     if (m_addresses.isEmpty()) {
         return;
     }
-    m_address = m_addresses.takeFirst();
+    const QHostAddress address = m_addresses.takeFirst();
     m_socket = std::make_unique<QUdpSocket>();
     m_socket->setProxy(QNetworkProxy::NoProxy);
     connect(m_socket.get(), &QUdpSocket::readyRead, this, &ProbeWorker::readDatagrams);
-    // Connected, so that the kernel keeps other senders' datagrams out of the queue.
-    m_socket->connectToHost(m_address, m_server.port);
+    // Connected, so that the kernel drops what comes from another address or port, even a flood.
+    m_socket->connectToHost(address, m_server.port);
     m_lastSign = now();
     m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
         qCDebug(probeLog).noquote()
-            << "No way to" << m_address.toString() << "-" << m_socket->errorString();
+            << "No way to" << address.toString() << "-" << m_socket->errorString();
         m_socket.reset();
     }
 }
@@ -130,8 +130,8 @@ void ProbeWorker::lookUp()
         m_addresses = {literal};
         return;
     }
-    m_lookup = QHostInfo::lookupHost(m_server.host, this,
-                                     [this](const QHostInfo& info) { takeAddresses(info); });
+    // By name: what a function object is kept in would leak with a lookup that is called off.
+    m_lookup = QHostInfo::lookupHost(m_server.host, this, SLOT(takeAddresses(QHostInfo)));
 }
 
 void ProbeWorker::takeAddresses(const QHostInfo& info)
@@ -185,19 +185,14 @@ void ProbeWorker::readDatagrams()
             m_isRefused |= m_socket->error() == QAbstractSocket::ConnectionRefusedError;
             return;
         }
-        take(datagram);
+        take(datagram.data());
     }
 }
 
-void ProbeWorker::take(const QNetworkDatagram& datagram)
+void ProbeWorker::take(const QByteArray& datagram)
 {
     const ProbeWindow::Time arrivedAt = now();
-    QHostAddress sender = datagram.senderAddress();
-    sender.setScopeId(m_address.scopeId()); // told as a name or as a number
-    if (sender != m_address || datagram.senderPort() != m_server.port) {
-        return;
-    }
-    const std::optional<StunClient::Answer> answer = m_client.readAnswer(datagram.data());
+    const std::optional<StunClient::Answer> answer = m_client.readAnswer(datagram);
     if (!answer) {
         return;
     }

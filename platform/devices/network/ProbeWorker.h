@@ -13,7 +13,6 @@
 #include <functional>
 
 class QHostInfo;
-class QNetworkDatagram;
 class QUdpSocket;
 
 namespace Platform {
@@ -42,6 +41,9 @@ public:
 protected:
     void timerEvent(QTimerEvent* event) override;
 
+private Q_SLOTS:
+    void takeAddresses(const QHostInfo& info);
+
 private:
     struct OpenProbe
     {
@@ -54,13 +56,12 @@ private:
     void tick();
     void forgetOverdue();
     void lookUp();
-    void takeAddresses(const QHostInfo& info);
     void openNext();
     void closeWhereUseless();
     void sendProbe();
     bool write(const QByteArray& datagram);
     void readDatagrams();
-    void take(const QNetworkDatagram& datagram);
+    void take(const QByteArray& datagram);
 
     const StunServer m_server;
     const Reports m_reports;
@@ -70,7 +71,6 @@ private:
     int m_lookup = -1; // the one under way
     ProbeWindow::Time m_nextLookup{0};
     QList<QHostAddress> m_addresses; // not tried yet
-    QHostAddress m_address;          // the one being asked
     std::unique_ptr<QUdpSocket> m_socket;
     ProbeWindow::Time m_lastSign{0}; // of life: an answer, or the socket's opening
     bool m_isRefused = false;
