@@ -27,6 +27,7 @@ constexpr int CountdownIntervalMs = 1000;
 constexpr int CountdownStart = 5;
 constexpr int HandIntervalMs = 300;
 constexpr int InitialVolume = 100;
+constexpr int RecordFontPixels = 12;
 constexpr int NoisyAbovePercent = 100;
 constexpr double FullLevel = 1.0;
 constexpr double MaxSystemVolumePercent = 1000.0;
@@ -74,6 +75,9 @@ MicrophonePage::MicrophonePage(QWidget* parent)
 
     ui->Btn_Record->setFocusPolicy(Qt::NoFocus);
     ui->label_Record->setText(qtTrId("ID_Record"));
+    QFont recordFont = ui->label_Record->font();
+    recordFont.setPixelSize(RecordFontPixels); // the frame's own is too high for the label
+    ui->label_Record->setFont(recordFont);
     m_handLabel = DeviceChecks::createHand(ui->Frame_Record);
     m_handTimerId = startTimer(HandIntervalMs, Qt::CoarseTimer);
     connect(ui->Btn_Record, &QPushButton::clicked, this, &MicrophonePage::on_recordButton_clicked);

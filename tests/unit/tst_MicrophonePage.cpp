@@ -1119,6 +1119,7 @@ void tst_MicrophonePage::formDetails()
     QCOMPARE(m_record->focusPolicy(), Qt::NoFocus);
     QVERIFY(m_record->styleSheet().contains("border-image: url(:/Kestrel/Images/MicN.svg)"));
     QVERIFY(m_record->styleSheet().contains("border-image: url(:/Kestrel/Images/MinS.svg)"));
+    QCOMPARE(m_recordLabel->font().pixelSize(), 12); // whatever the frame's font is
     const auto* volumeRow = m_page->findChild<QHBoxLayout*>("micVolumeLayout");
     QCOMPARE(volumeRow->spacing(), 0);
     QCOMPARE(volumeRow->contentsMargins(), QMargins(25, 0, 0, 0));
