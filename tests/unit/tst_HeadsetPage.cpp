@@ -4,9 +4,9 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
-#include "tests/support/DeviceComboChecks.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
+#include "tests/support/SoundPageTools.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/CycleButton.h"
 #include "widgets/TipsWidget.h"
@@ -22,8 +22,8 @@
 
 #include <array>
 
-using DeviceComboChecks::entries;
 using Platform::DeviceState;
+using SoundPageTools::entries;
 
 namespace {
 
@@ -39,17 +39,6 @@ const QStringList SoundNames{"Piano",   "Seagull", "Thunder", "Doorbell",
 const QString NamePrefix = "ID_HeadsetPage_";
 constexpr int HandIntervalMs = 300;
 constexpr int LongSoundMs = 60 * 1000;
-
-QVector<int> handTimers(QObject* page)
-{
-    QVector<int> ids;
-    for (const auto& timer : timersOf(page)) {
-        if (timer.interval == HandIntervalMs && timer.timerType == Qt::CoarseTimer) {
-            ids.append(timer.timerId);
-        }
-    }
-    return ids;
-}
 
 void addAllOutcomes()
 {
@@ -330,11 +319,7 @@ void tst_HeadsetPage::checkVerdictButtons(bool canHear, bool cantListen)
 
 QLabel* tst_HeadsetPage::hand()
 {
-    const auto labels = childOf<QFrame>(*m_page, "playArea")->findChildren<QLabel*>();
-    const auto found = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
-        return label->objectName().isEmpty();
-    });
-    return found == labels.end() ? nullptr : *found;
+    return SoundPageTools::handOn(*m_page, "playArea");
 }
 
 void tst_HeadsetPage::constructionCallsInOrder_data()
@@ -405,7 +390,7 @@ void tst_HeadsetPage::tipsStandBeforeTheLastItem()
 void tst_HeadsetPage::comboBoxSetup()
 {
     makeShownPage();
-    DeviceComboChecks::isSetUp(m_combo, m_page.get());
+    SoundPageTools::isSetUp(m_combo, m_page.get());
 }
 
 void tst_HeadsetPage::wheelAndArrowsChooseNothing()
@@ -413,7 +398,7 @@ void tst_HeadsetPage::wheelAndArrowsChooseNothing()
     m_engine->scriptedSpeakers().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage();
     m_engine->clearCalls();
-    DeviceComboChecks::ignoresWheelAndArrows(m_combo);
+    SoundPageTools::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
@@ -932,33 +917,23 @@ void tst_HeadsetPage::handPulsesUntilTheFirstPlay()
 {
     plug(Speaker::Works);
     makePage();
-    QCOMPARE(hand()->size(), QSize(38, 48));
-    QVERIFY(hand()->testAttribute(Qt::WA_TransparentForMouseEvents));
-    QCOMPARE(hand()->styleSheet(), QString("background:transparent;border: none;"));
-    QCOMPARE(handTimers(m_page.get()).size(), 1);
-    const int ofConstructor = handTimers(m_page.get()).first();
+    SoundPageTools::looksLikeAHand(hand());
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 1);
+    const int ofConstructor = coarseTimers(m_page.get(), HandIntervalMs).first();
 
     m_page->show();
-    QVector<int> timers = handTimers(m_page.get());
+    QVector<int> timers = coarseTimers(m_page.get(), HandIntervalMs);
     QCOMPARE(timers.size(), 2);
     timers.removeOne(ofConstructor);
     const int ofShow = timers.first();
     tick(m_page.get(), ofConstructor); // no longer counts
     QVERIFY(hand()->pixmap(Qt::ReturnByValue).isNull());
-    QSet<QPair<int, int>> sizes;
-    QSize last;
-    for (int i = 0; i < 4; ++i) {
-        tick(m_page.get(), ofShow);
-        const QSize size = hand()->pixmap(Qt::ReturnByValue).size();
-        QVERIFY(size != last);
-        last = size;
-        sizes.insert({size.width(), size.height()});
-    }
-    QCOMPARE(sizes, (QSet<QPair<int, int>>{{31, 38}, {38, 48}}));
+    SoundPageTools::pulses(m_page.get(), ofShow, hand());
+    const QSize last = hand()->pixmap(Qt::ReturnByValue).size();
 
     play();
     QVERIFY(!hand()->isVisible());
-    QCOMPARE(handTimers(m_page.get()), QVector<int>{ofConstructor});
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs), QVector<int>{ofConstructor});
     tick(m_page.get(), ofShow); // a late one
     QCOMPARE(hand()->pixmap(Qt::ReturnByValue).size(), last);
     finish();
@@ -970,9 +945,9 @@ void tst_HeadsetPage::handComesBackWithTheNextShow()
     makeShownPage();
     play();
     m_page->hide();
-    QCOMPARE(handTimers(m_page.get()).size(), 1);
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 1);
     m_page->show();
-    QCOMPARE(handTimers(m_page.get()).size(), 2);
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 2);
     QVERIFY(hand()->isVisible());
 }
 
@@ -981,7 +956,7 @@ void tst_HeadsetPage::handIsTheProcesss()
 {
     makePage();
     const auto tickAndLook = [this] {
-        tick(m_page.get(), handTimers(m_page.get()).first());
+        tick(m_page.get(), coarseTimers(m_page.get(), HandIntervalMs).first());
         return hand()->pixmap(Qt::ReturnByValue).size();
     };
     const QSize first = tickAndLook();
@@ -1134,12 +1109,7 @@ void tst_HeadsetPage::formStyleSheets_data()
     QTest::newRow("Btn_CanHear") << button;
     QTest::newRow("Btn_CantListen") << button;
     QTest::newRow("playArea") << "QFrame{\nborder-radius:6px;\nborder: 1px solid #EBEBEB\n}";
-    QTest::newRow("cb_ad_output_name")
-        << "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
-           "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
-           "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
-           "5px;\n}\nQComboBox::down-arrow{\n    image: "
-           "url(:/Kestrel/Images/drop_down.png);\n}\n";
+    QTest::newRow("cb_ad_output_name") << SoundPageTools::ComboStyle;
 }
 
 void tst_HeadsetPage::formStyleSheets()

@@ -4,9 +4,9 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
-#include "tests/support/DeviceComboChecks.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
+#include "tests/support/SoundPageTools.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/TipsWidget.h"
 #include "widgets/Volume.h"
@@ -21,11 +21,10 @@
 #include <QStackedWidget>
 #include <QtTest>
 
-#include <algorithm>
 #include <limits>
 
-using DeviceComboChecks::entries;
 using Platform::DeviceState;
+using SoundPageTools::entries;
 
 namespace {
 
@@ -55,26 +54,6 @@ void addMicsAndAnswers()
             QTest::addRow("%s, %s", micName, answerName) << mic << answer;
         }
     }
-}
-
-QVector<int> timerIds(QObject* object, int interval)
-{
-    QVector<int> ids;
-    for (const auto& timer : timersOf(object)) {
-        if (timer.interval == interval && timer.timerType == Qt::CoarseTimer) {
-            ids.append(timer.timerId);
-        }
-    }
-    return ids;
-}
-
-QLabel* handOf(const QWidget& page)
-{
-    const auto labels = childOf<QFrame>(page, "Frame_Record")->findChildren<QLabel*>();
-    const auto hand = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
-        return label->objectName().isEmpty();
-    });
-    return hand == labels.end() ? nullptr : *hand;
 }
 
 } // namespace
@@ -168,7 +147,7 @@ private:
     void turn();
     void answer(Answer answer);
     void runCountdown(int ticks);
-    int countdownTimer() { return timerIds(m_page.get(), CountdownIntervalMs).value(0); }
+    int countdownTimer() { return coarseTimers(m_page.get(), CountdownIntervalMs).value(0); }
     int sliderValue() { return m_page->findChild<QSlider*>()->value(); }
     QString volumeText();
     LumToolTip* noisyBalloon() { return m_page->findChild<LumToolTip*>(); }
@@ -331,7 +310,7 @@ void tst_MicrophonePage::tipsStandBeforeTheLastItem()
 void tst_MicrophonePage::comboBoxSetup()
 {
     makeShownPage(Mic::Works);
-    DeviceComboChecks::isSetUp(m_combo, m_page.get());
+    SoundPageTools::isSetUp(m_combo, m_page.get());
 }
 
 void tst_MicrophonePage::wheelAndArrowsChooseNothing()
@@ -339,7 +318,7 @@ void tst_MicrophonePage::wheelAndArrowsChooseNothing()
     m_engine->microphones().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage(Mic::Works);
     m_engine->clearCalls();
-    DeviceComboChecks::ignoresWheelAndArrows(m_combo);
+    SoundPageTools::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
@@ -781,7 +760,7 @@ void tst_MicrophonePage::countdown()
     QVERIFY(!m_yes->isEnabled());
     QVERIFY(!m_no->isEnabled());
     QCOMPARE(m_recordLabel->text(), QString("ID_MicrophonePage_Recording"));
-    QCOMPARE(timerIds(m_page.get(), CountdownIntervalMs).size(), 1);
+    QCOMPARE(coarseTimers(m_page.get(), CountdownIntervalMs).size(), 1);
     const int timer = countdownTimer();
     m_engine->microphones().emitLevel(0.7);
     turn();
@@ -793,7 +772,7 @@ void tst_MicrophonePage::countdown()
     tick(m_page.get(), timer);
     QCOMPARE(m_recordLabel->text(), QString("ID_MicrophonePage_Again"));
     QVERIFY(m_record->isEnabled() && m_yes->isEnabled() && m_no->isEnabled());
-    QVERIFY(timerIds(m_page.get(), CountdownIntervalMs).isEmpty());
+    QVERIFY(coarseTimers(m_page.get(), CountdownIntervalMs).isEmpty());
     auto* bars = childOf<QWidget>(*m_page, "w_intensity")->layout();
     QCOMPARE(qobject_cast<QProgressBar*>(bars->itemAt(1)->widget())->value(), 0);
     QCOMPARE(m_engine->commands(), QStringList()); // nothing is recorded
@@ -819,9 +798,9 @@ void tst_MicrophonePage::doubleClickStartsOneCountdown()
     makeShownPage(Mic::Works);
     QTest::mouseClick(m_record, Qt::LeftButton);
     QTest::mouseDClick(m_record, Qt::LeftButton);
-    QCOMPARE(timerIds(m_page.get(), CountdownIntervalMs).size(), 1);
+    QCOMPARE(coarseTimers(m_page.get(), CountdownIntervalMs).size(), 1);
     QVERIFY(QMetaObject::invokeMethod(m_page.get(), "on_recordButton_clicked"));
-    QCOMPARE(timerIds(m_page.get(), CountdownIntervalMs).size(), 1);
+    QCOMPARE(coarseTimers(m_page.get(), CountdownIntervalMs).size(), 1);
 }
 
 void tst_MicrophonePage::foreignTicksChangeNothing()
@@ -838,7 +817,7 @@ void tst_MicrophonePage::hidingEndsTheCountdown()
     QTest::mouseClick(m_record, Qt::LeftButton);
     runCountdown(2);
     m_page->hide();
-    QVERIFY(timerIds(m_page.get(), CountdownIntervalMs).isEmpty());
+    QVERIFY(coarseTimers(m_page.get(), CountdownIntervalMs).isEmpty());
     QCOMPARE(m_recordLabel->text(), QString("ID_Record"));
     QVERIFY(m_record->isEnabled());
     QVERIFY(!m_yes->isEnabled() && !m_no->isEnabled());
@@ -869,25 +848,14 @@ void tst_MicrophonePage::hidingWithoutCountdownKeepsTheAnswers()
 void tst_MicrophonePage::handPulses()
 {
     makePage();
-    const auto* hand = handOf(*m_page);
-    QCOMPARE(hand->size(), QSize(38, 48));
-    QVERIFY(hand->testAttribute(Qt::WA_TransparentForMouseEvents));
-    QCOMPARE(hand->styleSheet(), QString("background:transparent;border: none;"));
-    QCOMPARE(timerIds(m_page.get(), HandIntervalMs).size(), 1);
-    const int timer = timerIds(m_page.get(), HandIntervalMs).first();
-    QSet<QPair<int, int>> sizes;
-    QSize last;
-    for (int i = 0; i < 4; ++i) {
-        tick(m_page.get(), timer);
-        const QSize size = hand->pixmap(Qt::ReturnByValue).size();
-        QVERIFY(size != last);
-        last = size;
-        sizes.insert({size.width(), size.height()});
-    }
-    QCOMPARE(sizes, (QSet<QPair<int, int>>{{31, 38}, {38, 48}}));
+    const auto* hand = SoundPageTools::handOn(*m_page, "Frame_Record");
+    SoundPageTools::looksLikeAHand(hand);
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 1);
+    const int timer = coarseTimers(m_page.get(), HandIntervalMs).first();
+    SoundPageTools::pulses(m_page.get(), timer, hand);
     m_page->show();
     m_page->hide();
-    QCOMPARE(timerIds(m_page.get(), HandIntervalMs), QVector<int>{timer}); // for its whole life
+    QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs), QVector<int>{timer}); // for its whole life
 }
 
 // Which picture comes next doesn't belong to the page.
@@ -896,8 +864,8 @@ void tst_MicrophonePage::handIsTheProcesss()
     makePage();
     MicrophonePage other;
     const auto tickAndLook = [](MicrophonePage* page) {
-        tick(page, timerIds(page, HandIntervalMs).first());
-        const auto* hand = handOf(*page);
+        tick(page, coarseTimers(page, HandIntervalMs).first());
+        const auto* hand = SoundPageTools::handOn(*page, "Frame_Record");
         return hand->pixmap(Qt::ReturnByValue).size();
     };
     const QSize first = tickAndLook(m_page.get());
@@ -909,7 +877,7 @@ void tst_MicrophonePage::handPlace()
 {
     makeShownPage(Mic::Works);
     const auto* frame = childOf<QFrame>(*m_page, "Frame_Record");
-    const auto* hand = handOf(*m_page);
+    const auto* hand = SoundPageTools::handOn(*m_page, "Frame_Record");
     QCOMPARE(hand->pos(), m_record->geometry().center() + QPoint(10, 0));
     QVERIFY(hand->isVisible());
     QCOMPARE(frame->children().last(), hand); // on top
@@ -1093,12 +1061,7 @@ void tst_MicrophonePage::formStyleSheets_data()
     QTest::newRow("frame") << "background-color: rgb(242, 242, 242);";
     QTest::newRow("lb_NoMic") << "image: url(:/Kestrel/Images/no_mic.svg);";
     QTest::newRow("label_select_mic") << "  font-size: 12px;\n  color: rgb( 13, 13, 13 );";
-    QTest::newRow("cb_ad_input_name")
-        << "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
-           "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
-           "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
-           "5px;\n}\nQComboBox::down-arrow{\n    image: "
-           "url(:/Kestrel/Images/drop_down.png);\n}\n";
+    QTest::newRow("cb_ad_input_name") << SoundPageTools::ComboStyle;
 }
 
 void tst_MicrophonePage::formStyleSheets()

@@ -2,15 +2,60 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/PageTools.h"
+#include "tests/support/TimerTools.h"
+
 #include <LumWidgets/QCustomComboBox.h>
 #include <LumWidgets/QCustomComboBoxItem.h>
 
 #include <QAbstractItemView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
 
-// What holds for the device boxes of the sound pages.
-namespace DeviceComboChecks {
+// What the pages of the microphone and of the speaker have in common.
+namespace SoundPageTools {
+
+const QString ComboStyle =
+    "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
+    "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
+    "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
+    "5px;\n}\nQComboBox::down-arrow{\n    image: "
+    "url(:/Kestrel/Images/drop_down.png);\n}\n";
+
+// The hand has no name of its own.
+inline QLabel* handOn(const QWidget& page, const char* frame)
+{
+    const auto labels = childOf<QFrame>(page, frame)->findChildren<QLabel*>(QString());
+    for (QLabel* label : labels) {
+        if (label->objectName().isEmpty()) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+inline void looksLikeAHand(const QLabel* hand)
+{
+    QCOMPARE(hand->size(), QSize(38, 48));
+    QVERIFY(hand->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QCOMPARE(hand->styleSheet(), QString("background:transparent;border: none;"));
+}
+
+// Four ticks of its timer show its two pictures in turn.
+inline void pulses(QWidget* page, int timerId, const QLabel* hand)
+{
+    QSet<QPair<int, int>> sizes;
+    QSize last;
+    for (int i = 0; i < 4; ++i) {
+        tick(page, timerId);
+        const QSize size = hand->pixmap(Qt::ReturnByValue).size();
+        QVERIFY(size != last);
+        last = size;
+        sizes.insert({size.width(), size.height()});
+    }
+    QCOMPARE(sizes, (QSet<QPair<int, int>>{{31, 38}, {38, 48}}));
+}
 
 inline void isSetUp(QCustomComboBox* combo, const QWidget* page)
 {
@@ -54,4 +99,4 @@ inline QStringList entries(const QComboBox& combo)
     return result;
 }
 
-} // namespace DeviceComboChecks
+} // namespace SoundPageTools
