@@ -4,15 +4,22 @@
 
 #include "host/CheckRun.h"
 #include "host/Console.h"
+#include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
 #include "host/RunOutcome.h"
-
+#include "host/report/Redaction.h"
+#include "host/report/ReportBuilder.h"
+#include "host/report/ReportFile.h"
+#include "host/report/ReportWriter.h"
+#include "host/report/RunHistory.h"
 #include "host/tour/Tour.h"
+#include "platform/backend/Engine.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <QDir>
-#include <QStandardPaths>
+#include <QFileInfo>
+#include <QJsonDocument>
 
 CheckCommand::CheckCommand(const Options& options) : m_options(options)
 {
@@ -26,24 +33,96 @@ ExitCode CheckCommand::run()
         Console::printError(languageProblem);
         return m_options.language.isEmpty() ? ExitCode::Unavailable : ExitCode::WrongUsage;
     }
-    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    InstalledEngine installed(m_options, dataFolder);
+    if (!prepareFiles() || !prepareRedaction()) {
+        return ExitCode::CannotWrite;
+    }
+    return open(languages.current());
+}
+
+// A file that was named is tried before the user spends time on the check. The default place is
+// not: a run without a report is better than none.
+bool CheckCommand::prepareFiles()
+{
+    for (const QString& file : {m_options.resultsFile, m_options.reportFile}) {
+        const QString problem = file.isEmpty() ? QString() : ReportFile::problemOfWriting(file);
+        if (!problem.isEmpty()) {
+            Console::printError(problem);
+            return false;
+        }
+    }
+    m_reportFile = m_options.reportFile;
+    if (m_reportFile.isEmpty()) {
+        const QString name =
+            QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss"));
+        m_reportFile = QStringLiteral("%1/%2.json").arg(Folders::reports(), name);
+        QDir().mkpath(Folders::reports());
+    }
+    return true;
+}
+
+bool CheckCommand::prepareRedaction()
+{
+    if (m_options.redaction != Options::Redaction::Hash) {
+        return true;
+    }
+    QString problem;
+    m_redactionKey = ReportFile::redactionKey(Folders::redactionKey(), &problem);
+    if (m_redactionKey.isEmpty()) {
+        Console::printError(problem);
+    }
+    return !m_redactionKey.isEmpty();
+}
+
+ExitCode CheckCommand::open(const QString& language)
+{
+    InstalledEngine installed(m_options, Folders::data());
     if (!installed.error().isEmpty()) {
         Console::printError(installed.error());
         return installed.errorCode();
     }
-    if (!m_options.tourFolder.isEmpty() && !QDir().mkpath(m_options.tourFolder)) {
-        Console::printError(QStringLiteral("--tour %1: this folder can't be made; name another one")
-                                .arg(m_options.tourFolder));
-        return ExitCode::CannotWrite;
-    }
+    const bool isScripted = m_options.platform == Options::Platform::Scripted;
+    ReportBuilder::Run facts{QDateTime::currentDateTime(),
+                             {},
+                             language,
+                             isScripted ? QStringLiteral("scripted") : QStringLiteral("devices"),
+                             QFileInfo(m_options.scenario).completeBaseName()};
     installed.prepare();
-    std::unique_ptr<Tour> tour = startTour(installed.engine());
     CheckRun run;
     run.exec();
-    const RunOutcome outcome = RunOutcome::fromDocument(installed.results(), run.wasPutOut());
+    facts.finished = QDateTime::currentDateTime();
+    const QJsonObject results = installed.results();
+    const RunOutcome outcome = RunOutcome::fromDocument(results, run.wasPutOut());
     Console::print(outcome.toText());
-    return tour ? endTour(*tour, languages.current(), outcome.exitCode) : outcome.exitCode;
+
+    bool isWritten =
+        write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
+    if (!m_options.resultsFile.isEmpty()) {
+        const QString problem =
+            ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
+        if (!problem.isEmpty()) {
+            Console::printError(problem);
+            isWritten = false;
+        }
+    }
+    return isWritten ? outcome.exitCode : ExitCode::CannotWrite;
+}
+
+bool CheckCommand::write(Report report) const
+{
+    const RunHistory history(Folders::runs());
+    history.compare(report);
+    const Report shown = Redaction(m_options.redaction, m_redactionKey).redacted(report);
+    const QString problem = ReportFile::write(
+        m_reportFile,
+        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        history.append(report, QString());
+        return false;
+    }
+    history.append(report, QFileInfo(m_reportFile).absoluteFilePath());
+    Console::print(qtTrId("ID_Host_ReportIsIn").arg(m_reportFile) + QLatin1Char('\n'));
+    return true;
 }
 
 std::unique_ptr<Tour> CheckCommand::startTour(Platform::Engine& engine) const

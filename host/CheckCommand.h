@@ -4,6 +4,7 @@
 
 #include "host/ExitCode.h"
 #include "host/Options.h"
+#include "host/report/Report.h"
 
 #include <memory>
 
@@ -22,8 +23,15 @@ public:
     ExitCode run(); // returns when the dialog is closed and all is written
 
 private:
+    bool prepareFiles();
+    bool prepareTour();
+    bool prepareRedaction();
+    ExitCode open(const QString& language);
+    bool write(Report report) const;
     std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null where none is wanted
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 
-    const Options m_options;
+    Options m_options;
+    QString m_reportFile;
+    QByteArray m_redactionKey;
 };

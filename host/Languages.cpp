@@ -63,6 +63,11 @@ QStringList Languages::available()
     return result;
 }
 
+bool Languages::load(QTranslator& translator, const QString& language)
+{
+    return translator.load(FilePrefix + language, folder());
+}
+
 QString Languages::use(const QString& language)
 {
     const QStringList languages = available();
@@ -86,7 +91,7 @@ QString Languages::use(const QString& language)
         QCoreApplication::installTranslator(&m_qtTexts);
     }
     // Installed last, ours are asked first.
-    if (!m_texts.load(FilePrefix + m_current, folder())) {
+    if (!load(m_texts, m_current)) {
         return QStringLiteral("the texts %1 in %2 can't be read: install or build the program anew")
             .arg(FilePrefix + m_current + FileSuffix, folder());
     }

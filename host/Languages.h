@@ -17,6 +17,9 @@ public:
 
     static QStringList available(); // such as "en", "zh_CN"
 
+    // The program's own texts in one of the available languages; false where they can't be read.
+    static bool load(QTranslator& translator, const QString& language);
+
     // Takes the nearest to the system's language, otherwise English, or exactly the language that
     // is asked for. Returns nothing, or one line that says why it can't.
     QString use(const QString& language);

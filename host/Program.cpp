@@ -4,7 +4,9 @@
 
 #include "host/CheckCommand.h"
 #include "host/Console.h"
+#include "host/EngineCommands.h"
 #include "host/Options.h"
+#include "host/ReportCommand.h"
 #include "host/TerminationSignals.h"
 
 #include <QApplication>
@@ -59,10 +61,13 @@ ExitCode runCommand(const Options& options)
     case Options::Command::Check:
         return CheckCommand(options).run();
     case Options::Command::Devices:
+        return EngineCommands::listDevices(options);
     case Options::Command::Network:
+        return EngineCommands::watchNetwork(options);
     case Options::Command::Serve:
+        return EngineCommands::serve(options);
     case Options::Command::Report:
-        break;
+        return ReportCommand::run(options);
     }
     return ExitCode::WrongUsage;
 }

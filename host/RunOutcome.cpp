@@ -3,6 +3,7 @@
 #include "host/RunOutcome.h"
 
 #include "host/Console.h"
+#include "host/NetworkLimits.h"
 
 #include <QJsonArray>
 #include <QTextStream>
@@ -14,9 +15,6 @@ constexpr int AnsweredYes = 1;
 constexpr int AnsweredNothing = 0;
 constexpr int DeviceWorks = 1;
 constexpr int ReportAllAnswered = 3;
-// The limits of the network step.
-constexpr int MaxDelayMs = 500;
-constexpr int MaxLossPercent = 70;
 
 int leadingNumber(const QString& text, int fallback)
 {
@@ -34,8 +32,8 @@ CheckOutcome networkOutcome(const QJsonObject& values)
     const QString delay = values.value(QLatin1String("delay")).toString();
     const QString loss = values.value(QLatin1String("loss")).toString();
     if (!delay.isEmpty()) {
-        const bool isGood = leadingNumber(delay, MaxDelayMs) < MaxDelayMs &&
-                            leadingNumber(loss, MaxLossPercent + 1) <= MaxLossPercent;
+        const bool isGood = NetworkLimits::arePassed(
+            leadingNumber(delay, -1), leadingNumber(loss, NetworkLimits::WorstLossPercent + 1));
         check.verdict = isGood ? CheckOutcome::Verdict::Passed : CheckOutcome::Verdict::Failed;
         check.device = delay + QLatin1String(", ") + loss;
     }

@@ -235,6 +235,346 @@
         <source></source>
         <translation>صوت 4</translation>
     </message>
+    <message id="ID_Host_Changes">
+        <source></source>
+        <translation>التغييرات</translation>
+    </message>
+    <message id="ID_Host_Changes_None">
+        <source></source>
+        <translation>لم يتغير شيء منذ ذلك الحين.</translation>
+    </message>
+    <message id="ID_Host_Figure_Answered">
+        <source></source>
+        <translation>المجسات المُجاب عنها</translation>
+    </message>
+    <message id="ID_Host_Figure_Bandwidth">
+        <source></source>
+        <translation>أعلى تردد مسموع</translation>
+    </message>
+    <message id="ID_Host_Figure_Black">
+        <source></source>
+        <translation>الصور السوداء</translation>
+    </message>
+    <message id="ID_Host_Figure_Brightness">
+        <source></source>
+        <translation>السطوع</translation>
+    </message>
+    <message id="ID_Host_Figure_Clipped">
+        <source></source>
+        <translation>الصوت المقصوص</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay">
+        <source></source>
+        <translation>زمن الذهاب والإياب (الوسيط)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay5">
+        <source></source>
+        <translation>زمن الذهاب والإياب (المئين 5)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay95">
+        <source></source>
+        <translation>زمن الذهاب والإياب (المئين 95)</translation>
+    </message>
+    <message id="ID_Host_Figure_FirstPicture">
+        <source></source>
+        <translation>الزمن حتى أول صورة</translation>
+    </message>
+    <message id="ID_Host_Figure_Frozen">
+        <source></source>
+        <translation>الصور المتجمدة</translation>
+    </message>
+    <message id="ID_Host_Figure_Height">
+        <source></source>
+        <translation>ارتفاع الصورة</translation>
+    </message>
+    <message id="ID_Host_Figure_HumFrequency">
+        <source></source>
+        <translation>تردد طنين الكهرباء</translation>
+    </message>
+    <message id="ID_Host_Figure_HumShare">
+        <source></source>
+        <translation>طنين الكهرباء في الضوضاء</translation>
+    </message>
+    <message id="ID_Host_Figure_Jitter">
+        <source></source>
+        <translation>تذبذب التأخير</translation>
+    </message>
+    <message id="ID_Host_Figure_Loss">
+        <source></source>
+        <translation>فقدان الحزم</translation>
+    </message>
+    <message id="ID_Host_Figure_MovedByUser">
+        <source></source>
+        <translation>غيّر المستخدم مستوى الصوت</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedAfter">
+        <source></source>
+        <translation>مكتوم بعد الفحص</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedBefore">
+        <source></source>
+        <translation>مكتوم قبل الفحص</translation>
+    </message>
+    <message id="ID_Host_Figure_NoiseFloor">
+        <source></source>
+        <translation>مستوى الضوضاء</translation>
+    </message>
+    <message id="ID_Host_Figure_OneWayDelay">
+        <source></source>
+        <translation>التأخير في اتجاه واحد (نصف الذهاب والإياب)</translation>
+    </message>
+    <message id="ID_Host_Figure_Peak">
+        <source></source>
+        <translation>أعلى صوت</translation>
+    </message>
+    <message id="ID_Host_Figure_Pictures">
+        <source></source>
+        <translation>عدد الصور</translation>
+    </message>
+    <message id="ID_Host_Figure_Rate">
+        <source></source>
+        <translation>معدل الصور</translation>
+    </message>
+    <message id="ID_Host_Figure_Seconds">
+        <source></source>
+        <translation>مدة القياس</translation>
+    </message>
+    <message id="ID_Host_Figure_Sent">
+        <source></source>
+        <translation>المجسات المُرسلة</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundHeard">
+        <source></source>
+        <translation>سُمع صوت</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundPlayed">
+        <source></source>
+        <translation>الصوت المُشغَّل</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeAfter">
+        <source></source>
+        <translation>مستوى الصوت بعد الفحص</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeBefore">
+        <source></source>
+        <translation>مستوى الصوت قبل الفحص</translation>
+    </message>
+    <message id="ID_Host_Figure_Width">
+        <source></source>
+        <translation>عرض الصورة</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodPicture">
+        <source></source>
+        <translation>الإجابة «لا»، لكن صورًا متحركة كانت تصل.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodSound">
+        <source></source>
+        <translation>الإجابة «لا»، لكن الميكروفون التقط صوتًا.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToRightSound">
+        <source></source>
+        <translation>الإجابة «لا»، لكن اختير الصوت الصحيح.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToBlackPicture">
+        <source></source>
+        <translation>الإجابة «نعم» على صورة سوداء.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToFrozenPicture">
+        <source></source>
+        <translation>الإجابة «نعم» على صورة متجمدة.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToMutedSpeaker">
+        <source></source>
+        <translation>الإجابة «نعم» والسماعة مكتومة.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToSilence">
+        <source></source>
+        <translation>الإجابة «نعم»، لكن الميكروفون لم يلتقط شيئًا.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToWrongSound">
+        <source></source>
+        <translation>الإجابة «نعم»، لكن لم يُختر الصوت الصحيح.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesWithoutPictures">
+        <source></source>
+        <translation>الإجابة «نعم»، لكن لم تصل أي صور.</translation>
+    </message>
+    <message id="ID_Host_Grade">
+        <source></source>
+        <translation>جودة الشبكة</translation>
+    </message>
+    <message id="ID_Host_Grade_Fair">
+        <source></source>
+        <translation>متوسطة</translation>
+    </message>
+    <message id="ID_Host_Grade_FairUpTo">
+        <source></source>
+        <translation>متوسطة حتى %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Good">
+        <source></source>
+        <translation>جيدة</translation>
+    </message>
+    <message id="ID_Host_Grade_GoodUpTo">
+        <source></source>
+        <translation>جيدة حتى %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Poor">
+        <source></source>
+        <translation>ضعيفة</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun">
+        <source></source>
+        <translation>آخر فحص سليم</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun_None">
+        <source></source>
+        <translation>لا يوجد فحص سابق نجح فيه كل شيء.</translation>
+    </message>
+    <message id="ID_Host_MeasuringFailed">
+        <source></source>
+        <translation>فشل القياس: %1</translation>
+    </message>
+    <message id="ID_Host_No">
+        <source></source>
+        <translation>لا</translation>
+    </message>
+    <message id="ID_Host_NoAnswer">
+        <source></source>
+        <translation>بلا إجابة</translation>
+    </message>
+    <message id="ID_Host_NotMeasured">
+        <source></source>
+        <translation>لم يُقس: %1</translation>
+    </message>
+    <message id="ID_Host_Outcome_Failed">
+        <source></source>
+        <translation>اكتمل مع مشكلات</translation>
+    </message>
+    <message id="ID_Host_Outcome_LeftEarly">
+        <source></source>
+        <translation>غودر قبل النهاية</translation>
+    </message>
+    <message id="ID_Host_Outcome_Passed">
+        <source></source>
+        <translation>نجح كل شيء</translation>
+    </message>
+    <message id="ID_Host_Outcome_PutOut">
+        <source></source>
+        <translation>أنهى الفصل الجلسة</translation>
+    </message>
+    <message id="ID_Host_Reason_Absent">
+        <source></source>
+        <translation>لا يوجد جهاز</translation>
+    </message>
+    <message id="ID_Host_Reason_Busy">
+        <source></source>
+        <translation>برنامج آخر يستخدم الجهاز</translation>
+    </message>
+    <message id="ID_Host_Reason_Denied">
+        <source></source>
+        <translation>النظام يرفض الوصول</translation>
+    </message>
+    <message id="ID_Host_Reason_Failed">
+        <source></source>
+        <translation>تعطل الجهاز</translation>
+    </message>
+    <message id="ID_Host_Reason_Hung">
+        <source></source>
+        <translation>الجهاز لا يستجيب</translation>
+    </message>
+    <message id="ID_Host_Reason_NoAnswer">
+        <source></source>
+        <translation>الخادم لا يستجيب</translation>
+    </message>
+    <message id="ID_Host_Reason_NotRecorded">
+        <source></source>
+        <translation>المحرك لا يسجله</translation>
+    </message>
+    <message id="ID_Host_Reason_Off">
+        <source></source>
+        <translation>الجهاز متوقف</translation>
+    </message>
+    <message id="ID_Host_Reason_Silent">
+        <source></source>
+        <translation>لم يصل شيء من الجهاز</translation>
+    </message>
+    <message id="ID_Host_Reason_StepNotOpened">
+        <source></source>
+        <translation>لم تُفتح هذه الخطوة</translation>
+    </message>
+    <message id="ID_Host_Redacted_Hash">
+        <source></source>
+        <translation>استُبدلت العناوين والأسماء والحسابات برموز قصيرة.</translation>
+    </message>
+    <message id="ID_Host_Redacted_Personal">
+        <source></source>
+        <translation>حُذفت العناوين والأسماء والحسابات.</translation>
+    </message>
+    <message id="ID_Host_ReportIsIn">
+        <source></source>
+        <translation>التقرير في %1</translation>
+    </message>
+    <message id="ID_Host_Report_Answer">
+        <source></source>
+        <translation>الإجابة</translation>
+    </message>
+    <message id="ID_Host_Report_Contradiction">
+        <source></source>
+        <translation>تناقض</translation>
+    </message>
+    <message id="ID_Host_Report_Device">
+        <source></source>
+        <translation>الجهاز</translation>
+    </message>
+    <message id="ID_Host_Report_Id">
+        <source></source>
+        <translation>رقم التقرير</translation>
+    </message>
+    <message id="ID_Host_Report_Measurements">
+        <source></source>
+        <translation>القياسات</translation>
+    </message>
+    <message id="ID_Host_Report_Notice">
+        <source></source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message id="ID_Host_Report_Outcome">
+        <source></source>
+        <translation>الحصيلة</translation>
+    </message>
+    <message id="ID_Host_Report_Program">
+        <source></source>
+        <translation>البرنامج</translation>
+    </message>
+    <message id="ID_Host_Report_Result">
+        <source></source>
+        <translation>النتيجة</translation>
+    </message>
+    <message id="ID_Host_Report_Scripted">
+        <source></source>
+        <translation>كانت الأجهزة محاكاة وليست أجهزة هذا الحاسوب.</translation>
+    </message>
+    <message id="ID_Host_Report_Summary">
+        <source></source>
+        <translation>الملخص</translation>
+    </message>
+    <message id="ID_Host_Report_System">
+        <source></source>
+        <translation>الجهاز والحساب</translation>
+    </message>
+    <message id="ID_Host_Report_Time">
+        <source></source>
+        <translation>الوقت</translation>
+    </message>
+    <message id="ID_Host_Report_Title">
+        <source></source>
+        <translation>تقرير فحص النظام</translation>
+    </message>
+    <message id="ID_Host_Yes">
+        <source></source>
+        <translation>نعم</translation>
+    </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>
         <translation>فحص النظام</translation>

@@ -235,6 +235,346 @@
         <source></source>
         <translation>Ton 4</translation>
     </message>
+    <message id="ID_Host_Changes">
+        <source></source>
+        <translation>Änderungen</translation>
+    </message>
+    <message id="ID_Host_Changes_None">
+        <source></source>
+        <translation>Seither hat sich nichts geändert.</translation>
+    </message>
+    <message id="ID_Host_Figure_Answered">
+        <source></source>
+        <translation>Beantwortete Proben</translation>
+    </message>
+    <message id="ID_Host_Figure_Bandwidth">
+        <source></source>
+        <translation>Höchste gehörte Frequenz</translation>
+    </message>
+    <message id="ID_Host_Figure_Black">
+        <source></source>
+        <translation>Schwarze Bilder</translation>
+    </message>
+    <message id="ID_Host_Figure_Brightness">
+        <source></source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message id="ID_Host_Figure_Clipped">
+        <source></source>
+        <translation>Übersteuerter Ton</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay">
+        <source></source>
+        <translation>Umlaufzeit (Median)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay5">
+        <source></source>
+        <translation>Umlaufzeit (5. Perzentil)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay95">
+        <source></source>
+        <translation>Umlaufzeit (95. Perzentil)</translation>
+    </message>
+    <message id="ID_Host_Figure_FirstPicture">
+        <source></source>
+        <translation>Zeit bis zum ersten Bild</translation>
+    </message>
+    <message id="ID_Host_Figure_Frozen">
+        <source></source>
+        <translation>Eingefrorene Bilder</translation>
+    </message>
+    <message id="ID_Host_Figure_Height">
+        <source></source>
+        <translation>Bildhöhe</translation>
+    </message>
+    <message id="ID_Host_Figure_HumFrequency">
+        <source></source>
+        <translation>Frequenz des Netzbrummens</translation>
+    </message>
+    <message id="ID_Host_Figure_HumShare">
+        <source></source>
+        <translation>Netzbrummen im Rauschen</translation>
+    </message>
+    <message id="ID_Host_Figure_Jitter">
+        <source></source>
+        <translation>Schwankung (Jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_Loss">
+        <source></source>
+        <translation>Paketverlust</translation>
+    </message>
+    <message id="ID_Host_Figure_MovedByUser">
+        <source></source>
+        <translation>Lautstärke vom Nutzer geändert</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedAfter">
+        <source></source>
+        <translation>Nachher stumm</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedBefore">
+        <source></source>
+        <translation>Vorher stumm</translation>
+    </message>
+    <message id="ID_Host_Figure_NoiseFloor">
+        <source></source>
+        <translation>Grundrauschen</translation>
+    </message>
+    <message id="ID_Host_Figure_OneWayDelay">
+        <source></source>
+        <translation>Verzögerung in eine Richtung (halbe Umlaufzeit)</translation>
+    </message>
+    <message id="ID_Host_Figure_Peak">
+        <source></source>
+        <translation>Lautester Ton</translation>
+    </message>
+    <message id="ID_Host_Figure_Pictures">
+        <source></source>
+        <translation>Bilder</translation>
+    </message>
+    <message id="ID_Host_Figure_Rate">
+        <source></source>
+        <translation>Bildrate</translation>
+    </message>
+    <message id="ID_Host_Figure_Seconds">
+        <source></source>
+        <translation>Gemessene Zeit</translation>
+    </message>
+    <message id="ID_Host_Figure_Sent">
+        <source></source>
+        <translation>Gesendete Proben</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundHeard">
+        <source></source>
+        <translation>Ton gehört</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundPlayed">
+        <source></source>
+        <translation>Gespielter Ton</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeAfter">
+        <source></source>
+        <translation>Lautstärke nachher</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeBefore">
+        <source></source>
+        <translation>Lautstärke vorher</translation>
+    </message>
+    <message id="ID_Host_Figure_Width">
+        <source></source>
+        <translation>Bildbreite</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodPicture">
+        <source></source>
+        <translation>Nein geantwortet, aber es kamen bewegte Bilder.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodSound">
+        <source></source>
+        <translation>Nein geantwortet, aber das Mikrofon hörte etwas.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToRightSound">
+        <source></source>
+        <translation>Nein geantwortet, aber den richtigen Ton gewählt.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToBlackPicture">
+        <source></source>
+        <translation>Ja zu einem schwarzen Bild geantwortet.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToFrozenPicture">
+        <source></source>
+        <translation>Ja zu einem eingefrorenen Bild geantwortet.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToMutedSpeaker">
+        <source></source>
+        <translation>Ja geantwortet, obwohl der Lautsprecher stumm war.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToSilence">
+        <source></source>
+        <translation>Ja geantwortet, aber das Mikrofon hörte nichts.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToWrongSound">
+        <source></source>
+        <translation>Ja geantwortet, aber nicht den richtigen Ton gewählt.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesWithoutPictures">
+        <source></source>
+        <translation>Ja geantwortet, aber es kamen keine Bilder.</translation>
+    </message>
+    <message id="ID_Host_Grade">
+        <source></source>
+        <translation>Netzqualität</translation>
+    </message>
+    <message id="ID_Host_Grade_Fair">
+        <source></source>
+        <translation>mittel</translation>
+    </message>
+    <message id="ID_Host_Grade_FairUpTo">
+        <source></source>
+        <translation>mittel bis %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Good">
+        <source></source>
+        <translation>gut</translation>
+    </message>
+    <message id="ID_Host_Grade_GoodUpTo">
+        <source></source>
+        <translation>gut bis %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Poor">
+        <source></source>
+        <translation>schlecht</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun">
+        <source></source>
+        <translation>Letzter guter Lauf</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun_None">
+        <source></source>
+        <translation>Es gibt keinen früheren Lauf, in dem alles bestanden wurde.</translation>
+    </message>
+    <message id="ID_Host_MeasuringFailed">
+        <source></source>
+        <translation>Messung gescheitert: %1</translation>
+    </message>
+    <message id="ID_Host_No">
+        <source></source>
+        <translation>Nein</translation>
+    </message>
+    <message id="ID_Host_NoAnswer">
+        <source></source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message id="ID_Host_NotMeasured">
+        <source></source>
+        <translation>nicht gemessen: %1</translation>
+    </message>
+    <message id="ID_Host_Outcome_Failed">
+        <source></source>
+        <translation>Mit Problemen beendet</translation>
+    </message>
+    <message id="ID_Host_Outcome_LeftEarly">
+        <source></source>
+        <translation>Vorzeitig verlassen</translation>
+    </message>
+    <message id="ID_Host_Outcome_Passed">
+        <source></source>
+        <translation>Alles bestanden</translation>
+    </message>
+    <message id="ID_Host_Outcome_PutOut">
+        <source></source>
+        <translation>Die Sitzung wurde vom Klassenzimmer beendet</translation>
+    </message>
+    <message id="ID_Host_Reason_Absent">
+        <source></source>
+        <translation>kein Gerät da</translation>
+    </message>
+    <message id="ID_Host_Reason_Busy">
+        <source></source>
+        <translation>ein anderes Programm hält das Gerät</translation>
+    </message>
+    <message id="ID_Host_Reason_Denied">
+        <source></source>
+        <translation>das System verweigert den Zugriff</translation>
+    </message>
+    <message id="ID_Host_Reason_Failed">
+        <source></source>
+        <translation>das Gerät ist ausgefallen</translation>
+    </message>
+    <message id="ID_Host_Reason_Hung">
+        <source></source>
+        <translation>das Gerät antwortet nicht</translation>
+    </message>
+    <message id="ID_Host_Reason_NoAnswer">
+        <source></source>
+        <translation>der Server antwortet nicht</translation>
+    </message>
+    <message id="ID_Host_Reason_NotRecorded">
+        <source></source>
+        <translation>die Engine zeichnet es nicht auf</translation>
+    </message>
+    <message id="ID_Host_Reason_Off">
+        <source></source>
+        <translation>das Gerät ist ausgeschaltet</translation>
+    </message>
+    <message id="ID_Host_Reason_Silent">
+        <source></source>
+        <translation>vom Gerät kam nichts</translation>
+    </message>
+    <message id="ID_Host_Reason_StepNotOpened">
+        <source></source>
+        <translation>dieser Schritt wurde nicht geöffnet</translation>
+    </message>
+    <message id="ID_Host_Redacted_Hash">
+        <source></source>
+        <translation>Adressen, Namen und Konten sind durch kurze Kürzel ersetzt.</translation>
+    </message>
+    <message id="ID_Host_Redacted_Personal">
+        <source></source>
+        <translation>Adressen, Namen und Konten sind weggelassen.</translation>
+    </message>
+    <message id="ID_Host_ReportIsIn">
+        <source></source>
+        <translation>Der Bericht steht in %1</translation>
+    </message>
+    <message id="ID_Host_Report_Answer">
+        <source></source>
+        <translation>Antwort</translation>
+    </message>
+    <message id="ID_Host_Report_Contradiction">
+        <source></source>
+        <translation>Widerspruch</translation>
+    </message>
+    <message id="ID_Host_Report_Device">
+        <source></source>
+        <translation>Gerät</translation>
+    </message>
+    <message id="ID_Host_Report_Id">
+        <source></source>
+        <translation>Berichtsnummer</translation>
+    </message>
+    <message id="ID_Host_Report_Measurements">
+        <source></source>
+        <translation>Messwerte</translation>
+    </message>
+    <message id="ID_Host_Report_Notice">
+        <source></source>
+        <translation>Hinweis</translation>
+    </message>
+    <message id="ID_Host_Report_Outcome">
+        <source></source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message id="ID_Host_Report_Program">
+        <source></source>
+        <translation>Programm</translation>
+    </message>
+    <message id="ID_Host_Report_Result">
+        <source></source>
+        <translation>Befund</translation>
+    </message>
+    <message id="ID_Host_Report_Scripted">
+        <source></source>
+        <translation>Die Geräte waren gespielt, nicht die dieses Rechners.</translation>
+    </message>
+    <message id="ID_Host_Report_Summary">
+        <source></source>
+        <translation>Übersicht</translation>
+    </message>
+    <message id="ID_Host_Report_System">
+        <source></source>
+        <translation>Rechner und Konto</translation>
+    </message>
+    <message id="ID_Host_Report_Time">
+        <source></source>
+        <translation>Zeit</translation>
+    </message>
+    <message id="ID_Host_Report_Title">
+        <source></source>
+        <translation>Bericht der Systemprüfung</translation>
+    </message>
+    <message id="ID_Host_Yes">
+        <source></source>
+        <translation>Ja</translation>
+    </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>
         <translation>Systemprüfung</translation>

@@ -235,6 +235,346 @@
         <source></source>
         <translation>Sound 4</translation>
     </message>
+    <message id="ID_Host_Changes">
+        <source></source>
+        <translation>Changes</translation>
+    </message>
+    <message id="ID_Host_Changes_None">
+        <source></source>
+        <translation>Nothing has changed since then.</translation>
+    </message>
+    <message id="ID_Host_Figure_Answered">
+        <source></source>
+        <translation>Probes answered</translation>
+    </message>
+    <message id="ID_Host_Figure_Bandwidth">
+        <source></source>
+        <translation>Highest frequency heard</translation>
+    </message>
+    <message id="ID_Host_Figure_Black">
+        <source></source>
+        <translation>Black pictures</translation>
+    </message>
+    <message id="ID_Host_Figure_Brightness">
+        <source></source>
+        <translation>Brightness</translation>
+    </message>
+    <message id="ID_Host_Figure_Clipped">
+        <source></source>
+        <translation>Clipped sound</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay">
+        <source></source>
+        <translation>Round trip (median)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay5">
+        <source></source>
+        <translation>Round trip (5th percentile)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay95">
+        <source></source>
+        <translation>Round trip (95th percentile)</translation>
+    </message>
+    <message id="ID_Host_Figure_FirstPicture">
+        <source></source>
+        <translation>Time to the first picture</translation>
+    </message>
+    <message id="ID_Host_Figure_Frozen">
+        <source></source>
+        <translation>Frozen pictures</translation>
+    </message>
+    <message id="ID_Host_Figure_Height">
+        <source></source>
+        <translation>Picture height</translation>
+    </message>
+    <message id="ID_Host_Figure_HumFrequency">
+        <source></source>
+        <translation>Mains hum frequency</translation>
+    </message>
+    <message id="ID_Host_Figure_HumShare">
+        <source></source>
+        <translation>Mains hum in the noise</translation>
+    </message>
+    <message id="ID_Host_Figure_Jitter">
+        <source></source>
+        <translation>Jitter</translation>
+    </message>
+    <message id="ID_Host_Figure_Loss">
+        <source></source>
+        <translation>Packet loss</translation>
+    </message>
+    <message id="ID_Host_Figure_MovedByUser">
+        <source></source>
+        <translation>Volume moved by the user</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedAfter">
+        <source></source>
+        <translation>Muted afterwards</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedBefore">
+        <source></source>
+        <translation>Muted before</translation>
+    </message>
+    <message id="ID_Host_Figure_NoiseFloor">
+        <source></source>
+        <translation>Noise floor</translation>
+    </message>
+    <message id="ID_Host_Figure_OneWayDelay">
+        <source></source>
+        <translation>One-way delay (half the round trip)</translation>
+    </message>
+    <message id="ID_Host_Figure_Peak">
+        <source></source>
+        <translation>Loudest sound</translation>
+    </message>
+    <message id="ID_Host_Figure_Pictures">
+        <source></source>
+        <translation>Pictures</translation>
+    </message>
+    <message id="ID_Host_Figure_Rate">
+        <source></source>
+        <translation>Picture rate</translation>
+    </message>
+    <message id="ID_Host_Figure_Seconds">
+        <source></source>
+        <translation>Time measured</translation>
+    </message>
+    <message id="ID_Host_Figure_Sent">
+        <source></source>
+        <translation>Probes sent</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundHeard">
+        <source></source>
+        <translation>Sound heard</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundPlayed">
+        <source></source>
+        <translation>Sound played</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeAfter">
+        <source></source>
+        <translation>Volume afterwards</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeBefore">
+        <source></source>
+        <translation>Volume before</translation>
+    </message>
+    <message id="ID_Host_Figure_Width">
+        <source></source>
+        <translation>Picture width</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodPicture">
+        <source></source>
+        <translation>Answered no, but moving pictures came.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodSound">
+        <source></source>
+        <translation>Answered no, but the microphone heard sound.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToRightSound">
+        <source></source>
+        <translation>Answered no, but picked the right sound.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToBlackPicture">
+        <source></source>
+        <translation>Answered yes to a black picture.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToFrozenPicture">
+        <source></source>
+        <translation>Answered yes to a frozen picture.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToMutedSpeaker">
+        <source></source>
+        <translation>Answered yes with the speaker muted.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToSilence">
+        <source></source>
+        <translation>Answered yes, but the microphone heard nothing.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToWrongSound">
+        <source></source>
+        <translation>Answered yes, but did not pick the right sound.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesWithoutPictures">
+        <source></source>
+        <translation>Answered yes, but no pictures came.</translation>
+    </message>
+    <message id="ID_Host_Grade">
+        <source></source>
+        <translation>Network quality</translation>
+    </message>
+    <message id="ID_Host_Grade_Fair">
+        <source></source>
+        <translation>fair</translation>
+    </message>
+    <message id="ID_Host_Grade_FairUpTo">
+        <source></source>
+        <translation>fair up to %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Good">
+        <source></source>
+        <translation>good</translation>
+    </message>
+    <message id="ID_Host_Grade_GoodUpTo">
+        <source></source>
+        <translation>good up to %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Poor">
+        <source></source>
+        <translation>poor</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun">
+        <source></source>
+        <translation>Last good run</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun_None">
+        <source></source>
+        <translation>There is no earlier run in which everything passed.</translation>
+    </message>
+    <message id="ID_Host_MeasuringFailed">
+        <source></source>
+        <translation>measuring failed: %1</translation>
+    </message>
+    <message id="ID_Host_No">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="ID_Host_NoAnswer">
+        <source></source>
+        <translation>No answer</translation>
+    </message>
+    <message id="ID_Host_NotMeasured">
+        <source></source>
+        <translation>not measured: %1</translation>
+    </message>
+    <message id="ID_Host_Outcome_Failed">
+        <source></source>
+        <translation>Finished with problems</translation>
+    </message>
+    <message id="ID_Host_Outcome_LeftEarly">
+        <source></source>
+        <translation>Left before the end</translation>
+    </message>
+    <message id="ID_Host_Outcome_Passed">
+        <source></source>
+        <translation>Everything passed</translation>
+    </message>
+    <message id="ID_Host_Outcome_PutOut">
+        <source></source>
+        <translation>The session was ended by the classroom</translation>
+    </message>
+    <message id="ID_Host_Reason_Absent">
+        <source></source>
+        <translation>there is no device</translation>
+    </message>
+    <message id="ID_Host_Reason_Busy">
+        <source></source>
+        <translation>another program holds the device</translation>
+    </message>
+    <message id="ID_Host_Reason_Denied">
+        <source></source>
+        <translation>the system refuses access</translation>
+    </message>
+    <message id="ID_Host_Reason_Failed">
+        <source></source>
+        <translation>the device broke down</translation>
+    </message>
+    <message id="ID_Host_Reason_Hung">
+        <source></source>
+        <translation>the device did not answer</translation>
+    </message>
+    <message id="ID_Host_Reason_NoAnswer">
+        <source></source>
+        <translation>the server did not answer</translation>
+    </message>
+    <message id="ID_Host_Reason_NotRecorded">
+        <source></source>
+        <translation>the engine does not record it</translation>
+    </message>
+    <message id="ID_Host_Reason_Off">
+        <source></source>
+        <translation>the device is turned off</translation>
+    </message>
+    <message id="ID_Host_Reason_Silent">
+        <source></source>
+        <translation>nothing came from the device</translation>
+    </message>
+    <message id="ID_Host_Reason_StepNotOpened">
+        <source></source>
+        <translation>this step was not opened</translation>
+    </message>
+    <message id="ID_Host_Redacted_Hash">
+        <source></source>
+        <translation>Addresses, names and accounts are replaced by short codes.</translation>
+    </message>
+    <message id="ID_Host_Redacted_Personal">
+        <source></source>
+        <translation>Addresses, names and accounts are left out.</translation>
+    </message>
+    <message id="ID_Host_ReportIsIn">
+        <source></source>
+        <translation>The report is in %1</translation>
+    </message>
+    <message id="ID_Host_Report_Answer">
+        <source></source>
+        <translation>Answer</translation>
+    </message>
+    <message id="ID_Host_Report_Contradiction">
+        <source></source>
+        <translation>Contradiction</translation>
+    </message>
+    <message id="ID_Host_Report_Device">
+        <source></source>
+        <translation>Device</translation>
+    </message>
+    <message id="ID_Host_Report_Id">
+        <source></source>
+        <translation>Report number</translation>
+    </message>
+    <message id="ID_Host_Report_Measurements">
+        <source></source>
+        <translation>Measurements</translation>
+    </message>
+    <message id="ID_Host_Report_Notice">
+        <source></source>
+        <translation>Note</translation>
+    </message>
+    <message id="ID_Host_Report_Outcome">
+        <source></source>
+        <translation>Outcome</translation>
+    </message>
+    <message id="ID_Host_Report_Program">
+        <source></source>
+        <translation>Program</translation>
+    </message>
+    <message id="ID_Host_Report_Result">
+        <source></source>
+        <translation>Result</translation>
+    </message>
+    <message id="ID_Host_Report_Scripted">
+        <source></source>
+        <translation>The devices were scripted ones, not this machine’s.</translation>
+    </message>
+    <message id="ID_Host_Report_Summary">
+        <source></source>
+        <translation>Summary</translation>
+    </message>
+    <message id="ID_Host_Report_System">
+        <source></source>
+        <translation>Machine and account</translation>
+    </message>
+    <message id="ID_Host_Report_Time">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="ID_Host_Report_Title">
+        <source></source>
+        <translation>System check report</translation>
+    </message>
+    <message id="ID_Host_Yes">
+        <source></source>
+        <translation>Yes</translation>
+    </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>
         <translation>System check</translation>

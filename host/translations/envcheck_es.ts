@@ -235,6 +235,346 @@
         <source></source>
         <translation>Sonido 4</translation>
     </message>
+    <message id="ID_Host_Changes">
+        <source></source>
+        <translation>Cambios</translation>
+    </message>
+    <message id="ID_Host_Changes_None">
+        <source></source>
+        <translation>Nada ha cambiado desde entonces.</translation>
+    </message>
+    <message id="ID_Host_Figure_Answered">
+        <source></source>
+        <translation>Sondas respondidas</translation>
+    </message>
+    <message id="ID_Host_Figure_Bandwidth">
+        <source></source>
+        <translation>Frecuencia máxima captada</translation>
+    </message>
+    <message id="ID_Host_Figure_Black">
+        <source></source>
+        <translation>Imágenes negras</translation>
+    </message>
+    <message id="ID_Host_Figure_Brightness">
+        <source></source>
+        <translation>Brillo</translation>
+    </message>
+    <message id="ID_Host_Figure_Clipped">
+        <source></source>
+        <translation>Sonido saturado</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay">
+        <source></source>
+        <translation>Ida y vuelta (mediana)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay5">
+        <source></source>
+        <translation>Ida y vuelta (percentil 5)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay95">
+        <source></source>
+        <translation>Ida y vuelta (percentil 95)</translation>
+    </message>
+    <message id="ID_Host_Figure_FirstPicture">
+        <source></source>
+        <translation>Tiempo hasta la primera imagen</translation>
+    </message>
+    <message id="ID_Host_Figure_Frozen">
+        <source></source>
+        <translation>Imágenes congeladas</translation>
+    </message>
+    <message id="ID_Host_Figure_Height">
+        <source></source>
+        <translation>Alto de la imagen</translation>
+    </message>
+    <message id="ID_Host_Figure_HumFrequency">
+        <source></source>
+        <translation>Frecuencia del zumbido</translation>
+    </message>
+    <message id="ID_Host_Figure_HumShare">
+        <source></source>
+        <translation>Zumbido en el ruido</translation>
+    </message>
+    <message id="ID_Host_Figure_Jitter">
+        <source></source>
+        <translation>Fluctuación (jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_Loss">
+        <source></source>
+        <translation>Pérdida de paquetes</translation>
+    </message>
+    <message id="ID_Host_Figure_MovedByUser">
+        <source></source>
+        <translation>Volumen cambiado por el usuario</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedAfter">
+        <source></source>
+        <translation>Silenciado después</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedBefore">
+        <source></source>
+        <translation>Silenciado antes</translation>
+    </message>
+    <message id="ID_Host_Figure_NoiseFloor">
+        <source></source>
+        <translation>Ruido de fondo</translation>
+    </message>
+    <message id="ID_Host_Figure_OneWayDelay">
+        <source></source>
+        <translation>Retardo de ida (mitad de la ida y vuelta)</translation>
+    </message>
+    <message id="ID_Host_Figure_Peak">
+        <source></source>
+        <translation>Sonido más fuerte</translation>
+    </message>
+    <message id="ID_Host_Figure_Pictures">
+        <source></source>
+        <translation>Imágenes</translation>
+    </message>
+    <message id="ID_Host_Figure_Rate">
+        <source></source>
+        <translation>Imágenes por segundo</translation>
+    </message>
+    <message id="ID_Host_Figure_Seconds">
+        <source></source>
+        <translation>Tiempo medido</translation>
+    </message>
+    <message id="ID_Host_Figure_Sent">
+        <source></source>
+        <translation>Sondas enviadas</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundHeard">
+        <source></source>
+        <translation>Sonido captado</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundPlayed">
+        <source></source>
+        <translation>Sonido reproducido</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeAfter">
+        <source></source>
+        <translation>Volumen después</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeBefore">
+        <source></source>
+        <translation>Volumen antes</translation>
+    </message>
+    <message id="ID_Host_Figure_Width">
+        <source></source>
+        <translation>Ancho de la imagen</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodPicture">
+        <source></source>
+        <translation>Se respondió que no, pero llegaban imágenes en movimiento.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodSound">
+        <source></source>
+        <translation>Se respondió que no, pero el micrófono captaba sonido.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToRightSound">
+        <source></source>
+        <translation>Se respondió que no, pero se eligió el sonido correcto.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToBlackPicture">
+        <source></source>
+        <translation>Se respondió que sí ante una imagen negra.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToFrozenPicture">
+        <source></source>
+        <translation>Se respondió que sí ante una imagen congelada.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToMutedSpeaker">
+        <source></source>
+        <translation>Se respondió que sí con el altavoz silenciado.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToSilence">
+        <source></source>
+        <translation>Se respondió que sí, pero el micrófono no captó nada.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToWrongSound">
+        <source></source>
+        <translation>Se respondió que sí, pero no se eligió el sonido correcto.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesWithoutPictures">
+        <source></source>
+        <translation>Se respondió que sí, pero no llegaban imágenes.</translation>
+    </message>
+    <message id="ID_Host_Grade">
+        <source></source>
+        <translation>Calidad de la red</translation>
+    </message>
+    <message id="ID_Host_Grade_Fair">
+        <source></source>
+        <translation>regular</translation>
+    </message>
+    <message id="ID_Host_Grade_FairUpTo">
+        <source></source>
+        <translation>regular hasta %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Good">
+        <source></source>
+        <translation>buena</translation>
+    </message>
+    <message id="ID_Host_Grade_GoodUpTo">
+        <source></source>
+        <translation>buena hasta %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Poor">
+        <source></source>
+        <translation>mala</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun">
+        <source></source>
+        <translation>Última comprobación correcta</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun_None">
+        <source></source>
+        <translation>No hay ninguna comprobación anterior en la que todo fuera bien.</translation>
+    </message>
+    <message id="ID_Host_MeasuringFailed">
+        <source></source>
+        <translation>la medición falló: %1</translation>
+    </message>
+    <message id="ID_Host_No">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="ID_Host_NoAnswer">
+        <source></source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message id="ID_Host_NotMeasured">
+        <source></source>
+        <translation>no medido: %1</translation>
+    </message>
+    <message id="ID_Host_Outcome_Failed">
+        <source></source>
+        <translation>Terminada con problemas</translation>
+    </message>
+    <message id="ID_Host_Outcome_LeftEarly">
+        <source></source>
+        <translation>Abandonada antes del final</translation>
+    </message>
+    <message id="ID_Host_Outcome_Passed">
+        <source></source>
+        <translation>Todo correcto</translation>
+    </message>
+    <message id="ID_Host_Outcome_PutOut">
+        <source></source>
+        <translation>El aula cerró la sesión</translation>
+    </message>
+    <message id="ID_Host_Reason_Absent">
+        <source></source>
+        <translation>no hay dispositivo</translation>
+    </message>
+    <message id="ID_Host_Reason_Busy">
+        <source></source>
+        <translation>otro programa usa el dispositivo</translation>
+    </message>
+    <message id="ID_Host_Reason_Denied">
+        <source></source>
+        <translation>el sistema deniega el acceso</translation>
+    </message>
+    <message id="ID_Host_Reason_Failed">
+        <source></source>
+        <translation>el dispositivo falló</translation>
+    </message>
+    <message id="ID_Host_Reason_Hung">
+        <source></source>
+        <translation>el dispositivo no responde</translation>
+    </message>
+    <message id="ID_Host_Reason_NoAnswer">
+        <source></source>
+        <translation>el servidor no responde</translation>
+    </message>
+    <message id="ID_Host_Reason_NotRecorded">
+        <source></source>
+        <translation>el motor no lo registra</translation>
+    </message>
+    <message id="ID_Host_Reason_Off">
+        <source></source>
+        <translation>el dispositivo está desactivado</translation>
+    </message>
+    <message id="ID_Host_Reason_Silent">
+        <source></source>
+        <translation>no llegó nada del dispositivo</translation>
+    </message>
+    <message id="ID_Host_Reason_StepNotOpened">
+        <source></source>
+        <translation>no se abrió este paso</translation>
+    </message>
+    <message id="ID_Host_Redacted_Hash">
+        <source></source>
+        <translation>Direcciones, nombres y cuentas se sustituyen por códigos cortos.</translation>
+    </message>
+    <message id="ID_Host_Redacted_Personal">
+        <source></source>
+        <translation>Se omiten direcciones, nombres y cuentas.</translation>
+    </message>
+    <message id="ID_Host_ReportIsIn">
+        <source></source>
+        <translation>El informe está en %1</translation>
+    </message>
+    <message id="ID_Host_Report_Answer">
+        <source></source>
+        <translation>Respuesta</translation>
+    </message>
+    <message id="ID_Host_Report_Contradiction">
+        <source></source>
+        <translation>Contradicción</translation>
+    </message>
+    <message id="ID_Host_Report_Device">
+        <source></source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="ID_Host_Report_Id">
+        <source></source>
+        <translation>Número de informe</translation>
+    </message>
+    <message id="ID_Host_Report_Measurements">
+        <source></source>
+        <translation>Mediciones</translation>
+    </message>
+    <message id="ID_Host_Report_Notice">
+        <source></source>
+        <translation>Nota</translation>
+    </message>
+    <message id="ID_Host_Report_Outcome">
+        <source></source>
+        <translation>Resultado</translation>
+    </message>
+    <message id="ID_Host_Report_Program">
+        <source></source>
+        <translation>Programa</translation>
+    </message>
+    <message id="ID_Host_Report_Result">
+        <source></source>
+        <translation>Resultado</translation>
+    </message>
+    <message id="ID_Host_Report_Scripted">
+        <source></source>
+        <translation>Los dispositivos eran simulados, no los de este equipo.</translation>
+    </message>
+    <message id="ID_Host_Report_Summary">
+        <source></source>
+        <translation>Resumen</translation>
+    </message>
+    <message id="ID_Host_Report_System">
+        <source></source>
+        <translation>Equipo y cuenta</translation>
+    </message>
+    <message id="ID_Host_Report_Time">
+        <source></source>
+        <translation>Fecha</translation>
+    </message>
+    <message id="ID_Host_Report_Title">
+        <source></source>
+        <translation>Informe de la comprobación del sistema</translation>
+    </message>
+    <message id="ID_Host_Yes">
+        <source></source>
+        <translation>Sí</translation>
+    </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>
         <translation>Comprobación del sistema</translation>

@@ -235,6 +235,346 @@
         <source></source>
         <translation>Son 4</translation>
     </message>
+    <message id="ID_Host_Changes">
+        <source></source>
+        <translation>Changements</translation>
+    </message>
+    <message id="ID_Host_Changes_None">
+        <source></source>
+        <translation>Rien n’a changé depuis.</translation>
+    </message>
+    <message id="ID_Host_Figure_Answered">
+        <source></source>
+        <translation>Sondes avec réponse</translation>
+    </message>
+    <message id="ID_Host_Figure_Bandwidth">
+        <source></source>
+        <translation>Fréquence maximale captée</translation>
+    </message>
+    <message id="ID_Host_Figure_Black">
+        <source></source>
+        <translation>Images noires</translation>
+    </message>
+    <message id="ID_Host_Figure_Brightness">
+        <source></source>
+        <translation>Luminosité</translation>
+    </message>
+    <message id="ID_Host_Figure_Clipped">
+        <source></source>
+        <translation>Son saturé</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay">
+        <source></source>
+        <translation>Aller-retour (médiane)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay5">
+        <source></source>
+        <translation>Aller-retour (5e centile)</translation>
+    </message>
+    <message id="ID_Host_Figure_Delay95">
+        <source></source>
+        <translation>Aller-retour (95e centile)</translation>
+    </message>
+    <message id="ID_Host_Figure_FirstPicture">
+        <source></source>
+        <translation>Délai de la première image</translation>
+    </message>
+    <message id="ID_Host_Figure_Frozen">
+        <source></source>
+        <translation>Images figées</translation>
+    </message>
+    <message id="ID_Host_Figure_Height">
+        <source></source>
+        <translation>Hauteur de l’image</translation>
+    </message>
+    <message id="ID_Host_Figure_HumFrequency">
+        <source></source>
+        <translation>Fréquence du ronflement</translation>
+    </message>
+    <message id="ID_Host_Figure_HumShare">
+        <source></source>
+        <translation>Ronflement dans le bruit</translation>
+    </message>
+    <message id="ID_Host_Figure_Jitter">
+        <source></source>
+        <translation>Gigue</translation>
+    </message>
+    <message id="ID_Host_Figure_Loss">
+        <source></source>
+        <translation>Perte de paquets</translation>
+    </message>
+    <message id="ID_Host_Figure_MovedByUser">
+        <source></source>
+        <translation>Volume modifié par l’utilisateur</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedAfter">
+        <source></source>
+        <translation>Muet après</translation>
+    </message>
+    <message id="ID_Host_Figure_MutedBefore">
+        <source></source>
+        <translation>Muet avant</translation>
+    </message>
+    <message id="ID_Host_Figure_NoiseFloor">
+        <source></source>
+        <translation>Bruit de fond</translation>
+    </message>
+    <message id="ID_Host_Figure_OneWayDelay">
+        <source></source>
+        <translation>Délai aller (moitié de l’aller-retour)</translation>
+    </message>
+    <message id="ID_Host_Figure_Peak">
+        <source></source>
+        <translation>Son le plus fort</translation>
+    </message>
+    <message id="ID_Host_Figure_Pictures">
+        <source></source>
+        <translation>Images</translation>
+    </message>
+    <message id="ID_Host_Figure_Rate">
+        <source></source>
+        <translation>Images par seconde</translation>
+    </message>
+    <message id="ID_Host_Figure_Seconds">
+        <source></source>
+        <translation>Durée mesurée</translation>
+    </message>
+    <message id="ID_Host_Figure_Sent">
+        <source></source>
+        <translation>Sondes envoyées</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundHeard">
+        <source></source>
+        <translation>Son capté</translation>
+    </message>
+    <message id="ID_Host_Figure_SoundPlayed">
+        <source></source>
+        <translation>Son joué</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeAfter">
+        <source></source>
+        <translation>Volume après</translation>
+    </message>
+    <message id="ID_Host_Figure_VolumeBefore">
+        <source></source>
+        <translation>Volume avant</translation>
+    </message>
+    <message id="ID_Host_Figure_Width">
+        <source></source>
+        <translation>Largeur de l’image</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodPicture">
+        <source></source>
+        <translation>Réponse « non », mais des images animées arrivaient.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToGoodSound">
+        <source></source>
+        <translation>Réponse « non », mais le micro captait du son.</translation>
+    </message>
+    <message id="ID_Host_Flag_NoToRightSound">
+        <source></source>
+        <translation>Réponse « non », mais le bon son a été choisi.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToBlackPicture">
+        <source></source>
+        <translation>Réponse « oui » devant une image noire.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToFrozenPicture">
+        <source></source>
+        <translation>Réponse « oui » devant une image figée.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToMutedSpeaker">
+        <source></source>
+        <translation>Réponse « oui » alors que le haut-parleur était muet.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToSilence">
+        <source></source>
+        <translation>Réponse « oui », mais le micro ne captait rien.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesToWrongSound">
+        <source></source>
+        <translation>Réponse « oui », mais le bon son n’a pas été choisi.</translation>
+    </message>
+    <message id="ID_Host_Flag_YesWithoutPictures">
+        <source></source>
+        <translation>Réponse « oui », mais aucune image n’arrivait.</translation>
+    </message>
+    <message id="ID_Host_Grade">
+        <source></source>
+        <translation>Qualité du réseau</translation>
+    </message>
+    <message id="ID_Host_Grade_Fair">
+        <source></source>
+        <translation>moyenne</translation>
+    </message>
+    <message id="ID_Host_Grade_FairUpTo">
+        <source></source>
+        <translation>moyenne jusqu’à %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Good">
+        <source></source>
+        <translation>bonne</translation>
+    </message>
+    <message id="ID_Host_Grade_GoodUpTo">
+        <source></source>
+        <translation>bonne jusqu’à %1</translation>
+    </message>
+    <message id="ID_Host_Grade_Poor">
+        <source></source>
+        <translation>mauvaise</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun">
+        <source></source>
+        <translation>Dernier contrôle réussi</translation>
+    </message>
+    <message id="ID_Host_LastGoodRun_None">
+        <source></source>
+        <translation>Aucun contrôle antérieur n’a entièrement réussi.</translation>
+    </message>
+    <message id="ID_Host_MeasuringFailed">
+        <source></source>
+        <translation>échec de la mesure : %1</translation>
+    </message>
+    <message id="ID_Host_No">
+        <source></source>
+        <translation>Non</translation>
+    </message>
+    <message id="ID_Host_NoAnswer">
+        <source></source>
+        <translation>Sans réponse</translation>
+    </message>
+    <message id="ID_Host_NotMeasured">
+        <source></source>
+        <translation>non mesuré : %1</translation>
+    </message>
+    <message id="ID_Host_Outcome_Failed">
+        <source></source>
+        <translation>Terminé avec des problèmes</translation>
+    </message>
+    <message id="ID_Host_Outcome_LeftEarly">
+        <source></source>
+        <translation>Quitté avant la fin</translation>
+    </message>
+    <message id="ID_Host_Outcome_Passed">
+        <source></source>
+        <translation>Tout est réussi</translation>
+    </message>
+    <message id="ID_Host_Outcome_PutOut">
+        <source></source>
+        <translation>La session a été fermée par la classe</translation>
+    </message>
+    <message id="ID_Host_Reason_Absent">
+        <source></source>
+        <translation>aucun appareil</translation>
+    </message>
+    <message id="ID_Host_Reason_Busy">
+        <source></source>
+        <translation>un autre programme utilise l’appareil</translation>
+    </message>
+    <message id="ID_Host_Reason_Denied">
+        <source></source>
+        <translation>le système refuse l’accès</translation>
+    </message>
+    <message id="ID_Host_Reason_Failed">
+        <source></source>
+        <translation>l’appareil est en panne</translation>
+    </message>
+    <message id="ID_Host_Reason_Hung">
+        <source></source>
+        <translation>l’appareil ne répond pas</translation>
+    </message>
+    <message id="ID_Host_Reason_NoAnswer">
+        <source></source>
+        <translation>le serveur ne répond pas</translation>
+    </message>
+    <message id="ID_Host_Reason_NotRecorded">
+        <source></source>
+        <translation>le moteur ne l’enregistre pas</translation>
+    </message>
+    <message id="ID_Host_Reason_Off">
+        <source></source>
+        <translation>l’appareil est désactivé</translation>
+    </message>
+    <message id="ID_Host_Reason_Silent">
+        <source></source>
+        <translation>rien n’est venu de l’appareil</translation>
+    </message>
+    <message id="ID_Host_Reason_StepNotOpened">
+        <source></source>
+        <translation>cette étape n’a pas été ouverte</translation>
+    </message>
+    <message id="ID_Host_Redacted_Hash">
+        <source></source>
+        <translation>Adresses, noms et comptes sont remplacés par des codes courts.</translation>
+    </message>
+    <message id="ID_Host_Redacted_Personal">
+        <source></source>
+        <translation>Adresses, noms et comptes sont omis.</translation>
+    </message>
+    <message id="ID_Host_ReportIsIn">
+        <source></source>
+        <translation>Le rapport se trouve dans %1</translation>
+    </message>
+    <message id="ID_Host_Report_Answer">
+        <source></source>
+        <translation>Réponse</translation>
+    </message>
+    <message id="ID_Host_Report_Contradiction">
+        <source></source>
+        <translation>Contradiction</translation>
+    </message>
+    <message id="ID_Host_Report_Device">
+        <source></source>
+        <translation>Appareil</translation>
+    </message>
+    <message id="ID_Host_Report_Id">
+        <source></source>
+        <translation>Numéro du rapport</translation>
+    </message>
+    <message id="ID_Host_Report_Measurements">
+        <source></source>
+        <translation>Mesures</translation>
+    </message>
+    <message id="ID_Host_Report_Notice">
+        <source></source>
+        <translation>Remarque</translation>
+    </message>
+    <message id="ID_Host_Report_Outcome">
+        <source></source>
+        <translation>Bilan</translation>
+    </message>
+    <message id="ID_Host_Report_Program">
+        <source></source>
+        <translation>Programme</translation>
+    </message>
+    <message id="ID_Host_Report_Result">
+        <source></source>
+        <translation>Résultat</translation>
+    </message>
+    <message id="ID_Host_Report_Scripted">
+        <source></source>
+        <translation>Les appareils étaient simulés, pas ceux de cet ordinateur.</translation>
+    </message>
+    <message id="ID_Host_Report_Summary">
+        <source></source>
+        <translation>Résumé</translation>
+    </message>
+    <message id="ID_Host_Report_System">
+        <source></source>
+        <translation>Ordinateur et compte</translation>
+    </message>
+    <message id="ID_Host_Report_Time">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="ID_Host_Report_Title">
+        <source></source>
+        <translation>Rapport du contrôle du système</translation>
+    </message>
+    <message id="ID_Host_Yes">
+        <source></source>
+        <translation>Oui</translation>
+    </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>
         <translation>Vérification du système</translation>

@@ -16,11 +16,14 @@ constexpr int MaxAnswerSize = 512;
 
 socklen_t fill(sockaddr_storage& storage, const QHostAddress& address, quint16 port)
 {
-    if (address.protocol() == QAbstractSocket::IPv4Protocol) {
+    // A socket for both protocols gives addresses of IPv4 as ones of IPv6.
+    bool isIPv4 = false;
+    const quint32 plainAddress = address.toIPv4Address(&isIPv4);
+    if (isIPv4) {
         sockaddr_in plain = {};
         plain.sin_family = AF_INET;
         plain.sin_port = htons(port);
-        plain.sin_addr.s_addr = htonl(address.toIPv4Address());
+        plain.sin_addr.s_addr = htonl(plainAddress);
         std::memcpy(&storage, &plain, sizeof(plain));
         return sizeof(plain);
     }

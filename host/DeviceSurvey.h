@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <optional>
+#include <vector>
+
+namespace Platform {
+class Engine;
+}
+
+// The devices of an engine and how each of them is, without opening any. GUI thread only.
+struct DeviceSurvey
+{
+    struct Device
+    {
+        Platform::DeviceInfo info;
+        Platform::DeviceState state = Platform::DeviceState::Absent;
+        bool isCurrent = false;
+        std::optional<int> volume; // percent; cameras have none
+    };
+    using Devices = std::vector<Device>;
+
+    Devices cameras;
+    Devices microphones;
+    Devices speakers;
+
+    // Runs the event loop until the lists have settled, a few seconds at most.
+    static DeviceSurvey of(Platform::Engine& engine);
+
+    QString toText() const; // a table for a terminal
+    QJsonObject toJson() const;
+};

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/EngineCommands.h"
+
+#include "host/Console.h"
+#include "host/DeviceSurvey.h"
+#include "host/Folders.h"
+#include "host/InstalledEngine.h"
+#include "host/Languages.h"
+#include "host/NetworkGrade.h"
+#include "host/NetworkLimits.h"
+#include "host/Options.h"
+#include "platform/backend/Engine.h"
+#ifdef ENVCHECK_WITH_DEVICES
+#include "platform/devices/network/StunResponder.h"
+#endif
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+
+namespace {
+
+// Prints what a probe measures: on a terminal on one line that changes, else a line each.
+class FigurePrinter final : public Platform::NetworkProbe::Listener
+{
+public:
+    FigurePrinter(Platform::Engine& engine, int count)
+        : m_count(count), m_probe(engine.createNetworkProbe(*this))
+    {
+    }
+
+    void networkFiguresChanged() override
+    {
+        m_last = m_probe->figures();
+        ++m_printed;
+        const bool isLast = m_count > 0 && m_printed >= m_count;
+        if (Console::isTerminal()) {
+            Console::print(QStringLiteral("\r\033[K") + line() +
+                           (isLast ? QStringLiteral("\n") : QString()));
+        } else {
+            Console::print(line() + QLatin1Char('\n'));
+        }
+        if (isLast) {
+            QCoreApplication::quit();
+        }
+    }
+
+    bool hasPassed() const
+    {
+        return m_printed > 0 && NetworkLimits::arePassed(m_last.delayMs, m_last.lossPercent);
+    }
+
+private:
+    QString line() const
+    {
+        if (m_last.delayMs < 0) {
+            return QStringLiteral("no answer, loss %1 %, sent %2, answered %3")
+                .arg(m_last.lossPercent)
+                .arg(m_last.sent)
+                .arg(m_last.answered);
+        }
+        return QStringLiteral("delay %1 ms, jitter %2 ms, loss %3 %, sent %4, answered %5: %6")
+            .arg(m_last.delayMs)
+            .arg(m_last.jitterMs)
+            .arg(m_last.lossPercent)
+            .arg(m_last.sent)
+            .arg(m_last.answered)
+            .arg(NetworkGrade::toString(NetworkGrade::of(m_last).level));
+    }
+
+    const int m_count;
+    int m_printed = 0;
+    Platform::NetworkFigures m_last;
+    std::unique_ptr<Platform::NetworkProbe> m_probe;
+};
+
+ExitCode failed(const InstalledEngine& installed)
+{
+    Console::printError(installed.error());
+    return installed.errorCode();
+}
+
+} // namespace
+
+ExitCode EngineCommands::listDevices(const Options& options)
+{
+    const InstalledEngine installed(options, Folders::data());
+    if (!installed.error().isEmpty()) {
+        return failed(installed);
+    }
+    const DeviceSurvey survey = DeviceSurvey::of(installed.engine());
+    Console::print(options.isJson ? QString::fromUtf8(QJsonDocument(survey.toJson()).toJson())
+                                  : survey.toText());
+    return ExitCode::AllPassed;
+}
+
+ExitCode EngineCommands::watchNetwork(const Options& options)
+{
+    // The built-in responder is shown in words.
+    Languages languages;
+    const QString problem = languages.use(QStringLiteral("en"));
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        return ExitCode::Unavailable;
+    }
+    InstalledEngine installed(options, Folders::data());
+    if (!installed.error().isEmpty()) {
+        return failed(installed);
+    }
+    installed.prepare();
+    const Platform::SystemFacts& facts = installed.engine().systemFacts();
+    Console::print(QStringLiteral("server %1, this machine %2\n")
+                       .arg(Console::plainLine(facts.serverName()),
+                            Console::plainLine(facts.clientAddress())));
+    const FigurePrinter printer(installed.engine(), options.count);
+    QCoreApplication::exec();
+    if (options.count == 0 && Console::isTerminal()) {
+        Console::print(QStringLiteral("\n"));
+    }
+    return printer.hasPassed() ? ExitCode::AllPassed : ExitCode::SomeFailed;
+}
+
+#ifdef ENVCHECK_WITH_DEVICES
+ExitCode EngineCommands::serve(const Options& options)
+{
+    const Platform::StunResponder responder(QHostAddress::Any, options.port);
+    const quint16 port = responder.server().port;
+    if (port == 0) {
+        Console::printError(QStringLiteral("UDP port %1 can't be answered on: %2. Choose another "
+                                           "by --port")
+                                .arg(options.port)
+                                .arg(responder.errorString()));
+        return ExitCode::Unavailable;
+    }
+    Console::print(QStringLiteral("Answering on UDP port %1. Other machines measure the way here "
+                                  "by --server stun:HOST:%1\n")
+                       .arg(port));
+    QCoreApplication::exec();
+    return ExitCode::AllPassed;
+}
+#else
+ExitCode EngineCommands::serve(const Options&)
+{
+    Console::printError(QStringLiteral("serve needs a program that was built with the real devices "
+                                       "(ENVCHECK_DEVICES)"));
+    return ExitCode::Unavailable;
+}
+#endif

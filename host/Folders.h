@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+// Where the program keeps what outlives a run. None of these need exist yet.
+namespace Folders {
+
+QString data();         // settings, journal, outbox
+QString reports();      // one file for each run
+QString runs();         // the list of runs, a file
+QString redactionKey(); // a file
+
+} // namespace Folders

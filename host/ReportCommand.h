@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/ExitCode.h"
+
+struct Options;
+
+// The command "report": shows what earlier runs have written.
+namespace ReportCommand {
+
+ExitCode run(const Options& options);
+
+} // namespace ReportCommand

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/report/Redaction.h"
+
+#include "host/report/ReportTexts.h"
+
+#include <QMessageAuthenticationCode>
+
+namespace {
+
+constexpr int CodeLength = 12;
+const QLatin1String Mark("#");
+// Facts of the machine that don't tell whose it is.
+const QStringList PlainFacts = {QStringLiteral("operatingSystem"), QStringLiteral("processor")};
+const QStringList PlainChanges = {QStringLiteral("verdict"), QStringLiteral("grade"),
+                                  QStringLiteral("delayMs"), QStringLiteral("operatingSystem")};
+
+QString levelName(Options::Redaction level)
+{
+    return level == Options::Redaction::Hash ? QStringLiteral("hash") : QStringLiteral("personal");
+}
+
+} // namespace
+
+Redaction::Redaction(Options::Redaction level, const QByteArray& key) : m_level(level), m_key(key)
+{
+}
+
+Report Redaction::redacted(const Report& report) const
+{
+    // What is left out once doesn't come back.
+    const bool isDone =
+        report.redaction == QLatin1String("personal") ||
+        (report.redaction == QLatin1String("hash") && m_level == Options::Redaction::Hash);
+    if (m_level == Options::Redaction::None || isDone) {
+        return report;
+    }
+    Report result = report;
+    result.redaction = levelName(m_level);
+    result.scenario = replaced(report.scenario);
+    for (auto fact = result.facts.begin(); fact != result.facts.end(); ++fact) {
+        if (!PlainFacts.contains(fact.key())) {
+            fact.value() = replacedValue(fact.value());
+        }
+    }
+    for (ReportCheck& check : result.checks) {
+        redactCheck(check);
+    }
+    for (ReportChange& change : result.changes) {
+        if (!PlainChanges.contains(change.what)) {
+            change.before = replaced(change.before);
+            change.now = replaced(change.now);
+        }
+    }
+    return result;
+}
+
+QString Redaction::replaced(const QString& text) const
+{
+    if (text.isEmpty() || m_level == Options::Redaction::Personal) {
+        return {};
+    }
+    const QByteArray code =
+        QMessageAuthenticationCode::hash(text.toUtf8(), m_key, QCryptographicHash::Sha256)
+            .toHex()
+            .left(CodeLength);
+    return Mark + QString::fromLatin1(code);
+}
+
+// Numbers and yes or no say nothing of a person; what is inside a list or an object might.
+QJsonValue Redaction::replacedValue(const QJsonValue& value) const
+{
+    if (value.isDouble() || value.isBool() || value.isNull()) {
+        return value;
+    }
+    return value.isString() ? replaced(value.toString()) : QString();
+}
+
+void Redaction::redactCheck(ReportCheck& check) const
+{
+    check.device = replaced(check.device);
+    for (Measurement& measurement : check.measurements) {
+        const bool isPlain = measurement.key == QLatin1String("soundPlayed");
+        if (!isPlain) {
+            measurement.value = replacedValue(measurement.value);
+        }
+        if (!ReportTexts::isReason(measurement.reason)) {
+            measurement.reason = replaced(measurement.reason);
+        }
+    }
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/Options.h"
+#include "host/report/Report.h"
+
+// Takes out of a report what tells who and where its user is: account, nickname, addresses,
+// servers, and the names of devices, which people call by their own. Figures, versions and
+// verdicts stay.
+class Redaction
+{
+public:
+    // The key turns texts into short codes: equal texts into equal codes, for who has the key.
+    Redaction(Options::Redaction level, const QByteArray& key);
+
+    Report redacted(const Report& report) const;
+
+private:
+    QString replaced(const QString& text) const;
+    QJsonValue replacedValue(const QJsonValue& value) const;
+    void redactCheck(ReportCheck& check) const;
+
+    Options::Redaction m_level;
+    QByteArray m_key;
+};

@@ -1,0 +1,341 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/report/Report.h"
+
+#include <QJsonArray>
+#include <algorithm>
+
+namespace {
+
+const QLatin1String FormatName("envcheck-report");
+const QStringList Statuses = {QStringLiteral("measured"), QStringLiteral("notMeasured"),
+                              QStringLiteral("failed")};
+const QStringList Verdicts = {QStringLiteral("passed"), QStringLiteral("failed"),
+                              QStringLiteral("notTested")};
+const QStringList Answers = {QStringLiteral("yes"), QStringLiteral("no"), QStringLiteral("none")};
+const QStringList DeviceStates = {QStringLiteral("works"), QStringLiteral("fails"),
+                                  QStringLiteral("unknown")};
+const QStringList Outcomes = {QStringLiteral("passed"), QStringLiteral("failed"),
+                              QStringLiteral("leftEarly"), QStringLiteral("putOut")};
+const QStringList Platforms = {QStringLiteral("devices"), QStringLiteral("scripted")};
+const QStringList Redactions = {QStringLiteral("none"), QStringLiteral("personal"),
+                                QStringLiteral("hash")};
+const QStringList Levels = {QStringLiteral("good"), QStringLiteral("fair"), QStringLiteral("poor")};
+
+// Takes values out of an object, and keeps the first thing that is wrong with them.
+class Fields
+{
+public:
+    Fields(const QJsonObject& object, const QString& place, QString& error)
+        : m_object(object), m_place(place), m_error(error)
+    {
+    }
+
+    QString text(const char* key) { return value(key, QJsonValue::String, "a text").toString(); }
+
+    QString oneOf(const char* key, const QStringList& words)
+    {
+        const QString word = text(key);
+        if (!words.contains(word)) {
+            fail(key, QStringLiteral("it is '%1', not one of %2")
+                          .arg(word, words.join(QLatin1String(", "))));
+        }
+        return word;
+    }
+
+    double number(const char* key) { return value(key, QJsonValue::Double, "a number").toDouble(); }
+
+    std::optional<double> numberIfThere(const char* key)
+    {
+        return has(key) ? std::optional<double>(number(key)) : std::nullopt;
+    }
+
+    QDateTime time(const char* key)
+    {
+        const QDateTime result = QDateTime::fromString(text(key), Qt::ISODateWithMs);
+        if (!result.isValid()) {
+            fail(key, QStringLiteral("it isn't a time such as 2026-03-01T08:30:00Z"));
+        }
+        return result;
+    }
+
+    QJsonObject object(const char* key)
+    {
+        return value(key, QJsonValue::Object, "an object").toObject();
+    }
+
+    QJsonValue any(const char* key)
+    {
+        if (!has(key)) {
+            fail(key, QStringLiteral("it is missing"));
+        }
+        return m_object.value(QLatin1String(key));
+    }
+
+    bool has(const char* key) const { return m_object.contains(QLatin1String(key)); }
+
+    // read is called with the fields of each element.
+    template <typename Element, typename Read>
+    std::vector<Element> list(const char* key, const Read& read)
+    {
+        std::vector<Element> result;
+        const QJsonArray array = value(key, QJsonValue::Array, "a list").toArray();
+        for (int i = 0; i < array.size(); ++i) {
+            const QString place = QStringLiteral("%1[%2]").arg(placeOf(key)).arg(i);
+            Fields fields(array.at(i).toObject(), place + QLatin1Char('.'), m_error);
+            result.push_back(read(fields));
+        }
+        return result;
+    }
+
+    QStringList texts(const char* key)
+    {
+        QStringList result;
+        const QJsonArray array = value(key, QJsonValue::Array, "a list").toArray();
+        for (const QJsonValue& element : array) {
+            if (!element.isString()) {
+                fail(key, QStringLiteral("it isn't a list of texts"));
+            }
+            result << element.toString();
+        }
+        return result;
+    }
+
+    void fail(const char* key, const QString& problem)
+    {
+        if (m_error.isEmpty()) {
+            m_error = QStringLiteral("%1: %2").arg(placeOf(key), problem);
+        }
+    }
+
+private:
+    QString placeOf(const char* key) const { return m_place + QLatin1String(key); }
+
+    QJsonValue value(const char* key, QJsonValue::Type type, const char* typeName)
+    {
+        const QJsonValue found = m_object.value(QLatin1String(key));
+        if (found.type() != type) {
+            fail(key, found.isUndefined()
+                          ? QStringLiteral("it is missing")
+                          : QStringLiteral("it isn't %1").arg(QLatin1String(typeName)));
+        }
+        return found;
+    }
+
+    const QJsonObject m_object;
+    const QString m_place;
+    QString& m_error;
+};
+
+template <typename Element>
+QJsonArray toArray(const std::vector<Element>& elements,
+                   QJsonObject (*toObject)(const Element& element))
+{
+    QJsonArray array;
+    for (const Element& element : elements) {
+        array.append(toObject(element));
+    }
+    return array;
+}
+
+QString timeText(const QDateTime& time)
+{
+    return time.toUTC().toString(Qt::ISODateWithMs);
+}
+
+QJsonObject measurementToJson(const Measurement& measurement)
+{
+    QJsonObject object{
+        {QStringLiteral("key"), measurement.key},
+        {QStringLiteral("status"), Statuses.at(static_cast<int>(measurement.status))}};
+    if (measurement.status == Measurement::Status::Measured) {
+        object.insert(QStringLiteral("value"), measurement.value);
+    } else {
+        object.insert(QStringLiteral("reason"), measurement.reason);
+    }
+    return object;
+}
+
+Measurement readMeasurement(Fields& fields)
+{
+    Measurement measurement;
+    measurement.key = fields.text("key");
+    measurement.status = static_cast<Measurement::Status>(
+        std::max(0, Statuses.indexOf(fields.oneOf("status", Statuses))));
+    if (measurement.status == Measurement::Status::Measured) {
+        measurement.value = fields.any("value");
+    } else {
+        measurement.reason = fields.text("reason");
+    }
+    return measurement;
+}
+
+QJsonObject checkToJson(const ReportCheck& check)
+{
+    return {{QStringLiteral("check"), check.key},
+            {QStringLiteral("verdict"), check.verdict},
+            {QStringLiteral("answer"), check.answer},
+            {QStringLiteral("deviceState"), check.deviceState},
+            {QStringLiteral("device"), check.device},
+            {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
+            {QStringLiteral("contradictions"), QJsonArray::fromStringList(check.contradictions)}};
+}
+
+ReportCheck readCheck(Fields& fields)
+{
+    ReportCheck check;
+    check.key = fields.text("check");
+    check.verdict = fields.oneOf("verdict", Verdicts);
+    check.answer = fields.oneOf("answer", Answers);
+    check.deviceState = fields.oneOf("deviceState", DeviceStates);
+    check.device = fields.text("device");
+    check.measurements = fields.list<Measurement>("measurements", readMeasurement);
+    check.contradictions = fields.texts("contradictions");
+    return check;
+}
+
+QJsonObject gradeLineToJson(const GradeLine& line)
+{
+    QJsonObject object{{QStringLiteral("key"), line.key},
+                       {QStringLiteral("level"), line.level},
+                       {QStringLiteral("value"), line.value},
+                       {QStringLiteral("goodUpTo"), line.goodUpTo},
+                       {QStringLiteral("source"), line.source}};
+    if (line.fairUpTo) {
+        object.insert(QStringLiteral("fairUpTo"), *line.fairUpTo);
+    }
+    return object;
+}
+
+GradeLine readGradeLine(Fields& fields)
+{
+    GradeLine line;
+    line.key = fields.text("key");
+    line.level = fields.oneOf("level", Levels);
+    line.value = fields.number("value");
+    line.goodUpTo = fields.number("goodUpTo");
+    line.fairUpTo = fields.numberIfThere("fairUpTo");
+    line.source = fields.text("source");
+    return line;
+}
+
+QJsonObject changeToJson(const ReportChange& change)
+{
+    return {{QStringLiteral("subject"), change.subject},
+            {QStringLiteral("what"), change.what},
+            {QStringLiteral("before"), change.before},
+            {QStringLiteral("now"), change.now}};
+}
+
+ReportChange readChange(Fields& fields)
+{
+    return {fields.text("subject"), fields.text("what"), fields.text("before"), fields.text("now")};
+}
+
+void readNetworkGrade(Fields& fields, Report& report, QString& error)
+{
+    if (fields.has("networkGrade")) {
+        Fields grade(fields.object("networkGrade"), QStringLiteral("networkGrade."), error);
+        report.grade = grade.oneOf("level", Levels);
+        report.gradeLines = grade.list<GradeLine>("lines", readGradeLine);
+    }
+}
+
+void readChanges(Fields& fields, Report& report, QString& error)
+{
+    if (fields.has("changes")) {
+        Fields changes(fields.object("changes"), QStringLiteral("changes."), error);
+        report.lastGoodRun = changes.time("lastGoodRun");
+        report.changes = changes.list<ReportChange>("list", readChange);
+    }
+}
+
+} // namespace
+
+const Measurement* ReportCheck::measurement(const QString& name) const
+{
+    const auto found =
+        std::find_if(measurements.begin(), measurements.end(),
+                     [&name](const Measurement& candidate) { return candidate.key == name; });
+    return found == measurements.end() ? nullptr : &*found;
+}
+
+const ReportCheck* Report::check(const QString& key) const
+{
+    const auto found = std::find_if(checks.begin(), checks.end(),
+                                    [&key](const ReportCheck& c) { return c.key == key; });
+    return found == checks.end() ? nullptr : &*found;
+}
+
+QJsonObject Report::toJson() const
+{
+    QJsonObject system = facts;
+    if (cacheFreeBytes) {
+        system.insert(QStringLiteral("cacheFreeBytes"), *cacheFreeBytes);
+    }
+    QJsonObject object{{QStringLiteral("format"), FormatName},
+                       {QStringLiteral("version"), Version},
+                       {QStringLiteral("id"), id},
+                       {QStringLiteral("programVersion"), programVersion},
+                       {QStringLiteral("started"), timeText(started)},
+                       {QStringLiteral("finished"), timeText(finished)},
+                       {QStringLiteral("language"), language},
+                       {QStringLiteral("platform"), platform},
+                       {QStringLiteral("redaction"), redaction},
+                       {QStringLiteral("outcome"), outcome},
+                       {QStringLiteral("system"), system},
+                       {QStringLiteral("checks"), toArray(checks, checkToJson)}};
+    if (!scenario.isEmpty()) {
+        object.insert(QStringLiteral("scenario"), scenario);
+    }
+    if (!grade.isEmpty()) {
+        object.insert(QStringLiteral("networkGrade"),
+                      QJsonObject{{QStringLiteral("level"), grade},
+                                  {QStringLiteral("lines"), toArray(gradeLines, gradeLineToJson)}});
+    }
+    if (lastGoodRun) {
+        object.insert(QStringLiteral("changes"),
+                      QJsonObject{{QStringLiteral("lastGoodRun"), timeText(*lastGoodRun)},
+                                  {QStringLiteral("list"), toArray(changes, changeToJson)}});
+    }
+    return object;
+}
+
+std::optional<Report> Report::fromJson(const QJsonObject& object, QString* error)
+{
+    QString problem;
+    Fields fields(object, QString(), problem);
+    if (fields.text("format") != FormatName) {
+        *error = QStringLiteral("format: this isn't a report of the check");
+        return std::nullopt;
+    }
+    const int version = static_cast<int>(fields.number("version"));
+    if (version != Version) {
+        *error = QStringLiteral("version: it is %1, and this program reads version %2")
+                     .arg(version)
+                     .arg(Version);
+        return std::nullopt;
+    }
+    Report report;
+    report.id = fields.text("id");
+    report.programVersion = fields.text("programVersion");
+    report.started = fields.time("started");
+    report.finished = fields.time("finished");
+    report.language = fields.text("language");
+    report.platform = fields.oneOf("platform", Platforms);
+    report.redaction = fields.oneOf("redaction", Redactions);
+    report.outcome = fields.oneOf("outcome", Outcomes);
+    report.scenario = fields.has("scenario") ? fields.text("scenario") : QString();
+    report.facts = fields.object("system");
+    Fields system(report.facts, QStringLiteral("system."), problem);
+    report.cacheFreeBytes = system.numberIfThere("cacheFreeBytes");
+    report.facts.remove(QLatin1String("cacheFreeBytes"));
+    report.checks = fields.list<ReportCheck>("checks", readCheck);
+    readNetworkGrade(fields, report, problem);
+    readChanges(fields, report, problem);
+    if (!problem.isEmpty()) {
+        *error = problem;
+        return std::nullopt;
+    }
+    return report;
+}

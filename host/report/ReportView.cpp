@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/report/ReportView.h"
+
+#include "host/report/Figures.h"
+#include "host/report/ReportTexts.h"
+
+#include <QLocale>
+#include <algorithm>
+
+namespace {
+
+using Mark = ReportView::Mark;
+
+struct FactCaption
+{
+    const char* key;
+    const char* id;
+};
+
+constexpr FactCaption FactCaptions[] = {
+    {"account", "ID_NetworkPage_Account"},    {"nickname", "ID_Nickname_NetworkPage"},
+    {"operatingSystem", "ID_NetworkPage_OS"}, {"processor", "ID_NetworkPage_CPU"},
+    {"server", "ID_NewLogin_Server"},         {"clientAddress", "ID_NetworkPage_Client"},
+};
+
+// Makes the sections one after the other.
+class ViewMaker
+{
+public:
+    ViewMaker(const Report& report, const ReportTexts& texts) : m_report(report), m_texts(texts) {}
+
+    ReportView make()
+    {
+        m_view.language = m_texts.language();
+        m_view.isRightToLeft = m_texts.isRightToLeft();
+        m_view.title = m_texts.text("ID_Host_Report_Title");
+        addSummary();
+        addChanges();
+        addSystem();
+        for (const ReportCheck& check : m_report.checks) {
+            addCheck(check);
+        }
+        return m_view;
+    }
+
+private:
+    void addSection(const QString& title) { m_view.sections.push_back({title, {}}); }
+
+    void add(const QString& caption, const QString& value, Mark mark = Mark::Plain)
+    {
+        m_view.sections.back().rows.push_back({caption, value, mark});
+    }
+
+    void add(const char* captionId, const QString& value, Mark mark = Mark::Plain)
+    {
+        add(m_texts.caption(captionId), value, mark);
+    }
+
+    QString timeText(const QDateTime& time) const
+    {
+        // Figures and names of months differ by language; this reads the same everywhere.
+        return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss t"));
+    }
+
+    static Mark verdictMark(const QString& verdict)
+    {
+        return verdict == QLatin1String("passed")   ? Mark::Good
+               : verdict == QLatin1String("failed") ? Mark::Bad
+                                                    : Mark::Notice;
+    }
+
+    static Mark gradeMark(const QString& level)
+    {
+        return level == QLatin1String("good")   ? Mark::Good
+               : level == QLatin1String("poor") ? Mark::Bad
+                                                : Mark::Notice;
+    }
+
+    void addSummary()
+    {
+        addSection(m_texts.text("ID_Host_Report_Summary"));
+        add("ID_Host_Report_Time", timeText(m_report.finished));
+        add("ID_Host_Report_Outcome", m_texts.outcome(m_report.outcome),
+            verdictMark(m_report.outcome));
+        for (const ReportCheck& check : m_report.checks) {
+            add(m_texts.checkName(check.key), m_texts.verdict(check.verdict),
+                verdictMark(check.verdict));
+            for (const QString& word : check.contradictions) {
+                add("ID_Host_Report_Contradiction",
+                    m_texts.checkName(check.key) + QStringLiteral(": ") +
+                        m_texts.contradiction(word),
+                    Mark::Notice);
+            }
+        }
+        if (!m_report.grade.isEmpty()) {
+            add("ID_Host_Grade", m_texts.grade(m_report.grade), gradeMark(m_report.grade));
+        }
+        if (m_report.platform == QLatin1String("scripted")) {
+            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Report_Scripted"), Mark::Notice);
+        }
+        if (m_report.redaction == QLatin1String("personal")) {
+            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Redacted_Personal"), Mark::Notice);
+        } else if (m_report.redaction == QLatin1String("hash")) {
+            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Redacted_Hash"), Mark::Notice);
+        }
+    }
+
+    void addChanges()
+    {
+        addSection(m_texts.text("ID_Host_Changes"));
+        if (!m_report.lastGoodRun) {
+            add("ID_Host_LastGoodRun", m_texts.text("ID_Host_LastGoodRun_None"));
+            return;
+        }
+        add("ID_Host_LastGoodRun", timeText(*m_report.lastGoodRun));
+        if (m_report.changes.empty()) {
+            add("ID_Host_Changes", m_texts.text("ID_Host_Changes_None"));
+        }
+        for (const ReportChange& change : m_report.changes) {
+            const QString arrow =
+                m_view.isRightToLeft ? QStringLiteral(" ← ") : QStringLiteral(" → ");
+            add(m_texts.checkName(change.subject) + QStringLiteral(", ") +
+                    m_texts.changed(change.what),
+                m_texts.changedValue(change.what, change.before) + arrow +
+                    m_texts.changedValue(change.what, change.now),
+                Mark::Notice);
+        }
+    }
+
+    void addSystem()
+    {
+        addSection(m_texts.text("ID_Host_Report_System"));
+        for (const FactCaption& fact : FactCaptions) {
+            const QString text = m_report.facts.value(QLatin1String(fact.key)).toString();
+            if (!text.isEmpty()) {
+                add(fact.id, text);
+            }
+        }
+        const QString cdn = m_report.facts.value(QLatin1String("cdn")).toString();
+        if (!cdn.isEmpty()) {
+            add(QStringLiteral("CDN"), cdn);
+        }
+        if (m_report.cacheFreeBytes) {
+            add("ID_NetworkPage_AvailableCacheSpace",
+                QLocale(QLocale::C)
+                    .formattedDataSize(static_cast<qint64>(*m_report.cacheFreeBytes), 2,
+                                       QLocale::DataSizeTraditionalFormat));
+        }
+        add("ID_Host_Report_Program", QStringLiteral("envcheck ") + m_report.programVersion);
+        add("ID_Host_Report_Id", m_report.id);
+    }
+
+    void addCheck(const ReportCheck& check)
+    {
+        addSection(m_texts.checkName(check.key));
+        add("ID_Host_Report_Result", m_texts.verdict(check.verdict), verdictMark(check.verdict));
+        const bool isNetwork = check.key == QLatin1String("network");
+        if (!isNetwork) {
+            add("ID_Host_Report_Answer", m_texts.answer(check.answer));
+        }
+        if (!check.device.isEmpty()) {
+            add("ID_Host_Report_Device", check.device);
+        }
+        for (const QString& word : check.contradictions) {
+            add("ID_Host_Report_Contradiction", m_texts.contradiction(word), Mark::Notice);
+        }
+        addMeasurements(check);
+        if (isNetwork && !m_report.grade.isEmpty()) {
+            addGrade();
+        }
+    }
+
+    // Where the same is true of all figures it is said once.
+    void addMeasurements(const ReportCheck& check)
+    {
+        const bool areAllMissing = std::all_of(
+            check.measurements.begin(), check.measurements.end(), [&check](const Measurement& m) {
+                return m.status != Measurement::Status::Measured &&
+                       m.reason == check.measurements.front().reason;
+            });
+        if (areAllMissing && !check.measurements.empty()) {
+            add("ID_Host_Report_Measurements",
+                m_texts.valueOf(check.key, check.measurements.front()));
+            return;
+        }
+        for (const Measurement& measurement : check.measurements) {
+            add(m_texts.captionOf(check.key, measurement.key),
+                m_texts.valueOf(check.key, measurement));
+        }
+    }
+
+    void addGrade()
+    {
+        add("ID_Host_Grade", m_texts.grade(m_report.grade), gradeMark(m_report.grade));
+        for (const GradeLine& line : m_report.gradeLines) {
+            const Figures::Unit unit = line.key == QLatin1String("lossPercent")
+                                           ? Figures::Unit::Percent
+                                           : Figures::Unit::Ms;
+            QString limits =
+                m_texts.text("ID_Host_Grade_GoodUpTo").arg(Figures::toText(line.goodUpTo, unit));
+            if (line.fairUpTo) {
+                limits += QStringLiteral(", ") + m_texts.text("ID_Host_Grade_FairUpTo")
+                                                     .arg(Figures::toText(*line.fairUpTo, unit));
+            }
+            add(m_texts.captionOf(QStringLiteral("network"), line.key),
+                QStringLiteral("%1: %2 (%3; %4)")
+                    .arg(Figures::toText(line.value, unit), m_texts.grade(line.level), limits,
+                         line.source),
+                gradeMark(line.level));
+        }
+    }
+
+    const Report& m_report;
+    const ReportTexts& m_texts;
+    ReportView m_view;
+};
+
+} // namespace
+
+ReportView ReportView::of(const Report& report, const ReportTexts& texts)
+{
+    return ViewMaker(report, texts).make();
+}

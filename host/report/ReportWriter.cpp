@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/report/ReportWriter.h"
+
+#include "host/Console.h"
+#include "host/report/ReportTexts.h"
+#include "host/report/ReportView.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QTextStream>
+#include <algorithm>
+
+namespace {
+
+const QString English = QStringLiteral("en");
+
+// The colours reach a contrast of 4.5 to 1 on white.
+const char* const Style =
+    "body{font:14px/1.5 sans-serif;color:#232323;background:#fff;max-width:46em;margin:2em auto;"
+    "padding:0 1em}h1{font-size:1.5em}h2{font-size:1.1em;margin:1.5em 0 .3em}"
+    "table{border-collapse:collapse;width:100%}"
+    "th,td{text-align:start;vertical-align:top;padding:.25em .5em;border-bottom:1px solid #e5e5e5;"
+    "overflow-wrap:anywhere}th{width:40%;font-weight:normal;color:#595959}"
+    ".good{color:#007a55}.bad{color:#c62f0d}.notice{color:#8a5a00}"
+    "article+article{border-top:2px solid #595959;margin-top:3em}";
+
+constexpr const char* CheckKeys[] = {"network", "camera", "speaker", "microphone"};
+
+// The language that was asked for, then English unless it is that.
+QStringList languagesOf(const QString& language)
+{
+    return language == English ? QStringList{English} : QStringList{language, English};
+}
+
+QString titleOf(const ReportView& view, bool isTwin)
+{
+    return isTwin ? view.title + QStringLiteral(" (English, for support)") : view.title;
+}
+
+void writeText(QTextStream& stream, const ReportView& view, bool isTwin)
+{
+    constexpr int Indent = 2;
+    constexpr int Gap = 2;
+    const QString title = titleOf(view, isTwin);
+    stream << title << '\n' << QString(Console::columns(title), QLatin1Char('=')) << '\n';
+    for (const ReportView::Section& section : view.sections) {
+        stream << '\n' << section.title << '\n';
+        int width = 0;
+        for (const ReportView::Row& row : section.rows) {
+            width = std::max(width, Console::columns(Console::plainLine(row.caption)) + Gap);
+        }
+        for (const ReportView::Row& row : section.rows) {
+            const char* mark = row.mark == ReportView::Mark::Bad      ? "x"
+                               : row.mark == ReportView::Mark::Notice ? "!"
+                                                                      : " ";
+            stream << QString(Indent - 1, QLatin1Char(' ')) << mark << ' '
+                   << Console::padded(Console::plainLine(row.caption), width)
+                   << Console::plainLine(row.value) << '\n';
+        }
+    }
+}
+
+QString escaped(const QString& text)
+{
+    return Console::plainLine(text).toHtmlEscaped();
+}
+
+QString markClass(ReportView::Mark mark)
+{
+    switch (mark) {
+    case ReportView::Mark::Good:
+        return QStringLiteral(" class=\"good\"");
+    case ReportView::Mark::Bad:
+        return QStringLiteral(" class=\"bad\"");
+    case ReportView::Mark::Notice:
+        return QStringLiteral(" class=\"notice\"");
+    case ReportView::Mark::Plain:
+        break;
+    }
+    return {};
+}
+
+QString htmlLanguage(QString language)
+{
+    return language.replace(QLatin1Char('_'), QLatin1Char('-'));
+}
+
+void writeHtml(QTextStream& stream, const ReportView& view, bool isTwin)
+{
+    stream << "<article lang=\"" << htmlLanguage(view.language) << "\" dir=\""
+           << (view.isRightToLeft ? "rtl" : "ltr") << "\">\n<h1>" << escaped(titleOf(view, isTwin))
+           << "</h1>\n";
+    for (const ReportView::Section& section : view.sections) {
+        stream << "<h2>" << escaped(section.title) << "</h2>\n<table>\n";
+        for (const ReportView::Row& row : section.rows) {
+            stream << "<tr><th scope=\"row\"><bdi>" << escaped(row.caption) << "</bdi></th><td"
+                   << markClass(row.mark) << "><bdi>" << escaped(row.value) << "</bdi></td></tr>\n";
+        }
+        stream << "</table>\n";
+    }
+    stream << "</article>\n";
+}
+
+// A table of any texts, each column as wide as its widest.
+QString tableText(const std::vector<QStringList>& rows)
+{
+    constexpr int Gap = 2;
+    std::vector<int> widths;
+    for (const QStringList& row : rows) {
+        widths.resize(std::max(widths.size(), static_cast<std::size_t>(row.size())));
+        for (int i = 0; i < row.size(); ++i) {
+            int& width = widths[static_cast<std::size_t>(i)];
+            width = std::max(width, Console::columns(row.at(i)) + Gap);
+        }
+    }
+    QString text;
+    for (const QStringList& row : rows) {
+        QString line;
+        for (int i = 0; i < row.size(); ++i) {
+            line += Console::padded(row.at(i), widths[static_cast<std::size_t>(i)]);
+        }
+        while (line.endsWith(QLatin1Char(' '))) {
+            line.chop(1);
+        }
+        text += line + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QStringList roomRow(const Report& report, const QString& name, const ReportTexts& texts)
+{
+    QStringList row = {Console::plainLine(name),
+                       Console::plainLine(report.facts.value(QLatin1String("account")).toString()),
+                       texts.outcome(report.outcome)};
+    int contradictions = 0;
+    for (const char* key : CheckKeys) {
+        const ReportCheck* check = report.check(QLatin1String(key));
+        row << (check ? texts.verdict(check->verdict) : QStringLiteral("-"));
+        contradictions += check ? check->contradictions.size() : 0;
+    }
+    row << (report.grade.isEmpty() ? QStringLiteral("-") : texts.grade(report.grade))
+        << QString::number(contradictions);
+    return row;
+}
+
+} // namespace
+
+QString ReportWriter::toText(const Report& report, const QString& language)
+{
+    QString text;
+    QTextStream stream(&text);
+    for (const QString& each : languagesOf(language)) {
+        const bool isTwin = each != language;
+        if (isTwin) {
+            stream << "\n\n";
+        }
+        writeText(stream, ReportView::of(report, ReportTexts(each)), isTwin);
+    }
+    stream.flush();
+    return text;
+}
+
+QString ReportWriter::toHtml(const std::vector<Report>& reports, const QString& language)
+{
+    QString html;
+    QTextStream stream(&html);
+    stream << "<!DOCTYPE html>\n<html lang=\"" << htmlLanguage(language)
+           << "\">\n<head>\n<meta charset=\"utf-8\">\n"
+              "<meta http-equiv=\"Content-Security-Policy\" "
+              "content=\"default-src 'none'; style-src 'unsafe-inline'\">\n<title>"
+           << escaped(ReportTexts(language).text("ID_Host_Report_Title")) << "</title>\n<style>"
+           << Style << "</style>\n</head>\n<body>\n";
+    for (const Report& report : reports) {
+        for (const QString& each : languagesOf(language)) {
+            writeHtml(stream, ReportView::of(report, ReportTexts(each)), each != language);
+        }
+    }
+    stream << "</body>\n</html>\n";
+    stream.flush();
+    return html;
+}
+
+QByteArray ReportWriter::toJson(const Report& report)
+{
+    return QJsonDocument(report.toJson()).toJson();
+}
+
+QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStringList& names,
+                                  const QString& language)
+{
+    const ReportTexts texts(language);
+    QStringList head = {QStringLiteral("#"), texts.caption("ID_NetworkPage_Account"),
+                        texts.caption("ID_Host_Report_Outcome")};
+    for (const char* check : CheckKeys) {
+        head << texts.checkName(QLatin1String(check));
+    }
+    head << texts.caption("ID_Host_Grade") << texts.caption("ID_Host_Report_Contradiction");
+    std::vector<QStringList> rows = {head};
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+        const bool isNamed = reports[i].redaction == QLatin1String("none");
+        rows.push_back(roomRow(
+            reports[i], isNamed ? names.at(static_cast<int>(i)) : QString::number(i + 1), texts));
+    }
+    return tableText(rows);
+}
+
+Options::Format ReportWriter::formatOf(const QString& fileName)
+{
+    const QString ending = QFileInfo(fileName).suffix().toLower();
+    if (ending == QLatin1String("html") || ending == QLatin1String("htm")) {
+        return Options::Format::Html;
+    }
+    return ending == QLatin1String("txt") ? Options::Format::Text : Options::Format::Json;
+}
+
+QByteArray ReportWriter::toFormat(const Report& report, Options::Format format,
+                                  const QString& language)
+{
+    switch (format) {
+    case Options::Format::Text:
+        return toText(report, language).toUtf8();
+    case Options::Format::Html:
+        return toHtml({report}, language).toUtf8();
+    case Options::Format::Room:
+    case Options::Format::Json:
+        break;
+    }
+    return toJson(report);
+}
