@@ -28,6 +28,9 @@ QString ReportFile::problemOfWriting(const QString& path)
     if (file.isDir()) {
         return line(path, QStringLiteral("it is a folder; name a file in it"));
     }
+    if (file.exists() && !file.isFile()) {
+        return line(path, QStringLiteral("it isn't an ordinary file; name another one"));
+    }
     if (!folder.isDir()) {
         return line(path, QStringLiteral("there is no folder %1; make it, or name another file")
                               .arg(folder.absoluteFilePath()));
@@ -45,8 +48,9 @@ QString ReportFile::write(const QString& path, const QByteArray& content)
         return problem;
     }
     QSaveFile file(path);
+    // commit() takes no notice of what only comes to light when the last bytes are written.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.commit()) {
+        !file.flush() || !file.commit()) {
         return line(path, file.errorString() + QStringLiteral("; name another file"));
     }
     return {};

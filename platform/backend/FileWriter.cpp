@@ -65,8 +65,9 @@ QString updateNow(const QString& path, const FileWriter::Transform& transform)
     }
     const QByteArray content = transform(present);
     QSaveFile file(path);
+    // commit() takes no notice of what only comes to light when the last bytes are written.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.commit()) {
+        !file.flush() || !file.commit()) {
         return file.errorString();
     }
     return {};

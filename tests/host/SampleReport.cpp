@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "SampleReport.h"
+
+namespace {
+
+Measurement measured(const char* key, const QJsonValue& value)
+{
+    return {QLatin1String(key), Measurement::Status::Measured, value, {}};
+}
+
+ReportCheck check(const char* key, const char* answer, const char* device)
+{
+    ReportCheck result;
+    result.key = QLatin1String(key);
+    result.verdict = QStringLiteral("passed");
+    result.answer = QLatin1String(answer);
+    result.deviceState = QStringLiteral("works");
+    result.device = QString::fromUtf8(device);
+    return result;
+}
+
+} // namespace
+
+Report sampleReport()
+{
+    Report report;
+    report.id = QStringLiteral("6d1f8d5e-0f43-4a57-8b0f-7d5d9b0a1c11");
+    report.programVersion = QStringLiteral("1.0.0");
+    report.started = QDateTime(QDate(2026, 3, 1), QTime(8, 30), Qt::UTC);
+    report.finished = QDateTime(QDate(2026, 3, 1), QTime(8, 33, 20, 250), Qt::UTC);
+    report.language = QStringLiteral("de");
+    report.platform = QStringLiteral("devices");
+    report.outcome = QStringLiteral("passed");
+    report.facts = {{QStringLiteral("account"), QStringLiteral("robin@example.org")},
+                    {QStringLiteral("nickname"), QStringLiteral("Robin <b>B</b>")},
+                    {QStringLiteral("operatingSystem"), QStringLiteral("Debian GNU/Linux 12")},
+                    {QStringLiteral("processor"), QStringLiteral("A processor")},
+                    {QStringLiteral("server"), QStringLiteral("stun.example.org:3478")},
+                    {QStringLiteral("clientAddress"), QStringLiteral("192.0.2.7")},
+                    {QStringLiteral("cdn"), QStringLiteral("edge-1/edge-2")}};
+    report.cacheFreeBytes = 1536.0 * 1024 * 1024;
+    ReportCheck network = check("network", "none", "");
+    network.measurements = {measured("delayMs", 40), measured("jitterMs", 3),
+                            measured("lossPercent", 2)};
+    ReportCheck camera = check("camera", "yes", "Robin's <script>alert(1)</script> & \"camera\"");
+    camera.measurements = {
+        measured("rate", 29.97),
+        measured("blackShare", 0.75),
+        measured("lens", QStringLiteral("Robin's lens")),
+        {QStringLiteral("brightness"),
+         Measurement::Status::NotMeasured,
+         {},
+         QStringLiteral("notRecorded")},
+        {QStringLiteral("width"), Measurement::Status::Failed, {}, QStringLiteral("hung")}};
+    camera.contradictions << QStringLiteral("yesToBlackPicture");
+    ReportCheck speaker = check("speaker", "no", "Headset of Robin");
+    speaker.measurements = {measured("mutedAfter", false), measured("volumeAfter", 60)};
+    report.checks = {network, camera, speaker, check("microphone", "yes", "Mic \x1b[31m of Robin")};
+    report.grade = QStringLiteral("fair");
+    report.gradeLines = {{QStringLiteral("oneWayDelayMs"), QStringLiteral("good"), 20, 150, 400,
+                          QStringLiteral("ITU-T G.114")},
+                         {QStringLiteral("lossPercent"), QStringLiteral("fair"), 2, 1, 3,
+                          QStringLiteral("ITU-T G.1010")},
+                         {QStringLiteral("jitterMs"), QStringLiteral("good"), 3, 50, std::nullopt,
+                          QStringLiteral("ITU-T Y.1541")}};
+    report.lastGoodRun = QDateTime(QDate(2026, 2, 1), QTime(9, 0), Qt::UTC);
+    report.changes = {{QStringLiteral("camera"), QStringLiteral("device"),
+                       QStringLiteral("Old camera of Robin"),
+                       QStringLiteral("New camera of Robin")},
+                      {QStringLiteral("network"), QStringLiteral("grade"), QStringLiteral("good"),
+                       QStringLiteral("fair")}};
+    return report;
+}

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "host/Console.h"
+
+#include <QtTest>
+
+class tst_Console : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void plainLine_data();
+    void plainLine();
+    void columns();
+    void padding();
+};
+
+void tst_Console::plainLine_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("plain") << "A camera"
+                           << "A camera";
+    QTest::newRow("lines") << "a\nb\r\nc\td"
+                           << "a b c d";
+    QTest::newRow("an escape sequence") << "a\x1b[31mb"
+                                        << "a [31mb";
+    QTest::newRow("a bell and DEL") << "a\x07\x7f"
+                                       "b"
+                                    << "a b";
+    QTest::newRow("C1") << QStringLiteral("a") + QChar(0x9B) + QStringLiteral("b") << "a b";
+    QTest::newRow("turned around")
+        << QStringLiteral("a") + QChar(0x202E) + QStringLiteral("b") << "a b";
+    QTest::newRow("isolated") << QStringLiteral("a") + QChar(0x2067) + QStringLiteral("b") << "a b";
+}
+
+void tst_Console::plainLine()
+{
+    QFETCH(QString, text);
+    QTEST(Console::plainLine(text), "line");
+}
+
+void tst_Console::columns()
+{
+    QCOMPARE(Console::columns(QString()), 0);
+    QCOMPARE(Console::columns(QStringLiteral("Camera")), 6);
+    QCOMPARE(Console::columns(QString::fromUtf8("摄像头")), 6);
+    QCOMPARE(Console::columns(QString::fromUtf8("카메라 1")), 8);
+}
+
+void tst_Console::padding()
+{
+    QCOMPARE(Console::padded(QStringLiteral("ab"), 4), QStringLiteral("ab  "));
+    QCOMPARE(Console::padded(QString::fromUtf8("系统"), 5), QString::fromUtf8("系统 "));
+    QCOMPARE(Console::padded(QStringLiteral("abc"), 2), QStringLiteral("abc"));
+}
+
+QTEST_GUILESS_MAIN(tst_Console)
+#include "tst_Console.moc"

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "host/DeviceSurvey.h"
+#include "platform/scripted/ScriptedEngine.h"
+
+#include <QJsonArray>
+#include <QtTest>
+
+class tst_DeviceSurvey : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noDevices();
+    void everyDeviceHasItsState();
+    void foreignNames();
+    void nothingIsOpenedOrMoved();
+};
+
+void tst_DeviceSurvey::noDevices()
+{
+    Platform::ScriptedEngine engine;
+    const DeviceSurvey survey = DeviceSurvey::of(engine);
+    QCOMPARE(survey.toText(),
+             QStringLiteral("Cameras\n    none found\nMicrophones\n    none found\n"
+                            "Speakers\n    none found\n"));
+    QCOMPARE(survey.toJson().value(QStringLiteral("cameras")).toArray().size(), 0);
+}
+
+void tst_DeviceSurvey::everyDeviceHasItsState()
+{
+    Platform::ScriptedEngine engine;
+    using Platform::DeviceState;
+    engine.cameras().plug({QStringLiteral("c1"), QStringLiteral("One")}, DeviceState::Denied);
+    engine.cameras().plug({QStringLiteral("c2"), QStringLiteral("Two")}, DeviceState::Ready);
+    engine.microphones().plug({QStringLiteral("m"), QStringLiteral("Mic")}, DeviceState::Busy);
+    engine.microphones().setVolume(QStringLiteral("m"), 120);
+    engine.scriptedSpeakers().plug({QStringLiteral("s"), QStringLiteral("Speaker")});
+    engine.scriptedSpeakers().setVolume(QStringLiteral("s"), 40);
+    const DeviceSurvey survey = DeviceSurvey::of(engine);
+    QCOMPARE(survey.toText(), QStringLiteral("Cameras\n"
+                                             "  * denied    -      One\n"
+                                             "    ready     -      Two\n"
+                                             "Microphones\n"
+                                             "  * busy      120 %  Mic\n"
+                                             "Speakers\n"
+                                             "  * ready     40 %   Speaker\n"));
+    const QJsonObject camera =
+        survey.toJson().value(QStringLiteral("cameras")).toArray().at(0).toObject();
+    QCOMPARE(camera, (QJsonObject{{QStringLiteral("id"), QStringLiteral("c1")},
+                                  {QStringLiteral("name"), QStringLiteral("One")},
+                                  {QStringLiteral("state"), QStringLiteral("denied")},
+                                  {QStringLiteral("isCurrent"), true}}));
+}
+
+void tst_DeviceSurvey::foreignNames()
+{
+    DeviceSurvey survey;
+    survey.cameras.push_back({{QStringLiteral("c"), QStringLiteral("a\x1b[2J\nb")},
+                              Platform::DeviceState::Ready,
+                              false,
+                              std::nullopt});
+    QVERIFY(survey.toText().contains(QLatin1String("a [2J b\n")));
+}
+
+void tst_DeviceSurvey::nothingIsOpenedOrMoved()
+{
+    Platform::ScriptedEngine engine;
+    engine.cameras().plug({QStringLiteral("c"), QStringLiteral("One")});
+    engine.microphones().plug({QStringLiteral("m"), QStringLiteral("Mic")});
+    engine.scriptedSpeakers().plug({QStringLiteral("s"), QStringLiteral("Speaker")});
+    DeviceSurvey::of(engine);
+    for (const QString& command : engine.commands()) {
+        QVERIFY2(!command.contains(QLatin1String(".start")) &&
+                     !command.contains(QLatin1String(".open")) &&
+                     !command.contains(QLatin1String("setVolume")),
+                 qPrintable(command));
+    }
+    QCOMPARE(engine.livingSessions(), 0);
+}
+
+QTEST_GUILESS_MAIN(tst_DeviceSurvey)
+#include "tst_DeviceSurvey.moc"

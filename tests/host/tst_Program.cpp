@@ -1,0 +1,487 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "SampleReport.h"
+#include "host/report/ReportWriter.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+// The program as users start it, each time with a home of its own.
+class tst_Program : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void versionAndHelp();
+    void manPageNamesEveryOption();
+    void wrongUsage_data();
+    void wrongUsage();
+    void badInput_data();
+    void badInput();
+    void noDisplay();
+    void checkEndedBySignal_data();
+    void checkEndedBySignal();
+    void checkPutOut();
+    void resultsAndReportGoWhereAsked();
+    void unwritablePlaces_data();
+    void unwritablePlaces();
+    void diskFull();
+    void unwritableHome();
+    void runsAreKeptAndCompared();
+    void redactedRun();
+    void devices();
+    void networkLines();
+    void serveAndMeasure();
+    void servedPortInUse();
+    void reports();
+
+private:
+    struct Run
+    {
+        int code = -1;
+        QString out;
+        QString error;
+    };
+
+    std::unique_ptr<QProcess> started(const QStringList& arguments,
+                                      const QString& wrapper = QString()) const;
+    static Run finished(QProcess& process);
+    Run run(const QStringList& arguments) const { return finished(*started(arguments)); }
+    // Opens the check, waits until it runs, and ends it.
+    Run checked(const QStringList& arguments, int signal = SIGTERM,
+                const QString& wrapper = QString()) const;
+    QString file(const char* name) const { return m_home->filePath(QLatin1String(name)); }
+    QString dataFolder() const { return file(".local/share/envcheck"); }
+    static QJsonObject jsonOf(const QString& path);
+    static QStringList linesOf(const QString& path);
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+namespace {
+
+constexpr int TimeoutMs = 20000;
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+void tst_Program::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_home->isValid());
+}
+
+std::unique_ptr<QProcess> tst_Program::started(const QStringList& arguments,
+                                               const QString& wrapper) const
+{
+    auto process = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), m_home->path());
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_home->path());
+    environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process->setProcessEnvironment(environment);
+    const QString program = QStringLiteral(ENVCHECK_PROGRAM);
+    if (wrapper.isEmpty()) {
+        process->start(program, arguments);
+    } else {
+        process->start(QStringLiteral("bash"),
+                       QStringList{QStringLiteral("-c"), wrapper, program} + arguments);
+    }
+    return process;
+}
+
+tst_Program::Run tst_Program::finished(QProcess& process)
+{
+    Run result;
+    if (!process.waitForFinished(TimeoutMs)) {
+        process.kill();
+        process.waitForFinished();
+        result.error = QStringLiteral("it didn't end");
+        return result;
+    }
+    result.code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    result.error = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+// The results file tells that the network was measured while the dialog was open.
+tst_Program::Run tst_Program::checked(const QStringList& arguments, int signal,
+                                      const QString& wrapper) const
+{
+    QStringList all = arguments;
+    QString results = file("results-of-check.json");
+    const int given = static_cast<int>(all.indexOf(QStringLiteral("--results")));
+    if (given >= 0) {
+        results = all.at(given + 1);
+    } else {
+        all << QStringLiteral("--results") << results;
+    }
+    QFile::remove(results);
+    const std::unique_ptr<QProcess> process = started(all, wrapper);
+    const auto isMeasured = [&results] {
+        QFile content(results);
+        return content.open(QIODevice::ReadOnly) && content.readAll().contains("delay");
+    };
+    const bool isOver = QTest::qWaitFor(
+        [&] { return isMeasured() || process->state() == QProcess::NotRunning; }, TimeoutMs);
+    if (!isOver) {
+        qWarning("The check never measured the network");
+    }
+    ::kill(static_cast<pid_t>(process->processId()), signal);
+    return finished(*process);
+}
+
+QJsonObject tst_Program::jsonOf(const QString& path)
+{
+    QFile content(path);
+    return content.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(content.readAll()).object()
+                                             : QJsonObject();
+}
+
+QStringList tst_Program::linesOf(const QString& path)
+{
+    QFile content(path);
+    return content.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(content.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+               : QStringList();
+}
+
+void tst_Program::versionAndHelp()
+{
+    const Run version = run(words("--version"));
+    QCOMPARE(version.code, 0);
+    QVERIFY(QRegularExpression(QStringLiteral("^envcheck \\d+\\.\\d+\\.\\d+\\n$"))
+                .match(version.out)
+                .hasMatch());
+    for (const char* command :
+         {"--help", "devices --help", "network --help", "serve --help", "report --help"}) {
+        const Run help = run(words(command));
+        QCOMPARE(help.code, 0);
+        QVERIFY(help.out.contains(QLatin1String("Options:")));
+        QCOMPARE(help.error, QString());
+    }
+}
+
+void tst_Program::manPageNamesEveryOption()
+{
+    QFile page(QStringLiteral(ENVCHECK_SOURCE_DIR "/docs/envcheck.1"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString text =
+        QString::fromUtf8(page.readAll()).replace(QLatin1String("\\-"), QLatin1String("-"));
+    static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
+    int count = 0;
+    for (const char* command :
+         {"--help", "devices --help", "network --help", "serve --help", "report --help"}) {
+        auto matches = option.globalMatch(run(words(command)).out);
+        while (matches.hasNext()) {
+            const QString name = matches.next().captured();
+            QVERIFY2(text.contains(name), qPrintable(name));
+            ++count;
+        }
+    }
+    QVERIFY(count > 20);
+    for (const char* code : {"0", "1", "2", "3", "64", "65", "69", "73"}) {
+        QVERIFY2(text.contains(QStringLiteral(".B %1\n").arg(QLatin1String(code))), code);
+    }
+}
+
+void tst_Program::wrongUsage_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("unknown option") << "--nothing"
+                                    << "nothing";
+    QTest::newRow("unknown command") << "walk"
+                                     << "walk";
+    QTest::newRow("bad value") << "--platform moon"
+                               << "moon";
+    QTest::newRow("no such language") << "--scenario all-well --language tlh"
+                                      << "tlh";
+    QTest::newRow("no report named") << "report"
+                                     << "FILE";
+    QTest::newRow("no report in that language") << "report x --language tlh"
+                                                << "tlh";
+}
+
+void tst_Program::wrongUsage()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, named);
+    const Run result = run(words(qPrintable(arguments)));
+    QCOMPARE(result.code, 64);
+    QCOMPARE(result.out, QString());
+    QVERIFY2(result.error.startsWith(QLatin1String("envcheck: ")), qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+    QVERIFY2(result.error.contains(named), qPrintable(result.error));
+}
+
+void tst_Program::badInput_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::newRow("check") << "--scenario";
+    QTest::newRow("devices") << "devices --scenario";
+    QTest::newRow("network") << "network --scenario";
+    QTest::newRow("report") << "report";
+}
+
+void tst_Program::badInput()
+{
+    QFETCH(QString, arguments);
+    QFile broken(file("broken.json"));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("{ \"cameras\": 5 ");
+    broken.close();
+    for (const QString& name : {broken.fileName(), file("not-there.json")}) {
+        const Run result = run(words(qPrintable(arguments)) + QStringList{name});
+        QCOMPARE(result.code, 65);
+        QCOMPARE(result.out, QString());
+        QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+        QVERIFY2(result.error.contains(name), qPrintable(result.error));
+    }
+}
+
+void tst_Program::noDisplay()
+{
+    const QString wrapper =
+        QStringLiteral("unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; exec \"$0\" \"$@\"");
+    const Run result = finished(*started(words("--scenario all-well"), wrapper));
+    QCOMPARE(result.code, 69);
+    QVERIFY2(result.error.contains(QLatin1String("no display")), qPrintable(result.error));
+    QCOMPARE(finished(*started(words("devices --scenario all-well"), wrapper)).code, 0);
+}
+
+void tst_Program::checkEndedBySignal_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGTERM") << SIGTERM;
+}
+
+void tst_Program::checkEndedBySignal()
+{
+    QFETCH(int, signal);
+    const Run result = checked(words("--scenario all-well"), signal);
+    QCOMPARE(result.code, 2);
+    QCOMPARE(result.error, QString());
+    const QStringList lines = result.out.split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 6);
+    QVERIFY2(lines.at(0).startsWith(QLatin1String("System   Passed")), qPrintable(result.out));
+    QVERIFY(lines.at(4).contains(dataFolder()));
+}
+
+void tst_Program::checkPutOut()
+{
+    const std::unique_ptr<QProcess> process = started(words("--scenario kicked-out"));
+    const Run result = finished(*process);
+    QCOMPARE(result.code, 3);
+    QCOMPARE(result.error, QString());
+}
+
+void tst_Program::resultsAndReportGoWhereAsked()
+{
+    for (const char* name : {"r.json", "r.html", "r.txt"}) {
+        const QString report = file(name);
+        const Run result = checked(
+            QStringList{QStringLiteral("--scenario"), QStringLiteral("all-well"),
+                        QStringLiteral("--report"), report, QStringLiteral("--results"),
+                        file("results.json"), QStringLiteral("--language"), QStringLiteral("fr")});
+        QCOMPARE(result.code, 2);
+        QVERIFY2(result.out.contains(report), qPrintable(result.out));
+        QVERIFY(QFileInfo(report).size() > 1000);
+    }
+    const QJsonObject results = jsonOf(file("results.json"));
+    QCOMPARE(results.value(QStringLiteral("version")).toInt(), 1);
+    const QJsonObject report = jsonOf(file("r.json"));
+    QString error;
+    QVERIFY2(Report::fromJson(report, &error), qPrintable(error));
+    QCOMPARE(report.value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
+    QCOMPARE(report.value(QStringLiteral("scenario")).toString(), QStringLiteral("all-well"));
+    QVERIFY(!QFileInfo::exists(dataFolder() + QStringLiteral("/reports/r.json")));
+}
+
+void tst_Program::unwritablePlaces_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("results") << "--results";
+    QTest::newRow("report") << "--report";
+}
+
+// Said before the check opens: nobody's time is lost.
+void tst_Program::unwritablePlaces()
+{
+    QFETCH(QString, option);
+    for (const char* place : {"/nonexistent/r.json", "/", "/etc/passwd/r.json"}) {
+        const Run result =
+            run(words("--scenario all-well") + QStringList{option, QLatin1String(place)});
+        QCOMPARE(result.code, 73);
+        QCOMPARE(result.out, QString());
+        QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+        QVERIFY2(result.error.contains(QLatin1String(place)), qPrintable(result.error));
+    }
+}
+
+// No file may grow above nothing: the disk is full for this process.
+void tst_Program::diskFull()
+{
+    const std::unique_ptr<QProcess> process =
+        started(words("--scenario kicked-out"),
+                QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\""));
+    const Run result = finished(*process);
+    QCOMPARE(result.code, 73);
+    QCOMPARE(result.out.count(QLatin1Char('\n')), 4); // the table is there
+    QVERIFY2(result.error.contains(QLatin1String("reports/")), qPrintable(result.error));
+    QVERIFY2(result.error.contains(QLatin1String("can't be written")), qPrintable(result.error));
+    const QDir reports(dataFolder() + QStringLiteral("/reports"));
+    QCOMPARE(reports.entryList(QDir::Files | QDir::Hidden), QStringList());
+}
+
+void tst_Program::unwritableHome()
+{
+    QFile blocking(file(".local"));
+    QVERIFY(blocking.open(QIODevice::WriteOnly));
+    const Run result = run(words("--scenario kicked-out"));
+    QCOMPARE(result.code, 73);
+    QCOMPARE(result.out.count(QLatin1Char('\n')), 4);
+    QVERIFY2(result.error.contains(QLatin1String("reports")), qPrintable(result.error));
+}
+
+void tst_Program::runsAreKeptAndCompared()
+{
+    // A good run of another day, then two that were put out.
+    Report good = sampleReport();
+    good.platform = QStringLiteral("scripted");
+    QVERIFY(QDir().mkpath(dataFolder()));
+    QFile runs(dataFolder() + QStringLiteral("/runs.jsonl"));
+    QVERIFY(runs.open(QIODevice::WriteOnly));
+    runs.write("{\"outcome\":\"passed\",\"platform\":\"scripted\",\"finished\":\"2026-01-02T03:04:"
+               "05.000Z\",\"operatingSystem\":\"Another system\"}\n");
+    runs.close();
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(run(QStringList{QStringLiteral("--scenario"), QStringLiteral("kicked-out"),
+                                 QStringLiteral("--report"), file("r.json")})
+                     .code,
+                 3);
+    }
+    const QStringList lines = linesOf(runs.fileName());
+    QCOMPARE(lines.size(), 3);
+    const QJsonObject last = QJsonDocument::fromJson(lines.last().toUtf8()).object();
+    QCOMPARE(last.value(QStringLiteral("outcome")).toString(), QStringLiteral("putOut"));
+    QCOMPARE(last.value(QStringLiteral("report")).toString(), file("r.json"));
+    QString error;
+    const std::optional<Report> report = Report::fromJson(jsonOf(file("r.json")), &error);
+    QVERIFY2(report, qPrintable(error));
+    QVERIFY(report->lastGoodRun);
+    QCOMPARE(report->changes.at(0).what, QStringLiteral("operatingSystem"));
+    QCOMPARE(report->changes.at(0).before, QStringLiteral("Another system"));
+}
+
+void tst_Program::redactedRun()
+{
+    for (const char* level : {"personal", "hash"}) {
+        const Run result = run(QStringList{
+            QStringLiteral("--scenario"), QStringLiteral("kicked-out"), QStringLiteral("--account"),
+            QStringLiteral("robin@example.org"), QStringLiteral("--report"), file("r.html"),
+            QStringLiteral("--redact"), QLatin1String(level)});
+        QCOMPARE(result.code, 3);
+        QVERIFY(!linesOf(file("r.html")).join(QLatin1Char(' ')).contains(QLatin1String("robin")));
+    }
+    QCOMPARE(QFileInfo(dataFolder() + QStringLiteral("/redaction.key")).size(), 32);
+}
+
+void tst_Program::devices()
+{
+    const Run table = run(words("devices --scenario hostile-names"));
+    QCOMPARE(table.code, 0);
+    QVERIFY(table.out.startsWith(QLatin1String("Cameras\n")));
+    QVERIFY(!table.out.contains(QChar(0x1B)));
+    const Run json = run(words("devices --json --scenario all-well"));
+    const QJsonObject object = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QCOMPARE(object.keys(), words("cameras microphones speakers"));
+}
+
+void tst_Program::networkLines()
+{
+    const Run good = run(words("network --scenario all-well --count 2"));
+    QCOMPARE(good.code, 0);
+    const QStringList lines = good.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(0).startsWith(QLatin1String("server ")), qPrintable(lines.at(0)));
+    QVERIFY2(lines.at(2).startsWith(QLatin1String("delay ")), qPrintable(lines.at(2)));
+    QVERIFY(!good.out.contains(QLatin1Char('\r')));
+    const Run none = run(words("network --scenario network-unmeasured --count 1"));
+    QCOMPARE(none.code, 1);
+    QVERIFY2(none.out.contains(QLatin1String("no answer")), qPrintable(none.out));
+}
+
+void tst_Program::serveAndMeasure()
+{
+    const std::unique_ptr<QProcess> server = started(words("serve --port 0"));
+    QVERIFY(server->waitForReadyRead(TimeoutMs));
+    static const QRegularExpression port(QStringLiteral("UDP port (\\d+)"));
+    const QString number =
+        port.match(QString::fromUtf8(server->readAllStandardOutput())).captured(1);
+    QVERIFY(!number.isEmpty());
+    for (const char* host : {"127.0.0.1", "[::1]"}) {
+        const Run measured =
+            run(QStringList{QStringLiteral("network"), QStringLiteral("--count"),
+                            QStringLiteral("1"), QStringLiteral("--server"),
+                            QStringLiteral("stun:%1:%2").arg(QLatin1String(host), number)});
+        QCOMPARE(measured.code, 0);
+        QVERIFY2(measured.out.contains(QLatin1String("delay ")), qPrintable(measured.out));
+        QVERIFY2(!measured.out.contains(QLatin1String("::ffff")), qPrintable(measured.out));
+    }
+    ::kill(static_cast<pid_t>(server->processId()), SIGINT);
+    QCOMPARE(finished(*server).code, 0);
+}
+
+void tst_Program::servedPortInUse()
+{
+    const std::unique_ptr<QProcess> server = started(words("serve --port 0"));
+    QVERIFY(server->waitForReadyRead(TimeoutMs));
+    static const QRegularExpression port(QStringLiteral("UDP port (\\d+)"));
+    const QString number =
+        port.match(QString::fromUtf8(server->readAllStandardOutput())).captured(1);
+    const Run second = run(QStringList{QStringLiteral("serve"), QStringLiteral("--port"), number});
+    QCOMPARE(second.code, 69);
+    QVERIFY2(second.error.contains(number), qPrintable(second.error));
+    server->terminate();
+    QCOMPARE(finished(*server).code, 0);
+}
+
+void tst_Program::reports()
+{
+    QFile report(file("one.json"));
+    QVERIFY(report.open(QIODevice::WriteOnly));
+    report.write(ReportWriter::toJson(sampleReport()));
+    report.close();
+    const auto shown = [&](const char* options) {
+        return run(QStringList{QStringLiteral("report"), report.fileName()} + words(options));
+    };
+    QVERIFY(shown("--language en").out.startsWith(QLatin1String("System check report\n")));
+    QVERIFY(shown("--language ja --format html").out.contains(QLatin1String("lang=\"ja\"")));
+    QCOMPARE(QJsonDocument::fromJson(shown("--format json").out.toUtf8()).object(),
+             sampleReport().toJson());
+    const Run room = run(QStringList{QStringLiteral("report"), report.fileName(), report.fileName(),
+                                     QStringLiteral("--format"), QStringLiteral("room")});
+    QCOMPARE(room.out.count(QLatin1Char('\n')), 3);
+    QVERIFY(!shown("--redact personal").out.contains(QLatin1String("robin")));
+    const Run list = run(QStringList{QStringLiteral("report"), report.fileName(), report.fileName(),
+                                     QStringLiteral("--format"), QStringLiteral("json")});
+    QCOMPARE(QJsonDocument::fromJson(list.out.toUtf8()).array().size(), 2);
+}
+
+QTEST_GUILESS_MAIN(tst_Program)
+#include "tst_Program.moc"

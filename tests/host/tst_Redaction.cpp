@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "SampleReport.h"
+#include "host/report/Redaction.h"
+#include "host/report/ReportWriter.h"
+
+#include <QtTest>
+
+class tst_Redaction : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noneChangesNothing();
+    void nothingOfAPersonIsLeft_data();
+    void nothingOfAPersonIsLeft();
+    void whatSaysNothingOfAPersonStays_data();
+    void whatSaysNothingOfAPersonStays();
+    void equalTextsHaveEqualCodes();
+    void whatIsGoneStaysGone();
+};
+
+namespace {
+
+const QByteArray Key("a key of thirty-two bytes or more");
+
+Report redacted(Options::Redaction level, const QByteArray& key = Key)
+{
+    return Redaction(level, key).redacted(sampleReport());
+}
+
+void addLevels()
+{
+    QTest::addColumn<Options::Redaction>("level");
+    QTest::newRow("personal") << Options::Redaction::Personal;
+    QTest::newRow("hash") << Options::Redaction::Hash;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Options::Redaction)
+
+void tst_Redaction::noneChangesNothing()
+{
+    QCOMPARE(redacted(Options::Redaction::None).toJson(), sampleReport().toJson());
+}
+
+void tst_Redaction::nothingOfAPersonIsLeft_data()
+{
+    addLevels();
+}
+
+void tst_Redaction::nothingOfAPersonIsLeft()
+{
+    QFETCH(Options::Redaction, level);
+    const Report report = redacted(level);
+    for (const Options::Format format :
+         {Options::Format::Json, Options::Format::Text, Options::Format::Html}) {
+        const QString shown =
+            QString::fromUtf8(ReportWriter::toFormat(report, format, QStringLiteral("de")));
+        for (const char* word : {"obin", "192.0.2.7", "stun.example", "edge-1", "alert(1)"}) {
+            QVERIFY2(!shown.contains(QLatin1String(word)), word);
+        }
+    }
+}
+
+void tst_Redaction::whatSaysNothingOfAPersonStays_data()
+{
+    addLevels();
+}
+
+void tst_Redaction::whatSaysNothingOfAPersonStays()
+{
+    QFETCH(Options::Redaction, level);
+    const Report before = sampleReport();
+    const Report report = redacted(level);
+    QCOMPARE(report.outcome, before.outcome);
+    QCOMPARE(report.grade, before.grade);
+    QCOMPARE(report.facts.value(QStringLiteral("operatingSystem")),
+             before.facts.value(QStringLiteral("operatingSystem")));
+    const ReportCheck* camera = report.check(QStringLiteral("camera"));
+    QCOMPARE(camera->measurement(QStringLiteral("rate"))->value.toDouble(), 29.97);
+    QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
+    QCOMPARE(camera->contradictions, before.check(QStringLiteral("camera"))->contradictions);
+    QCOMPARE(report.changes.at(1).before, QStringLiteral("good"));
+}
+
+void tst_Redaction::equalTextsHaveEqualCodes()
+{
+    const auto account = [](const Report& report) {
+        return report.facts.value(QStringLiteral("account")).toString();
+    };
+    const Report report = redacted(Options::Redaction::Hash);
+    QVERIFY(
+        QRegularExpression(QStringLiteral("^#[0-9a-f]{12}$")).match(account(report)).hasMatch());
+    QCOMPARE(account(report), account(redacted(Options::Redaction::Hash)));
+    QVERIFY(account(report) != report.facts.value(QStringLiteral("nickname")).toString());
+    QVERIFY(account(report) != account(redacted(Options::Redaction::Hash, "another key")));
+}
+
+void tst_Redaction::whatIsGoneStaysGone()
+{
+    const Report personal = redacted(Options::Redaction::Personal);
+    const Redaction hash(Options::Redaction::Hash, Key);
+    QCOMPARE(hash.redacted(personal).redaction, QStringLiteral("personal"));
+    const Report codes = redacted(Options::Redaction::Hash);
+    QCOMPARE(hash.redacted(codes).toJson(), codes.toJson());
+    QCOMPARE(Redaction(Options::Redaction::Personal, Key).redacted(codes).redaction,
+             QStringLiteral("personal"));
+    QCOMPARE(Redaction(Options::Redaction::None, Key).redacted(personal).redaction,
+             QStringLiteral("personal"));
+}
+
+QTEST_GUILESS_MAIN(tst_Redaction)
+#include "tst_Redaction.moc"

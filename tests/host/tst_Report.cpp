@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "SampleReport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class tst_Report : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void roundTrip();
+    void theThreeKindsOfFigures();
+    void unknownFiguresAreCarriedAlong();
+    void isValidBySchema_data();
+    void isValidBySchema();
+    void brokenOnesAreNamed_data();
+    void brokenOnesAreNamed();
+};
+
+namespace {
+
+QJsonObject withoutKey(QJsonObject object, const QString& key)
+{
+    object.remove(key);
+    return object;
+}
+
+QJsonObject withValue(QJsonObject object, const QString& key, const QJsonValue& value)
+{
+    object.insert(key, value);
+    return object;
+}
+
+// The report's first check with one value changed.
+QJsonObject withCheckValue(QJsonObject object, const QString& key, const QJsonValue& value)
+{
+    QJsonArray checks = object.value(QStringLiteral("checks")).toArray();
+    checks[0] = withValue(checks.at(0).toObject(), key, value);
+    return withValue(object, QStringLiteral("checks"), checks);
+}
+
+int runSchemaCheck(const QJsonObject& object, QString* output)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("report.json")));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return -1;
+    }
+    file.write(QJsonDocument(object).toJson());
+    file.close();
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral("python3"),
+                  {QStringLiteral("-c"),
+                   QStringLiteral("import json, jsonschema, sys\n"
+                                  "schema = json.load(open(sys.argv[1]))\n"
+                                  "jsonschema.Draft7Validator.check_schema(schema)\n"
+                                  "jsonschema.validate(json.load(open(sys.argv[2])), schema)\n"),
+                   QStringLiteral(ENVCHECK_SOURCE_DIR "/docs/report-schema.json"),
+                   file.fileName()});
+    process.waitForFinished();
+    *output = QString::fromUtf8(process.readAll());
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+} // namespace
+
+void tst_Report::roundTrip()
+{
+    const QJsonObject object = sampleReport().toJson();
+    QString error;
+    const std::optional<Report> read = Report::fromJson(object, &error);
+    QVERIFY2(read, qPrintable(error));
+    QCOMPARE(QJsonDocument(read->toJson()).toJson(), QJsonDocument(object).toJson());
+    QCOMPARE(read->finished, sampleReport().finished);
+    QCOMPARE(read->cacheFreeBytes, sampleReport().cacheFreeBytes);
+    QVERIFY(!read->facts.contains(QStringLiteral("cacheFreeBytes")));
+}
+
+void tst_Report::theThreeKindsOfFigures()
+{
+    QString error;
+    const std::optional<Report> read = Report::fromJson(sampleReport().toJson(), &error);
+    QVERIFY2(read, qPrintable(error));
+    const ReportCheck* camera = read->check(QStringLiteral("camera"));
+    QVERIFY(camera);
+    QCOMPARE(camera->measurement(QStringLiteral("rate"))->status, Measurement::Status::Measured);
+    QCOMPARE(camera->measurement(QStringLiteral("rate"))->value.toDouble(), 29.97);
+    QCOMPARE(camera->measurement(QStringLiteral("brightness"))->status,
+             Measurement::Status::NotMeasured);
+    QCOMPARE(camera->measurement(QStringLiteral("width"))->status, Measurement::Status::Failed);
+    QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
+    QVERIFY(!camera->measurement(QStringLiteral("height")));
+}
+
+void tst_Report::unknownFiguresAreCarriedAlong()
+{
+    QString error;
+    const std::optional<Report> read = Report::fromJson(sampleReport().toJson(), &error);
+    QVERIFY2(read, qPrintable(error));
+    const ReportCheck* camera = read->check(QStringLiteral("camera"));
+    QCOMPARE(camera->measurement(QStringLiteral("lens"))->value.toString(),
+             QStringLiteral("Robin's lens"));
+}
+
+void tst_Report::isValidBySchema_data()
+{
+    QTest::addColumn<QJsonObject>("object");
+    QTest::addColumn<bool>("isValid");
+    const QJsonObject good = sampleReport().toJson();
+    Report bare = sampleReport();
+    bare.facts = {};
+    bare.cacheFreeBytes.reset();
+    bare.checks.clear();
+    bare.grade.clear();
+    bare.lastGoodRun.reset();
+    QTest::newRow("whole") << good << true;
+    QTest::newRow("bare") << bare.toJson() << true;
+    QTest::newRow("another version") << withValue(good, QStringLiteral("version"), 2) << false;
+    QTest::newRow("no checks") << withoutKey(good, QStringLiteral("checks")) << false;
+    QTest::newRow("a wrong verdict")
+        << withCheckValue(good, QStringLiteral("verdict"), QStringLiteral("maybe")) << false;
+    QTest::newRow("a figure without value and reason")
+        << withCheckValue(
+               good, QStringLiteral("measurements"),
+               QJsonArray{QJsonObject{{QStringLiteral("key"), QStringLiteral("delayMs")},
+                                      {QStringLiteral("status"), QStringLiteral("measured")}}})
+        << false;
+    QTest::newRow("an unknown field")
+        << withValue(good, QStringLiteral("more"), QStringLiteral("x")) << false;
+}
+
+void tst_Report::isValidBySchema()
+{
+    QFETCH(QJsonObject, object);
+    QFETCH(bool, isValid);
+    QString output;
+    const int code = runSchemaCheck(object, &output);
+    if (isValid) {
+        QVERIFY2(code == 0, qPrintable(output));
+    } else {
+        QVERIFY2(code == 1 && output.contains(QLatin1String("ValidationError")),
+                 qPrintable(output));
+    }
+}
+
+void tst_Report::brokenOnesAreNamed_data()
+{
+    QTest::addColumn<QJsonObject>("object");
+    QTest::addColumn<QString>("field");
+    const QJsonObject good = sampleReport().toJson();
+    QTest::newRow("empty") << QJsonObject() << "format: ";
+    QTest::newRow("another format")
+        << withValue(good, QStringLiteral("format"), QStringLiteral("diary")) << "format: ";
+    QTest::newRow("a newer version")
+        << withValue(good, QStringLiteral("version"), 2) << "version: it is 2";
+    for (const char* key : {"id", "programVersion", "started", "finished", "language", "platform",
+                            "redaction", "outcome", "system", "checks"}) {
+        QTest::newRow(key) << withoutKey(good, QLatin1String(key))
+                           << QStringLiteral("%1: it is missing").arg(QLatin1String(key));
+    }
+    QTest::newRow("no time") << withValue(good, QStringLiteral("finished"), QStringLiteral("noon"))
+                             << "finished: it isn't a time";
+    QTest::newRow("a list as text")
+        << withValue(good, QStringLiteral("checks"), 5) << "checks: it isn't a list";
+    QTest::newRow("a wrong verdict")
+        << withCheckValue(good, QStringLiteral("verdict"), QStringLiteral("maybe"))
+        << "checks[0].verdict: it is 'maybe'";
+    QTest::newRow("a figure without a key")
+        << withCheckValue(good, QStringLiteral("measurements"), QJsonArray{QJsonObject()})
+        << "checks[0].measurements[0].key: it is missing";
+    QTest::newRow("contradictions of numbers")
+        << withCheckValue(good, QStringLiteral("contradictions"), QJsonArray{1})
+        << "checks[0].contradictions: ";
+}
+
+void tst_Report::brokenOnesAreNamed()
+{
+    QFETCH(QJsonObject, object);
+    QFETCH(QString, field);
+    QString error;
+    QVERIFY(!Report::fromJson(object, &error));
+    QVERIFY2(error.startsWith(field), qPrintable(error));
+}
+
+QTEST_GUILESS_MAIN(tst_Report)
+#include "tst_Report.moc"

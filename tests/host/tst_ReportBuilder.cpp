@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "host/report/ReportBuilder.h"
+#include "platform/backend/ResultDocument.h"
+#include "platform/scripted/CallLog.h"
+#include "platform/scripted/ScriptedFacts.h"
+
+#include <QtTest>
+
+class tst_ReportBuilder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void facts();
+    void answersAndStates_data();
+    void answersAndStates();
+    void missingFigures_data();
+    void missingFigures();
+    void engineSaysWhy();
+    void noAnswerFromTheServer();
+    void unknownFigures();
+    void grade();
+    void contradictions_data();
+    void contradictions();
+};
+
+namespace {
+
+const ReportBuilder::Run SomeRun = {QDateTime(QDate(2026, 3, 1), QTime(8, 0), Qt::UTC),
+                                    QDateTime(QDate(2026, 3, 1), QTime(8, 5), Qt::UTC),
+                                    QStringLiteral("de"), QStringLiteral("scripted"),
+                                    QStringLiteral("all-well")};
+
+Report built(const Platform::ResultDocument& document)
+{
+    Platform::CallLog log;
+    const Platform::ScriptedFacts facts(log);
+    const QJsonObject object = document.toJson();
+    return ReportBuilder::build(SomeRun, object, RunOutcome::fromDocument(object, false), facts);
+}
+
+// A check that was answered.
+void answer(Platform::ResultDocument& document, const QString& check, int userState,
+            int deviceState)
+{
+    document.recordResult(check + QStringLiteral(".userState"), userState);
+    document.recordResult(check + QStringLiteral(".deviceState"), deviceState);
+    document.recordResult(check + QStringLiteral(".device"), QStringLiteral("A device"));
+}
+
+Measurement figure(const Report& report, const QString& check, const QString& key)
+{
+    const ReportCheck* found = report.check(check);
+    const Measurement* measurement = found ? found->measurement(key) : nullptr;
+    return measurement ? *measurement : Measurement();
+}
+
+} // namespace
+
+void tst_ReportBuilder::facts()
+{
+    Platform::CallLog log;
+    Platform::ScriptedFacts facts(log);
+    Platform::ScriptedFacts::Values values;
+    values.accountFallbackName = QStringLiteral("robin");
+    values.operatingSystem = QStringList{QStringLiteral("Debian"), QStringLiteral("12")};
+    values.cdnFirstPart = QStringLiteral("edge");
+    values.cacheVolumeAvailableBytes = 5;
+    facts.setValues(values);
+    const Report report =
+        ReportBuilder::build(SomeRun, {}, RunOutcome::fromDocument({}, false), facts);
+    QCOMPARE(report.facts,
+             (QJsonObject{{QStringLiteral("account"), QStringLiteral("robin")},
+                          {QStringLiteral("operatingSystem"), QStringLiteral("Debian 12")},
+                          {QStringLiteral("cdn"), QStringLiteral("edge/")}}));
+    QCOMPARE(report.cacheFreeBytes, std::optional<double>(5));
+    QCOMPARE(report.outcome, QStringLiteral("leftEarly"));
+    QCOMPARE(report.scenario, QStringLiteral("all-well"));
+    values.cacheVolumeAvailableBytes = -1;
+    facts.setValues(values);
+    QVERIFY(!ReportBuilder::build(SomeRun, {}, RunOutcome::fromDocument({}, false), facts)
+                 .cacheFreeBytes);
+}
+
+void tst_ReportBuilder::answersAndStates_data()
+{
+    QTest::addColumn<int>("userState");
+    QTest::addColumn<int>("deviceState");
+    QTest::addColumn<QString>("answerWord");
+    QTest::addColumn<QString>("stateWord");
+    QTest::newRow("yes, works") << 1 << 1 << "yes"
+                                << "works";
+    QTest::newRow("no, fails") << 2 << 2 << "no"
+                               << "fails";
+    QTest::newRow("nothing") << 0 << 0 << "none"
+                             << "unknown";
+}
+
+void tst_ReportBuilder::answersAndStates()
+{
+    QFETCH(int, userState);
+    QFETCH(int, deviceState);
+    Platform::ResultDocument document;
+    answer(document, QStringLiteral("speaker"), userState, deviceState);
+    const Report report = built(document);
+    const ReportCheck* check = report.check(QStringLiteral("speaker"));
+    QTEST(check->answer, "answerWord");
+    QTEST(check->deviceState, "stateWord");
+    QCOMPARE(check->device, QStringLiteral("A device"));
+}
+
+void tst_ReportBuilder::missingFigures_data()
+{
+    QTest::addColumn<bool>("wasOpened");
+    QTest::addColumn<QString>("state"); // as the engine recorded it
+    QTest::addColumn<bool>("hasFailed");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("step not opened") << false << QString() << false << "stepNotOpened";
+    QTest::newRow("nothing recorded") << true << QString() << false << "notRecorded";
+    QTest::newRow("no device") << true << "absent" << false << "absent";
+    QTest::newRow("turned off") << true << "off" << false << "off";
+    QTest::newRow("silent") << true << "silent" << false << "silent";
+    QTest::newRow("works") << true << "working" << false << "notRecorded";
+    QTest::newRow("denied") << true << "denied" << true << "denied";
+    QTest::newRow("busy") << true << "busy" << true << "busy";
+    QTest::newRow("hung") << true << "hung" << true << "hung";
+    QTest::newRow("broken") << true << "failed" << true << "failed";
+}
+
+void tst_ReportBuilder::missingFigures()
+{
+    QFETCH(bool, wasOpened);
+    QFETCH(QString, state);
+    QFETCH(bool, hasFailed);
+    Platform::ResultDocument document;
+    if (wasOpened) {
+        answer(document, QStringLiteral("camera"), 2, 2);
+    }
+    if (!state.isEmpty()) {
+        document.recordMeasurement(QStringLiteral("camera"), {{QStringLiteral("state"), state}});
+    }
+    const Measurement rate =
+        figure(built(document), QStringLiteral("camera"), QStringLiteral("rate"));
+    QCOMPARE(rate.status,
+             hasFailed ? Measurement::Status::Failed : Measurement::Status::NotMeasured);
+    QTEST(rate.reason, "reason");
+}
+
+void tst_ReportBuilder::engineSaysWhy()
+{
+    Platform::ResultDocument document;
+    document.recordMeasurement(
+        QStringLiteral("camera"),
+        {{QStringLiteral("rate"),
+          QJsonObject{{QStringLiteral("failed"), QStringLiteral("the clock stood still")}}},
+         {QStringLiteral("brightness"),
+          QJsonObject{{QStringLiteral("notMeasured"), QStringLiteral("off")}}},
+         {QStringLiteral("width"), 640}});
+    const Report report = built(document);
+    const QString camera = QStringLiteral("camera");
+    QCOMPARE(figure(report, camera, QStringLiteral("rate")).status, Measurement::Status::Failed);
+    QCOMPARE(figure(report, camera, QStringLiteral("rate")).reason,
+             QStringLiteral("the clock stood still"));
+    QCOMPARE(figure(report, camera, QStringLiteral("brightness")).status,
+             Measurement::Status::NotMeasured);
+    QCOMPARE(figure(report, camera, QStringLiteral("width")).value.toInt(), 640);
+}
+
+void tst_ReportBuilder::noAnswerFromTheServer()
+{
+    Platform::ResultDocument document;
+    document.recordMeasurement(QStringLiteral("network"), {{QStringLiteral("delayMs"), -1},
+                                                           {QStringLiteral("lossPercent"), 100}});
+    const Report report = built(document);
+    const Measurement delay = figure(report, QStringLiteral("network"), QStringLiteral("delayMs"));
+    QCOMPARE(delay.status, Measurement::Status::Failed);
+    QCOMPARE(delay.reason, QStringLiteral("noAnswer"));
+    QCOMPARE(report.grade, QString());
+}
+
+void tst_ReportBuilder::unknownFigures()
+{
+    Platform::ResultDocument document;
+    document.recordMeasurement(QStringLiteral("microphone"),
+                               {{QStringLiteral("temperature"), 36.5},
+                                {QStringLiteral("device"), QStringLiteral("A device")},
+                                {QStringLiteral("state"), QStringLiteral("working")}});
+    const Report report = built(document);
+    const QString microphone = QStringLiteral("microphone");
+    QCOMPARE(figure(report, microphone, QStringLiteral("temperature")).value.toDouble(), 36.5);
+    QVERIFY(!report.check(microphone)->measurement(QStringLiteral("device")));
+    QVERIFY(!report.check(microphone)->measurement(QStringLiteral("state")));
+}
+
+void tst_ReportBuilder::grade()
+{
+    Platform::ResultDocument document;
+    document.recordMeasurement(QStringLiteral("network"), {{QStringLiteral("delayMs"), 400},
+                                                           {QStringLiteral("lossPercent"), 1},
+                                                           {QStringLiteral("jitterMs"), 10}});
+    const Report report = built(document);
+    QCOMPARE(report.grade, QStringLiteral("fair"));
+    QCOMPARE(report.gradeLines.size(), std::size_t(3));
+    QCOMPARE(report.gradeLines.at(0).value, 200.0);
+    QCOMPARE(report.gradeLines.at(0).fairUpTo, std::optional<double>(400));
+    QCOMPARE(report.gradeLines.at(2).fairUpTo, std::optional<double>());
+}
+
+void tst_ReportBuilder::contradictions_data()
+{
+    QTest::addColumn<QString>("check");
+    QTest::addColumn<int>("userState");
+    QTest::addColumn<int>("deviceState");
+    QTest::addColumn<QJsonObject>("figures");
+    QTest::addColumn<QString>("words");
+    const auto one = [](const char* key, const QJsonValue& value) {
+        return QJsonObject{{QLatin1String(key), value}};
+    };
+    const QJsonObject none;
+    QTest::newRow("camera fine") << "camera" << 1 << 1 << one("blackShare", 0.5) << "";
+    QTest::newRow("black") << "camera" << 1 << 1 << one("blackShare", 0.51) << "yesToBlackPicture";
+    QTest::newRow("frozen") << "camera" << 1 << 1 << one("frozenShare", 0.9)
+                            << "yesToFrozenPicture";
+    QTest::newRow("no pictures") << "camera" << 1 << 2 << none << "yesWithoutPictures";
+    QTest::newRow("no to good pictures") << "camera" << 2 << 1 << none << "noToGoodPicture";
+    QTest::newRow("no to black ones") << "camera" << 2 << 1 << one("blackShare", 1) << "";
+    QTest::newRow("no to no pictures") << "camera" << 2 << 2 << none << "";
+    QTest::newRow("camera not answered") << "camera" << 0 << 2 << none << "";
+    QTest::newRow("right sound") << "speaker" << 1 << 1 << none << "";
+    QTest::newRow("wrong sound") << "speaker" << 1 << 2 << none << "yesToWrongSound";
+    QTest::newRow("muted") << "speaker" << 1 << 1 << one("mutedAfter", true) << "yesToMutedSpeaker";
+    QTest::newRow("volume 0") << "speaker" << 1 << 1 << one("volumeAfter", 0)
+                              << "yesToMutedSpeaker";
+    QTest::newRow("no, right sound") << "speaker" << 2 << 1 << none << "noToRightSound";
+    QTest::newRow("no, wrong sound") << "speaker" << 2 << 2 << none << "";
+    QTest::newRow("voice heard") << "microphone" << 1 << 1 << one("soundHeard", true) << "";
+    QTest::newRow("silence") << "microphone" << 1 << 2 << none << "yesToSilence";
+    QTest::newRow("heard nothing")
+        << "microphone" << 1 << 1 << one("soundHeard", false) << "yesToSilence";
+    QTest::newRow("no to good sound") << "microphone" << 2 << 1 << none << "noToGoodSound";
+    QTest::newRow("no to silence") << "microphone" << 2 << 1 << one("soundHeard", false) << "";
+}
+
+void tst_ReportBuilder::contradictions()
+{
+    QFETCH(QString, check);
+    QFETCH(int, userState);
+    QFETCH(int, deviceState);
+    QFETCH(QJsonObject, figures);
+    Platform::ResultDocument document;
+    answer(document, check, userState, deviceState);
+    document.recordMeasurement(check, figures);
+    QTEST(built(document).check(check)->contradictions.join(QLatin1Char(' ')), "words");
+}
+
+QTEST_GUILESS_MAIN(tst_ReportBuilder)
+#include "tst_ReportBuilder.moc"

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "SampleReport.h"
+#include "host/Languages.h"
+#include "host/report/ReportTexts.h"
+#include "host/report/ReportView.h"
+#include "host/report/ReportWriter.h"
+
+#include <QXmlStreamReader>
+#include <QtTest>
+
+class tst_ReportWriter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyLanguageHasItsTwin_data();
+    void everyLanguageHasItsTwin();
+    void htmlIsWellFormedAndSelfContained();
+    void foreignTextIsNoMarkup();
+    void textHasNoControlCharacters();
+    void textAndHtmlShowTheSame();
+    void everyWordHasAText_data();
+    void everyWordHasAText();
+    void theThreeKindsReadDifferently();
+    void roomTable();
+    void formats_data();
+    void formats();
+};
+
+namespace {
+
+QString html(const QString& language)
+{
+    return ReportWriter::toHtml({sampleReport()}, language);
+}
+
+// What a reader sees of a page, without its head.
+QString visibleText(QString page)
+{
+    page.remove(QStringLiteral("<!DOCTYPE html>"));
+    page.replace(QRegularExpression(QStringLiteral("<meta ([^>]*)>")),
+                 QStringLiteral("<meta \\1/>"));
+    QXmlStreamReader reader(page);
+    QString text;
+    bool isBody = false;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        isBody = isBody || (reader.isStartElement() && reader.name() == QLatin1String("body"));
+        if (isBody && reader.isCharacters()) {
+            text += reader.text() + QLatin1Char(' ');
+        }
+    }
+    return reader.hasError() ? QString() : text.simplified();
+}
+
+} // namespace
+
+void tst_ReportWriter::everyLanguageHasItsTwin_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : Languages::available()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void tst_ReportWriter::everyLanguageHasItsTwin()
+{
+    QFETCH(QString, language);
+    const QString title = ReportTexts(language).text("ID_Host_Report_Title");
+    const QString twin = QStringLiteral("System check report (English, for support)");
+    const bool isEnglish = language == QLatin1String("en");
+    for (const QString& shown : {ReportWriter::toText(sampleReport(), language), html(language)}) {
+        QVERIFY(shown.contains(title));
+        QCOMPARE(shown.contains(twin), !isEnglish);
+        QVERIFY2(!shown.contains(QLatin1String("ID_")), qPrintable(shown));
+    }
+    QCOMPARE(html(language).contains(QLatin1String("dir=\"rtl\"")),
+             language == QLatin1String("ar"));
+}
+
+void tst_ReportWriter::htmlIsWellFormedAndSelfContained()
+{
+    const QString page = html(QStringLiteral("zh_CN"));
+    QVERIFY(!visibleText(page).isEmpty());
+    for (const char* word : {"<script", "src=", "href=", "url(", "@import", "http:", "https:"}) {
+        QVERIFY2(!page.contains(QLatin1String(word)), word);
+    }
+    QVERIFY(page.contains(QLatin1String("default-src 'none'")));
+    QVERIFY(page.contains(QLatin1String("lang=\"zh-CN\"")));
+}
+
+void tst_ReportWriter::foreignTextIsNoMarkup()
+{
+    const QString page = html(QStringLiteral("en"));
+    QVERIFY(!page.contains(QLatin1String("<b>B")));
+    QVERIFY(page.contains(QLatin1String("Robin &lt;b&gt;B&lt;/b&gt;")));
+    QVERIFY(page.contains(
+        QLatin1String("Robin's &lt;script&gt;alert(1)&lt;/script&gt; &amp; &quot;camera&quot;")));
+}
+
+void tst_ReportWriter::textHasNoControlCharacters()
+{
+    for (const QString& shown :
+         {ReportWriter::toText(sampleReport(), QStringLiteral("en")), html(QStringLiteral("en"))}) {
+        QVERIFY(!shown.contains(QChar(0x1B)));
+        QVERIFY(shown.contains(QLatin1String("Mic [31m of Robin")));
+    }
+}
+
+void tst_ReportWriter::textAndHtmlShowTheSame()
+{
+    const QString text = ReportWriter::toText(sampleReport(), QStringLiteral("de"));
+    const QString page = visibleText(html(QStringLiteral("de")));
+    const ReportView view = ReportView::of(sampleReport(), ReportTexts(QStringLiteral("de")));
+    QVERIFY(view.sections.size() >= 7);
+    for (const ReportView::Section& section : view.sections) {
+        QVERIFY(text.contains(section.title) && page.contains(section.title));
+        for (const ReportView::Row& row : section.rows) {
+            const QString value = QString(row.value).remove(QChar(0x1B)).simplified();
+            QVERIFY2(text.simplified().contains(row.caption + QLatin1Char(' ') + value) ||
+                         value.contains(QLatin1String("[31m")),
+                     qPrintable(row.caption));
+            QVERIFY2(page.contains(row.caption + QLatin1Char(' ') + value) ||
+                         value.contains(QLatin1String("[31m")),
+                     qPrintable(row.caption));
+        }
+    }
+}
+
+void tst_ReportWriter::everyWordHasAText_data()
+{
+    everyLanguageHasItsTwin_data();
+}
+
+void tst_ReportWriter::everyWordHasAText()
+{
+    QFETCH(QString, language);
+    const ReportTexts texts(language);
+    const auto isText = [](const QString& text, const QString& word) {
+        return !text.isEmpty() && text != word && !text.startsWith(QLatin1String("ID_"));
+    };
+    for (const char* each : {"passed", "failed", "leftEarly", "putOut"}) {
+        QVERIFY2(isText(texts.outcome(QLatin1String(each)), QLatin1String(each)), each);
+    }
+    for (const char* each : {"yesWithoutPictures", "yesToBlackPicture", "yesToFrozenPicture",
+                             "noToGoodPicture", "yesToWrongSound", "yesToMutedSpeaker",
+                             "noToRightSound", "yesToSilence", "noToGoodSound"}) {
+        QVERIFY2(isText(texts.contradiction(QLatin1String(each)), QLatin1String(each)), each);
+    }
+    for (const char* each : {"stepNotOpened", "notRecorded", "absent", "off", "silent", "denied",
+                             "busy", "hung", "failed", "noAnswer"}) {
+        QVERIFY2(isText(texts.reason(QLatin1String(each)), QLatin1String(each)), each);
+    }
+    QCOMPARE(texts.reason(QStringLiteral("<own words>")), QStringLiteral("<own words>"));
+    QVERIFY(!texts.caption("ID_NetworkPage_Account").endsWith(QLatin1Char(':')));
+    QVERIFY(!texts.caption("ID_NetworkPage_Account").endsWith(QChar(0xFF1A)));
+}
+
+void tst_ReportWriter::theThreeKindsReadDifferently()
+{
+    const QString text = ReportWriter::toText(sampleReport(), QStringLiteral("en")).simplified();
+    QVERIFY(text.contains(QLatin1String("Picture rate 30/s")));
+    QVERIFY(text.contains(QLatin1String("Brightness not measured: the engine does not record it")));
+    QVERIFY(
+        text.contains(QLatin1String("Picture width measuring failed: the device did not answer")));
+    QVERIFY(text.contains(QLatin1String("Black pictures 75 %")));
+    QVERIFY(text.contains(QLatin1String("lens Robin's lens")));
+    QVERIFY(text.contains(QLatin1String("20 ms: good (good up to 150 ms, fair up to 400 ms; "
+                                        "ITU-T G.114)")));
+    QVERIFY(
+        text.contains(QString::fromUtf8("Camera, Device Old camera of Robin \u2192 New camera")));
+}
+
+void tst_ReportWriter::roomTable()
+{
+    Report second = sampleReport();
+    second.redaction = QStringLiteral("personal");
+    second.facts = {};
+    second.checks.clear();
+    second.grade.clear();
+    QCOMPARE(ReportWriter::toRoomTable({sampleReport(), second},
+                                       {QStringLiteral("seat-1"), QStringLiteral("robins-file")},
+                                       QStringLiteral("en")),
+             QStringLiteral(
+                 "#       Account            Outcome            System  Camera  Speaker  Mic     "
+                 "Network quality  Contradiction\n"
+                 "seat-1  robin@example.org  Everything passed  Passed  Passed  Passed   Passed  "
+                 "fair             1\n"
+                 "2                          Everything passed  -       -       -        -       "
+                 "-                0\n"));
+}
+
+void tst_ReportWriter::formats_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("format");
+    QTest::newRow("json") << "a.json" << static_cast<int>(Options::Format::Json);
+    QTest::newRow("html") << "a.html" << static_cast<int>(Options::Format::Html);
+    QTest::newRow("HTM") << "a.HTM" << static_cast<int>(Options::Format::Html);
+    QTest::newRow("txt") << "a.b.txt" << static_cast<int>(Options::Format::Text);
+    QTest::newRow("none") << "report" << static_cast<int>(Options::Format::Json);
+}
+
+void tst_ReportWriter::formats()
+{
+    QFETCH(QString, name);
+    QTEST(static_cast<int>(ReportWriter::formatOf(name)), "format");
+}
+
+QTEST_GUILESS_MAIN(tst_ReportWriter)
+#include "tst_ReportWriter.moc"

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+
+#include "host/Languages.h"
+#include "host/RunOutcome.h"
+#include "platform/backend/ResultDocument.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(ExitCode)
+
+class tst_RunOutcome : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void exitCodes_data();
+    void exitCodes();
+    void network_data();
+    void network();
+    void devices_data();
+    void devices();
+    void table();
+
+private:
+    Languages m_languages;
+};
+
+namespace {
+
+QJsonObject documentWhereAllPassed()
+{
+    Platform::ResultDocument document;
+    document.recordResult(QStringLiteral("network.delay"), QStringLiteral("37ms"));
+    document.recordResult(QStringLiteral("network.loss"), QStringLiteral("1%"));
+    for (const char* check : {"camera", "speaker", "microphone"}) {
+        const QString name = QLatin1String(check);
+        document.recordResult(name + QStringLiteral(".userState"), 1);
+        document.recordResult(name + QStringLiteral(".deviceState"), 1);
+        document.recordResult(name + QStringLiteral(".device"), QStringLiteral("The ") + name);
+    }
+    document.recordCode(3);
+    return document.toJson();
+}
+
+// The document with one value changed.
+QJsonObject with(QJsonObject document, const char* check, const char* name, const QJsonValue& value)
+{
+    QJsonObject results = document.value(QLatin1String("results")).toObject();
+    QJsonObject values = results.value(QLatin1String(check)).toObject();
+    values.insert(QLatin1String(name), value);
+    results.insert(QLatin1String(check), values);
+    document.insert(QStringLiteral("results"), results);
+    return document;
+}
+
+QJsonObject withCodes(QJsonObject document, const QJsonArray& codes)
+{
+    document.insert(QStringLiteral("codes"), codes);
+    return document;
+}
+
+} // namespace
+
+void tst_RunOutcome::initTestCase()
+{
+    QCOMPARE(m_languages.use(QStringLiteral("en")), QString());
+}
+
+void tst_RunOutcome::exitCodes_data()
+{
+    QTest::addColumn<QJsonObject>("document");
+    QTest::addColumn<bool>("wasPutOut");
+    QTest::addColumn<ExitCode>("code");
+    const QJsonObject good = documentWhereAllPassed();
+    const QJsonObject bad = with(good, "camera", "userState", 2);
+    QTest::newRow("all passed") << good << false << ExitCode::AllPassed;
+    QTest::newRow("a failure") << bad << false << ExitCode::SomeFailed;
+    QTest::newRow("left early") << withCodes(good, {7}) << false << ExitCode::LeftEarly;
+    QTest::newRow("ended by a signal") << withCodes(good, {}) << false << ExitCode::LeftEarly;
+    QTest::newRow("put out") << withCodes(good, {}) << true << ExitCode::PutOut;
+    QTest::newRow("put out after the end") << good << true << ExitCode::PutOut;
+    QTest::newRow("nothing at all") << QJsonObject() << false << ExitCode::LeftEarly;
+}
+
+void tst_RunOutcome::exitCodes()
+{
+    QFETCH(QJsonObject, document);
+    QFETCH(bool, wasPutOut);
+    QTEST(RunOutcome::fromDocument(document, wasPutOut).exitCode, "code");
+}
+
+void tst_RunOutcome::network_data()
+{
+    QTest::addColumn<QString>("delay");
+    QTest::addColumn<QString>("loss");
+    QTest::addColumn<int>("verdict");
+    const int passed = static_cast<int>(CheckOutcome::Verdict::Passed);
+    const int failed = static_cast<int>(CheckOutcome::Verdict::Failed);
+    QTest::newRow("499 ms") << "499ms"
+                            << "0%" << passed;
+    QTest::newRow("500 ms") << "500ms"
+                            << "0%" << failed;
+    QTest::newRow("not measured") << "N/A"
+                                  << "0%" << failed;
+    QTest::newRow("70 %") << "37ms"
+                          << "70%" << passed;
+    QTest::newRow("71 %") << "37ms"
+                          << "71%" << failed;
+    QTest::newRow("no loss known") << "37ms" << QString() << failed;
+    QTest::newRow("never shown") << QString() << QString()
+                                 << static_cast<int>(CheckOutcome::Verdict::NotTested);
+}
+
+void tst_RunOutcome::network()
+{
+    QFETCH(QString, delay);
+    QFETCH(QString, loss);
+    const QJsonObject document = with(with({}, "network", "delay", delay), "network", "loss", loss);
+    const CheckOutcome check = RunOutcome::fromDocument(document, false).checks.at(0);
+    QCOMPARE(check.key, QStringLiteral("network"));
+    QTEST(static_cast<int>(check.verdict), "verdict");
+}
+
+void tst_RunOutcome::devices_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("verdict");
+    QTest::newRow("yes, works") << 1 << 1 << static_cast<int>(CheckOutcome::Verdict::Passed);
+    QTest::newRow("yes, fails") << 1 << 2 << static_cast<int>(CheckOutcome::Verdict::Failed);
+    QTest::newRow("no, works") << 2 << 1 << static_cast<int>(CheckOutcome::Verdict::Failed);
+    QTest::newRow("no answer") << 0 << 1 << static_cast<int>(CheckOutcome::Verdict::NotTested);
+}
+
+void tst_RunOutcome::devices()
+{
+    QFETCH(int, answer);
+    QFETCH(int, state);
+    for (const char* key : {"camera", "speaker", "microphone"}) {
+        const QJsonObject document =
+            with(with({}, key, "userState", answer), key, "deviceState", state);
+        const RunOutcome outcome = RunOutcome::fromDocument(document, false);
+        const auto check =
+            std::find_if(outcome.checks.begin(), outcome.checks.end(),
+                         [key](const CheckOutcome& c) { return c.key == QLatin1String(key); });
+        QVERIFY(check != outcome.checks.end());
+        QTEST(static_cast<int>(check->verdict), "verdict");
+    }
+}
+
+void tst_RunOutcome::table()
+{
+    const QJsonObject document =
+        with(with(documentWhereAllPassed(), "camera", "device", QStringLiteral("A\x1b[2J\nB")),
+             "speaker", "userState", 2);
+    QCOMPARE(RunOutcome::fromDocument(document, false).toText(),
+             QStringLiteral("System   Passed  37ms, 1%\n"
+                            "Camera   Passed  A [2J B\n"
+                            "Speaker  Failed  The speaker\n"
+                            "Mic      Passed  The microphone\n"));
+}
+
+QTEST_GUILESS_MAIN(tst_RunOutcome)
+#include "tst_RunOutcome.moc"
