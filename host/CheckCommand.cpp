@@ -33,10 +33,21 @@ ExitCode CheckCommand::run()
         Console::printError(languageProblem);
         return m_options.language.isEmpty() ? ExitCode::Unavailable : ExitCode::WrongUsage;
     }
-    if (!prepareFiles() || !prepareRedaction()) {
+    if (!prepareTour() || !prepareFiles() || !prepareRedaction()) {
         return ExitCode::CannotWrite;
     }
     return open(languages.current());
+}
+
+bool CheckCommand::prepareTour()
+{
+    const QString folder = m_options.tourFolder;
+    if (folder.isEmpty() || QDir().mkpath(folder)) {
+        return true;
+    }
+    Console::printError(
+        QStringLiteral("--tour %1: this folder can't be made; name another one").arg(folder));
+    return false;
 }
 
 // A file that was named is tried before the user spends time on the check. The default place is
@@ -51,9 +62,11 @@ bool CheckCommand::prepareFiles()
         }
     }
     m_reportFile = m_options.reportFile;
-    if (m_reportFile.isEmpty()) {
+    if (m_reportFile.isEmpty() && isTour()) {
+        m_reportFile = m_options.tourFolder + QStringLiteral("/report.html");
+    } else if (m_reportFile.isEmpty()) {
         const QString name =
-            QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss"));
+            QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss-zzz"));
         m_reportFile = QStringLiteral("%1/%2.json").arg(Folders::reports(), name);
         QDir().mkpath(Folders::reports());
     }
@@ -87,6 +100,7 @@ ExitCode CheckCommand::open(const QString& language)
                              isScripted ? QStringLiteral("scripted") : QStringLiteral("devices"),
                              QFileInfo(m_options.scenario).completeBaseName()};
     installed.prepare();
+    const std::unique_ptr<Tour> tour = startTour(installed.engine());
     CheckRun run;
     run.exec();
     facts.finished = QDateTime::currentDateTime();
@@ -104,7 +118,8 @@ ExitCode CheckCommand::open(const QString& language)
             isWritten = false;
         }
     }
-    return isWritten ? outcome.exitCode : ExitCode::CannotWrite;
+    const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
+    return isWritten ? code : ExitCode::CannotWrite;
 }
 
 bool CheckCommand::write(Report report) const
@@ -115,19 +130,22 @@ bool CheckCommand::write(Report report) const
     const QString problem = ReportFile::write(
         m_reportFile,
         ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
+    // A tour is nobody's run.
+    if (!isTour()) {
+        history.append(report,
+                       problem.isEmpty() ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
+    }
     if (!problem.isEmpty()) {
         Console::printError(problem);
-        history.append(report, QString());
         return false;
     }
-    history.append(report, QFileInfo(m_reportFile).absoluteFilePath());
     Console::print(qtTrId("ID_Host_ReportIsIn").arg(m_reportFile) + QLatin1Char('\n'));
     return true;
 }
 
 std::unique_ptr<Tour> CheckCommand::startTour(Platform::Engine& engine) const
 {
-    if (m_options.tourFolder.isEmpty()) {
+    if (!isTour()) {
         return nullptr;
     }
     auto* scripted = dynamic_cast<Platform::ScriptedEngine*>(&engine);

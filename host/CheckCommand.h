@@ -23,6 +23,7 @@ public:
     ExitCode run(); // returns when the dialog is closed and all is written
 
 private:
+    bool isTour() const { return !m_options.tourFolder.isEmpty(); }
     bool prepareFiles();
     bool prepareTour();
     bool prepareRedaction();

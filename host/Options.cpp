@@ -351,6 +351,7 @@ QString Options::helpText(Command command)
     return parser.helpText() +
            QStringLiteral("\nWithout a command the check opens. Each command has its own --help."
                           "\n\nExit codes: 0 all passed, 1 finished with failures, 2 left early, "
-                          "3 put out by the engine,\n64 wrong usage, 65 a named file can't be "
+                          "3 put out by the engine,\n4 the tour found a fault, 64 wrong usage, 65 "
+                          "a named file can't be "
                           "used, 69 something needed isn't there,\n73 a file can't be written.\n");
 }

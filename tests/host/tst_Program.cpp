@@ -193,7 +193,7 @@ void tst_Program::manPageNamesEveryOption()
         }
     }
     QVERIFY(count > 20);
-    for (const char* code : {"0", "1", "2", "3", "64", "65", "69", "73"}) {
+    for (const char* code : {"0", "1", "2", "3", "4", "64", "65", "69", "73"}) {
         QVERIFY2(text.contains(QStringLiteral(".B %1\n").arg(QLatin1String(code))), code);
     }
 }
