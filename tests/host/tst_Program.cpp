@@ -58,6 +58,7 @@ private:
     Run checked(const QStringList& arguments, int signal = SIGTERM,
                 const QString& wrapper = QString()) const;
     QString file(const char* name) const { return m_home->filePath(QLatin1String(name)); }
+    QString quickEnd() const; // a scenario that soon puts the user out
     QString dataFolder() const { return file(".local/share/envcheck"); }
     static QJsonObject jsonOf(const QString& path);
     static QStringList linesOf(const QString& path);
@@ -80,6 +81,16 @@ void tst_Program::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     QVERIFY(m_home->isValid());
+}
+
+QString tst_Program::quickEnd() const
+{
+    QFile scenario(file("quick-end.json"));
+    if (scenario.open(QIODevice::WriteOnly)) {
+        scenario.write("{ \"base\": \"all-well\", \"timeline\": "
+                       "[ { \"atMs\": 1000, \"event\": \"kickOut\" } ] }");
+    }
+    return scenario.fileName();
 }
 
 std::unique_ptr<QProcess> tst_Program::started(const QStringList& arguments,
@@ -284,7 +295,8 @@ void tst_Program::checkEndedBySignal()
 
 void tst_Program::checkPutOut()
 {
-    const std::unique_ptr<QProcess> process = started(words("--scenario kicked-out"));
+    const std::unique_ptr<QProcess> process =
+        started(QStringList{QStringLiteral("--scenario"), quickEnd()});
     const Run result = finished(*process);
     QCOMPARE(result.code, 3);
     QCOMPARE(result.error, QString());
@@ -337,7 +349,7 @@ void tst_Program::unwritablePlaces()
 void tst_Program::diskFull()
 {
     const std::unique_ptr<QProcess> process =
-        started(words("--scenario kicked-out"),
+        started(QStringList{QStringLiteral("--scenario"), quickEnd()},
                 QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\""));
     const Run result = finished(*process);
     QCOMPARE(result.code, 73);
@@ -352,7 +364,7 @@ void tst_Program::unwritableHome()
 {
     QFile blocking(file(".local"));
     QVERIFY(blocking.open(QIODevice::WriteOnly));
-    const Run result = run(words("--scenario kicked-out"));
+    const Run result = run(QStringList{QStringLiteral("--scenario"), quickEnd()});
     QCOMPARE(result.code, 73);
     QCOMPARE(result.out.count(QLatin1Char('\n')), 4);
     QVERIFY2(result.error.contains(QLatin1String("reports")), qPrintable(result.error));
@@ -370,7 +382,7 @@ void tst_Program::runsAreKeptAndCompared()
                "05.000Z\",\"operatingSystem\":\"Another system\"}\n");
     runs.close();
     for (int i = 0; i < 2; ++i) {
-        QCOMPARE(run(QStringList{QStringLiteral("--scenario"), QStringLiteral("kicked-out"),
+        QCOMPARE(run(QStringList{QStringLiteral("--scenario"), quickEnd(),
                                  QStringLiteral("--report"), file("r.json")})
                      .code,
                  3);
@@ -391,10 +403,10 @@ void tst_Program::runsAreKeptAndCompared()
 void tst_Program::redactedRun()
 {
     for (const char* level : {"personal", "hash"}) {
-        const Run result = run(QStringList{
-            QStringLiteral("--scenario"), QStringLiteral("kicked-out"), QStringLiteral("--account"),
-            QStringLiteral("robin@example.org"), QStringLiteral("--report"), file("r.html"),
-            QStringLiteral("--redact"), QLatin1String(level)});
+        const Run result =
+            run(QStringList{QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--account"),
+                            QStringLiteral("robin@example.org"), QStringLiteral("--report"),
+                            file("r.html"), QStringLiteral("--redact"), QLatin1String(level)});
         QCOMPARE(result.code, 3);
         QVERIFY(!linesOf(file("r.html")).join(QLatin1Char(' ')).contains(QLatin1String("robin")));
     }
