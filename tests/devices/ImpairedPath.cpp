@@ -6,6 +6,7 @@
 #include <QNetworkDatagram>
 #include <QTimer>
 #include <QUdpSocket>
+#include <algorithm>
 #include <deque>
 
 namespace {
@@ -73,7 +74,8 @@ private:
             m_held.pop_front();
         }
         if (!m_held.empty()) {
-            m_timer.start(int((m_held.front().dueNs - m_clock.nsecsElapsed()) / 1000000));
+            m_timer.start(
+                std::max(0, int((m_held.front().dueNs - m_clock.nsecsElapsed()) / 1000000)));
         }
     }
 
