@@ -5,11 +5,13 @@
 #include "platform/devices/pipewire/PipeWireCameraSystem.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/GapMeter.h"
+#include "tests/support/MachineGap.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/PipeWireServer.h"
 
 #include <QDir>
 #include <QtTest>
+#include <cerrno>
 #include <csignal>
 #include <optional>
 
@@ -80,6 +82,16 @@ int cameraThreads()
 
 const QRgb Red = qRgb(0xc8, 0x28, 0x28);
 const QRgb Green = qRgb(0x28, 0xa0, 0x28);
+const QRgb Blue = qRgb(0, 0, 255);
+const QString GreenText = QStringLiteral("28a028");
+
+QStringList openFiles()
+{
+    QStringList result = QDir(QStringLiteral("/proc/self/fd"))
+                             .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
+    result.sort();
+    return result;
+}
 
 } // namespace
 
@@ -88,10 +100,37 @@ class tst_PipeWireCameras : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
     void init();
     void cleanup();
 
     void listsAndShowsTwoCameras();
+    void numbersEqualNames();
+    void mergesBursts();
+    void hidesWhatIsNoCamera();
+    void readsEveryLayout_data();
+    void readsEveryLayout();
+    void turnsTurnedSensors_data();
+    void turnsTurnedSensors();
+    void readsDriverMemory();
+    void followsFormatChanges();
+    void picksUpReturningCamera();
+    void noticesSilence();
+    void waitsForMissingCamera();
+    void switchesOff();
+    void abandonsHungStart();
+    void tellsFailures_data();
+    void tellsFailures();
+    void outlivesTheServer();
+    void outlivesTheManager();
+    void waitsForTheServer();
+    void neverBlocksWhileServerIsFrozen_data();
+    void neverBlocksWhileServerIsFrozen();
+    void remembersTheChoice();
+    void ignoresAbsentRememberedChoice();
+    void measures();
+    void leavesNothingBehind();
 
 private:
     using Camera = std::unique_ptr<CameraProcess>;
@@ -101,6 +140,7 @@ private:
     void makeBackend();
     QStringList ids() const;
     QStringList names() const;
+    QJsonObject figures() const { return m_report.measurements.value(QStringLiteral("camera")); }
     QString stateName() const { return toString(m_backend->state()); }
 
     std::unique_ptr<PipeWireServer> m_server;
@@ -111,10 +151,19 @@ private:
     std::unique_ptr<CameraBackend> m_backend;
 };
 
-void tst_PipeWireCameras::init()
+void tst_PipeWireCameras::initTestCase()
 {
     m_server = std::make_unique<PipeWireServer>();
     QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+}
+
+void tst_PipeWireCameras::cleanupTestCase()
+{
+    m_server.reset();
+}
+
+void tst_PipeWireCameras::init()
+{
     m_settings = std::make_unique<QTemporaryDir>();
     m_report = MemoryReport();
     m_watcher = Watcher();
@@ -124,16 +173,17 @@ void tst_PipeWireCameras::cleanup()
 {
     m_backend.reset();
     m_system.reset();
+    m_server->thaw();
+    m_server->thawManager();
     QTRY_COMPARE(cameraThreads(), 0);
-    m_server.reset();
     QVERIFY(FileWriter::waitForWritten(LongMs));
 }
 
 void tst_PipeWireCameras::listsAndShowsTwoCameras()
 {
     const Camera a = plug(NameA, QStringLiteral("Camera A"));
-    const Camera b = plug(NameB, QStringLiteral("Camera B"),
-                          {QStringLiteral("--color"), QStringLiteral("28a028")});
+    const Camera b =
+        plug(NameB, QStringLiteral("Camera B"), {QStringLiteral("--color"), GreenText});
     makeBackend();
     const QStringList both{NameA, NameB};
     QTRY_COMPARE_WITH_TIMEOUT(ids(), both, LongMs);
@@ -160,11 +210,490 @@ void tst_PipeWireCameras::listsAndShowsTwoCameras()
     QVERIFY(m_backend->latestPicture().isNull());
 }
 
+void tst_PipeWireCameras::numbersEqualNames()
+{
+    const Camera a = plug(NameA, QStringLiteral("Camera"));
+    const Camera b = plug(NameB, QStringLiteral("Camera"));
+    makeBackend();
+    const QStringList expected{QStringLiteral("Camera"), QStringLiteral("Camera (2)")};
+    QTRY_COMPARE_WITH_TIMEOUT(names(), expected, LongMs);
+}
+
+void tst_PipeWireCameras::mergesBursts()
+{
+    constexpr int Count = 4;
+    std::vector<Camera> cameras;
+    for (int i = 0; i < Count; ++i) {
+        cameras.push_back(plug(QStringLiteral("cam_%1").arg(i), QStringLiteral("Camera")));
+    }
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), Count, LongMs);
+    QTRY_VERIFY(m_watcher.log.endsWith(QStringLiteral("current cam_0")));
+    m_watcher.log.clear();
+    for (const Camera& camera : cameras) {
+        camera->sendSignal(SIGKILL);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 0, LongMs);
+    const QStringList expected{QStringLiteral("list"), QStringLiteral("current cam_0")};
+    QTRY_COMPARE(m_watcher.log, expected);
+}
+
+void tst_PipeWireCameras::hidesWhatIsNoCamera()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    const Camera grey = plug(QStringLiteral("grey"), QStringLiteral("Sensor"),
+                             {QStringLiteral("--layout"), QStringLiteral("GRAY8")});
+    const Camera infrared =
+        plug(QStringLiteral("infrared"), QStringLiteral("Integrated IR Camera"));
+    const Camera screen = plug(QStringLiteral("screen"), QStringLiteral("Desktop"),
+                               {QStringLiteral("--role"), QStringLiteral("Screen")});
+    const Camera last = plug(QStringLiteral("last"), QStringLiteral("Last"));
+    makeBackend();
+    const QStringList expected{NameA, QStringLiteral("last")};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), expected, LongMs);
+}
+
+void tst_PipeWireCameras::readsEveryLayout_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("padding");
+    QTest::addColumn<QSize>("expected");
+    const QSize usual(640, 360);
+    const QSize fitted(306, 172);
+    for (const char* layout :
+         {"YUY2", "UYVY", "NV12", "I420", "RGB", "BGR", "RGBx", "BGRx", "xRGB", "xBGR", "MJPG"}) {
+        QTest::newRow(layout) << QString::fromLatin1(layout) << usual << 0 << fitted;
+    }
+    QTest::newRow("padded rows") << QStringLiteral("YUY2") << usual << 64 << fitted;
+    QTest::newRow("padded planes") << QStringLiteral("NV12") << usual << 64 << fitted;
+    for (const char* layout : {"YUY2", "NV12", "I420", "RGB", "MJPG"}) {
+        QTest::newRow(qPrintable(QStringLiteral("odd ") + QLatin1String(layout)))
+            << QString::fromLatin1(layout) << QSize(333, 187) << 0 << fitted;
+    }
+    QTest::newRow("smaller than the preview")
+        << QStringLiteral("YUY2") << QSize(161, 99) << 0 << QSize(161, 99);
+}
+
+void tst_PipeWireCameras::readsEveryLayout()
+{
+    QFETCH(QString, layout);
+    QFETCH(QSize, size);
+    QFETCH(int, padding);
+    QFETCH(QSize, expected);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--layout"), layout, QStringLiteral("--width"),
+                                QString::number(size.width()), QStringLiteral("--height"),
+                                QString::number(size.height()), QStringLiteral("--padding"),
+                                QString::number(padding)});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    const QImage picture = m_backend->latestPicture();
+    QCOMPARE(picture.size(), expected);
+    QCOMPARE(picture.format(), QImage::Format_RGB32);
+    QVERIFY(shows(picture, Red));
+    // The band at the camera's left is at the right of a self-view.
+    QVERIFY(isNear(picture.pixel(picture.width() - 6, picture.height() / 2), Blue));
+    QVERIFY(!isNear(picture.pixel(6, picture.height() / 2), Blue));
+}
+
+void tst_PipeWireCameras::turnsTurnedSensors_data()
+{
+    QTest::addColumn<int>("transform");
+    QTest::addColumn<QSize>("expected");
+    QTest::addColumn<QPointF>("band"); // where the camera's left is then, in shares of the picture
+    const QSize wide(306, 172);
+    const QSize tall(97, 172);
+    QTest::newRow("upright") << 0 << wide << QPointF(0.98, 0.5);
+    QTest::newRow("90") << 1 << tall << QPointF(0.5, 0.02);
+    QTest::newRow("180") << 2 << wide << QPointF(0.02, 0.5);
+    QTest::newRow("270") << 3 << tall << QPointF(0.5, 0.98);
+    QTest::newRow("flipped") << 4 << wide << QPointF(0.02, 0.5);
+    QTest::newRow("flipped 90") << 5 << tall << QPointF(0.5, 0.02);
+    QTest::newRow("flipped 180") << 6 << wide << QPointF(0.98, 0.5);
+    QTest::newRow("flipped 270") << 7 << tall << QPointF(0.5, 0.98);
+}
+
+void tst_PipeWireCameras::turnsTurnedSensors()
+{
+    QFETCH(int, transform);
+    QFETCH(QSize, expected);
+    QFETCH(QPointF, band);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--height"), QStringLiteral("360"),
+                                QStringLiteral("--transform"), QString::number(transform)});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    const QImage picture = m_backend->latestPicture();
+    QCOMPARE(picture.size(), expected);
+    QVERIFY(isNear(picture.pixel(int(band.x() * picture.width()), int(band.y() * picture.height())),
+                   Blue));
+}
+
+void tst_PipeWireCameras::readsDriverMemory()
+{
+    const Camera camera =
+        plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--driver-memory")});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(shows(m_backend->latestPicture(), Red));
+}
+
+void tst_PipeWireCameras::followsFormatChanges()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(229, 172), LongMs);
+    camera->command("size 320x180");
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), PreviewSize, LongMs);
+    camera->command("size 1281x721");
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(306, 172), LongMs);
+    QTRY_VERIFY(shows(m_backend->latestPicture(), Red));
+    QTRY_VERIFY(m_backend->delivers());
+    // and the preview's
+    m_backend->setOutputSize(2 * PreviewSize);
+    QTRY_COMPARE(m_backend->latestPicture().size(), QSize(611, 344));
+}
+
+void tst_PipeWireCameras::picksUpReturningCamera()
+{
+    Camera camera = plug(NameA, QStringLiteral("Camera"));
+    const Camera other = plug(NameB, QStringLiteral("Other"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LongMs);
+    m_backend->setCurrent(NameA);
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    m_watcher.log.clear();
+
+    camera->kill();
+    QTRY_COMPARE(stateName(), QStringLiteral("absent"));
+    QVERIFY(!m_backend->delivers());
+    QVERIFY(m_backend->latestPicture().isNull());
+    QCOMPARE(m_backend->currentId(), NameA);
+    QCOMPARE(m_backend->currentName(), QStringLiteral("Camera"));
+    QCOMPARE(ids(), QStringList(NameB));
+    QTRY_VERIFY(m_watcher.log.endsWith(QStringLiteral("current cam_a")));
+
+    camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--color"), GreenText});
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(shows(m_backend->latestPicture(), Green));
+    QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("works")));
+}
+
+void tst_PipeWireCameras::noticesSilence()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--stalled")});
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("silent"), LongMs);
+    QVERIFY(isUsable(m_backend->state()));
+    QVERIFY(!m_backend->delivers());
+
+    camera->command("resume");
+    QTRY_COMPARE(stateName(), QStringLiteral("working"));
+    QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("works"));
+    camera->command("stall");
+    QElapsedTimer sinceStall;
+    sinceStall.start();
+    QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("fails"));
+    QVERIFY(sinceStall.elapsed() >= 400);
+    QCOMPARE(stateName(), QStringLiteral("silent"));
+    QVERIFY(!m_backend->latestPicture().isNull()); // the last one stays
+    m_backend->stop();
+    QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("silent"));
+}
+
+void tst_PipeWireCameras::waitsForMissingCamera()
+{
+    const Camera other = plug(NameB, QStringLiteral("Other"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->setCurrent(NameA);
+    QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("current cam_a"));
+    m_backend->start();
+    QCOMPARE(stateName(), QStringLiteral("absent"));
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::switchesOff()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    m_backend->setCurrent(QString());
+    QCOMPARE(stateName(), QStringLiteral("off"));
+    QVERIFY(m_backend->latestPicture().isNull());
+    QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("current "));
+    QTRY_VERIFY(camera->output().endsWith("paused\n"));
+    m_backend->setCurrent(NameA);
+    QTRY_COMPARE(stateName(), QStringLiteral("working"));
+}
+
+// The camera's program stands still, as one does that is stuck in its driver.
+void tst_PipeWireCameras::abandonsHungStart()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    camera->sendSignal(SIGSTOP);
+    const MachineGap machine;
+    GapMeter gaps;
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("hung"), LongMs);
+    QVERIFY(isUsable(m_backend->state()));
+
+    QElapsedTimer duration;
+    duration.start();
+    m_backend->stop();
+    m_backend.reset();
+    QVERIFY(duration.elapsed() < 100);
+    QVERIFY(gaps.longestMs() < MaxGapMs + machine.longestMs());
+    QTRY_COMPARE(cameraThreads(), 0);
+    QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("hung"));
+
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("hung"), LongMs);
+    camera->sendSignal(SIGCONT);
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::tellsFailures_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("busy") << EBUSY << QStringLiteral("busy");
+    QTest::newRow("denied") << EACCES << QStringLiteral("denied");
+    QTest::newRow("not permitted") << EPERM << QStringLiteral("denied");
+    QTest::newRow("other") << EIO << QStringLiteral("failed");
+}
+
+void tst_PipeWireCameras::tellsFailures()
+{
+    QFETCH(int, error);
+    QFETCH(QString, expected);
+    Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    camera->command("error " + QByteArray::number(error));
+    QTRY_COMPARE(stateName(), QStringLiteral("silent")); // nobody has said more yet
+    m_backend->stop();
+    m_backend->start();
+    QTRY_COMPARE(stateName(), expected);
+    QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("fails")));
+    camera.reset();
+    camera = plug(NameA, QStringLiteral("Camera"));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::outlivesTheServer()
+{
+    Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    m_server->kill();
+    const MachineGap machine;
+    GapMeter gaps;
+    QTRY_COMPARE(ids(), QStringList());
+    QCOMPARE(stateName(), QStringLiteral("absent"));
+    QCOMPARE(m_backend->currentId(), NameA);
+    QVERIFY(gaps.longestMs() < MaxGapMs + machine.longestMs());
+
+    QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+    camera = plug(NameA, QStringLiteral("Camera"));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+// Without the session manager nobody links the stream to its camera.
+void tst_PipeWireCameras::outlivesTheManager()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_server->freezeManager();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("hung"), LongMs);
+    m_server->thawManager();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::waitsForTheServer()
+{
+    m_server->stop();
+    makeBackend();
+    m_backend->start();
+    QCOMPARE(stateName(), QStringLiteral("absent"));
+    QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::neverBlocksWhileServerIsFrozen_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::newRow("made") << 0;
+    QTest::newRow("started") << 1;
+    QTest::newRow("showing") << 2;
+    QTest::newRow("switched") << 3;
+    QTest::newRow("stopped") << 4;
+    QTest::newRow("destroyed") << 5;
+}
+
+void tst_PipeWireCameras::neverBlocksWhileServerIsFrozen()
+{
+    QFETCH(int, step);
+    const Camera a = plug(NameA, QStringLiteral("Camera A"));
+    const Camera b =
+        plug(NameB, QStringLiteral("Camera B"), {QStringLiteral("--color"), GreenText});
+    int next = 0;
+    std::optional<GapMeter> gaps;
+    std::optional<MachineGap> machine;
+    const auto freezeAt = [&] {
+        if (next++ == step) {
+            m_server->freeze();
+            machine.emplace();
+            gaps.emplace();
+        }
+    };
+    const auto thawAfter = [&] {
+        if (next == step + 1) {
+            QTest::qWait(FreezeMs);
+            const qint64 gap = gaps->longestMs();
+            qInfo("longest gap %lld ms, the machine's own %lld ms", gap, machine->longestMs());
+            QVERIFY(gap < MaxGapMs + machine->longestMs());
+            gaps.reset();
+            machine.reset();
+            m_server->thaw();
+        }
+    };
+    freezeAt();
+    makeBackend();
+    thawAfter();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LongMs);
+
+    freezeAt();
+    m_backend->start();
+    thawAfter();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+
+    freezeAt();
+    thawAfter();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+
+    freezeAt();
+    m_backend->setCurrent(NameB);
+    thawAfter();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(shows(m_backend->latestPicture(), Green));
+
+    freezeAt();
+    m_backend->stop();
+    thawAfter();
+    QVERIFY(!m_backend->delivers());
+
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    freezeAt();
+    m_backend.reset();
+    QTRY_COMPARE(cameraThreads(), 0);
+    thawAfter();
+}
+
+void tst_PipeWireCameras::remembersTheChoice()
+{
+    const Camera a = plug(NameA, QStringLiteral("Camera A"));
+    const Camera b = plug(NameB, QStringLiteral("Camera B"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 2, LongMs);
+    QCOMPARE(m_backend->currentId(), NameA);
+    m_backend->setCurrent(NameB);
+    QVERIFY(FileWriter::waitForWritten(LongMs));
+    m_backend.reset();
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->currentId(), NameB, LongMs);
+}
+
+void tst_PipeWireCameras::ignoresAbsentRememberedChoice()
+{
+    {
+        SettingsStore store(m_settings->filePath(QStringLiteral("devices.ini")));
+        store.setValue(QStringLiteral("camera/current"), NameB);
+    }
+    QVERIFY(FileWriter::waitForWritten(LongMs));
+    const Camera a = plug(NameA, QStringLiteral("Camera A"));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->currentId(), NameA, LongMs);
+}
+
+void tst_PipeWireCameras::measures()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--color"), QStringLiteral("808080")});
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures >= 30, LongMs);
+    m_backend->stop();
+    QJsonObject measured = figures();
+    QCOMPARE(measured.value(QLatin1String("state")).toString(), QStringLiteral("working"));
+    QCOMPARE(measured.value(QLatin1String("device")).toString(), QStringLiteral("Camera"));
+    QCOMPARE(measured.value(QLatin1String("width")).toInt(), 640);
+    QCOMPARE(measured.value(QLatin1String("height")).toInt(), 480);
+    const double rate = measured.value(QLatin1String("rate")).toDouble();
+    QVERIFY2(rate > 25.0 && rate < 35.0, qPrintable(QString::number(rate)));
+    QVERIFY(measured.value(QLatin1String("firstPictureMs")).toInt() < 1000);
+    QCOMPARE(measured.value(QLatin1String("blackShare")).toDouble(), 0.0);
+    QCOMPARE(measured.value(QLatin1String("frozenShare")).toDouble(), 0.0);
+    QVERIFY(qAbs(measured.value(QLatin1String("brightness")).toDouble() - 0.54) < 0.08);
+
+    camera->command("frozen");
+    camera->command("black");
+    m_watcher.pictures = 0;
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures >= 10, LongMs);
+    m_backend->stop();
+    measured = figures();
+    QCOMPARE(measured.value(QLatin1String("blackShare")).toDouble(), 1.0);
+    QCOMPARE(measured.value(QLatin1String("frozenShare")).toDouble(), 1.0);
+    QCOMPARE(measured.value(QLatin1String("brightness")).toDouble(), 0.0);
+}
+
+void tst_PipeWireCameras::leavesNothingBehind()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    const QStringList before = openFiles();
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(openFiles().size() > before.size());
+    QCOMPARE(camera->output().count("streaming"), 1);
+    m_backend->stop();
+    QTRY_VERIFY(camera->output().endsWith("paused\n")); // the light is out
+    m_backend.reset();
+    QTRY_COMPARE(openFiles(), before);
+    QTRY_COMPARE(cameraThreads(), 0);
+}
+
 tst_PipeWireCameras::Camera tst_PipeWireCameras::plug(const QString& name,
                                                       const QString& description,
                                                       const QStringList& arguments) const
 {
-    return std::make_unique<CameraProcess>(name, description, arguments);
+    auto result = std::make_unique<CameraProcess>(name, description, arguments);
+    if (!QTest::qWaitFor([&] { return result->output().contains("paused"); }, LongMs)) {
+        qWarning() << "The virtual camera isn't ready:" << result->output();
+    }
+    return result;
 }
 
 void tst_PipeWireCameras::makeBackend()

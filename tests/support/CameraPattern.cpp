@@ -12,7 +12,7 @@ namespace {
 constexpr int BandShare = 16; // of the width
 constexpr int BarShare = 8;
 constexpr int TopShare = 8; // of the height
-constexpr int BarStep = 8;  // pixels per picture
+constexpr int StepShare = 32;
 const QRgb Band = qRgb(0, 0, 255);
 const QRgb Bar = qRgb(255, 255, 255);
 const QRgb Zero = qRgb(0, 0, 0);
@@ -140,11 +140,15 @@ QRgb CameraPattern::pixel(int x, bool isTop, int number) const
         const int block = x * NumberBits / width;
         return (number >> block) & 1 ? Bar : Zero;
     }
+    if (m_isBlack) {
+        return Zero;
+    }
     if (x < width / BandShare) {
         return Band;
     }
     const int barWidth = width / BarShare;
-    const int bar = width / BandShare + (number * BarStep) % (width - width / BandShare - barWidth);
+    const int bar =
+        width / BandShare + (number * width / StepShare) % (width - width / BandShare - barWidth);
     return x >= bar && x < bar + barWidth ? Bar : m_colour.rgb();
 }
 

@@ -29,6 +29,7 @@ public:
 
     void setSize(const QSize& size);
     void setColour(const QColor& colour) { m_colour = colour; }
+    void setBlack() { m_isBlack = true; }
     void setNumbered(bool on) { m_isNumbered = on; }
 
     QByteArray picture(int number) const;
@@ -53,6 +54,7 @@ private:
     int m_stride = 0;
     QColor m_colour = QColor(200, 40, 40);
     bool m_isNumbered = false;
+    bool m_isBlack = false;
 };
 
 } // namespace TestSupport

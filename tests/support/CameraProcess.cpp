@@ -19,6 +19,12 @@ CameraProcess::CameraProcess(const QString& name, const QString& description,
 
 CameraProcess::~CameraProcess() = default;
 
+QByteArray CameraProcess::output()
+{
+    m_output += readAll();
+    return m_output;
+}
+
 void CameraProcess::command(const QByteArray& line)
 {
     write(line + '\n');

@@ -17,8 +17,12 @@ public:
                            const QStringList& moreArguments = {});
     ~CameraProcess() override;
 
+    QByteArray output(); // all of it so far: the states of its stream, a line each
     void command(const QByteArray& line);
     void kill(); // without a farewell
+
+private:
+    QByteArray m_output;
 };
 
 } // namespace TestSupport

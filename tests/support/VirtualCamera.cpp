@@ -217,6 +217,8 @@ void VirtualCamera::obey(const QByteArray& line)
         m_options.isStalled = line == "stall";
     } else if (line == "frozen" || line == "live") {
         m_isFrozen = line == "frozen";
+    } else if (line == "black") {
+        m_pattern.setBlack();
     } else if (line == "quit") {
         pw_main_loop_quit(m_mainLoop);
     } else if (!argument(PropertyColour).isEmpty()) {
@@ -225,7 +227,7 @@ void VirtualCamera::obey(const QByteArray& line)
         const QList<QByteArray> edges = argument(PropertySize).split('x');
         resize(QSize(edges.value(0).toInt(), edges.value(1).toInt()));
     } else if (!argument(PropertyError).isEmpty()) {
-        pw_stream_set_error(m_stream, -EIO, "%s", argument(PropertyError).constData());
+        pw_stream_set_error(m_stream, -argument(PropertyError).toInt(), "as told");
     } else {
         std::fprintf(stderr, "virtual_camera: unknown command '%s'\n", line.constData());
         m_exitCode = 2;

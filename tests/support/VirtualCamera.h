@@ -11,7 +11,7 @@
 namespace TestSupport {
 
 // A camera of a PipeWire server that isn't there. Commands come on the standard input, one a line:
-//   stall | resume | frozen | live | color RRGGBB | size WIDTHxHEIGHT | error TEXT | quit
+//   stall | resume | frozen | live | black | color RRGGBB | size WIDTHxHEIGHT | error NUMBER | quit
 // The end of the input quits too.
 class VirtualCamera
 {

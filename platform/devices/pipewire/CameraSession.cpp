@@ -44,19 +44,27 @@ void CameraSession::open(int generation, const QString& id)
 
 void CameraSession::close()
 {
-    dropStream();
     m_id.clear();
+    dropStream();
 }
 
 void CameraSession::camerasChanged()
 {
     const CameraList& cameras = m_connection.cameras();
-    if (m_stream && cameras.serialOf(m_id) != m_serial) {
+    if (cameras.serialOf(m_id) != m_serial) {
         dropStream();
-        report(DeviceState::Ready);
+        m_serial.clear();
+        report(DeviceState::Ready); // whatever was wrong with the one that left
     }
     m_listener->listArrived(cameras.devices(), cameras.preferredId(), m_connection.isDenied());
     openStream();
+}
+
+void CameraSession::cameraFailed(const QString& serial, const QString& error)
+{
+    if (m_stream && serial == m_serial) {
+        streamEnded(error);
+    }
 }
 
 void CameraSession::connectionLost()
@@ -76,7 +84,7 @@ DeviceState CameraSession::stateOf(const QString& error)
     if (says("denied") || says("not permitted")) {
         return DeviceState::Denied;
     }
-    return DeviceState::Failed;
+    return says("no node available") ? DeviceState::Ready : DeviceState::Failed;
 }
 
 void CameraSession::streamRuns()
@@ -117,13 +125,17 @@ void CameraSession::pictureReceived(const PictureFormat& format, const PictureVi
 void CameraSession::openStream()
 {
     const std::optional<QString> serial = m_connection.cameras().serialOf(m_id);
-    if (m_stream || !serial || m_connection.core() == nullptr) {
+    if (m_stream || m_retryTimer.isActive() || !serial || m_connection.core() == nullptr) {
         return;
     }
     m_serial = *serial;
     m_stream = std::make_unique<CameraStream>(m_connection.core(), m_serial, AskedSize,
                                               *static_cast<CameraStream::Listener*>(this));
     m_deadlineTimer.startOnce(StartDeadline);
+    const QString error = m_connection.errorOf(m_serial);
+    if (!error.isEmpty()) {
+        report(stateOf(error));
+    }
 }
 
 void CameraSession::dropStream()
@@ -133,12 +145,15 @@ void CameraSession::dropStream()
     m_watchTimer.stop();
     m_stream.reset();
     m_slot->interrupt(m_generation);
+    if (m_state == DeviceState::Working || m_state == DeviceState::Silent) {
+        report(DeviceState::Ready);
+    }
 }
 
 void CameraSession::onDeadline()
 {
     dropStream();
-    report(DeviceState::Hung);
+    reportUnlessExplained(DeviceState::Hung);
     m_retryTimer.startOnce(RetryDelay);
 }
 
@@ -155,7 +170,15 @@ void CameraSession::onRetry()
 void CameraSession::onWatch()
 {
     if (m_slot->isSilent(m_runsSince)) {
-        report(DeviceState::Silent);
+        reportUnlessExplained(DeviceState::Silent);
+    }
+}
+
+// That there are no pictures says less than a reason why.
+void CameraSession::reportUnlessExplained(DeviceState state)
+{
+    if (isUsable(m_state) && m_state != DeviceState::Busy) {
+        report(state);
     }
 }
 

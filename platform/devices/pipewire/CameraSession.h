@@ -41,9 +41,10 @@ public:
     void setOutputSize(const QSize& pixels) { m_outputSize = pixels; }
 
     void camerasChanged() override;
+    void cameraFailed(const QString& serial, const QString& error) override;
     void connectionLost() override;
 
-    // What a server's or a driver's words mean.
+    // What a server's or a driver's words mean; Ready: nothing that the list won't tell.
     static DeviceState stateOf(const QString& error);
 
 private:
@@ -58,6 +59,7 @@ private:
     void onDeadline();
     void onRetry();
     void onWatch();
+    void reportUnlessExplained(DeviceState state);
     void report(DeviceState state);
 
     PipeWireConnection& m_connection;

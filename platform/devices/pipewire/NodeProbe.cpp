@@ -45,9 +45,7 @@ const pw_node_events NodeProbe::NodeEvents = [] {
     pw_node_events events{};
     events.version = PW_VERSION_NODE_EVENTS;
     events.info = [](void* data, const pw_node_info* info) {
-        if (info->props != nullptr) {
-            readProperties(info->props, static_cast<NodeProbe*>(data)->m_node);
-        }
+        static_cast<NodeProbe*>(data)->onInfo(*info);
     };
     events.param = [](void* data, int, uint32_t, uint32_t, uint32_t, const spa_pod* parameter) {
         static_cast<NodeProbe*>(data)->onFormat(parameter);
@@ -63,8 +61,8 @@ const pw_proxy_events NodeProbe::ProxyEvents = [] {
 }();
 
 NodeProbe::NodeProbe(pw_registry* registry, quint32 globalId, const spa_dict* properties,
-                     std::function<void()> done)
-    : m_done(std::move(done))
+                     Listener& listener)
+    : m_listener(listener), m_globalId(globalId)
 {
     readProperties(properties, m_node);
     m_proxy = static_cast<pw_proxy*>(
@@ -86,6 +84,20 @@ NodeProbe::~NodeProbe()
         spa_hook_remove(&m_nodeHook);
         spa_hook_remove(&m_proxyHook);
         pw_proxy_destroy(m_proxy);
+    }
+}
+
+void NodeProbe::onInfo(const pw_node_info& info)
+{
+    if (info.props != nullptr) {
+        readProperties(info.props, m_node);
+    }
+    if ((info.change_mask & PW_NODE_CHANGE_MASK_STATE) == 0) {
+        return;
+    }
+    m_error = info.state == PW_NODE_STATE_ERROR ? QString::fromUtf8(info.error) : QString();
+    if (!m_error.isEmpty()) {
+        m_listener.nodeFailed(m_node, m_error);
     }
 }
 
@@ -122,7 +134,7 @@ void NodeProbe::onFormat(const spa_pod* format)
 void NodeProbe::onDone()
 {
     m_isDone = true;
-    m_done();
+    m_listener.nodeDescribed(m_globalId, m_node);
 }
 
 } // namespace Platform

@@ -191,6 +191,7 @@ void PipeWireCamera::chooseFirst(const QString& preferredId)
 void PipeWireCamera::choose(const QString& id)
 {
     m_isChosen = true;
+    m_didDeliver = false;
     m_currentId = id;
     const DeviceInfo* device = findDevice(id);
     m_currentName = device == nullptr ? QString() : device->name;
@@ -234,7 +235,7 @@ void PipeWireCamera::notifyCurrentChanged()
 {
     m_mailbox.sender().post([this] {
         m_wasUsable = isUsable(state());
-        m_didDeliver = delivers();
+        m_didDeliver = m_didDeliver && delivers(); // that it works is always told
         m_listener.currentCameraChanged(m_currentId);
     });
 }

@@ -3,7 +3,6 @@
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
 #include "platform/devices/pipewire/CameraLog.h"
-#include "platform/devices/pipewire/NodeProbe.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -86,6 +85,14 @@ void PipeWireConnection::quit()
     pw_main_loop_quit(m_mainLoop);
 }
 
+QString PipeWireConnection::errorOf(const QString& serial) const
+{
+    const auto it = std::find_if(m_probes.cbegin(), m_probes.cend(), [&serial](const auto& entry) {
+        return entry.second->node().serial == serial;
+    });
+    return it == m_probes.cend() ? QString() : it->second->error();
+}
+
 void PipeWireConnection::connectToServer()
 {
     if (m_context == nullptr) {
@@ -158,8 +165,7 @@ void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* 
     if (mediaClass == nullptr || strcmp(mediaClass, "Video/Source") != 0) {
         return;
     }
-    m_probes[id] =
-        std::make_unique<NodeProbe>(m_registry, id, properties, [this, id] { onProbed(id); });
+    m_probes[id] = std::make_unique<NodeProbe>(m_registry, id, properties, *this);
 }
 
 void PipeWireConnection::onGlobalRemoved(quint32 id)
@@ -171,13 +177,19 @@ void PipeWireConnection::onGlobalRemoved(quint32 id)
     listMayBeComplete();
 }
 
-void PipeWireConnection::onProbed(quint32 id)
+void PipeWireConnection::nodeDescribed(quint32 globalId, const CameraNode& node)
 {
-    const auto probe = m_probes.find(id);
-    if (m_cameras.add(id, probe->second->node())) {
+    if (m_cameras.add(globalId, node)) {
         announceSoon();
     }
     listMayBeComplete();
+}
+
+void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error)
+{
+    for (Observer* observer : m_observers) {
+        observer->cameraFailed(node.serial, error);
+    }
 }
 
 // The first list is told as a whole and at once; what comes later may come in bursts.

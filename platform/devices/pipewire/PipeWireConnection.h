@@ -4,6 +4,7 @@
 
 #include "platform/devices/pipewire/CameraList.h"
 #include "platform/devices/pipewire/LoopTimer.h"
+#include "platform/devices/pipewire/NodeProbe.h"
 
 #include <map>
 #include <memory>
@@ -12,11 +13,9 @@
 
 namespace Platform {
 
-class NodeProbe;
-
 // The connection to the camera server: the list of cameras, kept while the server goes and comes
 // back. On the camera thread only.
-class PipeWireConnection
+class PipeWireConnection final : public NodeProbe::Listener
 {
 public:
     class Observer
@@ -24,6 +23,8 @@ public:
     public:
         // The list changed; a burst of changes comes as one.
         virtual void camerasChanged() = 0;
+        // The server couldn't run the camera of this serial.
+        virtual void cameraFailed(const QString& serial, const QString& error) = 0;
         // The server is gone: everything made with core() must be destroyed now.
         virtual void connectionLost() = 0;
 
@@ -40,11 +41,15 @@ public:
     void removeObserver(Observer* observer);
     void quit(); // ends the thread's loop
 
+    void nodeDescribed(quint32 globalId, const CameraNode& node) override;
+    void nodeFailed(const CameraNode& node, const QString& error) override;
+
     pw_loop* loop() const { return m_loop; }
     pw_core* core() const { return m_core; } // null while there is no server
     const CameraList& cameras() const { return m_cameras; }
-    bool isListed() const { return m_isListed; } // what the server had at first is in the list
-    bool isDenied() const { return m_isDenied; } // the server refuses this program
+    QString errorOf(const QString& serial) const; // the server's last word on that camera
+    bool isListed() const { return m_isListed; }  // what the server had at first is in the list
+    bool isDenied() const { return m_isDenied; }  // the server refuses this program
 
 private:
     void connectToServer();
@@ -53,7 +58,6 @@ private:
     void onRoundTripDone(int sequence);
     void onGlobal(quint32 id, const char* type, const spa_dict* properties);
     void onGlobalRemoved(quint32 id);
-    void onProbed(quint32 id);
     void listMayBeComplete();
     void announceSoon();
     void announce();
@@ -73,7 +77,7 @@ private:
     bool m_isListed = false;
     bool m_isDenied = false;
     CameraList m_cameras;
-    std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // of the nodes not described yet
+    std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // one for each video source
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;
