@@ -1,0 +1,80 @@
+# SPDX-FileCopyrightText: 2026 The EnvCheck authors
+# SPDX-License-Identifier: MIT
+
+include(CMakePackageConfigHelpers)
+
+set(include_folder ${CMAKE_INSTALL_INCLUDEDIR}/envcheck)
+
+# envcheck_install_package(NAME NAMESPACE): the CMake package of the targets exported as NAMETargets.
+function(envcheck_install_package name)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    install(EXPORT ${name}Targets NAMESPACE ${name}:: DESTINATION ${folder})
+    configure_package_config_file(cmake/${name}Config.cmake.in
+        ${PROJECT_BINARY_DIR}/${name}Config.cmake
+        INSTALL_DESTINATION ${folder} PATH_VARS ENVCHECK_PROGRAM_FOLDER)
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/${name}ConfigVersion.cmake
+        COMPATIBILITY SameMajorVersion)
+    install(FILES
+        ${PROJECT_BINARY_DIR}/${name}Config.cmake
+        ${PROJECT_BINARY_DIR}/${name}ConfigVersion.cmake
+        DESTINATION ${folder})
+endfunction()
+
+# What a developer of a client needs: the library, its header and the CMake package.
+install(TARGETS EnvCheck EXPORT EnvCheckTargets)
+install(FILES agent/EnvCheckAgent.h agent/EnvCheckExport.h DESTINATION ${include_folder}/agent)
+envcheck_install_package(EnvCheck)
+if(NOT ENVCHECK_ENGINE STREQUAL "bundled")
+    return()
+endif()
+
+# The bundled engine with its scripted back end. Elsewhere than on Windows it stands in a folder of
+# its own: its names are too general for one that everybody shares.
+set(engine_libraries
+    ClassroomBackend ClassroomScripted CommEngine CoreEngine LumMedia LumUtility LumWidgets)
+if(WIN32)
+    set(engine_folder ${CMAKE_INSTALL_LIBDIR})
+else()
+    set(engine_folder ${ENVCHECK_PROGRAM_FOLDER})
+endif()
+install(TARGETS ${engine_libraries} EXPORT ClassroomEngineTargets
+    LIBRARY DESTINATION ${engine_folder}
+    INCLUDES DESTINATION ${include_folder})
+foreach(name CommEngine CoreEngine LumMedia LumUtility LumWidgets)
+    install(DIRECTORY platform/${name} ${PROJECT_BINARY_DIR}/platform/${name}
+        DESTINATION ${include_folder}
+        FILES_MATCHING PATTERN *.h PATTERN *_autogen EXCLUDE PATTERN CMakeFiles EXCLUDE)
+endforeach()
+install(DIRECTORY platform/backend platform/scripted DESTINATION ${include_folder}/platform
+    FILES_MATCHING PATTERN *.h)
+foreach(name ClassroomBackend ClassroomScripted)
+    install(FILES ${PROJECT_BINARY_DIR}/platform/${name}/${name}Export.h
+        DESTINATION ${include_folder}/${name})
+endforeach()
+envcheck_install_package(ClassroomEngine)
+
+# The program. It looks for its texts and sounds beside itself.
+install(TARGETS envcheck RUNTIME DESTINATION ${ENVCHECK_PROGRAM_FOLDER})
+if(ENVCHECK_DEVICES)
+    install(TARGETS ClassroomDevices
+        LIBRARY DESTINATION ${engine_folder} NAMELINK_SKIP)
+    list(APPEND engine_libraries ClassroomDevices)
+endif()
+if(WIN32)
+    return()
+endif()
+
+file(RELATIVE_PATH to_program /${CMAKE_INSTALL_BINDIR} /${ENVCHECK_PROGRAM_FOLDER}/envcheck)
+file(RELATIVE_PATH to_engine /${CMAKE_INSTALL_LIBDIR} /${engine_folder})
+file(RELATIVE_PATH to_library /${ENVCHECK_PROGRAM_FOLDER} /${CMAKE_INSTALL_LIBDIR})
+file(CREATE_LINK ${to_program} ${PROJECT_BINARY_DIR}/link-envcheck SYMBOLIC)
+install(FILES ${PROJECT_BINARY_DIR}/link-envcheck
+    DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME envcheck)
+set_target_properties(${engine_libraries} PROPERTIES INSTALL_RPATH $ORIGIN)
+set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH $ORIGIN/${to_engine})
+set_target_properties(envcheck PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_library}")
+
+install(FILES host/resources/envcheck.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES host/resources/envcheck.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES docs/envcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
