@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/PictureConverter.h"
+#include "tests/support/CameraPattern.h"
+
+#include <QtTest>
+
+using namespace Platform;
+using namespace TestSupport;
+
+namespace {
+
+PictureView viewOf(const QByteArray& bytes, int stride)
+{
+    PictureView view;
+    view.planeCount = 1;
+    view.planes[0] = {reinterpret_cast<const uchar*>(bytes.constData()),
+                      static_cast<std::size_t>(bytes.size()), stride};
+    return view;
+}
+
+// Four pixels wide, two high: red, green, blue, white above, blue, blue, red, red below.
+QByteArray smallPicture()
+{
+    const QRgb red = qRgb(255, 0, 0);
+    const QRgb green = qRgb(0, 255, 0);
+    const QRgb blue = qRgb(0, 0, 255);
+    const QRgb white = qRgb(255, 255, 255);
+    QByteArray result;
+    for (const QRgb pixel : {red, green, blue, white, blue, blue, red, red}) {
+        result.append(static_cast<char>(qBlue(pixel)));
+        result.append(static_cast<char>(qGreen(pixel)));
+        result.append(static_cast<char>(qRed(pixel)));
+        result.append('\0');
+    }
+    return result;
+}
+
+const PictureFormat SmallFormat{PixelLayout::Bgrx, YuvColour::Bt601, QSize(4, 2)};
+
+// The colours' first letters, row by row.
+QString letters(const QImage& picture)
+{
+    QString result;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = picture.pixel(x, y) & RGB_MASK;
+            result += pixel == 0xff0000   ? QLatin1Char('r')
+                      : pixel == 0x00ff00 ? QLatin1Char('g')
+                      : pixel == 0x0000ff ? QLatin1Char('b')
+                                          : QLatin1Char('w');
+        }
+        result += QLatin1Char('/');
+    }
+    return result;
+}
+
+} // namespace
+
+class tst_PictureConverter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fits_data();
+    void fits();
+    void orients_data();
+    void orients();
+    void takesSeparatePlanes();
+    void honoursTheColourMatrix_data();
+    void honoursTheColourMatrix();
+    void refusesShortPictures_data();
+    void refusesShortPictures();
+    void refusesAbsurdSizes();
+    void refusesBrokenJpegs();
+    void trustsTheJpegsOwnSize();
+    void averagesWhatItScales();
+};
+
+void tst_PictureConverter::fits_data()
+{
+    QTest::addColumn<QSize>("source");
+    QTest::addColumn<QSize>("bound");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("wide") << QSize(1280, 720) << QSize(306, 172) << QSize(306, 172);
+    QTest::newRow("4:3") << QSize(640, 480) << QSize(306, 172) << QSize(229, 172);
+    QTest::newRow("tall") << QSize(480, 640) << QSize(306, 172) << QSize(129, 172);
+    QTest::newRow("never larger") << QSize(160, 120) << QSize(306, 172) << QSize(160, 120);
+    QTest::newRow("thin") << QSize(4000, 2) << QSize(306, 172) << QSize(306, 1);
+    QTest::newRow("no bound") << QSize(640, 480) << QSize() << QSize(640, 480);
+}
+
+void tst_PictureConverter::fits()
+{
+    QFETCH(QSize, source);
+    QFETCH(QSize, bound);
+    QTEST(PictureConverter::fittedSize(source, bound), "expected");
+}
+
+void tst_PictureConverter::orients_data()
+{
+    QTest::addColumn<int>("quarterTurns");
+    QTest::addColumn<bool>("isFlipped");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, int turns, bool isFlipped, const char* expected) {
+        QTest::newRow(name) << turns << isFlipped << QString::fromLatin1(expected);
+    };
+    // in the buffer: rgbw/bbrr
+    row("mirrored", 0, false, "wbgr/rrbb/");
+    row("90", 1, false, "rb/gb/br/wr/");
+    row("180", 2, false, "bbrr/rgbw/");
+    row("270", 3, false, "rw/rb/bg/br/");
+    row("flipped", 0, true, "rgbw/bbrr/");
+    row("flipped 90", 1, true, "br/bg/rb/rw/");
+    row("flipped 180", 2, true, "rrbb/wbgr/");
+    row("flipped 270", 3, true, "wr/br/gb/rb/");
+}
+
+void tst_PictureConverter::orients()
+{
+    QFETCH(int, quarterTurns);
+    QFETCH(bool, isFlipped);
+    const QByteArray bytes = smallPicture();
+    PictureConverter converter;
+    const QImage result =
+        converter.convert(SmallFormat, viewOf(bytes, 0), {quarterTurns, isFlipped}, {});
+    QTEST(letters(result), "expected");
+}
+
+void tst_PictureConverter::takesSeparatePlanes()
+{
+    const QSize size(64, 32);
+    const CameraPattern pattern(CameraPattern::I420, size, 0);
+    const QByteArray bytes = pattern.picture(0);
+    const PictureFormat format{PixelLayout::I420, YuvColour::Bt601, size};
+    const auto* const y = reinterpret_cast<const uchar*>(bytes.constData());
+    PictureView view;
+    view.planeCount = 3;
+    view.planes[0] = {y, 64 * 32, 64};
+    view.planes[1] = {y + 64 * 32, 32 * 16, 32};
+    view.planes[2] = {y + 64 * 32 + 32 * 16, 32 * 16, 32};
+    PictureConverter converter;
+    const QImage separate = converter.convert(format, view, {}, {}).copy();
+    QVERIFY(!separate.isNull());
+    QCOMPARE(separate, converter.convert(format, viewOf(bytes, 64), {}, {}));
+}
+
+void tst_PictureConverter::honoursTheColourMatrix_data()
+{
+    QTest::addColumn<int>("colour");
+    QTest::addColumn<int>("expected"); // grey of a luma of 235
+    QTest::newRow("601") << int(YuvColour::Bt601) << 255;
+    QTest::newRow("601 full") << int(YuvColour::Bt601Full) << 235;
+    QTest::newRow("709") << int(YuvColour::Bt709) << 255;
+    QTest::newRow("709 full") << int(YuvColour::Bt709Full) << 235;
+}
+
+void tst_PictureConverter::honoursTheColourMatrix()
+{
+    QFETCH(int, colour);
+    const PictureFormat format{PixelLayout::I420, static_cast<YuvColour>(colour), QSize(4, 4)};
+    const QByteArray bytes = QByteArray(16, char(235)) + QByteArray(8, char(128));
+    PictureConverter converter;
+    const QImage result = converter.convert(format, viewOf(bytes, 4), {}, {});
+    QTEST(qGreen(result.pixel(1, 1)), "expected");
+}
+
+void tst_PictureConverter::refusesShortPictures_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<int>("layout");
+    const auto row = [](const char* name, CameraPattern::Layout source, PixelLayout layout) {
+        QTest::newRow(name) << int(source) << int(layout);
+    };
+    row("YUY2", CameraPattern::Yuy2, PixelLayout::Yuy2);
+    row("UYVY", CameraPattern::Uyvy, PixelLayout::Uyvy);
+    row("NV12", CameraPattern::Nv12, PixelLayout::Nv12);
+    row("I420", CameraPattern::I420, PixelLayout::I420);
+    row("RGB", CameraPattern::Rgb, PixelLayout::Rgb);
+    row("BGRx", CameraPattern::Bgrx, PixelLayout::Bgrx);
+}
+
+void tst_PictureConverter::refusesShortPictures()
+{
+    QFETCH(int, source);
+    QFETCH(int, layout);
+    const QSize size(33, 17);
+    const CameraPattern pattern(static_cast<CameraPattern::Layout>(source), size, 0);
+    const QByteArray bytes = pattern.picture(0);
+    const PictureFormat format{static_cast<PixelLayout>(layout), YuvColour::Bt601, size};
+    PictureConverter converter;
+    QVERIFY(!converter.convert(format, viewOf(bytes, pattern.stride()), {}, {}).isNull());
+    QVERIFY(
+        converter.convert(format, viewOf(bytes.left(bytes.size() - 3), pattern.stride()), {}, {})
+            .isNull());
+    QVERIFY(converter.convert(format, viewOf(bytes.left(1), pattern.stride()), {}, {}).isNull());
+    QVERIFY(converter.convert(format, viewOf(bytes, 1), {}, {}).isNull()); // rows overlap
+    QVERIFY(converter.convert(format, PictureView(), {}, {}).isNull());
+}
+
+void tst_PictureConverter::refusesAbsurdSizes()
+{
+    const QByteArray bytes = smallPicture();
+    PictureConverter converter;
+    for (const QSize& size : {QSize(0, 2), QSize(4, -2), QSize(9000, 1), QSize(1, 9000)}) {
+        const PictureFormat format{PixelLayout::Bgrx, YuvColour::Bt601, size};
+        QVERIFY(converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
+    }
+}
+
+void tst_PictureConverter::refusesBrokenJpegs()
+{
+    const QSize size(64, 48);
+    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, size, 0).picture(0);
+    const PictureFormat format{PixelLayout::Mjpg, YuvColour::Bt601, size};
+    PictureConverter converter;
+    QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
+    QVERIFY(converter.convert(format, viewOf(bytes.left(20), 0), {}, {}).isNull());
+    QVERIFY(converter.convert(format, viewOf(QByteArray(2000, 'x'), 0), {}, {}).isNull());
+}
+
+void tst_PictureConverter::trustsTheJpegsOwnSize()
+{
+    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, QSize(64, 48), 0).picture(0);
+    const PictureFormat format{PixelLayout::Mjpg, YuvColour::Bt601, QSize(1280, 720)};
+    PictureConverter converter;
+    QCOMPARE(converter.convert(format, viewOf(bytes, 0), {}, {}).size(), QSize(64, 48));
+}
+
+// Rows and columns of black and white in turn become grey, not one or the other.
+void tst_PictureConverter::averagesWhatItScales()
+{
+    const QSize size(64, 64);
+    QByteArray bytes;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            bytes.append((x + y) % 2 == 0 ? char(235) : char(16));
+            bytes.append(char(128));
+        }
+    }
+    const PictureFormat format{PixelLayout::Yuy2, YuvColour::Bt601, size};
+    PictureConverter converter;
+    const QImage result = converter.convert(format, viewOf(bytes, 128), {}, QSize(16, 16));
+    QCOMPARE(result.size(), QSize(16, 16));
+    QVERIFY(qAbs(qGreen(result.pixel(7, 7)) - 128) < 10);
+}
+
+QTEST_GUILESS_MAIN(tst_PictureConverter)
+#include "tst_PictureConverter.moc"

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/pipewire/PictureStatistics.h"
+
+#include <QImage>
+#include <QtTest>
+
+using namespace Platform;
+using namespace std::chrono_literals;
+
+namespace {
+
+PictureStatistics::Sample sampleOf(QRgb colour)
+{
+    QImage picture(32, 16, QImage::Format_RGB32);
+    picture.fill(colour);
+    return PictureStatistics::sampleOf(picture);
+}
+
+} // namespace
+
+class tst_PictureStatistics : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void samplesPictures();
+    void tellsNothingOfNothing();
+    void countsAndAverages();
+};
+
+void tst_PictureStatistics::samplesPictures()
+{
+    QCOMPARE(sampleOf(qRgb(255, 255, 255)).brightness, 1.0);
+    QCOMPARE(sampleOf(qRgb(0, 0, 0)).brightness, 0.0);
+    QCOMPARE(sampleOf(qRgb(9, 9, 9)).print, sampleOf(qRgb(9, 9, 9)).print);
+    QVERIFY(sampleOf(qRgb(9, 9, 9)).print != sampleOf(qRgb(9, 9, 10)).print);
+    // the unused byte of a pixel is no difference
+    QCOMPARE(sampleOf(0x00090909).print, sampleOf(0xff090909).print);
+}
+
+void tst_PictureStatistics::tellsNothingOfNothing()
+{
+    PictureStatistics statistics;
+    statistics.start(PictureStatistics::Clock::now());
+    const QJsonObject expected{{QStringLiteral("pictures"), 0}};
+    QCOMPARE(statistics.figures(), expected);
+}
+
+void tst_PictureStatistics::countsAndAverages()
+{
+    const QSize size(640, 480);
+    const auto start = PictureStatistics::Clock::now();
+    PictureStatistics statistics;
+    statistics.start(start);
+    statistics.add(sampleOf(qRgb(0, 0, 0)), size, start + 80ms);
+    statistics.add(sampleOf(qRgb(255, 255, 255)), size, start + 120ms);
+    statistics.add(sampleOf(qRgb(255, 255, 255)), size, start + 160ms);
+    statistics.add(sampleOf(qRgb(255, 255, 255)), size, start + 200ms);
+    statistics.add(sampleOf(qRgb(0, 0, 0)), QSize(320, 240), start + 240ms);
+    const QJsonObject expected{
+        {QStringLiteral("pictures"), 5},        {QStringLiteral("rate"), 25.0},
+        {QStringLiteral("width"), 320},         {QStringLiteral("height"), 240},
+        {QStringLiteral("firstPictureMs"), 80}, {QStringLiteral("blackShare"), 0.4},
+        {QStringLiteral("frozenShare"), 0.5},   {QStringLiteral("brightness"), 0.6}};
+    QCOMPARE(statistics.figures(), expected);
+    statistics.start(start);
+    QCOMPARE(statistics.pictures(), 0);
+}
+
+QTEST_GUILESS_MAIN(tst_PictureStatistics)
+#include "tst_PictureStatistics.moc"
