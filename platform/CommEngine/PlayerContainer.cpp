@@ -6,6 +6,12 @@
 
 #include <QPainter>
 
+namespace {
+
+constexpr int RoundingPixels = 1; // by which two ways of fitting a size may differ
+
+} // namespace
+
 PlayerContainer::PlayerContainer(QWidget* parent, bool /*isLocal*/, enumPlayerType /*type*/)
     : QFrame(parent)
 {
@@ -53,15 +59,24 @@ void PlayerContainer::paintEvent(QPaintEvent* event)
     if (!m_isPlaying || !m_camera) {
         return;
     }
+    m_camera->setPreviewPixelRatio(devicePixelRatioF()); // the window may have changed its screen
     const QImage picture = m_camera->latestPicture();
     if (picture.isNull()) {
         return;
     }
-    QSizeF size = picture.size();
-    size.scale(QSizeF(contentsRect().size()), Qt::KeepAspectRatio);
-    QRectF target(QPointF(), size);
-    target.moveCenter(QRectF(contentsRect()).center());
+    // In the device's own pixels, so that a picture of just the right size is neither scaled nor
+    // smoothed, whatever the ratio.
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, picture);
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    painter.scale(1.0 / ratio, 1.0 / ratio);
+    const QRectF area(QPointF(contentsRect().topLeft()) * ratio,
+                      QSizeF(contentsRect().size()) * ratio);
+    const QSize fitted = picture.size().scaled(area.size().toSize(), Qt::KeepAspectRatio);
+    const QSize difference = fitted - picture.size();
+    const bool isMadeToFit =
+        qAbs(difference.width()) <= RoundingPixels && qAbs(difference.height()) <= RoundingPixels;
+    const QSize size = isMadeToFit ? picture.size() : fitted;
+    const QPoint corner((area.center() - QRectF(QPointF(), size).center()).toPoint());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !isMadeToFit);
+    painter.drawImage(QRect(corner, size), picture);
 }
