@@ -12,6 +12,8 @@ struct NetworkFigures
     int jitterMs = 0;    // interarrival jitter, RFC 3550 section 6.4.1
     int sent = 0;
     int answered = 0;
+    int delay5Ms = -1; // 5th and 95th percentile of the round trips
+    int delay95Ms = -1;
 };
 
 // A running measurement of the way to the server, from its creation to its destruction. Threads as

@@ -51,7 +51,9 @@ public:
                                        {QStringLiteral("delayMs"), last.delayMs},
                                        {QStringLiteral("jitterMs"), last.jitterMs},
                                        {QStringLiteral("sent"), last.sent},
-                                       {QStringLiteral("answered"), last.answered}});
+                                       {QStringLiteral("answered"), last.answered},
+                                       {QStringLiteral("delay5Ms"), last.delay5Ms},
+                                       {QStringLiteral("delay95Ms"), last.delay95Ms}});
         }
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedCamera.h"
 
+#include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedCameras.h"
 #include "platform/scripted/TestPattern.h"
 
@@ -17,8 +18,12 @@ constexpr int RecentMs = 500;
 
 } // namespace
 
-ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, Listener& listener)
-    : m_cameras(cameras), m_listener(listener), m_session(log, QStringLiteral("camera"))
+ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDocument& document,
+                               Listener& listener)
+    : m_cameras(cameras),
+      m_document(document),
+      m_listener(listener),
+      m_session(log, QStringLiteral("camera"))
 {
     m_frameTimer.setTimerType(Qt::PreciseTimer);
     m_watchdog.setSingleShot(true);
@@ -41,7 +46,12 @@ ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, Listener&
     m_notified = workStateOf(currentState());
 }
 
-ScriptedCamera::~ScriptedCamera() = default;
+ScriptedCamera::~ScriptedCamera()
+{
+    if (m_isStarted) {
+        recordMeasurement();
+    }
+}
 
 DeviceList ScriptedCamera::devices() const
 {
@@ -91,6 +101,9 @@ void ScriptedCamera::start()
 void ScriptedCamera::stop()
 {
     m_session.call("stop");
+    if (m_isStarted) {
+        recordMeasurement();
+    }
     m_isStarted = false;
     m_watchdog.stop();
     runFrames();
@@ -123,6 +136,9 @@ void ScriptedCamera::onCurrentChanged()
 {
     m_watchdog.stop();
     m_frame = 0;
+    m_pictures = 0;
+    m_blackPictures = 0;
+    m_frozenPictures = 0;
     m_picture = {};
     runFrames();
     m_notified = workStateOf(currentState());
@@ -131,7 +147,11 @@ void ScriptedCamera::onCurrentChanged()
 void ScriptedCamera::onFrame()
 {
     const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
-    if (m_frame == 0 || feed.pictures != ScriptedCameras::Pictures::Frozen) {
+    const bool isFrozen = m_frame > 0 && feed.pictures == ScriptedCameras::Pictures::Frozen;
+    ++m_pictures;
+    m_blackPictures += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
+    m_frozenPictures += isFrozen ? 1 : 0;
+    if (!isFrozen) {
         ++m_frame;
         m_picture = {};
     }
@@ -178,6 +198,23 @@ void ScriptedCamera::runFrames()
     if (state != DeviceState::Ready && state != DeviceState::Working) {
         m_watchdog.stop();
     }
+}
+
+void ScriptedCamera::recordMeasurement()
+{
+    const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
+    QJsonObject figures{{QStringLiteral("device"), m_cameras.currentName()},
+                        {QStringLiteral("state"), toString(currentState())},
+                        {QStringLiteral("pictures"), m_pictures}};
+    if (m_pictures > 0) {
+        const double pictures = m_pictures;
+        figures.insert(QStringLiteral("rate"), feed.framesPerSecond);
+        figures.insert(QStringLiteral("width"), feed.size.width());
+        figures.insert(QStringLiteral("height"), feed.size.height());
+        figures.insert(QStringLiteral("blackShare"), m_blackPictures / pictures);
+        figures.insert(QStringLiteral("frozenShare"), m_frozenPictures / pictures);
+    }
+    m_document.recordMeasurement(QStringLiteral("camera"), figures);
 }
 
 void ScriptedCamera::notifyWorkState()

@@ -11,6 +11,7 @@
 
 namespace Platform {
 
+class ResultDocument;
 class ScriptedCameras;
 
 // One user of the scripted cameras.
@@ -20,7 +21,8 @@ class ScriptedCamera final : public QObject, public CameraBackend
     Q_DISABLE_COPY(ScriptedCamera)
 
 public:
-    ScriptedCamera(ScriptedCameras& cameras, CallLog& log, Listener& listener);
+    ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDocument& document,
+                   Listener& listener);
     ~ScriptedCamera() override;
 
     DeviceList devices() const override;
@@ -43,8 +45,10 @@ private:
     DeviceState currentState() const;
     void runFrames();
     void notifyWorkState();
+    void recordMeasurement();
 
     ScriptedCameras& m_cameras;
+    ResultDocument& m_document; // what the camera delivered goes there
     Listener& m_listener;
     LoggedSession m_session;
     QTimer m_frameTimer;
@@ -52,6 +56,9 @@ private:
     QSize m_outputSize;
     bool m_isStarted = false;
     int m_frame = 0;
+    int m_pictures = 0; // of the current camera, like the next two
+    int m_blackPictures = 0;
+    int m_frozenPictures = 0;
     WorkState m_notified;
     mutable QImage m_picture; // painted when it is asked for
 };

@@ -35,18 +35,19 @@ ScriptedEngine& ScriptedEngine::install(const Scenario& scenario)
 
 std::unique_ptr<CameraBackend> ScriptedEngine::createCamera(CameraBackend::Listener& listener)
 {
-    return std::make_unique<ScriptedCamera>(m_cameras, m_log, listener);
+    return std::make_unique<ScriptedCamera>(m_cameras, m_log, m_reports.document(), listener);
 }
 
 std::unique_ptr<MicrophoneBackend>
 ScriptedEngine::createMicrophone(MicrophoneBackend::Listener& listener)
 {
-    return std::make_unique<ScriptedMicrophone>(m_microphones, m_log, listener);
+    return std::make_unique<ScriptedMicrophone>(m_microphones, m_log, m_reports.document(),
+                                                listener);
 }
 
 std::unique_ptr<SpeakerBackend> ScriptedEngine::createSpeaker(SpeakerBackend::Listener& listener)
 {
-    return std::make_unique<ScriptedSpeaker>(m_speakers, m_log, listener);
+    return std::make_unique<ScriptedSpeaker>(m_speakers, m_log, m_reports.document(), listener);
 }
 
 std::unique_ptr<PlayerBackend> ScriptedEngine::createPlayer(const QString& path, float /*volume*/,
@@ -61,7 +62,7 @@ std::unique_ptr<PlayerBackend> ScriptedEngine::createPlayer(const QString& path,
 
 std::unique_ptr<NetworkProbe> ScriptedEngine::createNetworkProbe(NetworkProbe::Listener& listener)
 {
-    return std::make_unique<ScriptedNetworkProbe>(m_network, m_log, listener);
+    return std::make_unique<ScriptedNetworkProbe>(m_network, m_log, m_reports.document(), listener);
 }
 
 DeviceList ScriptedEngine::speakers() const

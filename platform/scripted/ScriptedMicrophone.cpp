@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedMicrophone.h"
 
+#include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedMicrophones.h"
 
 namespace Platform {
@@ -19,17 +20,27 @@ bool canHear(DeviceState state)
 } // namespace
 
 ScriptedMicrophone::ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog& log,
-                                       Listener& listener)
-    : m_microphones(microphones), m_listener(listener), m_session(log, QStringLiteral("microphone"))
+                                       ResultDocument& document, Listener& listener)
+    : m_microphones(microphones),
+      m_document(document),
+      m_listener(listener),
+      m_session(log, QStringLiteral("microphone"))
 {
     m_levelTimer.setTimerType(Qt::PreciseTimer);
     m_levelTimer.setInterval(LevelPeriodMs);
     connect(&m_levelTimer, &QTimer::timeout, this, &ScriptedMicrophone::onLevelTick);
     connectModel();
+    m_id = m_microphones.currentId();
+    m_volumeBefore = m_microphones.volume();
     m_notified = workStateOf(currentState());
 }
 
-ScriptedMicrophone::~ScriptedMicrophone() = default;
+ScriptedMicrophone::~ScriptedMicrophone()
+{
+    if (m_isOpen) {
+        recordMeasurement();
+    }
+}
 
 DeviceList ScriptedMicrophone::devices() const
 {
@@ -78,6 +89,9 @@ void ScriptedMicrophone::open()
 void ScriptedMicrophone::close()
 {
     m_session.call("close");
+    if (m_isOpen) {
+        recordMeasurement();
+    }
     m_isOpen = false;
     runLevels();
 }
@@ -102,6 +116,7 @@ int ScriptedMicrophone::volume() const
 void ScriptedMicrophone::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
+    m_isMovedByUser = true;
     m_microphones.setVolumeByUser(percent);
 }
 
@@ -135,6 +150,11 @@ void ScriptedMicrophone::connectModel()
 void ScriptedMicrophone::onCurrentChanged()
 {
     m_hasHeard = false;
+    if (m_id != m_microphones.currentId()) {
+        m_id = m_microphones.currentId();
+        m_volumeBefore = m_microphones.volume();
+        m_isMovedByUser = false;
+    }
     runLevels();
     m_notified = workStateOf(currentState());
 }
@@ -159,6 +179,17 @@ void ScriptedMicrophone::measure(double level)
         notifyWorkState();
     }
     m_listener.levelMeasured(level);
+}
+
+void ScriptedMicrophone::recordMeasurement()
+{
+    m_document.recordMeasurement(QStringLiteral("microphone"),
+                                 {{QStringLiteral("device"), m_microphones.currentName()},
+                                  {QStringLiteral("state"), toString(currentState())},
+                                  {QStringLiteral("soundHeard"), hasHeard()},
+                                  {QStringLiteral("volumeBefore"), m_volumeBefore},
+                                  {QStringLiteral("volumeAfter"), m_microphones.volume()},
+                                  {QStringLiteral("movedByUser"), m_isMovedByUser}});
 }
 
 bool ScriptedMicrophone::hasHeard() const

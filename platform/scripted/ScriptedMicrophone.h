@@ -12,6 +12,7 @@
 
 namespace Platform {
 
+class ResultDocument;
 class ScriptedMicrophones;
 
 // One user of the scripted microphones.
@@ -21,7 +22,8 @@ class ScriptedMicrophone final : public QObject, public MicrophoneBackend
     Q_DISABLE_COPY(ScriptedMicrophone)
 
 public:
-    ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog& log, Listener& listener);
+    ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog& log, ResultDocument& document,
+                       Listener& listener);
     ~ScriptedMicrophone() override;
 
     DeviceList devices() const override;
@@ -49,13 +51,18 @@ private:
     DeviceState currentState() const;
     void runLevels();
     void notifyWorkState();
+    void recordMeasurement();
 
     ScriptedMicrophones& m_microphones;
+    ResultDocument& m_document; // what was heard goes there
     Listener& m_listener;
     LoggedSession m_session;
     QTimer m_levelTimer;
     QElapsedTimer m_openClock;
     bool m_isOpen = false;
+    QString m_id;
+    int m_volumeBefore = 0; // of that microphone
+    bool m_isMovedByUser = false;
     bool m_hasHeard = false;
     WorkState m_notified;
 };

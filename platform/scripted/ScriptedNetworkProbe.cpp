@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedNetworkProbe.h"
 
+#include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedNetwork.h"
 
 #include <algorithm>
@@ -16,8 +17,11 @@ constexpr int PeriodMs = 1000;
 } // namespace
 
 ScriptedNetworkProbe::ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& log,
-                                           Listener& listener)
-    : m_network(network), m_listener(listener), m_session(log, QStringLiteral("network"))
+                                           ResultDocument& document, Listener& listener)
+    : m_network(network),
+      m_document(document),
+      m_listener(listener),
+      m_session(log, QStringLiteral("network"))
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &ScriptedNetworkProbe::measure);
@@ -27,7 +31,17 @@ ScriptedNetworkProbe::ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& lo
     restart();
 }
 
-ScriptedNetworkProbe::~ScriptedNetworkProbe() = default;
+ScriptedNetworkProbe::~ScriptedNetworkProbe()
+{
+    if (m_next > 0) {
+        m_document.recordMeasurement(QStringLiteral("network"),
+                                     {{QStringLiteral("lossPercent"), m_figures.lossPercent},
+                                      {QStringLiteral("delayMs"), m_figures.delayMs},
+                                      {QStringLiteral("jitterMs"), m_figures.jitterMs},
+                                      {QStringLiteral("sent"), m_figures.sent},
+                                      {QStringLiteral("answered"), m_figures.answered}});
+    }
+}
 
 NetworkFigures ScriptedNetworkProbe::figures() const
 {

@@ -10,6 +10,7 @@
 
 namespace Platform {
 
+class ResultDocument;
 class ScriptedNetwork;
 
 // One running measurement along the scripted series.
@@ -19,7 +20,8 @@ class ScriptedNetworkProbe final : public QObject, public NetworkProbe
     Q_DISABLE_COPY(ScriptedNetworkProbe)
 
 public:
-    ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& log, Listener& listener);
+    ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& log, ResultDocument& document,
+                         Listener& listener);
     ~ScriptedNetworkProbe() override;
 
     NetworkFigures figures() const override;
@@ -29,6 +31,7 @@ private:
     void measure();
 
     ScriptedNetwork& m_network;
+    ResultDocument& m_document; // the last figures go there
     Listener& m_listener;
     LoggedSession m_session;
     QTimer m_timer;

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedSpeaker.h"
 
+#include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedSpeakers.h"
 
 namespace Platform {
 
-ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Listener& listener)
-    : m_speakers(speakers), m_listener(listener), m_session(log, QStringLiteral("speaker"))
+ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, ResultDocument& document,
+                                 Listener& listener)
+    : m_speakers(speakers),
+      m_document(document),
+      m_listener(listener),
+      m_session(log, QStringLiteral("speaker"))
 {
     connect(
         &m_speakers, &ScriptedSpeakers::listChanged, this,
@@ -20,9 +25,24 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Liste
         [this](int percent) { m_listener.speakerVolumeChanged(percent); }, Qt::QueuedConnection);
     connect(&m_speakers, &ScriptedSpeakers::currentStateChanged, this,
             &ScriptedSpeaker::notifyWorkState);
+    connect(&m_speakers, &ScriptedSpeakers::currentChanged, this,
+            &ScriptedSpeaker::onCurrentChanged);
+    m_id = m_speakers.currentId();
+    m_volumeBefore = m_speakers.volume();
 }
 
-ScriptedSpeaker::~ScriptedSpeaker() = default;
+ScriptedSpeaker::~ScriptedSpeaker()
+{
+    if (m_speakers.currentId().isEmpty()) {
+        return;
+    }
+    m_document.recordMeasurement(QStringLiteral("speaker"),
+                                 {{QStringLiteral("device"), m_speakers.currentName()},
+                                  {QStringLiteral("state"), toString(m_speakers.currentState())},
+                                  {QStringLiteral("volumeBefore"), m_volumeBefore},
+                                  {QStringLiteral("volumeAfter"), m_speakers.volume()},
+                                  {QStringLiteral("movedByUser"), m_isMovedByUser}});
+}
 
 QString ScriptedSpeaker::currentId() const
 {
@@ -57,7 +77,18 @@ int ScriptedSpeaker::volume() const
 void ScriptedSpeaker::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
+    m_isMovedByUser = true;
     m_speakers.setVolumeByUser(percent);
+}
+
+// Told also where only the list changed.
+void ScriptedSpeaker::onCurrentChanged(const QString& id)
+{
+    if (m_id != id) {
+        m_id = id;
+        m_volumeBefore = m_speakers.volume();
+        m_isMovedByUser = false;
+    }
 }
 
 void ScriptedSpeaker::notifyWorkState()

@@ -9,6 +9,7 @@
 
 namespace Platform {
 
+class ResultDocument;
 class ScriptedSpeakers;
 
 // One user of the scripted speakers.
@@ -18,7 +19,8 @@ class ScriptedSpeaker final : public QObject, public SpeakerBackend
     Q_DISABLE_COPY(ScriptedSpeaker)
 
 public:
-    ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Listener& listener);
+    ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, ResultDocument& document,
+                    Listener& listener);
     ~ScriptedSpeaker() override;
 
     QString currentId() const override;
@@ -29,11 +31,16 @@ public:
     void setVolume(int percent) override;
 
 private:
+    void onCurrentChanged(const QString& id);
     void notifyWorkState();
 
     ScriptedSpeakers& m_speakers;
+    ResultDocument& m_document; // the volumes go there
     Listener& m_listener;
     LoggedSession m_session;
+    QString m_id;
+    int m_volumeBefore = 0; // of that speaker
+    bool m_isMovedByUser = false;
 };
 
 } // namespace Platform

@@ -140,7 +140,9 @@ void tst_DeviceEngine::figuresGoIntoTheResults()
                                    {QStringLiteral("delayMs"), last.delayMs},
                                    {QStringLiteral("jitterMs"), last.jitterMs},
                                    {QStringLiteral("sent"), last.sent},
-                                   {QStringLiteral("answered"), last.answered}}));
+                                   {QStringLiteral("answered"), last.answered},
+                                   {QStringLiteral("delay5Ms"), last.delay5Ms},
+                                   {QStringLiteral("delay95Ms"), last.delay95Ms}}));
 }
 
 QTEST_GUILESS_MAIN(tst_DeviceEngine)

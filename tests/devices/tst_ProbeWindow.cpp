@@ -23,6 +23,8 @@ private Q_SLOTS:
     void delayIsTheMedian_data();
     void delayIsTheMedian();
     void delayIsCutOff();
+    void percentiles_data();
+    void percentiles();
     void answersThatDontCount();
     void answerAtTheDeadlineCounts();
     void oldProbesLeaveTheWindow();
@@ -147,6 +149,32 @@ void tst_ProbeWindow::delayIsCutOff()
     QCOMPARE(window.figures(1s).delayMs, 499);
     QVERIFY(window.addAnswer(window.addProbe(1s), 1s + 500001us));
     QCOMPARE(window.figures(2s).delayMs, 500);
+}
+
+void tst_ProbeWindow::percentiles_data()
+{
+    QTest::addColumn<int>("count"); // of round trips of 1 ms, 2 ms, 3 ms, ...
+    QTest::addColumn<int>("low");
+    QTest::addColumn<int>("high");
+    QTest::newRow("none") << 0 << -1 << -1;
+    QTest::newRow("one") << 1 << 1 << 1;
+    QTest::newRow("ten") << 10 << 1 << 10;
+    QTest::newRow("twenty") << 20 << 1 << 19;
+    QTest::newRow("forty") << 40 << 2 << 38;
+}
+
+void tst_ProbeWindow::percentiles()
+{
+    QFETCH(int, count);
+    std::vector<ProbeWindow::Time> roundTrips;
+    for (int i = count; i > 0; --i) {
+        roundTrips.push_back(std::chrono::milliseconds(i));
+    }
+    ProbeWindow window;
+    run(window, roundTrips);
+    const NetworkFigures figures = window.figures(4900ms);
+    QTEST(figures.delay5Ms, "low");
+    QTEST(figures.delay95Ms, "high");
 }
 
 void tst_ProbeWindow::answersThatDontCount()

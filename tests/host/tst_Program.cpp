@@ -35,6 +35,7 @@ private Q_SLOTS:
     void diskFull();
     void unwritableHome();
     void runsAreKeptAndCompared();
+    void touredRunIsReported();
     void redactedRun();
     void devices();
     void networkLines();
@@ -398,6 +399,19 @@ void tst_Program::runsAreKeptAndCompared()
     QVERIFY(report->lastGoodRun);
     QCOMPARE(report->changes.at(0).what, QStringLiteral("operatingSystem"));
     QCOMPARE(report->changes.at(0).before, QStringLiteral("Another system"));
+}
+
+// The tour answers yes to everything, also to a black picture.
+void tst_Program::touredRunIsReported()
+{
+    const Run result = run(QStringList{QStringLiteral("--scenario"), QStringLiteral("camera-black"),
+                                       QStringLiteral("--tour"), file("tour")});
+    QVERIFY2(result.code == 0, qPrintable(result.error));
+    QVERIFY2(result.out.contains(file("tour/report.html")), qPrintable(result.out));
+    const QString page = linesOf(file("tour/report.html")).join(QLatin1Char('\n'));
+    QVERIFY(page.contains(QLatin1String("Answered yes to a black picture.")));
+    QVERIFY(page.contains(QLatin1String("ITU-T G.114")));
+    QVERIFY(!QFileInfo::exists(dataFolder() + QStringLiteral("/runs.jsonl")));
 }
 
 void tst_Program::redactedRun()

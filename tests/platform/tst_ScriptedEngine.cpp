@@ -155,6 +155,7 @@ private Q_SLOTS:
     void logsCallsInOrder();
     void keepsTheLogBounded();
     void recordsReports();
+    void recordsWhatItMeasured();
     void keepsSettingsToItself();
     void tellsNobodyWhoIsGone();
 
@@ -674,6 +675,72 @@ void tst_ScriptedEngine::recordsReports()
             .toInt(),
         640);
     QVERIFY(m_engine->commands().contains(QStringLiteral("report.measurement(camera)")));
+}
+
+void tst_ScriptedEngine::recordsWhatItMeasured()
+{
+    struct Listener final : CameraBackend::Listener,
+                            MicrophoneBackend::Listener,
+                            SpeakerBackend::Listener,
+                            NetworkProbe::Listener
+    {
+        void cameraListChanged() override {}
+        void currentCameraChanged(const QString&) override {}
+        void cameraWorkStateChanged(const QString&, bool) override {}
+        void pictureArrived() override { ++pictures; }
+        void microphoneListChanged() override {}
+        void currentMicrophoneChanged(const QString&) override {}
+        void levelMeasured(double) override {}
+        void microphoneVolumeChanged(int) override {}
+        void microphoneInfoChanged() override {}
+        void microphoneWorkStateChanged(const QString&, bool) override {}
+        void systemVolumeChanged(float) override {}
+        void speakerListChanged() override {}
+        void currentSpeakerChanged(const QString&) override {}
+        void speakerVolumeChanged(int) override {}
+        void speakerWorkStateChanged(bool) override {}
+        void networkFiguresChanged() override { ++figures; }
+        int pictures = 0;
+        int figures = 0;
+    } listener;
+    m_engine->cameras().plug({QStringLiteral("c"), QStringLiteral("Camera")});
+    m_engine->cameras().setFeed(QStringLiteral("c"),
+                                {ScriptedCameras::Pictures::Black, QSize(640, 480), 50});
+    m_engine->microphones().plug({QStringLiteral("m"), QStringLiteral("Microphone")});
+    m_engine->microphones().setVolume(QStringLiteral("m"), 80);
+    m_engine->scriptedSpeakers().plug({QStringLiteral("s"), QStringLiteral("Speaker")});
+    m_engine->network().setFigures({7, 41, 3, 50, 46});
+    {
+        const auto camera = m_engine->createCamera(listener);
+        const auto microphone = m_engine->createMicrophone(listener);
+        const auto speaker = m_engine->createSpeaker(listener);
+        const auto probe = m_engine->createNetworkProbe(listener);
+        camera->start();
+        microphone->open();
+        microphone->setVolume(70);
+        speaker->setVolume(33);
+        m_engine->cameras().plug({QStringLiteral("other"), QStringLiteral("Other")});
+        m_engine->scriptedSpeakers().plug({QStringLiteral("other"), QStringLiteral("Other")});
+        m_engine->microphones().plug({QStringLiteral("other"), QStringLiteral("Other")});
+        QTRY_VERIFY(listener.pictures > 2 && listener.figures > 0);
+    }
+    const QJsonObject measured =
+        m_engine->reports().document().toJson().value(QStringLiteral("measurements")).toObject();
+    const auto value = [&measured](const char* check, const char* key) {
+        return measured.value(QLatin1String(check)).toObject().value(QLatin1String(key));
+    };
+    QCOMPARE(value("network", "delayMs").toInt(), 41);
+    QCOMPARE(value("network", "lossPercent").toInt(), 7);
+    QCOMPARE(value("camera", "blackShare").toDouble(), 1.0);
+    QCOMPARE(value("camera", "frozenShare").toDouble(), 0.0);
+    QCOMPARE(value("camera", "width").toInt(), 640);
+    QVERIFY(value("camera", "pictures").toInt() > 2);
+    QCOMPARE(value("microphone", "soundHeard"), QJsonValue(false));
+    QCOMPARE(value("microphone", "volumeBefore").toInt(), 80);
+    QCOMPARE(value("microphone", "volumeAfter").toInt(), 70);
+    QCOMPARE(value("speaker", "volumeBefore").toInt(), 50);
+    QCOMPARE(value("speaker", "volumeAfter").toInt(), 33);
+    QCOMPARE(value("speaker", "movedByUser"), QJsonValue(true));
 }
 
 void tst_ScriptedEngine::keepsSettingsToItself()

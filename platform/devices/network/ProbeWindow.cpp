@@ -17,11 +17,17 @@ int wholeMs(ProbeWindow::Time time)
     return int(std::chrono::duration_cast<std::chrono::milliseconds>(time).count());
 }
 
-ProbeWindow::Time median(std::vector<ProbeWindow::Time> times)
+ProbeWindow::Time median(const std::vector<ProbeWindow::Time>& times)
 {
-    std::sort(times.begin(), times.end());
     const size_t middle = times.size() / 2;
     return times.size() % 2 == 1 ? times[middle] : (times[middle - 1] + times[middle]) / 2;
+}
+
+// The least of the sorted times that so many percent of them don't exceed.
+ProbeWindow::Time percentile(const std::vector<ProbeWindow::Time>& times, size_t percent)
+{
+    const size_t rank = (times.size() * percent + 99) / 100;
+    return times[std::max<size_t>(rank, 1) - 1];
 }
 
 } // namespace
@@ -65,7 +71,12 @@ NetworkFigures ProbeWindow::figures(Time now)
     result.sent = int(m_probes.size());
     result.answered = int(roundTrips.size());
     result.lossPercent = due > 0 ? qRound(100.0 * lost / due) : 0;
-    result.delayMs = roundTrips.empty() ? -1 : wholeMs(median(std::move(roundTrips)));
+    if (!roundTrips.empty()) {
+        std::sort(roundTrips.begin(), roundTrips.end());
+        result.delayMs = wholeMs(median(roundTrips));
+        result.delay5Ms = wholeMs(percentile(roundTrips, 5));
+        result.delay95Ms = wholeMs(percentile(roundTrips, 95));
+    }
     result.jitterMs = qRound(m_jitterUs / 1000.0);
     return result;
 }
