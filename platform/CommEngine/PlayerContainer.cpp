@@ -67,7 +67,7 @@ void PlayerContainer::paintEvent(QPaintEvent* event)
     // In the device's own pixels, so that a picture of just the right size is neither scaled nor
     // smoothed, whatever the ratio.
     QPainter painter(this);
-    const qreal ratio = painter.device()->devicePixelRatioF();
+    const qreal ratio = painter.deviceTransform().m11();
     painter.scale(1.0 / ratio, 1.0 / ratio);
     const QRectF area(QPointF(contentsRect().topLeft()) * ratio,
                       QSizeF(contentsRect().size()) * ratio);
