@@ -22,6 +22,7 @@ void DriftControl::observe(double storeMs, double addedMs)
         return;
     }
     m_observedMs = 0.0;
+    m_reserveMs = std::max(m_reserveMs - CalmMs, FirstReserveMs);
     const double tooMuch = m_lowestMs - m_reserveMs;
     if (tooMuch > ExcessMs) {
         m_excessMs = tooMuch;

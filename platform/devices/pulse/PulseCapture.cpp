@@ -17,6 +17,7 @@ namespace {
 // Two, whatever the device has: servers don't agree on what becomes of them in one.
 constexpr std::size_t Channels = 2;
 constexpr unsigned FragmentMs = 5;
+constexpr std::size_t SmallestPiece = Channels * PulseCapture::Rate * FragmentMs / 1000 / 2;
 // A level that rises is told at once, the others as often as an eye can follow.
 constexpr pa_usec_t LevelIntervalUs = 19 * PA_USEC_PER_MSEC;
 constexpr double NoticeableRise = 0.02;
@@ -93,6 +94,7 @@ void PulseCapture::close()
     m_stream.reset();
     m_meters.clear();
     m_analysis.reset();
+    m_frames.clear();
     if (m_watch) {
         m_connection.api()->time_free(std::exchange(m_watch, nullptr));
     }
@@ -125,9 +127,11 @@ void PulseCapture::streamStateChanged()
     }
 }
 
+// A server may cut the sound very small, and where the microphone hears the speaker, each piece
+// that is played would cut it smaller still. So it is handed on in pieces worth the trouble.
 void PulseCapture::readStream()
 {
-    while (m_stream && pa_stream_readable_size(m_stream.get()) > 0) {
+    while (pa_stream_readable_size(m_stream.get()) > 0) {
         const void* data = nullptr;
         std::size_t size = 0;
         if (pa_stream_peek(m_stream.get(), &data, &size) < 0) {
@@ -135,17 +139,21 @@ void PulseCapture::readStream()
             return;
         }
         if (size == 0) {
-            return;
+            break;
         }
-        const std::size_t count = size / sizeof(float) / Channels;
+        const std::size_t count = size / sizeof(float);
         if (data) {
-            take(static_cast<const float*>(data), count);
+            const auto* samples = static_cast<const float*>(data);
+            m_frames.insert(m_frames.end(), samples, samples + count);
         } else {
             // A hole in the sound: time has passed, and nothing was heard.
-            m_hole.assign(count * Channels, 0.0F);
-            take(m_hole.data(), count);
+            m_frames.resize(m_frames.size() + count, 0.0F);
         }
         pa_stream_drop(m_stream.get());
+    }
+    if (m_frames.size() >= SmallestPiece) {
+        take(m_frames.data(), m_frames.size() / Channels);
+        m_frames.clear();
     }
 }
 

@@ -67,8 +67,8 @@ private:
     double m_lastLevel = 0.0;
     bool m_isHeard = false;
     std::optional<bool> m_delivers; // not known yet
+    std::vector<float> m_frames;
     std::vector<float> m_mono;
-    std::vector<float> m_hole;
 };
 
 } // namespace Platform

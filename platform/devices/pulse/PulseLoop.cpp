@@ -4,11 +4,25 @@
 
 #include <cstdint>
 #include <pulse/thread-mainloop.h>
+#include <sched.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 #include <utility>
 
 namespace Platform {
+
+namespace {
+
+// Listening to oneself tears where the thread doesn't run in time. Where the system doesn't allow
+// it this, it does its best without. Children of the thread don't inherit it.
+void askForPriority()
+{
+    sched_param parameters = {};
+    parameters.sched_priority = sched_get_priority_min(SCHED_RR);
+    ::sched_setscheduler(0, SCHED_RR | SCHED_RESET_ON_FORK, &parameters);
+}
+
+} // namespace
 
 PulseLoop::PulseLoop()
     : m_loop(pa_threaded_mainloop_new()), m_wakeUp(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
@@ -32,6 +46,7 @@ PulseLoop::~PulseLoop()
 
 void PulseLoop::start()
 {
+    post([] { askForPriority(); });
     m_isRunning = pa_threaded_mainloop_start(m_loop) == 0;
 }
 
