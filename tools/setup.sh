@@ -12,7 +12,7 @@ run_packages=(
 test_packages=(
     coturn pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
     libspa-0.2-modules dbus openbox x11-utils xdotool espeak-ng sox ffmpeg
-    fluidsynth fluid-soundfont-gm python3-numpy python3-scipy python3-jsonschema binutils
+    dpkg-dev fluidsynth fluid-soundfont-gm python3-numpy python3-scipy python3-jsonschema binutils
 )
 ci_packages=(clang-format clang-tidy)
 
