@@ -72,9 +72,10 @@ void LumToolTip::paintEvent(QPaintEvent* event)
     const QRect balloon = rect().adjusted(0, 0, 0, -ArrowHeight);
     const int arrowLeft = m_alignment == Qt::AlignCenter ? balloon.center().x() - ArrowWidth / 2
                                                          : balloon.left() + ArrowLeftMargin;
+    const int arrowTip = arrowLeft + ArrowWidth / 2;
     QPainterPath arrow;
     arrow.moveTo(arrowLeft, balloon.bottom());
-    arrow.lineTo(arrowLeft + ArrowWidth / 2, balloon.bottom() + ArrowHeight);
+    arrow.lineTo(arrowTip, balloon.bottom() + ArrowHeight);
     arrow.lineTo(arrowLeft + ArrowWidth, balloon.bottom());
     arrow.closeSubpath();
     QPainterPath path;
