@@ -104,7 +104,7 @@ private Q_SLOTS:
         m_server->unplug(second);
         m_server->unplug(m_server->microphoneA());
         QTRY_VERIFY(m_microphone->devices().empty());
-        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_microphone->state() == DeviceState::Absent);
     }
 
@@ -113,11 +113,11 @@ private Q_SLOTS:
         m_server->plugMicrophone(id("second"), id("Second"));
         QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
         m_microphone->setCurrent(id("second"));
-        QTRY_COMPARE(m_listener->currents.last(), id("second"));
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == id("second"));
         QCOMPARE(m_server->control({id("get-default-source")}), QByteArray("microphone_a"));
 
         m_microphone->setCurrent(QString());
-        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_microphone->state() == DeviceState::Off);
         QTRY_VERIFY(!m_listener->workStates.isEmpty());
         m_microphone->open();
@@ -189,7 +189,7 @@ private Q_SLOTS:
         SoundSource voice(id("voice"), TestSupport::tone(0.5, 300.0, -35.0));
         QTRY_VERIFY(m_microphone->hasHeardSound());
         QVERIFY(m_microphone->state() == DeviceState::Working);
-        QTRY_COMPARE(m_listener->workStates.last(), true);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty() && m_listener->workStates.last() == true);
         QVERIFY(voice.waitForEnd());
 
         m_microphone->close();
@@ -226,7 +226,7 @@ private Q_SLOTS:
             m_microphone->setVolume(percent);
         }
         QCOMPARE(m_microphone->volume(), 150);
-        QTRY_COMPARE(m_listener->ownVolumes.last(), 150);
+        QTRY_VERIFY(!m_listener->ownVolumes.isEmpty() && m_listener->ownVolumes.last() == 150);
         QTRY_VERIFY(sourceVolume().contains("150%"));
         QVERIFY(m_listener->systemVolumes.isEmpty());
 
@@ -291,12 +291,14 @@ private Q_SLOTS:
         QTRY_VERIFY(m_listener->levels.size() > 10);
         GapMeter gaps;
         m_server->kill();
-        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_microphone->state() == DeviceState::Absent);
         QCOMPARE(level(), 0.0);
         QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         QVERIFY(m_server->start());
-        QTRY_COMPARE_WITH_TIMEOUT(m_listener->currents.last(), id("microphone_a"), TimeoutMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_listener->currents.isEmpty() &&
+                                     m_listener->currents.last() == id("microphone_a"),
+                                 TimeoutMs);
         SoundSource voice(id("voice"), TestSupport::tone(20.0, 440.0, -20.0));
         QTRY_VERIFY_WITH_TIMEOUT(level() > 0.6, TimeoutMs);
         QTRY_COMPARE(playbacks(), 2);

@@ -105,7 +105,8 @@ private Q_SLOTS:
         m_speaker->setCurrent(id("speaker_b"));
         QVERIFY(m_listener->currents.isEmpty() ||
                 m_listener->currents.last() != id("speaker_b")); // not from inside the call
-        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
+        QTRY_VERIFY(!m_listener->currents.isEmpty() &&
+                    m_listener->currents.last() == id("speaker_b"));
         QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker B"));
         QCOMPARE(m_server->control({id("get-default-sink")}), QByteArray("speaker_a"));
 
@@ -119,7 +120,8 @@ private Q_SLOTS:
     void followsTheDefault()
     {
         m_server->control({id("set-default-sink"), id("speaker_b")});
-        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
+        QTRY_VERIFY(!m_listener->currents.isEmpty() &&
+                    m_listener->currents.last() == id("speaker_b"));
         m_server->unplug(m_server->speakerB());
         QTRY_VERIFY(m_speaker->currentId() != id("speaker_b"));
         QVERIFY(isUsable(m_speaker->state()));
@@ -130,12 +132,13 @@ private Q_SLOTS:
         m_speaker->setCurrent(id("speaker_b"));
         QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
         m_server->unplug(m_server->speakerB());
-        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_speaker->state() == DeviceState::Absent);
-        QTRY_COMPARE(m_listener->works_.last(), false);
+        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == false);
         m_server->plugSpeaker(id("speaker_b"), QStringLiteral("Test Speaker B"));
-        QTRY_COMPARE(m_listener->currents.last(), id("speaker_b"));
-        QTRY_COMPARE(m_listener->works_.last(), true);
+        QTRY_VERIFY(!m_listener->currents.isEmpty() &&
+                    m_listener->currents.last() == id("speaker_b"));
+        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == true);
     }
 
     void dummyOutputIsNoSpeaker()
@@ -148,7 +151,7 @@ private Q_SLOTS:
         QTRY_VERIFY(
             m_server->control({id("list"), id("short"), id("sinks")}).contains("auto_null"));
         QTRY_VERIFY(m_sound->speakers().empty());
-        QTRY_COMPARE(m_listener->currents.last(), QString());
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_speaker->state() == DeviceState::Absent);
         QCOMPARE(m_speaker->volume(), 0);
     }
@@ -167,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(m_listener->volumes, QList<int>{61});
 
         m_server->control({id("set-sink-volume"), id("speaker_a"), id("150%")});
-        QTRY_COMPARE(m_listener->volumes.last(), 100);
+        QTRY_VERIFY(!m_listener->volumes.isEmpty() && m_listener->volumes.last() == 100);
         m_speaker->setVolume(-5);
         QTRY_VERIFY(sinkVolumes().contains(" 0%"));
         m_speaker->setVolume(50); // balance is lost at nought, but both sides come back
@@ -211,12 +214,14 @@ private Q_SLOTS:
         TestSupport::GapMeter gaps;
         m_server->kill();
         QTRY_VERIFY(m_sound->speakers().empty());
-        QTRY_COMPARE(m_listener->currents.last(), QString());
-        QTRY_COMPARE(m_listener->works_.last(), false);
+        QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
+        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == false);
         QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         QVERIFY(m_server->start());
-        QTRY_COMPARE_WITH_TIMEOUT(m_listener->currents.last(), id("speaker_b"), TimeoutMs);
-        QTRY_COMPARE(m_listener->works_.last(), true);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_listener->currents.isEmpty() &&
+                                     m_listener->currents.last() == id("speaker_b"),
+                                 TimeoutMs);
+        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == true);
         QCOMPARE(m_sound->speakers().size(), std::size_t{3});
     }
 
