@@ -188,6 +188,7 @@ private Q_SLOTS:
     void initTestCase();
     void languages();
     void everyUsedIdIsThere();
+    void noIdIsLeftOver();
     void languagesHaveTheSameIds();
     void placeholdersAgree();
     void soundNamesAreDistinct();
@@ -315,6 +316,11 @@ void tst_Translations::everyUsedIdIsThere()
     const QSet<QString> used = usedIds();
     QVERIFY(!used.isEmpty());
     QCOMPARE(sorted(used - keysOf(textsOfRow())), QString());
+}
+
+void tst_Translations::noIdIsLeftOver()
+{
+    QCOMPARE(sorted(keysOf(textsOfRow()) - usedIds()), QString());
 }
 
 void tst_Translations::languagesHaveTheSameIds()
