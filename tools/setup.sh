@@ -14,6 +14,7 @@ test_packages=(
     libspa-0.2-modules dbus openbox x11-utils xdotool espeak-ng sox ffmpeg
     dpkg-dev fluidsynth fluid-soundfont-gm python3-numpy python3-scipy python3-jsonschema binutils
 )
+benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good)
 ci_packages=(clang-format clang-tidy)
 
 # install_packages NAME...: nothing where all are there; as root or through sudo; without either the

@@ -44,11 +44,17 @@ QStringList rawFormat(const QString& device, int channels)
 
 } // namespace
 
-SoundRecording::SoundRecording(const QString& device, int channels) : m_channels(channels)
+SoundRecording::SoundRecording(const QString& device, const QString& channelMap)
+    : m_channels(channelMap.isEmpty() ? 2 : channelMap.count(QLatin1Char(',')) + 1)
 {
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
                      [this] { m_data += m_process.readAllStandardOutput(); });
-    m_process.start(QStringLiteral("parec"), rawFormat(device, channels));
+    QStringList arguments = rawFormat(device, m_channels);
+    if (!channelMap.isEmpty()) {
+        arguments += QStringLiteral("--channel-map=%1").arg(channelMap);
+        arguments += QStringLiteral("--no-remix");
+    }
+    m_process.start(QStringLiteral("parec"), arguments);
 }
 
 SoundRecording::~SoundRecording()

@@ -15,8 +15,9 @@ class SoundRecording
 public:
     static constexpr int Rate = 48000;
 
-    // device is a source of the server, such as "speaker_a.monitor".
-    explicit SoundRecording(const QString& device, int channels = 2);
+    // device is a source of the server, such as "speaker_a.monitor"; without a map there are two
+    // channels.
+    explicit SoundRecording(const QString& device, const QString& channelMap = {});
     ~SoundRecording();
 
     bool waitForStart(); // until the first sample

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "benchmarks/BenchmarkOptions.h"
+#include "benchmarks/MonitorEar.h"
+#include "benchmarks/Statistics.h"
+#include "platform/devices/pulse/PulseSound.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
+#include <QApplication>
+#include <QAudioDeviceInfo>
+#include <QAudioInput>
+#include <QProgressBar>
+#include <QTest>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <memory>
+
+// From a sound at the microphone to the value of the bar, beside Qt's audio input with a
+// notification every 20 ms; and what the bar costs the GUI thread.
+
+using namespace Platform;
+using TestSupport::SoundServer;
+using TestSupport::SoundSource;
+
+namespace {
+
+constexpr int TimeoutMs = 3000;
+constexpr int UsualBursts = 40;
+constexpr int CostMs = 5000;
+constexpr int SmokeCostMs = 500;
+constexpr float LoudSample = 0.01F;
+constexpr double MaxRatio = 1.25;
+constexpr double MaxP90Ms = 25.0;
+constexpr double MaxCostPercent = 1.0;
+
+using TimePoint = MonitorEar::Clock::time_point;
+
+// Where both write to, as the page does.
+struct Bar
+{
+    QProgressBar widget;
+    std::optional<TimePoint> lit;
+
+    Bar()
+    {
+        widget.setTextVisible(false);
+        widget.setFixedSize(210, 14);
+        widget.show();
+    }
+
+    void set(double level)
+    {
+        widget.setValue(static_cast<int>(100.0 * level));
+        if (widget.value() > 20 && !lit) {
+            lit = MonitorEar::Clock::now();
+        }
+    }
+};
+
+class OwnLevel final : public MicrophoneBackend::Listener
+{
+public:
+    explicit OwnLevel(Bar& bar) : m_bar(bar) {}
+
+    void microphoneListChanged() override {}
+    void currentMicrophoneChanged(const QString&) override {}
+    void levelMeasured(double level) override { m_bar.set(level); }
+    void microphoneVolumeChanged(int) override {}
+    void microphoneInfoChanged() override {}
+    void microphoneWorkStateChanged(const QString&, bool) override {}
+    void systemVolumeChanged(float) override {}
+
+private:
+    Bar& m_bar;
+};
+
+// What a program of Qt's own would do.
+class QtLevel
+{
+public:
+    explicit QtLevel(Bar& bar)
+    {
+        QAudioFormat format;
+        format.setSampleRate(48000);
+        format.setChannelCount(1);
+        format.setSampleSize(16);
+        format.setSampleType(QAudioFormat::SignedInt);
+        format.setByteOrder(QAudioFormat::LittleEndian);
+        format.setCodec(QStringLiteral("audio/pcm"));
+        QAudioDeviceInfo chosen = QAudioDeviceInfo::defaultInputDevice();
+        for (const QAudioDeviceInfo& device :
+             QAudioDeviceInfo::availableDevices(QAudio::AudioInput)) {
+            if (device.deviceName() == QLatin1String("microphone_a")) {
+                chosen = device;
+            }
+        }
+        m_input = std::make_unique<QAudioInput>(chosen, format);
+        m_input->setNotifyInterval(20);
+        QIODevice* device = m_input->start();
+        QObject::connect(m_input.get(), &QAudioInput::notify, device, [&bar, device] {
+            const QByteArray data = device->readAll();
+            int peak = 0;
+            for (int i = 0; i + 1 < data.size(); i += 2) {
+                qint16 sample = 0;
+                std::memcpy(&sample, data.constData() + i, sizeof sample);
+                peak = std::max(peak, std::abs(static_cast<int>(sample)));
+            }
+            bar.set(peak / 32768.0 > static_cast<double>(LoudSample) ? 1.0 : 0.0);
+        });
+    }
+
+private:
+    std::unique_ptr<QAudioInput> m_input;
+};
+
+Statistics measure(Bar& bar, MonitorEar& ear, int bursts)
+{
+    std::vector<double> delays;
+    for (int i = 0; i < bursts; ++i) {
+        ear.arm();
+        if (!QTest::qWaitFor([&ear] { return ear.isArmed(); }, TimeoutMs)) {
+            break;
+        }
+        QTest::qWait(300 + i * 7 % 20); // the bar falls; off the grid
+        bar.lit.reset();
+        const SoundSource burst(QStringLiteral("voice"), TestSupport::tone(0.1, 1000.0, -6.0));
+        if (QTest::qWaitFor([&] { return bar.lit && ear.onset(); }, TimeoutMs)) {
+            delays.push_back(millisecondsBetween(*ear.onset(), *bar.lit));
+        }
+    }
+    return Statistics(delays);
+}
+
+// Of a core, while somebody speaks.
+double costPercent(int milliseconds)
+{
+    const SoundSource voice(QStringLiteral("voice"),
+                            TestSupport::tone(milliseconds / 1000.0, 300.0, -20));
+    timespec before = {};
+    timespec after = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+    QTest::qWait(milliseconds);
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
+    const double seconds = static_cast<double>(after.tv_sec - before.tv_sec) +
+                           1e-9 * static_cast<double>(after.tv_nsec - before.tv_nsec);
+    return 100.0 * seconds / (milliseconds / 1000.0);
+}
+
+void print(const char* name, const Statistics& delays, double cost, double peerMedian)
+{
+    std::printf("| %-18s | %4zu | %6.1f | %6.1f | %6.1f | %5.2f %% | %5.2f |\n", name,
+                delays.count(), delays.median(), delays.p90(), delays.maximum(), cost,
+                delays.median() / peerMedian);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    const BenchmarkOptions options(application, UsualBursts);
+    const int bursts = options.rounds();
+    const int costMs = options.isSmoke() ? SmokeCostMs : CostMs;
+    SoundServer server(options.server());
+    if (!server.start()) {
+        return 2;
+    }
+    MonitorEar ear(QStringLiteral("microphone_a"));
+    Bar bar;
+    const double idle = costPercent(costMs);
+    Statistics peerDelays{{}};
+    double peerCost = 0.0;
+    {
+        const QtLevel peer(bar);
+        peerDelays = measure(bar, ear, bursts);
+        peerCost = costPercent(costMs);
+    }
+    TestSupport::MemoryReport report;
+    PulseSound sound(report);
+    OwnLevel listener(bar);
+    const std::unique_ptr<MicrophoneBackend> microphone = sound.createMicrophone(listener);
+    microphone->open();
+    const Statistics delays = measure(bar, ear, bursts);
+    const double cost = costPercent(costMs);
+
+    std::printf("| sound to bar, ms   | heard | median |    p90 |    max | GUI thread | ratio |\n"
+                "|---|---|---|---|---|---|---|\n");
+    print("QAudioInput, 20 ms", peerDelays, peerCost, peerDelays.median());
+    print("microphone", delays, cost, peerDelays.median());
+    std::printf("The GUI thread without either: %.2f %%\n", idle);
+    if (delays.count() == 0) {
+        std::fprintf(stderr, "Nothing was heard\n");
+        return 2;
+    }
+    const bool isGood = delays.median() <= MaxRatio * peerDelays.median() &&
+                        delays.p90() <= MaxP90Ms && cost < MaxCostPercent;
+    return options.verdict(isGood);
+}

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "benchmarks/BenchmarkOptions.h"
+#include "benchmarks/HandlerMeter.h"
+#include "benchmarks/MonitorEar.h"
+#include "benchmarks/Statistics.h"
+#include "platform/devices/pulse/PulseSound.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/SoundServer.h"
+
+#include <QCoreApplication>
+#include <QMediaPlayer>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+#include <cstdio>
+#include <functional>
+#include <gst/gst.h>
+
+// From the click to the first sample at the monitor of the playback device: the player, Qt's
+// player, and a plain GStreamer pipeline, in turn on the same server.
+
+using namespace Platform;
+using TestSupport::SoundServer;
+
+namespace {
+
+using MeteredApplication = HandlerMeter<QCoreApplication>;
+
+constexpr int UsualPlays = 30;
+constexpr int TimeoutMs = 8000;
+constexpr double MaxRatioToQt = 0.8;
+constexpr double MaxRatioToGStreamer = 1.0;
+constexpr double MaxP90Ms = 60.0;
+constexpr double MaxHandlerMs = 2.0;
+const char* const SoundFile = ENVCHECK_SOURCE_DIR "/host/sounds/Doorbell.mp3";
+
+class Listener final : public SpeakerBackend::Listener, public PlayerBackend::Listener
+{
+public:
+    void speakerListChanged() override {}
+    void currentSpeakerChanged(const QString&) override {}
+    void speakerVolumeChanged(int) override {}
+    void speakerWorkStateChanged(bool) override {}
+    void playbackFinished() override {}
+};
+
+struct Contestant
+{
+    const char* name;
+    std::function<void()> play;
+    std::function<void()> stop;
+    std::vector<double> delays;
+    std::vector<double> busy;
+};
+
+// One click, from inside the event loop as a real one.
+bool click(MeteredApplication& application, Contestant& contestant, MonitorEar& ear, bool isCounted)
+{
+    ear.arm();
+    if (!QTest::qWaitFor([&ear] { return ear.isArmed(); }, TimeoutMs)) {
+        return false;
+    }
+    MonitorEar::Clock::time_point clicked;
+    application.restart();
+    QTimer::singleShot(0, [&] {
+        clicked = MonitorEar::Clock::now();
+        contestant.play();
+    });
+    const bool isHeard = QTest::qWaitFor([&ear] { return ear.onset().has_value(); }, TimeoutMs);
+    const double busyMs = application.longestMs();
+    contestant.stop();
+    if (isHeard && isCounted) {
+        contestant.delays.push_back(millisecondsBetween(clicked, *ear.onset()));
+        contestant.busy.push_back(busyMs);
+    }
+    return isHeard;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    MeteredApplication application(argc, argv);
+    const BenchmarkOptions options(application, UsualPlays);
+    const int plays = options.rounds();
+    SoundServer server(options.server());
+    if (!server.start()) {
+        return 2;
+    }
+    gst_init(&argc, &argv);
+
+    TestSupport::MemoryReport report;
+    PulseSound sound(report);
+    Listener listener;
+    const std::unique_ptr<SpeakerBackend> speaker = sound.createSpeaker(listener);
+    std::unique_ptr<PlayerBackend> player;
+    std::unique_ptr<QMediaPlayer> qtPlayer;
+    GstElement* pipeline = nullptr;
+    const QString path = QString::fromUtf8(SoundFile);
+    const QByteArray description =
+        QByteArray("filesrc location=") + SoundFile +
+        " ! mpegaudioparse ! mpg123audiodec ! audioconvert ! audioresample ! pulsesink";
+    std::vector<Contestant> contestants{
+        {"player",
+         [&] { player = sound.createPlayer(path, 1.0F, listener); },
+         [&] { player.reset(); },
+         {},
+         {}},
+        {"QMediaPlayer",
+         [&] {
+             qtPlayer = std::make_unique<QMediaPlayer>();
+             qtPlayer->setMedia(QUrl::fromLocalFile(path));
+             qtPlayer->play();
+         },
+         [&] { qtPlayer.reset(); },
+         {},
+         {}},
+        {"GStreamer pipeline",
+         [&] {
+             pipeline = gst_parse_launch(description.constData(), nullptr);
+             gst_element_set_state(pipeline, GST_STATE_PLAYING);
+         },
+         [&] {
+             gst_element_set_state(pipeline, GST_STATE_NULL);
+             gst_object_unref(pipeline);
+         },
+         {},
+         {}},
+    };
+
+    MonitorEar ear(QStringLiteral("speaker_a.monitor"));
+    for (int i = 0; i < plays; ++i) {
+        for (Contestant& contestant : contestants) {
+            if (!click(application, contestant, ear, i > 0)) {
+                std::fprintf(stderr, "%s was not heard\n", contestant.name);
+                return 2;
+            }
+        }
+    }
+
+    const Statistics own(contestants[0].delays);
+    std::printf(
+        "| %d plays, ms        | median |    p90 |    max | GUI thread busy at most: median "
+        "| max | player's ratio |\n|---|---|---|---|---|---|---|\n",
+        plays - 1);
+    for (const Contestant& contestant : contestants) {
+        const Statistics delays(contestant.delays);
+        const Statistics busy(contestant.busy);
+        std::printf("| %-20s | %6.1f | %6.1f | %6.1f | %6.2f | %6.2f | %5.2f |\n", contestant.name,
+                    delays.median(), delays.p90(), delays.maximum(), busy.median(), busy.maximum(),
+                    own.median() / delays.median());
+    }
+    const double qt = Statistics(contestants[1].delays).median();
+    const double gstreamer = Statistics(contestants[2].delays).median();
+    const bool isGood = own.median() <= MaxRatioToQt * qt &&
+                        own.median() <= MaxRatioToGStreamer * gstreamer && own.p90() <= MaxP90Ms &&
+                        Statistics(contestants[0].busy).median() <= MaxHandlerMs;
+    return options.verdict(isGood);
+}
