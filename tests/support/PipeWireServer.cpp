@@ -135,6 +135,7 @@ void PipeWireServer::setEnvironment()
     set("XDG_CONFIG_HOME", m_folder.filePath(QStringLiteral("config")));
     set("XDG_STATE_HOME", m_folder.filePath(QStringLiteral("state")));
     set("DBUS_SESSION_BUS_ADDRESS", QStringLiteral("unix:path=%1/bus").arg(m_runtime));
+    set("PULSE_SERVER", QStringLiteral("unix:%1/pulse/native").arg(m_runtime)); // nobody is there
     qunsetenv("PIPEWIRE_REMOTE");
 }
 
