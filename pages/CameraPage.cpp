@@ -133,6 +133,8 @@ void CameraPage::setTexts()
     ui->Btn_Cant->setText(qtTrId("ID_CameraPage_CannotSee"));
     ui->Btn_CanSee->setText(qtTrId("ID_Next"));
     ui->label_select_camera->setText(qtTrId("ID_CameraPage_Camera"));
+    DeviceChecks::setCaption(ui->cb_vd_name, ui->label_select_camera->text());
+    ui->f_video_player->setAccessibleName(ui->label_select_camera->text());
 }
 
 void CameraPage::addTips()
@@ -140,8 +142,9 @@ void CameraPage::addTips()
     const QString text = qtTrId("ID_CameraPage_1") + QLatin1Char('\n') + qtTrId("ID_CameraPage_2") +
                          QLatin1Char('\n') + qtTrId("ID_CameraPage_3") + QLatin1Char('\n') +
                          qtTrId("ID_CameraPage_4") + QLatin1Char('\n') + qtTrId("ID_CameraPage_5");
-    ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1,
-                                     new TipsWidget(qtTrId("ID_CameraPage_ClickHere"), text, this));
+    auto* tips = new TipsWidget(qtTrId("ID_CameraPage_ClickHere"), text, this);
+    ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1, tips);
+    DeviceChecks::setTabOrder(ui->cb_vd_name, {tips->button(), ui->Btn_CanSee, ui->Btn_Cant});
 }
 
 void CameraPage::followComboBox()

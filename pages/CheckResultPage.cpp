@@ -96,11 +96,17 @@ void CheckResultPage::fillRow(int row, const QString& name, const CheckPage& pag
 {
     const bool isPassed = page.isPassed();
     const QString color = isPassed ? QString(PassedColor) : LumColor::Red.name();
+    const QString problems = isPassed ? QString() : page.problemText();
+    const QString result =
+        isPassed ? qtTrId("ID_CheckResultPage_Normal") : qtTrId("ID_CheckResultPage_Abnormal");
     setCell(row, ItemColumn, name, ItemColor, Left);
-    setCell(row, DetailsColumn, isPassed ? QString() : page.problemText(), color, Left);
-    setCell(row, ResultColumn,
-            isPassed ? qtTrId("ID_CheckResultPage_Normal") : qtTrId("ID_CheckResultPage_Abnormal"),
-            color, Right);
+    setCell(row, DetailsColumn, problems, color, Left);
+    setCell(row, ResultColumn, result, color, Right);
+    // A screen reader reads the items below the labels. The details have none.
+    ui->tableWidget->item(row, ItemColumn)->setData(Qt::AccessibleTextRole, name);
+    QTableWidgetItem* resultItem = ui->tableWidget->item(row, ResultColumn);
+    resultItem->setData(Qt::AccessibleTextRole, result);
+    resultItem->setData(Qt::AccessibleDescriptionRole, problems);
 }
 
 void CheckResultPage::setCell(int row, int column, const QString& text, const QString& color,
@@ -124,4 +130,5 @@ void CheckResultPage::showSummary(bool allPassed)
                                      : qtTrId("ID_CheckResultPage_EquipmentAbnormal"));
     ui->lb_DeviceTip->setText(allPassed ? qtTrId("ID_CheckResultPage_OK")
                                         : qtTrId("ID_CheckResultPage_CheckEquipmentAndRetest"));
+    ui->tableWidget->setAccessibleName(ui->lb_Device->text());
 }

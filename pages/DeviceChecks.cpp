@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <iterator>
+
 namespace {
 
 constexpr int NotAnswered = 0;
@@ -54,6 +56,22 @@ void setUpComboBox(QCustomComboBox* combo, CheckPage* page)
     combo->lineEdit()->setReadOnly(true);
     combo->lineEdit()->setStyleSheet(
         QStringLiteral("background-color: transparent; border: none;"));
+}
+
+void setCaption(QCustomComboBox* combo, const QString& caption)
+{
+    combo->setAccessibleName(caption);
+    combo->lineEdit()->setAccessibleName(caption);
+}
+
+// Each is put right behind the first, the last one to begin with: Qt leaves alone what follows
+// already, even where it does so around the end of the page.
+void setTabOrder(QWidget* first, std::initializer_list<QWidget*> rest)
+{
+    for (auto widget = std::rbegin(rest); widget != std::rend(rest); ++widget) {
+        QWidget* proxy = (*widget)->focusProxy();
+        QWidget::setTabOrder(first, proxy ? proxy : *widget);
+    }
 }
 
 void setUpPopup(QCustomComboBox* combo)

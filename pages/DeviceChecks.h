@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <initializer_list>
+
 class CheckPage;
 class LumToolTip;
 class QCustomComboBox;
 class QLabel;
+class QString;
 class QWidget;
 
 // What the pages of the three devices have in common. GUI thread only.
@@ -17,6 +20,8 @@ int stateCode(bool works);                       // 1 works, 2 doesn't
 // The page filters the box's events and owns its delegate.
 void setUpComboBox(QCustomComboBox* combo, CheckPage* page);
 void setUpPopup(QCustomComboBox* combo); // as the speaker and the microphone page have it
+void setCaption(QCustomComboBox* combo, const QString& caption); // for a screen reader
+void setTabOrder(QWidget* first, std::initializer_list<QWidget*> rest);
 void placeAbove(LumToolTip* popup, const QWidget* widget); // with left edges aligned
 
 QLabel* createHand(QWidget* parent); // points at a button and lets clicks through

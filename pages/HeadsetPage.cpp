@@ -75,6 +75,7 @@ HeadsetPage::HeadsetPage(QWidget* parent)
     ui->volumeLayout->addStretch();
     DeviceChecks::setUpComboBox(ui->cb_ad_output_name, this);
     DeviceChecks::setUpPopup(ui->cb_ad_output_name);
+    nameControls();
     fillSoundFiles();
     setUpAnswerButtons();
     drawAnswers();
@@ -176,6 +177,7 @@ void HeadsetPage::timerEvent(QTimerEvent* event)
 
 void HeadsetPage::onTestLoudspeaker()
 {
+    const bool hadFocus = ui->tb_play_test_sound->hasFocus();
     m_handLabel->hide();
     ui->tb_play_test_sound->setEnabled(false);
     ui->tb_play_test_sound->update();
@@ -193,6 +195,9 @@ void HeadsetPage::onTestLoudspeaker()
     startPlayer();
     m_answerCorrect = false;
     enableAnswerButtons();
+    if (hadFocus) {
+        ui->item2->setFocus(Qt::TabFocusReason); // the first of them to the eye
+    }
     showAnswerTip();
     ui->Btn_CanHear->setEnabled(false);
     ui->Btn_CantListen->setEnabled(false);
@@ -228,6 +233,19 @@ void HeadsetPage::setTexts()
     ui->item1->setText(qtTrId("ID_HeadsetPage_sound1"));
     ui->item3->setText(qtTrId("ID_HeadsetPage_sound3"));
     ui->label_Play->setText(qtTrId("ID_HeadsetPage_play"));
+}
+
+// For a screen reader: what a picture or a place says to the eye.
+void HeadsetPage::nameControls()
+{
+    DeviceChecks::setCaption(ui->cb_ad_output_name, ui->label_select_headphone->text());
+    m_volume->setCaption(ui->label->text());
+    ui->tb_play_test_sound->setAccessibleName(qtTrId("ID_HeadsetPage_Play"));
+    ui->tb_play_test_sound->setAccessibleDescription(ui->label_2->text());
+    const QString question = qtTrId("ID_HeadsetPage_PleaseSelectTheAnswer");
+    for (QRadioButton* button : {ui->item0, ui->item1, ui->item2, ui->item3}) {
+        button->setAccessibleDescription(question);
+    }
 }
 
 // A name that a translation leaves empty is replaced by its id, and one that it gives to a second
@@ -273,6 +291,9 @@ void HeadsetPage::addTips()
     auto* tips =
         new TipsWidget(qtTrId("ID_HeadsetPage_ClickHere"), lines.join(QLatin1Char('\n')), this);
     ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1, tips);
+    DeviceChecks::setTabOrder(ui->cb_ad_output_name,
+                              {ui->tb_play_test_sound, ui->item2, ui->item1, ui->item0, ui->item3,
+                               m_volume, tips->button(), ui->Btn_CanHear, ui->Btn_CantListen});
 }
 
 void HeadsetPage::connectSpeaker()

@@ -46,6 +46,7 @@ private Q_SLOTS:
 
 private:
     void setTexts();
+    void nameControls();
     void fillSoundFiles();
     void setUpAnswerButtons();
     void addTips();

@@ -26,6 +26,7 @@ namespace {
 constexpr int CountdownIntervalMs = 1000;
 constexpr int CountdownStart = 5;
 constexpr int HandIntervalMs = 300;
+constexpr int RecordKey = Qt::ALT + Qt::Key_R;
 constexpr int InitialVolume = 100;
 constexpr int RecordFontPixels = 12;
 constexpr int NoisyAbovePercent = 100;
@@ -64,6 +65,7 @@ MicrophonePage::MicrophonePage(QWidget* parent)
     ui->micVolumeLayout->addWidget(m_volume);
     ui->micVolumeLayout->addStretch();
     addLevelBars();
+    nameControls();
     connect(m_volume, &Volume::setVolumeByUser, this, &MicrophonePage::onUserVolume);
     connect(ui->Btn_Mic_Yes, &QPushButton::clicked, this, [this] { finishCheck(true); });
     connect(ui->Btn_Mic_No, &QPushButton::clicked, this, [this] { finishCheck(false); });
@@ -234,6 +236,17 @@ void MicrophonePage::addLevelBars()
     bars->setCurrentWidget(m_levelBar);
 }
 
+// For a screen reader. The record button never has the focus, so that it gets a key of its own.
+void MicrophonePage::nameControls()
+{
+    DeviceChecks::setCaption(ui->cb_ad_input_name, ui->label_select_mic->text());
+    m_volume->setCaption(ui->label->text());
+    ui->Btn_Record->setAccessibleName(qtTrId("ID_Record"));
+    ui->Btn_Record->setAccessibleDescription(ui->label_2->text());
+    ui->Btn_Record->setShortcut(RecordKey);
+    m_levelBar->setAccessibleName(ui->label_select_mic->text());
+}
+
 void MicrophonePage::addTips()
 {
     const QStringList lines{qtTrId("ID_CameraPage_1"), qtTrId("ID_MicrophonePage_2"),
@@ -242,6 +255,8 @@ void MicrophonePage::addTips()
     auto* tips =
         new TipsWidget(qtTrId("ID_MicrophonePage_ClickHere"), lines.join(QLatin1Char('\n')), this);
     ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1, tips);
+    DeviceChecks::setTabOrder(ui->cb_ad_input_name,
+                              {m_volume, tips->button(), ui->Btn_Mic_Yes, ui->Btn_Mic_No});
 }
 
 void MicrophonePage::connectMicrophone()

@@ -45,6 +45,7 @@ private Q_SLOTS:
 private:
     void setTexts();
     void addLevelBars();
+    void nameControls();
     void addTips();
     void connectMicrophone();
     void followComboBox();

@@ -59,11 +59,14 @@ QString elidedWhereTooLong(const QString& text, Qt::TextElideMode mode, const QL
     return label.fontMetrics().elidedText(text, mode, label.width());
 }
 
-void setVerdictColor(QLabel* label, bool isGood)
+void showVerdict(QLabel* label, const QLabel* caption, bool isGood)
 {
     QPalette palette;
     palette.setColor(QPalette::WindowText, QColor(isGood ? GoodColor : BadColor));
     label->setPalette(palette);
+    const QString verdict =
+        isGood ? qtTrId("ID_CheckResultPage_Normal") : qtTrId("ID_CheckResultPage_Abnormal");
+    label->setAccessibleDescription(caption->text() + QLatin1Char(' ') + verdict);
 }
 
 } // namespace
@@ -141,6 +144,17 @@ void NetworkPage::setCaptions()
     ui->label_7->setText(qtTrId("ID_NetworkPage_LostRate"));
     ui->label_8->setText(qtTrId("ID_NewLogin_Server"));
     ui->label_9->setText(qtTrId("ID_NetworkPage_Client"));
+    // The values stand in another column; a screen reader has to be told what they are.
+    const std::pair<const QLabel*, QLabel*> rows[] = {
+        {ui->label_0, ui->label_Account}, {ui->label_2, ui->label_Name},
+        {ui->label_3, ui->label_OS},      {ui->label_4, ui->label_CPU},
+        {ui->label_5, ui->label_AV},      {ui->label_6, ui->label_ND},
+        {ui->label_7, ui->label_LR},      {ui->label_8, ui->label_SVR},
+        {ui->label_9, ui->label_CLT},     {ui->label_10, ui->label_CDN},
+    };
+    for (const auto& [caption, value] : rows) {
+        value->setAccessibleDescription(caption->text());
+    }
 }
 
 void NetworkPage::fillSessionFacts()
@@ -173,7 +187,7 @@ void NetworkPage::refreshNetworkInfo()
         isMeasured ? QStringLiteral("%1ms").arg(delay) : QStringLiteral("N/A");
     SystemTestingResult::writeNetworkDelay(delayText);
     m_delayOk = isMeasured && delay < TooSlowMs;
-    setVerdictColor(ui->label_ND, m_delayOk);
+    showVerdict(ui->label_ND, ui->label_6, m_delayOk);
     ui->label_ND->setText(delayText);
 
     const int loss = std::get<LossElement>(m_networkTest.getNetworkInfo());
@@ -181,5 +195,5 @@ void NetworkPage::refreshNetworkInfo()
     ui->label_LR->setText(lossText);
     SystemTestingResult::writeFrameLossRate(lossText);
     m_lossRateOk = loss <= WorstLossPercent;
-    setVerdictColor(ui->label_LR, m_lossRateOk);
+    showVerdict(ui->label_LR, ui->label_7, m_lossRateOk);
 }

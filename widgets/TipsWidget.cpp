@@ -36,6 +36,8 @@ TipsWidget::TipsWidget(const QString& buttonText, const QString& tipText, QWidge
     m_button.setIcon(icon);
     m_button.setIconSize(IconSize);
     m_button.setText(QLatin1Char(' ') + buttonText);
+    m_button.setAccessibleName(buttonText);
+    m_button.setAccessibleDescription(tipText);
     m_button.setFixedHeight(LineHeight);
     m_button.setFixedHeight(ButtonHeight);
     m_button.setCursor(Qt::PointingHandCursor);
@@ -54,6 +56,11 @@ TipsWidget::TipsWidget(const QString& buttonText, const QString& tipText, QWidge
 }
 
 TipsWidget::~TipsWidget() = default;
+
+QWidget* TipsWidget::button()
+{
+    return &m_button;
+}
 
 bool TipsWidget::eventFilter(QObject* watched, QEvent* event)
 {

@@ -18,6 +18,8 @@ public:
     TipsWidget(const QString& buttonText, const QString& tipText, QWidget* parent);
     ~TipsWidget() override;
 
+    QWidget* button(); // for the tab order
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

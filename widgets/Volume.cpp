@@ -82,6 +82,7 @@ Volume::Volume(QWidget* parent, int initialValue, bool extendedRange)
     layout->addWidget(m_valueLabel);
     m_valueLabel->setStyleSheet(ValueLabelStyle);
     m_valueLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    setFocusProxy(m_slider);
 }
 
 Volume::~Volume() = default;
@@ -92,6 +93,13 @@ void Volume::setVolume(int value)
     m_slider->setValue(value);
     showValue(value);
     connect(m_slider, SIGNAL(valueChanged(int)), this, SLOT(onValueChange(int)));
+}
+
+void Volume::setCaption(const QString& caption)
+{
+    setAccessibleName(caption);
+    m_slider->setAccessibleName(caption);
+    m_valueLabel->setAccessibleDescription(caption); // its name is the value
 }
 
 void Volume::onValueChange(int value)

@@ -22,6 +22,9 @@ public:
     // A value outside the range moves the slider to its end, and is shown as it is.
     void setVolume(int value);
 
+    // What a screen reader calls it.
+    void setCaption(const QString& caption);
+
 Q_SIGNALS:
     void setVolumeByUser(int value);
 

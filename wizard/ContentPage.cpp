@@ -41,6 +41,14 @@ void showPlain(ClickColorLabel* label, const QString& style)
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, StepTextColor);
     label->setPalette(palette);
+    label->setAccessibleDescription(QString());
+}
+
+void showVerdict(ClickColorLabel* label, bool passed)
+{
+    label->setResultColor(passed);
+    label->setAccessibleDescription(passed ? qtTrId("ID_CheckResultPage_Normal")
+                                           : qtTrId("ID_CheckResultPage_Abnormal"));
 }
 
 } // namespace
@@ -82,24 +90,24 @@ void ContentPage::selectStep(QWidget* stepLabel)
     } else if (stepLabel == ui->label_CameraCheck) {
         showPlain(ui->label_CameraCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->cameraPage);
-        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->networkPage->saveResult();
     } else if (stepLabel == ui->label_SoundCheck) {
         showPlain(ui->label_SoundCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->headsetPage);
-        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->networkPage->saveResult();
-        ui->label_CameraCheck->setResultColor(ui->cameraPage->isPassed());
+        showVerdict(ui->label_CameraCheck, ui->cameraPage->isPassed());
         ui->cameraPage->saveResult();
     } else if (stepLabel == ui->label_MicCheck) {
         showPlain(ui->label_MicCheck, CurrentStepStyle);
         ui->stackedWidget->setCurrentWidget(ui->microphonePage);
         ui->networkPage->saveResult();
-        ui->label_SystemCheck->setResultColor(ui->networkPage->isPassed());
+        showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->cameraPage->saveResult();
-        ui->label_CameraCheck->setResultColor(ui->cameraPage->isPassed());
+        showVerdict(ui->label_CameraCheck, ui->cameraPage->isPassed());
         ui->headsetPage->saveResult();
-        ui->label_SoundCheck->setResultColor(ui->headsetPage->isPassed());
+        showVerdict(ui->label_SoundCheck, ui->headsetPage->isPassed());
     }
 }
 
@@ -107,7 +115,7 @@ void ContentPage::showResult()
 {
     ui->checkArea->setCurrentWidget(ui->resultPage);
     ui->microphonePage->saveResult();
-    ui->label_MicCheck->setResultColor(ui->microphonePage->isPassed());
+    showVerdict(ui->label_MicCheck, ui->microphonePage->isPassed());
 }
 
 void ContentPage::onResultDone()
