@@ -20,9 +20,10 @@ const char* const Style =
     "body{font:14px/1.5 sans-serif;color:#232323;background:#fff;max-width:46em;margin:2em auto;"
     "padding:0 1em}h1{font-size:1.5em}h2{font-size:1.1em;margin:1.5em 0 .3em}"
     "table{border-collapse:collapse;width:100%}"
-    "th,td{text-align:start;vertical-align:top;padding:.25em .5em;border-bottom:1px solid #e5e5e5;"
+    "th,td{text-align:left;vertical-align:top;padding:.25em .5em;border-bottom:1px solid #e5e5e5;"
     "overflow-wrap:anywhere}th{width:40%;font-weight:normal;color:#595959}"
     ".good{color:#007a55}.bad{color:#c62f0d}.notice{color:#8a5a00}"
+    "[dir=rtl] th,[dir=rtl] td{text-align:right}"
     "article+article{border-top:2px solid #595959;margin-top:3em}";
 
 constexpr const char* CheckKeys[] = {"network", "camera", "speaker", "microphone"};

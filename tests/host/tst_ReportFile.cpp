@@ -4,43 +4,10 @@
 #include "SampleReport.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
+#include "tests/support/FullDisk.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <csignal>
-#include <sys/resource.h>
-
-namespace {
-
-// While it lives, no file of this process may grow above nothing.
-class FullDisk
-{
-public:
-    FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit nothing = {0, m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &nothing);
-    }
-
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    using Handler = void (*)(int);
-
-    Handler m_handler;
-    rlimit m_limit = {};
-};
-
-} // namespace
 
 class tst_ReportFile : public QObject
 {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 
+#include "tests/support/FullDisk.h"
+
 #include <QLockFile>
 #include <QRegularExpression>
 #include <QSemaphore>
@@ -53,6 +55,7 @@ private Q_SLOTS:
     void refusesWhatIsNoFile();
     void refusesAFolderThatCannotBe();
     void refusesAnAbsurdlyLargeFile();
+    void leavesTheFileWhereTheDiskIsFull();
 
 private:
     QString path(const char* name = "file") const
@@ -193,6 +196,21 @@ void tst_FileWriter::refusesAnAbsurdlyLargeFile()
     FileWriter::replace(path(), "content");
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QCOMPARE(QFileInfo(path()).size(), OneTooMany);
+}
+
+// The content is short enough to wait in a buffer until the file is closed.
+void tst_FileWriter::leavesTheFileWhereTheDiskIsFull()
+{
+    constexpr int Limit = 1000;
+    FileWriter::replace(path(), "old");
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    expectComplaint(path(), QStringLiteral("."));
+    {
+        const FullDisk fullDisk(Limit);
+        FileWriter::replace(path(), QByteArray(2 * Limit, 'x'));
+        QVERIFY(FileWriter::waitForWritten(WaitMs));
+    }
+    QCOMPARE(contentOf(path()), QByteArray("old"));
 }
 
 QTEST_GUILESS_MAIN(tst_FileWriter)
