@@ -14,7 +14,6 @@ extern char** environ;
 namespace {
 
 constexpr int Rate = 48000;
-constexpr float Threshold = 0.01F;
 constexpr std::size_t QuietSamples = Rate / 5;
 
 } // namespace
@@ -89,9 +88,7 @@ void MonitorEar::listen()
             if (m_isWaitingForQuiet) {
                 m_isWaitingForQuiet = m_quietSamples < QuietSamples;
             } else if (isLoud && !m_onset) {
-                const double early = static_cast<double>(count - i) / Rate;
-                m_onset = now - std::chrono::duration_cast<Clock::duration>(
-                                    std::chrono::duration<double>(early));
+                m_onset = now;
             }
         }
     }

@@ -10,11 +10,13 @@
 #include <thread>
 
 // Listens to a device on a thread of its own and says when a sound began, however busy the thread
-// that asks is. It hears a few milliseconds late, the same for everybody.
+// that asks is. A sound counts from when its first sample got here: a few milliseconds late, the
+// same for everybody.
 class MonitorEar
 {
 public:
     using Clock = std::chrono::steady_clock;
+    static constexpr float Threshold = 0.01F; // what is louder is a sound
 
     explicit MonitorEar(const QString& device);
     ~MonitorEar();
