@@ -18,12 +18,34 @@ constexpr char StreamName[] = "Listening to oneself";
 
 } // namespace
 
-ListenBack::ListenBack(pa_context* context, const QString& speakerId, unsigned rate)
-    : m_samplesPerMs(rate / 1000.0), m_guard(rate)
+ListenBack::ListenBack(pa_mainloop_api* api, const QString& speakerId, unsigned rate)
+    : m_speakerId(speakerId.toUtf8()),
+      m_rate(rate),
+      m_samplesPerMs(rate / 1000.0),
+      m_guard(rate),
+      m_context(pa_context_new(api, PulseClientName))
 {
-    const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, rate, 1};
-    m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
+    pa_context_set_state_callback(
+        m_context.get(),
+        [](pa_context*, void* self) { static_cast<ListenBack*>(self)->contextStateChanged(); },
+        this);
+    // Where it fails, the state says so.
+    pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
+}
+
+void ListenBack::contextStateChanged()
+{
+    if (pa_context_get_state(m_context.get()) == PA_CONTEXT_READY) {
+        connectStream();
+    }
+}
+
+void ListenBack::connectStream()
+{
+    const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, m_rate, 1};
+    m_stream.reset(pa_stream_new(m_context.get(), StreamName, &spec, nullptr));
     if (!m_stream) {
+        pa_context_disconnect(m_context.get());
         return;
     }
     pa_stream_set_underflow_callback(
@@ -36,18 +58,19 @@ ListenBack::ListenBack(pa_context* context, const QString& speakerId, unsigned r
                                    bytes(RequestMs), static_cast<std::uint32_t>(-1)};
     const auto flags =
         static_cast<pa_stream_flags_t>(PA_STREAM_DONT_MOVE | PA_STREAM_EARLY_REQUESTS);
-    pa_stream_connect_playback(m_stream.get(), speakerId.toUtf8().constData(), &buffer, flags,
-                               nullptr, nullptr);
+    pa_stream_connect_playback(m_stream.get(), m_speakerId.constData(), &buffer, flags, nullptr,
+                               nullptr);
 }
 
 bool ListenBack::hasFailed() const
 {
-    return !m_stream || !PA_STREAM_IS_GOOD(pa_stream_get_state(m_stream.get()));
+    return !PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context.get())) ||
+           (m_stream && !PA_STREAM_IS_GOOD(pa_stream_get_state(m_stream.get())));
 }
 
 void ListenBack::play(const float* samples, std::size_t count)
 {
-    if (hasFailed() || pa_stream_get_state(m_stream.get()) != PA_STREAM_READY) {
+    if (!m_stream || pa_stream_get_state(m_stream.get()) != PA_STREAM_READY) {
         return;
     }
     if (m_hasStarted) {

@@ -7,6 +7,7 @@
 #include "platform/devices/pulse/HowlGuard.h"
 #include "platform/devices/pulse/PulseHandles.h"
 
+#include <QByteArray>
 #include <QString>
 #include <vector>
 
@@ -14,18 +15,25 @@ namespace Platform {
 
 // Plays what the microphone hears on one speaker with as little delay as the server allows. Sound
 // thread only. Where the speaker fails it falls silent.
+//
+// It has a connection of its own: PipeWire holds back what a client records for as long as anything
+// else waits to be sent to that client, and a playing stream is sent a request in every round.
 class ListenBack
 {
 public:
-    ListenBack(pa_context* context, const QString& speakerId, unsigned rate);
+    ListenBack(pa_mainloop_api* api, const QString& speakerId, unsigned rate);
 
     void play(const float* samples, std::size_t count);
     bool hasFailed() const;
 
 private:
+    void contextStateChanged();
+    void connectStream();
     double storeMs() const;
     void noteUnderflow();
 
+    QByteArray m_speakerId;
+    unsigned m_rate;
     double m_samplesPerMs;
     HowlGuard m_guard;
     DriftResampler m_resampler;
@@ -33,6 +41,7 @@ private:
     std::size_t m_toSkip = 0; // samples
     bool m_hasStarted = false;
     std::vector<float> m_output;
+    PulseContextHandle m_context;
     PulseStreamHandle m_stream;
 };
 

@@ -204,7 +204,7 @@ void PulseCapture::listenBack(const float* samples, std::size_t count)
         m_listenBack.reset();
     }
     if (!m_listenBack && !m_speakerId.isEmpty()) {
-        m_listenBack = std::make_unique<ListenBack>(m_connection.context(), m_speakerId, Rate);
+        m_listenBack = std::make_unique<ListenBack>(m_connection.api(), m_speakerId, Rate);
         m_listenBackStart = m_lastSample;
     }
     if (m_listenBack) {

@@ -17,7 +17,6 @@ namespace {
 
 constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
-constexpr char ClientName[] = "EnvCheck";
 // What the server shows where it has no playback device at all.
 constexpr char DummySink[] = "auto_null";
 
@@ -91,7 +90,7 @@ void PulseConnection::remove(const std::shared_ptr<Client>& client)
 
 void PulseConnection::connect()
 {
-    m_context.reset(pa_context_new(api(), ClientName));
+    m_context.reset(pa_context_new(api(), PulseClientName));
     pa_context_set_state_callback(
         m_context.get(),
         [](pa_context*, void* self) { static_cast<PulseConnection*>(self)->contextStateChanged(); },

@@ -10,6 +10,9 @@
 
 namespace Platform {
 
+// What the server shows as the owner of streams and connections.
+constexpr char PulseClientName[] = "EnvCheck";
+
 // Ends a stream or a connection for good: none of its callbacks runs any more. Sound thread only.
 struct PulseStreamCloser
 {
