@@ -3,12 +3,14 @@
 #include "platform/devices/pulse/LevelMeter.h"
 #include "platform/devices/pulse/PulseSound.h"
 #include "tests/support/GapMeter.h"
+#include "tests/support/ListeningRoom.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
 
 #include <QElapsedTimer>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -267,6 +269,29 @@ private Q_SLOTS:
         QTRY_COMPARE(playbacks(), 1);
         QTRY_COMPARE(captures(), 0);
         QTRY_COMPARE(level(), 0.0);
+    }
+
+    void listeningIsPrompt()
+    {
+        constexpr int Bursts = 12;
+        constexpr double MaxMedianMs = 30.0;
+        constexpr double MaxDelayMs = 60.0;
+        TestSupport::ListeningRoom room(*m_server);
+        QVERIFY(room.isBuilt());
+        m_speaker = m_sound->createSpeaker(m_speakerListener);
+        m_speaker->setCurrent(id("room_speaker"));
+        m_microphone->setCurrent(id("room_microphone"));
+        m_microphone->open();
+        m_microphone->setListening(true);
+        QTRY_VERIFY(m_listener->levels.size() > 20);
+        std::vector<double> delays = room.measureDelays(Bursts);
+        QCOMPARE(delays.size(), std::size_t{Bursts});
+        std::sort(delays.begin(), delays.end());
+        qInfo("delay %.1f to %.1f ms, median %.1f", delays.front(), delays.back(),
+              delays[Bursts / 2]);
+        QVERIFY(delays.front() > 0.0); // none is lost
+        QVERIFY(delays.back() < MaxDelayMs);
+        QVERIFY(delays[Bursts / 2] < MaxMedianMs);
     }
 
     void closingIsAtOnce()
