@@ -597,7 +597,7 @@
     </message>
     <message id="ID_Microphone">
         <source></source>
-        <translation>الميكروفون:</translation>
+        <translation>المايك:</translation>
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>

@@ -205,7 +205,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Нажмите кнопку воспроизведения, послушайте и выберите звук, который вы слышите.</translation>
+        <translation>Нажмите «Пуск», послушайте и выберите звук, который слышите.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
