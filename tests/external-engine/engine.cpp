@@ -42,7 +42,7 @@ const QString HardwareMgrInterface::NoneDevice = QStringLiteral("0");
 
 HardwareMgr::HardwareMgr(const QString& name, QObject* parent) : QObject(parent)
 {
-    setObjectName(name);
+    note("manager", name);
 }
 
 void HardwareMgr::postHardwardInfoToServer(int code)
@@ -126,10 +126,17 @@ int DeleleAudioPlayer(AudioPlayer* player)
     return 0;
 }
 
-LumSettings* LumSettings::instance(const QString&)
+LumSettings* LumSettings::instance(const QString& store)
 {
     static LumSettings settings;
+    note("settings", store.isEmpty() ? QStringLiteral("default") : store);
     return &settings;
+}
+
+void LumSettings::setSetting(const QString& key, const QVariant& value)
+{
+    note("setting", key + QLatin1Char(' ') + value.toString());
+    m_values.insert(key, value);
 }
 
 QString LumUtils::getMessageBoxTitle(QMessageBox::Icon)
@@ -142,17 +149,36 @@ QString OperatingSystem::getName(const QString& separator) const
     return QStringLiteral("minimal") + separator + QStringLiteral("system");
 }
 
-LumCustomNormalDialog::LumCustomNormalDialog(Type, QWidget* parent, Qt::WindowFlags flags,
-                                             ICustomedTitleBar*, bool)
+LumCustomNormalDialog::LumCustomNormalDialog(Type type, QWidget* parent, Qt::WindowFlags flags,
+                                             ICustomedTitleBar* titleBar, bool last)
     : QDialog(parent, flags)
 {
+    note("dialog", QStringLiteral("%1 %2 %3 %4 %5")
+                       .arg(type)
+                       .arg(parent ? "above" : "alone")
+                       .arg(int(flags))
+                       .arg(titleBar ? "dressed" : "plain")
+                       .arg(last));
     new QVBoxLayout(this);
 }
 
-void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool)
+void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool last)
 {
+    note("centre", widget->objectName() + QStringLiteral(" %1").arg(last));
     layout()->addWidget(widget);
     connect(widget, &QObject::destroyed, this, &QDialog::accept);
+}
+
+void LumCustomNormalDialog::setTitleText(const QString& text)
+{
+    note("title", text);
+    setWindowTitle(text);
+}
+
+int LumCustomNormalDialog::exec()
+{
+    note("dialog", QStringLiteral("runs"));
+    return QDialog::exec();
 }
 
 QMessageBox::StandardButton LumMessageBox::question(QWidget*, const QString&, const QString& text,

@@ -17,6 +17,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTableWidget>
 #include <QtTest>
 
 using Platform::ScriptedEngine;
@@ -33,6 +34,51 @@ const char* const PageNames[] = {"networkPage", "cameraPage", "headsetPage", "mi
 const char* const LabelNames[] = {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck",
                                   "label_MicCheck"};
 
+// Notes when the labels change their colour, and when results reach the engine, in one order.
+class OrderOfMarks : public QObject
+{
+public:
+    OrderOfMarks(ScriptedEngine& engine, const QVector<ClickColorLabel*>& labels) : m_engine(engine)
+    {
+        m_engine.clearCalls();
+        for (ClickColorLabel* label : labels) {
+            label->installEventFilter(this);
+        }
+    }
+
+    // Without what is plain again before a step is shown.
+    QStringList notes()
+    {
+        takeResults();
+        return m_notes;
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* label = static_cast<QWidget*>(watched);
+        if (event->type() == QEvent::PaletteChange &&
+            label->palette().color(QPalette::WindowText) == Red) {
+            takeResults();
+            m_notes << "mark " + label->objectName();
+        }
+        return false;
+    }
+
+private:
+    void takeResults()
+    {
+        const QStringList results = m_engine.commands().filter("report.result(");
+        for (const QString& result : results) {
+            m_notes << result.section('(', 1).section('=', 0, 0);
+        }
+        m_engine.clearCalls();
+    }
+
+    ScriptedEngine& m_engine;
+    QStringList m_notes;
+};
+
 } // namespace
 
 class tst_ContentPage : public QObject
@@ -48,10 +94,16 @@ private Q_SLOTS:
     void metaObjectHasOneSignal();
     void completeMovesThroughTheSteps();
     void unknownLabelOnlyResets();
+    void completeClicksTheNextLabel();
+    void passedStepsTurnGreen();
+    void jumpingToTheCameraMarksOneStep();
+    void resultsAndMarksComeInOrder_data();
+    void resultsAndMarksComeInOrder();
     void jumpingToTheMicrophoneMarksRedAndRecords();
     void goingBackRecordsNothing();
     void returningReplacesTheMark();
     void microphoneCompleteShowsTheResult();
+    void resultListsThePagesInOrder();
     void redetectKeepsTheAnswers();
     void redetectAfterOneFailure();
     void okClosesTheFrame();
@@ -61,15 +113,19 @@ private Q_SLOTS:
     void confirmingReportsLeftEarly();
     void closingAnsweredWritesTheSetting_data();
     void closingAnsweredWritesTheSetting();
+    void threeAnswersAreNotEnough_data();
     void threeAnswersAreNotEnough();
     void closingHidesTheShownPage();
+    void closingOnTheResultHidesNoPage();
     void questionIsLogged();
     void canCloseFollowsTheSameRule();
+    void canCloseWritesTheSettingToo();
 
     void engineEndsTheSession_data();
     void engineEndsTheSession();
     void breakdownWinsOverTheQuestion_data();
     void breakdownWinsOverTheQuestion();
+    void breakdownWinsOverCanClose();
     void breakdownTwiceInARow();
     void breakdownWhileClosing();
     void frameDestroyedDuringTheQuestion();
@@ -83,6 +139,11 @@ private:
     QStackedWidget* stack(const char* name) const
     {
         return m_frame->findChild<QStackedWidget*>(name);
+    }
+    QVector<ClickColorLabel*> labels() const
+    {
+        return {label("label_SystemCheck"), label("label_CameraCheck"), label("label_SoundCheck"),
+                label("label_MicCheck")};
     }
     void answerAll(bool answer);
     void finishPage(const char* name, bool answer) { page(name)->finishCheck(answer); }
@@ -213,6 +274,77 @@ void tst_ContentPage::completeMovesThroughTheSteps()
     }
 }
 
+void tst_ContentPage::completeClicksTheNextLabel()
+{
+    for (int i = 0; i < 3; ++i) {
+        QSignalSpy clicked(label(LabelNames[i + 1]), &ClickColorLabel::clicked);
+        Q_EMIT page(PageNames[i])->complete();
+        QCOMPARE(clicked.count(), 1);
+    }
+}
+
+void tst_ContentPage::passedStepsTurnGreen()
+{
+    m_engine->network().setFigures({0, 20, 1, 10, 10});
+    m_engine->cameras().plug({"c", "Some Camera"}, Platform::DeviceState::Working);
+    QTRY_VERIFY(page("networkPage")->isPassed());
+    finishPage("networkPage", true);
+    QCOMPARE(textColor("label_SystemCheck"), Green);
+    finishPage("cameraPage", true);
+    QVERIFY(page("cameraPage")->isPassed());
+    QCOMPARE(textColor("label_CameraCheck"), Green);
+    finishPage("headsetPage", true);
+    QVERIFY(!page("headsetPage")->isPassed());
+    for (const char* name : {"label_SystemCheck", "label_CameraCheck"}) {
+        QCOMPARE(textColor(name), Green);
+    }
+    QCOMPARE(textColor("label_SoundCheck"), Red);
+}
+
+void tst_ContentPage::jumpingToTheCameraMarksOneStep()
+{
+    m_engine->clearCalls();
+    QTest::mouseClick(label("label_CameraCheck"), Qt::LeftButton);
+    QCOMPARE(shownPage(), QString("cameraPage"));
+    QCOMPARE(textColor("label_SystemCheck"), Red);
+    for (const char* name : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+        QCOMPARE(textColor(name), Plain);
+    }
+    QVERIFY(m_engine->commands().filter("report.").isEmpty());
+}
+
+void tst_ContentPage::resultsAndMarksComeInOrder_data()
+{
+    const QStringList camera{"camera.userState", "camera.deviceState", "camera.device"};
+    const QStringList speaker{"speaker.userState", "speaker.deviceState", "speaker.device"};
+    const QStringList microphone{"microphone.userState", "microphone.deviceState",
+                                 "microphone.device"};
+    const QString systemMark = "mark label_SystemCheck";
+    const QString cameraMark = "mark label_CameraCheck";
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("to the speaker")
+        << "label_SoundCheck" << QStringList({systemMark, cameraMark}) + camera;
+    QTest::newRow("to the microphone")
+        << "label_MicCheck"
+        << QStringList(systemMark) + camera + QStringList(cameraMark) + speaker +
+               QStringList("mark label_SoundCheck");
+    QTest::newRow("to the result") << "" << microphone + QStringList("mark label_MicCheck");
+}
+
+void tst_ContentPage::resultsAndMarksComeInOrder()
+{
+    QFETCH(QString, way);
+    QFETCH(QStringList, expected);
+    OrderOfMarks order(*m_engine, labels());
+    if (way.isEmpty()) {
+        m_frame->showResult();
+    } else {
+        m_frame->selectStep(m_frame->findChild<QWidget*>(way));
+    }
+    QCOMPARE(order.notes(), expected);
+}
+
 void tst_ContentPage::unknownLabelOnlyResets()
 {
     m_frame->selectStep(label("label_MicCheck"));
@@ -275,6 +407,22 @@ void tst_ContentPage::microphoneCompleteShowsTheResult()
              QStringList({"report.result(microphone.userState=2)"}));
 }
 
+void tst_ContentPage::resultListsThePagesInOrder()
+{
+    answerAll(false);
+    auto* table = m_frame->findChild<QTableWidget*>("tableWidget");
+    QTRY_VERIFY(table->cellWidget(3, 1));
+    for (int row = 0; row < 4; ++row) {
+        QCOMPARE(qobject_cast<QLabel*>(table->cellWidget(row, 1))->text(),
+                 page(PageNames[row])->problemText());
+    }
+    QSet<QString> texts;
+    for (const char* name : PageNames) {
+        texts.insert(page(name)->problemText());
+    }
+    QCOMPARE(texts.size(), 4);
+}
+
 void tst_ContentPage::redetectKeepsTheAnswers()
 {
     answerAll(true);
@@ -319,6 +467,7 @@ void tst_ContentPage::closingUnansweredAsks()
     QCOMPARE(question.title(), QString("ID_MessageBox_Question"));
     QCOMPARE(question.buttons(), QMessageBox::Yes | QMessageBox::No);
     QCOMPARE(question.defaultButton(), QMessageBox::Yes);
+    QCOMPARE(question.parent(), m_frame.data());
 }
 
 void tst_ContentPage::refusingKeepsTheDialog()
@@ -365,14 +514,24 @@ void tst_ContentPage::closingAnsweredWritesTheSetting()
     QCOMPARE(file.value("ShowSystemCheck").toString(), QString("false"));
 }
 
+void tst_ContentPage::threeAnswersAreNotEnough_data()
+{
+    QTest::addColumn<QString>("unanswered");
+    for (const char* name : PageNames) {
+        QTest::newRow(name) << name;
+    }
+}
+
 void tst_ContentPage::threeAnswersAreNotEnough()
 {
-    finishPage("cameraPage", true);
-    finishPage("headsetPage", true);
+    QFETCH(QString, unanswered);
+    answerAll(true);
+    m_frame->findChild<CheckPage*>(unanswered)->reset();
     QuestionAnswerer question(QMessageBox::Yes);
     m_frame->close();
     QCOMPARE(question.count(), 1);
     QCOMPARE(postedCodes(), QVector<int>({7}));
+    QVERIFY(!isSettingWritten());
 }
 
 void tst_ContentPage::closingHidesTheShownPage()
@@ -384,8 +543,18 @@ void tst_ContentPage::closingHidesTheShownPage()
     m_frame->close();
     QVERIFY(shown->isHidden());
     const QStringList commands = m_engine->commands();
-    QVERIFY(commands.indexOf("report.post(ContentPage::closeEvent,7)") <
-            commands.indexOf("camera.stop()"));
+    const int posted = commands.indexOf("report.post(ContentPage::closeEvent,7)");
+    QVERIFY(posted >= 0);
+    QVERIFY(posted < commands.indexOf("camera.stop()"));
+}
+
+void tst_ContentPage::closingOnTheResultHidesNoPage()
+{
+    answerAll(true);
+    const QPointer<QWidget> microphonePage = page("microphonePage");
+    m_frame->close();
+    QVERIFY(microphonePage);
+    QVERIFY(!microphonePage->isHidden());
 }
 
 void tst_ContentPage::questionIsLogged()
@@ -428,6 +597,17 @@ void tst_ContentPage::canCloseFollowsTheSameRule()
     QCOMPARE(m_engine->reports().posts().first().managerName, QString("isCanCloseFunc"));
     QCOMPARE(postedCodes(), QVector<int>({7}));
     QVERIFY(m_frame->isVisible());
+    QVERIFY(stack("stackedWidget")->currentWidget()->isHidden());
+}
+
+void tst_ContentPage::canCloseWritesTheSettingToo()
+{
+    answerAll(true);
+    QuestionAnswerer question(QMessageBox::No);
+    QVERIFY(m_frame->canClose());
+    QCOMPARE(question.count(), 0);
+    QVERIFY(isSettingWritten());
+    QCOMPARE(postedCodes(), QVector<int>({3}));
 }
 
 void tst_ContentPage::engineEndsTheSession_data()
@@ -442,9 +622,15 @@ void tst_ContentPage::engineEndsTheSession()
     QFETCH(bool, isKickout);
     QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
+    bool wasClosedFirst = false;
+    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
+        wasClosedFirst = !frame->isVisible() && shown->isHidden();
+    });
     QuestionAnswerer question(QMessageBox::No);
     isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
     QTRY_COMPARE(closeDialog.count(), 1);
+    QVERIFY(wasClosedFirst);
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
     QCOMPARE(question.count(), 0);
     QCOMPARE(postedCodes(), QVector<int>());
@@ -472,6 +658,18 @@ void tst_ContentPage::breakdownWinsOverTheQuestion()
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
     QCOMPARE(postedCodes(), QVector<int>());
     QVERIFY(!isSettingWritten());
+}
+
+void tst_ContentPage::breakdownWinsOverCanClose()
+{
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question([this](QMessageBox*) { m_engine->facts().breakDown(); });
+    QVERIFY(m_frame->canClose());
+    QCOMPARE(question.count(), 1);
+    QCOMPARE(closeDialog.count(), 1);
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(postedCodes(), QVector<int>());
 }
 
 void tst_ContentPage::breakdownTwiceInARow()

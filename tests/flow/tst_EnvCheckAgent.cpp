@@ -108,9 +108,12 @@ void tst_EnvCheckAgent::cleanup()
 void tst_EnvCheckAgent::releaseWithoutInstance()
 {
     EnvCheckAgent::release();
-    EnvCheckAgent::instance();
+    const QPointer<EnvCheckAgent> agent = EnvCheckAgent::instance();
+    QVERIFY(agent);
     EnvCheckAgent::release();
+    QVERIFY(!agent);
     EnvCheckAgent::release();
+    QVERIFY(EnvCheckAgent::instance());
 }
 
 void tst_EnvCheckAgent::instanceIsTheSameUntilReleased()
@@ -151,6 +154,8 @@ void tst_EnvCheckAgent::dialogWithoutParent()
     DialogRun run([this](LumCustomNormalDialog* dialog) {
         QCOMPARE(dialog->windowTitle(), QString("ID_Kestrel_SystemTesting"));
         QVERIFY(dialog->isModal());
+        QVERIFY(!dialog->parent());
+        QVERIFY(!dialog->windowHandle()->transientParent());
         QVERIFY(frameOf(dialog)->isVisible());
         kickOut();
     });

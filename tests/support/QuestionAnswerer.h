@@ -34,6 +34,7 @@ public:
     QString text() const { return m_text; }
     QMessageBox::StandardButtons buttons() const { return m_buttons; }
     QMessageBox::StandardButton defaultButton() const { return m_defaultButton; }
+    const QWidget* parent() const { return m_parent; } // only to be compared
 
 private:
     static constexpr int PollMs = 5;
@@ -50,6 +51,7 @@ private:
         m_text = box->text();
         m_buttons = box->standardButtons();
         m_defaultButton = box->standardButton(box->defaultButton());
+        m_parent = box->parentWidget();
         m_reaction(box);
     }
 
@@ -61,4 +63,5 @@ private:
     QString m_text;
     QMessageBox::StandardButtons m_buttons;
     QMessageBox::StandardButton m_defaultButton = QMessageBox::NoButton;
+    const QWidget* m_parent = nullptr;
 };

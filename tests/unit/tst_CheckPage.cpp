@@ -16,6 +16,7 @@ class ProblemPage : public CheckPage
 public:
     std::vector<QString> problemList() const override { return problems; }
     void updateDeviceState() override { ++updates; }
+    bool isConfirmed() const { return m_userConfirmed; }
 
     std::vector<QString> problems;
     int updates = 0;
@@ -117,30 +118,41 @@ void tst_CheckPage::barePageHasNoVerdict()
 
 void tst_CheckPage::finishCheckStoresTheAnswer()
 {
-    CheckPage page;
-    QSignalSpy complete(&page, &CheckPage::complete);
-    page.finishCheck(false);
-    QVERIFY(page.isTested());
-    QVERIFY(!page.isPassed());
+    ProblemPage page;
+    bool wasStoredFirst = false;
+    connect(&page, &CheckPage::complete, &page,
+            [&] { wasStoredFirst = page.isTested() && page.isConfirmed(); });
+    page.finishCheck(true);
+    QVERIFY(wasStoredFirst);
+
+    ProblemPage other;
+    QSignalSpy complete(&other, &CheckPage::complete);
+    other.finishCheck(false);
+    QVERIFY(other.isTested());
+    QVERIFY(!other.isConfirmed());
+    QVERIFY(!other.isPassed());
     QCOMPARE(complete.count(), 1);
 }
 
 void tst_CheckPage::answeringAgainOverwrites()
 {
-    CheckPage page;
+    ProblemPage page;
     QSignalSpy complete(&page, &CheckPage::complete);
     page.finishCheck(true);
+    QVERIFY(page.isConfirmed());
     page.finishCheck(false);
     QVERIFY(page.isTested());
+    QVERIFY(!page.isConfirmed());
     QCOMPARE(complete.count(), 2);
 }
 
 void tst_CheckPage::resetMakesUntested()
 {
-    CheckPage page;
+    ProblemPage page;
     page.finishCheck(true);
     page.reset();
     QVERIFY(!page.isTested());
+    QVERIFY(!page.isConfirmed());
 }
 
 void tst_CheckPage::blinkAlternatesTheGreens()
@@ -161,6 +173,14 @@ void tst_CheckPage::blinkAlternatesTheGreens()
     tick(&page, timers.first().timerId);
     QCOMPARE(button.styleSheet(), style.arg("#009265"));
     tick(&page, timers.first().timerId);
+    QCOMPARE(button.styleSheet(), style.arg("#30ba78"));
+
+    // Another button takes over the only timer, and the count goes on.
+    QToolButton next;
+    page.setBlinkButton(&next);
+    QCOMPARE(timersOf(&page).size(), 1);
+    tick(&page, timersOf(&page).first().timerId);
+    QCOMPARE(next.styleSheet(), style.arg("#009265"));
     QCOMPARE(button.styleSheet(), style.arg("#30ba78"));
 }
 
@@ -205,12 +225,13 @@ void tst_CheckPage::selectComboDataFindsExactly()
     CheckPage page;
     QComboBox combo;
     combo.addItem("first", "id");
+    combo.addItem("longer", "ID of another");
     combo.addItem("second", "ID");
     QSignalSpy changed(&combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
     page.selectComboData(&combo, "id");
     QCOMPARE(changed.count(), 0);
     page.selectComboData(&combo, "ID");
-    QCOMPARE(combo.currentIndex(), 1);
+    QCOMPARE(combo.currentIndex(), 2);
     QCOMPARE(changed.count(), 1);
 }
 

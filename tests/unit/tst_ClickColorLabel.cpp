@@ -16,6 +16,7 @@ private Q_SLOTS:
     void clickedAtEveryRelease();
     void releaseOutsideCounts();
     void baseHandlerIsNotCalled();
+    void verdictBringsAFreshPalette();
     void lastVerdictStays();
     void laterPaletteReplacesTheVerdict();
     void metaObjectHasOneSignal();
@@ -59,6 +60,16 @@ void tst_ClickColorLabel::baseHandlerIsNotCalled()
     release.accept();
     QCoreApplication::sendEvent(&label, &release);
     QVERIFY(release.isAccepted());
+}
+
+void tst_ClickColorLabel::verdictBringsAFreshPalette()
+{
+    ClickColorLabel label(nullptr);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::yellow);
+    label.setPalette(palette);
+    label.setResultColor(true);
+    QVERIFY(label.palette().color(QPalette::Window) != QColor(Qt::yellow));
 }
 
 void tst_ClickColorLabel::lastVerdictStays()

@@ -5,8 +5,6 @@
 
 #include "agent/EnvCheckAgent.h"
 
-#include <LumUtility/LumSettings.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
@@ -44,6 +42,18 @@ bool clickWhenReady(const char* name)
     return true;
 }
 
+// The network step repeats its two figures for as long as it is shown.
+QStringList withoutFigures(const QStringList& lines)
+{
+    QStringList result;
+    for (const QString& line : lines) {
+        if (line != QLatin1String("delay 20ms") && line != QLatin1String("loss 0%")) {
+            result << line;
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -70,19 +80,32 @@ int main(int argc, char* argv[])
     EnvCheckAgent::instance()->showEnvCheck(nullptr);
     EnvCheckAgent::release();
 
-    bool isGood = true;
-    for (const char* wanted :
-         {"delay 20ms", "loss 0%", "camera answer 2", "camera state 2", "camera name none",
-          "headphone answer 1", "headphone state 2", "headphone name Minimal speaker",
-          "microphone answer 1", "microphone state 1", "microphone name Minimal microphone",
-          "post 3"}) {
-        if (!journal().contains(QLatin1String(wanted))) {
-            QTextStream(stderr) << "The engine was not told: " << wanted << '\n';
-            isGood = false;
-        }
+    const QStringList camera = {"camera answer 2", "camera state 2", "camera name none"};
+    const QStringList expected = QStringList{"dialog 0 alone 0 plain 0",
+                                             "manager CheckPage",
+                                             "manager CheckPage",
+                                             "manager CheckPage",
+                                             "manager CheckPage",
+                                             "manager CheckPage",
+                                             "centre selfcheckContentPage 0",
+                                             "title ID_Kestrel_SystemTesting",
+                                             "dialog runs"} +
+                                 camera + camera +
+                                 QStringList{"headphone answer 1",
+                                             "headphone state 2",
+                                             "headphone name Minimal speaker",
+                                             "microphone answer 1",
+                                             "microphone state 1",
+                                             "microphone name Minimal microphone",
+                                             "manager ContentPage::closeEvent",
+                                             "settings default",
+                                             "setting ShowSystemCheck false",
+                                             "post 3"};
+    const bool isGood = withoutFigures(journal()) == expected && journal().contains("delay 20ms") &&
+                        journal().contains("loss 0%");
+    if (!isGood) {
+        QTextStream(stderr) << "The engine was told:\n" << journal().join('\n') << '\n';
     }
-    isGood =
-        isGood && LumSettings::instance({})->setting("ShowSystemCheck", true) == QVariant(false);
     QTextStream(stdout) << (isGood ? "The check ran on the other engine.\n" : "Failed.\n");
     return isGood ? 0 : 1;
 }

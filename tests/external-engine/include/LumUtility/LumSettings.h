@@ -9,7 +9,7 @@ class LumSettings
 {
 public:
     static LumSettings* instance(const QString& store);
-    void setSetting(const QString& key, const QVariant& value) { m_values.insert(key, value); }
+    void setSetting(const QString& key, const QVariant& value);
     QVariant setting(const QString& key, const QVariant& fallback = {}) const
     {
         return m_values.value(key, fallback);

@@ -15,5 +15,6 @@ public:
 
     LumCustomNormalDialog(Type, QWidget* parent, Qt::WindowFlags flags, ICustomedTitleBar*, bool);
     void setCenterWidget(QWidget* widget, bool);
-    void setTitleText(const QString& text) { setWindowTitle(text); }
+    void setTitleText(const QString& text);
+    int exec() override;
 };
