@@ -29,6 +29,13 @@ endif()
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    # Clones in other folders share the cache, unless the user has arranged that otherwise.
+    execute_process(COMMAND ${CCACHE_PROGRAM} --get-config base_dir
+        OUTPUT_VARIABLE base_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT base_dir)
+        list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+            CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1)
+    endif()
 endif()
 
 # What every target of the project is compiled with.
