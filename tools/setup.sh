@@ -7,12 +7,13 @@ run_packages=(
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libnice-dev libpulse-dev libmpg123-dev libpipewire-0.3-dev libspa-0.2-dev libyuv-dev
     libudev-dev
-    xvfb xauth fonts-dejavu-core fonts-noto-core fonts-noto-cjk
+    xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
 test_packages=(
     coturn pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
-    libspa-0.2-modules dbus openbox x11-utils xdotool espeak-ng sox ffmpeg
-    dpkg-dev fluidsynth fluid-soundfont-gm python3-numpy python3-scipy python3-jsonschema binutils
+    libspa-0.2-modules dbus ffmpeg fluidsynth fluid-soundfont-gm
+    python3 python3-numpy python3-scipy python3-jsonschema
+    binutils dpkg-dev file
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good)
 ci_packages=(clang-format clang-tidy)

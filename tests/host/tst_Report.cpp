@@ -56,7 +56,7 @@ int runSchemaCheck(const QJsonObject& object, QString* output)
     file.close();
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QStringLiteral("python3"),
+    process.start(QStringLiteral("/usr/bin/python3"), // the system's, which has the package
                   {QStringLiteral("-c"),
                    QStringLiteral("import json, jsonschema, sys\n"
                                   "schema = json.load(open(sys.argv[1]))\n"
