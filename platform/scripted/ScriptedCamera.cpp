@@ -20,10 +20,7 @@ constexpr int RecentMs = 500;
 
 ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDocument& document,
                                Listener& listener)
-    : m_cameras(cameras),
-      m_document(document),
-      m_listener(listener),
-      m_session(log, QStringLiteral("camera"))
+    : ScriptedSession(QStringLiteral("camera"), cameras, log, document, listener)
 {
     m_frameTimer.setTimerType(Qt::PreciseTimer);
     m_watchdog.setSingleShot(true);
@@ -31,19 +28,19 @@ ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDoc
     connect(&m_watchdog, &QTimer::timeout, this, &ScriptedCamera::notifyWorkState);
 
     connect(
-        &m_cameras, &ScriptedCameras::listChanged, this, [this] { m_listener.cameraListChanged(); },
+        &m_devices, &ScriptedCameras::listChanged, this, [this] { m_listener.cameraListChanged(); },
         Qt::QueuedConnection);
-    connect(&m_cameras, &ScriptedCameras::currentChanged, this, &ScriptedCamera::onCurrentChanged);
+    connect(&m_devices, &ScriptedCameras::currentChanged, this, &ScriptedCamera::onCurrentChanged);
     connect(
-        &m_cameras, &ScriptedCameras::currentChanged, this,
+        &m_devices, &ScriptedCameras::currentChanged, this,
         [this](const QString& id) { m_listener.currentCameraChanged(id); }, Qt::QueuedConnection);
     const auto refresh = [this] {
         runFrames();
         notifyWorkState();
     };
-    connect(&m_cameras, &ScriptedCameras::currentStateChanged, this, refresh);
-    connect(&m_cameras, &ScriptedCameras::currentFeedChanged, this, refresh);
-    m_notified = workStateOf(currentState());
+    connect(&m_devices, &ScriptedCameras::currentStateChanged, this, refresh);
+    connect(&m_devices, &ScriptedCameras::currentFeedChanged, this, refresh);
+    takeWorkState();
 }
 
 ScriptedCamera::~ScriptedCamera()
@@ -56,31 +53,7 @@ ScriptedCamera::~ScriptedCamera()
 DeviceList ScriptedCamera::devices() const
 {
     m_session.query("devices");
-    return m_cameras.devices();
-}
-
-QString ScriptedCamera::currentId() const
-{
-    m_session.query("currentId");
-    return m_cameras.currentId();
-}
-
-QString ScriptedCamera::currentName() const
-{
-    m_session.query("currentName");
-    return m_cameras.currentName();
-}
-
-void ScriptedCamera::setCurrent(const QString& id)
-{
-    m_session.call("setCurrent", id);
-    m_cameras.choose(id);
-}
-
-DeviceState ScriptedCamera::state() const
-{
-    m_session.query("state");
-    return currentState();
+    return m_devices.devices();
 }
 
 bool ScriptedCamera::delivers() const
@@ -94,7 +67,7 @@ void ScriptedCamera::start()
     m_session.call("start");
     m_isStarted = true;
     runFrames();
-    m_notified = workStateOf(currentState());
+    takeWorkState();
 }
 
 // What changes by this call is known to the caller: it is not notified.
@@ -107,7 +80,7 @@ void ScriptedCamera::stop()
     m_isStarted = false;
     m_watchdog.stop();
     runFrames();
-    m_notified = workStateOf(currentState());
+    takeWorkState();
 }
 
 void ScriptedCamera::setOutputSize(const QSize& pixels)
@@ -122,11 +95,11 @@ QImage ScriptedCamera::latestPicture() const
 {
     m_session.query("latestPicture");
     if (m_frame > 0 && m_picture.isNull()) {
-        const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
+        const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
         const QSize size = TestPattern::fitted(feed.size, m_outputSize);
         m_picture = feed.pictures == ScriptedCameras::Pictures::Black
                         ? TestPattern::black(size)
-                        : TestPattern::picture(size, m_cameras.currentName(), m_frame);
+                        : TestPattern::picture(size, m_devices.currentName(), m_frame);
     }
     return m_picture;
 }
@@ -141,12 +114,12 @@ void ScriptedCamera::onCurrentChanged()
     m_frozenPictures = 0;
     m_picture = {};
     runFrames();
-    m_notified = workStateOf(currentState());
+    takeWorkState();
 }
 
 void ScriptedCamera::onFrame()
 {
-    const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
+    const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
     const bool isFrozen = m_frame > 0 && feed.pictures == ScriptedCameras::Pictures::Frozen;
     ++m_pictures;
     m_blackPictures += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
@@ -162,20 +135,20 @@ void ScriptedCamera::onFrame()
 
 bool ScriptedCamera::canDeliver() const
 {
-    const DeviceState state = m_cameras.currentState();
+    const DeviceState state = m_devices.currentState();
     return (state == DeviceState::Ready || state == DeviceState::Working) &&
-           m_cameras.feed(m_cameras.currentId()).pictures != ScriptedCameras::Pictures::None;
+           m_devices.feed(m_devices.currentId()).pictures != ScriptedCameras::Pictures::None;
 }
 
 bool ScriptedCamera::isDelivering() const
 {
     return m_watchdog.isActive() ||
-           (canDeliver() && m_cameras.currentState() == DeviceState::Working);
+           (canDeliver() && m_devices.currentState() == DeviceState::Working);
 }
 
 DeviceState ScriptedCamera::currentState() const
 {
-    const DeviceState state = m_cameras.currentState();
+    const DeviceState state = m_devices.currentState();
     if (state != DeviceState::Ready && state != DeviceState::Working) {
         return state;
     }
@@ -189,12 +162,12 @@ DeviceState ScriptedCamera::currentState() const
 void ScriptedCamera::runFrames()
 {
     if (m_isStarted && canDeliver()) {
-        const int rate = m_cameras.feed(m_cameras.currentId()).framesPerSecond;
+        const int rate = m_devices.feed(m_devices.currentId()).framesPerSecond;
         m_frameTimer.start(MsPerSecond / rate);
         return;
     }
     m_frameTimer.stop();
-    const DeviceState state = m_cameras.currentState();
+    const DeviceState state = m_devices.currentState();
     if (state != DeviceState::Ready && state != DeviceState::Working) {
         m_watchdog.stop();
     }
@@ -202,8 +175,8 @@ void ScriptedCamera::runFrames()
 
 void ScriptedCamera::recordMeasurement()
 {
-    const ScriptedCameras::Feed feed = m_cameras.feed(m_cameras.currentId());
-    QJsonObject figures{{QStringLiteral("device"), m_cameras.currentName()},
+    const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
+    QJsonObject figures{{QStringLiteral("device"), m_devices.currentName()},
                         {QStringLiteral("state"), toString(currentState())},
                         {QStringLiteral("pictures"), m_pictures}};
     if (m_pictures > 0) {
@@ -219,14 +192,12 @@ void ScriptedCamera::recordMeasurement()
 
 void ScriptedCamera::notifyWorkState()
 {
-    const WorkState now = workStateOf(currentState());
-    if (now == m_notified) {
+    if (!takeWorkState()) {
         return;
     }
-    m_notified = now;
     QMetaObject::invokeMethod(
         this,
-        [this, id = m_cameras.currentId(), works = now.works] {
+        [this, id = m_devices.currentId(), works = m_workState.works] {
             m_listener.cameraWorkStateChanged(id, works);
         },
         Qt::QueuedConnection);

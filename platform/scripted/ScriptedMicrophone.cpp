@@ -21,18 +21,15 @@ bool canHear(DeviceState state)
 
 ScriptedMicrophone::ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog& log,
                                        ResultDocument& document, Listener& listener)
-    : m_microphones(microphones),
-      m_document(document),
-      m_listener(listener),
-      m_session(log, QStringLiteral("microphone"))
+    : ScriptedSession(QStringLiteral("microphone"), microphones, log, document, listener)
 {
     m_levelTimer.setTimerType(Qt::PreciseTimer);
     m_levelTimer.setInterval(LevelPeriodMs);
     connect(&m_levelTimer, &QTimer::timeout, this, &ScriptedMicrophone::onLevelTick);
     connectModel();
-    m_id = m_microphones.currentId();
-    m_volumeBefore = m_microphones.volume();
-    m_notified = workStateOf(currentState());
+    m_id = m_devices.currentId();
+    m_volumeBefore = m_devices.volume();
+    takeWorkState();
 }
 
 ScriptedMicrophone::~ScriptedMicrophone()
@@ -45,31 +42,7 @@ ScriptedMicrophone::~ScriptedMicrophone()
 DeviceList ScriptedMicrophone::devices() const
 {
     m_session.query("devices");
-    return m_microphones.devices();
-}
-
-QString ScriptedMicrophone::currentId() const
-{
-    m_session.query("currentId");
-    return m_microphones.currentId();
-}
-
-QString ScriptedMicrophone::currentName() const
-{
-    m_session.query("currentName");
-    return m_microphones.currentName();
-}
-
-void ScriptedMicrophone::setCurrent(const QString& id)
-{
-    m_session.call("setCurrent", id);
-    m_microphones.choose(id);
-}
-
-DeviceState ScriptedMicrophone::state() const
-{
-    m_session.query("state");
-    return currentState();
+    return m_devices.devices();
 }
 
 bool ScriptedMicrophone::hasHeardSound() const
@@ -104,45 +77,45 @@ void ScriptedMicrophone::setListening(bool on)
 bool ScriptedMicrophone::isVolumeAdjustable() const
 {
     m_session.query("isVolumeAdjustable");
-    return m_microphones.isAdjustable();
+    return m_devices.isAdjustable();
 }
 
 int ScriptedMicrophone::volume() const
 {
     m_session.query("volume");
-    return m_microphones.volume();
+    return m_devices.volume();
 }
 
 void ScriptedMicrophone::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
     m_isMovedByUser = true;
-    m_microphones.setVolumeByUser(percent);
+    m_devices.setVolumeByUser(percent);
 }
 
 void ScriptedMicrophone::connectModel()
 {
     using Model = ScriptedMicrophones;
-    connect(&m_microphones, &Model::currentChanged, this, &ScriptedMicrophone::onCurrentChanged);
-    connect(&m_microphones, &Model::currentStateChanged, this, &ScriptedMicrophone::onStateChanged);
-    connect(&m_microphones, &Model::currentLevelsChanged, this, &ScriptedMicrophone::runLevels);
-    connect(&m_microphones, &Model::levelEmitted, this, &ScriptedMicrophone::measure,
+    connect(&m_devices, &Model::currentChanged, this, &ScriptedMicrophone::onCurrentChanged);
+    connect(&m_devices, &Model::currentStateChanged, this, &ScriptedMicrophone::onStateChanged);
+    connect(&m_devices, &Model::currentLevelsChanged, this, &ScriptedMicrophone::runLevels);
+    connect(&m_devices, &Model::levelEmitted, this, &ScriptedMicrophone::measure,
             Qt::QueuedConnection);
     connect(
-        &m_microphones, &Model::listChanged, this, [this] { m_listener.microphoneListChanged(); },
+        &m_devices, &Model::listChanged, this, [this] { m_listener.microphoneListChanged(); },
         Qt::QueuedConnection);
     connect(
-        &m_microphones, &Model::currentChanged, this,
+        &m_devices, &Model::currentChanged, this,
         [this](const QString& id) { m_listener.currentMicrophoneChanged(id); },
         Qt::QueuedConnection);
     connect(
-        &m_microphones, &Model::currentInfoChanged, this,
+        &m_devices, &Model::currentInfoChanged, this,
         [this] { m_listener.microphoneInfoChanged(); }, Qt::QueuedConnection);
     connect(
-        &m_microphones, &Model::volumeSetByUser, this,
+        &m_devices, &Model::volumeSetByUser, this,
         [this](int percent) { m_listener.microphoneVolumeChanged(percent); }, Qt::QueuedConnection);
     connect(
-        &m_microphones, &Model::volumeMovedFromOutside, this,
+        &m_devices, &Model::volumeMovedFromOutside, this,
         [this](float percent) { m_listener.systemVolumeChanged(percent); }, Qt::QueuedConnection);
 }
 
@@ -150,13 +123,13 @@ void ScriptedMicrophone::connectModel()
 void ScriptedMicrophone::onCurrentChanged()
 {
     m_hasHeard = false;
-    if (m_id != m_microphones.currentId()) {
-        m_id = m_microphones.currentId();
-        m_volumeBefore = m_microphones.volume();
+    if (m_id != m_devices.currentId()) {
+        m_id = m_devices.currentId();
+        m_volumeBefore = m_devices.volume();
         m_isMovedByUser = false;
     }
     runLevels();
-    m_notified = workStateOf(currentState());
+    takeWorkState();
 }
 
 void ScriptedMicrophone::onStateChanged()
@@ -168,13 +141,12 @@ void ScriptedMicrophone::onStateChanged()
 
 void ScriptedMicrophone::onLevelTick()
 {
-    measure(canHear(m_microphones.currentState()) ? m_microphones.levelAt(m_openClock.elapsed())
-                                                  : 0.0);
+    measure(canHear(m_devices.currentState()) ? m_devices.levelAt(m_openClock.elapsed()) : 0.0);
 }
 
 void ScriptedMicrophone::measure(double level)
 {
-    if (m_isOpen && level > NoiseFloor && canHear(m_microphones.currentState())) {
+    if (m_isOpen && level > NoiseFloor && canHear(m_devices.currentState())) {
         m_hasHeard = true;
         notifyWorkState();
     }
@@ -184,22 +156,22 @@ void ScriptedMicrophone::measure(double level)
 void ScriptedMicrophone::recordMeasurement()
 {
     m_document.recordMeasurement(QStringLiteral("microphone"),
-                                 {{QStringLiteral("device"), m_microphones.currentName()},
+                                 {{QStringLiteral("device"), m_devices.currentName()},
                                   {QStringLiteral("state"), toString(currentState())},
                                   {QStringLiteral("soundHeard"), hasHeard()},
                                   {QStringLiteral("volumeBefore"), m_volumeBefore},
-                                  {QStringLiteral("volumeAfter"), m_microphones.volume()},
+                                  {QStringLiteral("volumeAfter"), m_devices.volume()},
                                   {QStringLiteral("movedByUser"), m_isMovedByUser}});
 }
 
 bool ScriptedMicrophone::hasHeard() const
 {
-    return m_hasHeard || m_microphones.currentState() == DeviceState::Working;
+    return m_hasHeard || m_devices.currentState() == DeviceState::Working;
 }
 
 DeviceState ScriptedMicrophone::currentState() const
 {
-    const DeviceState state = m_microphones.currentState();
+    const DeviceState state = m_devices.currentState();
     if (!canHear(state)) {
         return state;
     }
@@ -212,7 +184,7 @@ DeviceState ScriptedMicrophone::currentState() const
 // The last level of a microphone that goes away while it is open is 0.
 void ScriptedMicrophone::runLevels()
 {
-    const bool runs = m_isOpen && m_microphones.hasLevels() && isUsable(currentState());
+    const bool runs = m_isOpen && m_devices.hasLevels() && isUsable(currentState());
     if (runs) {
         m_levelTimer.start();
         return;
@@ -226,14 +198,12 @@ void ScriptedMicrophone::runLevels()
 
 void ScriptedMicrophone::notifyWorkState()
 {
-    const WorkState now = workStateOf(currentState());
-    if (now == m_notified) {
+    if (!takeWorkState()) {
         return;
     }
-    m_notified = now;
     QMetaObject::invokeMethod(
         this,
-        [this, id = m_microphones.currentId(), works = now.works] {
+        [this, id = m_devices.currentId(), works = m_workState.works] {
             m_listener.microphoneWorkStateChanged(id, works);
         },
         Qt::QueuedConnection);

@@ -3,20 +3,17 @@
 #pragma once
 
 #include "platform/backend/MicrophoneBackend.h"
-#include "platform/scripted/LoggedSession.h"
-#include "platform/scripted/WorkState.h"
+#include "platform/scripted/ScriptedSession.h"
 
 #include <QElapsedTimer>
-#include <QObject>
 #include <QTimer>
 
 namespace Platform {
 
-class ResultDocument;
 class ScriptedMicrophones;
 
 // One user of the scripted microphones.
-class ScriptedMicrophone final : public QObject, public MicrophoneBackend
+class ScriptedMicrophone final : public ScriptedSession<MicrophoneBackend, ScriptedMicrophones>
 {
     Q_OBJECT
     Q_DISABLE_COPY(ScriptedMicrophone)
@@ -27,10 +24,6 @@ public:
     ~ScriptedMicrophone() override;
 
     DeviceList devices() const override;
-    QString currentId() const override;
-    QString currentName() const override;
-    void setCurrent(const QString& id) override;
-    DeviceState state() const override;
     bool hasHeardSound() const override;
 
     void open() override;
@@ -48,15 +41,11 @@ private:
     void onLevelTick();
     void measure(double level);
     bool hasHeard() const;
-    DeviceState currentState() const;
+    DeviceState currentState() const override;
     void runLevels();
     void notifyWorkState();
     void recordMeasurement();
 
-    ScriptedMicrophones& m_microphones;
-    ResultDocument& m_document; // what was heard goes there
-    Listener& m_listener;
-    LoggedSession m_session;
     QTimer m_levelTimer;
     QElapsedTimer m_openClock;
     bool m_isOpen = false;
@@ -64,7 +53,6 @@ private:
     int m_volumeBefore = 0; // of that microphone
     bool m_isMovedByUser = false;
     bool m_hasHeard = false;
-    WorkState m_notified;
 };
 
 } // namespace Platform
