@@ -13,6 +13,8 @@ endif()
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
+# The newer format writes down when each file was last changed: every clone would differ.
+set(CMAKE_AUTORCC_OPTIONS --format-version 1)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # Programs, tests and the sounds below them stand in one folder, as they do after the installation.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
