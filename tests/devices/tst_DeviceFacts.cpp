@@ -5,6 +5,7 @@
 #include "platform/devices/facts/MachineFacts.h"
 #include "platform/devices/network/StunProbe.h"
 #include "platform/devices/network/StunServer.h"
+#include "tests/support/AtOnce.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -107,7 +108,7 @@ void tst_DeviceFacts::preparedFacts()
     clock.start();
     qint64 took = -1;
     facts.prepare([&] { took = clock.elapsed(); });
-    QVERIFY2(clock.elapsed() < 50, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY2(clock.elapsed() < AtOnceMs, qPrintable(QString::number(clock.elapsed())));
     QTRY_VERIFY(took >= 0);
     QVERIFY2(took < DeviceFacts::PrepareDeadlineMs / 2, qPrintable(QString::number(took)));
     QCOMPARE(facts.clientAddress(), QStringLiteral("127.0.0.1")); // as the server saw it
@@ -122,7 +123,8 @@ void tst_DeviceFacts::deadServerHasADeadline()
     qint64 took = -1;
     facts.prepare([&] { took = clock.elapsed(); });
     QTRY_VERIFY(took >= 0);
-    QVERIFY2(qAbs(took - DeviceFacts::PrepareDeadlineMs) < 100, qPrintable(QString::number(took)));
+    QVERIFY2(took > DeviceFacts::PrepareDeadlineMs / 2 && took < 2 * DeviceFacts::PrepareDeadlineMs,
+             qPrintable(QString::number(took)));
     QCOMPARE(facts.clientAddress(), MachineFacts::localAddress());
 }
 
@@ -185,7 +187,7 @@ void tst_DeviceFacts::endsInTheMiddle()
         facts.refreshUserInfo();
         clock.start();
     }
-    QVERIFY(clock.elapsed() < 50);
+    QVERIFY(clock.elapsed() < AtOnceMs);
     QTest::qWait(DeviceFacts::PrepareDeadlineMs + 100);
     QVERIFY(!isDone);
 }

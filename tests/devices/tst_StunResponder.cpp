@@ -4,6 +4,7 @@
 #include "ThreadCount.h"
 #include "platform/devices/network/StunClient.h"
 #include "platform/devices/network/StunResponder.h"
+#include "tests/support/AtOnce.h"
 
 #include <QElapsedTimer>
 #include <QNetworkDatagram>
@@ -79,10 +80,13 @@ void tst_StunResponder::answersWithTheAddress_data()
 void tst_StunResponder::answersWithTheAddress()
 {
     QFETCH(QString, address);
-    if (!QNetworkInterface::allAddresses().contains(QHostAddress(address))) {
-        QSKIP("this machine has no such address");
-    }
     const StunResponder responder{QHostAddress(address)};
+    if (!QNetworkInterface::allAddresses().contains(QHostAddress(address))) {
+        QVERIFY(address == QLatin1String("::1")); // a machine may have no IPv6
+        QCOMPARE(int(responder.server().port), 0);
+        QVERIFY(!responder.errorString().isEmpty());
+        return;
+    }
     QCOMPARE(responder.server().host, address);
     QVERIFY2(responder.server().port != 0, qPrintable(responder.errorString()));
     Client client(responder.server());
@@ -100,7 +104,7 @@ void tst_StunResponder::isMeasured()
     Measurement measurement(responder.server());
     QTRY_COMPARE(measurement.verdicts(), 4);
     QCOMPARE(measurement.figures().lossPercent, 0);
-    QVERIFY(measurement.figures().delayMs >= 0 && measurement.figures().delayMs <= 5);
+    QVERIFY(measurement.figures().delayMs >= 0 && measurement.figures().delayMs < AtOnceMs);
     QVERIFY(measurement.figures().sent - measurement.figures().answered <= 1);
     QCOMPARE(measurement.clientAddresses(), QStringList(QStringLiteral("127.0.0.1")));
 }
@@ -189,7 +193,7 @@ void tst_StunResponder::endsAtOnce()
         QTRY_COMPARE(threadCount("StunResponder"), 1);
         clock.start();
     }
-    QVERIFY(clock.elapsed() < 50);
+    QVERIFY(clock.elapsed() < AtOnceMs);
     QTRY_COMPARE(threadCount("StunResponder"), 0);
     QUdpSocket socket;
     QVERIFY(socket.bind(QHostAddress(QHostAddress::LocalHost), port, QUdpSocket::DontShareAddress));

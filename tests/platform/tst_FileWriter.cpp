@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
+#include "tests/support/AtOnce.h"
 
 #include "tests/support/FullDisk.h"
 
@@ -20,8 +21,6 @@ using namespace Platform;
 namespace {
 
 constexpr int WaitMs = 10000;
-constexpr int AtOnceMs = 50;
-
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);

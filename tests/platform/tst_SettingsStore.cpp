@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/SettingsStore.h"
+#include "tests/support/AtOnce.h"
 
 #include <QLockFile>
 #include <QRegularExpression>
@@ -14,7 +15,6 @@ using namespace Platform;
 namespace {
 
 constexpr int WaitMs = 10000;
-constexpr int AtOnceMs = 50;
 
 const QString Key = QStringLiteral("ShowSystemCheck");
 const QString Foreign = QStringLiteral("Window/Width");
