@@ -13,15 +13,8 @@
 #include <QLineEdit>
 #include <QtTest>
 
-// What the pages of the microphone and of the speaker have in common.
-namespace SoundPageTools {
-
-const QString ComboStyle =
-    "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
-    "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
-    "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
-    "5px;\n}\nQComboBox::down-arrow{\n    image: "
-    "url(:/Kestrel/Images/drop_down.png);\n}\n";
+// What the pages of the devices have in common.
+namespace DevicePageTools {
 
 // The hand has no name of its own.
 inline QLabel* handOn(const QWidget& page, const char* frame)
@@ -64,8 +57,6 @@ inline void isSetUp(QCustomComboBox* combo, const QWidget* page)
     QCOMPARE(delegate->parent(), page);
     QCOMPARE(combo->view()->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
     QCOMPARE(combo->view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QCOMPARE(combo->view()->styleSheet(), QString("background-color: white"));
-    QCOMPARE(combo->maxVisibleItems(), 8);
     QVERIFY(combo->lineEdit()->isReadOnly());
     QCOMPARE(combo->lineEdit()->styleSheet(),
              QString("background-color: transparent; border: none;"));
@@ -73,6 +64,12 @@ inline void isSetUp(QCustomComboBox* combo, const QWidget* page)
     QVERIFY(combo->view()->isVisible());
     QCOMPARE(combo->view()->width(), 306);
     combo->hidePopup();
+}
+
+inline void hasALongPopup(const QCustomComboBox* combo)
+{
+    QCOMPARE(combo->view()->styleSheet(), QString("background-color: white"));
+    QCOMPARE(combo->maxVisibleItems(), 8);
 }
 
 inline void ignoresWheelAndArrows(QCustomComboBox* combo)
@@ -99,4 +96,4 @@ inline QStringList entries(const QComboBox& combo)
     return result;
 }
 
-} // namespace SoundPageTools
+} // namespace DevicePageTools

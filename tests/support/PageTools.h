@@ -10,6 +10,28 @@
 
 // What the tests of the pages look at.
 
+const QString DeviceBoxStyle =
+    "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
+    "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
+    "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
+    "5px;\n}\nQComboBox::down-arrow{\n    image: "
+    "url(:/Kestrel/Images/drop_down.png);\n}\n";
+
+inline QString answerButtonStyle(int minimumWidth, int height, int maximumWidth)
+{
+    return QStringLiteral(
+               "QPushButton\n{\n  border-radius: 4px;  \n  min-width: %1px;\n  min-height: %2px;\n"
+               "  max-width: %3px;\n  max-height: %2px;\n  font-size: 14px;\n  background-color: "
+               "#FFFFFF;\n\tcolor: #232323;\n\tborder: 1px solid rgba(213, 213, 213, "
+               "255);\n}\n\nQPushButton:hover\n{\n  background-color: #F7F7F7;\n\tborder: 1px "
+               "solid "
+               "rgba(0, 0, 0, 76);\n}\nQPushButton:disabled\n{\n\tborder-radius: 4px; "
+               "\n\tbackground-color: #D3D3D3;\n\tborder: none;\n}")
+        .arg(minimumWidth)
+        .arg(height)
+        .arg(maximumWidth);
+}
+
 template <typename T>
 T* childOf(const QWidget& page, const char* name)
 {

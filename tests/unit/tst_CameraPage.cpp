@@ -4,6 +4,7 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/DevicePageTools.h"
 #include "tests/support/PageTools.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/TipsWidget.h"
@@ -12,15 +13,14 @@
 #include <CommEngine/PlayerContainer.h>
 #include <LumUtility/LumColor.h>
 #include <LumWidgets/QCustomComboBox.h>
-#include <LumWidgets/QCustomComboBoxItem.h>
 
 #include <QAbstractItemView>
 #include <QJsonObject>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
 
+using DevicePageTools::entries;
 using Platform::DeviceState;
 
 namespace {
@@ -132,7 +132,6 @@ private:
     void checkUnlocked() const;
     LumToolTip* disabledBalloon() const;
     bool isBalloonVisible() const;
-    QStringList entries() const;
     QJsonObject recorded() const;
 
     Platform::ScriptedEngine* m_engine = nullptr;
@@ -219,15 +218,6 @@ bool tst_CameraPage::isBalloonVisible() const
     return disabledBalloon() && disabledBalloon()->isVisible();
 }
 
-QStringList tst_CameraPage::entries() const
-{
-    QStringList result;
-    for (int i = 0; i < m_combo->count(); ++i) {
-        result.append(m_combo->itemText(i) + '=' + m_combo->itemData(i).toString());
-    }
-    return result;
-}
-
 QJsonObject tst_CameraPage::recorded() const
 {
     const QJsonObject document = m_engine->reports().document().toJson();
@@ -280,18 +270,7 @@ void tst_CameraPage::tipsAreAppended()
 void tst_CameraPage::comboBoxSetup()
 {
     makeShownPage(Camera::Picture);
-    auto* delegate = qobject_cast<QCustomComboBoxItem*>(m_combo->itemDelegate());
-    QVERIFY(delegate);
-    QCOMPARE(delegate->parent(), m_page.get());
-    QCOMPARE(m_combo->view()->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
-    QCOMPARE(m_combo->view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QVERIFY(m_combo->lineEdit()->isReadOnly());
-    QCOMPARE(m_combo->lineEdit()->styleSheet(),
-             QString("background-color: transparent; border: none;"));
-    QTest::mouseClick(m_combo->lineEdit(), Qt::LeftButton);
-    QVERIFY(m_combo->view()->isVisible());
-    QCOMPARE(m_combo->view()->width(), 306);
-    m_combo->hidePopup();
+    DevicePageTools::isSetUp(m_combo, m_page.get());
 }
 
 void tst_CameraPage::wheelAndArrowsChooseNothing()
@@ -299,20 +278,14 @@ void tst_CameraPage::wheelAndArrowsChooseNothing()
     m_engine->cameras().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage(Camera::Picture);
     m_engine->clearCalls();
-    const int index = m_combo->currentIndex();
-    QTest::keyClick(m_combo, Qt::Key_Down);
-    QTest::keyClick(m_combo, Qt::Key_Up);
-    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(m_combo, &wheel);
-    QCOMPARE(m_combo->currentIndex(), index);
+    DevicePageTools::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
 void tst_CameraPage::noCameraLeavesOneEntry()
 {
     makeShownPage(Camera::None);
-    QCOMPARE(entries(), QStringList{NoCameraText + '=' + HardwareMgrInterface::NoneDevice});
+    QCOMPARE(entries(*m_combo), QStringList{NoCameraText + '=' + HardwareMgrInterface::NoneDevice});
     QCOMPARE(m_combo->currentIndex(), 0);
     QVERIFY(!isBalloonVisible());
     m_page->hide();
@@ -325,8 +298,9 @@ void tst_CameraPage::camerasAreOrderedById()
     m_engine->cameras().plug({"b", "Alpha"}, DeviceState::Working);
     m_engine->cameras().plug({"a", "Zulu"}, DeviceState::Working);
     makePage();
-    QCOMPARE(entries(), (QStringList{"Zulu=a", "Alpha=b",
-                                     NoCameraText + '=' + HardwareMgrInterface::NoneDevice}));
+    QCOMPARE(
+        entries(*m_combo),
+        (QStringList{"Zulu=a", "Alpha=b", NoCameraText + '=' + HardwareMgrInterface::NoneDevice}));
     QCOMPARE(m_combo->currentText(), QString("Alpha")); // plugged in first, so the current one
 }
 
@@ -892,22 +866,11 @@ void tst_CameraPage::formGeometry()
 void tst_CameraPage::formStyleSheets_data()
 {
     QTest::addColumn<QString>("styleSheet");
-    const QString button =
-        "QPushButton\n{\n  border-radius: 4px;  \n  min-width: 134px;\n  min-height: 28px;\n  "
-        "max-width: 134px;\n  max-height: 28px;\n  font-size: 14px;\n  background-color: "
-        "#FFFFFF;\n\tcolor: #232323;\n\tborder: 1px solid rgba(213, 213, 213, "
-        "255);\n}\n\nQPushButton:hover\n{\n  background-color: #F7F7F7;\n\tborder: 1px solid "
-        "rgba(0, 0, 0, 76);\n}\nQPushButton:disabled\n{\n\tborder-radius: 4px; "
-        "\n\tbackground-color: #D3D3D3;\n\tborder: none;\n}";
+    const QString button = answerButtonStyle(134, 28, 134);
     QTest::newRow("Btn_Cant") << button;
     QTest::newRow("Btn_CanSee") << button;
     QTest::newRow("label_select_camera") << "  font-size: 12px;\n  color: #202020;\n";
-    QTest::newRow("cb_vd_name")
-        << "QComboBox\n{\t\nborder: 1px solid #E8E8E8;\nbackground: #F7F7F7;\nborder-radius: "
-           "4px;\nfont-size: 12px;\ncolor: #808080;\npadding-left: 8px;\ncombobox-popup: "
-           "0;\n}\nQComboBox::drop-down{\nborder: none;\nmargin-right: "
-           "5px;\n}\nQComboBox::down-arrow{\n    image: "
-           "url(:/Kestrel/Images/drop_down.png);\n}\n";
+    QTest::newRow("cb_vd_name") << DeviceBoxStyle;
     QTest::newRow("f_video_player") << "background-color: rgb(242, 242, 242);";
 }
 

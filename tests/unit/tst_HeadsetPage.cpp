@@ -4,9 +4,9 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/DevicePageTools.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
-#include "tests/support/SoundPageTools.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/CycleButton.h"
 #include "widgets/TipsWidget.h"
@@ -22,8 +22,8 @@
 
 #include <array>
 
+using DevicePageTools::entries;
 using Platform::DeviceState;
-using SoundPageTools::entries;
 
 namespace {
 
@@ -319,7 +319,7 @@ void tst_HeadsetPage::checkVerdictButtons(bool canHear, bool cantListen)
 
 QLabel* tst_HeadsetPage::hand()
 {
-    return SoundPageTools::handOn(*m_page, "playArea");
+    return DevicePageTools::handOn(*m_page, "playArea");
 }
 
 void tst_HeadsetPage::constructionCallsInOrder_data()
@@ -390,7 +390,8 @@ void tst_HeadsetPage::tipsStandBeforeTheLastItem()
 void tst_HeadsetPage::comboBoxSetup()
 {
     makeShownPage();
-    SoundPageTools::isSetUp(m_combo, m_page.get());
+    DevicePageTools::isSetUp(m_combo, m_page.get());
+    DevicePageTools::hasALongPopup(m_combo);
 }
 
 void tst_HeadsetPage::wheelAndArrowsChooseNothing()
@@ -398,7 +399,7 @@ void tst_HeadsetPage::wheelAndArrowsChooseNothing()
     m_engine->scriptedSpeakers().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage();
     m_engine->clearCalls();
-    SoundPageTools::ignoresWheelAndArrows(m_combo);
+    DevicePageTools::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
@@ -917,7 +918,7 @@ void tst_HeadsetPage::handPulsesUntilTheFirstPlay()
 {
     plug(Speaker::Works);
     makePage();
-    SoundPageTools::looksLikeAHand(hand());
+    DevicePageTools::looksLikeAHand(hand());
     QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 1);
     const int ofConstructor = coarseTimers(m_page.get(), HandIntervalMs).first();
 
@@ -928,7 +929,7 @@ void tst_HeadsetPage::handPulsesUntilTheFirstPlay()
     const int ofShow = timers.first();
     tick(m_page.get(), ofConstructor); // no longer counts
     QVERIFY(hand()->pixmap(Qt::ReturnByValue).isNull());
-    SoundPageTools::pulses(m_page.get(), ofShow, hand());
+    DevicePageTools::pulses(m_page.get(), ofShow, hand());
     const QSize last = hand()->pixmap(Qt::ReturnByValue).size();
 
     play();
@@ -1099,17 +1100,11 @@ void tst_HeadsetPage::formGeometry()
 void tst_HeadsetPage::formStyleSheets_data()
 {
     QTest::addColumn<QString>("styleSheet");
-    const QString button =
-        "QPushButton\n{\n  border-radius: 4px;  \n  min-width: 134px;\n  min-height: 28px;\n  "
-        "max-width: 134px;\n  max-height: 28px;\n  font-size: 14px;\n  background-color: "
-        "#FFFFFF;\n\tcolor: #232323;\n\tborder: 1px solid rgba(213, 213, 213, "
-        "255);\n}\n\nQPushButton:hover\n{\n  background-color: #F7F7F7;\n\tborder: 1px solid "
-        "rgba(0, 0, 0, 76);\n}\nQPushButton:disabled\n{\n\tborder-radius: 4px; "
-        "\n\tbackground-color: #D3D3D3;\n\tborder: none;\n}";
+    const QString button = answerButtonStyle(134, 28, 134);
     QTest::newRow("Btn_CanHear") << button;
     QTest::newRow("Btn_CantListen") << button;
     QTest::newRow("playArea") << "QFrame{\nborder-radius:6px;\nborder: 1px solid #EBEBEB\n}";
-    QTest::newRow("cb_ad_output_name") << SoundPageTools::ComboStyle;
+    QTest::newRow("cb_ad_output_name") << DeviceBoxStyle;
 }
 
 void tst_HeadsetPage::formStyleSheets()

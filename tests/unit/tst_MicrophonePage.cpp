@@ -4,9 +4,9 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/DevicePageTools.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/PageTools.h"
-#include "tests/support/SoundPageTools.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/TipsWidget.h"
 #include "widgets/Volume.h"
@@ -23,8 +23,8 @@
 
 #include <limits>
 
+using DevicePageTools::entries;
 using Platform::DeviceState;
-using SoundPageTools::entries;
 
 namespace {
 
@@ -310,7 +310,8 @@ void tst_MicrophonePage::tipsStandBeforeTheLastItem()
 void tst_MicrophonePage::comboBoxSetup()
 {
     makeShownPage(Mic::Works);
-    SoundPageTools::isSetUp(m_combo, m_page.get());
+    DevicePageTools::isSetUp(m_combo, m_page.get());
+    DevicePageTools::hasALongPopup(m_combo);
 }
 
 void tst_MicrophonePage::wheelAndArrowsChooseNothing()
@@ -318,7 +319,7 @@ void tst_MicrophonePage::wheelAndArrowsChooseNothing()
     m_engine->microphones().plug({"b", "Second"}, DeviceState::Working);
     makeShownPage(Mic::Works);
     m_engine->clearCalls();
-    SoundPageTools::ignoresWheelAndArrows(m_combo);
+    DevicePageTools::ignoresWheelAndArrows(m_combo);
     QCOMPARE(m_engine->commands(), QStringList());
 }
 
@@ -848,11 +849,11 @@ void tst_MicrophonePage::hidingWithoutCountdownKeepsTheAnswers()
 void tst_MicrophonePage::handPulses()
 {
     makePage();
-    const auto* hand = SoundPageTools::handOn(*m_page, "Frame_Record");
-    SoundPageTools::looksLikeAHand(hand);
+    const auto* hand = DevicePageTools::handOn(*m_page, "Frame_Record");
+    DevicePageTools::looksLikeAHand(hand);
     QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs).size(), 1);
     const int timer = coarseTimers(m_page.get(), HandIntervalMs).first();
-    SoundPageTools::pulses(m_page.get(), timer, hand);
+    DevicePageTools::pulses(m_page.get(), timer, hand);
     m_page->show();
     m_page->hide();
     QCOMPARE(coarseTimers(m_page.get(), HandIntervalMs), QVector<int>{timer}); // for its whole life
@@ -865,7 +866,7 @@ void tst_MicrophonePage::handIsTheProcesss()
     MicrophonePage other;
     const auto tickAndLook = [](MicrophonePage* page) {
         tick(page, coarseTimers(page, HandIntervalMs).first());
-        const auto* hand = SoundPageTools::handOn(*page, "Frame_Record");
+        const auto* hand = DevicePageTools::handOn(*page, "Frame_Record");
         return hand->pixmap(Qt::ReturnByValue).size();
     };
     const QSize first = tickAndLook(m_page.get());
@@ -877,7 +878,7 @@ void tst_MicrophonePage::handPlace()
 {
     makeShownPage(Mic::Works);
     const auto* frame = childOf<QFrame>(*m_page, "Frame_Record");
-    const auto* hand = SoundPageTools::handOn(*m_page, "Frame_Record");
+    const auto* hand = DevicePageTools::handOn(*m_page, "Frame_Record");
     QCOMPARE(hand->pos(), m_record->geometry().center() + QPoint(10, 0));
     QVERIFY(hand->isVisible());
     QCOMPARE(frame->children().last(), hand); // on top
@@ -1041,13 +1042,7 @@ void tst_MicrophonePage::formSizes()
 void tst_MicrophonePage::formStyleSheets_data()
 {
     QTest::addColumn<QString>("styleSheet");
-    const QString button =
-        "QPushButton\n{\n  border-radius: 4px;  \n  min-width: 86px;\n  min-height: 29px;\n  "
-        "max-width: 168px;\n  max-height: 29px;\n  font-size: 14px;\n  background-color: "
-        "#FFFFFF;\n\tcolor: #232323;\n\tborder: 1px solid rgba(213, 213, 213, "
-        "255);\n}\n\nQPushButton:hover\n{\n  background-color: #F7F7F7;\n\tborder: 1px solid "
-        "rgba(0, 0, 0, 76);\n}\nQPushButton:disabled\n{\n\tborder-radius: 4px; "
-        "\n\tbackground-color: #D3D3D3;\n\tborder: none;\n}";
+    const QString button = answerButtonStyle(86, 29, 168);
     QTest::newRow("Btn_Mic_No") << button;
     QTest::newRow("Btn_Mic_Yes") << button;
     QTest::newRow("label_2") << "  font-size: 12px;\n  color: #999999;";
@@ -1061,7 +1056,7 @@ void tst_MicrophonePage::formStyleSheets_data()
     QTest::newRow("frame") << "background-color: rgb(242, 242, 242);";
     QTest::newRow("lb_NoMic") << "image: url(:/Kestrel/Images/no_mic.svg);";
     QTest::newRow("label_select_mic") << "  font-size: 12px;\n  color: rgb( 13, 13, 13 );";
-    QTest::newRow("cb_ad_input_name") << SoundPageTools::ComboStyle;
+    QTest::newRow("cb_ad_input_name") << DeviceBoxStyle;
 }
 
 void tst_MicrophonePage::formStyleSheets()
