@@ -197,7 +197,7 @@ void MicrophonePage::on_recordButton_clicked()
     setBlinkButton(nullptr);
     ui->label_Record->setText(qtTrId("ID_MicrophonePage_Recording"));
     m_countdown = CountdownStart;
-    killTimer(m_recordTimerId); // two of them would count at double speed
+    killTimer(m_recordTimerId); // started over, it leaves no other one behind
     m_recordTimerId = startTimer(CountdownIntervalMs, Qt::CoarseTimer);
     m_handLabel->hide();
     ui->Btn_Mic_Yes->setEnabled(false);
