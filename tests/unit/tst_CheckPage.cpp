@@ -218,6 +218,10 @@ void tst_CheckPage::selectComboDataOnEmptyBox()
     page.selectComboData(&combo, "a");
     QCOMPARE(combo.currentIndex(), -1);
     QCOMPARE(changed.count(), 0);
+    combo.setEditable(true);
+    combo.setEditText("a word");
+    page.selectComboData(&combo, "a");
+    QCOMPARE(combo.currentText(), QString("a word"));
 }
 
 void tst_CheckPage::selectComboDataFindsExactly()
@@ -233,6 +237,11 @@ void tst_CheckPage::selectComboDataFindsExactly()
     page.selectComboData(&combo, "ID");
     QCOMPARE(combo.currentIndex(), 2);
     QCOMPARE(changed.count(), 1);
+    // A second device of that id keeps its choice.
+    combo.addItem("twin", "ID");
+    combo.setCurrentIndex(3);
+    page.selectComboData(&combo, "ID");
+    QCOMPARE(combo.currentIndex(), 3);
 }
 
 void tst_CheckPage::selectComboDataWithoutMatchClears()

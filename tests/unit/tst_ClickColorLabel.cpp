@@ -77,6 +77,7 @@ void tst_ClickColorLabel::lastVerdictStays()
     ClickColorLabel label(nullptr);
     label.setResultColor(true);
     QCOMPARE(label.palette().color(QPalette::WindowText), QColor("#009265"));
+    QVERIFY(label.styleSheet().isEmpty()); // the frame's own colour has to come through later
     label.setResultColor(false);
     QCOMPARE(label.palette().color(QPalette::WindowText), QColor("#FF4A27"));
 }

@@ -170,8 +170,12 @@ void tst_HoverButton::withoutParent()
 {
     HoverButton button("Press me", "What it does", nullptr);
     button.setTipEnabled(true);
+    const LumToolTip* balloon = balloonWith("What it does");
+    QVERIFY(balloon);
     enter(&button);
+    QVERIFY(balloon->isVisible());
     leave(&button);
+    QVERIFY(!balloon->isVisible());
 }
 
 QTEST_MAIN(tst_HoverButton)
