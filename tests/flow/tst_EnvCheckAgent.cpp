@@ -19,7 +19,7 @@ using Platform::ScriptedEngine;
 
 namespace {
 
-// Runs the dialog and, once it is open, the script in it.
+// Runs the script in the dialog once that is open. A script that fails leaves no dialog open.
 class DialogRun
 {
 public:
@@ -31,7 +31,11 @@ public:
             auto* dialog = qobject_cast<LumCustomNormalDialog*>(QApplication::activeModalWidget());
             if (dialog && dialog->isVisible()) {
                 m_timer.stop();
+                const QPointer<LumCustomNormalDialog> guard(dialog);
                 m_script(dialog);
+                if (guard && QTest::currentTestFailed()) {
+                    guard->done(QDialog::Rejected);
+                }
             }
         });
         m_timer.start(0);

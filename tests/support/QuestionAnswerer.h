@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -11,8 +12,9 @@
 #include <QTimer>
 #include <functional>
 
-// Waits for the modal question that a call under test opens, and reacts to it. Lives on the test's
-// stack around the call.
+// Waits for the modal question that a call under test opens, and reacts to it. A question that
+// stays all the same is closed in the end, so that a broken test fails and doesn't hang. Lives on
+// the test's stack around the call.
 class QuestionAnswerer
 {
 public:
@@ -38,14 +40,22 @@ public:
 
 private:
     static constexpr int PollMs = 5;
+    static constexpr int PatienceMs = 5000;
 
     void look()
     {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || box == m_last || !box->isVisible()) {
+        if (!box || !box->isVisible()) {
+            return;
+        }
+        if (box == m_last) {
+            if (m_sinceReaction.hasExpired(PatienceMs)) {
+                box->reject();
+            }
             return;
         }
         m_last = box;
+        m_sinceReaction.start();
         ++m_count;
         m_title = box->windowTitle();
         m_text = box->text();
@@ -58,6 +68,7 @@ private:
     QTimer m_timer;
     Reaction m_reaction;
     QPointer<QMessageBox> m_last;
+    QElapsedTimer m_sinceReaction;
     int m_count = 0;
     QString m_title;
     QString m_text;
