@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "CoturnServer.h"
 
-#include "platform/devices/network/StunClient.h"
 #include "platform/devices/network/StunServer.h"
 
 #include <QElapsedTimer>
@@ -69,9 +68,10 @@ Platform::StunServer CoturnServer::server() const
 
 bool CoturnServer::answers() const
 {
-    Platform::StunClient client;
+    // A binding request without attributes (RFC 5389): type, length, magic cookie, transaction.
+    const QByteArray request = QByteArray::fromHex("000100002112a442") + "transaction1";
     QUdpSocket socket;
     socket.bind(QHostAddress(m_address), 0);
-    socket.writeDatagram(client.createRequest()->datagram, QHostAddress(m_address), m_port);
+    socket.writeDatagram(request, QHostAddress(m_address), m_port);
     return socket.waitForReadyRead(AnswerTimeoutMs);
 }

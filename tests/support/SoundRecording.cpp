@@ -3,12 +3,14 @@
 #include "tests/support/SoundRecording.h"
 
 #include <QEventLoop>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <functional>
+#include <numeric>
 
 namespace TestSupport {
 
@@ -114,6 +116,7 @@ void SoundRecording::stop()
 }
 
 SoundSource::SoundSource(const QString& device, const std::vector<float>& samples)
+    : m_lengthMs(static_cast<int>(samples.size() * 1000 / SoundRecording::Rate))
 {
     m_process.start(QStringLiteral("pacat"), rawFormat(device, 1));
     m_process.write(reinterpret_cast<const char*>(samples.data()),
@@ -132,7 +135,34 @@ SoundSource::~SoundSource()
 bool SoundSource::waitForEnd()
 {
     return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; },
-                           EndTimeoutMs);
+                           m_lengthMs + EndTimeoutMs);
+}
+
+std::vector<float> soundFile(const QString& path)
+{
+    QProcess decoder;
+    decoder.start(QStringLiteral("ffmpeg"),
+                  {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), path,
+                   QStringLiteral("-f"), QStringLiteral("f32le"), QStringLiteral("-ac"),
+                   QStringLiteral("1"), QStringLiteral("-ar"),
+                   QString::number(SoundRecording::Rate), QStringLiteral("-")});
+    decoder.waitForFinished(EndTimeoutMs);
+    const QByteArray data = decoder.readAllStandardOutput();
+    if (data.isEmpty()) {
+        qWarning("%s can't be read: %s", qUtf8Printable(path),
+                 decoder.readAllStandardError().constData());
+    }
+    std::vector<float> result(static_cast<std::size_t>(data.size()) / sizeof(float));
+    std::memcpy(result.data(), data.constData(), result.size() * sizeof(float));
+    return result;
+}
+
+std::vector<float> speech(const QString& text)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("speech.wav"));
+    QProcess::execute(QStringLiteral("espeak-ng"), {QStringLiteral("-w"), path, text});
+    return soundFile(path);
 }
 
 std::vector<float> silence(double seconds)
@@ -188,6 +218,31 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
             needleEnergy += static_cast<double>(needle[i] * needle[i]);
         }
         const double energies = std::sqrt(hayEnergy * needleEnergy);
+        best = std::max(best, energies > 0.0 ? product / energies : 0.0);
+    }
+    return best;
+}
+
+double loudnessCorrelation(const std::vector<float>& recording, const std::vector<float>& sound)
+{
+    constexpr std::size_t Moment = SoundRecording::Rate / 50;
+    const auto loudness = [](const std::vector<float>& samples) {
+        std::vector<double> result;
+        for (std::size_t from = 0; from + Moment <= samples.size(); from += Moment) {
+            result.push_back(rms(samples, from, Moment));
+        }
+        return result;
+    };
+    const std::vector<double> hay = loudness(recording);
+    const std::vector<double> needle = loudness(sound);
+    double best = 0.0;
+    for (std::size_t from = 0; from + needle.size() <= hay.size(); ++from) {
+        const auto first = hay.begin() + static_cast<std::ptrdiff_t>(from);
+        const auto last = first + static_cast<std::ptrdiff_t>(needle.size());
+        const double product = std::inner_product(first, last, needle.begin(), 0.0);
+        const double energies =
+            std::sqrt(std::inner_product(first, last, first, 0.0) *
+                      std::inner_product(needle.begin(), needle.end(), needle.begin(), 0.0));
         best = std::max(best, energies > 0.0 ? product / energies : 0.0);
     }
     return best;

@@ -44,9 +44,14 @@ public:
     bool waitForEnd();
 
 private:
+    int m_lengthMs;
     QProcess m_process;
 };
 
+// What is in a sound file of any format; nothing, with a warning, where it can't be read.
+std::vector<float> soundFile(const QString& path);
+// A voice that says it.
+std::vector<float> speech(const QString& text);
 std::vector<float> silence(double seconds);
 std::vector<float> tone(double seconds, double frequency, double decibels);
 double decibels(double amplitude);
@@ -54,6 +59,9 @@ double rms(const std::vector<float>& samples, std::size_t from, std::size_t coun
 // How alike (0 to 1) the part of a recording from its first sound on and a sound are, at the best
 // of the delays near by.
 double correlation(const std::vector<float>& recording, const std::vector<float>& sound);
+// The same for how loud they are from moment to moment, anywhere in the recording: a sound that was
+// stretched a little on its way stays the same to the ear.
+double loudnessCorrelation(const std::vector<float>& recording, const std::vector<float>& sound);
 // Where the first sample louder than the threshold is; the size where none is.
 std::size_t firstAbove(const std::vector<float>& samples, float threshold, std::size_t from = 0);
 

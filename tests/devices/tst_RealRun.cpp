@@ -1,0 +1,359 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "CoturnServer.h"
+#include "host/CheckCommand.h"
+#include "host/ExitCode.h"
+#include "host/Options.h"
+#include "host/tour/DialogView.h"
+#include "platform/devices/network/StunServer.h"
+#include "tests/support/CameraProcess.h"
+#include "tests/support/PictureBoard.h"
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace TestSupport;
+
+namespace {
+
+constexpr int LongMs = 15000;
+constexpr int FontPixelSize = 12;
+constexpr int LitPercent = 40;
+constexpr double AlikeAtLeast = 0.8;
+const QRgb CameraRed = qRgb(0xc8, 0x28, 0x28);
+
+struct SoundName
+{
+    const char* file;
+    const char* text;
+};
+
+const SoundName SoundNames[] = {
+    {"Piano", "ID_HeadsetPage_Piano"},     {"Seagull", "ID_HeadsetPage_Seagull"},
+    {"Thunder", "ID_HeadsetPage_Thunder"}, {"Doorbell", "ID_HeadsetPage_Doorbell"},
+    {"Shutter", "ID_HeadsetPage_Shutter"}, {"Bubble", "ID_HeadsetPage_Bubble"},
+    {"Typing", "ID_HeadsetPage_Typing"},   {"Saxophone", "ID_HeadsetPage_Saxophone"},
+};
+
+QString id(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+} // namespace
+
+// The whole program, from its options to its exit code, on real servers with virtual devices, and
+// driven by clicks. Its pictures go to the folder that ENVCHECK_PICTURES names, otherwise to the
+// folder "screenshots" of the build.
+class tst_RealRun : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+
+    void everyCheckPasses();
+    void everyCheckFails();
+
+private:
+    using Visit = void (tst_RealRun::*)();
+
+    void run(Visit visit, ExitCode expected);
+    void passNetwork();
+    void passCamera();
+    void passSpeaker();
+    void passMicrophone();
+    void visitWithEverything();
+    void visitWithNothing();
+    template <typename Widget>
+    Widget* find(const char* name) const;
+    void click(const char* name) const;
+    bool isShown(const char* name) const;
+    bool isMeasured() const;
+    bool previewIsRed() const;
+    const char* buttonFor(const std::vector<float>& heard) const;
+    void compareTable(const QList<QPair<QString, QString>>& rows) const;
+    void keepPicture(const char* caption);
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<SoundServer> m_server;
+    CoturnServer m_stun;
+    std::unique_ptr<DialogView> m_view;
+    PictureBoard m_board;
+};
+
+void tst_RealRun::initTestCase()
+{
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QFont font = QApplication::font();
+    font.setPixelSize(FontPixelSize);
+    QApplication::setFont(font);
+}
+
+void tst_RealRun::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_DATA_HOME", m_home->path().toUtf8());
+    m_server = std::make_unique<SoundServer>(SoundServer::Kind::PipeWire);
+    QVERIFY(m_server->start());
+}
+
+void tst_RealRun::cleanup()
+{
+    m_view.reset();
+    m_server.reset();
+    m_stun.kill();
+    qunsetenv("XDG_DATA_HOME");
+}
+
+void tst_RealRun::cleanupTestCase()
+{
+    QString folder = qEnvironmentVariable("ENVCHECK_PICTURES");
+    if (folder.isEmpty()) {
+        folder = QStringLiteral(ENVCHECK_BINARY_DIR "/screenshots");
+    }
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(m_board.save(folder + QStringLiteral("/real-run.png")));
+}
+
+void tst_RealRun::everyCheckPasses()
+{
+    QVERIFY(m_stun.start());
+    CameraProcess camera(id("camera"), id("Test Camera"));
+    QTRY_VERIFY_WITH_TIMEOUT(camera.output().contains("paused"), LongMs);
+    run(&tst_RealRun::visitWithEverything, ExitCode::AllPassed);
+}
+
+void tst_RealRun::everyCheckFails()
+{
+    for (const char* module : {"module-remap-source", "module-null-sink"}) {
+        m_server->control({id("unload-module"), id(module)});
+    }
+    run(&tst_RealRun::visitWithNothing, ExitCode::SomeFailed);
+}
+
+// As main() does it, but that somebody is there to look and to click.
+void tst_RealRun::run(Visit visit, ExitCode expected)
+{
+    Options options;
+    options.language = id("en");
+    options.account = id("m.curie");
+    options.nickname = id("Marie");
+    options.cdn = id("Campus/North");
+    options.server = QStringLiteral("stun:%1:%2")
+                         .arg(m_stun.server().host, QString::number(m_stun.server().port));
+    options.reportFile = m_home->filePath(id("report.json"));
+    bool isThrough = false;
+    QTimer opening;
+    connect(&opening, &QTimer::timeout, this, [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog && dialog->isVisible()) {
+            opening.stop();
+            m_view = std::make_unique<DialogView>(dialog);
+            (this->*visit)();
+            isThrough = !QTest::currentTestFailed();
+            if (!isThrough) {
+                dialog->done(QDialog::Rejected);
+            }
+        }
+    });
+    opening.start(10);
+    const ExitCode code = CheckCommand(options).run();
+    QVERIFY(isThrough);
+    QCOMPARE(static_cast<int>(code), static_cast<int>(expected));
+
+    QFile report(options.reportFile);
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    const QJsonObject document = QJsonDocument::fromJson(report.readAll()).object();
+    QCOMPARE(document.value(id("outcome")).toString(),
+             expected == ExitCode::AllPassed ? id("passed") : id("failed"));
+}
+
+void tst_RealRun::visitWithEverything()
+{
+    for (const Visit visit : {&tst_RealRun::passNetwork, &tst_RealRun::passCamera,
+                              &tst_RealRun::passSpeaker, &tst_RealRun::passMicrophone}) {
+        (this->*visit)();
+        if (QTest::currentTestFailed()) {
+            return;
+        }
+    }
+    QTRY_VERIFY(isShown("tableWidget"));
+    keepPicture("Every check passed");
+    const QString passed = qtTrId("ID_CheckResultPage_Normal");
+    compareTable({{{}, passed}, {{}, passed}, {{}, passed}, {{}, passed}});
+    QCOMPARE(find<QLabel>("lb_Device")->text(), qtTrId("ID_CheckResultPage_EquipmentNormal"));
+    m_board.endRow();
+    click("okButton");
+}
+
+void tst_RealRun::passNetwork()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(isMeasured(), LongMs);
+    QTRY_VERIFY(find<QLabel>("label_ND")->text().endsWith(id("ms")));
+    keepPicture("System and network");
+    click("Btn_Next");
+}
+
+void tst_RealRun::passCamera()
+{
+    QTRY_VERIFY(isShown("f_video_player"));
+    QCOMPARE(find<QComboBox>("cb_vd_name")->currentText(), id("Test Camera"));
+    QTRY_VERIFY_WITH_TIMEOUT(previewIsRed(), LongMs);
+    QTRY_VERIFY(m_view->isEnabled("Btn_CanSee"));
+    keepPicture("Camera");
+    click("Btn_CanSee");
+}
+
+void tst_RealRun::passSpeaker()
+{
+    QTRY_VERIFY(isShown("tb_play_test_sound"));
+    QCOMPARE(find<QComboBox>("cb_ad_output_name")->currentText(), id("Test Speaker A"));
+    SoundRecording ear(id("speaker_a.monitor"));
+    QVERIFY(ear.waitForStart());
+    click("tb_play_test_sound");
+    const auto* const label = find<QLabel>("label_Play");
+    QTRY_COMPARE(label->text(), qtTrId("ID_HeadsetPage_Playing"));
+    QTRY_COMPARE_WITH_TIMEOUT(label->text(), qtTrId("ID_HeadsetPage_PlayAgain"), LongMs);
+    const char* const button = buttonFor(ear.samples());
+    QVERIFY(button);
+    click(button);
+    keepPicture("Speaker");
+    click("Btn_CanHear");
+}
+
+void tst_RealRun::passMicrophone()
+{
+    QTRY_VERIFY(isShown("Btn_Record"));
+    QCOMPARE(find<QComboBox>("cb_ad_input_name")->currentText(), id("Test Microphone A"));
+    const std::vector<float> words = speech(id("one, two, three, four, five, six, seven"));
+    QVERIFY(!words.empty());
+    SoundRecording ear(id("speaker_a.monitor"));
+    QVERIFY(ear.waitForStart());
+    click("Btn_Record");
+    SoundSource voice(id("voice"), words);
+    const auto* const bar = m_view->dialog()->findChildren<QProgressBar*>().last();
+    QTRY_VERIFY_WITH_TIMEOUT(bar->value() > LitPercent, LongMs);
+    QTRY_VERIFY(find<QLabel>("label_Record")->text().contains(QLatin1Char('3')));
+    QTRY_VERIFY(bar->value() > LitPercent);
+    keepPicture("Microphone, counting aloud");
+    QTRY_VERIFY_WITH_TIMEOUT(m_view->isEnabled("Btn_Mic_Yes"), LongMs);
+    QVERIFY(voice.waitForEnd());
+    const double alike = loudnessCorrelation(ear.samples(), words);
+    QVERIFY2(alike > AlikeAtLeast, qPrintable(QString::number(alike)));
+    click("Btn_Mic_Yes");
+}
+
+void tst_RealRun::visitWithNothing()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(isMeasured(), LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("label_LR")->text(), id("100%"), LongMs);
+    QCOMPARE(find<QLabel>("label_ND")->text(), id("N/A"));
+    keepPicture("System and network, nobody answers");
+    click("Btn_Next");
+    QTRY_VERIFY(isShown("Btn_Cant"));
+    QTRY_VERIFY(!isShown("Btn_CanSee"));
+    keepPicture("No camera");
+    click("Btn_Cant");
+    QTRY_VERIFY(isShown("noHeadsetPage"));
+    keepPicture("No speaker");
+    click("Btn_CantListen");
+    QTRY_VERIFY(isShown("noMicPage"));
+    keepPicture("No microphone");
+    click("Btn_Mic_No");
+    QTRY_VERIFY(isShown("tableWidget"));
+    keepPicture("Every check failed");
+    const QString failed = qtTrId("ID_CheckResultPage_Abnormal");
+    compareTable({{qtTrId("ID_NetworkPage_NetworkSlowOrUnstable"), failed},
+                  {qtTrId("ID_lumcamera_NoWebcamFound"), failed},
+                  {qtTrId("ID_hardwaremgrinterface_NoSpeakerFound"), failed},
+                  {qtTrId("ID_MicrophonePage_NoMicrophoneWasDetected"), failed}});
+    QCOMPARE(find<QLabel>("lb_Device")->text(), qtTrId("ID_CheckResultPage_EquipmentAbnormal"));
+    m_view->dialog()->close();
+}
+
+template <typename Widget>
+Widget* tst_RealRun::find(const char* name) const
+{
+    Widget* const result = m_view->find<Widget>(name);
+    if (!result) {
+        qFatal("the dialog shows no %s", name);
+    }
+    return result;
+}
+
+void tst_RealRun::click(const char* name) const
+{
+    QTest::mouseClick(find<QWidget>(name), Qt::LeftButton);
+}
+
+bool tst_RealRun::isShown(const char* name) const
+{
+    return m_view->find<QWidget>(name) != nullptr;
+}
+
+bool tst_RealRun::isMeasured() const
+{
+    return find<QLabel>("label_ND")->text() != id("- -");
+}
+
+bool tst_RealRun::previewIsRed() const
+{
+    const QImage picture = find<QWidget>("f_video_player")->grab().toImage();
+    const QRgb pixel = picture.pixel(picture.width() / 3, picture.height() / 2);
+    constexpr int Tolerance = 12;
+    return qAbs(qRed(pixel) - qRed(CameraRed)) <= Tolerance &&
+           qAbs(qGreen(pixel) - qGreen(CameraRed)) <= Tolerance &&
+           qAbs(qBlue(pixel) - qBlue(CameraRed)) <= Tolerance;
+}
+
+// The answer that names what was heard; null where none of them does.
+const char* tst_RealRun::buttonFor(const std::vector<float>& heard) const
+{
+    for (const char* button : {"item0", "item1", "item2", "item3"}) {
+        const QString answer = find<QAbstractButton>(button)->text();
+        for (const SoundName& sound : SoundNames) {
+            const QString path = QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds/%1.mp3");
+            if (answer == qtTrId(sound.text) &&
+                correlation(heard, soundFile(path.arg(id(sound.file)))) > AlikeAtLeast) {
+                return button;
+            }
+        }
+    }
+    return nullptr;
+}
+
+// Each row's problems and its result.
+void tst_RealRun::compareTable(const QList<QPair<QString, QString>>& rows) const
+{
+    const auto* const table = find<QTableWidget>("tableWidget");
+    QCOMPARE(table->rowCount(), rows.size());
+    const auto cell = [table](int row, int column) {
+        return qobject_cast<QLabel*>(table->cellWidget(row, column))->text();
+    };
+    for (int row = 0; row < rows.size(); ++row) {
+        QCOMPARE(cell(row, 1), rows.at(row).first);
+        QCOMPARE(cell(row, 2), rows.at(row).second);
+    }
+}
+
+void tst_RealRun::keepPicture(const char* caption)
+{
+    m_board.add(id(caption), m_view->picture());
+}
+
+QTEST_MAIN(tst_RealRun)
+#include "tst_RealRun.moc"
