@@ -37,6 +37,8 @@ class tst_CameraList : public QObject
 
 private Q_SLOTS:
     void keepsTheIdOverReplugging();
+    void prefersThePlaceToTheName();
+    void numbersTheNodesOfOneDevice();
     void tellsEqualNodesApart();
     void namesTheNameless();
     void tellsWhetherAnythingChanged();
@@ -54,6 +56,35 @@ void tst_CameraList::keepsTheIdOverReplugging()
     QVERIFY(!list.serialOf(QStringLiteral("usb-1")));
     QVERIFY(list.add(9, node(QStringLiteral("55"), QStringLiteral("usb-1"), QStringLiteral("C"))));
     QCOMPARE(*list.serialOf(QStringLiteral("usb-1")), QStringLiteral("55"));
+}
+
+void tst_CameraList::prefersThePlaceToTheName()
+{
+    CameraList list;
+    CameraNode camera = node(QStringLiteral("41"), QStringLiteral("cam"), QStringLiteral("C"));
+    camera.place = QStringLiteral("pci-0:usb-1");
+    list.add(7, camera);
+    QCOMPARE(texts(list.devices()), QStringList(QStringLiteral("pci-0:usb-1=C")));
+    list.remove(7);
+    camera.serial = QStringLiteral("55");
+    camera.name = QStringLiteral("cam.2");
+    list.add(9, camera);
+    QCOMPARE(*list.serialOf(QStringLiteral("pci-0:usb-1")), QStringLiteral("55"));
+}
+
+void tst_CameraList::numbersTheNodesOfOneDevice()
+{
+    CameraNode near = node(QStringLiteral("41"), QStringLiteral("near"), QStringLiteral("Near"));
+    CameraNode wide = node(QStringLiteral("42"), QStringLiteral("wide"), QStringLiteral("Wide"));
+    near.place = QStringLiteral("usb-1");
+    wide.place = near.place;
+    const QStringList expected{QStringLiteral("usb-1=Near"), QStringLiteral("usb-1#2=Wide")};
+    for (const bool isWideFirst : {false, true}) {
+        CameraList list;
+        list.add(isWideFirst ? 2 : 1, near);
+        list.add(isWideFirst ? 1 : 2, wide);
+        QCOMPARE(texts(list.devices()), expected);
+    }
 }
 
 void tst_CameraList::tellsEqualNodesApart()

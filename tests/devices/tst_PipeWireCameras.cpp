@@ -106,6 +106,7 @@ private Q_SLOTS:
     void cleanup();
 
     void listsAndShowsTwoCameras();
+    void knowsACameraByItsPlace();
     void numbersEqualNames();
     void mergesBursts();
     void hidesWhatIsNoCamera();
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void abandonsHungStart();
     void tellsFailures_data();
     void tellsFailures();
+    void tellsRefusedFormat();
     void outlivesTheServer();
     void outlivesTheManager();
     void waitsForTheServer();
@@ -208,6 +210,28 @@ void tst_PipeWireCameras::listsAndShowsTwoCameras()
     m_backend->stop();
     QVERIFY(!m_backend->delivers());
     QVERIFY(m_backend->latestPicture().isNull());
+}
+
+// The server gives the node another name when it comes back; its device is in the same place.
+void tst_PipeWireCameras::knowsACameraByItsPlace()
+{
+    const QString place = QStringLiteral("pci-0000:00:14.0-usb-0:5:1.0");
+    const QStringList plugged{QStringLiteral("--bus-path"), place};
+    Camera camera = plug(NameA, QStringLiteral("Camera"), plugged);
+    const Camera metadata =
+        plug(QStringLiteral("metadata"), QStringLiteral("Metadata"),
+             plugged + QStringList{QStringLiteral("--capabilities"), QStringLiteral(":")});
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList(place), LongMs);
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+
+    camera->kill();
+    QTRY_COMPARE(stateName(), QStringLiteral("absent"));
+    camera = plug(NameB, QStringLiteral("Camera"), plugged);
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    QCOMPARE(m_backend->currentId(), place);
+    QCOMPARE(ids(), QStringList(place));
 }
 
 void tst_PipeWireCameras::numbersEqualNames()
@@ -494,6 +518,21 @@ void tst_PipeWireCameras::tellsFailures()
     camera.reset();
     camera = plug(NameA, QStringLiteral("Camera"));
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+// What can't agree on a format is refused at once, long before it would pass for hung.
+void tst_PipeWireCameras::tellsRefusedFormat()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--unreadable")});
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+    QVERIFY(sinceStart.elapsed() < 2000);
+    m_backend->stop();
+    QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("failed"));
 }
 
 void tst_PipeWireCameras::outlivesTheServer()

@@ -121,6 +121,7 @@ VirtualCamera::~VirtualCamera()
     if (m_stream != nullptr) {
         pw_stream_destroy(m_stream);
     }
+    m_device.reset();
     pw_main_loop_destroy(m_mainLoop);
     pw_deinit();
 }
@@ -158,6 +159,15 @@ bool VirtualCamera::connect()
     if (!m_options.role.isEmpty()) {
         pw_properties_set(properties, PW_KEY_MEDIA_ROLE, m_options.role.toUtf8().constData());
     }
+    if (!m_options.busPath.isEmpty()) {
+        m_device = std::make_unique<VirtualDevice>(pw_main_loop_get_loop(m_mainLoop),
+                                                   m_options.busPath, m_options.capabilities);
+        if (!m_device->waitUntilKnown()) {
+            pw_properties_free(properties);
+            return false;
+        }
+        pw_properties_setf(properties, PW_KEY_DEVICE_ID, "%u", m_device->id());
+    }
     m_stream = pw_stream_new_simple(pw_main_loop_get_loop(m_mainLoop), "virtual camera", properties,
                                     &Events, this);
     if (m_stream == nullptr) {
@@ -175,7 +185,9 @@ bool VirtualCamera::connect()
 
 const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t parameter) const
 {
-    const bool isMjpg = m_pattern.layout() == CameraPattern::Mjpg;
+    const bool isRaw = m_pattern.layout() != CameraPattern::Mjpg && !m_options.isUnreadable;
+    const auto encoding = static_cast<uint32_t>(m_options.isUnreadable ? SPA_MEDIA_SUBTYPE_h264
+                                                                       : SPA_MEDIA_SUBTYPE_mjpg);
     const spa_rectangle size{static_cast<uint32_t>(m_pattern.size().width()),
                              static_cast<uint32_t>(m_pattern.size().height())};
     const spa_fraction rate{static_cast<uint32_t>(m_options.rate), 1};
@@ -183,8 +195,8 @@ const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t paramete
     spa_pod_builder_push_object(&builder, &frame, SPA_TYPE_OBJECT_Format, parameter);
     spa_pod_builder_add(&builder, SPA_FORMAT_mediaType, SPA_POD_Id(SPA_MEDIA_TYPE_video),
                         SPA_FORMAT_mediaSubtype,
-                        SPA_POD_Id(isMjpg ? SPA_MEDIA_SUBTYPE_mjpg : SPA_MEDIA_SUBTYPE_raw), 0);
-    if (!isMjpg) {
+                        SPA_POD_Id(isRaw ? uint32_t{SPA_MEDIA_SUBTYPE_raw} : encoding), 0);
+    if (isRaw) {
         spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_format,
                             SPA_POD_Id(spaFormat(m_pattern.layout())), 0);
     }

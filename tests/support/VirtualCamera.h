@@ -3,8 +3,9 @@
 #pragma once
 
 #include "tests/support/CameraPattern.h"
+#include "tests/support/VirtualDevice.h"
 
-#include <QElapsedTimer>
+#include <memory>
 #include <pipewire/pipewire.h>
 #include <spa/pod/builder.h>
 
@@ -21,9 +22,12 @@ public:
         QString name;
         QString description;
         QString role = QStringLiteral("Camera");
+        QString busPath;      // with one it belongs to a device that tells it
+        QString capabilities; // of that device
         int rate = 30;
         uint32_t transform = 0; // a SPA_META_TRANSFORMATION value
         bool isStalled = false;
+        bool isUnreadable = false;   // offers nothing but a format that nobody takes
         bool isDriverMemory = false; // buffers as a kernel driver hands them out
         bool isTold = false;         // the time of every picture, on the standard output
     };
@@ -50,6 +54,7 @@ private:
     Options m_options;
     CameraPattern m_pattern;
     pw_main_loop* m_mainLoop = nullptr;
+    std::unique_ptr<VirtualDevice> m_device;
     pw_stream* m_stream = nullptr;
     spa_source* m_timer = nullptr;
     QByteArray m_input;

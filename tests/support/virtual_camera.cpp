@@ -19,6 +19,8 @@ int main(int argc, char* argv[])
     option("name", "name", "virtual_camera");
     option("description", "text", "Virtual Camera");
     option("role", "role", "Camera");
+    option("bus-path", "path", "");
+    option("capabilities", "list", ":capture:");
     option("width", "pixels", "640");
     option("height", "pixels", "480");
     option("padding", "bytes", "0");
@@ -26,7 +28,7 @@ int main(int argc, char* argv[])
     option("transform", "number", "0");
     option("layout", "name", "YUY2");
     option("color", "RRGGBB", "c82828");
-    for (const char* name : {"stalled", "driver-memory", "numbered", "told"}) {
+    for (const char* name : {"stalled", "driver-memory", "unreadable", "numbered", "told"}) {
         parser.addOption({QLatin1String(name), QLatin1String(name)});
     }
     parser.process(application);
@@ -50,6 +52,9 @@ int main(int argc, char* argv[])
     options.rate = number("rate");
     options.transform = static_cast<uint32_t>(number("transform"));
     options.isStalled = isSet("stalled");
+    options.busPath = text("bus-path");
+    options.capabilities = text("capabilities");
+    options.isUnreadable = isSet("unreadable");
     options.isDriverMemory = isSet("driver-memory");
     options.isTold = isSet("told");
     return VirtualCamera(options, pattern).run();

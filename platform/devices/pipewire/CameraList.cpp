@@ -3,6 +3,8 @@
 #include "platform/devices/pipewire/CameraList.h"
 
 #include <QRegularExpression>
+#include <algorithm>
+#include <vector>
 
 namespace Platform {
 
@@ -84,15 +86,22 @@ QString CameraList::preferredId() const
 
 std::map<QString, const CameraNode*> CameraList::byId() const
 {
-    std::map<QString, const CameraNode*> result;
+    std::vector<const CameraNode*> nodes;
     for (const auto& entry : m_nodes) {
-        const CameraNode& node = entry.second;
-        const QString plain = node.name.isEmpty() ? node.serial : node.name;
+        nodes.push_back(&entry.second);
+    }
+    // One device's nodes keep their numbers, whichever the server found first.
+    std::stable_sort(nodes.begin(), nodes.end(),
+                     [](const CameraNode* a, const CameraNode* b) { return a->name < b->name; });
+    std::map<QString, const CameraNode*> result;
+    for (const CameraNode* node : nodes) {
+        const QString name = node->name.isEmpty() ? node->serial : node->name;
+        const QString plain = node->place.isEmpty() ? name : node->place;
         QString id = plain;
         for (int number = 2; result.count(id) > 0; ++number) {
             id = QStringLiteral("%1#%2").arg(plain, QString::number(number));
         }
-        result.emplace(id, &node);
+        result.emplace(id, node);
     }
     return result;
 }

@@ -14,11 +14,13 @@ namespace Platform {
 struct CameraNode
 {
     QString serial;       // the server's number for this appearance of the node
-    QString name;         // node.name: made from the bus path, so it survives replugging
+    QString name;         // node.name
+    QString place;        // where its device is plugged in, or the device's serial number
     QString description;  // for people
     QString role;         // media.role
     QString capabilities; // device.capabilities, where the server tells them
-    int priority = 0;     // the session's preference
+    std::optional<quint32> deviceId; // the server's number for its device
+    int priority = 0;                // the session's preference
     bool hasFormats = false;
     bool hasColour = false; // one of the formats has
 };
@@ -36,6 +38,7 @@ public:
     bool remove(quint32 globalId);
     bool clear();
 
+    // An id is the place, without one the name: both survive replugging.
     DeviceList devices() const; // in the order of the ids, names distinct
     bool contains(const QString& id) const { return serialOf(id).has_value(); }
     std::optional<QString> serialOf(const QString& id) const;

@@ -2,22 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/NodeProbe.h"
 
+#include "platform/devices/pipewire/NodeProperties.h"
+
 #include <spa/param/video/format-utils.h>
 
 namespace Platform {
 
 namespace {
 
-QString text(const spa_dict* properties, const char* key)
-{
-    const char* value = spa_dict_lookup(properties, key);
-    return value == nullptr ? QString() : QString::fromUtf8(value);
-}
-
 void readProperties(const spa_dict* properties, CameraNode& node)
 {
     const auto read = [properties](QString& target, const char* key) {
-        const QString value = text(properties, key);
+        const QString value = propertyOf(properties, key);
         if (!value.isEmpty()) {
             target = value;
         }
@@ -26,8 +22,16 @@ void readProperties(const spa_dict* properties, CameraNode& node)
     read(node.name, PW_KEY_NODE_NAME);
     read(node.description, PW_KEY_NODE_DESCRIPTION);
     read(node.role, PW_KEY_MEDIA_ROLE);
-    read(node.capabilities, "device.capabilities");
-    const QString priority = text(properties, PW_KEY_PRIORITY_SESSION);
+    read(node.capabilities, CapabilitiesKey);
+    const QString place = placeOf(properties);
+    if (!place.isEmpty()) {
+        node.place = place;
+    }
+    const QString device = propertyOf(properties, PW_KEY_DEVICE_ID);
+    if (!device.isEmpty()) {
+        node.deviceId = device.toUInt();
+    }
+    const QString priority = propertyOf(properties, PW_KEY_PRIORITY_SESSION);
     if (!priority.isEmpty()) {
         node.priority = priority.toInt();
     }

@@ -3,6 +3,7 @@
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
 #include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/pipewire/NodeProperties.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -123,6 +124,7 @@ void PipeWireConnection::connectToServer()
 void PipeWireConnection::disconnectFromServer()
 {
     m_probes.clear();
+    m_devices.clear();
     if (m_registry != nullptr) {
         spa_hook_remove(&m_registryHook);
         pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
@@ -158,19 +160,22 @@ void PipeWireConnection::onRoundTripDone(int sequence)
 
 void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* properties)
 {
-    if (properties == nullptr || strcmp(type, PW_TYPE_INTERFACE_Node) != 0) {
+    if (properties == nullptr) {
         return;
     }
-    const char* const mediaClass = spa_dict_lookup(properties, PW_KEY_MEDIA_CLASS);
-    if (mediaClass == nullptr || strcmp(mediaClass, "Video/Source") != 0) {
-        return;
+    const QString mediaClass = propertyOf(properties, PW_KEY_MEDIA_CLASS);
+    if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0 && mediaClass == QLatin1String("Video/Source")) {
+        m_probes[id] = std::make_unique<NodeProbe>(m_registry, id, properties, *this);
+    } else if (strcmp(type, PW_TYPE_INTERFACE_Device) == 0 &&
+               mediaClass == QLatin1String("Video/Device")) {
+        m_devices[id] = std::make_unique<DeviceProbe>(m_registry, id, *this);
     }
-    m_probes[id] = std::make_unique<NodeProbe>(m_registry, id, properties, *this);
 }
 
 void PipeWireConnection::onGlobalRemoved(quint32 id)
 {
     m_probes.erase(id);
+    m_devices.erase(id);
     if (m_cameras.remove(id)) {
         announceSoon();
     }
@@ -179,10 +184,22 @@ void PipeWireConnection::onGlobalRemoved(quint32 id)
 
 void PipeWireConnection::nodeDescribed(quint32 globalId, const CameraNode& node)
 {
-    if (m_cameras.add(globalId, node)) {
+    const auto device = node.deviceId ? m_devices.find(*node.deviceId) : m_devices.cend();
+    const bool isDeviceKnown = device != m_devices.cend();
+    if (m_cameras.add(globalId, isDeviceKnown ? device->second->completed(node) : node)) {
         announceSoon();
     }
     listMayBeComplete();
+}
+
+// Usually before any of its nodes is.
+void PipeWireConnection::deviceDescribed(quint32 globalId)
+{
+    for (const auto& [nodeId, probe] : m_probes) {
+        if (probe->isDone() && probe->node().deviceId == globalId) {
+            nodeDescribed(nodeId, probe->node());
+        }
+    }
 }
 
 void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/devices/pipewire/CameraList.h"
+#include "platform/devices/pipewire/DeviceProbe.h"
 #include "platform/devices/pipewire/LoopTimer.h"
 #include "platform/devices/pipewire/NodeProbe.h"
 
@@ -15,7 +16,7 @@ namespace Platform {
 
 // The connection to the camera server: the list of cameras, kept while the server goes and comes
 // back. On the camera thread only.
-class PipeWireConnection final : public NodeProbe::Listener
+class PipeWireConnection final : public NodeProbe::Listener, public DeviceProbe::Listener
 {
 public:
     class Observer
@@ -42,6 +43,7 @@ public:
     void quit(); // ends the thread's loop
 
     void nodeDescribed(quint32 globalId, const CameraNode& node) override;
+    void deviceDescribed(quint32 globalId) override;
     void nodeFailed(const CameraNode& node, const QString& error) override;
 
     pw_loop* loop() const { return m_loop; }
@@ -78,6 +80,7 @@ private:
     bool m_isDenied = false;
     CameraList m_cameras;
     std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // one for each video source
+    std::map<quint32, std::unique_ptr<DeviceProbe>> m_devices;
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;
