@@ -123,7 +123,8 @@ private Q_SLOTS:
     void abandonsHungStart();
     void tellsFailures_data();
     void tellsFailures();
-    void tellsRefusedFormat();
+    void tellsRefusal_data();
+    void tellsRefusal();
     void outlivesTheServer();
     void outlivesTheManager();
     void waitsForTheServer();
@@ -520,10 +521,18 @@ void tst_PipeWireCameras::tellsFailures()
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
 }
 
-// What can't agree on a format is refused at once, long before it would pass for hung.
-void tst_PipeWireCameras::tellsRefusedFormat()
+void tst_PipeWireCameras::tellsRefusal_data()
 {
-    const Camera camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--unreadable")});
+    QTest::addColumn<QString>("argument");
+    QTest::newRow("no format in common") << QStringLiteral("--unreadable");
+    QTest::newRow("no memory in common") << QStringLiteral("--refusing");
+}
+
+// What refuses while a format is agreed on is told at once, long before it would pass for hung.
+void tst_PipeWireCameras::tellsRefusal()
+{
+    QFETCH(QString, argument);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"), {argument});
     makeBackend();
     QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
     m_backend->start();

@@ -261,7 +261,8 @@ void VirtualCamera::onFormatChanged()
 {
     uint8_t memory[1024];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    const int kind = 1 << (m_options.isDriverMemory ? SPA_DATA_DmaBuf : SPA_DATA_MemFd);
+    const int usualKind = m_options.isDriverMemory ? SPA_DATA_DmaBuf : SPA_DATA_MemFd;
+    const int kind = 1 << (m_options.isRefusing ? SPA_DATA_MemId : usualKind);
     const auto meta = [&builder](uint32_t type, std::size_t size) {
         return static_cast<const spa_pod*>(spa_pod_builder_add_object(
             &builder, SPA_TYPE_OBJECT_ParamMeta, SPA_PARAM_Meta, SPA_PARAM_META_type,

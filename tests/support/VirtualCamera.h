@@ -27,6 +27,7 @@ public:
         int rate = 30;
         uint32_t transform = 0; // a SPA_META_TRANSFORMATION value
         bool isStalled = false;
+        bool isRefusing = false;     // wants a kind of memory that nobody has
         bool isUnreadable = false;   // offers nothing but a format that nobody takes
         bool isDriverMemory = false; // buffers as a kernel driver hands them out
         bool isTold = false;         // the time of every picture, on the standard output

@@ -28,7 +28,8 @@ int main(int argc, char* argv[])
     option("transform", "number", "0");
     option("layout", "name", "YUY2");
     option("color", "RRGGBB", "c82828");
-    for (const char* name : {"stalled", "driver-memory", "unreadable", "numbered", "told"}) {
+    for (const char* name :
+         {"stalled", "driver-memory", "refusing", "unreadable", "numbered", "told"}) {
         parser.addOption({QLatin1String(name), QLatin1String(name)});
     }
     parser.process(application);
@@ -50,6 +51,7 @@ int main(int argc, char* argv[])
     options.description = text("description");
     options.role = text("role");
     options.rate = number("rate");
+    options.isRefusing = isSet("refusing");
     options.transform = static_cast<uint32_t>(number("transform"));
     options.isStalled = isSet("stalled");
     options.busPath = text("bus-path");

@@ -70,6 +70,13 @@ std::optional<QString> CameraList::serialOf(const QString& id) const
     return it == nodes.end() ? std::nullopt : std::make_optional(it->second->serial);
 }
 
+bool CameraList::isUnreadable(const QString& id) const
+{
+    const auto nodes = byId();
+    const auto it = nodes.find(id);
+    return it != nodes.end() && it->second->hasFormats && !it->second->isReadable;
+}
+
 QString CameraList::preferredId() const
 {
     QString result;

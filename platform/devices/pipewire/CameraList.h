@@ -22,7 +22,8 @@ struct CameraNode
     std::optional<quint32> deviceId; // the server's number for its device
     int priority = 0;                // the session's preference
     bool hasFormats = false;
-    bool hasColour = false; // one of the formats has
+    bool hasColour = false;  // one of the formats has
+    bool isReadable = false; // one of the formats can be shown
 };
 
 // The cameras among the server's video sources. Hidden are: sources with another role than
@@ -41,6 +42,8 @@ public:
     // An id is the place, without one the name: both survive replugging.
     DeviceList devices() const; // in the order of the ids, names distinct
     bool contains(const QString& id) const { return serialOf(id).has_value(); }
+    // Whether it offers formats and none can be shown.
+    bool isUnreadable(const QString& id) const;
     std::optional<QString> serialOf(const QString& id) const;
     QString preferredId() const; // empty where there is none
 

@@ -60,6 +60,13 @@ void CameraSession::camerasChanged()
     openStream();
 }
 
+void CameraSession::linkFailed(const QString& serial, quint32 readerId, const QString& error)
+{
+    if (m_stream && serial == m_serial && readerId == m_stream->nodeId()) {
+        streamEnded(error.isEmpty() ? QStringLiteral("The link to the camera failed") : error);
+    }
+}
+
 void CameraSession::cameraFailed(const QString& serial, const QString& error)
 {
     if (m_stream && serial == m_serial) {
@@ -129,6 +136,11 @@ void CameraSession::openStream()
         return;
     }
     m_serial = *serial;
+    if (m_connection.cameras().isUnreadable(m_id)) { // nobody would say so: it would pass for hung
+        qCInfo(CameraLog, "The camera offers no format that can be shown");
+        report(DeviceState::Failed);
+        return;
+    }
     m_stream = std::make_unique<CameraStream>(m_connection.core(), m_serial, AskedSize,
                                               *static_cast<CameraStream::Listener*>(this));
     m_deadlineTimer.startOnce(StartDeadline);

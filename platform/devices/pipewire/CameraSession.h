@@ -41,6 +41,7 @@ public:
     void setOutputSize(const QSize& pixels) { m_outputSize = pixels; }
 
     void camerasChanged() override;
+    void linkFailed(const QString& serial, quint32 readerId, const QString& error) override;
     void cameraFailed(const QString& serial, const QString& error) override;
     void connectionLost() override;
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/CameraStream.h"
 
+#include "platform/devices/pipewire/StreamFormat.h"
+
 #include <algorithm>
 #include <spa/param/video/format-utils.h>
 #include <sys/mman.h>
@@ -9,23 +11,6 @@
 namespace Platform {
 
 namespace {
-
-struct LayoutName
-{
-    uint32_t spaFormat;
-    PixelLayout layout;
-};
-
-// In the order of preference: what needs the least work first.
-constexpr LayoutName LayoutNames[] = {
-    {SPA_VIDEO_FORMAT_YUY2, PixelLayout::Yuy2}, {SPA_VIDEO_FORMAT_NV12, PixelLayout::Nv12},
-    {SPA_VIDEO_FORMAT_I420, PixelLayout::I420}, {SPA_VIDEO_FORMAT_UYVY, PixelLayout::Uyvy},
-    {SPA_VIDEO_FORMAT_BGRx, PixelLayout::Bgrx}, {SPA_VIDEO_FORMAT_BGRA, PixelLayout::Bgrx},
-    {SPA_VIDEO_FORMAT_RGBx, PixelLayout::Rgbx}, {SPA_VIDEO_FORMAT_RGBA, PixelLayout::Rgbx},
-    {SPA_VIDEO_FORMAT_xRGB, PixelLayout::Xrgb}, {SPA_VIDEO_FORMAT_ARGB, PixelLayout::Xrgb},
-    {SPA_VIDEO_FORMAT_xBGR, PixelLayout::Xbgr}, {SPA_VIDEO_FORMAT_ABGR, PixelLayout::Xbgr},
-    {SPA_VIDEO_FORMAT_RGB, PixelLayout::Rgb},   {SPA_VIDEO_FORMAT_BGR, PixelLayout::Bgr},
-};
 
 constexpr spa_rectangle SmallestSize{1, 1};
 constexpr spa_rectangle LargestSize{8192, 8192};
@@ -41,9 +26,10 @@ void addFormats(spa_pod_builder& builder)
     spa_pod_builder_prop(&builder, SPA_FORMAT_VIDEO_format, 0);
     spa_pod_frame choice{};
     spa_pod_builder_push_choice(&builder, &choice, SPA_CHOICE_Enum, 0);
-    spa_pod_builder_id(&builder, LayoutNames[0].spaFormat); // the default comes first
-    for (const LayoutName& name : LayoutNames) {
-        spa_pod_builder_id(&builder, name.spaFormat);
+    const std::vector<uint32_t>& formats = readableFormats();
+    spa_pod_builder_id(&builder, formats.front()); // the default comes first
+    for (const uint32_t format : formats) {
+        spa_pod_builder_id(&builder, format);
     }
     spa_pod_builder_pop(&builder, &choice);
 }
@@ -62,14 +48,6 @@ const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype, const spa_
                         SPA_FORMAT_VIDEO_framerate,
                         SPA_POD_CHOICE_RANGE_Fraction(&UsualRate, &LowestRate, &HighestRate), 0);
     return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
-}
-
-PixelLayout layoutOf(uint32_t spaFormat)
-{
-    const auto* const it =
-        std::find_if(std::begin(LayoutNames), std::end(LayoutNames),
-                     [spaFormat](const LayoutName& name) { return name.spaFormat == spaFormat; });
-    return it == std::end(LayoutNames) ? PixelLayout::None : it->layout;
 }
 
 YuvColour colourOf(const spa_video_info_raw& info)

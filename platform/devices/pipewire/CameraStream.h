@@ -32,6 +32,8 @@ public:
     CameraStream(const CameraStream&) = delete;
     CameraStream& operator=(const CameraStream&) = delete;
 
+    quint32 nodeId() const { return pw_stream_get_node_id(m_stream); }
+
 private:
     void connectTo(const QSize& wishedSize);
     void onStateChanged(pw_stream_state state, const char* error);

@@ -3,6 +3,7 @@
 #include "platform/devices/pipewire/NodeProbe.h"
 
 #include "platform/devices/pipewire/NodeProperties.h"
+#include "platform/devices/pipewire/StreamFormat.h"
 
 #include <spa/param/video/format-utils.h>
 
@@ -116,6 +117,7 @@ void NodeProbe::onFormat(const spa_pod* format)
     m_node.hasFormats = true;
     if (mediaSubtype != SPA_MEDIA_SUBTYPE_raw) {
         m_node.hasColour = true;
+        m_node.isReadable = m_node.isReadable || mediaSubtype == SPA_MEDIA_SUBTYPE_mjpg;
         return;
     }
     const spa_pod_prop* const property =
@@ -132,6 +134,7 @@ void NodeProbe::onFormat(const spa_pod* format)
     const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
     for (uint32_t i = 0; i < count; ++i) {
         m_node.hasColour = m_node.hasColour || !isGrey(ids[i]);
+        m_node.isReadable = m_node.isReadable || layoutOf(ids[i]) != PixelLayout::None;
     }
 }
 

@@ -125,6 +125,7 @@ void PipeWireConnection::disconnectFromServer()
 {
     m_probes.clear();
     m_devices.clear();
+    m_links.clear();
     if (m_registry != nullptr) {
         spa_hook_remove(&m_registryHook);
         pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
@@ -169,6 +170,9 @@ void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* 
     } else if (strcmp(type, PW_TYPE_INTERFACE_Device) == 0 &&
                mediaClass == QLatin1String("Video/Device")) {
         m_devices[id] = std::make_unique<DeviceProbe>(m_registry, id, *this);
+    } else if (strcmp(type, PW_TYPE_INTERFACE_Link) == 0 &&
+               m_probes.count(propertyOf(properties, PW_KEY_LINK_OUTPUT_NODE).toUInt()) > 0) {
+        m_links[id] = std::make_unique<LinkProbe>(m_registry, id, *this);
     }
 }
 
@@ -176,6 +180,7 @@ void PipeWireConnection::onGlobalRemoved(quint32 id)
 {
     m_probes.erase(id);
     m_devices.erase(id);
+    m_links.erase(id);
     if (m_cameras.remove(id)) {
         announceSoon();
     }
@@ -199,6 +204,17 @@ void PipeWireConnection::deviceDescribed(quint32 globalId)
         if (probe->isDone() && probe->node().deviceId == globalId) {
             nodeDescribed(nodeId, probe->node());
         }
+    }
+}
+
+void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const QString& error)
+{
+    const auto it = m_probes.find(nodeId);
+    if (it == m_probes.cend()) {
+        return;
+    }
+    for (Observer* observer : m_observers) {
+        observer->linkFailed(it->second->node().serial, readerId, error);
     }
 }
 

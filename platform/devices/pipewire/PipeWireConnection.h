@@ -4,6 +4,7 @@
 
 #include "platform/devices/pipewire/CameraList.h"
 #include "platform/devices/pipewire/DeviceProbe.h"
+#include "platform/devices/pipewire/LinkProbe.h"
 #include "platform/devices/pipewire/LoopTimer.h"
 #include "platform/devices/pipewire/NodeProbe.h"
 
@@ -16,7 +17,9 @@ namespace Platform {
 
 // The connection to the camera server: the list of cameras, kept while the server goes and comes
 // back. On the camera thread only.
-class PipeWireConnection final : public NodeProbe::Listener, public DeviceProbe::Listener
+class PipeWireConnection final : public NodeProbe::Listener,
+                                 public DeviceProbe::Listener,
+                                 public LinkProbe::Listener
 {
 public:
     class Observer
@@ -24,6 +27,8 @@ public:
     public:
         // The list changed; a burst of changes comes as one.
         virtual void camerasChanged() = 0;
+        // A link to it failed: to that reader, which may be another program.
+        virtual void linkFailed(const QString& serial, quint32 readerId, const QString& error) = 0;
         // The server couldn't run the camera of this serial.
         virtual void cameraFailed(const QString& serial, const QString& error) = 0;
         // The server is gone: everything made with core() must be destroyed now.
@@ -44,6 +49,7 @@ public:
 
     void nodeDescribed(quint32 globalId, const CameraNode& node) override;
     void deviceDescribed(quint32 globalId) override;
+    void linkFailed(quint32 nodeId, quint32 readerId, const QString& error) override;
     void nodeFailed(const CameraNode& node, const QString& error) override;
 
     pw_loop* loop() const { return m_loop; }
@@ -81,6 +87,7 @@ private:
     CameraList m_cameras;
     std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // one for each video source
     std::map<quint32, std::unique_ptr<DeviceProbe>> m_devices;
+    std::map<quint32, std::unique_ptr<LinkProbe>> m_links;
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;
