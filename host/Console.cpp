@@ -2,20 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/Console.h"
 
-#include <cstdio>
+#include "host/System.h"
+
 #include <numeric>
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
 
 namespace {
-
-void write(std::FILE* file, const QString& text)
-{
-    const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
-    std::fflush(file);
-}
 
 bool isWide(QChar c)
 {
@@ -35,21 +26,17 @@ bool isSteering(QChar c)
 
 void Console::print(const QString& text)
 {
-    write(stdout, text);
+    System::write(stdout, text);
 }
 
 void Console::printError(const QString& line)
 {
-    write(stderr, QStringLiteral("envcheck: %1\n").arg(plainLine(line)));
+    System::write(stderr, QStringLiteral("envcheck: %1\n").arg(plainLine(line)));
 }
 
 bool Console::isTerminal()
 {
-#ifdef Q_OS_UNIX
-    return isatty(STDOUT_FILENO) != 0;
-#else
-    return false;
-#endif
+    return System::isTerminal(stdout);
 }
 
 QString Console::plainLine(const QString& text)

@@ -7,6 +7,7 @@
 #include "host/EngineCommands.h"
 #include "host/Options.h"
 #include "host/ReportCommand.h"
+#include "host/System.h"
 #include "host/TerminationSignals.h"
 
 #include <QApplication>
@@ -23,22 +24,6 @@ constexpr int FontPixelSize = 12;
 // What the engine warns of is for the user, what Qt does for developers.
 const char* const QuietRules =
     "*.debug=false\n*.info=false\n*.warning=false\nengine.*.warning=true";
-
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
-
-QStringList textsOf(int argc, char* argv[])
-{
-    QStringList texts;
-    for (int i = 0; i < argc; ++i) {
-        texts << QString::fromLocal8Bit(argv[i]);
-    }
-    return texts;
-}
 
 void useLookOfCheck()
 {
@@ -76,13 +61,13 @@ ExitCode runCommand(const Options& options)
 
 ExitCode Program::run(int argc, char* argv[])
 {
-    const Options options = Options::parse(textsOf(argc, argv));
+    const Options options = Options::parse(System::arguments(argc, argv));
     if (!options.error.isEmpty()) {
         Console::printError(options.error);
         return ExitCode::WrongUsage;
     }
     const bool isCheck = options.command == Options::Command::Check;
-    if (isCheck && !hasDisplay()) {
+    if (isCheck && !System::hasDisplay()) {
         Console::printError(QStringLiteral("there is no display to open the check on: start it "
                                            "from a desktop session, or by xvfb-run"));
         return ExitCode::Unavailable;

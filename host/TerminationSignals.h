@@ -3,10 +3,11 @@
 #pragma once
 
 #include <QObject>
-#include <QSocketNotifier>
+#include <memory>
 
-// While it lives, the first SIGINT or SIGTERM ends all event loops, so that the program leaves by
-// its ordinary way; a second one ends it at once. One at a time, GUI thread only.
+// While it lives, the first SIGINT or SIGTERM (on Windows: Ctrl+C, or the end of the console) ends
+// all event loops, so that the program leaves by its ordinary way; a second one ends it at once.
+// One at a time, GUI thread only.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
@@ -19,6 +20,6 @@ public:
     bool haveArrived() const { return m_haveArrived; }
 
 private:
-    QSocketNotifier m_notifier;
+    std::unique_ptr<QObject> m_watch; // what the system wakes, where it needs one
     bool m_haveArrived = false;
 };

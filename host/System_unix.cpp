@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/System.h"
+
+#include <unistd.h>
+
+void System::prepareProcess()
+{
+}
+
+QStringList System::arguments(int argc, char* argv[])
+{
+    QStringList texts;
+    for (int i = 0; i < argc; ++i) {
+        texts << QString::fromLocal8Bit(argv[i]);
+    }
+    return texts;
+}
+
+bool System::hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+bool System::isTerminal(std::FILE* file)
+{
+    return isatty(fileno(file)) != 0;
+}
+
+void System::write(std::FILE* file, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
+    std::fflush(file);
+}

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/System.h"
+
+#include <array>
+#include <io.h>
+#include <memory>
+#include <windows.h>
+// After windows.h, which it needs.
+#include <shellapi.h>
+
+namespace {
+
+HANDLE handleOf(std::FILE* file)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
+}
+
+// From now on libraries come from the program's folder and the system's, and neither from the
+// working folder nor from the path, where anybody may have put one of the same name.
+void searchLibrariesSafely()
+{
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
+    SetDllDirectoryW(L"");
+    SetSearchPathMode(BASE_SEARCH_PATH_ENABLE_SAFE_SEARCHMODE | BASE_SEARCH_PATH_PERMANENT);
+}
+
+// Started from the desktop, a console program is given an empty console window of its own.
+void closeOwnConsole()
+{
+    std::array<DWORD, 2> users = {};
+    if (GetConsoleProcessList(users.data(), static_cast<DWORD>(users.size())) == 1) {
+        FreeConsole();
+    }
+}
+
+} // namespace
+
+void System::prepareProcess()
+{
+    searchLibrariesSafely();
+    closeOwnConsole();
+}
+
+QStringList System::arguments(int, char**)
+{
+    // Those of main() have lost every letter that the code page lacks.
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> values(
+        CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
+    QStringList texts;
+    for (int i = 0; i < count; ++i) {
+        texts << QString::fromWCharArray(values.get()[i]);
+    }
+    return texts;
+}
+
+bool System::hasDisplay()
+{
+    return true;
+}
+
+bool System::isTerminal(std::FILE* file)
+{
+    DWORD mode = 0;
+    return GetConsoleMode(handleOf(file), &mode) != 0;
+}
+
+void System::write(std::FILE* file, const QString& text)
+{
+    if (isTerminal(file)) {
+        DWORD written = 0;
+        WriteConsoleW(handleOf(file), text.utf16(), static_cast<DWORD>(text.size()), &written,
+                      nullptr);
+        return;
+    }
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
+    std::fflush(file);
+}
