@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/ReportFile.h"
 
+#include "platform/backend/FileNames.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -23,6 +25,10 @@ QString line(const QString& path, const QString& problem)
 
 QString ReportFile::problemOfWriting(const QString& path)
 {
+    const QString nameProblem = Platform::FileNames::problem(path);
+    if (!nameProblem.isEmpty()) {
+        return line(path, nameProblem + QStringLiteral("; name another file"));
+    }
     const QFileInfo file(path);
     const QFileInfo folder(file.absolutePath());
     if (file.isDir()) {
@@ -59,9 +65,10 @@ QString ReportFile::write(const QString& path, const QByteArray& content)
 std::optional<Report> ReportFile::read(const QString& path, QString* error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QString nameProblem = Platform::FileNames::problem(path);
+    if (!nameProblem.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("%1: %2; name a report that a run has written")
-                     .arg(path, file.errorString());
+                     .arg(path, nameProblem.isEmpty() ? file.errorString() : nameProblem);
         return std::nullopt;
     }
     const QByteArray content = file.read(MaxBytes + 1);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 
+#include "platform/backend/FileNames.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -39,6 +41,10 @@ QThreadPool& pool()
 // Empty on success, otherwise what went wrong.
 QString updateNow(const QString& path, const FileWriter::Transform& transform)
 {
+    const QString problem = FileNames::problem(path);
+    if (!problem.isEmpty()) {
+        return problem;
+    }
     const QFileInfo info(path);
     if (info.exists() && !info.isFile()) {
         return QStringLiteral("it is not a regular file");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/Scenario.h"
 
+#include "platform/backend/FileNames.h"
 #include "platform/scripted/JsonLines.h"
 #include "platform/scripted/ScenarioReader.h"
 
@@ -22,6 +23,11 @@ const QLatin1String BaseKey("base");
 // Empty on success, otherwise why the file can't be read.
 QString load(const QString& path, QByteArray* content)
 {
+    const QString nameProblem =
+        path.startsWith(BundledFolder) ? QString() : FileNames::problem(path);
+    if (!nameProblem.isEmpty()) {
+        return nameProblem;
+    }
     const QFileInfo info(path);
     if (!info.exists()) {
         return QStringLiteral("no such file, and no bundled scenario of this name (those are %1)")

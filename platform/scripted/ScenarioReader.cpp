@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScenarioReader.h"
 
+#include "platform/backend/MachineFacts.h"
 #include "platform/scripted/ScriptedEngine.h"
 
+#include <QStandardPaths>
 #include <algorithm>
 
 namespace Platform {
@@ -89,6 +91,11 @@ DeviceInfo readInfo(JsonFields& fields)
     return info;
 }
 
+QString cacheFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+}
+
 } // namespace
 
 ScenarioReader::ScenarioReader(JsonProblem& problem) : m_problem(problem)
@@ -127,14 +134,20 @@ Scenario::Action ScenarioReader::readFacts(JsonFields& root)
     account.rejectOthers();
 
     JsonFields machine = root.object("machine");
-    values.processorName = machine.text("processor", MaxTextLength, {});
-    values.cacheVolumeAvailableBytes = machine.number("cacheBytes", -1, MaxBytes, -1);
+    const bool isReal = machine.flag("real", false);
+    values.processorName = machine.text("processor", MaxTextLength,
+                                        isReal ? MachineFacts::processorName() : QString());
+    values.cacheVolumeAvailableBytes = machine.number(
+        "cacheBytes", -1, MaxBytes, isReal ? MachineFacts::availableBytes(cacheFolder()) : -1);
     values.clientAddress = machine.text("clientAddress", MaxTextLength, {});
     JsonFields system = machine.object("operatingSystem");
     values.operatingSystem = QStringList{system.text("name", MaxTextLength, {}),
                                          system.text("version", MaxTextLength, {}),
                                          system.text("architecture", MaxTextLength, {})};
     values.operatingSystem.removeAll(QString());
+    if (isReal && values.operatingSystem.isEmpty()) {
+        values.operatingSystem = MachineFacts::operatingSystem();
+    }
     system.rejectOthers();
     machine.rejectOthers();
 

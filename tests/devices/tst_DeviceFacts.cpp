@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "OddServer.h"
+#include "platform/backend/MachineFacts.h"
 #include "platform/devices/facts/DeviceFacts.h"
-#include "platform/devices/facts/MachineFacts.h"
+#include "platform/devices/facts/LocalAddress.h"
 #include "platform/devices/network/StunProbe.h"
 #include "platform/devices/network/StunServer.h"
 #include "tests/support/AtOnce.h"
@@ -125,7 +126,7 @@ void tst_DeviceFacts::deadServerHasADeadline()
     QTRY_VERIFY(took >= 0);
     QVERIFY2(took > DeviceFacts::PrepareDeadlineMs / 2 && took < 2 * DeviceFacts::PrepareDeadlineMs,
              qPrintable(QString::number(took)));
-    QCOMPARE(facts.clientAddress(), MachineFacts::localAddress());
+    QCOMPARE(facts.clientAddress(), LocalAddress::find());
 }
 
 void tst_DeviceFacts::lateServerIsNotWaitedFor()
@@ -143,7 +144,7 @@ void tst_DeviceFacts::lateServerIsNotWaitedFor()
     server.send(OddServer::rightAnswer(first), first);
     QTest::qWait(100);
     QCOMPARE(calls, 1);
-    QCOMPARE(facts.clientAddress(), MachineFacts::localAddress());
+    QCOMPARE(facts.clientAddress(), LocalAddress::find());
 }
 
 void tst_DeviceFacts::preparingTwice()

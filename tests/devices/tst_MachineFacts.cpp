@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/backend/MachineFacts.h"
 #include "platform/devices/facts/HostUser.h"
-#include "platform/devices/facts/MachineFacts.h"
+#include "platform/devices/facts/LocalAddress.h"
 
 #include <QHostAddress>
 #include <QNetworkInterface>
@@ -125,7 +126,7 @@ void tst_MachineFacts::folderThatIsNotThereYet()
 
 void tst_MachineFacts::localAddress()
 {
-    const QHostAddress address(MachineFacts::localAddress());
+    const QHostAddress address(LocalAddress::find());
     QVERIFY(QNetworkInterface::allAddresses().contains(address));
     bool isAlone = true;
     const QList<QHostAddress> all = QNetworkInterface::allAddresses();

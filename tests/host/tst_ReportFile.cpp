@@ -4,7 +4,7 @@
 #include "SampleReport.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
-#include "tests/support/FullDisk.h"
+#include "tests/support/WriteObstacle.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -15,6 +15,7 @@ class tst_ReportFile : public QObject
 
 private Q_SLOTS:
     void writtenAndRead();
+    void writtenAndReadBelowALongPath();
     void wrongPlacesAreNamed_data();
     void wrongPlacesAreNamed();
     void failureLeavesTheOldFile();
@@ -36,17 +37,44 @@ void tst_ReportFile::writtenAndRead()
              QStringList{QStringLiteral("report.json")});
 }
 
+void tst_ReportFile::writtenAndReadBelowALongPath()
+{
+    constexpr int Depth = 8;
+    const QTemporaryDir folder;
+    const QString path =
+        folder.filePath(QString(50, QLatin1Char('a')).append(QLatin1Char('/')).repeated(Depth)) +
+        QStringLiteral("report.json");
+    QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
+    QCOMPARE(ReportFile::write(path, "old"), QString());
+    QCOMPARE(ReportFile::write(path, ReportWriter::toJson(sampleReport())), QString());
+    QString error;
+    const std::optional<Report> report = ReportFile::read(path, &error);
+    QVERIFY2(report, qPrintable(error));
+    QCOMPARE(report->toJson(), sampleReport().toJson());
+}
+
 void tst_ReportFile::wrongPlacesAreNamed_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("no such folder") << "/nonexistent/x/report.json"
-                                    << "no folder";
-    QTest::newRow("a folder") << "/"
-                              << "it is a folder";
+#ifdef Q_OS_UNIX
+    const QString root = QStringLiteral("/");
     QTest::newRow("a device") << "/dev/null"
                               << "isn't an ordinary file";
-    QTest::newRow("below a file") << "/etc/passwd/report.json"
+#else
+    const QString root = QStringLiteral("C:/");
+    QTest::newRow("a device") << "NUL"
+                              << "the name of a device";
+    QTest::newRow("a device with an ending") << "C:/windows/con.json"
+                                             << "the name of a device";
+    QTest::newRow("a stream") << "C:/windows/win.ini:report"
+                              << "no name has a letter";
+#endif
+    QTest::newRow("no such folder")
+        << root + QStringLiteral("nonexistent/x/report.json") << "no folder";
+    QTest::newRow("a folder") << root << "it is a folder";
+    QTest::newRow("below a file") << QCoreApplication::applicationFilePath() +
+                                         QStringLiteral("/report.json")
                                   << "no folder";
 }
 
@@ -66,7 +94,7 @@ void tst_ReportFile::failureLeavesTheOldFile()
     const QString path = folder.filePath(QStringLiteral("report.json"));
     QCOMPARE(ReportFile::write(path, "old"), QString());
     {
-        const FullDisk fullDisk;
+        const WriteObstacle obstacle(path);
         const QString problem = ReportFile::write(path, "new");
         QVERIFY2(problem.startsWith(path), qPrintable(problem));
     }
@@ -110,9 +138,12 @@ void tst_ReportFile::keyIsMadeOnce()
     QCOMPARE(error, QString());
     QCOMPARE(key.size(), 32);
     QCOMPARE(ReportFile::redactionKey(path, &error), key);
+#ifdef Q_OS_UNIX
     QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), 0);
-    QVERIFY(ReportFile::redactionKey(QStringLiteral("/etc/passwd/key"), &error).isEmpty());
-    QVERIFY(error.contains(QLatin1String("/etc/passwd/key")));
+#endif
+    const QString below = path + QStringLiteral("/key");
+    QVERIFY(ReportFile::redactionKey(below, &error).isEmpty());
+    QVERIFY(error.contains(below));
 }
 
 QTEST_GUILESS_MAIN(tst_ReportFile)

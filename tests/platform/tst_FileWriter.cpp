@@ -3,7 +3,7 @@
 #include "platform/backend/FileWriter.h"
 #include "tests/support/AtOnce.h"
 
-#include "tests/support/FullDisk.h"
+#include "tests/support/WriteObstacle.h"
 
 #include <QLockFile>
 #include <QRegularExpression>
@@ -47,6 +47,7 @@ private Q_SLOTS:
 
     void writesOffTheCallersThread();
     void makesTheFolder();
+    void writesBelowALongPath();
     void keepsTheOrder();
     void handsThePresentContentOn();
     void waitsNoLongerThanAsked();
@@ -54,7 +55,7 @@ private Q_SLOTS:
     void refusesWhatIsNoFile();
     void refusesAFolderThatCannotBe();
     void refusesAnAbsurdlyLargeFile();
-    void leavesTheFileWhereTheDiskIsFull();
+    void leavesTheFileWhereItCannotBeWritten();
 
 private:
     QString path(const char* name = "file") const
@@ -91,6 +92,23 @@ void tst_FileWriter::makesTheFolder()
     FileWriter::replace(path("a/b/file"), "content");
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QCOMPARE(contentOf(path("a/b/file")), QByteArray("content"));
+}
+
+// Longer than what Windows' older functions take.
+void tst_FileWriter::writesBelowALongPath()
+{
+    constexpr int Depth = 8;
+    const QString name(50, QChar(0x8bfe));
+    QString file = m_folder->path();
+    for (int level = 0; level < Depth; ++level) {
+        file += QLatin1Char('/') + name;
+    }
+    FileWriter::replace(file, "before");
+    FileWriter::replace(file, "content");
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(contentOf(file), QByteArray("content"));
+    QCOMPARE(QDir(QFileInfo(file).absolutePath()).entryList(QDir::Files | QDir::Hidden),
+             QStringList{name});
 }
 
 void tst_FileWriter::keepsTheOrder()
@@ -172,6 +190,13 @@ void tst_FileWriter::refusesWhatIsNoFile()
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QVERIFY(QFileInfo::exists(fifo));
     QVERIFY(!QFileInfo(fifo).isFile());
+#else
+    for (const char* name : {"nul", "con.json", "aux/file", "file:stream", "file."}) {
+        expectComplaint(path(name), QStringLiteral("(on Windows no name|.* a device on Windows)"));
+        FileWriter::replace(path(name), "content");
+        QVERIFY(FileWriter::waitForWritten(WaitMs));
+    }
+    QVERIFY(QDir(m_folder->path()).isEmpty());
 #endif
 }
 
@@ -198,14 +223,14 @@ void tst_FileWriter::refusesAnAbsurdlyLargeFile()
 }
 
 // The content is short enough to wait in a buffer until the file is closed.
-void tst_FileWriter::leavesTheFileWhereTheDiskIsFull()
+void tst_FileWriter::leavesTheFileWhereItCannotBeWritten()
 {
     constexpr int Limit = 1000;
     FileWriter::replace(path(), "old");
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     expectComplaint(path(), QStringLiteral("."));
     {
-        const FullDisk fullDisk(Limit);
+        const WriteObstacle obstacle(path(), Limit);
         FileWriter::replace(path(), QByteArray(2 * Limit, 'x'));
         QVERIFY(FileWriter::waitForWritten(WaitMs));
     }

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/backend/MachineFacts.h"
 #include "platform/scripted/Scenario.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <QJsonDocument>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void readsEveryBundledScenario();
     void setsUpDevices();
     void setsUpFactsNetworkAndReport();
+    void takesTheMachineItRunsOn();
     void buildsOnABundledScenario();
     void playsTheTimelineInOrder();
     void namesFileLineAndField_data();
@@ -117,6 +120,33 @@ void tst_Scenario::setsUpDevices()
     engine.scriptedSpeakers().choose(QStringLiteral("s1"));
     QVERIFY(engine.scriptedSpeakers().currentState() == Platform::DeviceState::Failed);
     QCOMPARE(engine.scriptedSpeakers().volume(), 30);
+}
+
+void tst_Scenario::takesTheMachineItRunsOn()
+{
+    constexpr qint64 OtherWritersBytes = 256 * 1024 * 1024;
+    const auto scenario = read(R"({
+        "machine": { "real": true, "clientAddress": "192.0.2.1" } })");
+    QVERIFY(scenario);
+    ScriptedEngine engine(*scenario);
+    const Platform::ScriptedFacts& facts = engine.facts();
+    QVERIFY(!facts.processorName().isEmpty());
+    QCOMPARE(facts.processorName(), Platform::MachineFacts::processorName());
+    QCOMPARE(facts.operatingSystem(), Platform::MachineFacts::operatingSystem());
+    const qint64 bytes = Platform::MachineFacts::availableBytes(
+        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
+    QVERIFY(bytes > 0);
+    QVERIFY(std::abs(facts.cacheVolumeAvailableBytes() - bytes) < OtherWritersBytes);
+    QCOMPARE(facts.clientAddress(), QStringLiteral("192.0.2.1"));
+
+    const auto named = read(R"({
+        "machine": { "real": true, "processor": "p", "cacheBytes": 5,
+                     "operatingSystem": { "name": "n" } } })");
+    QVERIFY(named);
+    ScriptedEngine other(*named);
+    QCOMPARE(other.facts().processorName(), QStringLiteral("p"));
+    QCOMPARE(other.facts().cacheVolumeAvailableBytes(), Q_INT64_C(5));
+    QCOMPARE(other.facts().operatingSystem(), QStringList{QStringLiteral("n")});
 }
 
 void tst_Scenario::setsUpFactsNetworkAndReport()
@@ -303,6 +333,10 @@ void tst_Scenario::refusesWhatIsNoScenarioFile()
     QCOMPARE(mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
     QVERIFY(!Scenario::read(fifo, &error));
     QVERIFY2(error.startsWith(fifo + QStringLiteral(": not a regular file")), qPrintable(error));
+#else
+    QVERIFY(!Scenario::read(QStringLiteral("CON"), &error));
+    QVERIFY2(error.startsWith(QStringLiteral("CON: CON is the name of a device")),
+             qPrintable(error));
 #endif
 }
 

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/facts/DeviceFacts.h"
 
-#include "platform/devices/facts/MachineFacts.h"
+#include "platform/backend/MachineFacts.h"
+#include "platform/devices/facts/LocalAddress.h"
 
 #include <thread>
 #include <utility>
@@ -94,7 +95,7 @@ void DeviceFacts::gatherAvailableBytes(Done taken)
 
 void DeviceFacts::gatherClientAddress(Done taken)
 {
-    m_clientAddress = MachineFacts::localAddress(); // until a server tells a better one
+    m_clientAddress = LocalAddress::find(); // until a server tells a better one
     m_probe = m_makeProbe(*this, [this, taken = std::move(taken)](const QString& address) {
         m_clientAddress = address;
         taken();

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/facts/MachineFacts.h"
+#include "platform/backend/MachineFacts.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHostAddress>
-#include <QNetworkInterface>
+#include <QSettings>
 #include <QStorageInfo>
 #include <QSysInfo>
 
@@ -16,11 +15,6 @@ namespace {
 constexpr qint64 MaxCpuInfoLine = 4096;
 constexpr int MaxCpuInfoLines = 64; // the first processor's block is shorter
 
-bool isReachable(const QHostAddress& address)
-{
-    return !address.isNull() && !address.isLoopback() && !address.isLinkLocal();
-}
-
 } // namespace
 
 QStringList MachineFacts::operatingSystem()
@@ -28,6 +22,16 @@ QStringList MachineFacts::operatingSystem()
     return {QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()};
 }
 
+#ifdef Q_OS_WIN
+QString MachineFacts::processorName()
+{
+    const QSettings processor(
+        QStringLiteral("HKEY_LOCAL_MACHINE\\HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0"),
+        QSettings::NativeFormat);
+    const QString name = processor.value(QStringLiteral("ProcessorNameString")).toString();
+    return name.trimmed().isEmpty() ? QSysInfo::currentCpuArchitecture() : name.simplified();
+}
+#else
 QString MachineFacts::processorName(const QString& cpuInfoPath)
 {
     QFile file(cpuInfoPath);
@@ -41,6 +45,7 @@ QString MachineFacts::processorName(const QString& cpuInfoPath)
     }
     return QSysInfo::currentCpuArchitecture();
 }
+#endif
 
 qint64 MachineFacts::availableBytes(const QString& folder)
 {
@@ -50,24 +55,6 @@ qint64 MachineFacts::availableBytes(const QString& folder)
     }
     const QStorageInfo volume(existing.absoluteFilePath());
     return volume.isValid() ? volume.bytesAvailable() : -1;
-}
-
-QString MachineFacts::localAddress()
-{
-    QString version6;
-    const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
-    for (const QHostAddress& address : addresses) {
-        if (!isReachable(address)) {
-            continue;
-        }
-        if (address.protocol() == QAbstractSocket::IPv4Protocol) {
-            return address.toString();
-        }
-        if (version6.isEmpty()) {
-            version6 = address.toString();
-        }
-    }
-    return version6.isEmpty() ? QHostAddress(QHostAddress::LocalHost).toString() : version6;
 }
 
 } // namespace Platform
