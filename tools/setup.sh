@@ -16,6 +16,10 @@ test_packages=(
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good)
 ci_packages=(clang-format clang-tidy)
+# The posix threads alone: only with them has the cross compiler std::thread.
+windows_packages=(
+    g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 unzip zip make dpkg-dev
+)
 
 # install_packages NAME...: nothing where all are there; as root or through sudo; without either the
 # one line to run, and the end.
@@ -47,6 +51,14 @@ install_packages()
     rm -f "$log"
 }
 
+display_pids=()
+end_displays()
+{
+    [ ${#display_pids[@]} -gt 0 ] || return 0
+    kill "${display_pids[@]}" 2>/dev/null || true
+    wait "${display_pids[@]}" 2>/dev/null || true
+}
+
 # start_display: a virtual display in DISPLAY, ended with the script.
 start_display()
 {
@@ -54,8 +66,8 @@ start_display()
     folder=$(mktemp -d)
     mkfifo "$folder/number"
     Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3<>"$folder/number" >"$folder/log" 2>&1 &
-    xvfb_pid=$!
-    trap 'kill $xvfb_pid 2>/dev/null; wait $xvfb_pid 2>/dev/null' EXIT
+    display_pids+=($!)
+    trap end_displays EXIT
     local number
     read -r -t 20 number <>"$folder/number" || { cat "$folder/log" >&2; echo "No virtual display came up." >&2; exit 69; }
     export DISPLAY=":$number"

@@ -4,7 +4,13 @@
 # The library exports EnvCheckAgent, all of it and nothing else. Usage: exported_symbols.sh LIBRARY
 set -euo pipefail
 
-symbols=$(nm -D --defined-only --demangle "$1" | cut -d' ' -f3- | sort -u)
+if [[ $1 == *.dll ]]; then
+    # The names of the export table: a number in brackets before each.
+    symbols=$(x86_64-w64-mingw32-objdump -p "$1" |
+        sed -n '/^\[Ordinal\/Name Pointer\] Table/,/^$/s/^\t\[ *[0-9]*\] *\([0-9a-f]\{4\} \+\)\?//p' | c++filt | sort -u)
+else
+    symbols=$(nm -D --defined-only --demangle "$1" | cut -d' ' -f3- | sort -u)
+fi
 
 foreign=$(grep -vE '^(EnvCheckAgent::|(vtable|typeinfo|typeinfo name) for EnvCheckAgent$)' <<<"$symbols" || true)
 if [ -n "$foreign" ]; then

@@ -4,11 +4,11 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/ProcessResources.h"
 #include "tests/support/QuestionAnswerer.h"
 
 #include <LumWidgets/LumCustomNormalDialog.h>
 
-#include <QDir>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -51,11 +51,6 @@ private:
 QWidget* frameOf(const LumCustomNormalDialog* dialog)
 {
     return dialog->findChild<QWidget*>("selfcheckContentPage");
-}
-
-int entries(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
 }
 
 } // namespace
@@ -332,14 +327,15 @@ void tst_EnvCheckAgent::hundredOpeningsLeaveNothingBehind()
     };
     openOnce();
     const int widgets = QApplication::allWidgets().size();
-    const int files = entries("/proc/self/fd");
-    const int threads = entries("/proc/self/task");
+    const int files = ProcessResources::openHandles();
+    QVERIFY(files > 0);
+    const int threads = ProcessResources::threads();
     for (int i = 0; i < 100; ++i) {
         openOnce();
     }
     QCOMPARE(QApplication::allWidgets().size(), widgets);
-    QTRY_COMPARE(entries("/proc/self/fd"), files);
-    QTRY_COMPARE(entries("/proc/self/task"), threads);
+    QTRY_COMPARE(ProcessResources::openHandles(), files);
+    QTRY_COMPARE(ProcessResources::threads(), threads);
     QCOMPARE(m_engine->livingSessions(), 0);
 }
 

@@ -1,0 +1,125 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The EnvCheck authors
+# SPDX-License-Identifier: MIT
+# Packs the zip and unpacks it into a folder whose path has blanks and Chinese letters. From there,
+# with nothing else on the path, the program walks through the check, and again with decoys of every
+# DLL it could ask for in the working folder and on the path; an example is built against it.
+# Usage: windows_package.sh SOURCE_FOLDER BUILD_FOLDER
+set -euo pipefail
+source=$1
+build=$2
+. "$source/tools/windows/environment.sh"
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+export LC_ALL=C.UTF-8
+unset WINEPATH QT_PLUGIN_PATH QT_QPA_PLATFORM
+
+fail() { printf '%s\n' "$*"; exit 1; }
+
+(cd "$build" && cpack -G ZIP -B package >"$folder/cpack.log") || { cat "$folder/cpack.log"; exit 1; }
+zip=$(echo "$build"/package/*.zip)
+place="$folder/在线课堂 (class room)/第 1 间"
+mkdir -p "$place"
+unzip -q "$zip" -d "$place"
+root=$(echo "$place"/*)
+bin=$root/bin
+echo "$(stat -c %s "$zip") bytes: $(basename "$zip"), with"
+(cd "$root" && find . -type f -printf '%P\n' | sort | tee "$folder/content")
+
+for wanted in bin/EnvCheck.dll lib/libEnvCheck.dll.a include/envcheck/agent/EnvCheckAgent.h \
+    lib/cmake/EnvCheck/EnvCheckConfig.cmake bin/envcheck.exe bin/Qt5Widgets.dll bin/Qt5Svg.dll \
+    bin/platforms/qwindows.dll bin/imageformats/qsvg.dll bin/qt.conf \
+    bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm; do
+    grep -qxF "$wanted" "$folder/content" || fail "Not in the zip: $wanted"
+done
+for wanted in "$source"/host/sounds/*.mp3 "$build"/bin/translations/*.qm; do
+    grep -q "/$(basename "$wanted")\$" "$folder/content" || fail "Not in the zip: $(basename "$wanted")"
+done
+
+# The DLLs that the files of the zip import, and those whose names stand in them otherwise.
+find "$root" -name '*.dll' -o -name '*.exe' >"$folder/files"
+imported=$(xargs -d '\n' -n 1 x86_64-w64-mingw32-objdump -p <"$folder/files" |
+    sed -n 's/^\tDLL Name: //p' | sort -uf)
+named=$(xargs -d '\n' sh -c 'strings -n 5 "$@"; strings -n 5 -e l "$@"' - <"$folder/files" |
+    grep -iE '^[a-z0-9_.-]+\.dll$' | sort -uf)
+names=$(printf '%s\n%s\n' "$imported" "$named" | sort -uf)
+
+# A check of real facts, on devices that all work, so that the walk passes.
+cat >"$place/课堂.json" <<'JSON'
+{ "base": "all-well", "machine": { "real": true } }
+JSON
+
+# walk NAME: a whole check from the program's folder, with a report; its exit code.
+walk()
+{
+    run_in_wine "$bin/envcheck.exe" --platform scripted --language zh_CN \
+        --scenario "$(windows_path "$place/课堂.json")" --tour "$(windows_path "$place/$1")" \
+        --report "$(windows_path "$place/$1.json")" >"$folder/$1.log" 2>&1
+}
+
+expect_walk()
+{
+    local status=0
+    walk "$1" || status=$?
+    [ $status -eq 0 ] || { cat "$folder/$1.log"; fail "The walk \"$1\" ended with exit code $status"; }
+    [ "$(find "$place/$1" -name '*.png' -size +0 | wc -l)" -ge 5 ] || fail "The walk \"$1\" has too few pictures"
+}
+
+cd "$folder"
+expect_walk 检测
+python3 - "$place/检测.json" <<'PY'
+import json, sys
+report = json.load(open(sys.argv[1], encoding="utf-8"))
+facts = json.dumps(report["system"], ensure_ascii=False)
+assert report["outcome"] == "passed", report["outcome"]
+assert "Windows" in facts and "x86_64" in facts, facts
+print("The machine as the report has it:", facts)
+PY
+
+# A user who is put out by the server: the program's other end.
+status=0
+run_in_wine "$bin/envcheck.exe" --platform scripted --scenario kicked-out \
+    --report "$(windows_path "$place/out.json")" || status=$?
+[ $status -eq 3 ] || fail "A user who is put out: exit code $status"
+
+# Decoys. That one is found at all is shown by a program that doesn't search safely.
+decoys=$folder/decoys
+mkdir -p "$decoys/cwd/platforms" "$decoys/path" "$decoys/alone"
+for name in $names; do
+    cp "$build/bin/decoy.dll" "$decoys/cwd/$name"
+    cp "$build/bin/decoy.dll" "$decoys/path/$name"
+done
+cp "$build/bin/decoy.dll" "$decoys/cwd/platforms/qwindows.dll"
+cp "$build/bin/decoy.dll" "$decoys/alone/envcheck_decoy.dll"
+loaded() { find "$decoys" -name '*.loaded'; }
+expect_decoy() # 0 where the decoy is to be loaded, 1 where not; then the options
+{
+    local status=0 expected=$1
+    shift
+    rm -f "$decoys"/alone/*.loaded
+    "$source/tools/windows/run-program" "$build/bin/load_decoy.exe" envcheck_decoy.dll "$@" || status=$?
+    [ $status -eq "$expected" ] || fail "load_decoy $*: exit code $status"
+    [ "$(loaded | wc -l)" -eq $((1 - expected)) ] || fail "load_decoy $*: $(loaded | wc -l) decoys left a mark"
+}
+cd "$decoys/alone"
+expect_decoy 0
+expect_decoy 1 --safely
+cd "$folder"
+WINEPATH=$(windows_path "$decoys/alone") expect_decoy 0
+WINEPATH=$(windows_path "$decoys/alone") expect_decoy 1 --safely
+
+cd "$decoys/cwd"
+WINEPATH=$(windows_path "$decoys/path") expect_walk decoys
+[ -z "$(loaded)" ] || { loaded; fail "Decoys were loaded"; }
+echo "$(wc -w <<<"$names") names of DLLs, $(wc -w <<<"$imported") of them imported: no decoy was loaded"
+cd "$folder"
+
+# What a developer of a client gets.
+cmake -G Ninja -S "$source/docs/example" -B "$folder/example" \
+    -DEnvCheck_DIR="$root/lib/cmake/EnvCheck" \
+    -DClassroomEngine_DIR="$root/lib/cmake/ClassroomEngine" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache \
+    -DCMAKE_TOOLCHAIN_FILE="$source/tools/windows/toolchain.cmake" >/dev/null
+cmake --build "$folder/example"
+cp "$folder"/example/example.exe "$bin"
+run_in_wine "$bin/example.exe" --walk || fail "The example ended with exit code $?"
+echo "The example was built against the zip, and walks through the check"
