@@ -14,7 +14,8 @@ test_packages=(
     python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
 )
-benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good)
+benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good
+    libgstreamer-plugins-base1.0-dev gstreamer1.0-pipewire gstreamer1.0-x)
 ci_packages=(clang-format clang-tidy)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(

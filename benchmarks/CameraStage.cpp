@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "benchmarks/CameraStage.h"
+
+#include <QCoreApplication>
+#include <QTest>
+#include <cstdio>
+#include <ctime>
+
+namespace {
+
+constexpr int TimeoutMs = 10000;
+const char PicturePrefix[] = "picture ";
+const char BusyPrefix[] = "busy ";
+
+} // namespace
+
+std::map<int, qint64> picturesIn(const QByteArray& output)
+{
+    std::map<int, qint64> result;
+    const QList<QByteArray> lines = output.split('\n');
+    for (const QByteArray& line : lines) {
+        const QList<QByteArray> words = line.split(' ');
+        if (line.startsWith(PicturePrefix) && words.size() == 3) {
+            result.emplace(words[1].toInt(), words[2].toLongLong()); // the first time counts
+        }
+    }
+    return result;
+}
+
+Viewer::Viewer(const QString& kind, const QString& node)
+{
+    start(QCoreApplication::applicationDirPath() + QStringLiteral("/camera_viewer"), {kind, node});
+    waitForStarted();
+}
+
+Viewer::~Viewer() = default;
+
+bool Viewer::waitUntilReady()
+{
+    return waitFor("ready\n");
+}
+
+qint64 Viewer::go()
+{
+    takeOutput();
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    write("go\n");
+    waitForBytesWritten();
+    return now.tv_sec * 1000000000LL + now.tv_nsec;
+}
+
+bool Viewer::waitForPicture()
+{
+    return waitFor(PicturePrefix);
+}
+
+double Viewer::stop()
+{
+    write("stop\n");
+    waitForBytesWritten();
+    if (!waitFor(BusyPrefix)) {
+        return qQNaN();
+    }
+    const int at = m_output.lastIndexOf(BusyPrefix);
+    const int end = m_output.indexOf('\n', at);
+    return m_output.mid(at, end - at).split(' ').value(1).toDouble();
+}
+
+QByteArray Viewer::takeOutput()
+{
+    m_output += readAll();
+    return std::exchange(m_output, {});
+}
+
+double Viewer::processorMs() const
+{
+    clockid_t clock{};
+    timespec used{};
+    if (clock_getcpuclockid(static_cast<pid_t>(processId()), &clock) != 0 ||
+        clock_gettime(clock, &used) != 0) {
+        return qQNaN();
+    }
+    return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) * 1e-6;
+}
+
+bool Viewer::waitFor(const QByteArray& text)
+{
+    const bool isThere = QTest::qWaitFor(
+        [this, &text] {
+            m_output += readAll();
+            const int at = m_output.lastIndexOf(text);
+            return at >= 0 && m_output.indexOf('\n', at) >= 0;
+        },
+        TimeoutMs);
+    if (!isThere) {
+        std::fprintf(stderr, "The viewer doesn't say '%s': %s\n", text.constData(),
+                     m_output.constData());
+    }
+    return isThere;
+}
+
+CameraStage::CameraStage() = default;
+
+CameraStage::~CameraStage() = default;
+
+bool CameraStage::start()
+{
+    if (!m_server.start()) {
+        std::fprintf(stderr, "%s\n", qPrintable(m_server.problem()));
+        return false;
+    }
+    m_display.setProcessChannelMode(QProcess::SeparateChannels);
+    m_display.start(QStringLiteral("Xvfb"),
+                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                     QStringLiteral("0"), QStringLiteral("1280x900x24"),
+                     QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                     QStringLiteral("-noreset")});
+    QByteArray number;
+    if (!QTest::qWaitFor(
+            [&] {
+                number += m_display.readAllStandardOutput();
+                return number.endsWith('\n');
+            },
+            TimeoutMs)) {
+        std::fputs("No virtual display came up\n", stderr);
+        return false;
+    }
+    qputenv("DISPLAY", ":" + number.trimmed());
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    m_camera = std::make_unique<TestSupport::CameraProcess>(
+        node(), QStringLiteral("Camera"),
+        QStringList{QStringLiteral("--width"), QStringLiteral("1280"), QStringLiteral("--height"),
+                    QStringLiteral("720"), QStringLiteral("--rate"), QString::number(Rate),
+                    QStringLiteral("--numbered"), QStringLiteral("--told")});
+    const bool isReady =
+        QTest::qWaitFor([this] { return m_camera->output().contains("paused"); }, TimeoutMs);
+    if (!isReady) {
+        std::fputs("No virtual camera came up\n", stderr);
+    }
+    return isReady;
+}
+
+QString CameraStage::node() const
+{
+    return QStringLiteral("bench_camera");
+}

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tests/support/CameraProcess.h"
+#include "tests/support/PipeWireServer.h"
+
+#include <map>
+#include <memory>
+#include <vector>
+
+// The time of each picture, by its number, from what a camera or a viewer says.
+std::map<int, qint64> picturesIn(const QByteArray& output);
+
+// A running camera_viewer.
+class Viewer final : public TestSupport::TestProcess
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(Viewer)
+
+public:
+    Viewer(const QString& kind, const QString& node);
+    ~Viewer() override;
+
+    bool waitUntilReady();
+    qint64 go(); // the time of the click
+    bool waitForPicture();
+    double stop(); // how long one handler kept the GUI thread at most
+    QByteArray takeOutput();
+    double processorMs() const; // used so far, by all threads
+
+private:
+    bool waitFor(const QByteArray& text);
+
+    QByteArray m_output;
+};
+
+// A server, a display and a camera with numbered pictures of 1280 x 720, 30 a second.
+class CameraStage
+{
+public:
+    static constexpr int Rate = 30;
+
+    CameraStage();
+    ~CameraStage();
+    CameraStage(const CameraStage&) = delete;
+    CameraStage& operator=(const CameraStage&) = delete;
+
+    bool start(); // says why not
+    TestSupport::CameraProcess& camera() { return *m_camera; }
+    QString node() const;
+
+private:
+    TestSupport::PipeWireServer m_server;
+    TestSupport::TestProcess m_display;
+    std::unique_ptr<TestSupport::CameraProcess> m_camera;
+};

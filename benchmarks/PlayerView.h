@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "benchmarks/View.h"
+
+#include <QMediaPlayer>
+#include <QVideoWidget>
+
+// Qt's player with Qt's video widget, fed by the same source.
+class PlayerView final : public View
+{
+public:
+    explicit PlayerView(const QString& node);
+
+    void go() override;
+    void stop() override;
+
+private:
+    QUrl m_source;
+    QVideoWidget m_widget;
+    QMediaPlayer m_player;
+};

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QSize>
+
+// A way to show a camera.
+class View
+{
+public:
+    static constexpr QSize Size{306, 172};
+
+    virtual ~View() = default;
+
+    virtual void go() = 0;
+    virtual void stop() = 0;
+
+    static void tellReady();
+    // The number stands in the picture's upper edge, a block for each bit.
+    static void tellPainted(const QImage& picture, bool isMirrored);
+    static void tellArrived(); // one that isn't painted
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "benchmarks/BenchmarkOptions.h"
+#include "benchmarks/CameraStage.h"
+#include "benchmarks/Statistics.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+
+// From the click to the first painted picture, against a bare GStreamer pipeline from the click to
+// the first picture in its appsink, in turn on the same camera.
+
+namespace {
+
+constexpr int UsualRounds = 21;
+constexpr double MaxRatio = 1.25;
+constexpr double FrameMs = 1000.0 / CameraStage::Rate;
+constexpr double MaxBusyMs = 5.0;
+
+struct Contestant
+{
+    const char* kind;
+    std::vector<double> delays;
+    std::vector<double> busy;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    const BenchmarkOptions options(application, UsualRounds);
+    CameraStage stage;
+    if (!stage.start()) {
+        return 2;
+    }
+    std::vector<Contestant> contestants{{"own", {}, {}}, {"appsink", {}, {}}};
+    std::vector<std::unique_ptr<Viewer>> viewers;
+    for (const Contestant& contestant : contestants) {
+        viewers.push_back(
+            std::make_unique<Viewer>(QString::fromLatin1(contestant.kind), stage.node()));
+        if (!viewers.back()->waitUntilReady()) {
+            return 2;
+        }
+    }
+    for (int round = 0; round < options.rounds(); ++round) {
+        for (std::size_t i = 0; i < contestants.size(); ++i) {
+            Viewer& viewer = *viewers[i];
+            const qint64 clicked = viewer.go();
+            if (!viewer.waitForPicture()) {
+                return 2;
+            }
+            const std::map<int, qint64> pictures = picturesIn(viewer.takeOutput());
+            const double busyMs = viewer.stop();
+            qint64 first = pictures.begin()->second;
+            for (const auto& picture : pictures) {
+                first = std::min(first, picture.second);
+            }
+            if (round > 0) { // the first one loads libraries
+                contestants[i].delays.push_back(static_cast<double>(first - clicked) * 1e-6);
+                contestants[i].busy.push_back(busyMs);
+            }
+        }
+    }
+    std::printf("| click to first picture, ms | median |    p90 |    max | one handler at most |\n"
+                "|---|---|---|---|---|\n");
+    for (const Contestant& contestant : contestants) {
+        const Statistics delays(contestant.delays);
+        std::printf("| %-26s | %6.1f | %6.1f | %6.1f | %19.2f |\n", contestant.kind,
+                    delays.median(), delays.p90(), delays.maximum(),
+                    Statistics(contestant.busy).maximum());
+    }
+    const double own = Statistics(contestants[0].delays).median();
+    const double peer = Statistics(contestants[1].delays).median();
+    const double busy = Statistics(contestants[0].busy).median();
+    std::printf("Ratio %.2f; %.1f ms of %.1f ms allowed; GUI thread kept %.2f ms.\n", own / peer,
+                own, MaxRatio * peer + FrameMs, busy);
+    return options.verdict(own <= MaxRatio * peer + FrameMs && busy <= MaxBusyMs);
+}
