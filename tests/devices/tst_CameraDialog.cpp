@@ -9,12 +9,14 @@
 #include "tests/support/MachineGap.h"
 #include "tests/support/PipeWireServer.h"
 #include "tests/support/QuestionAnswerer.h"
+#include "widgets/LumToolTip.h"
 
 #include <LumWidgets/LumCustomNormalDialog.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
+#include <QPainter>
 #include <QPushButton>
 #include <QTranslator>
 #include <QtTest>
@@ -30,6 +32,9 @@ constexpr int LongMs = 8000;
 constexpr int FreezeMs = 3000;
 constexpr qint64 MaxGapMs = 50;
 constexpr qint64 MaxLeaveMs = 100;
+constexpr int StateCount = 5;
+constexpr int StateWidth = 410;
+constexpr int StateGap = 8;
 const QRgb Red = qRgb(0xc8, 0x28, 0x28);
 const QRgb Green = qRgb(0x28, 0xa0, 0x28);
 const QRgb Background = qRgb(242, 242, 242);
@@ -44,6 +49,17 @@ bool isNear(QRgb actual, QRgb expected)
            qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
 }
 
+QString translation(const QString& language)
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/translations/envcheck_") +
+           language;
+}
+
+QString screenshots()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots");
+}
+
 } // namespace
 
 // The real dialog on the real engine, with virtual cameras. Its pictures are kept in the folder
@@ -54,11 +70,13 @@ class tst_CameraDialog : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
     void init();
     void cleanup();
 
     void tellsTwoCamerasApart();
     void followsPlugsWithThePopupOpen();
+    void showsEveryDeviceState_data();
     void showsEveryDeviceState();
     void leavesAHungCameraAtOnce();
     void neverBlocksWhileServerIsFrozen_data();
@@ -77,19 +95,23 @@ private:
     void chooseInPopup(const QString& text) const;
     bool previewShows(QRgb colour) const;
     QStringList entries() const;
+    const QWidget* balloon() const; // null while none is visible
     void keepPicture(const char* name) const;
+    void keepState();
+    void keepSheet() const;
 
     QTranslator m_translator;
     std::unique_ptr<PipeWireServer> m_server;
     std::unique_ptr<QTemporaryDir> m_settings;
     QPointer<LumCustomNormalDialog> m_dialog;
+    std::vector<QImage> m_states; // a row for each language
 };
 
 void tst_CameraDialog::initTestCase()
 {
-    QVERIFY(m_translator.load(QStringLiteral(ENVCHECK_BINARY_DIR "/bin/translations/envcheck_en")));
+    QVERIFY(m_translator.load(translation(QStringLiteral("en"))));
     QCoreApplication::installTranslator(&m_translator);
-    QVERIFY(QDir().mkpath(QStringLiteral(ENVCHECK_BINARY_DIR "/screenshots")));
+    QVERIFY(QDir().mkpath(screenshots()));
 }
 
 void tst_CameraDialog::init()
@@ -101,6 +123,11 @@ void tst_CameraDialog::init()
     config.settingsFolder = m_settings->path();
     config.cacheFolder = m_settings->path();
     EngineRegistry::install(std::make_unique<DeviceEngine>(config));
+}
+
+void tst_CameraDialog::cleanupTestCase()
+{
+    keepSheet();
 }
 
 void tst_CameraDialog::cleanup()
@@ -162,31 +189,53 @@ void tst_CameraDialog::followsPlugsWithThePopupOpen()
     });
 }
 
+void tst_CameraDialog::showsEveryDeviceState_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << QStringLiteral("en");
+    QTest::newRow("Chinese") << QStringLiteral("zh_CN");
+}
+
 void tst_CameraDialog::showsEveryDeviceState()
 {
+    QFETCH(QString, language);
+    QTranslator translator;
+    QVERIFY(translator.load(translation(language)));
+    QCoreApplication::installTranslator(&translator);
     std::unique_ptr<CameraProcess> camera;
     runDialog([this, &camera] {
         openCameraPage();
         QCOMPARE(entries(), QStringList(qtTrId("ID_Engine_NoCamera")));
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
-        keepPicture("camera-none");
+        QVERIFY(balloon() == nullptr);
+        keepState();
 
         camera = plug(NameA, QStringLiteral("Front camera"), {QStringLiteral("--stalled")});
         QTRY_COMPARE(entries().size(), 2);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isVisible());
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isEnabled());
-        keepPicture("camera-no-picture");
+        keepState();
 
         camera->command("resume");
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isEnabled());
-        keepPicture("camera-picture");
+        keepState();
 
         chooseInPopup(qtTrId("ID_Engine_NoCamera"));
         QTRY_VERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QTRY_VERIFY(previewShows(Background));
-        keepPicture("camera-off");
+        QVERIFY(balloon() != nullptr);
+        keepState();
+
+        chooseInPopup(QStringLiteral("Front camera"));
+        QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
+        camera->kill();
+        QTRY_COMPARE(child<QComboBox>("cb_vd_name")->currentIndex(), -1);
+        QTRY_VERIFY(previewShows(Background));
+        QVERIFY(balloon() == nullptr);
+        keepState();
     });
+    QVERIFY(balloon() == nullptr);
 }
 
 void tst_CameraDialog::leavesAHungCameraAtOnce()
@@ -372,8 +421,49 @@ QStringList tst_CameraDialog::entries() const
 
 void tst_CameraDialog::keepPicture(const char* name) const
 {
-    QVERIFY(m_dialog->grab().save(
-        QStringLiteral(ENVCHECK_BINARY_DIR "/screenshots/%1.png").arg(QLatin1String(name))));
+    QVERIFY(m_dialog->grab().save(screenshots() + QLatin1Char('/') + QLatin1String(name) +
+                                  QStringLiteral(".png")));
+}
+
+const QWidget* tst_CameraDialog::balloon() const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto it = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget* window) {
+        return window->isVisible() && qobject_cast<const LumToolTip*>(window) != nullptr;
+    });
+    return it == windows.cend() ? nullptr : *it;
+}
+
+void tst_CameraDialog::keepState()
+{
+    QPixmap picture = m_dialog->grab();
+    if (const QWidget* tip = balloon()) {
+        QPainter(&picture).drawPixmap(tip->pos() - m_dialog->pos(),
+                                      const_cast<QWidget*>(tip)->grab());
+    }
+    m_states.push_back(picture.toImage().scaledToWidth(StateWidth, Qt::SmoothTransformation));
+}
+
+// All states in one picture.
+void tst_CameraDialog::keepSheet() const
+{
+    if (m_states.empty()) {
+        return; // only other cases were asked for
+    }
+    const QSize step = m_states.front().size() + QSize(StateGap, StateGap);
+    const int rows = static_cast<int>(m_states.size()) / StateCount;
+    QCOMPARE(static_cast<int>(m_states.size()), rows * StateCount);
+    QImage sheet(StateCount * step.width() + StateGap, rows * step.height() + StateGap,
+                 QImage::Format_RGB32);
+    sheet.fill(Qt::gray);
+    QPainter painter(&sheet);
+    for (int i = 0; i < rows * StateCount; ++i) {
+        painter.drawImage(StateGap + i % StateCount * step.width(),
+                          StateGap + i / StateCount * step.height(),
+                          m_states[static_cast<std::size_t>(i)]);
+    }
+    painter.end();
+    QVERIFY(sheet.save(screenshots() + QStringLiteral("/camera-states.png")));
 }
 
 QTEST_MAIN(tst_CameraDialog)

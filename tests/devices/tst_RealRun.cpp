@@ -123,7 +123,7 @@ void tst_RealRun::cleanupTestCase()
 {
     QString folder = qEnvironmentVariable("ENVCHECK_PICTURES");
     if (folder.isEmpty()) {
-        folder = QStringLiteral(ENVCHECK_BINARY_DIR "/screenshots");
+        folder = QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots");
     }
     QVERIFY(QDir().mkpath(folder));
     QVERIFY(m_board.save(folder + QStringLiteral("/real-run.png")));
