@@ -19,7 +19,7 @@ benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-
 ci_packages=(clang-format clang-tidy)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(
-    g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 unzip zip make dpkg-dev
+    g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 fonts-wine unzip make dpkg-dev
 )
 
 # install_packages NAME...: nothing where all are there; as root or through sudo; without either the
