@@ -342,10 +342,12 @@ QString Options::helpText(Command command)
         }
         return parser.helpText();
     }
+    QString syntax = QStringLiteral("[devices|network|serve|report]");
     for (const CommandName& other : CommandNames) {
         if (other.command != Command::Check) {
             parser.addPositionalArgument(QLatin1String(other.name),
-                                         QLatin1String(other.description), QString());
+                                         QLatin1String(other.description), syntax);
+            syntax = QStringLiteral(" "); // once is enough
         }
     }
     return parser.helpText() +

@@ -14,6 +14,7 @@
 #include <QFont>
 #include <QIcon>
 #include <QLoggingCategory>
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -90,5 +91,10 @@ ExitCode Program::run(int argc, char* argv[])
         application = std::make_unique<QCoreApplication>(shownCount, argv);
     }
     const TerminationSignals signals;
-    return runCommand(options);
+    const ExitCode code = runCommand(options);
+    if (std::ferror(stdout) != 0) {
+        Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
+        return ExitCode::CannotWrite;
+    }
+    return code;
 }

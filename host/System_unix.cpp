@@ -2,10 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "host/System.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+// A standard stream that is closed would lend its number to the next file, which then gets what is
+// printed.
 void System::prepareProcess()
 {
+    int descriptor = STDIN_FILENO;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+        descriptor = open("/dev/null", O_RDWR);
+    }
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
 }
 
 QStringList System::arguments(int argc, char* argv[])

@@ -75,9 +75,12 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
     QJsonParseError parsing = {};
     const QJsonDocument document = QJsonDocument::fromJson(content, &parsing);
     if (content.size() > MaxBytes || !document.isObject()) {
-        *error = QStringLiteral("%1: it isn't a report in JSON (%2)")
-                     .arg(path, content.size() > MaxBytes ? QStringLiteral("it is too large")
-                                                          : parsing.errorString());
+        const QString why = content.size() > MaxBytes ? QStringLiteral("it is too large")
+                            : document.isNull()       ? parsing.errorString()
+                                                      : QStringLiteral("it is no object");
+        *error = QStringLiteral("%1: it isn't a report in JSON (%2); name one that a run has "
+                                "written")
+                     .arg(path, why);
         return std::nullopt;
     }
     QString problem;

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void checkEndedBySignal();
     void checkPutOut();
     void resultsAndReportGoWhereAsked();
+    void outputNowhere();
     void unwritablePlaces_data();
     void unwritablePlaces();
     void diskFull();
@@ -323,6 +324,26 @@ void tst_Program::resultsAndReportGoWhereAsked()
     QCOMPARE(report.value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
     QCOMPARE(report.value(QStringLiteral("scenario")).toString(), QStringLiteral("all-well"));
     QVERIFY(!QFileInfo::exists(dataFolder() + QStringLiteral("/reports/r.json")));
+}
+
+void tst_Program::outputNowhere()
+{
+    const std::unique_ptr<QProcess> full =
+        started(words("--help"), QStringLiteral("exec \"$0\" \"$@\" >/dev/full"));
+    const Run result = finished(*full);
+    QCOMPARE(result.code, 73);
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+    QVERIFY2(result.error.contains(QStringLiteral("output")), qPrintable(result.error));
+
+    // A closed output doesn't end up in the files that are written.
+    const QString report = file("r.json");
+    const std::unique_ptr<QProcess> closed =
+        started(words("--scenario") + QStringList{quickEnd(), QStringLiteral("--report"), report},
+                QStringLiteral("exec \"$0\" \"$@\" >&- 2>&-"));
+    QCOMPARE(finished(*closed).code, 3);
+    QString error;
+    QVERIFY2(Report::fromJson(jsonOf(report), &error), qPrintable(error));
+    QCOMPARE(linesOf(dataFolder() + QStringLiteral("/runs.jsonl")).size(), 1);
 }
 
 void tst_Program::unwritablePlaces_data()
