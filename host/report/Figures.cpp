@@ -37,6 +37,8 @@ const std::vector<Figure> SpeakerFigures = {
     {"mutedBefore", "ID_Host_Figure_MutedBefore", Unit::None},
     {"mutedAfter", "ID_Host_Figure_MutedAfter", Unit::None},
     {"movedByUser", "ID_Host_Figure_MovedByUser", Unit::None},
+    {"defaultBefore", "ID_Host_Figure_DefaultBefore", Unit::None},
+    {"defaultAfter", "ID_Host_Figure_DefaultAfter", Unit::None},
     {"soundPlayed", "ID_Host_Figure_SoundPlayed", Unit::None},
 };
 
@@ -54,6 +56,8 @@ const std::vector<Figure> MicrophoneFigures = {
     {"mutedBefore", "ID_Host_Figure_MutedBefore", Unit::None},
     {"mutedAfter", "ID_Host_Figure_MutedAfter", Unit::None},
     {"movedByUser", "ID_Host_Figure_MovedByUser", Unit::None},
+    {"defaultBefore", "ID_Host_Figure_DefaultBefore", Unit::None},
+    {"defaultAfter", "ID_Host_Figure_DefaultAfter", Unit::None},
 };
 
 QString number(double value, int decimals)

@@ -263,6 +263,14 @@
         <source></source>
         <translation>الصوت المقصوص</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>الجهاز الافتراضي بعد الفحص</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>الجهاز الافتراضي قبل الفحص</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>زمن الذهاب والإياب (الوسيط)</translation>

@@ -263,6 +263,14 @@
         <source></source>
         <translation>Übersteuerter Ton</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Standardgerät nachher</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Standardgerät vorher</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Umlaufzeit (Median)</translation>

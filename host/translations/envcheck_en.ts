@@ -263,6 +263,14 @@
         <source></source>
         <translation>Clipped sound</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Default device after</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Default device before</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Round trip (median)</translation>

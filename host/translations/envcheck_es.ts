@@ -263,6 +263,14 @@
         <source></source>
         <translation>Sonido saturado</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Dispositivo predeterminado después</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Dispositivo predeterminado antes</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Ida y vuelta (mediana)</translation>

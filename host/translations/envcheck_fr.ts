@@ -263,6 +263,14 @@
         <source></source>
         <translation>Son saturé</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Périphérique par défaut après</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Périphérique par défaut avant</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Aller-retour (médiane)</translation>

@@ -263,6 +263,14 @@
         <source></source>
         <translation>音割れ</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>終了時の既定デバイス</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>開始時の既定デバイス</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>往復時間（中央値）</translation>

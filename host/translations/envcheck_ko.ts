@@ -263,6 +263,14 @@
         <source></source>
         <translation>잘린 소리</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>이후 기본 장치</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>이전 기본 장치</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>왕복 시간(중앙값)</translation>

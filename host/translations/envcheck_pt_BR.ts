@@ -263,6 +263,14 @@
         <source></source>
         <translation>Som saturado</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Dispositivo padrão depois</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Dispositivo padrão antes</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Ida e volta (mediana)</translation>

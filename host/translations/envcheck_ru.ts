@@ -263,6 +263,14 @@
         <source></source>
         <translation>Перегруженный звук</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Устройство по умолчанию после проверки</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Устройство по умолчанию до проверки</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Время оборота (медиана)</translation>

@@ -263,6 +263,14 @@
         <source></source>
         <translation>Âm thanh bị cắt đỉnh</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>Thiết bị mặc định sau</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>Thiết bị mặc định trước</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>Thời gian khứ hồi (trung vị)</translation>

@@ -263,6 +263,14 @@
         <source></source>
         <translation>削波的声音</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>检测后的默认设备</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>检测前的默认设备</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>往返时间（中位数）</translation>

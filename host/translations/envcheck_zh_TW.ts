@@ -263,6 +263,14 @@
         <source></source>
         <translation>削波的聲音</translation>
     </message>
+    <message id="ID_Host_Figure_DefaultAfter">
+        <source></source>
+        <translation>檢測後的預設裝置</translation>
+    </message>
+    <message id="ID_Host_Figure_DefaultBefore">
+        <source></source>
+        <translation>檢測前的預設裝置</translation>
+    </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
         <translation>往返時間（中位數）</translation>

@@ -280,11 +280,13 @@ Scenario::Action ScenarioReader::readMicrophone(JsonFields& fields)
     const bool isAdjustable = fields.flag("adjustable", true);
     const auto volume =
         static_cast<int>(fields.number("volume", 0, ScriptedMicrophones::MaxVolume, MaxPercent));
+    const bool isMuted = fields.flag("muted", false);
     const QString id = fields.text("id", MaxIdLength);
-    return [id, levels, isAdjustable, volume](ScriptedEngine& engine) {
+    return [id, levels, isAdjustable, volume, isMuted](ScriptedEngine& engine) {
         engine.microphones().setLevelCurve(id, levels);
         engine.microphones().setAdjustable(id, isAdjustable);
         engine.microphones().setVolume(id, volume);
+        engine.microphones().setMuted(id, isMuted);
     };
 }
 
@@ -292,9 +294,12 @@ Scenario::Action ScenarioReader::readSpeaker(JsonFields& fields)
 {
     const auto volume = static_cast<int>(
         fields.number("volume", 0, ScriptedSpeakers::MaxVolume, ScriptedSpeakers::DefaultVolume));
+    const bool isMuted = fields.flag("muted", false);
     const QString id = fields.text("id", MaxIdLength);
-    return
-        [id, volume](ScriptedEngine& engine) { engine.scriptedSpeakers().setVolume(id, volume); };
+    return [id, volume, isMuted](ScriptedEngine& engine) {
+        engine.scriptedSpeakers().setVolume(id, volume);
+        engine.scriptedSpeakers().setMuted(id, isMuted);
+    };
 }
 
 Scenario::Action ScenarioReader::readEvent(JsonFields& fields)

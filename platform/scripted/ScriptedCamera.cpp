@@ -15,6 +15,7 @@ namespace {
 constexpr int MsPerSecond = 1000;
 constexpr int RecentFramePeriods = 5;
 constexpr int RecentMs = 500;
+const QSize SampleSize(160, 160); // enough to measure the brightness
 
 } // namespace
 
@@ -66,6 +67,7 @@ void ScriptedCamera::start()
 {
     m_session.call("start");
     m_isStarted = true;
+    m_startClock.start();
     runFrames();
     takeWorkState();
 }
@@ -108,6 +110,7 @@ QImage ScriptedCamera::latestPicture() const
 void ScriptedCamera::onCurrentChanged()
 {
     m_watchdog.stop();
+    m_startClock.start();
     m_frame = 0;
     m_pictures = 0;
     m_blackPictures = 0;
@@ -121,6 +124,9 @@ void ScriptedCamera::onFrame()
 {
     const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
     const bool isFrozen = m_frame > 0 && feed.pictures == ScriptedCameras::Pictures::Frozen;
+    if (m_pictures == 0) {
+        m_firstPictureMs = m_startClock.elapsed();
+    }
     ++m_pictures;
     m_blackPictures += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
     m_frozenPictures += isFrozen ? 1 : 0;
@@ -184,6 +190,11 @@ void ScriptedCamera::recordMeasurement()
         figures.insert(QStringLiteral("rate"), feed.framesPerSecond);
         figures.insert(QStringLiteral("width"), feed.size.width());
         figures.insert(QStringLiteral("height"), feed.size.height());
+        figures.insert(QStringLiteral("firstPictureMs"), m_firstPictureMs);
+        const QImage sample = TestPattern::picture(TestPattern::fitted(feed.size, SampleSize),
+                                                   m_devices.currentName(), m_frame);
+        figures.insert(QStringLiteral("brightness"),
+                       TestPattern::brightness(sample) * (1 - m_blackPictures / pictures));
         figures.insert(QStringLiteral("blackShare"), m_blackPictures / pictures);
         figures.insert(QStringLiteral("frozenShare"), m_frozenPictures / pictures);
     }

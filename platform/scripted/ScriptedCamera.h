@@ -5,6 +5,7 @@
 #include "platform/backend/CameraBackend.h"
 #include "platform/scripted/ScriptedSession.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 namespace Platform {
@@ -44,8 +45,10 @@ private:
     QTimer m_watchdog; // runs as long as the last picture is recent
     QSize m_outputSize;
     bool m_isStarted = false;
+    QElapsedTimer m_startClock;
+    qint64 m_firstPictureMs = 0; // of the current camera, like the next three
     int m_frame = 0;
-    int m_pictures = 0; // of the current camera, like the next two
+    int m_pictures = 0;
     int m_blackPictures = 0;
     int m_frozenPictures = 0;
     mutable QImage m_picture; // painted when it is asked for

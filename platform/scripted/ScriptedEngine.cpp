@@ -55,9 +55,14 @@ std::unique_ptr<PlayerBackend> ScriptedEngine::createPlayer(const QString& path,
 {
     if (m_speakers.playerFails()) {
         m_log.add(QStringLiteral("player.refuse(%1)").arg(QFileInfo(path).fileName()));
+        m_reports.document().recordMeasurement(
+            QStringLiteral("speaker"),
+            {{QStringLiteral("soundPlayed"),
+              QJsonObject{{QStringLiteral("failed"), toString(DeviceState::Failed)}}}});
         return nullptr;
     }
-    return std::make_unique<ScriptedPlayer>(m_speakers, m_log, path, listener);
+    return std::make_unique<ScriptedPlayer>(m_speakers, m_log, m_reports.document(), path,
+                                            listener);
 }
 
 std::unique_ptr<NetworkProbe> ScriptedEngine::createNetworkProbe(NetworkProbe::Listener& listener)

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int LevelPeriodMs = 33;
 constexpr double NoiseFloor = 0.02;
+constexpr double MsPerSecond = 1000;
 
 bool canHear(DeviceState state)
 {
@@ -29,6 +30,7 @@ ScriptedMicrophone::ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog
     connectModel();
     m_id = m_devices.currentId();
     m_volumeBefore = m_devices.volume();
+    m_isMutedBefore = m_devices.isMuted();
     takeWorkState();
 }
 
@@ -126,6 +128,7 @@ void ScriptedMicrophone::onCurrentChanged()
     if (m_id != m_devices.currentId()) {
         m_id = m_devices.currentId();
         m_volumeBefore = m_devices.volume();
+        m_isMutedBefore = m_devices.isMuted();
         m_isMovedByUser = false;
     }
     runLevels();
@@ -155,13 +158,21 @@ void ScriptedMicrophone::measure(double level)
 
 void ScriptedMicrophone::recordMeasurement()
 {
-    m_document.recordMeasurement(QStringLiteral("microphone"),
-                                 {{QStringLiteral("device"), m_devices.currentName()},
-                                  {QStringLiteral("state"), toString(currentState())},
-                                  {QStringLiteral("soundHeard"), hasHeard()},
-                                  {QStringLiteral("volumeBefore"), m_volumeBefore},
-                                  {QStringLiteral("volumeAfter"), m_devices.volume()},
-                                  {QStringLiteral("movedByUser"), m_isMovedByUser}});
+    QJsonObject figures{{QStringLiteral("state"), toString(currentState())}};
+    if (!m_id.isEmpty()) {
+        figures.insert(QStringLiteral("device"), m_devices.currentName());
+        figures.insert(QStringLiteral("volumeBefore"), m_volumeBefore);
+        figures.insert(QStringLiteral("volumeAfter"), m_devices.volume());
+        figures.insert(QStringLiteral("mutedBefore"), m_isMutedBefore);
+        figures.insert(QStringLiteral("mutedAfter"), m_devices.isMuted());
+        figures.insert(QStringLiteral("movedByUser"), m_isMovedByUser);
+    }
+    if (canHear(m_devices.currentState())) {
+        figures.insert(QStringLiteral("soundHeard"), hasHeard());
+        figures.insert(QStringLiteral("seconds"),
+                       static_cast<double>(m_openClock.elapsed()) / MsPerSecond);
+    }
+    m_document.recordMeasurement(QStringLiteral("microphone"), figures);
 }
 
 bool ScriptedMicrophone::hasHeard() const

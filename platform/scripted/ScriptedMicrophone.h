@@ -51,6 +51,7 @@ private:
     bool m_isOpen = false;
     QString m_id;
     int m_volumeBefore = 0; // of that microphone
+    bool m_isMutedBefore = false;
     bool m_isMovedByUser = false;
     bool m_hasHeard = false;
 };

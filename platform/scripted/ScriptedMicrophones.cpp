@@ -40,6 +40,14 @@ void ScriptedMicrophones::setVolume(const QString& id, int percent)
     }
 }
 
+void ScriptedMicrophones::setMuted(const QString& id, bool isMuted)
+{
+    m_inputs[id].isMuted = isMuted;
+    if (id == currentId()) {
+        Q_EMIT currentInfoChanged();
+    }
+}
+
 void ScriptedMicrophones::emitLevel(double level)
 {
     Q_EMIT levelEmitted(level);
@@ -63,7 +71,7 @@ bool ScriptedMicrophones::hasLevels() const
 double ScriptedMicrophones::levelAt(qint64 ms) const
 {
     const LevelCurve curve = current().curve;
-    if (curve.empty()) {
+    if (curve.empty() || isMuted()) {
         return 0;
     }
     const LevelPoint last = curve.back();
@@ -91,9 +99,15 @@ int ScriptedMicrophones::volume() const
     return current().volume;
 }
 
+bool ScriptedMicrophones::isMuted() const
+{
+    return current().isMuted;
+}
+
 void ScriptedMicrophones::setVolumeByUser(int percent)
 {
     Input& input = m_inputs[currentId()];
+    input.isMuted = false;
     input.volume = std::clamp(percent, 0, MaxVolume);
     Q_EMIT volumeSetByUser(input.volume);
 }

@@ -34,6 +34,7 @@ public:
     void setLevel(const QString& id, double level); // a constant one
     void setAdjustable(const QString& id, bool isAdjustable);
     void setVolume(const QString& id, int percent);
+    void setMuted(const QString& id, bool isMuted); // it hears nothing while it is
 
     // One level, whatever it is, as if the current microphone had measured it.
     void emitLevel(double level);
@@ -44,7 +45,8 @@ public:
     double levelAt(qint64 ms) const;
     bool isAdjustable() const;
     int volume() const;
-    void setVolumeByUser(int percent);
+    bool isMuted() const;
+    void setVolumeByUser(int percent); // ends a mute
 
 Q_SIGNALS:
     void currentLevelsChanged();
@@ -58,6 +60,7 @@ private:
         LevelCurve curve;
         bool isAdjustable = true;
         int volume = 100;
+        bool isMuted = false;
     };
 
     Input current() const { return m_inputs.value(currentId()); }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedPlayer.h"
 
+#include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedSpeakers.h"
 
 #include <QFileInfo>
@@ -29,13 +30,15 @@ int lengthOf(const ScriptedSpeakers& speakers, const QFileInfo& file)
 
 } // namespace
 
-ScriptedPlayer::ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, const QString& path,
-                               Listener& listener)
+ScriptedPlayer::ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, ResultDocument& document,
+                               const QString& path, Listener& listener)
     : m_speakers(speakers),
       m_listener(listener),
       m_session(log, QStringLiteral("player"), QFileInfo(path).fileName())
 {
     m_speakers.addPlayedFile(path);
+    document.recordMeasurement(QStringLiteral("speaker"), {{QStringLiteral("soundPlayed"),
+                                                            QFileInfo(path).completeBaseName()}});
     m_endTimer.setSingleShot(true);
     connect(&m_endTimer, &QTimer::timeout, this, &ScriptedPlayer::finish);
     connect(&m_speakers, &ScriptedSpeakers::playbackEnded, this, &ScriptedPlayer::finish,

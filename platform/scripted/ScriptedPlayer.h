@@ -10,6 +10,7 @@
 
 namespace Platform {
 
+class ResultDocument;
 class ScriptedSpeakers;
 
 // One sound that takes its time and makes no noise. It ends early when its speaker goes away, and
@@ -20,8 +21,8 @@ class ScriptedPlayer final : public QObject, public PlayerBackend
     Q_DISABLE_COPY(ScriptedPlayer)
 
 public:
-    ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, const QString& path,
-                   Listener& listener);
+    ScriptedPlayer(ScriptedSpeakers& speakers, CallLog& log, ResultDocument& document,
+                   const QString& path, Listener& listener);
     ~ScriptedPlayer() override;
 
 private:

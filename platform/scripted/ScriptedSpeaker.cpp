@@ -26,11 +26,15 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Resul
             &ScriptedSpeaker::onCurrentChanged);
     m_id = m_devices.currentId();
     m_volumeBefore = m_devices.volume();
+    m_isMutedBefore = m_devices.isMuted();
 }
 
 ScriptedSpeaker::~ScriptedSpeaker()
 {
     if (m_devices.currentId().isEmpty()) {
+        m_document.recordMeasurement(
+            QStringLiteral("speaker"),
+            {{QStringLiteral("state"), toString(m_devices.currentState())}});
         return;
     }
     m_document.recordMeasurement(QStringLiteral("speaker"),
@@ -38,6 +42,8 @@ ScriptedSpeaker::~ScriptedSpeaker()
                                   {QStringLiteral("state"), toString(m_devices.currentState())},
                                   {QStringLiteral("volumeBefore"), m_volumeBefore},
                                   {QStringLiteral("volumeAfter"), m_devices.volume()},
+                                  {QStringLiteral("mutedBefore"), m_isMutedBefore},
+                                  {QStringLiteral("mutedAfter"), m_devices.isMuted()},
                                   {QStringLiteral("movedByUser"), m_isMovedByUser}});
 }
 
@@ -60,6 +66,7 @@ void ScriptedSpeaker::onCurrentChanged(const QString& id)
     if (m_id != id) {
         m_id = id;
         m_volumeBefore = m_devices.volume();
+        m_isMutedBefore = m_devices.isMuted();
         m_isMovedByUser = false;
     }
 }

@@ -29,6 +29,7 @@ private:
 
     QString m_id;
     int m_volumeBefore = 0; // of that speaker
+    bool m_isMutedBefore = false;
     bool m_isMovedByUser = false;
 };
 

@@ -15,6 +15,15 @@ void ScriptedSpeakers::setVolume(const QString& id, int percent)
     m_volumes.insert(id, std::clamp(percent, 0, MaxVolume));
 }
 
+void ScriptedSpeakers::setMuted(const QString& id, bool isMuted)
+{
+    if (isMuted) {
+        m_muted.insert(id);
+    } else {
+        m_muted.remove(id);
+    }
+}
+
 void ScriptedSpeakers::moveVolumeFromOutside(int percent)
 {
     setVolume(currentId(), percent);
@@ -31,9 +40,15 @@ int ScriptedSpeakers::volume() const
     return m_volumes.value(currentId(), DefaultVolume);
 }
 
+bool ScriptedSpeakers::isMuted() const
+{
+    return m_muted.contains(currentId());
+}
+
 void ScriptedSpeakers::setVolumeByUser(int percent)
 {
     setVolume(currentId(), percent);
+    setMuted(currentId(), false);
 }
 
 int ScriptedSpeakers::soundLength(const QString& fileName) const

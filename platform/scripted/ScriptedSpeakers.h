@@ -5,6 +5,7 @@
 #include "platform/scripted/ScriptedDevices.h"
 
 #include <QMap>
+#include <QSet>
 #include <QStringList>
 
 namespace Platform {
@@ -23,6 +24,7 @@ public:
     ~ScriptedSpeakers() override;
 
     void setVolume(const QString& id, int percent); // kept while the speaker is unplugged
+    void setMuted(const QString& id, bool isMuted);
     // Somebody else moves the volume of the current speaker.
     void moveVolumeFromOutside(int percent);
 
@@ -36,7 +38,8 @@ public:
     QStringList playedFiles() const { return m_playedFiles; }
 
     int volume() const; // of the current speaker
-    void setVolumeByUser(int percent);
+    bool isMuted() const;
+    void setVolumeByUser(int percent); // ends a mute
     bool playerFails() const { return m_playerFails; }
     int soundLength(const QString& fileName) const; // -1 where none was set
     void addPlayedFile(const QString& path) { m_playedFiles.append(path); }
@@ -47,6 +50,7 @@ Q_SIGNALS:
 
 private:
     QMap<QString, int> m_volumes;
+    QSet<QString> m_muted;
     QMap<QString, int> m_soundLengths;
     QStringList m_playedFiles;
     bool m_playerFails = false;

@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <numeric>
 
 namespace Platform {
 
@@ -16,6 +17,7 @@ constexpr int BarSteps = 90; // frames for one way across the picture
 constexpr int BarShare = 20; // the bar's width as a part of the picture's
 constexpr int FontShare = 8; // the letters' height as a part of the picture's
 constexpr int MarginShare = 20;
+constexpr double Brightest = 255.0;
 
 QImage emptyPicture(const QSize& size)
 {
@@ -63,6 +65,18 @@ QImage TestPattern::picture(const QSize& size, const QString& name, int frame)
 QImage TestPattern::black(const QSize& size)
 {
     return emptyPicture(size);
+}
+
+double TestPattern::brightness(const QImage& picture)
+{
+    qint64 sum = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        sum += std::accumulate(line, line + picture.width(), qint64(0),
+                               [](qint64 before, QRgb pixel) { return before + qGray(pixel); });
+    }
+    const double pixels = double(picture.width()) * picture.height();
+    return static_cast<double>(sum) / pixels / Brightest;
 }
 
 } // namespace Platform

@@ -18,6 +18,7 @@ QSize fitted(const QSize& size, const QSize& bound);
 // reads right for the viewer: the picture is a mirrored one already.
 QImage picture(const QSize& size, const QString& name, int frame);
 QImage black(const QSize& size);
+double brightness(const QImage& picture); // 0 to 1
 
 } // namespace TestPattern
 } // namespace Platform

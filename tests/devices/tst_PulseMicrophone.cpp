@@ -203,6 +203,22 @@ private Q_SLOTS:
         QVERIFY(std::abs(figures.value(id("peakDb")).toDouble() + 35.0) < 1.0);
         QCOMPARE(figures.value(id("clippedShare")).toDouble(), 0.0);
         QCOMPARE(figures.value(id("movedByUser")).toBool(), false);
+        QCOMPARE(figures.value(id("defaultBefore")).toString(),
+                 QStringLiteral("Test Microphone A"));
+        QCOMPARE(figures.value(id("defaultAfter")), figures.value(id("defaultBefore")));
+        QCOMPARE(figures.value(id("state")).toString(), QStringLiteral("working"));
+    }
+
+    void recordsWhyItHeardNothing()
+    {
+        m_server->unplug(m_server->microphoneA());
+        QTRY_VERIFY(m_microphone->state() == DeviceState::Absent);
+        m_microphone->open();
+        m_microphone->close();
+        const QJsonObject figures = m_report.measurements.value(id("microphone"));
+        QCOMPARE(figures.value(id("state")).toString(), QStringLiteral("absent"));
+        QVERIFY(!figures.contains(id("soundHeard")));
+        QVERIFY(!figures.contains(id("volumeBefore")));
     }
 
     void mutedIsUsableAndSilent()

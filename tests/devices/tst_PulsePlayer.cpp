@@ -211,6 +211,8 @@ private Q_SLOTS:
         QTest::qWait(100);
         QCOMPARE(m_listener.finished, 1);
         QVERIFY(isUsable(m_speaker->state())); // the device is not to blame
+        QVERIFY(soundPlayed().isObject());
+        QVERIFY(soundPlayed().toObject().contains(id("failed")));
     }
 
     // A file that breaks off plays up to there.
@@ -230,6 +232,7 @@ private Q_SLOTS:
         play(path);
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
         QVERIFY(recording.peak() > Audible);
+        QCOMPARE(soundPlayed(), QJsonValue(QStringLiteral("cut")));
     }
 
     void stopsAtOnce()
@@ -320,6 +323,11 @@ private Q_SLOTS:
     }
 
 private:
+    QJsonValue soundPlayed() const
+    {
+        return m_report.measurements.value(id("speaker")).value(id("soundPlayed"));
+    }
+
     void play(const QString& path)
     {
         m_player.reset();

@@ -205,6 +205,19 @@ private Q_SLOTS:
         QCOMPARE(figures.value(id("volumeBefore")).toInt(), 100);
         QCOMPARE(figures.value(id("volumeAfter")).toInt(), 70);
         QCOMPARE(figures.value(id("movedByUser")).toBool(), true);
+        // The choice was the check's, not the system's.
+        QCOMPARE(figures.value(id("defaultBefore")).toString(), QStringLiteral("Test Speaker A"));
+        QCOMPARE(figures.value(id("defaultAfter")).toString(), QStringLiteral("Test Speaker A"));
+    }
+
+    void recordsTheDefaultThatSomebodyElseChanged()
+    {
+        m_server->control({id("set-default-sink"), id("speaker_b")});
+        QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
+        m_speaker.reset();
+        const QJsonObject figures = m_report.measurements.value(id("speaker"));
+        QCOMPARE(figures.value(id("defaultBefore")).toString(), QStringLiteral("Test Speaker A"));
+        QCOMPARE(figures.value(id("defaultAfter")).toString(), QStringLiteral("Test Speaker B"));
     }
 
     void comesBackWithTheServer()

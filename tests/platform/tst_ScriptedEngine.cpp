@@ -156,6 +156,8 @@ private Q_SLOTS:
     void keepsTheLogBounded();
     void recordsReports();
     void recordsWhatItMeasured();
+    void recordsWhyItMeasuredNothing();
+    void mutedMicrophoneHearsNothing();
     void keepsSettingsToItself();
     void tellsNobodyWhoIsGone();
 
@@ -682,8 +684,10 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
     struct Listener final : CameraBackend::Listener,
                             MicrophoneBackend::Listener,
                             SpeakerBackend::Listener,
+                            PlayerBackend::Listener,
                             NetworkProbe::Listener
     {
+        void playbackFinished() override {}
         void cameraListChanged() override {}
         void currentCameraChanged(const QString&) override {}
         void cameraWorkStateChanged(const QString&, bool) override {}
@@ -709,12 +713,16 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
     m_engine->microphones().plug({QStringLiteral("m"), QStringLiteral("Microphone")});
     m_engine->microphones().setVolume(QStringLiteral("m"), 80);
     m_engine->scriptedSpeakers().plug({QStringLiteral("s"), QStringLiteral("Speaker")});
+    m_engine->microphones().setMuted(QStringLiteral("m"), true);
+    m_engine->scriptedSpeakers().setMuted(QStringLiteral("s"), true);
     m_engine->network().setFigures({7, 41, 3, 50, 46});
     {
         const auto camera = m_engine->createCamera(listener);
         const auto microphone = m_engine->createMicrophone(listener);
         const auto speaker = m_engine->createSpeaker(listener);
         const auto probe = m_engine->createNetworkProbe(listener);
+        const auto player =
+            m_engine->createPlayer(QStringLiteral("/sounds/Piano.mp3"), 1.0F, listener);
         camera->start();
         microphone->open();
         microphone->setVolume(70);
@@ -735,12 +743,68 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
     QCOMPARE(value("camera", "frozenShare").toDouble(), 0.0);
     QCOMPARE(value("camera", "width").toInt(), 640);
     QVERIFY(value("camera", "pictures").toInt() > 2);
+    QVERIFY(value("camera", "firstPictureMs").toInt(-1) >= 0);
+    QCOMPARE(value("camera", "brightness"), QJsonValue(0.0));
     QCOMPARE(value("microphone", "soundHeard"), QJsonValue(false));
     QCOMPARE(value("microphone", "volumeBefore").toInt(), 80);
     QCOMPARE(value("microphone", "volumeAfter").toInt(), 70);
     QCOMPARE(value("speaker", "volumeBefore").toInt(), 50);
     QCOMPARE(value("speaker", "volumeAfter").toInt(), 33);
     QCOMPARE(value("speaker", "movedByUser"), QJsonValue(true));
+    for (const char* check : {"microphone", "speaker"}) {
+        QCOMPARE(value(check, "mutedBefore"), QJsonValue(true));
+        QCOMPARE(value(check, "mutedAfter"), QJsonValue(false)); // the volume was moved
+    }
+    QCOMPARE(value("speaker", "soundPlayed"), QJsonValue("Piano"));
+    QVERIFY(value("microphone", "seconds").toDouble() > 0);
+}
+
+void tst_ScriptedEngine::recordsWhyItMeasuredNothing()
+{
+    struct Listener final : MicrophoneBackend::Listener,
+                            SpeakerBackend::Listener,
+                            PlayerBackend::Listener
+    {
+        void playbackFinished() override {}
+        void microphoneListChanged() override {}
+        void currentMicrophoneChanged(const QString&) override {}
+        void levelMeasured(double) override {}
+        void microphoneVolumeChanged(int) override {}
+        void microphoneInfoChanged() override {}
+        void microphoneWorkStateChanged(const QString&, bool) override {}
+        void systemVolumeChanged(float) override {}
+        void speakerListChanged() override {}
+        void currentSpeakerChanged(const QString&) override {}
+        void speakerVolumeChanged(int) override {}
+        void speakerWorkStateChanged(bool) override {}
+    } listener;
+    m_engine->scriptedSpeakers().setPlayerFails(true);
+    {
+        const auto microphone = m_engine->createMicrophone(listener);
+        const auto speaker = m_engine->createSpeaker(listener);
+        microphone->open();
+        QVERIFY(!m_engine->createPlayer(QStringLiteral("/sounds/Piano.mp3"), 1.0F, listener));
+    }
+    const QJsonObject measured =
+        m_engine->reports().document().toJson().value(QStringLiteral("measurements")).toObject();
+    QCOMPARE(measured.value(QStringLiteral("microphone")),
+             QJsonValue(QJsonObject{{QStringLiteral("state"), QStringLiteral("absent")}}));
+    const QJsonObject failed{{QStringLiteral("failed"), QStringLiteral("failed")}};
+    QCOMPARE(measured.value(QStringLiteral("speaker")),
+             QJsonValue(QJsonObject{{QStringLiteral("state"), QStringLiteral("absent")},
+                                    {QStringLiteral("soundPlayed"), failed}}));
+}
+
+void tst_ScriptedEngine::mutedMicrophoneHearsNothing()
+{
+    ScriptedMicrophones& microphones = m_engine->microphones();
+    microphones.plug({QStringLiteral("m"), QStringLiteral("Microphone")});
+    microphones.setLevel(QStringLiteral("m"), 0.5);
+    QCOMPARE(microphones.levelAt(0), 0.5);
+    microphones.setMuted(QStringLiteral("m"), true);
+    QCOMPARE(microphones.levelAt(0), 0.0);
+    microphones.setVolumeByUser(80);
+    QCOMPARE(microphones.levelAt(0), 0.5);
 }
 
 void tst_ScriptedEngine::keepsSettingsToItself()

@@ -85,6 +85,9 @@ void PulseMicrophone::open()
 
 void PulseMicrophone::close()
 {
+    if (m_isOpen && !m_isCapturing) {
+        recordMeasurement(); // why nothing was measured
+    }
     m_isOpen = false;
     updateCapture();
     updateListening();
@@ -115,6 +118,7 @@ void PulseMicrophone::update()
     const PulseSide& microphones = m_session->devices().microphones;
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
+    m_default.take(microphones);
     const QString id = m_chosenId.value_or(microphones.preferredId());
     const bool isListChanged = !(m_list == list);
     const bool isOther = m_id != id;
@@ -264,13 +268,20 @@ void PulseMicrophone::updateWorkState()
 
 void PulseMicrophone::recordMeasurement() const
 {
-    QJsonObject figures = m_analysis->figures();
-    const QJsonObject volume = m_volume.figures();
-    for (auto figure = volume.begin(); figure != volume.end(); ++figure) {
-        figures.insert(figure.key(), figure.value());
+    QJsonObject figures;
+    if (m_analysis) {
+        figures = m_analysis->figures();
+        figures.insert(QStringLiteral("soundHeard"), m_hasHeardSound);
     }
-    figures.insert(QStringLiteral("device"), currentName());
-    figures.insert(QStringLiteral("soundHeard"), m_hasHeardSound);
+    if (!m_id.isEmpty()) {
+        const QJsonObject volume = m_volume.figures();
+        for (auto figure = volume.begin(); figure != volume.end(); ++figure) {
+            figures.insert(figure.key(), figure.value());
+        }
+        figures.insert(QStringLiteral("device"), currentName());
+    }
+    m_default.addTo(figures);
+    figures.insert(QStringLiteral("state"), toString(state()));
     m_report.recordMeasurement(QStringLiteral("microphone"), figures);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/MicrophoneBackend.h"
+#include "platform/devices/pulse/DefaultDevice.h"
 #include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
 
@@ -66,6 +67,7 @@ private:
     bool m_isMuted = false;
     bool m_isAdjustable = false;
     DeviceVolume m_volume;
+    DefaultDevice m_default;
 
     bool m_isOpen = false;
     bool m_isListening = false;

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulsePlayer.h"
 
+#include "platform/backend/ReportSink.h"
 #include "platform/devices/pulse/Mp3Decoder.h"
 #include "platform/devices/pulse/PulsePlayback.h"
 #include "platform/devices/pulse/PulseSession.h"
 #include "platform/devices/pulse/SoundBuffer.h"
 
+#include <QFileInfo>
+#include <QJsonObject>
 #include <chrono>
 #include <utility>
 
@@ -17,14 +20,19 @@ namespace {
 // A reader that is told to stop does so within one piece, unless the disk hangs.
 constexpr std::chrono::milliseconds ReaderPatience(20);
 
+const QLatin1String Check("speaker");
+const QLatin1String SoundKey("soundPlayed");
+
 } // namespace
 
 PulsePlayer::PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
-                         Listener& listener)
-    : m_session(std::move(session)), m_listener(listener)
+                         Listener& listener, ReportSink& report)
+    : m_session(std::move(session)), m_listener(listener), m_report(report)
 {
+    m_report.recordMeasurement(Check, {{SoundKey, QFileInfo(path).completeBaseName()}});
     m_watchdog.setSingleShot(true);
-    QObject::connect(&m_watchdog, &QTimer::timeout, &m_context, [this] { finish(); });
+    QObject::connect(&m_watchdog, &QTimer::timeout, &m_context,
+                     [this] { fail(QStringLiteral("hung")); });
     m_watchdog.start(GraceMs);
 
     startReading(path, volume);
@@ -84,7 +92,7 @@ void PulsePlayer::followSpeaker()
     }
     const QString id = m_session->speakerId();
     if (id.isEmpty()) {
-        m_mailbox.sender().post([this] { finish(); });
+        m_mailbox.sender().post([this] { fail(toString(DeviceState::Absent)); });
     } else if (std::exchange(m_speakerId, id) != id) {
         m_session->connection().run([playback = m_playback, id] { playback->playOn(id); });
     }
@@ -94,6 +102,19 @@ void PulsePlayer::playbackEnded(bool isGood)
 {
     if (!m_speakerId.isEmpty() && m_sound->size() > 0) {
         m_session->setSpeakerFailed(m_speakerId, !isGood);
+    }
+    if (isGood && m_sound->size() > 0) {
+        finish();
+    } else {
+        fail(toString(DeviceState::Failed));
+    }
+}
+
+void PulsePlayer::fail(const QString& reason)
+{
+    if (!m_isFinished) {
+        m_report.recordMeasurement(Check,
+                                   {{SoundKey, QJsonObject{{QStringLiteral("failed"), reason}}}});
     }
     finish();
 }

@@ -16,6 +16,7 @@ namespace Platform {
 
 class PulsePlayback;
 class PulseSession;
+class ReportSink;
 class SoundBuffer;
 
 // Plays an MP3 file on the speaker of the session. The file is read and decoded on a thread of its
@@ -27,17 +28,19 @@ public:
     static constexpr int GraceMs = 2000;
 
     PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
-                Listener& listener);
+                Listener& listener, ReportSink& report);
     ~PulsePlayer() override;
 
 private:
     void startReading(const QString& path, float volume);
     void followSpeaker();
     void playbackEnded(bool isGood);
+    void fail(const QString& reason); // in the report's words
     void finish();
 
     std::shared_ptr<PulseSession> m_session;
     Listener& m_listener;
+    ReportSink& m_report; // what was played goes there
     std::shared_ptr<SoundBuffer> m_sound;
     std::shared_ptr<PulsePlayback> m_playback;
     QString m_speakerId;

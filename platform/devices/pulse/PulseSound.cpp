@@ -29,7 +29,7 @@ std::unique_ptr<SpeakerBackend> PulseSound::createSpeaker(SpeakerBackend::Listen
 std::unique_ptr<PlayerBackend> PulseSound::createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener)
 {
-    return std::make_unique<PulsePlayer>(session(), path, volume, listener);
+    return std::make_unique<PulsePlayer>(session(), path, volume, listener, m_report);
 }
 
 DeviceList PulseSound::speakers() const

@@ -64,10 +64,13 @@ void PulseSpeaker::update()
 {
     const PulseSide& speakers = m_session->devices().speakers;
     const DeviceList list = speakers.list();
+    m_default.take(speakers);
     const QString id = m_session->speakerId();
     const bool isOther = m_id != id;
     if (isOther) {
-        recordMeasurement();
+        if (!m_id.isEmpty()) {
+            recordMeasurement();
+        }
         m_id = id;
     }
     const Mailbox::Sender sender = m_mailbox.sender();
@@ -96,11 +99,12 @@ void PulseSpeaker::update()
 
 void PulseSpeaker::recordMeasurement() const
 {
-    if (m_id.isEmpty()) {
-        return;
+    QJsonObject figures;
+    if (!m_id.isEmpty()) {
+        figures = m_volume.figures();
+        figures.insert(QStringLiteral("device"), currentName());
     }
-    QJsonObject figures = m_volume.figures();
-    figures.insert(QStringLiteral("device"), currentName());
+    m_default.addTo(figures);
     figures.insert(QStringLiteral("state"), toString(state()));
     m_report.recordMeasurement(QStringLiteral("speaker"), figures);
 }

@@ -4,6 +4,7 @@
 
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/SpeakerBackend.h"
+#include "platform/devices/pulse/DefaultDevice.h"
 #include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
 
@@ -42,6 +43,7 @@ private:
     QString m_id;
     bool m_works = false;
     DeviceVolume m_volume;
+    DefaultDevice m_default;
     QObject m_context; // of the connection to the session
     Mailbox m_mailbox;
 };
