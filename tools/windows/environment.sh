@@ -49,6 +49,7 @@ in_wine() { WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=
 
 # wine_places: the folder that holds the places, each made by start_wine.
 #   ENVCHECK_WINE_PLACES
+#   wine_seconds: how long a program may take
 # run_in_wine PROGRAM ARGUMENT...: at the first place that is free.
 run_in_wine()
 {
@@ -57,7 +58,8 @@ run_in_wine()
         for place in "$ENVCHECK_WINE_PLACES"/*/; do
             exec {lock}<"$place/lock"
             if flock --nonblock "$lock"; then
-                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") in_wine wine "$@" {lock}<&- || status=$?
+                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") in_wine timeout --foreground \
+                    "${wine_seconds:-1000}" wine "$@" {lock}<&- || status=$?
                 exec {lock}<&-
                 return $status
             fi
