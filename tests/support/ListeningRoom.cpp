@@ -13,7 +13,7 @@ constexpr double BurstSeconds = 0.002;
 constexpr double BurstHz = 4000.0;
 constexpr double LeadSeconds = 0.3;
 constexpr float Threshold = 0.1F;
-constexpr double LongestDelayMs = 200.0;
+constexpr double LongestDelayMs = 150.0;
 
 QByteArray load(SoundServer& server, const char* module, const QStringList& arguments)
 {

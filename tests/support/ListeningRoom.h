@@ -15,7 +15,7 @@ namespace TestSupport {
 class ListeningRoom
 {
 public:
-    static constexpr double BurstSpacingSeconds = 0.25;
+    static constexpr double BurstSpacingSeconds = 0.2;
 
     explicit ListeningRoom(SoundServer& server);
 

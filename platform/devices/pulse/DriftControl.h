@@ -12,10 +12,10 @@ namespace Platform {
 class DriftControl
 {
 public:
-    static constexpr double FirstReserveMs = 5.0; // left at the lowest point
+    static constexpr double FirstReserveMs = 6.0; // left at the lowest point
     static constexpr double LastReserveMs = 30.0;
     static constexpr double RanDryMs = 3.0; // more reserve after each time that it ran dry
-    static constexpr double CalmMs = 0.04;  // less after each window in which it didn't
+    static constexpr double CalmMs = 0.1;   // less after each window in which it didn't
     static constexpr double WindowMs = 200.0;
     static constexpr double ExcessMs = 10.0; // more than that is cut off instead of squeezed
 

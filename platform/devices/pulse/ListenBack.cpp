@@ -3,6 +3,7 @@
 #include "platform/devices/pulse/ListenBack.h"
 
 #include <algorithm>
+#include <cmath>
 #include <pulse/timeval.h>
 
 namespace Platform {
@@ -14,6 +15,9 @@ constexpr unsigned RequestMs = 5;
 // It begins with so much, and is never short of room.
 constexpr unsigned StartMs = 7;
 constexpr unsigned RoomMs = 200;
+// How long a pause in the sound is waited for to catch up in.
+constexpr double PatienceMs = 400.0;
+constexpr float Silence = 0.003F; // -50 dBFS
 constexpr char StreamName[] = "Listening to oneself";
 
 } // namespace
@@ -76,14 +80,12 @@ void ListenBack::play(const float* samples, std::size_t count)
     if (m_hasStarted) {
         m_drift.observe(storeMs(), static_cast<double>(count) / m_samplesPerMs);
         m_resampler.setDeviation(m_drift.deviation());
-        m_toSkip += static_cast<std::size_t>(m_drift.takeExcessMs() * m_samplesPerMs);
+        takeExcess();
     }
     m_output.clear();
     for (std::size_t i = 0; i < count; ++i) {
         const float sample = m_guard.pass(samples[i]);
-        if (m_toSkip > 0) {
-            --m_toSkip;
-        } else {
+        if (!isSkipped(sample)) {
             m_resampler.process(sample, m_output);
         }
     }
@@ -92,6 +94,34 @@ void ListenBack::play(const float* samples, std::size_t count)
                         0, PA_SEEK_RELATIVE);
         m_hasStarted = true;
     }
+}
+
+void ListenBack::takeExcess()
+{
+    const auto excess = static_cast<std::size_t>(m_drift.takeExcessMs() * m_samplesPerMs);
+    if (excess == 0) {
+        return;
+    }
+    if (m_toSkip == 0) {
+        m_patience = static_cast<std::size_t>(PatienceMs * m_samplesPerMs);
+    }
+    m_toSkip = excess; // what was measured before and isn't skipped yet is in it
+}
+
+// Nobody misses silence. Only where there is none is something left out that was to be heard.
+bool ListenBack::isSkipped(float sample)
+{
+    if (m_toSkip == 0) {
+        return false;
+    }
+    if (m_patience > 0) {
+        --m_patience;
+        if (std::abs(sample) > Silence) {
+            return false;
+        }
+    }
+    --m_toSkip;
+    return true;
 }
 
 // The server asks for what is missing in its room.

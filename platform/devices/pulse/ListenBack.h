@@ -29,6 +29,8 @@ public:
 private:
     void contextStateChanged();
     void connectStream();
+    void takeExcess();
+    bool isSkipped(float sample);
     double storeMs() const;
     void noteUnderflow();
 
@@ -38,7 +40,8 @@ private:
     HowlGuard m_guard;
     DriftResampler m_resampler;
     DriftControl m_drift;
-    std::size_t m_toSkip = 0; // samples
+    std::size_t m_toSkip = 0;   // samples
+    std::size_t m_patience = 0; // samples for which only silence is skipped
     bool m_hasStarted = false;
     std::vector<float> m_output;
     PulseContextHandle m_context;
