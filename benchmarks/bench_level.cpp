@@ -100,7 +100,7 @@ public:
         m_input = std::make_unique<QAudioInput>(chosen, format);
         m_input->setNotifyInterval(20);
         QIODevice* device = m_input->start();
-        QObject::connect(m_input.get(), &QAudioInput::notify, device, [&bar, device] {
+        const auto look = [&bar, device] {
             const QByteArray data = device->readAll();
             int peak = 0;
             for (int i = 0; i + 1 < data.size(); i += 2) {
@@ -108,8 +108,13 @@ public:
                 std::memcpy(&sample, data.constData() + i, sizeof sample);
                 peak = std::max(peak, std::abs(static_cast<int>(sample)));
             }
-            bar.set(peak / 32768.0 > static_cast<double>(LoudSample) ? 1.0 : 0.0);
-        });
+            if (!data.isEmpty()) {
+                bar.set(peak / 32768.0 > static_cast<double>(LoudSample) ? 1.0 : 0.0);
+            }
+        };
+        // The notifications begin only once something was read.
+        QObject::connect(m_input.get(), &QAudioInput::notify, device, look);
+        QObject::connect(device, &QIODevice::readyRead, device, look);
     }
 
 private:
