@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/PictureBoard.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QPainter>
 #include <algorithm>
 
@@ -21,6 +23,16 @@ QSize sizeOf(const QPixmap& picture)
 }
 
 } // namespace
+
+QString pictureFolder()
+{
+    const QString named = qEnvironmentVariable("ENVCHECK_PICTURES");
+    const QString folder =
+        named.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots")
+                        : named;
+    QDir().mkpath(folder);
+    return folder;
+}
 
 void PictureBoard::add(const QString& caption, const QPixmap& picture)
 {

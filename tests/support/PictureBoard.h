@@ -8,6 +8,10 @@
 
 namespace TestSupport {
 
+// Where the tests keep their pictures: the folder that ENVCHECK_PICTURES names, otherwise
+// "screenshots" in the build. It is made.
+QString pictureFolder();
+
 // Pictures under their captions, row by row on one board.
 class PictureBoard
 {
