@@ -14,7 +14,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDialog>
-#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
@@ -121,12 +120,7 @@ void tst_RealRun::cleanup()
 
 void tst_RealRun::cleanupTestCase()
 {
-    QString folder = qEnvironmentVariable("ENVCHECK_PICTURES");
-    if (folder.isEmpty()) {
-        folder = QCoreApplication::applicationDirPath() + QStringLiteral("/../screenshots");
-    }
-    QVERIFY(QDir().mkpath(folder));
-    QVERIFY(m_board.save(folder + QStringLiteral("/real-run.png")));
+    QVERIFY(m_board.save(pictureFolder() + QStringLiteral("/real-run.png")));
 }
 
 void tst_RealRun::everyCheckPasses()
