@@ -17,6 +17,8 @@ namespace {
 
 constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
+// Between two rounds of questions: a storm of changes mustn't keep everybody busy.
+constexpr unsigned PauseMs = 20;
 // What the server shows where it has no playback device at all.
 constexpr char DummySink[] = "auto_null";
 
@@ -66,6 +68,7 @@ PulseConnection::~PulseConnection()
 {
     m_loop.stop();
     dropClients();
+    endPause();
     m_context.reset();
     if (m_retry) {
         api()->time_free(m_retry);
@@ -137,6 +140,7 @@ void PulseConnection::disconnected()
         return;
     }
     m_awaitedReplies = 0;
+    endPause();
     for (const PulseKind kind : {PulseKind::Speaker, PulseKind::Microphone}) {
         VolumeOrders& lost = orders(kind);
         for (std::optional<VolumeOrder>* order : {&lost.underWay, &lost.next}) {
@@ -173,7 +177,7 @@ void PulseConnection::dropClients()
 void PulseConnection::refresh()
 {
     m_isStale = true;
-    if (m_awaitedReplies == 0) {
+    if (m_awaitedReplies == 0 && !m_pause) {
         startRound();
     }
 }
@@ -242,8 +246,22 @@ void PulseConnection::replyArrived()
         m_devices = std::move(m_arriving);
         m_publish(m_devices);
     }
-    if (m_isStale) {
-        startRound();
+    m_pause = pa_context_rttime_new(
+        m_context.get(), pa_rtclock_now() + PauseMs * PA_USEC_PER_MSEC,
+        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) {
+            auto* connection = static_cast<PulseConnection*>(self);
+            connection->endPause();
+            if (connection->m_isStale) {
+                connection->startRound();
+            }
+        },
+        this);
+}
+
+void PulseConnection::endPause()
+{
+    if (m_pause) {
+        api()->time_free(std::exchange(m_pause, nullptr));
     }
 }
 

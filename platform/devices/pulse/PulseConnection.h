@@ -63,6 +63,7 @@ private:
     void refresh();
     void startRound();
     void replyArrived();
+    void endPause();
     void takeServer(const char* defaultSink, const char* defaultSource);
     template <typename Info>
     void takeDevice(PulseKind kind, const Info& info);
@@ -77,6 +78,7 @@ private:
     PulseLoop m_loop;
     PulseContextHandle m_context;
     pa_time_event* m_retry = nullptr;
+    pa_time_event* m_pause = nullptr;
     unsigned m_backOffMs;
     std::vector<std::shared_ptr<Client>> m_clients;
 
