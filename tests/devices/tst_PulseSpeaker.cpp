@@ -3,6 +3,7 @@
 #include "platform/devices/pulse/PulseSound.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
+#include "tests/support/PlugStorm.h"
 #include "tests/support/SoundServer.h"
 
 #include <QElapsedTimer>
@@ -269,12 +270,10 @@ private Q_SLOTS:
 
     void manyPluggings()
     {
-        constexpr int Rounds = 25;
-        TestSupport::GapMeter gaps;
-        for (int round = 0; round < Rounds; ++round) {
-            const QByteArray module = m_server->plugSpeaker(id("hasty"), id("Hasty"));
-            m_server->unplug(module);
-        }
+        constexpr int Events = 1000;
+        const TestSupport::PlugStorm storm(Events / 2);
+        QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
+        QCOMPARE(storm.events(), Events);
         m_server->plugSpeaker(id("last"), id("Last"));
         QTRY_COMPARE(nameOf(m_sound->speakers(), id("last")), id("Last"));
         QCOMPARE(nameOf(m_sound->speakers(), id("hasty")), QString());

@@ -34,6 +34,17 @@ std::vector<float> decimated(const std::vector<float>& samples)
     return result;
 }
 
+// Of all samples before each, and at the end of all.
+std::vector<double> runningEnergy(const std::vector<float>& samples)
+{
+    std::vector<double> result(samples.size() + 1);
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const auto sample = static_cast<double>(samples[i]);
+        result[i + 1] = result[i] + sample * sample;
+    }
+    return result;
+}
+
 QStringList rawFormat(const QString& device, int channels)
 {
     return {QStringLiteral("--raw"),
@@ -52,6 +63,8 @@ SoundRecording::SoundRecording(const QString& device, const QString& channelMap)
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
                      [this] { m_data += m_process.readAllStandardOutput(); });
     QStringList arguments = rawFormat(device, m_channels);
+    // Otherwise PipeWire moves a recording of the default device along with the default.
+    arguments += QStringLiteral("--property=node.dont-reconnect=true");
     if (!channelMap.isEmpty()) {
         arguments += QStringLiteral("--channel-map=%1").arg(channelMap);
         arguments += QStringLiteral("--no-remix");
@@ -105,6 +118,17 @@ float SoundRecording::peak(std::size_t from) const
         result = std::max(result, std::abs(all[i]));
     }
     return result;
+}
+
+double SoundRecording::seconds() const
+{
+    return static_cast<double>(samples(0).size()) / Rate;
+}
+
+void SoundRecording::forget()
+{
+    // A frame may be here only in part.
+    m_data = m_data.right(m_data.size() % (m_channels * static_cast<int>(sizeof(float))));
 }
 
 void SoundRecording::stop()
@@ -203,21 +227,23 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
     const std::vector<float> needle = decimated(sound);
     const auto offset = static_cast<std::ptrdiff_t>(firstAbove(hay, OnsetThreshold)) -
                         static_cast<std::ptrdiff_t>(firstAbove(needle, OnsetThreshold));
+    const std::vector<double> hayEnergy = runningEnergy(hay);
+    const double needleEnergy = runningEnergy(needle).back();
+    const auto hayEnd = static_cast<std::ptrdiff_t>(hay.size());
+    const auto needleEnd = static_cast<std::ptrdiff_t>(needle.size());
     double best = 0.0;
     for (std::ptrdiff_t delay = offset - SearchedDelay; delay <= offset + SearchedDelay; ++delay) {
-        double product = 0.0;
-        double hayEnergy = 0.0;
-        double needleEnergy = 0.0;
-        for (std::size_t i = 0; i < needle.size(); ++i) {
-            const std::ptrdiff_t at = delay + static_cast<std::ptrdiff_t>(i);
-            const float heard = at >= 0 && at < static_cast<std::ptrdiff_t>(hay.size())
-                                    ? hay[static_cast<std::size_t>(at)]
-                                    : 0.0F;
-            product += static_cast<double>(heard * needle[i]);
-            hayEnergy += static_cast<double>(heard * heard);
-            needleEnergy += static_cast<double>(needle[i] * needle[i]);
+        // What lies outside the recording is silence.
+        const std::ptrdiff_t begin = std::clamp<std::ptrdiff_t>(-delay, 0, needleEnd);
+        const std::ptrdiff_t end = std::clamp<std::ptrdiff_t>(hayEnd - delay, begin, needleEnd);
+        if (begin == end) {
+            continue;
         }
-        const double energies = std::sqrt(hayEnergy * needleEnergy);
+        const double product = std::inner_product(needle.begin() + begin, needle.begin() + end,
+                                                  hay.begin() + delay + begin, 0.0);
+        const double energies =
+            std::sqrt(needleEnergy * (hayEnergy[static_cast<std::size_t>(delay + end)] -
+                                      hayEnergy[static_cast<std::size_t>(delay + begin)]));
         best = std::max(best, energies > 0.0 ? product / energies : 0.0);
     }
     return best;

@@ -26,6 +26,8 @@ public:
     std::vector<float> samples() const;
     // The loudest sample from the given one on.
     float peak(std::size_t from = 0) const;
+    double seconds() const; // so far
+    void forget();          // what it has so far
     void stop();
 
 private:

@@ -1,0 +1,500 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/devices/DeviceDialog.h"
+#include "tests/devices/SoundFiles.h"
+#include "tests/support/GapMeter.h"
+#include "tests/support/MachineGap.h"
+#include "tests/support/PlugStorm.h"
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolButton>
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+using namespace TestSupport;
+
+namespace {
+
+constexpr qint64 MaxGapMs = 50;
+// While servers start and devices storm in, two cores have more to do than a page; at rest it stays
+// within the other bound.
+constexpr qint64 MaxBusyGapMs = 150;
+constexpr int LongMs = 8000;
+constexpr float Audible = 0.003F;
+constexpr double AlikeAtLeast = 0.95;
+// A thread that waits for the server stands still for as long as it is frozen, however long that
+// is.
+constexpr int FreezeMs = 600;
+constexpr int PlugEvents = 1000;
+
+QString id(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+int freezeMs()
+{
+    bool isNumber = false;
+    const int value = qEnvironmentVariableIntValue("ENVCHECK_FREEZE_MS", &isNumber);
+    return isNumber ? value : FreezeMs;
+}
+
+} // namespace
+
+// The speaker page in the real dialog, on the real engine and real sound servers: in English on the
+// one and in Chinese on the other.
+class tst_SpeakerDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void init();
+    void cleanup();
+
+    void hearsTheSoundAndAnswers();
+    void leavesTheServerAsItWas_data();
+    void leavesTheServerAsItWas();
+    void endsAMuteThatTheUserMoves();
+    void neverBlocksWhileTheServerIsFrozen();
+    void survivesTheServersDeath();
+    void followsDevicesInMidSound();
+    void survivesAStormOfPlugs();
+
+private:
+    using Script = std::function<void()>;
+
+    void openSpeakerPage() const { m_dialog->click("label_SoundCheck"); }
+    bool isPlaying() const { return !m_dialog->child<QWidget>("tb_play_test_sound")->isEnabled(); }
+    bool isSpeakerThere() const;
+    QString chosen() const { return box()->currentData().toString(); }
+    QComboBox* box() const { return m_dialog->child<QComboBox>("cb_ad_output_name"); }
+    QSlider* slider() const;
+    void play(SoundRecording& recording) const;
+    void choose(const QString& speakerId) const;
+    QRadioButton* answerFor(const QString& soundFile) const;
+    void keepPicture(const char* state) const;
+    QString language() const;
+    QByteArray volumeOf(const char* speakerId);
+    QStringList serverState();
+    void meter(const char* fault, const Script& action);
+
+    std::unique_ptr<SoundServer> m_server;
+    std::unique_ptr<DeviceDialog> m_dialog;
+    qint64 m_worstGapMs = 0; // beyond the machine's own
+};
+
+void tst_SpeakerDialog::initTestCase_data()
+{
+    SoundServer::addTestRows();
+}
+
+void tst_SpeakerDialog::init()
+{
+    m_server = SoundServer::startForTest();
+    QVERIFY(m_server);
+    m_dialog = std::make_unique<DeviceDialog>(language());
+    m_worstGapMs = 0;
+}
+
+void tst_SpeakerDialog::cleanup()
+{
+    m_dialog.reset();
+    m_server.reset();
+}
+
+// What a person does: choose the device and the volume, play, listen, pick the sound, say yes.
+void tst_SpeakerDialog::hearsTheSoundAndAnswers()
+{
+    SoundRecording chosenOne(id("speaker_b.monitor"));
+    SoundRecording other(id("speaker_a.monitor"));
+    QVERIFY(chosenOne.waitForStart());
+    QVERIFY(other.waitForStart());
+    m_server->control({id("set-sink-volume"), id("speaker_b"), id("90%")});
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(slider()->value(), 100);
+        choose(id("speaker_b"));
+        QTRY_COMPARE(slider()->value(), 90);
+        slider()->setValue(80);
+        QTRY_COMPARE(volumeOf("speaker_b").count(" 80%"), 2);
+        keepPicture("idle");
+
+        play(chosenOne);
+        keepPicture("playing");
+        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
+        keepPicture("finished");
+        QVERIFY(other.peak() < Audible);
+
+        const std::vector<double> alike = compareWithSounds(chosenOne.samples());
+        const auto best = std::max_element(alike.begin(), alike.end());
+        QVERIFY(*best > AlikeAtLeast);
+        const QString heard = soundNames().at(static_cast<int>(best - alike.begin()));
+        QRadioButton* answer = answerFor(heard);
+        QVERIFY2(answer, qPrintable(heard));
+        QTest::mouseClick(answer, Qt::LeftButton, {}, QPoint(8, answer->height() / 2));
+        QVERIFY(answer->isChecked());
+        keepPicture("answered");
+        m_dialog->click("Btn_CanHear");
+        openSpeakerPage();
+        m_dialog->click("label_MicCheck"); // so that the answer is recorded
+
+        openSpeakerPage();
+        m_server->unplug(m_server->speakerB());
+        QTRY_VERIFY(!isSpeakerThere());
+        keepPicture("no-headset");
+    }));
+    const QJsonObject results =
+        m_dialog->results().value(id("results")).toObject().value(id("speaker")).toObject();
+    QCOMPARE(results.value(id("userState")).toInt(), 1);
+}
+
+void tst_SpeakerDialog::leavesTheServerAsItWas_data()
+{
+    QTest::addColumn<bool>("isSliderMoved");
+    QTest::newRow("nothing moved") << false;
+    QTest::newRow("slider moved") << true;
+}
+
+// Volumes, mutes and defaults, of a run through every step.
+void tst_SpeakerDialog::leavesTheServerAsItWas()
+{
+    QFETCH(bool, isSliderMoved);
+    m_server->control({id("set-sink-volume"), id("speaker_a"), id("71%"), id("43%")});
+    m_server->control({id("set-sink-volume"), id("speaker_b"), id("130%")});
+    m_server->control({id("set-sink-mute"), id("speaker_b"), id("1")});
+    m_server->control({id("set-source-volume"), id("microphone_a"), id("87%")});
+    const QStringList before = serverState();
+    SoundRecording recording(id("speaker_a.monitor"));
+    QVERIFY(recording.waitForStart());
+    QVERIFY(m_dialog->run([&] {
+        m_dialog->click("label_CameraCheck");
+        openSpeakerPage();
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        play(recording);
+        choose(id("speaker_b"));
+        QTRY_COMPARE(chosen(), id("speaker_b"));
+        choose(id("speaker_a"));
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        if (isSliderMoved) {
+            slider()->setValue(20);
+            QTRY_VERIFY(volumeOf("speaker_a").contains(" 20%"));
+        }
+        m_dialog->click("Btn_CantListen");
+        m_dialog->click("label_MicCheck");
+        QTRY_VERIFY(m_dialog->child<QWidget>("Btn_Record")->isEnabled());
+        m_dialog->click("Btn_Record");
+        QTRY_VERIFY(!m_server->control({id("list"), id("short"), id("source-outputs")}).isEmpty());
+        m_dialog->click("label_SystemCheck");
+    }));
+    QStringList after = serverState();
+    QStringList expected = before;
+    if (isSliderMoved) {
+        const auto isMoved = [](const QString& line) { return line.startsWith("speaker_a\t"); };
+        QVERIFY(after.filter("speaker_a\t") != expected.filter("speaker_a\t"));
+        expected.erase(std::remove_if(expected.begin(), expected.end(), isMoved), expected.end());
+        after.erase(std::remove_if(after.begin(), after.end(), isMoved), after.end());
+        QCOMPARE(expected.size(), before.size() - 1);
+    }
+    QCOMPARE(after, expected);
+}
+
+void tst_SpeakerDialog::endsAMuteThatTheUserMoves()
+{
+    m_server->control({id("set-sink-mute"), id("speaker_a"), id("1")});
+    SoundRecording recording(id("speaker_a.monitor"));
+    QVERIFY(recording.waitForStart());
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        QVERIFY(slider()->isEnabled()); // a muted device works
+        m_dialog->click("tb_play_test_sound");
+        QTRY_VERIFY(!m_server->control({id("list"), id("short"), id("sink-inputs")}).isEmpty());
+        QVERIFY(recording.peak() < Audible);
+        QCOMPARE(m_server->control({id("get-sink-mute"), id("speaker_a")}),
+                 QByteArray("Mute: yes"));
+        slider()->setValue(64);
+        QTRY_COMPARE(m_server->control({id("get-sink-mute"), id("speaker_a")}),
+                     QByteArray("Mute: no"));
+        QTRY_VERIFY(recording.peak() > Audible);
+    }));
+    const QJsonObject figures =
+        m_dialog->results().value(id("measurements")).toObject().value(id("speaker")).toObject();
+    QCOMPARE(figures.value(id("mutedBefore")), QJsonValue(true));
+    QCOMPARE(figures.value(id("mutedAfter")), QJsonValue(false));
+    QCOMPARE(figures.value(id("movedByUser")), QJsonValue(true));
+    QCOMPARE(figures.value(id("volumeAfter")), QJsonValue(64));
+}
+
+void tst_SpeakerDialog::neverBlocksWhileTheServerIsFrozen()
+{
+    const auto frozen = [&](const char* step, const Script& action) {
+        m_server->freeze();
+        meter(step, [&] {
+            action();
+            QTest::qWait(freezeMs());
+        });
+        m_server->thaw();
+    };
+    // The first pages, their texts and fonts take their time whatever the server does.
+    QVERIFY(m_dialog->run([this] { openSpeakerPage(); }));
+
+    m_server->freeze();
+    QVERIFY(m_dialog->run([&] {
+        meter("frozen while the dialog opens", [&] {
+            openSpeakerPage();
+            QTest::qWait(freezeMs());
+            QVERIFY(!isSpeakerThere());
+        });
+        m_server->thaw();
+        QTRY_COMPARE_WITH_TIMEOUT(chosen(), id("speaker_a"), LongMs);
+        QVERIFY(isSpeakerThere());
+
+        m_dialog->click("label_CameraCheck");
+        frozen("frozen while the page opens", [this] { openSpeakerPage(); });
+        QCOMPARE(chosen(), id("speaker_a"));
+
+        frozen("frozen at the click on play", [this] { m_dialog->click("tb_play_test_sound"); });
+        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
+
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(recording);
+        frozen("frozen in mid-sound", [] {});
+        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
+
+        frozen("frozen while the slider is dragged", [this] {
+            for (int value = 99; value >= 40; --value) {
+                slider()->setValue(value);
+            }
+        });
+        QTRY_VERIFY(volumeOf("speaker_a").contains(" 40%"));
+
+        frozen("frozen while a device is chosen", [this] { choose(id("speaker_b")); });
+        QTRY_COMPARE(chosen(), id("speaker_b"));
+
+        choose(id("speaker_a"));
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        slider()->setValue(100);
+        play(recording);
+        frozen("frozen while the page is left in mid-sound",
+               [this] { m_dialog->click("label_CameraCheck"); });
+
+        openSpeakerPage();
+        m_dialog->click("tb_play_test_sound");
+        m_server->freeze();
+    }));
+    // The dialog closed with a sound on the way to a frozen server.
+    m_server->thaw();
+    QTRY_COMPARE(m_server->control({id("list"), id("short"), id("sink-inputs")}), QByteArray());
+    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+}
+
+void tst_SpeakerDialog::survivesTheServersDeath()
+{
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        choose(id("speaker_b"));
+        QTRY_COMPARE(chosen(), id("speaker_b"));
+        SoundRecording recording(id("speaker_b.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(recording);
+        meter("killed in mid-sound", [&] {
+            m_server->kill();
+            QTRY_VERIFY(!isPlaying());
+            QTRY_VERIFY(!isSpeakerThere());
+        });
+        meter("the page left and opened without a server", [this] {
+            m_dialog->click("label_CameraCheck");
+            openSpeakerPage();
+        });
+        QElapsedTimer clock;
+        meter("started again", [&] {
+            QVERIFY(m_server->start());
+            clock.start();
+            // The chosen one comes back.
+            QTRY_COMPARE_WITH_TIMEOUT(chosen(), id("speaker_b"), LongMs);
+        });
+        qInfo("| back on the page after | %lld ms |", clock.elapsed());
+        QVERIFY(clock.elapsed() < 2500); // the longest back-off, and half a second
+        QVERIFY(isSpeakerThere());
+        SoundRecording again(id("speaker_b.monitor"));
+        QVERIFY(again.waitForStart());
+        play(again);
+    }));
+    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+}
+
+void tst_SpeakerDialog::followsDevicesInMidSound()
+{
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        SoundRecording first(id("speaker_a.monitor"));
+        SoundRecording second(id("speaker_b.monitor"));
+        QVERIFY(first.waitForStart());
+        QVERIFY(second.waitForStart());
+        play(first);
+        // Nothing was chosen: the sound goes where the default goes.
+        meter("default switched in mid-sound", [&] {
+            m_server->control({id("set-default-sink"), id("speaker_b")});
+            QTRY_COMPARE(chosen(), id("speaker_b"));
+            QTRY_VERIFY(second.peak() > Audible);
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
+
+        choose(id("voice"));
+        choose(id("speaker_b"));
+        QTRY_VERIFY(isSpeakerThere());
+        second.forget();
+        first.forget();
+        play(second);
+        meter("chosen device unloaded in mid-sound", [&] {
+            m_server->unplug(m_server->speakerB());
+            QTRY_VERIFY(!isPlaying());
+            QTRY_VERIFY(!isSpeakerThere());
+        });
+        QVERIFY(first.peak() < Audible); // it never came out of another one
+        meter("plugged in again", [&] {
+            m_server->plugSpeaker(id("speaker_b"), QStringLiteral("Test Speaker B"));
+            QTRY_COMPARE(chosen(), id("speaker_b"));
+        });
+        QVERIFY(isSpeakerThere());
+        meter("last device unloaded", [&] {
+            m_server->control({id("unload-module"), id("module-null-sink")});
+            QTRY_VERIFY(!isSpeakerThere());
+        });
+    }));
+    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+}
+
+void tst_SpeakerDialog::survivesAStormOfPlugs()
+{
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(chosen(), id("speaker_a"));
+        const int count = box()->count();
+        SoundRecording recording(id("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        play(recording);
+        QElapsedTimer clock;
+        clock.start();
+        meter("storm of plugs in mid-sound", [&] {
+            const PlugStorm storm(PlugEvents / 2);
+            QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
+            QCOMPARE(storm.events(), PlugEvents);
+        });
+        qInfo("| plugs and unplugs | %d in %lld ms |", PlugEvents, clock.elapsed());
+        QTRY_COMPARE(box()->count(), count);
+        QCOMPARE(chosen(), id("speaker_a"));
+        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
+        m_server->plugSpeaker(id("last"), id("Last"));
+        QTRY_COMPARE(box()->count(), count + 1);
+    }));
+    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+}
+
+bool tst_SpeakerDialog::isSpeakerThere() const
+{
+    auto* const page = m_dialog->child<QWidget>("headsetPage");
+    return page->findChild<QWidget*>(id("page_play"))->isVisible();
+}
+
+QSlider* tst_SpeakerDialog::slider() const
+{
+    return m_dialog->child<QWidget>("headsetPage")->findChild<QSlider*>();
+}
+
+void tst_SpeakerDialog::play(SoundRecording& recording) const
+{
+    m_dialog->click("tb_play_test_sound");
+    QTRY_VERIFY(recording.peak() > Audible);
+    QVERIFY(isPlaying());
+}
+
+void tst_SpeakerDialog::choose(const QString& speakerId) const
+{
+    box()->showPopup();
+    QAbstractItemView* const view = box()->view();
+    const QModelIndex index = box()->model()->index(box()->findData(speakerId), 0);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+}
+
+QRadioButton* tst_SpeakerDialog::answerFor(const QString& soundFile) const
+{
+    const QByteArray text = "ID_HeadsetPage_" + soundFile.section('.', 0, 0).toLatin1();
+    for (const char* name : {"item0", "item1", "item2", "item3"}) {
+        auto* const button = m_dialog->child<QRadioButton>(name);
+        if (button->text() == qtTrId(text.constData())) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+void tst_SpeakerDialog::keepPicture(const char* state) const
+{
+    QVERIFY(m_dialog->keepPicture(
+        QStringLiteral("speaker-%1-%2").arg(QLatin1String(state), language())));
+}
+
+QString tst_SpeakerDialog::language() const
+{
+    return m_server->kind() == SoundServer::Kind::PulseAudio ? id("en") : id("zh_CN");
+}
+
+QByteArray tst_SpeakerDialog::volumeOf(const char* speakerId)
+{
+    return m_server->control({id("get-sink-volume"), id(speakerId)});
+}
+
+// A line for each device, and the defaults.
+QStringList tst_SpeakerDialog::serverState()
+{
+    QStringList result;
+    for (const char* kind : {"sinks", "sources"}) {
+        const QList<QByteArray> lines = m_server->control({id("list"), id(kind)}).split('\n');
+        for (const QByteArray& line : lines) {
+            const QString text = QString::fromUtf8(line.trimmed());
+            if (text.startsWith("Name: ")) {
+                result.append(text.mid(6) + '\t');
+            } else if (text.startsWith("Mute: ") || text.startsWith("Volume: ") ||
+                       text.startsWith("balance ")) {
+                result.last() += text + ' ';
+            }
+        }
+    }
+    result.append(m_server->control({id("get-default-sink")}));
+    result.append(m_server->control({id("get-default-source")}));
+    return result;
+}
+
+// A row of the list of faults.
+void tst_SpeakerDialog::meter(const char* fault, const Script& action)
+{
+    qint64 gap = 0;
+    qint64 machineGap = 0;
+    {
+        const MachineGap machine;
+        GapMeter gaps;
+        action();
+        gap = gaps.longestMs();
+        machineGap = machine.longestMs();
+    }
+    qInfo("| %s | longest gap %lld ms, the machine's own %lld ms |", fault, gap, machineGap);
+    m_worstGapMs = std::max(m_worstGapMs, gap - machineGap);
+}
+
+QTEST_MAIN(tst_SpeakerDialog)
+#include "tst_SpeakerDialog.moc"

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <atomic>
+#include <thread>
+
+namespace TestSupport {
+
+// Plugs a playback device in and out again, as fast as the sound server of the environment does it,
+// on a thread and a connection of its own.
+class PlugStorm
+{
+public:
+    explicit PlugStorm(int rounds);
+    ~PlugStorm(); // breaks off
+    PlugStorm(const PlugStorm&) = delete;
+    PlugStorm& operator=(const PlugStorm&) = delete;
+
+    bool isOver() const { return m_isOver; }
+    int events() const { return m_events; } // so far
+
+private:
+    void run(int rounds);
+
+    std::atomic<bool> m_isEnding{false};
+    std::atomic<bool> m_isOver{false};
+    std::atomic<int> m_events{0};
+    std::thread m_thread; // last: it uses the others
+};
+
+} // namespace TestSupport
