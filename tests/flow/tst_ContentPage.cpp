@@ -110,6 +110,7 @@ private Q_SLOTS:
 
     void closingUnansweredAsks();
     void refusingKeepsTheDialog();
+    void leavingTheQuestionUnansweredKeepsTheDialog();
     void confirmingReportsLeftEarly();
     void closingAnsweredWritesTheSetting_data();
     void closingAnsweredWritesTheSetting();
@@ -480,6 +481,15 @@ void tst_ContentPage::refusingKeepsTheDialog()
     QCOMPARE(shownPage(), QString("cameraPage"));
     QVERIFY(stack("stackedWidget")->currentWidget()->isVisible());
     QVERIFY(!isSettingWritten());
+    QCOMPARE(postedCodes(), QVector<int>());
+}
+
+void tst_ContentPage::leavingTheQuestionUnansweredKeepsTheDialog()
+{
+    QuestionAnswerer question([](QMessageBox* box) { box->reject(); });
+    QVERIFY(!m_frame->close());
+    QCOMPARE(question.count(), 1);
+    QVERIFY(m_frame->isVisible());
     QCOMPARE(postedCodes(), QVector<int>());
 }
 
