@@ -5,8 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QStorageInfo>
 #include <QSysInfo>
+#include <filesystem>
+#include <system_error>
 
 namespace Platform {
 
@@ -53,8 +54,11 @@ qint64 MachineFacts::availableBytes(const QString& folder)
     while (!existing.exists() && existing.absolutePath() != existing.absoluteFilePath()) {
         existing.setFile(existing.absolutePath());
     }
-    const QStorageInfo volume(existing.absoluteFilePath());
-    return volume.isValid() ? volume.bytesAvailable() : -1;
+    // Asked of the folder itself: QStorageInfo knows nothing below a changed root.
+    std::error_code error;
+    const std::filesystem::space_info space =
+        std::filesystem::space(existing.absoluteFilePath().toStdU16String(), error);
+    return error ? -1 : static_cast<qint64>(space.available);
 }
 
 } // namespace Platform
