@@ -17,7 +17,7 @@ const QSize AskedSize(640, 480);
 } // namespace
 
 CameraSession::CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
-                             std::unique_ptr<Listener> listener)
+                             std::unique_ptr<CameraFeed::Listener> listener)
     : m_connection(connection),
       m_slot(std::move(slot)),
       m_listener(std::move(listener)),
@@ -58,6 +58,11 @@ void CameraSession::camerasChanged()
     }
     m_listener->listArrived(cameras.devices(), cameras.preferredId(), m_connection.isDenied());
     openStream();
+}
+
+void CameraSession::serverMissing()
+{
+    m_listener->serverMissing();
 }
 
 void CameraSession::linkFailed(const QString& serial, quint32 readerId, const QString& error)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/backend/DeviceInfo.h"
+#include "platform/devices/CameraFeed.h"
 #include "platform/devices/pipewire/CameraStream.h"
 #include "platform/devices/pipewire/LoopTimer.h"
 #include "platform/devices/pipewire/PictureConverter.h"
@@ -14,24 +14,13 @@
 
 namespace Platform {
 
-// The camera thread's half of a PipeWireCamera: keeps the wished camera open while it is there,
+// The camera thread's half of a PipeWireFeed: keeps the wished camera open while it is there,
 // gives up what hangs, tries again. On the camera thread only.
 class CameraSession final : public PipeWireConnection::Observer, private CameraStream::Listener
 {
 public:
-    // Called on the camera thread.
-    class Listener
-    {
-    public:
-        virtual ~Listener() = default;
-        virtual void listArrived(const DeviceList& devices, const QString& preferredId,
-                                 bool isDenied) = 0;
-        virtual void stateChanged(int generation, DeviceState state) = 0;
-        virtual void pictureArrived() = 0;
-    };
-
     CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
-                  std::unique_ptr<Listener> listener);
+                  std::unique_ptr<CameraFeed::Listener> listener);
     ~CameraSession();
     CameraSession(const CameraSession&) = delete;
     CameraSession& operator=(const CameraSession&) = delete;
@@ -41,6 +30,7 @@ public:
     void setOutputSize(const QSize& pixels) { m_outputSize = pixels; }
 
     void camerasChanged() override;
+    void serverMissing() override;
     void linkFailed(const QString& serial, quint32 readerId, const QString& error) override;
     void cameraFailed(const QString& serial, const QString& error) override;
     void connectionLost() override;
@@ -65,7 +55,7 @@ private:
 
     PipeWireConnection& m_connection;
     std::shared_ptr<PictureSlot> m_slot;
-    std::unique_ptr<Listener> m_listener;
+    std::unique_ptr<CameraFeed::Listener> m_listener;
     PictureConverter m_converter;
     QSize m_outputSize;
     QString m_id; // empty while closed

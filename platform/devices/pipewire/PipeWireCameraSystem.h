@@ -4,10 +4,10 @@
 
 #include "platform/backend/CameraBackend.h"
 #include "platform/backend/SettingsStore.h"
+#include "platform/devices/CameraFeed.h"
 #include "platform/devices/CameraSystem.h"
 
 #include <memory>
-#include <vector>
 
 namespace Platform {
 
@@ -19,7 +19,9 @@ class ReportSink;
 class PipeWireCameraSystem final : public CameraSystem
 {
 public:
-    PipeWireCameraSystem(const QString& settingsFolder, ReportSink& report);
+    // Where no server answers, the second feed is used, if there is one.
+    PipeWireCameraSystem(const QString& settingsFolder, ReportSink& report,
+                         FeedMaker makeSecondFeed = nullptr);
     ~PipeWireCameraSystem() override; // waits for the threads to end, a second at most
     PipeWireCameraSystem(const PipeWireCameraSystem&) = delete;
     PipeWireCameraSystem& operator=(const PipeWireCameraSystem&) = delete;
@@ -32,7 +34,8 @@ private:
     SettingsStore m_settings;
     ReportSink& m_report;
     std::weak_ptr<PipeWireThread> m_thread;
-    std::vector<std::unique_ptr<PipeWireThread>> m_ending;
+    FeedMaker m_makeSecondFeed;
+    std::shared_ptr<EndingThreads> m_ending;
 };
 
 } // namespace Platform

@@ -72,6 +72,8 @@ void PipeWireConnection::addObserver(Observer* observer)
         connectToServer();
     } else if (m_isListed || m_isDenied) {
         observer->camerasChanged();
+    } else if (m_isMissing) {
+        observer->serverMissing();
     }
 }
 
@@ -110,10 +112,18 @@ void PipeWireConnection::connectToServer()
             qCInfo(CameraLog, "The camera server refuses the connection: %s", strerror(reason));
             announce();
         }
+        if (!isDenied && !m_wasReached && !m_isMissing) {
+            m_isMissing = true;
+            for (Observer* observer : m_observers) {
+                observer->serverMissing();
+            }
+        }
         m_reconnectTimer.startOnce(ReconnectDelay);
         return;
     }
     m_isDenied = false;
+    m_isMissing = false;
+    m_wasReached = true;
     m_isRegistryRead = false;
     pw_core_add_listener(m_core, &m_coreHook, &CoreEvents, this);
     m_registry = pw_core_get_registry(m_core, PW_VERSION_REGISTRY, 0);

@@ -27,6 +27,8 @@ public:
     public:
         // The list changed; a burst of changes comes as one.
         virtual void camerasChanged() = 0;
+        // No server answers, and none has before.
+        virtual void serverMissing() = 0;
         // A link to it failed: to that reader, which may be another program.
         virtual void linkFailed(const QString& serial, quint32 readerId, const QString& error) = 0;
         // The server couldn't run the camera of this serial.
@@ -82,6 +84,8 @@ private:
     spa_hook m_registryHook{};
     int m_firstRoundTrip = -1;
     bool m_isRegistryRead = false;
+    bool m_wasReached = false;
+    bool m_isMissing = false; // and never was there
     bool m_isListed = false;
     bool m_isDenied = false;
     CameraList m_cameras;

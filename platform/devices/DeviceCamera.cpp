@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/PipeWireCamera.h"
+#include "platform/devices/DeviceCamera.h"
 
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/pipewire/CameraLog.h"
-#include "platform/devices/pipewire/CameraSession.h"
 #include "platform/devices/pipewire/PictureSlot.h"
-#include "platform/devices/pipewire/PipeWireThread.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Platform {
 
@@ -19,11 +18,11 @@ const QString CurrentCameraKey = QStringLiteral("camera/current");
 
 } // namespace
 
-// Carries the session's news to the GUI thread. Late ones are dropped by the mailbox.
-class PipeWireCamera::Post final : public CameraSession::Listener
+// Carries the feed's news to the GUI thread. Late ones are dropped by the mailbox.
+class DeviceCamera::Post final : public CameraFeed::Listener
 {
 public:
-    Post(PipeWireCamera* camera, Mailbox::Sender sender) : m_camera(camera), m_sender(sender) {}
+    Post(DeviceCamera* camera, Mailbox::Sender sender) : m_camera(camera), m_sender(sender) {}
 
     void listArrived(const DeviceList& devices, const QString& preferredId, bool isDenied) override
     {
@@ -40,36 +39,37 @@ public:
     {
         m_sender.post([camera = m_camera] { camera->onPictureArrived(); });
     }
+    void serverMissing() override
+    {
+        m_sender.post([camera = m_camera] { camera->onServerMissing(); });
+    }
 
 private:
-    PipeWireCamera* m_camera;
+    DeviceCamera* m_camera;
     Mailbox::Sender m_sender;
 };
 
-PipeWireCamera::PipeWireCamera(Listener& listener, std::shared_ptr<PipeWireThread> thread,
-                               SettingsStore& settings, ReportSink& report)
+DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMaker makeSecondFeed,
+                           std::shared_ptr<EndingThreads> ending, SettingsStore& settings,
+                           ReportSink& report)
     : m_listener(listener),
-      m_thread(std::move(thread)),
+      m_makeSecondFeed(std::move(makeSecondFeed)),
+      m_ending(std::move(ending)),
       m_settings(settings),
       m_report(report),
-      m_slot(std::make_shared<PictureSlot>()),
-      m_session(std::make_shared<std::unique_ptr<CameraSession>>())
+      m_slot(std::make_shared<PictureSlot>())
 {
-    auto post = std::make_shared<std::unique_ptr<CameraSession::Listener>>(
-        std::make_unique<Post>(this, m_mailbox.sender()));
-    m_thread->post([session = m_session, slot = m_slot, post](PipeWireConnection& connection) {
-        *session = std::make_unique<CameraSession>(connection, slot, std::move(*post));
-    });
+    useFeed(makeFeed);
 }
 
-PipeWireCamera::~PipeWireCamera()
+DeviceCamera::~DeviceCamera()
 {
     stop();
+    m_feedMailbox.reset();
     m_mailbox.close();
-    m_thread->post([session = m_session](PipeWireConnection&) { session->reset(); });
 }
 
-void PipeWireCamera::setCurrent(const QString& id)
+void DeviceCamera::setCurrent(const QString& id)
 {
     m_settings.setValue(CurrentCameraKey, id);
     if (m_isChosen && id == m_currentId) {
@@ -79,7 +79,7 @@ void PipeWireCamera::setCurrent(const QString& id)
     notifyCurrentChanged();
 }
 
-DeviceState PipeWireCamera::state() const
+DeviceState DeviceCamera::state() const
 {
     if (m_isDenied) {
         return DeviceState::Denied;
@@ -99,12 +99,12 @@ DeviceState PipeWireCamera::state() const
     return m_openState == DeviceState::Working ? DeviceState::Silent : m_openState;
 }
 
-bool PipeWireCamera::delivers() const
+bool DeviceCamera::delivers() const
 {
     return m_slot->delivers();
 }
 
-void PipeWireCamera::start()
+void DeviceCamera::start()
 {
     if (!m_isStarted) {
         m_isStarted = true;
@@ -112,7 +112,7 @@ void PipeWireCamera::start()
     }
 }
 
-void PipeWireCamera::stop()
+void DeviceCamera::stop()
 {
     if (m_isStarted) {
         recordMeasurement();
@@ -121,18 +121,19 @@ void PipeWireCamera::stop()
     }
 }
 
-void PipeWireCamera::setOutputSize(const QSize& pixels)
+void DeviceCamera::setOutputSize(const QSize& pixels)
 {
-    postToSession([pixels](CameraSession& session) { session.setOutputSize(pixels); });
+    m_outputSize = pixels;
+    m_feed->setOutputSize(pixels);
 }
 
-QImage PipeWireCamera::latestPicture() const
+QImage DeviceCamera::latestPicture() const
 {
     return m_slot->newest();
 }
 
-void PipeWireCamera::onListArrived(const DeviceList& devices, const QString& preferredId,
-                                   bool isDenied)
+void DeviceCamera::onListArrived(const DeviceList& devices, const QString& preferredId,
+                                 bool isDenied)
 {
     const bool isListChanged = devices != m_devices;
     m_devices = devices;
@@ -151,7 +152,7 @@ void PipeWireCamera::onListArrived(const DeviceList& devices, const QString& pre
     }
 }
 
-void PipeWireCamera::onStateChanged(int generation, DeviceState state)
+void DeviceCamera::onStateChanged(int generation, DeviceState state)
 {
     if (generation != m_generation) {
         return;
@@ -162,7 +163,7 @@ void PipeWireCamera::onStateChanged(int generation, DeviceState state)
     notifyWorkState();
 }
 
-void PipeWireCamera::onPictureArrived()
+void DeviceCamera::onPictureArrived()
 {
     m_slot->notificationArrived();
     if (m_isStarted) {
@@ -170,17 +171,28 @@ void PipeWireCamera::onPictureArrived()
     }
 }
 
-void PipeWireCamera::postToSession(SessionJob job)
+// By letter of the camera's own, as the feed's mailbox goes with the feed.
+void DeviceCamera::onServerMissing()
 {
-    m_thread->post([session = m_session, job = std::move(job)](PipeWireConnection&) {
-        if (*session) {
-            job(**session);
+    m_mailbox.sender().post([this] {
+        if (m_makeSecondFeed) { // otherwise the server may still come
+            useFeed(std::exchange(m_makeSecondFeed, nullptr));
+            m_feed->setOutputSize(m_outputSize);
+            openCurrent();
         }
     });
 }
 
+// Nothing arrives any more from the feed before.
+void DeviceCamera::useFeed(const FeedMaker& makeFeed)
+{
+    m_feed.reset();
+    m_feedMailbox.emplace();
+    m_feed = makeFeed(m_slot, std::make_unique<Post>(this, m_feedMailbox->sender()), m_ending);
+}
+
 // What was chosen the last time is taken where it is there, and isn't waited for where it isn't.
-void PipeWireCamera::chooseFirst(const QString& preferredId)
+void DeviceCamera::chooseFirst(const QString& preferredId)
 {
     const QVariant remembered = m_settings.value(CurrentCameraKey);
     const QString id = remembered.toString();
@@ -188,7 +200,7 @@ void PipeWireCamera::chooseFirst(const QString& preferredId)
     choose(isOff || findDevice(id) != nullptr ? id : preferredId);
 }
 
-void PipeWireCamera::choose(const QString& id)
+void DeviceCamera::choose(const QString& id)
 {
     m_isChosen = true;
     m_didDeliver = false;
@@ -200,22 +212,20 @@ void PipeWireCamera::choose(const QString& id)
     }
 }
 
-void PipeWireCamera::openCurrent()
+void DeviceCamera::openCurrent()
 {
     m_openState = DeviceState::Ready;
     if (m_isStarted && !m_currentId.isEmpty()) {
         m_generation = m_slot->open();
-        postToSession([generation = m_generation, id = m_currentId](CameraSession& session) {
-            session.open(generation, id);
-        });
+        m_feed->open(m_generation, m_currentId);
     } else {
         m_generation = 0;
         m_slot->close();
-        postToSession([](CameraSession& session) { session.close(); });
+        m_feed->close();
     }
 }
 
-void PipeWireCamera::recordMeasurement()
+void DeviceCamera::recordMeasurement()
 {
     QJsonObject figures = m_slot->figures();
     figures.insert(QStringLiteral("state"), toString(state()));
@@ -223,7 +233,7 @@ void PipeWireCamera::recordMeasurement()
     m_report.recordMeasurement(QStringLiteral("camera"), figures);
 }
 
-const DeviceInfo* PipeWireCamera::findDevice(const QString& id) const
+const DeviceInfo* DeviceCamera::findDevice(const QString& id) const
 {
     const auto it = std::find_if(m_devices.cbegin(), m_devices.cend(),
                                  [&id](const DeviceInfo& device) { return device.id == id; });
@@ -231,7 +241,7 @@ const DeviceInfo* PipeWireCamera::findDevice(const QString& id) const
 }
 
 // By letter, as no listener is called from inside a call.
-void PipeWireCamera::notifyCurrentChanged()
+void DeviceCamera::notifyCurrentChanged()
 {
     m_mailbox.sender().post([this] {
         m_wasUsable = isUsable(state());
@@ -240,7 +250,7 @@ void PipeWireCamera::notifyCurrentChanged()
     });
 }
 
-void PipeWireCamera::notifyWorkState()
+void DeviceCamera::notifyWorkState()
 {
     const bool usable = isUsable(state());
     const bool works = delivers();

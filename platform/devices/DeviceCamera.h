@@ -4,27 +4,29 @@
 
 #include "platform/backend/CameraBackend.h"
 #include "platform/backend/Mailbox.h"
+#include "platform/devices/CameraFeed.h"
 
 #include <memory>
+#include <optional>
 
 namespace Platform {
 
-class CameraSession;
 class PictureSlot;
-class PipeWireThread;
 class ReportSink;
 class SettingsStore;
 
-// A user of the cameras of a PipeWire server. What waits for the server is done by its session on
-// the camera thread; this side only posts to it and is posted to.
-class PipeWireCamera final : public CameraBackend
+// A user of the cameras. What waits for a server or a driver is done by the feed on its threads;
+// this side only asks it and is posted to. Where the first feed finds no server, the second one
+// takes over for good.
+class DeviceCamera final : public CameraBackend
 {
 public:
-    PipeWireCamera(Listener& listener, std::shared_ptr<PipeWireThread> thread,
-                   SettingsStore& settings, ReportSink& report);
-    ~PipeWireCamera() override;
-    PipeWireCamera(const PipeWireCamera&) = delete;
-    PipeWireCamera& operator=(const PipeWireCamera&) = delete;
+    DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMaker makeSecondFeed,
+                 std::shared_ptr<EndingThreads> ending, SettingsStore& settings,
+                 ReportSink& report);
+    ~DeviceCamera() override;
+    DeviceCamera(const DeviceCamera&) = delete;
+    DeviceCamera& operator=(const DeviceCamera&) = delete;
 
     DeviceList devices() const override { return m_devices; }
     QString currentId() const override { return m_currentId; }
@@ -40,13 +42,13 @@ public:
 
 private:
     class Post;
-    using SessionJob = std::function<void(CameraSession&)>;
 
     void onListArrived(const DeviceList& devices, const QString& preferredId, bool isDenied);
     void onStateChanged(int generation, DeviceState state);
     void onPictureArrived();
+    void onServerMissing();
 
-    void postToSession(SessionJob job);
+    void useFeed(const FeedMaker& makeFeed);
     void chooseFirst(const QString& preferredId);
     void choose(const QString& id);
     void openCurrent();
@@ -56,11 +58,12 @@ private:
     void notifyWorkState();
 
     Listener& m_listener;
-    std::shared_ptr<PipeWireThread> m_thread;
+    FeedMaker m_makeSecondFeed; // null once it is in use
+    std::shared_ptr<EndingThreads> m_ending;
     SettingsStore& m_settings;
     ReportSink& m_report;
     std::shared_ptr<PictureSlot> m_slot;
-    std::shared_ptr<std::unique_ptr<CameraSession>> m_session; // its content: camera thread only
+    QSize m_outputSize;
     DeviceList m_devices;
     QString m_currentId;
     QString m_currentName;
@@ -72,6 +75,8 @@ private:
     bool m_wasUsable = false;                     // as told last
     bool m_didDeliver = false;
     Mailbox m_mailbox;
+    std::optional<Mailbox> m_feedMailbox; // of the feed in use
+    std::unique_ptr<CameraFeed> m_feed;
 };
 
 } // namespace Platform

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/DeviceInfo.h"
+
+#include <QSize>
+#include <functional>
+#include <memory>
+
+namespace Platform {
+
+class EndingThreads;
+class PictureSlot;
+
+// One camera user's line to whatever knows the cameras. Used on the GUI thread; nothing here waits,
+// and the destructor only asks its threads to end. Pictures go into the slot.
+class CameraFeed
+{
+public:
+    // Called on a thread of the feed.
+    class Listener
+    {
+    public:
+        virtual ~Listener() = default;
+        virtual void listArrived(const DeviceList& devices, const QString& preferredId,
+                                 bool isDenied) = 0;
+        virtual void stateChanged(int generation, DeviceState state) = 0;
+        virtual void pictureArrived() = 0;
+        virtual void serverMissing() = 0; // this machine has nothing to feed from
+    };
+
+    virtual ~CameraFeed() = default;
+
+    virtual void open(int generation, const QString& id) = 0; // now, or once it is there
+    virtual void close() = 0;
+    virtual void setOutputSize(const QSize& pixels) = 0;
+};
+
+using FeedMaker = std::function<std::unique_ptr<CameraFeed>(std::shared_ptr<PictureSlot>,
+                                                            std::unique_ptr<CameraFeed::Listener>,
+                                                            std::shared_ptr<EndingThreads>)>;
+
+} // namespace Platform
