@@ -15,4 +15,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 # A plug-in, which nothing links: it draws the pictures.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt5svg5)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qttranslations5-l10n, fonts-noto-core, fonts-noto-cjk")
+if(TARGET PkgConfig::V4L2)
+    # Likewise: the elements of the cameras' pipeline.
+    string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS
+        ", gstreamer1.0-plugins-base, gstreamer1.0-plugins-good")
+endif()
 include(CPack)

@@ -6,16 +6,18 @@ run_packages=(
     cmake ninja-build g++ ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libnice-dev libpulse-dev libmpg123-dev libpipewire-0.3-dev libspa-0.2-dev libyuv-dev
+    libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
 test_packages=(
     coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
-    libspa-0.2-modules dbus ffmpeg fluidsynth fluid-soundfont-gm
+    libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
 )
-benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins libgstreamer1.0-dev gstreamer1.0-plugins-good
-    libgstreamer-plugins-base1.0-dev gstreamer1.0-pipewire gstreamer1.0-x)
+benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
+    gstreamer1.0-pipewire gstreamer1.0-x)
 ci_packages=(clang-format clang-tidy)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/CameraFeed.h"
+
+#include <functional>
+#include <memory>
+
+typedef struct _GstElement GstElement;
+
+namespace Platform {
+
+class VideoDevices;
+
+// What a V4L2 camera is made of; what stands below it can be another thing.
+struct V4l2Parts
+{
+    std::function<std::unique_ptr<VideoDevices>()> makeDevices; // on the camera thread
+    // An element that delivers the pictures of that device; null where there is none. On the
+    // stream's thread, which it may block.
+    std::function<GstElement*(const QString& path)> makeSource;
+};
+
+V4l2Parts systemV4l2Parts(); // udev and v4l2src
+
+FeedMaker v4l2FeedMaker(const V4l2Parts& parts = systemV4l2Parts());
+
+} // namespace Platform

@@ -1,0 +1,299 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/v4l2/V4l2Stream.h"
+
+#include "platform/devices/pipewire/PictureSlot.h"
+
+#include <cerrno>
+#include <gst/app/gstappsink.h>
+#include <gst/video/video.h>
+#include <initializer_list>
+#include <mutex>
+#include <optional>
+
+namespace Platform {
+
+namespace {
+
+constexpr GstClockTime PollPeriod = 50 * GST_MSECOND;
+// The first is what is preferred where there is a choice: enough for a sharp preview on any screen.
+constexpr const char* ReadableCaps =
+    "video/x-raw, format=(string){ YUY2, UYVY, NV12, I420, RGB, BGR, RGBx, BGRx, xRGB, xBGR }, "
+    "width=640, height=480, framerate=(fraction)[ 1/1, 30/1 ]; "
+    "video/x-raw, format=(string){ YUY2, UYVY, NV12, I420, RGB, BGR, RGBx, BGRx, xRGB, xBGR }; "
+    "image/jpeg";
+
+template <typename Object>
+struct Unref
+{
+    void operator()(Object* object) const { gst_object_unref(object); }
+};
+using Element = std::unique_ptr<GstElement, Unref<GstElement>>;
+using Bus = std::unique_ptr<GstBus, Unref<GstBus>>;
+
+struct Failure
+{
+    DeviceState state;
+    QString text;
+};
+
+PixelLayout layoutOf(GstVideoFormat format)
+{
+    switch (format) {
+    case GST_VIDEO_FORMAT_YUY2:
+        return PixelLayout::Yuy2;
+    case GST_VIDEO_FORMAT_UYVY:
+        return PixelLayout::Uyvy;
+    case GST_VIDEO_FORMAT_NV12:
+        return PixelLayout::Nv12;
+    case GST_VIDEO_FORMAT_I420:
+        return PixelLayout::I420;
+    case GST_VIDEO_FORMAT_RGB:
+        return PixelLayout::Rgb;
+    case GST_VIDEO_FORMAT_BGR:
+        return PixelLayout::Bgr;
+    case GST_VIDEO_FORMAT_RGBx:
+        return PixelLayout::Rgbx;
+    case GST_VIDEO_FORMAT_BGRx:
+        return PixelLayout::Bgrx;
+    case GST_VIDEO_FORMAT_xRGB:
+        return PixelLayout::Xrgb;
+    case GST_VIDEO_FORMAT_xBGR:
+        return PixelLayout::Xbgr;
+    default:
+        return PixelLayout::None;
+    }
+}
+
+YuvColour colourOf(const GstVideoColorimetry& colorimetry)
+{
+    const bool isFull = colorimetry.range == GST_VIDEO_COLOR_RANGE_0_255;
+    if (colorimetry.matrix == GST_VIDEO_COLOR_MATRIX_BT709) {
+        return isFull ? YuvColour::Bt709Full : YuvColour::Bt709;
+    }
+    return isFull ? YuvColour::Bt601Full : YuvColour::Bt601;
+}
+
+// The system's own words for a reason, in its own language.
+bool says(const QString& text, std::initializer_list<int> reasons)
+{
+    return std::any_of(reasons.begin(), reasons.end(), [&text](int reason) {
+        return text.contains(QString::fromUtf8(g_strerror(reason)));
+    });
+}
+
+DeviceState stateOf(const GError& error, const QString& text)
+{
+    const auto is = [&error](GstResourceError code) {
+        return g_error_matches(&error, GST_RESOURCE_ERROR, code) != 0;
+    };
+    if (is(GST_RESOURCE_ERROR_BUSY) || says(text, {EBUSY})) {
+        return DeviceState::Busy;
+    }
+    if (is(GST_RESOURCE_ERROR_NOT_AUTHORIZED) || says(text, {EACCES, EPERM})) {
+        return DeviceState::Denied;
+    }
+    return DeviceState::Failed;
+}
+
+std::optional<Failure> failureOn(GstBus* bus)
+{
+    GstMessage* const message =
+        gst_bus_pop_filtered(bus, static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS));
+    if (message == nullptr) {
+        return std::nullopt;
+    }
+    Failure result{DeviceState::Failed, QStringLiteral("The camera sends no more pictures")};
+    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR) {
+        GError* error = nullptr;
+        gchar* details = nullptr;
+        gst_message_parse_error(message, &error, &details);
+        result.text = QString::fromUtf8(error->message) + QLatin1Char(' ') +
+                      QString::fromUtf8(details).simplified();
+        result.state = stateOf(*error, result.text);
+        g_error_free(error);
+        g_free(details);
+    }
+    gst_message_unref(message);
+    return result;
+}
+
+bool isGStreamerReady()
+{
+    static std::once_flag once;
+    static bool isReady = false;
+    std::call_once(once, [] {
+        isReady = gst_init_check(nullptr, nullptr, nullptr) != 0;
+        g_thread_pool_set_max_unused_threads(0); // they would outlive their streams for 15 s
+    });
+    return isReady;
+}
+
+Element kept(GstElement* element)
+{
+    return Element(element == nullptr ? nullptr : GST_ELEMENT(gst_object_ref_sink(element)));
+}
+
+Element makeSink()
+{
+    Element sink = kept(gst_element_factory_make("appsink", nullptr));
+    if (sink) {
+        GstCaps* const caps = gst_caps_from_string(ReadableCaps);
+        g_object_set(sink.get(), "caps", caps, "max-buffers", 1U, "drop", TRUE, "sync", FALSE,
+                     nullptr);
+        gst_caps_unref(caps);
+    }
+    return sink;
+}
+
+PictureView::Plane planeOf(const GstVideoFrame& frame, guint index)
+{
+    // Without a description of the planes all are in the first mapping.
+    const GstMapInfo& map = frame.map[frame.meta == nullptr ? 0 : index];
+    const auto* const data = static_cast<const uchar*>(GST_VIDEO_FRAME_PLANE_DATA(&frame, index));
+    return {data, static_cast<std::size_t>(map.data + map.size - data),
+            GST_VIDEO_FRAME_PLANE_STRIDE(&frame, index)};
+}
+
+} // namespace
+
+V4l2Stream::V4l2Stream(const V4l2Parts& parts, const QString& path, int generation,
+                       std::shared_ptr<PictureSlot> slot,
+                       std::shared_ptr<CameraFeed::Listener> user, Mailbox::Sender sender,
+                       Listener& listener)
+    : m_parts(parts),
+      m_path(path),
+      m_generation(generation),
+      m_slot(std::move(slot)),
+      m_user(std::move(user)),
+      m_sender(std::move(sender)),
+      m_listener(listener),
+      m_outputSize(QSize())
+{
+    setObjectName(QStringLiteral("v4l2 stream"));
+}
+
+V4l2Stream::~V4l2Stream() = default;
+
+void V4l2Stream::setOutputSize(const QSize& pixels)
+{
+    m_outputSize = pixels;
+}
+
+void V4l2Stream::run()
+{
+    if (isGStreamerReady()) {
+        tell([](Listener& listener) { listener.streamOpens(); });
+        open();
+    } else {
+        fail(QStringLiteral("GStreamer can't be used"));
+    }
+}
+
+void V4l2Stream::open()
+{
+    const Element source = kept(m_parts.makeSource(m_path));
+    const Element sink = makeSink();
+    if (!source || !sink) {
+        fail(QStringLiteral("GStreamer has no v4l2src or no appsink: install "
+                            "gstreamer1.0-plugins-good and -base"));
+        return;
+    }
+    const Element pipeline = kept(gst_pipeline_new(nullptr));
+    gst_bin_add_many(GST_BIN(pipeline.get()), source.get(), sink.get(), nullptr);
+    if (gst_element_link(source.get(), sink.get()) == 0) {
+        fail(QStringLiteral("The camera offers no format that can be shown"));
+        return;
+    }
+    play(pipeline.get(), sink.get());
+    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+}
+
+void V4l2Stream::fail(const QString& text, DeviceState state)
+{
+    tell([text, state](Listener& listener) { listener.streamEnded(state, text); });
+}
+
+template <typename Function>
+void V4l2Stream::tell(Function function)
+{
+    m_sender.post([function, listener = &m_listener] { function(*listener); });
+}
+
+void V4l2Stream::play(GstElement* pipeline, GstElement* sink)
+{
+    const Bus bus(gst_element_get_bus(pipeline));
+    if (isInterruptionRequested()) {
+        return;
+    }
+    if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE) {
+        const Failure failure = failureOn(bus.get()).value_or(
+            Failure{DeviceState::Failed, QStringLiteral("The camera doesn't start")});
+        fail(failure.text, failure.state);
+        return;
+    }
+    tell([](Listener& listener) { listener.streamRuns(); });
+    while (!isInterruptionRequested()) {
+        GstSample* const sample = gst_app_sink_try_pull_sample(GST_APP_SINK(sink), PollPeriod);
+        if (sample != nullptr) {
+            deliver(sample);
+            gst_sample_unref(sample);
+        }
+        if (const std::optional<Failure> failure = failureOn(bus.get())) {
+            fail(failure->text, failure->state);
+            return;
+        }
+    }
+}
+
+void V4l2Stream::deliver(GstSample* sample)
+{
+    GstCaps* const caps = gst_sample_get_caps(sample);
+    GstBuffer* const buffer = gst_sample_get_buffer(sample);
+    if (caps == nullptr || buffer == nullptr) {
+        return;
+    }
+    GstVideoInfo info;
+    gst_video_info_init(&info);
+    if (gst_video_info_from_caps(&info, caps) == 0) {
+        return;
+    }
+    PictureFormat format{PixelLayout::Mjpg, colourOf(info.colorimetry),
+                         QSize(GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info))};
+    PictureView view;
+    QImage picture;
+    if (GST_VIDEO_INFO_FORMAT(&info) == GST_VIDEO_FORMAT_ENCODED) {
+        GstMapInfo map;
+        if (gst_buffer_map(buffer, &map, GST_MAP_READ) != 0) {
+            view.planeCount = 1;
+            view.planes[0] = {map.data, map.size, 0};
+            picture = m_converter.convert(format, view, {}, m_outputSize);
+            gst_buffer_unmap(buffer, &map);
+        }
+    } else {
+        GstVideoFrame frame;
+        if (gst_video_frame_map(&frame, &info, buffer, GST_MAP_READ) != 0) {
+            format.layout = layoutOf(GST_VIDEO_INFO_FORMAT(&info));
+            view.planeCount = static_cast<int>(GST_VIDEO_FRAME_N_PLANES(&frame));
+            for (guint i = 0; i < GST_VIDEO_FRAME_N_PLANES(&frame) && i < view.planes.size(); ++i) {
+                view.planes[i] = planeOf(frame, i);
+            }
+            picture = m_converter.convert(format, view, {}, m_outputSize);
+            gst_video_frame_unmap(&frame);
+        }
+    }
+    if (picture.isNull() || isInterruptionRequested()) {
+        return;
+    }
+    if (!m_hasPicture) {
+        m_hasPicture = true;
+        const int rate = GST_VIDEO_INFO_FPS_N(&info);
+        m_slot->setRate(m_generation, double(rate) / std::max(GST_VIDEO_INFO_FPS_D(&info), 1));
+        tell([](Listener& listener) { listener.firstPictureArrived(); });
+    }
+    if (m_slot->put(m_generation, picture, format.size)) {
+        m_user->pictureArrived();
+    }
+}
+
+} // namespace Platform

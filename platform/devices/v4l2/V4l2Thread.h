@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/CameraFeed.h"
+#include "platform/devices/v4l2/V4l2Parts.h"
+
+#include <QThread>
+#include <functional>
+#include <memory>
+
+namespace Platform {
+
+class V4l2Session;
+
+// The thread that lists cameras, gives orders to their streams and watches over them. Made on the
+// GUI thread; must have ended before it is destroyed.
+class V4l2Thread final : public QThread
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(V4l2Thread)
+
+public:
+    V4l2Thread(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+               std::unique_ptr<CameraFeed::Listener> listener,
+               std::shared_ptr<EndingThreads> ending);
+    ~V4l2Thread() override;
+
+    void post(std::function<void(V4l2Session&)> job); // thread-safe; in order
+
+protected:
+    void run() override;
+
+private:
+    const V4l2Parts m_parts;
+    std::shared_ptr<PictureSlot> m_slot;
+    std::unique_ptr<CameraFeed::Listener> m_listener;
+    std::shared_ptr<EndingThreads> m_ending;
+    QObject m_receiver;
+    V4l2Session* m_session = nullptr; // on the thread itself only
+};
+
+} // namespace Platform

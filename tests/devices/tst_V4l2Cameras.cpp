@@ -1,0 +1,585 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/FileWriter.h"
+#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+#include "platform/devices/v4l2/V4l2Parts.h"
+#include "platform/devices/v4l2/VideoDevices.h"
+#include "tests/devices/ThreadCount.h"
+#include "tests/support/CameraProcess.h"
+#include "tests/support/MemoryReport.h"
+#include "tests/support/PipeWireServer.h"
+
+#include <QSemaphore>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <gst/gst.h>
+#include <mutex>
+
+using namespace Platform;
+using namespace TestSupport;
+
+namespace {
+
+constexpr int LongMs = 8000;
+constexpr int AtOnceMs = 100;
+constexpr int ReconnectsMs = 1000; // a few tries to reach the server that is gone
+const QSize PreviewSize(306, 172);
+const QString PlaceA = QStringLiteral("pci-0000:00:14.0-usb-0:5:1.0");
+const QString PlaceB = QStringLiteral("pci-0000:00:14.0-usb-0:6:1.0");
+// White at the left, blue at the right.
+const QByteArray Bars("videotestsrc is-live=true pattern=smpte100");
+
+class Watcher final : public CameraBackend::Listener
+{
+public:
+    void cameraListChanged() override { ++lists; }
+    void currentCameraChanged(const QString&) override {}
+    void cameraWorkStateChanged(const QString&, bool works) override { doesWork = works; }
+    void pictureArrived() override { ++pictures; }
+
+    int lists = 0;
+    int pictures = 0;
+    bool doesWork = false;
+};
+
+VideoDevices::Properties device(const QString& path, const QString& place, const QString& name,
+                                const QString& capabilities = QStringLiteral(":capture:"))
+{
+    return {{QStringLiteral("DEVNAME"), path},
+            {QStringLiteral("ID_PATH"), place},
+            {QStringLiteral("ID_V4L_PRODUCT"), name},
+            {QStringLiteral("ID_V4L_CAPABILITIES"), capabilities}};
+}
+
+// The sockets of a machine whose cameras are plugged in and out by the test.
+class Sockets
+{
+public:
+    void plug(const VideoDevices::Properties& properties)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_present.insert(properties.value(QStringLiteral("DEVNAME")), properties);
+        post([properties](VideoDevices::Listener& listener) { listener.deviceFound(properties); });
+    }
+    void unplug(const QString& path)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_present.remove(path);
+        post([path](VideoDevices::Listener& listener) { listener.deviceGone(path); });
+    }
+    std::unique_ptr<VideoDevices> makeDevices() { return std::make_unique<Devices>(*this); }
+    int users() const { return m_users; }
+
+private:
+    class Devices final : public VideoDevices
+    {
+    public:
+        explicit Devices(Sockets& sockets) : m_sockets(sockets) { ++sockets.m_users; }
+        ~Devices() override
+        {
+            const std::lock_guard<std::mutex> lock(m_sockets.m_mutex);
+            m_sockets.m_receiver = nullptr;
+        }
+        void start(Listener& listener) override
+        {
+            const std::lock_guard<std::mutex> lock(m_sockets.m_mutex);
+            m_sockets.m_receiver = &m_receiver;
+            m_sockets.m_listener = &listener;
+            for (const Properties& properties : qAsConst(m_sockets.m_present)) {
+                listener.deviceFound(properties);
+            }
+        }
+
+    private:
+        Sockets& m_sockets;
+        QObject m_receiver;
+    };
+
+    template <typename Function>
+    void post(Function function)
+    {
+        if (m_receiver != nullptr) {
+            QMetaObject::invokeMethod(
+                m_receiver, [function, listener = m_listener] { function(*listener); },
+                Qt::QueuedConnection);
+        }
+    }
+
+    std::mutex m_mutex;
+    QMap<QString, VideoDevices::Properties> m_present;
+    QObject* m_receiver = nullptr;
+    VideoDevices::Listener* m_listener = nullptr;
+    std::atomic_int m_users = 0;
+};
+
+std::atomic_int sourcesAlive = 0;
+
+GstElement* makeElement(const QByteArray& description)
+{
+    GstElement* const result =
+        gst_parse_bin_from_description(description.constData(), TRUE, nullptr);
+    ++sourcesAlive;
+    g_object_weak_ref(
+        G_OBJECT(result), [](gpointer, GObject*) { --sourcesAlive; }, nullptr);
+    return result;
+}
+
+// Fails with its first picture, as a driver may.
+GstElement* makeFailingElement(GstResourceError code, const QByteArray& details)
+{
+    struct Reason
+    {
+        GstResourceError code;
+        QByteArray details;
+    };
+    GstElement* const result = makeElement(Bars);
+    GstPad* const pad = gst_element_get_static_pad(result, "src");
+    gst_pad_add_probe(
+        pad, GST_PAD_PROBE_TYPE_BUFFER,
+        [](GstPad* at, GstPadProbeInfo*, gpointer data) {
+            const auto* reason = static_cast<const Reason*>(data);
+            GstElement* const element = gst_pad_get_parent_element(at);
+            gst_element_message_full(element, GST_MESSAGE_ERROR, GST_RESOURCE_ERROR, reason->code,
+                                     nullptr, g_strdup(reason->details.constData()), __FILE__,
+                                     Q_FUNC_INFO, __LINE__);
+            gst_object_unref(element);
+            return GST_PAD_PROBE_DROP;
+        },
+        new Reason{code, details}, [](gpointer data) { delete static_cast<Reason*>(data); });
+    gst_object_unref(pad);
+    return result;
+}
+
+int threads()
+{
+    return QDir(QStringLiteral("/proc/self/task"))
+        .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
+        .size();
+}
+
+QStringList openFiles()
+{
+    QStringList result;
+    const QDir folder(QStringLiteral("/proc/self/fd"));
+    const QStringList names =
+        folder.entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
+    for (const QString& name : names) {
+        result << name + QStringLiteral(" ") + QFile::symLinkTarget(folder.filePath(name));
+    }
+    return result;
+}
+
+bool isNear(QRgb actual, QRgb expected)
+{
+    constexpr int Tolerance = 24;
+    return qAbs(qRed(actual) - qRed(expected)) <= Tolerance &&
+           qAbs(qGreen(actual) - qGreen(expected)) <= Tolerance &&
+           qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
+}
+
+} // namespace
+
+// The whole way from a machine without a PipeWire server to the pictures, above the kernel's
+// devices: these are played by GStreamer's test source.
+class tst_V4l2Cameras : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void leavesPipeWireItsCameras();
+    void listsCamerasAlone();
+    void knowsACameraByItsPlace();
+    void showsPictures_data();
+    void showsPictures();
+    void followsTheWishedSize();
+    void switchesCameras();
+    void picksUpReturningCamera();
+    void noticesSilence();
+    void tellsFailures_data();
+    void tellsFailures();
+    void tellsMissingSource();
+    void tellsSourceThatDoesNotStart();
+    void waitsForHungStart();
+    void leavesHungStartAtOnce();
+    void leavesNothingBehind();
+
+private:
+    void makeBackend();
+    QStringList ids() const;
+    QStringList names() const;
+    QString stateName() const { return toString(m_backend->state()); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    MemoryReport m_report;
+    Watcher m_watcher;
+    std::unique_ptr<Sockets> m_sockets;
+    std::function<GstElement*(const QString&)> m_makeSource;
+    std::unique_ptr<PipeWireCameraSystem> m_system;
+    std::unique_ptr<CameraBackend> m_backend;
+};
+
+void tst_V4l2Cameras::initTestCase()
+{
+    gst_init(nullptr, nullptr);
+}
+
+void tst_V4l2Cameras::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_RUNTIME_DIR", m_folder->path().toUtf8()); // no server there
+    qputenv("PIPEWIRE_RUNTIME_DIR", m_folder->path().toUtf8());
+    m_report = MemoryReport();
+    m_watcher = Watcher();
+    m_sockets = std::make_unique<Sockets>();
+    m_makeSource = [](const QString&) { return makeElement(Bars); };
+}
+
+void tst_V4l2Cameras::cleanup()
+{
+    m_backend.reset();
+    m_system.reset();
+    QTRY_COMPARE(threadCount("v4l2 cameras"), 0);
+    QTRY_COMPARE(threadCount("v4l2 stream"), 0);
+    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QVERIFY(FileWriter::waitForWritten(LongMs));
+}
+
+void tst_V4l2Cameras::leavesPipeWireItsCameras()
+{
+    PipeWireServer server;
+    qunsetenv("PIPEWIRE_RUNTIME_DIR");
+    QVERIFY2(server.start(), qPrintable(server.problem()));
+    const CameraProcess camera(QStringLiteral("cam_a"), QStringLiteral("Camera"), {});
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Other")));
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList(QStringLiteral("Camera")), LongMs);
+    QCOMPARE(m_sockets->users(), 0);
+
+    server.kill(); // it will be back
+    QTRY_VERIFY_WITH_TIMEOUT(names().isEmpty(), LongMs);
+    QTest::qWait(ReconnectsMs);
+    QVERIFY(names().isEmpty());
+    QCOMPARE(m_sockets->users(), 0);
+    m_backend.reset();
+    m_system.reset();
+}
+
+void tst_V4l2Cameras::listsCamerasAlone()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    m_sockets->plug(device(QStringLiteral("/dev/video1"), PlaceA, QStringLiteral("Camera"),
+                           QStringLiteral(":")));
+    m_sockets->plug(device(QStringLiteral("/dev/video2"), PlaceB, QStringLiteral("Camera")));
+    m_sockets->plug(device(QStringLiteral("/dev/video3"), QStringLiteral("infrared"),
+                           QStringLiteral("Integrated IR Camera")));
+    m_sockets->plug(device(QStringLiteral("/dev/video4"), QStringLiteral("encoder"),
+                           QStringLiteral("Encoder"), QStringLiteral(":video_output:")));
+    makeBackend();
+    const QStringList places{PlaceA, PlaceB};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), places, LongMs);
+    const QStringList numbered{QStringLiteral("Camera"), QStringLiteral("Camera (2)")};
+    QCOMPARE(names(), numbered);
+    QTRY_COMPARE(m_backend->currentId(), PlaceA);
+    QCOMPARE(stateName(), QStringLiteral("ready"));
+    QCOMPARE(m_watcher.lists, 1);
+
+    m_sockets->unplug(QStringLiteral("/dev/video0"));
+    m_sockets->unplug(QStringLiteral("/dev/video1"));
+    m_sockets->plug(device(QStringLiteral("/dev/video5"), {}, QStringLiteral("Box")));
+    const QStringList changed{QStringLiteral("/dev/video5"), PlaceB};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), changed, LongMs);
+    QTRY_COMPARE(m_watcher.lists, 2); // the burst comes as one
+}
+
+void tst_V4l2Cameras::knowsACameraByItsPlace()
+{
+    VideoDevices::Properties properties =
+        device(QStringLiteral("/dev/video0"), {}, QStringLiteral("Camera"));
+    properties.insert(QStringLiteral("ID_SERIAL"), QStringLiteral("Maker_Camera_0001"));
+    m_sockets->plug(properties);
+    m_sockets->plug(device(QStringLiteral("/dev/video1"), PlaceB, QStringLiteral("Other")));
+    makeBackend();
+    const QStringList expected{QStringLiteral("Maker_Camera_0001"), PlaceB};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), expected, LongMs);
+    m_backend->setCurrent(PlaceB);
+
+    m_sockets->unplug(QStringLiteral("/dev/video1"));
+    QTRY_COMPARE(stateName(), QStringLiteral("absent"));
+    m_sockets->plug(device(QStringLiteral("/dev/video7"), PlaceB, QStringLiteral("Other")));
+    QTRY_COMPARE(stateName(), QStringLiteral("ready"));
+    QCOMPARE(m_backend->currentId(), PlaceB);
+}
+
+void tst_V4l2Cameras::showsPictures_data()
+{
+    QTest::addColumn<QByteArray>("caps");
+    QTest::addColumn<QSize>("expected");
+    const QSize fitted(229, 172);
+    for (const char* layout :
+         {"YUY2", "UYVY", "NV12", "I420", "RGB", "BGR", "RGBx", "BGRx", "xRGB", "xBGR"}) {
+        QTest::newRow(layout) << QByteArray(" ! capsfilter caps=video/x-raw,format=") + layout
+                              << fitted;
+    }
+    QTest::newRow("motion JPEG") << QByteArray(" ! video/x-raw,format=I420 ! jpegenc quality=95")
+                                 << QSize(229, 172);
+    QTest::newRow("another size")
+        << QByteArray(" ! capsfilter caps=video/x-raw,width=1281,height=721,framerate=15/1")
+        << QSize(306, 172);
+    QTest::newRow("what it prefers") << QByteArray() << fitted; // 640 x 480
+}
+
+void tst_V4l2Cameras::showsPictures()
+{
+    QFETCH(QByteArray, caps);
+    QFETCH(QSize, expected);
+    m_makeSource = [caps](const QString&) { return makeElement(Bars + caps); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures > 3, LongMs);
+    QTRY_VERIFY(m_watcher.doesWork);
+    QCOMPARE(stateName(), QStringLiteral("working"));
+    const QImage picture = m_backend->latestPicture();
+    if (caps.contains("jpegenc")) {
+        QVERIFY(!picture.isNull()); // its source negotiates the smallest size
+    } else {
+        QCOMPARE(picture.size(), expected);
+    }
+    // Mirrored, as self-views are.
+    const int y = picture.height() / 4;
+    QVERIFY(isNear(picture.pixel(picture.width() / 14, y), qRgb(0, 0, 255)));
+    QVERIFY(isNear(picture.pixel(picture.width() * 13 / 14, y), qRgb(255, 255, 255)));
+    m_backend->stop();
+    QVERIFY(m_backend->latestPicture().isNull());
+    QCOMPARE(m_report.measurements.value(QStringLiteral("camera")).value(QLatin1String("state")),
+             QJsonValue(QStringLiteral("working")));
+}
+
+void tst_V4l2Cameras::followsTheWishedSize()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(229, 172), LongMs);
+    m_backend->setOutputSize(2 * PreviewSize);
+    QTRY_COMPARE(m_backend->latestPicture().size(), QSize(459, 344));
+}
+
+void tst_V4l2Cameras::switchesCameras()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    m_sockets->plug(device(QStringLiteral("/dev/video2"), PlaceB, QStringLiteral("Other")));
+    m_makeSource = [](const QString& path) {
+        return makeElement(path == QLatin1String("/dev/video2")
+                               ? QByteArray("videotestsrc is-live=true pattern=green")
+                               : Bars);
+    };
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    m_backend->setCurrent(PlaceB);
+    QVERIFY(m_backend->latestPicture().isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(isNear(m_backend->latestPicture().pixel(3, 3), qRgb(0, 255, 0)));
+    QTRY_COMPARE(sourcesAlive.load(), 1);
+    m_backend->setCurrent({});
+    QCOMPARE(stateName(), QStringLiteral("off"));
+    QTRY_COMPARE(sourcesAlive.load(), 0);
+}
+
+void tst_V4l2Cameras::picksUpReturningCamera()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    m_sockets->unplug(QStringLiteral("/dev/video0"));
+    QTRY_COMPARE(stateName(), QStringLiteral("absent"));
+    QVERIFY(m_backend->latestPicture().isNull());
+    QTRY_COMPARE(sourcesAlive.load(), 0);
+    m_sockets->plug(device(QStringLiteral("/dev/video3"), PlaceA, QStringLiteral("Camera")));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_V4l2Cameras::noticesSilence()
+{
+    GstElement* valve = nullptr;
+    m_makeSource = [&valve](const QString&) {
+        GstElement* const result = makeElement(Bars + " ! valve name=valve drop=true");
+        valve = gst_bin_get_by_name(GST_BIN(result), "valve");
+        return result;
+    };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("silent"), LongMs);
+    QVERIFY(isUsable(m_backend->state()));
+    g_object_set(valve, "drop", FALSE, nullptr);
+    QTRY_VERIFY(m_watcher.doesWork);
+    g_object_set(valve, "drop", TRUE, nullptr);
+    QTRY_VERIFY(!m_watcher.doesWork);
+    QCOMPARE(stateName(), QStringLiteral("silent"));
+    g_object_set(valve, "drop", FALSE, nullptr);
+    QTRY_VERIFY(m_watcher.doesWork);
+    gst_object_unref(valve);
+}
+
+void tst_V4l2Cameras::tellsFailures_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("details");
+    QTest::addColumn<QString>("expected");
+    const int open = GST_RESOURCE_ERROR_OPEN_READ_WRITE;
+    const auto reason = [](int error) { return QByteArray("system error: ") + g_strerror(error); };
+    QTest::newRow("busy") << int(GST_RESOURCE_ERROR_BUSY) << QByteArray("Device is in use")
+                          << QStringLiteral("busy");
+    QTest::newRow("busy when opened") << open << reason(EBUSY) << QStringLiteral("busy");
+    QTest::newRow("denied") << open << reason(EACCES) << QStringLiteral("denied");
+    QTest::newRow("not permitted") << open << reason(EPERM) << QStringLiteral("denied");
+    QTest::newRow("other") << open << reason(EIO) << QStringLiteral("failed");
+}
+
+void tst_V4l2Cameras::tellsFailures()
+{
+    QFETCH(int, code);
+    QFETCH(QByteArray, details);
+    QFETCH(QString, expected);
+    std::atomic_bool isRepaired = false;
+    m_makeSource = [&](const QString&) {
+        return isRepaired ? makeElement(Bars)
+                          : makeFailingElement(static_cast<GstResourceError>(code), details);
+    };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), expected, LongMs);
+    isRepaired = true;
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    m_backend.reset(); // what it uses is here
+    m_system.reset();
+}
+
+void tst_V4l2Cameras::tellsMissingSource()
+{
+    m_makeSource = [](const QString&) { return nullptr; };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+}
+
+void tst_V4l2Cameras::tellsSourceThatDoesNotStart()
+{
+    m_makeSource = [](const QString&) { return makeElement("filesrc location=/absent/camera"); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+}
+
+void tst_V4l2Cameras::waitsForHungStart()
+{
+    QSemaphore driver;
+    m_makeSource = [&driver](const QString&) {
+        driver.acquire();
+        return makeElement(Bars);
+    };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("hung"), LongMs);
+    QVERIFY(isUsable(m_backend->state()));
+    QCOMPARE(threadCount("v4l2 stream"), 1);
+    driver.release();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    m_backend.reset();
+    m_system.reset();
+}
+
+// Whoever leaves doesn't wait; what the driver finishes later is dropped and freed.
+void tst_V4l2Cameras::leavesHungStartAtOnce()
+{
+    QSemaphore driver;
+    std::atomic_int opening = 0;
+    m_makeSource = [&](const QString& path) {
+        ++opening;
+        if (path == QLatin1String("/dev/video0")) {
+            driver.acquire();
+        }
+        return makeElement(Bars);
+    };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    m_sockets->plug(device(QStringLiteral("/dev/video2"), PlaceB, QStringLiteral("Other")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(opening.load(), 1, LongMs);
+    m_backend->setCurrent(PlaceB);
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    m_backend->setCurrent(PlaceA);
+    QTRY_COMPARE_WITH_TIMEOUT(opening.load(), 3, LongMs);
+
+    QElapsedTimer duration;
+    duration.start();
+    m_backend->stop();
+    m_backend.reset();
+    QVERIFY(duration.elapsed() < AtOnceMs);
+    QTRY_COMPARE(threadCount("v4l2 cameras"), 0);
+    QCOMPARE(threadCount("v4l2 stream"), 2);
+    driver.release(2);
+    QTRY_COMPARE(threadCount("v4l2 stream"), 0);
+    QTRY_COMPARE(sourcesAlive.load(), 0);
+    m_system.reset();
+}
+
+void tst_V4l2Cameras::leavesNothingBehind()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    const int threadsBefore = threads();
+    const QStringList filesBefore = openFiles();
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QCOMPARE(sourcesAlive.load(), 1);
+    QVERIFY(threads() > threadsBefore);
+    m_backend->stop();
+    QTRY_COMPARE(sourcesAlive.load(), 0); // the light is out
+    m_backend.reset();
+    QTRY_VERIFY(threads() <= threadsBefore);
+    QTRY_COMPARE(openFiles(), filesBefore);
+}
+
+void tst_V4l2Cameras::makeBackend()
+{
+    V4l2Parts parts;
+    parts.makeDevices = [this] { return m_sockets->makeDevices(); };
+    parts.makeSource = m_makeSource;
+    m_system =
+        std::make_unique<PipeWireCameraSystem>(m_folder->path(), m_report, v4l2FeedMaker(parts));
+    m_backend = m_system->createCamera(m_watcher);
+    m_backend->setOutputSize(PreviewSize);
+}
+
+QStringList tst_V4l2Cameras::ids() const
+{
+    QStringList result;
+    for (const DeviceInfo& info : m_backend->devices()) {
+        result << info.id;
+    }
+    return result;
+}
+
+QStringList tst_V4l2Cameras::names() const
+{
+    QStringList result;
+    for (const DeviceInfo& info : m_backend->devices()) {
+        result << info.name;
+    }
+    return result;
+}
+
+QTEST_GUILESS_MAIN(tst_V4l2Cameras)
+#include "tst_V4l2Cameras.moc"
