@@ -5,6 +5,7 @@
 #include "platform/devices/pulse/PulseSound.h"
 #include "tests/support/ListeningRoom.h"
 #include "tests/support/MemoryReport.h"
+#include "tests/support/NoListener.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -24,22 +25,6 @@ constexpr int SmokeSettleMs = 500;
 constexpr double MaxRatio = 1.0;
 constexpr double MaxP90Ms = 30.0;
 constexpr double MaxMs = 60.0;
-
-class Listener final : public MicrophoneBackend::Listener, public SpeakerBackend::Listener
-{
-public:
-    void microphoneListChanged() override {}
-    void currentMicrophoneChanged(const QString&) override {}
-    void levelMeasured(double) override {}
-    void microphoneVolumeChanged(int) override {}
-    void microphoneInfoChanged() override {}
-    void microphoneWorkStateChanged(const QString&, bool) override {}
-    void systemVolumeChanged(float) override {}
-    void speakerListChanged() override {}
-    void currentSpeakerChanged(const QString&) override {}
-    void speakerVolumeChanged(int) override {}
-    void speakerWorkStateChanged(bool) override {}
-};
 
 struct Outcome
 {
@@ -94,7 +79,7 @@ int main(int argc, char** argv)
 
     TestSupport::MemoryReport report;
     PulseSound sound(report);
-    Listener listener;
+    TestSupport::NoListener listener;
     const std::unique_ptr<SpeakerBackend> speaker = sound.createSpeaker(listener);
     const std::unique_ptr<MicrophoneBackend> microphone = sound.createMicrophone(listener);
     speaker->setCurrent(QStringLiteral("room_speaker"));

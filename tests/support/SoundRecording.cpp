@@ -61,7 +61,7 @@ SoundRecording::SoundRecording(const QString& device, const QString& channelMap)
     : m_channels(channelMap.isEmpty() ? 2 : channelMap.count(QLatin1Char(',')) + 1)
 {
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
-                     [this] { m_data += m_process.readAllStandardOutput(); });
+                     [this] { take(); });
     QStringList arguments = rawFormat(device, m_channels);
     // Otherwise PipeWire moves a recording of the default device along with the default.
     arguments += QStringLiteral("--property=node.dont-reconnect=true");
@@ -122,11 +122,13 @@ float SoundRecording::peak(std::size_t from) const
 
 double SoundRecording::seconds() const
 {
-    return static_cast<double>(samples(0).size()) / Rate;
+    const int frameSize = m_channels * static_cast<int>(sizeof(float));
+    return static_cast<double>(m_data.size() / frameSize) / Rate;
 }
 
 void SoundRecording::forget()
 {
+    m_start = std::chrono::steady_clock::time_point::max();
     // A frame may be here only in part.
     m_data = m_data.right(m_data.size() % (m_channels * static_cast<int>(sizeof(float))));
 }
@@ -137,6 +139,16 @@ void SoundRecording::stop()
         m_process.kill();
         m_process.waitForFinished();
     }
+}
+
+// What comes late says nothing; the earliest of all is the best guess.
+void SoundRecording::take()
+{
+    const std::chrono::duration<double> before(seconds());
+    m_start = std::min(m_start,
+                       std::chrono::steady_clock::now() -
+                           std::chrono::duration_cast<std::chrono::steady_clock::duration>(before));
+    m_data += m_process.readAllStandardOutput();
 }
 
 SoundSource::SoundSource(const QString& device, const std::vector<float>& samples)

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QString>
+#include <chrono>
 #include <vector>
 
 namespace TestSupport {
@@ -27,13 +28,18 @@ public:
     // The loudest sample from the given one on.
     float peak(std::size_t from = 0) const;
     double seconds() const; // so far
-    void forget();          // what it has so far
+    // When its first sample was heard, to within a block of the server.
+    std::chrono::steady_clock::time_point start() const { return m_start; }
+    void forget(); // what it has so far
     void stop();
 
 private:
+    void take();
+
     QProcess m_process;
     int m_channels;
     QByteArray m_data;
+    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::time_point::max();
 };
 
 // Plays samples on a device, beginning at once.

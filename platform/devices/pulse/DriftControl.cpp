@@ -9,8 +9,12 @@ namespace Platform {
 
 namespace {
 
-// A millisecond too much is worked off in two seconds.
-constexpr double DeviationPerMs = 0.0005;
+// A millisecond too much is worked off in a second, and what it takes to keep it so is learnt from
+// window to window, as slowly as it comes to rest without swinging.
+constexpr double DeviationPerMs = 0.001;
+constexpr double DriftPerMs = DeviationPerMs * DeviationPerMs / 4.0 * DriftControl::WindowMs;
+// Worse clocks there are not.
+constexpr double MaxDrift = 0.012;
 
 } // namespace
 
@@ -26,9 +30,10 @@ void DriftControl::observe(double storeMs, double addedMs)
     const double tooMuch = m_lowestMs - m_reserveMs;
     if (tooMuch > ExcessMs) {
         m_excessMs = tooMuch;
-        m_deviation = 0.0;
+        m_deviation = m_drift;
     } else {
-        m_deviation = tooMuch * DeviationPerMs;
+        m_drift = std::clamp(m_drift + tooMuch * DriftPerMs, -MaxDrift, MaxDrift);
+        m_deviation = m_drift + tooMuch * DeviationPerMs;
     }
 }
 

@@ -31,6 +31,7 @@ private:
     double m_reserveMs = FirstReserveMs;
     double m_lowestMs = 0.0;
     double m_observedMs = 0.0; // of the window under way
+    double m_drift = 0.0;      // of the two clocks, as far as it is known
     double m_deviation = 0.0;
     double m_excessMs = 0.0;
 };

@@ -8,12 +8,12 @@
 
 namespace Platform {
 
-// Stretches or squeezes a sound by a few thousandths, so that one device's clock follows another's
+// Stretches or squeezes a sound by a hundredth or so, so that one device's clock follows another's
 // without a tear. Two samples of delay.
 class DriftResampler
 {
 public:
-    static constexpr double MaxDeviation = 0.005;
+    static constexpr double MaxDeviation = 0.015;
 
     // The share by which the sound is made shorter; a negative one makes it longer.
     void setDeviation(double deviation);

@@ -18,6 +18,7 @@ constexpr unsigned RoomMs = 200;
 // How long a pause in the sound is waited for to catch up in.
 constexpr double PatienceMs = 400.0;
 constexpr float Silence = 0.003F; // -50 dBFS
+constexpr double SilenceMs = 5.0; // shorter, it is but where a wave crosses zero
 constexpr char StreamName[] = "Listening to oneself";
 
 } // namespace
@@ -111,12 +112,13 @@ void ListenBack::takeExcess()
 // Nobody misses silence. Only where there is none is something left out that was to be heard.
 bool ListenBack::isSkipped(float sample)
 {
+    m_quiet = std::abs(sample) > Silence ? 0 : m_quiet + 1;
     if (m_toSkip == 0) {
         return false;
     }
     if (m_patience > 0) {
         --m_patience;
-        if (std::abs(sample) > Silence) {
+        if (static_cast<double>(m_quiet) < SilenceMs * m_samplesPerMs) {
             return false;
         }
     }

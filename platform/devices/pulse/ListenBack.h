@@ -42,6 +42,7 @@ private:
     DriftControl m_drift;
     std::size_t m_toSkip = 0;   // samples
     std::size_t m_patience = 0; // samples for which only silence is skipped
+    std::size_t m_quiet = 0;    // samples of silence up to here
     bool m_hasStarted = false;
     std::vector<float> m_output;
     PulseContextHandle m_context;
