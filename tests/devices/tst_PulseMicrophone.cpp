@@ -24,7 +24,8 @@ namespace {
 
 constexpr int TimeoutMs = 5000;
 constexpr int MaxGapMs = 50;
-constexpr int GoneMs = 500; // a level of nothing is due by then
+constexpr int GoneMs = 500;          // a level of nothing is due by then
+constexpr double MaxPauseMs = 200.0; // in listening, when a device changes
 constexpr float Audible = 0.003F;
 
 class MicrophoneListener final : public MicrophoneBackend::Listener
@@ -89,6 +90,7 @@ private Q_SLOTS:
         m_microphone.reset();
         m_sound.reset();
         m_server.reset();
+        m_replaced.clear();
     }
 
     void monitorsAreNoMicrophones()
@@ -143,6 +145,77 @@ private Q_SLOTS:
 
         m_server->plugMicrophone(id("microphone_a"), QStringLiteral("Test Microphone A"));
         QTRY_VERIFY_WITH_TIMEOUT(level() > 0.6, TimeoutMs);
+    }
+
+    void defaultSwitched()
+    {
+        m_server->plugSpeaker(id("whispers"), id("Whispers"));
+        m_server->plugMicrophone(id("second"), id("Second"), id("whispers"));
+        QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
+        SoundSource voice(id("voice"), TestSupport::tone(20.0, 1000.0, -20.0));
+        SoundSource whisper(id("whispers"), TestSupport::tone(20.0, 1000.0, -40.0));
+        m_microphone->open();
+        QTRY_VERIFY(isLevelAt(-20.0));
+
+        // None is chosen: it follows.
+        m_server->control({id("set-default-source"), id("second")});
+        QTRY_COMPARE(m_listener->currents.last(), id("second"));
+        QTRY_VERIFY(isLevelAt(-40.0));
+        m_server->control({id("set-default-source"), id("microphone_a")});
+        QTRY_COMPARE(m_listener->currents.last(), id("microphone_a"));
+        QTRY_VERIFY(isLevelAt(-20.0));
+        QCOMPARE(captures(), 1);
+
+        // One is chosen: it stays.
+        m_microphone->setCurrent(id("second"));
+        QTRY_VERIFY(isLevelAt(-40.0));
+        const int currents = m_listener->currents.size();
+        for (const char* other : {"second", "microphone_a"}) {
+            m_server->control({id("set-default-source"), id(other)});
+            QTRY_COMPARE(m_server->control({id("get-default-source")}), QByteArray(other));
+            m_listener->levels.clear();
+            QTest::qWait(GoneMs);
+            QVERIFY(areLevelsAt(-40.0));
+        }
+        QCOMPARE(m_listener->currents.size(), currents);
+        QCOMPARE(m_microphone->currentId(), id("second"));
+        QCOMPARE(captures(), 1);
+    }
+
+    // On PipeWire everything changes its rate as it runs; on PulseAudio the device is replaced.
+    void rateChanged()
+    {
+        m_speaker = m_sound->createSpeaker(m_speakerListener);
+        m_speaker->setCurrent(id("speaker_b"));
+        m_microphone->open();
+        m_microphone->setListening(true);
+        SoundRecording speaker(id("speaker_b.monitor"));
+        SoundSource voice(id("voice"), TestSupport::tone(30.0, 1000.0, -20.0));
+        QTRY_VERIFY(speaker.peak() > 0.05F);
+        for (const int rate : {44100, 48000}) {
+            QTRY_VERIFY(isLevelAt(-20.0));
+            m_listener->levels.clear();
+            speaker.forget();
+            QElapsedTimer clock;
+            clock.start();
+            setRate(rate);
+            QTRY_COMPARE(microphoneRate(), rate);
+            QTest::qWait(1000);
+            const double aSecond =
+                1000.0 * m_listener->levels.size() / static_cast<double>(clock.elapsed());
+            const double pause = longestSilenceMs(speaker.samples());
+            qInfo("%d Hz: %.0f levels a second, nothing heard for %.0f ms", rate, aSecond, pause);
+            QVERIFY(aSecond >= 30.0);
+            QVERIFY(pause < MaxPauseMs);
+
+            QTRY_VERIFY(isLevelAt(-20.0));
+            m_listener->levels.clear();
+            speaker.forget();
+            QTest::qWait(300);
+            QVERIFY(areLevelsAt(-20.0));
+            const std::vector<float> heard = speaker.samples();
+            QVERIFY(TestSupport::rms(heard, 0, heard.size()) > 0.05);
+        }
     }
 
     void levels_data()
@@ -407,6 +480,60 @@ private Q_SLOTS:
 private:
     double level() const { return m_listener->levels.isEmpty() ? -1.0 : m_listener->levels.last(); }
 
+    bool isLevelAt(double decibels) const { return isAt(level(), decibels); }
+
+    bool areLevelsAt(double decibels) const
+    {
+        const QList<double>& levels = m_listener->levels;
+        return !levels.isEmpty() &&
+               std::all_of(levels.begin(), levels.end(),
+                           [decibels](double level) { return isAt(level, decibels); });
+    }
+
+    static bool isAt(double level, double decibels)
+    {
+        return std::abs(level - (1.0 + decibels / 60.0)) < 0.01;
+    }
+
+    static double longestSilenceMs(const std::vector<float>& heard)
+    {
+        int longest = 0;
+        int silent = 0;
+        for (const float sample : heard) {
+            silent = std::abs(sample) < Audible ? silent + 1 : 0;
+            longest = std::max(longest, silent);
+        }
+        return 1000.0 * longest / SoundRecording::Rate;
+    }
+
+    void setRate(int rate)
+    {
+        if (m_server->kind() == SoundServer::Kind::PipeWire) {
+            QProcess settings;
+            settings.start(id("pw-metadata"), {id("-n"), id("settings"), id("0"),
+                                               id("clock.force-rate"), QString::number(rate)});
+            QVERIFY(settings.waitForFinished());
+            QCOMPARE(settings.exitCode(), 0);
+        } else {
+            m_server->unplug(m_replaced.isEmpty() ? m_server->microphoneA() : m_replaced);
+            m_replaced = m_server->control(
+                {id("load-module"), id("module-remap-source"), id("source_name=microphone_a"),
+                 id("master=voice.monitor"), QStringLiteral("rate=%1").arg(rate)});
+        }
+    }
+
+    int microphoneRate() // as the server tells it: "... 2ch 48000Hz ..."
+    {
+        const QList<QByteArray> lines =
+            m_server->control({id("list"), id("short"), id("sources")}).split('\n');
+        for (const QByteArray& line : lines) {
+            if (line.contains("\tmicrophone_a\t")) {
+                return line.mid(line.indexOf("ch ") + 3, 5).toInt();
+            }
+        }
+        return 0;
+    }
+
     QByteArray sourceVolume()
     {
         return m_server->control({id("get-source-volume"), id("microphone_a")});
@@ -425,6 +552,7 @@ private:
     }
 
     std::unique_ptr<SoundServer> m_server;
+    QByteArray m_replaced; // module of the microphone that stands for the first one
     TestSupport::MemoryReport m_report;
     std::unique_ptr<PulseSound> m_sound;
     std::unique_ptr<MicrophoneListener> m_listener;
