@@ -135,6 +135,8 @@ private Q_SLOTS:
     void ignoresAbsentRememberedChoice();
     void measures();
     void leavesNothingBehind();
+    void keepsNoDescriptorsOfHaste_data();
+    void keepsNoDescriptorsOfHaste();
 
 private:
     using Camera = std::unique_ptr<CameraProcess>;
@@ -738,6 +740,40 @@ void tst_PipeWireCameras::leavesNothingBehind()
     m_backend.reset();
     QTRY_COMPARE(openFiles(), before);
     QTRY_COMPARE(cameraThreads(), 0);
+}
+
+void tst_PipeWireCameras::keepsNoDescriptorsOfHaste_data()
+{
+    QTest::addColumn<bool>("isBackendKept");
+    QTest::newRow("one backend") << true;
+    QTest::newRow("a backend each") << false;
+}
+
+// Closed in all phases of its start, so that the server's answers come too late.
+void tst_PipeWireCameras::keepsNoDescriptorsOfHaste()
+{
+    QFETCH(bool, isBackendKept);
+    constexpr int Rounds = 5;
+    constexpr int MaxDelayMs = 10;
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    const QStringList before = openFiles();
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    for (int i = 0; i < Rounds * MaxDelayMs; ++i) {
+        m_backend->start();
+        QTest::qWait(i % MaxDelayMs);
+        m_backend->stop();
+        if (!isBackendKept) {
+            m_backend.reset();
+            m_backend = m_system->createCamera(m_watcher);
+            QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+        }
+    }
+    m_backend->start(); // what came before is over once it shows
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    m_backend.reset();
+    QTRY_COMPARE(cameraThreads(), 0);
+    QTRY_COMPARE(openFiles(), before);
 }
 
 tst_PipeWireCameras::Camera tst_PipeWireCameras::plug(const QString& name,

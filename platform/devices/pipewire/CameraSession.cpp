@@ -137,7 +137,7 @@ void CameraSession::pictureReceived(const PictureFormat& format, const PictureVi
 void CameraSession::openStream()
 {
     const std::optional<QString> serial = m_connection.cameras().serialOf(m_id);
-    if (m_stream || m_retryTimer.isActive() || !serial || m_connection.core() == nullptr) {
+    if (m_stream || m_retryTimer.isActive() || !serial || !m_connection.isConnected()) {
         return;
     }
     m_serial = *serial;
@@ -146,7 +146,7 @@ void CameraSession::openStream()
         report(DeviceState::Failed);
         return;
     }
-    m_stream = std::make_unique<CameraStream>(m_connection.core(), m_serial, AskedSize,
+    m_stream = std::make_unique<CameraStream>(m_connection.context(), m_serial, AskedSize,
                                               *static_cast<CameraStream::Listener*>(this));
     m_deadlineTimer.startOnce(StartDeadline);
     const QString error = m_connection.errorOf(m_serial);

@@ -148,15 +148,18 @@ const pw_stream_events CameraStream::Events = [] {
     return events;
 }();
 
-CameraStream::CameraStream(pw_core* core, const QString& serial, const QSize& wishedSize,
+CameraStream::CameraStream(pw_context* context, const QString& serial, const QSize& wishedSize,
                            Listener& listener)
-    : m_listener(listener)
+    : m_listener(listener), m_core(pw_context_connect(context, nullptr, 0))
 {
+    if (m_core == nullptr) {
+        return;
+    }
     pw_properties* const properties =
         pw_properties_new(PW_KEY_MEDIA_TYPE, "Video", PW_KEY_MEDIA_CATEGORY, "Capture",
                           PW_KEY_MEDIA_ROLE, "Camera", PW_KEY_TARGET_OBJECT,
                           serial.toUtf8().constData(), PW_KEY_NODE_DONT_RECONNECT, "true", nullptr);
-    m_stream = pw_stream_new(core, "camera check", properties);
+    m_stream = pw_stream_new(m_core, "camera check", properties);
     if (m_stream != nullptr) {
         pw_stream_add_listener(m_stream, &m_hook, &Events, this);
         connectTo(wishedSize);
@@ -170,6 +173,14 @@ CameraStream::~CameraStream()
         spa_hook_remove(&m_hook);
         pw_stream_destroy(m_stream);
     }
+    if (m_core != nullptr) {
+        pw_core_disconnect(m_core); // before the loop reads on
+    }
+}
+
+quint32 CameraStream::nodeId() const
+{
+    return m_stream == nullptr ? PW_ID_ANY : pw_stream_get_node_id(m_stream);
 }
 
 void CameraStream::connectTo(const QSize& wishedSize)

@@ -10,6 +10,9 @@
 namespace Platform {
 
 // The pictures of one camera, from construction to destruction. On the camera thread only.
+// It has a connection to the server of its own, which ends with it: on a shared one the server's
+// late answers would still be read, and their file descriptors, which nobody takes any more, would
+// stay open.
 class CameraStream
 {
 public:
@@ -27,12 +30,13 @@ public:
         ~Listener() = default;
     };
 
-    CameraStream(pw_core* core, const QString& serial, const QSize& wishedSize, Listener& listener);
+    CameraStream(pw_context* context, const QString& serial, const QSize& wishedSize,
+                 Listener& listener);
     ~CameraStream();
     CameraStream(const CameraStream&) = delete;
     CameraStream& operator=(const CameraStream&) = delete;
 
-    quint32 nodeId() const { return pw_stream_get_node_id(m_stream); }
+    quint32 nodeId() const;
 
 private:
     void connectTo(const QSize& wishedSize);
@@ -44,6 +48,7 @@ private:
     static const pw_stream_events Events;
 
     Listener& m_listener;
+    pw_core* m_core; // null where the server takes no more connections
     pw_stream* m_stream = nullptr;
     spa_hook m_hook{};
     PictureFormat m_format;

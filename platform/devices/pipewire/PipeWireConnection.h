@@ -33,7 +33,7 @@ public:
         virtual void linkFailed(const QString& serial, quint32 readerId, const QString& error) = 0;
         // The server couldn't run the camera of this serial.
         virtual void cameraFailed(const QString& serial, const QString& error) = 0;
-        // The server is gone: everything made with core() must be destroyed now.
+        // The server is gone, and with it everything that was opened there.
         virtual void connectionLost() = 0;
 
     protected:
@@ -55,7 +55,8 @@ public:
     void nodeFailed(const CameraNode& node, const QString& error) override;
 
     pw_loop* loop() const { return m_loop; }
-    pw_core* core() const { return m_core; } // null while there is no server
+    pw_context* context() const { return m_context; } // for connections of one's own
+    bool isConnected() const { return m_core != nullptr; }
     const CameraList& cameras() const { return m_cameras; }
     QString errorOf(const QString& serial) const; // the server's last word on that camera
     bool isListed() const { return m_isListed; }  // what the server had at first is in the list
