@@ -3,11 +3,12 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QThread>
 #include <algorithm>
 #include <utility>
 
-// An application that knows how long this thread was kept by the handler of one event: nothing else
-// is answered meanwhile. What the machine takes from the thread between events doesn't count.
+// An application that knows how long its own thread was kept by the handler of one event: nothing
+// else is answered meanwhile. What the machine takes from the thread between events doesn't count.
 template <typename Application>
 class HandlerMeter final : public Application
 {
@@ -19,7 +20,7 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
-        if (std::exchange(m_isInside, true)) {
+        if (QThread::currentThread() != this->thread() || std::exchange(m_isInside, true)) {
             return Application::notify(receiver, event);
         }
         QElapsedTimer clock;

@@ -29,6 +29,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -72,6 +73,9 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
+        if (QThread::currentThread() != thread()) {
+            return QApplication::notify(receiver, event);
+        }
         if (m_callback && event->type() == QEvent::Paint) {
             m_isPainted = m_isPainted || qobject_cast<QDialog*>(
                                              static_cast<QWidget*>(receiver)->window()) != nullptr;
