@@ -18,12 +18,14 @@ constexpr int MaxCpuInfoLines = 64; // the first processor's block is shorter
 
 } // namespace
 
+#ifdef Q_OS_WIN
+// Without the build number in brackets, for which the step has no room.
 QStringList MachineFacts::operatingSystem()
 {
-    return {QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()};
+    return {QSysInfo::prettyProductName().section(QStringLiteral(" ("), 0, 0),
+            QSysInfo::currentCpuArchitecture()};
 }
 
-#ifdef Q_OS_WIN
 QString MachineFacts::processorName()
 {
     const QSettings processor(
@@ -33,6 +35,11 @@ QString MachineFacts::processorName()
     return name.trimmed().isEmpty() ? QSysInfo::currentCpuArchitecture() : name.simplified();
 }
 #else
+QStringList MachineFacts::operatingSystem()
+{
+    return {QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()};
+}
+
 QString MachineFacts::processorName(const QString& cpuInfoPath)
 {
     QFile file(cpuInfoPath);

@@ -43,6 +43,7 @@ void tst_WindowsFacts::operatingSystem()
     const QStringList facts = MachineFacts::operatingSystem();
     QCOMPARE(facts.size(), 2);
     QVERIFY2(facts.at(0).startsWith(QLatin1String("Windows ")), qPrintable(facts.at(0)));
+    QVERIFY2(!facts.at(0).contains(QLatin1Char('(')), qPrintable(facts.at(0)));
     SYSTEM_INFO system = {};
     GetNativeSystemInfo(&system);
     QCOMPARE(int(system.wProcessorArchitecture), PROCESSOR_ARCHITECTURE_AMD64);
