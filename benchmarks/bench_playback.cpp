@@ -8,6 +8,7 @@
 #include "platform/devices/pulse/PulseSound.h"
 #include "platform/devices/pulse/SoundBuffer.h"
 #include "tests/support/MemoryReport.h"
+#include "tests/support/NoListener.h"
 #include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
 
@@ -40,16 +41,6 @@ constexpr double MaxRatioToQt = 0.8;
 constexpr double MaxRatioToGStreamer = 1.0;
 constexpr double MaxP90Ms = 60.0;
 constexpr double MaxHandlerMs = 2.0;
-
-class Listener final : public SpeakerBackend::Listener, public PlayerBackend::Listener
-{
-public:
-    void speakerListChanged() override {}
-    void currentSpeakerChanged(const QString&) override {}
-    void speakerVolumeChanged(int) override {}
-    void speakerWorkStateChanged(bool) override {}
-    void playbackFinished() override {}
-};
 
 struct Contestant
 {
@@ -128,7 +119,7 @@ int main(int argc, char** argv)
 
     TestSupport::MemoryReport report;
     PulseSound sound(report);
-    Listener listener;
+    TestSupport::NoListener listener;
     const std::unique_ptr<SpeakerBackend> speaker = sound.createSpeaker(listener);
     std::unique_ptr<PlayerBackend> player;
     std::unique_ptr<QMediaPlayer> qtPlayer;

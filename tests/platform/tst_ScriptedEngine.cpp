@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/NoListener.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -681,28 +682,12 @@ void tst_ScriptedEngine::recordsReports()
 
 void tst_ScriptedEngine::recordsWhatItMeasured()
 {
-    struct Listener final : CameraBackend::Listener,
-                            MicrophoneBackend::Listener,
-                            SpeakerBackend::Listener,
-                            PlayerBackend::Listener,
-                            NetworkProbe::Listener
+    struct Listener final : TestSupport::NoListener, CameraBackend::Listener, NetworkProbe::Listener
     {
-        void playbackFinished() override {}
         void cameraListChanged() override {}
         void currentCameraChanged(const QString&) override {}
         void cameraWorkStateChanged(const QString&, bool) override {}
         void pictureArrived() override { ++pictures; }
-        void microphoneListChanged() override {}
-        void currentMicrophoneChanged(const QString&) override {}
-        void levelMeasured(double) override {}
-        void microphoneVolumeChanged(int) override {}
-        void microphoneInfoChanged() override {}
-        void microphoneWorkStateChanged(const QString&, bool) override {}
-        void systemVolumeChanged(float) override {}
-        void speakerListChanged() override {}
-        void currentSpeakerChanged(const QString&) override {}
-        void speakerVolumeChanged(int) override {}
-        void speakerWorkStateChanged(bool) override {}
         void networkFiguresChanged() override { ++figures; }
         int pictures = 0;
         int figures = 0;
@@ -761,23 +746,7 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
 
 void tst_ScriptedEngine::recordsWhyItMeasuredNothing()
 {
-    struct Listener final : MicrophoneBackend::Listener,
-                            SpeakerBackend::Listener,
-                            PlayerBackend::Listener
-    {
-        void playbackFinished() override {}
-        void microphoneListChanged() override {}
-        void currentMicrophoneChanged(const QString&) override {}
-        void levelMeasured(double) override {}
-        void microphoneVolumeChanged(int) override {}
-        void microphoneInfoChanged() override {}
-        void microphoneWorkStateChanged(const QString&, bool) override {}
-        void systemVolumeChanged(float) override {}
-        void speakerListChanged() override {}
-        void currentSpeakerChanged(const QString&) override {}
-        void speakerVolumeChanged(int) override {}
-        void speakerWorkStateChanged(bool) override {}
-    } listener;
+    TestSupport::NoListener listener;
     m_engine->scriptedSpeakers().setPlayerFails(true);
     {
         const auto microphone = m_engine->createMicrophone(listener);

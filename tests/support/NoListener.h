@@ -3,13 +3,15 @@
 #pragma once
 
 #include "platform/backend/MicrophoneBackend.h"
+#include "platform/backend/PlayerBackend.h"
 #include "platform/backend/SpeakerBackend.h"
 
 namespace TestSupport {
 
 // For those who only want to hear the sound.
-class NoListener final : public Platform::MicrophoneBackend::Listener,
-                         public Platform::SpeakerBackend::Listener
+class NoListener : public Platform::MicrophoneBackend::Listener,
+                   public Platform::SpeakerBackend::Listener,
+                   public Platform::PlayerBackend::Listener
 {
 public:
     void microphoneListChanged() override {}
@@ -23,6 +25,7 @@ public:
     void currentSpeakerChanged(const QString&) override {}
     void speakerVolumeChanged(int) override {}
     void speakerWorkStateChanged(bool) override {}
+    void playbackFinished() override {}
 };
 
 } // namespace TestSupport
