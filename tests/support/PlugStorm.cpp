@@ -32,11 +32,14 @@ public:
         return iterate([this] { return pa_context_get_state(m_context) == PA_CONTEXT_READY; });
     }
 
-    bool plug()
+    bool plug(PlugStorm::Device device)
     {
+        const bool isSpeaker = device == PlugStorm::Device::Speaker;
         m_index = PA_INVALID_INDEX;
         return finish(pa_context_load_module(
-                   m_context, "module-null-sink", "norewinds=1 sink_name=hasty",
+                   m_context, isSpeaker ? "module-null-sink" : "module-remap-source",
+                   isSpeaker ? "norewinds=1 sink_name=hasty"
+                             : "source_name=hasty master=voice.monitor",
                    [](pa_context*, std::uint32_t index, void* self) {
                        static_cast<Client*>(self)->m_index = index;
                    },
@@ -81,7 +84,8 @@ private:
 
 } // namespace
 
-PlugStorm::PlugStorm(int rounds) : m_thread([this, rounds] { run(rounds); })
+PlugStorm::PlugStorm(int rounds, Device device)
+    : m_thread([this, rounds, device] { run(rounds, device); })
 {
 }
 
@@ -91,12 +95,12 @@ PlugStorm::~PlugStorm()
     m_thread.join();
 }
 
-void PlugStorm::run(int rounds)
+void PlugStorm::run(int rounds, Device device)
 {
     Client client;
     bool isGood = client.connect();
     for (int i = 0; i < rounds && isGood && !m_isEnding; ++i) {
-        isGood = client.plug();
+        isGood = client.plug(device);
         m_events += isGood ? 1 : 0;
         isGood = isGood && client.unplug();
         m_events += isGood ? 1 : 0;

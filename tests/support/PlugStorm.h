@@ -7,12 +7,14 @@
 
 namespace TestSupport {
 
-// Plugs a playback device in and out again, as fast as the sound server of the environment does it,
-// on a thread and a connection of its own.
+// Plugs a device in and out again, as fast as the sound server of the environment does it, on a
+// thread and a connection of its own.
 class PlugStorm
 {
 public:
-    explicit PlugStorm(int rounds);
+    enum class Device { Speaker, Microphone };
+
+    explicit PlugStorm(int rounds, Device device = Device::Speaker);
     ~PlugStorm(); // breaks off
     PlugStorm(const PlugStorm&) = delete;
     PlugStorm& operator=(const PlugStorm&) = delete;
@@ -21,7 +23,7 @@ public:
     int events() const { return m_events; } // so far
 
 private:
-    void run(int rounds);
+    void run(int rounds, Device device);
 
     std::atomic<bool> m_isEnding{false};
     std::atomic<bool> m_isOver{false};

@@ -178,6 +178,29 @@ void SoundServer::unplug(const QByteArray& module)
     control({QStringLiteral("unload-module"), QString::fromLatin1(module)});
 }
 
+QStringList SoundServer::state()
+{
+    QStringList result;
+    for (const char* kind : {"sinks", "sources"}) {
+        const QList<QByteArray> lines =
+            control({QStringLiteral("list"), QLatin1String(kind)}).split('\n');
+        for (const QByteArray& line : lines) {
+            const QString text = QString::fromUtf8(line.trimmed());
+            if (text.startsWith(QLatin1String("Name: "))) {
+                result.append(text.mid(6) + QLatin1Char('\t'));
+            } else if (text.startsWith(QLatin1String("Mute: ")) ||
+                       text.startsWith(QLatin1String("Volume: ")) ||
+                       text.startsWith(QLatin1String("balance "))) {
+                result.last() += text + QLatin1Char(' ');
+            }
+        }
+    }
+    for (const char* query : {"get-default-sink", "get-default-source"}) {
+        result.append(QString::fromUtf8(control({QLatin1String(query)})));
+    }
+    return result;
+}
+
 bool SoundServer::launch(const QString& program, const QStringList& arguments)
 {
     auto process = std::make_unique<QProcess>();

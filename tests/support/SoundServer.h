@@ -43,6 +43,8 @@ public:
     QByteArray plugMicrophone(const QString& name, const QString& description,
                               const QString& hears = QStringLiteral("voice"));
     void unplug(const QByteArray& module);
+    // Volumes and mutes, a line for each device that begins with its name, and the defaults.
+    QStringList state();
 
     // Their modules.
     QByteArray speakerA() const { return m_speakerA; }
