@@ -127,6 +127,8 @@ private Q_SLOTS:
     void tellsRefusal_data();
     void tellsRefusal();
     void outlivesTheServer();
+    void outlivesItsConnections_data();
+    void outlivesItsConnections();
     void outlivesTheManager();
     void waitsForTheServer();
     void neverBlocksWhileServerIsFrozen_data();
@@ -575,6 +577,40 @@ void tst_PipeWireCameras::outlivesTheServer()
     QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
     camera = plug(NameA, QStringLiteral("Camera"));
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+void tst_PipeWireCameras::outlivesItsConnections_data()
+{
+    QTest::addColumn<bool>("isOfStream");
+    QTest::newRow("that of the stream") << true;
+    QTest::newRow("that of the list") << false;
+}
+
+// The server ends one of them and keeps the other.
+void tst_PipeWireCameras::outlivesItsConnections()
+{
+    QFETCH(bool, isOfStream);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    const QStringList before = openFiles();
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    const int used = openFiles().size();
+    for (int round = 0; round < 2; ++round) {
+        m_watcher.log.clear();
+        QVERIFY(m_server->cutConnections(isOfStream));
+        watch();
+        QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("fails")));
+        QTRY_VERIFY_WITH_TIMEOUT(m_watcher.log.endsWith(QStringLiteral("works")), LongMs);
+        QVERIFY(isResponsive());
+        QCOMPARE(m_watcher.log.contains(QStringLiteral("list")), !isOfStream);
+        QCOMPARE(ids(), QStringList(NameA));
+        QCOMPARE(stateName(), QStringLiteral("working"));
+    }
+    QTRY_COMPARE(openFiles().size(), used);
+    m_backend.reset();
+    QTRY_COMPARE(cameraThreads(), 0);
+    QTRY_COMPARE(openFiles(), before);
 }
 
 // Without the session manager nobody links the stream to its camera.

@@ -6,6 +6,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
 #include <QtTest>
 #include <csignal>
 
@@ -120,6 +124,31 @@ void PipeWireServer::freezeManager()
 void PipeWireServer::thawManager()
 {
     signal(Manager, SIGCONT);
+}
+
+bool PipeWireServer::cutConnections(bool withStream)
+{
+    QSet<int> all;
+    QSet<int> streaming;
+    const QJsonArray objects =
+        QJsonDocument::fromJson(outputOf(QStringLiteral("pw-dump"), {})).array();
+    for (const QJsonValue& object : objects) {
+        const QJsonObject properties =
+            object[QStringLiteral("info")][QStringLiteral("props")].toObject();
+        const QString type = object[QStringLiteral("type")].toString();
+        if (type.endsWith(QLatin1String(":Client")) &&
+            properties.value(QStringLiteral("pipewire.sec.pid")).toInt() ==
+                QCoreApplication::applicationPid()) {
+            all.insert(object[QStringLiteral("id")].toInt());
+        } else if (type.endsWith(QLatin1String(":Node"))) {
+            streaming.insert(properties.value(QStringLiteral("client.id")).toInt());
+        }
+    }
+    const QSet<int> cut = withStream ? all & streaming : all - streaming;
+    for (const int id : cut) {
+        outputOf(QStringLiteral("pw-cli"), {QStringLiteral("destroy"), QString::number(id)});
+    }
+    return !cut.isEmpty();
 }
 
 bool PipeWireServer::isSocketThere() const

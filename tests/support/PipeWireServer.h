@@ -31,6 +31,9 @@ public:
     void thaw();
     void freezeManager(); // nobody links streams to cameras any more
     void thawManager();
+    // Ends this process' connections with a stream, or those without, and no others. False where
+    // there are none.
+    bool cutConnections(bool withStream);
 
     bool isSocketThere() const;
     QString folder() const { return m_folder.path(); }

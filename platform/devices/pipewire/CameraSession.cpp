@@ -110,6 +110,7 @@ void CameraSession::streamEnded(const QString& error)
 {
     if (!error.isEmpty()) {
         qCInfo(CameraLog, "%s", qUtf8Printable(error));
+        m_slot->interrupt(m_generation); // first, or it would pass for one that still delivers
         report(stateOf(error));
     }
     m_retryTimer.startOnce({}); // it can't be destroyed from inside its own event
