@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/RunDelay.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -9,7 +11,8 @@
 
 namespace TestSupport {
 
-// Measures the longest time for which the event loop of this thread answered nobody.
+// Measures the longest time for which the event loop of this thread answered nobody. The time that
+// it was ready to run and other programs had the processors isn't counted.
 class GapMeter
 {
 public:
@@ -30,10 +33,18 @@ public:
 private:
     static constexpr int BeatMs = 2;
 
-    void note() { m_longestMs = std::max(m_longestMs, m_sinceBeat.restart()); }
+    void note()
+    {
+        const qint64 delayMs = m_delay.totalMs();
+        const qint64 gapMs = m_sinceBeat.restart() - (delayMs - m_delayAtBeatMs);
+        m_delayAtBeatMs = delayMs;
+        m_longestMs = std::max(m_longestMs, gapMs);
+    }
 
     QTimer m_timer;
     QElapsedTimer m_sinceBeat;
+    RunDelay m_delay; // of the thread that made this
+    qint64 m_delayAtBeatMs = m_delay.totalMs();
     qint64 m_longestMs = 0;
 };
 

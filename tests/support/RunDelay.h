@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFile>
+#include <QList>
+
+namespace TestSupport {
+
+// How long the thread that made this has been ready to run without a processor since it began: the
+// second figure of the kernel's schedstat.
+class RunDelay
+{
+public:
+    RunDelay() { m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
+
+    // 0 where the kernel keeps no such figures.
+    qint64 totalMs()
+    {
+        constexpr qint64 NsPerMs = 1000000;
+        m_file.seek(0);
+        return m_file.readAll().split(' ').value(1).toLongLong() / NsPerMs;
+    }
+
+private:
+    QFile m_file{QStringLiteral("/proc/thread-self/schedstat")};
+};
+
+} // namespace TestSupport
