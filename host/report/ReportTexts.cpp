@@ -60,6 +60,7 @@ constexpr Word ContradictionTexts[] = {
 constexpr Word Reasons[] = {
     {"stepNotOpened", "ID_Host_Reason_StepNotOpened"},
     {"notRecorded", "ID_Host_Reason_NotRecorded"},
+    {"scripted", "ID_Host_Reason_Scripted"},
     {"absent", "ID_Host_Reason_Absent"},
     {"off", "ID_Host_Reason_Off"},
     {"silent", "ID_Host_Reason_Silent"},
@@ -68,6 +69,13 @@ constexpr Word Reasons[] = {
     {"hung", "ID_Host_Reason_Hung"},
     {"failed", "ID_Host_Reason_Failed"},
     {"noAnswer", "ID_Host_Reason_NoAnswer"},
+};
+// The sounds of the speaker check, as its answers name them.
+constexpr Word Sounds[] = {
+    {"Piano", "ID_HeadsetPage_Piano"},     {"Seagull", "ID_HeadsetPage_Seagull"},
+    {"Thunder", "ID_HeadsetPage_Thunder"}, {"Doorbell", "ID_HeadsetPage_Doorbell"},
+    {"Shutter", "ID_HeadsetPage_Shutter"}, {"Bubble", "ID_HeadsetPage_Bubble"},
+    {"Typing", "ID_HeadsetPage_Typing"},   {"Saxophone", "ID_HeadsetPage_Saxophone"},
 };
 constexpr Word Changed[] = {
     {"verdict", "ID_Host_Report_Result"},
@@ -204,7 +212,9 @@ QString ReportTexts::valueOf(const QString& check, const Measurement& measuremen
         return Figures::toText(measurement.value.toDouble(),
                                known ? known->unit : Figures::Unit::None);
     case QJsonValue::String:
-        return measurement.value.toString();
+        return measurement.key == QLatin1String("soundPlayed")
+                   ? textOf(*this, Sounds, measurement.value.toString())
+                   : measurement.value.toString();
     case QJsonValue::Array:
         return QString::fromUtf8(
             QJsonDocument(measurement.value.toArray()).toJson(QJsonDocument::Compact));

@@ -166,9 +166,20 @@ private:
             add("ID_Host_Report_Contradiction", m_texts.contradiction(word), Mark::Notice);
         }
         addMeasurements(check);
+        if (check.key == QLatin1String("speaker")) {
+            add("ID_Host_Report_RightSound", rightSoundText(check));
+        }
         if (isNetwork && !m_report.grade.isEmpty()) {
             addGrade();
         }
+    }
+
+    // The check sees no more of a speaker than whether the sound was recognised.
+    QString rightSoundText(const ReportCheck& check) const
+    {
+        return check.deviceState == QLatin1String("unknown")
+                   ? m_texts.answer(QStringLiteral("none"))
+                   : m_texts.yesOrNo(check.deviceState == QLatin1String("works"));
     }
 
     // Where the same is true of all figures it is said once.

@@ -503,6 +503,10 @@
         <source></source>
         <translation>الجهاز متوقف</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>الأجهزة المحاكاة ليس لها هذه القيمة</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>لم يصل شيء من الجهاز</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>النتيجة</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>اختيار الصوت الصحيح</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>das Gerät ist ausgeschaltet</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>ein gespieltes Gerät hat diesen Wert nicht</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>vom Gerät kam nichts</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Befund</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Richtiger Ton gewählt</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>the device is turned off</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>a scripted device has no such figure</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nothing came from the device</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Result</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Right sound picked</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

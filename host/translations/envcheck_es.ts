@@ -503,6 +503,10 @@
         <source></source>
         <translation>el dispositivo está desactivado</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>un dispositivo simulado no tiene este valor</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>no llegó nada del dispositivo</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Resultado</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Sonido correcto elegido</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>l’appareil est désactivé</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>un appareil simulé n’a pas cette valeur</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>rien n’est venu de l’appareil</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Résultat</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Bon son choisi</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>機器がオフです</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>台本による機器にこの値はありません</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>機器から何も届きません</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>判定</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>正しい音を選択</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>장치가 꺼져 있음</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>각본에 따른 장치에는 이 값이 없음</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>장치에서 아무것도 오지 않음</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>판정</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>맞는 소리 선택</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

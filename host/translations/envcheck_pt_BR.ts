@@ -503,6 +503,10 @@
         <source></source>
         <translation>o dispositivo está desligado</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>um dispositivo simulado não tem este valor</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nada veio do dispositivo</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Resultado</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Som certo escolhido</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

@@ -503,6 +503,10 @@
         <source></source>
         <translation>устройство выключено</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>у сценарного устройства нет этого значения</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>от устройства ничего не поступило</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Результат</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Выбран верный звук</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

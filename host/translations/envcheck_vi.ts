@@ -503,6 +503,10 @@
         <source></source>
         <translation>thiết bị đang tắt</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>thiết bị mô phỏng không có giá trị này</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>không có gì từ thiết bị</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>Kết quả</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>Chọn đúng âm thanh</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

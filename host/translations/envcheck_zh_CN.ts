@@ -503,6 +503,10 @@
         <source></source>
         <translation>设备已关闭</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>脚本模拟的设备没有此数值</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>设备没有任何输出</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>检测结果</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>选对声音</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

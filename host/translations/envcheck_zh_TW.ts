@@ -503,6 +503,10 @@
         <source></source>
         <translation>裝置已關閉</translation>
     </message>
+    <message id="ID_Host_Reason_Scripted">
+        <source></source>
+        <translation>腳本模擬的裝置沒有此數值</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>裝置沒有任何輸出</translation>
@@ -558,6 +562,10 @@
     <message id="ID_Host_Report_Result">
         <source></source>
         <translation>檢測結果</translation>
+    </message>
+    <message id="ID_Host_Report_RightSound">
+        <source></source>
+        <translation>選對聲音</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>

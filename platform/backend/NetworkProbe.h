@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <QJsonObject>
+
 namespace Platform {
 
 // What a probe measured over its window.
@@ -15,6 +19,9 @@ struct NetworkFigures
     int delay5Ms = -1; // 5th and 95th percentile of the round trips
     int delay95Ms = -1;
 };
+
+// As they are recorded.
+CLASSROOMBACKEND_EXPORT QJsonObject toJson(const NetworkFigures& figures);
 
 // A running measurement of the way to the server, from its creation to its destruction. Threads as
 // for CameraBackend.

@@ -15,6 +15,8 @@ const QLatin1String VersionKey("version");
 const QLatin1String ResultsKey("results");
 const QLatin1String MeasurementsKey("measurements");
 const QLatin1String CodesKey("codes");
+const QLatin1String StateKey("state");
+const QLatin1String DeviceKey("device");
 constexpr int DocumentVersion = 1;
 
 } // namespace
@@ -35,6 +37,7 @@ void ResultDocument::clear()
                              {ResultsKey, QJsonObject()},
                              {MeasurementsKey, QJsonObject()},
                              {CodesKey, QJsonArray()}};
+    m_deviceKeys.clear();
 }
 
 void ResultDocument::recordResult(const QString& key, const QJsonValue& value)
@@ -45,8 +48,15 @@ void ResultDocument::recordResult(const QString& key, const QJsonValue& value)
 
 void ResultDocument::recordMeasurement(const QString& check, const QJsonObject& figures)
 {
+    const bool areOfDevice = figures.contains(StateKey);
+    if (areOfDevice) {
+        forgetOtherDevice(check, figures);
+    }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
         set(MeasurementsKey, check, it.key(), it.value());
+        if (areOfDevice) {
+            m_deviceKeys[check].insert(it.key());
+        }
     }
     write();
 }
@@ -67,6 +77,21 @@ void ResultDocument::set(const QString& section, const QString& check, const QSt
     values.insert(name, value);
     checks.insert(check, values);
     m_document.insert(section, checks);
+}
+
+void ResultDocument::forgetOtherDevice(const QString& check, const QJsonObject& figures)
+{
+    QJsonObject checks = m_document.value(MeasurementsKey).toObject();
+    QJsonObject values = checks.value(check).toObject();
+    if (values.value(DeviceKey) == figures.value(DeviceKey)) {
+        return;
+    }
+    const QSet<QString> keys = m_deviceKeys.take(check);
+    for (const QString& key : keys) {
+        values.remove(key);
+    }
+    checks.insert(check, values);
+    m_document.insert(MeasurementsKey, checks);
 }
 
 void ResultDocument::write() const

@@ -5,6 +5,8 @@
 #include "ClassroomBackend/ClassroomBackendExport.h"
 
 #include <QJsonObject>
+#include <QMap>
+#include <QSet>
 #include <QString>
 
 namespace Platform {
@@ -25,16 +27,19 @@ public:
 
     // key is "check.value", such as "camera.userState".
     void recordResult(const QString& key, const QJsonValue& value);
+    // Figures with a "state" are those of one device. They replace what was recorded so of another.
     void recordMeasurement(const QString& check, const QJsonObject& figures);
     void recordCode(int code);
 
 private:
     void set(const QString& section, const QString& check, const QString& name,
              const QJsonValue& value);
+    void forgetOtherDevice(const QString& check, const QJsonObject& figures);
     void write() const;
 
     QString m_path;
     QJsonObject m_document;
+    QMap<QString, QSet<QString>> m_deviceKeys; // of the figures with a "state", by check
 };
 
 } // namespace Platform

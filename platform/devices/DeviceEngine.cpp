@@ -46,14 +46,7 @@ public:
     {
         const NetworkFigures last = figures();
         if (m_sink && last.sent > 0) {
-            m_sink->recordMeasurement(QStringLiteral("network"),
-                                      {{QStringLiteral("lossPercent"), last.lossPercent},
-                                       {QStringLiteral("delayMs"), last.delayMs},
-                                       {QStringLiteral("jitterMs"), last.jitterMs},
-                                       {QStringLiteral("sent"), last.sent},
-                                       {QStringLiteral("answered"), last.answered},
-                                       {QStringLiteral("delay5Ms"), last.delay5Ms},
-                                       {QStringLiteral("delay95Ms"), last.delay95Ms}});
+            m_sink->recordMeasurement(QStringLiteral("network"), toJson(last));
         }
     }
 

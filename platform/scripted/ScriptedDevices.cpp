@@ -79,6 +79,12 @@ DeviceList ScriptedDevices::devices() const
     return withDistinctNames(result);
 }
 
+QString ScriptedDevices::defaultName() const
+{
+    const DeviceList list = devices();
+    return list.empty() ? QString() : list.front().name;
+}
+
 DeviceState ScriptedDevices::currentState() const
 {
     if (m_currentId.isEmpty()) {

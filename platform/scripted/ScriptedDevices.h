@@ -35,6 +35,8 @@ public:
 
     DeviceList devices() const;
     QString currentId() const { return m_currentId; }
+    // The system's own choice: the first of the list. Null where there is none.
+    QString defaultName() const;
     QString currentName() const { return m_currentName; }
     DeviceState currentState() const; // as scripted; Absent or Off where there is none
 

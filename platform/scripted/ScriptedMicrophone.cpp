@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedMicrophone.h"
 
+#include "platform/backend/LevelScale.h"
 #include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedMicrophones.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace Platform {
 
@@ -12,6 +16,17 @@ namespace {
 constexpr int LevelPeriodMs = 33;
 constexpr double NoiseFloor = 0.02;
 constexpr double MsPerSecond = 1000;
+
+QJsonObject notMeasured()
+{
+    return {{QStringLiteral("notMeasured"), QStringLiteral("scripted")}};
+}
+
+QJsonValue decibelsOf(std::optional<double> level)
+{
+    return level ? std::round(10.0 * LevelScale::decibelsOf(*level)) / 10.0
+                 : QJsonValue(notMeasured());
+}
 
 bool canHear(DeviceState state)
 {
@@ -29,8 +44,8 @@ ScriptedMicrophone::ScriptedMicrophone(ScriptedMicrophones& microphones, CallLog
     connect(&m_levelTimer, &QTimer::timeout, this, &ScriptedMicrophone::onLevelTick);
     connectModel();
     m_id = m_devices.currentId();
-    m_volumeBefore = m_devices.volume();
-    m_isMutedBefore = m_devices.isMuted();
+    m_found.reset(m_devices.volume(), m_devices.isMuted());
+    m_default.take(m_devices.defaultName());
     takeWorkState();
 }
 
@@ -57,7 +72,7 @@ void ScriptedMicrophone::open()
 {
     m_session.call("open");
     m_isOpen = true;
-    m_openClock.start();
+    startMeasuring();
     runLevels();
 }
 
@@ -91,7 +106,7 @@ int ScriptedMicrophone::volume() const
 void ScriptedMicrophone::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
-    m_isMovedByUser = true;
+    m_found.noteMove();
     m_devices.setVolumeByUser(percent);
 }
 
@@ -127,10 +142,10 @@ void ScriptedMicrophone::onCurrentChanged()
     m_hasHeard = false;
     if (m_id != m_devices.currentId()) {
         m_id = m_devices.currentId();
-        m_volumeBefore = m_devices.volume();
-        m_isMutedBefore = m_devices.isMuted();
-        m_isMovedByUser = false;
+        m_found.reset(m_devices.volume(), m_devices.isMuted());
+        startMeasuring();
     }
+    m_default.take(m_devices.defaultName());
     runLevels();
     takeWorkState();
 }
@@ -149,11 +164,33 @@ void ScriptedMicrophone::onLevelTick()
 
 void ScriptedMicrophone::measure(double level)
 {
-    if (m_isOpen && level > NoiseFloor && canHear(m_devices.currentState())) {
-        m_hasHeard = true;
+    if (m_isOpen && canHear(m_devices.currentState()) && std::isfinite(level)) {
+        m_loudest = std::max(m_loudest.value_or(level), level);
+        m_quietest = std::min(m_quietest.value_or(level), level);
+        m_hasHeard = m_hasHeard || level > NoiseFloor;
         notifyWorkState();
     }
     m_listener.levelMeasured(level);
+}
+
+void ScriptedMicrophone::startMeasuring()
+{
+    m_openClock.start();
+    m_loudest.reset();
+    m_quietest.reset();
+}
+
+// A level is all that is scripted of the sound; what takes samples to measure isn't made up.
+void ScriptedMicrophone::addSound(QJsonObject& figures) const
+{
+    figures.insert(QStringLiteral("soundHeard"), hasHeard());
+    figures.insert(QStringLiteral("seconds"),
+                   static_cast<double>(m_openClock.elapsed()) / MsPerSecond);
+    figures.insert(QStringLiteral("peakDb"), decibelsOf(m_loudest));
+    figures.insert(QStringLiteral("noiseFloorDb"), decibelsOf(m_quietest));
+    for (const char* key : {"clippedShare", "humShare", "humHz", "bandwidthHz"}) {
+        figures.insert(QLatin1String(key), notMeasured());
+    }
 }
 
 void ScriptedMicrophone::recordMeasurement()
@@ -161,16 +198,11 @@ void ScriptedMicrophone::recordMeasurement()
     QJsonObject figures{{QStringLiteral("state"), toString(currentState())}};
     if (!m_id.isEmpty()) {
         figures.insert(QStringLiteral("device"), m_devices.currentName());
-        figures.insert(QStringLiteral("volumeBefore"), m_volumeBefore);
-        figures.insert(QStringLiteral("volumeAfter"), m_devices.volume());
-        figures.insert(QStringLiteral("mutedBefore"), m_isMutedBefore);
-        figures.insert(QStringLiteral("mutedAfter"), m_devices.isMuted());
-        figures.insert(QStringLiteral("movedByUser"), m_isMovedByUser);
+        m_found.addTo(figures, m_devices.volume(), m_devices.isMuted());
     }
+    m_default.addTo(figures);
     if (canHear(m_devices.currentState())) {
-        figures.insert(QStringLiteral("soundHeard"), hasHeard());
-        figures.insert(QStringLiteral("seconds"),
-                       static_cast<double>(m_openClock.elapsed()) / MsPerSecond);
+        addSound(figures);
     }
     m_document.recordMeasurement(QStringLiteral("microphone"), figures);
 }

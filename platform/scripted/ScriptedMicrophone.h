@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/DefaultDevice.h"
+#include "platform/backend/FoundVolume.h"
 #include "platform/backend/MicrophoneBackend.h"
 #include "platform/scripted/ScriptedSession.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
+#include <optional>
 
 namespace Platform {
 
@@ -44,16 +47,19 @@ private:
     DeviceState currentState() const override;
     void runLevels();
     void notifyWorkState();
+    void startMeasuring();
+    void addSound(QJsonObject& figures) const;
     void recordMeasurement();
 
     QTimer m_levelTimer;
     QElapsedTimer m_openClock;
     bool m_isOpen = false;
     QString m_id;
-    int m_volumeBefore = 0; // of that microphone
-    bool m_isMutedBefore = false;
-    bool m_isMovedByUser = false;
+    FoundVolume m_found; // of that microphone
+    DefaultDevice m_default;
     bool m_hasHeard = false;
+    std::optional<double> m_loudest; // levels of this opening
+    std::optional<double> m_quietest;
 };
 
 } // namespace Platform

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedNetworkProbe.h"
 
+#include "platform/backend/Percentile.h"
 #include "platform/backend/ResultDocument.h"
 #include "platform/scripted/ScriptedNetwork.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int FirstVerdictMs = 200;
 constexpr int PeriodMs = 1000;
+constexpr std::size_t WindowSeconds = 5;
 
 } // namespace
 
@@ -34,12 +36,7 @@ ScriptedNetworkProbe::ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& lo
 ScriptedNetworkProbe::~ScriptedNetworkProbe()
 {
     if (m_next > 0) {
-        m_document.recordMeasurement(QStringLiteral("network"),
-                                     {{QStringLiteral("lossPercent"), m_figures.lossPercent},
-                                      {QStringLiteral("delayMs"), m_figures.delayMs},
-                                      {QStringLiteral("jitterMs"), m_figures.jitterMs},
-                                      {QStringLiteral("sent"), m_figures.sent},
-                                      {QStringLiteral("answered"), m_figures.answered}});
+        m_document.recordMeasurement(QStringLiteral("network"), toJson(m_figures));
     }
 }
 
@@ -59,6 +56,21 @@ void ScriptedNetworkProbe::restart()
     }
 }
 
+// Those of the seconds that a real probe's figures are about.
+std::vector<int> ScriptedNetworkProbe::sortedDelays() const
+{
+    const ScriptedNetwork::Series series = m_network.series();
+    std::vector<int> delays;
+    for (std::size_t i = m_next - std::min(m_next, WindowSeconds); i < m_next; ++i) {
+        const NetworkFigures& figures = series.at(std::min(i, series.size() - 1));
+        if (figures.delayMs >= 0) {
+            delays.push_back(figures.delayMs);
+        }
+    }
+    std::sort(delays.begin(), delays.end());
+    return delays;
+}
+
 void ScriptedNetworkProbe::measure()
 {
     const ScriptedNetwork::Series series = m_network.series();
@@ -67,6 +79,11 @@ void ScriptedNetworkProbe::measure()
     }
     m_figures = series.at(std::min(m_next, series.size() - 1));
     ++m_next;
+    const std::vector<int> delays = sortedDelays();
+    if (!delays.empty()) {
+        m_figures.delay5Ms = percentile(delays, 5);
+        m_figures.delay95Ms = percentile(delays, 95);
+    }
     m_timer.start(PeriodMs);
     m_listener.networkFiguresChanged();
 }

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <vector>
 
 namespace Platform {
 
@@ -29,6 +30,7 @@ public:
 private:
     void restart();
     void measure();
+    std::vector<int> sortedDelays() const;
 
     ScriptedNetwork& m_network;
     ResultDocument& m_document; // the last figures go there

@@ -25,26 +25,19 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Resul
     connect(&m_devices, &ScriptedSpeakers::currentChanged, this,
             &ScriptedSpeaker::onCurrentChanged);
     m_id = m_devices.currentId();
-    m_volumeBefore = m_devices.volume();
-    m_isMutedBefore = m_devices.isMuted();
+    m_found.reset(m_devices.volume(), m_devices.isMuted());
+    m_default.take(m_devices.defaultName());
 }
 
 ScriptedSpeaker::~ScriptedSpeaker()
 {
-    if (m_devices.currentId().isEmpty()) {
-        m_document.recordMeasurement(
-            QStringLiteral("speaker"),
-            {{QStringLiteral("state"), toString(m_devices.currentState())}});
-        return;
+    QJsonObject figures{{QStringLiteral("state"), toString(m_devices.currentState())}};
+    if (!m_id.isEmpty()) {
+        figures.insert(QStringLiteral("device"), m_devices.currentName());
+        m_found.addTo(figures, m_devices.volume(), m_devices.isMuted());
     }
-    m_document.recordMeasurement(QStringLiteral("speaker"),
-                                 {{QStringLiteral("device"), m_devices.currentName()},
-                                  {QStringLiteral("state"), toString(m_devices.currentState())},
-                                  {QStringLiteral("volumeBefore"), m_volumeBefore},
-                                  {QStringLiteral("volumeAfter"), m_devices.volume()},
-                                  {QStringLiteral("mutedBefore"), m_isMutedBefore},
-                                  {QStringLiteral("mutedAfter"), m_devices.isMuted()},
-                                  {QStringLiteral("movedByUser"), m_isMovedByUser}});
+    m_default.addTo(figures);
+    m_document.recordMeasurement(QStringLiteral("speaker"), figures);
 }
 
 int ScriptedSpeaker::volume() const
@@ -56,7 +49,7 @@ int ScriptedSpeaker::volume() const
 void ScriptedSpeaker::setVolume(int percent)
 {
     m_session.call("setVolume", QString::number(percent));
-    m_isMovedByUser = true;
+    m_found.noteMove();
     m_devices.setVolumeByUser(percent);
 }
 
@@ -65,10 +58,9 @@ void ScriptedSpeaker::onCurrentChanged(const QString& id)
 {
     if (m_id != id) {
         m_id = id;
-        m_volumeBefore = m_devices.volume();
-        m_isMutedBefore = m_devices.isMuted();
-        m_isMovedByUser = false;
+        m_found.reset(m_devices.volume(), m_devices.isMuted());
     }
+    m_default.take(m_devices.defaultName());
 }
 
 void ScriptedSpeaker::notifyWorkState()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/DefaultDevice.h"
+#include "platform/backend/FoundVolume.h"
 #include "platform/backend/SpeakerBackend.h"
 #include "platform/scripted/ScriptedSession.h"
 
@@ -28,9 +30,8 @@ private:
     void notifyWorkState();
 
     QString m_id;
-    int m_volumeBefore = 0; // of that speaker
-    bool m_isMutedBefore = false;
-    bool m_isMovedByUser = false;
+    FoundVolume m_found; // of that speaker
+    DefaultDevice m_default;
 };
 
 } // namespace Platform

@@ -55,7 +55,8 @@ Report sampleReport()
         {QStringLiteral("width"), Measurement::Status::Failed, {}, QStringLiteral("hung")}};
     camera.contradictions << QStringLiteral("yesToBlackPicture");
     ReportCheck speaker = check("speaker", "no", "Headset of Robin");
-    speaker.measurements = {measured("mutedAfter", false), measured("volumeAfter", 60)};
+    speaker.measurements = {measured("mutedAfter", false), measured("volumeAfter", 60),
+                            measured("soundPlayed", QStringLiteral("Thunder"))};
     report.checks = {network, camera, speaker, check("microphone", "yes", "Mic \x1b[31m of Robin")};
     report.grade = QStringLiteral("fair");
     report.gradeLines = {{QStringLiteral("oneWayDelayMs"), QStringLiteral("good"), 20, 150, 400,

@@ -432,6 +432,8 @@ void tst_Program::touredRunIsReported()
     const QString page = linesOf(file("tour/report.html")).join(QLatin1Char('\n'));
     QVERIFY(page.contains(QLatin1String("Answered yes to a black picture.")));
     QVERIFY(page.contains(QLatin1String("ITU-T G.114")));
+    QVERIFY(page.contains(QLatin1String("not measured: a scripted device has no such figure")));
+    QVERIFY(!page.contains(QLatin1String("the engine does not record it")));
     QVERIFY(!QFileInfo::exists(dataFolder() + QStringLiteral("/runs.jsonl")));
 }
 

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void everyWordHasAText_data();
     void everyWordHasAText();
     void theThreeKindsReadDifferently();
+    void soundPlayedAndPicked_data();
+    void soundPlayedAndPicked();
     void roomTable();
     void formats_data();
     void formats();
@@ -149,8 +151,8 @@ void tst_ReportWriter::everyWordHasAText()
                              "noToRightSound", "yesToSilence", "noToGoodSound"}) {
         QVERIFY2(isText(texts.contradiction(QLatin1String(each)), QLatin1String(each)), each);
     }
-    for (const char* each : {"stepNotOpened", "notRecorded", "absent", "off", "silent", "denied",
-                             "busy", "hung", "failed", "noAnswer"}) {
+    for (const char* each : {"stepNotOpened", "notRecorded", "scripted", "absent", "off", "silent",
+                             "denied", "busy", "hung", "failed", "noAnswer"}) {
         QVERIFY2(isText(texts.reason(QLatin1String(each)), QLatin1String(each)), each);
     }
     QCOMPARE(texts.reason(QStringLiteral("<own words>")), QStringLiteral("<own words>"));
@@ -171,6 +173,38 @@ void tst_ReportWriter::theThreeKindsReadDifferently()
                                         "ITU-T G.114)")));
     QVERIFY(
         text.contains(QString::fromUtf8("Camera, Device Old camera of Robin \u2192 New camera")));
+}
+
+void tst_ReportWriter::soundPlayedAndPicked_data()
+{
+    QTest::addColumn<QString>("deviceState");
+    QTest::addColumn<QString>("germanRow");
+    QTest::addColumn<QString>("englishRow");
+    QTest::newRow("right") << "works"
+                           << "Richtiger Ton gewählt Ja"
+                           << "Right sound picked Yes";
+    QTest::newRow("wrong") << "fails"
+                           << "Richtiger Ton gewählt Nein"
+                           << "Right sound picked No";
+    QTest::newRow("not asked") << "unknown"
+                               << "Richtiger Ton gewählt Keine Antwort"
+                               << "Right sound picked No answer";
+}
+
+void tst_ReportWriter::soundPlayedAndPicked()
+{
+    QFETCH(QString, deviceState);
+    QFETCH(QString, germanRow);
+    QFETCH(QString, englishRow);
+    Report report = sampleReport();
+    report.checks[2].deviceState = deviceState;
+    const QString german = QStringLiteral("de");
+    for (const QString& shown : {ReportWriter::toText(report, german).simplified(),
+                                 visibleText(ReportWriter::toHtml({report}, german))}) {
+        QVERIFY(shown.contains(QLatin1String("Gespielter Ton Donner ") + germanRow));
+        QVERIFY(shown.contains(QLatin1String("Sound played Thunder ") + englishRow));
+        QCOMPARE(shown.count(QLatin1String("Right sound picked")), 1); // of the speaker alone
+    }
 }
 
 void tst_ReportWriter::roomTable()

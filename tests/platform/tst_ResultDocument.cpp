@@ -29,6 +29,7 @@ private Q_SLOTS:
     void startsEmpty();
     void collectsAllSections();
     void keepsTheLastValue();
+    void forgetsTheOtherDevice();
     void startsAgainWhenCleared();
     void writesEveryChangeWhole();
     void staysInMemoryWithoutAPath();
@@ -68,6 +69,26 @@ void tst_ResultDocument::keepsTheLastValue()
     document.recordResult(QStringLiteral("speaker.userState"), 1);
     QCOMPARE(document.toJson()[QStringLiteral("results")],
              QJsonValue(parsed(R"({ "speaker": { "userState": 1 } })")));
+}
+
+void tst_ResultDocument::forgetsTheOtherDevice()
+{
+    const QString check = QStringLiteral("speaker");
+    ResultDocument document;
+    const auto measured = [&document, &check] {
+        return document.toJson().value(QStringLiteral("measurements"))[check];
+    };
+    document.recordMeasurement(
+        check, parsed(R"({ "state": "ready", "device": "A", "volumeAfter": 50, "x": 1 })"));
+    document.recordMeasurement(check, parsed(R"({ "soundPlayed": "Piano" })"));
+    document.recordMeasurement(check, parsed(R"({ "state": "ready", "device": "A", "y": 2 })"));
+    QCOMPARE(measured(), QJsonValue(parsed(R"({ "state": "ready", "device": "A",
+        "volumeAfter": 50, "x": 1, "y": 2, "soundPlayed": "Piano" })")));
+    document.recordMeasurement(check, parsed(R"({ "state": "busy", "device": "B", "x": 3 })"));
+    QCOMPARE(measured(), QJsonValue(parsed(R"({ "state": "busy", "device": "B", "x": 3,
+        "soundPlayed": "Piano" })")));
+    document.recordMeasurement(check, parsed(R"({ "state": "absent" })"));
+    QCOMPARE(measured(), QJsonValue(parsed(R"({ "state": "absent", "soundPlayed": "Piano" })")));
 }
 
 void tst_ResultDocument::startsAgainWhenCleared()

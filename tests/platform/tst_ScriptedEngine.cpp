@@ -158,11 +158,22 @@ private Q_SLOTS:
     void recordsReports();
     void recordsWhatItMeasured();
     void recordsWhyItMeasuredNothing();
+    void recordsTheLevelsInDecibels();
+    void recordsTheDefaultDevices();
     void mutedMicrophoneHearsNothing();
     void keepsSettingsToItself();
     void tellsNobodyWhoIsGone();
 
 private:
+    QJsonObject measurements() const
+    {
+        return m_engine->reports()
+            .document()
+            .toJson()
+            .value(QStringLiteral("measurements"))
+            .toObject();
+    }
+
     std::unique_ptr<ScriptedEngine> m_engine;
 };
 
@@ -588,6 +599,8 @@ void tst_ScriptedEngine::measuresAlongTheSeries()
     QTRY_COMPARE(quietListener.changes(), 2);
     QVERIFY(clock.elapsed() >= 1000);
     QCOMPARE(quiet->figures().lossPercent, 71);
+    QCOMPARE(quiet->figures().delay5Ms, 20);
+    QCOMPARE(quiet->figures().delay95Ms, 500);
     QTRY_COMPARE(quietListener.changes(), 3); // the last element stays
     QCOMPARE(quiet->figures().delayMs, 500);
 
@@ -596,6 +609,10 @@ void tst_ScriptedEngine::measuresAlongTheSeries()
     QCoreApplication::processEvents();
     QCOMPARE(quietListener.changes(), 4);
     QCOMPARE(quiet->figures().jitterMs, 3);
+    QCOMPARE(quiet->figures().delay5Ms, 2); // of what was measured since
+    m_engine->network().setFigures({100, -1, 0, 4, 0});
+    QTRY_COMPARE(quietListener.changes(), 5);
+    QCOMPARE(quiet->figures().delay95Ms, -1);
 }
 
 void tst_ScriptedEngine::tellsOfTheSession()
@@ -717,8 +734,7 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
         m_engine->microphones().plug({QStringLiteral("other"), QStringLiteral("Other")});
         QTRY_VERIFY(listener.pictures > 2 && listener.figures > 0);
     }
-    const QJsonObject measured =
-        m_engine->reports().document().toJson().value(QStringLiteral("measurements")).toObject();
+    const QJsonObject measured = measurements();
     const auto value = [&measured](const char* check, const char* key) {
         return measured.value(QLatin1String(check)).toObject().value(QLatin1String(key));
     };
@@ -731,6 +747,11 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
     QVERIFY(value("camera", "firstPictureMs").toInt(-1) >= 0);
     QCOMPARE(value("camera", "brightness"), QJsonValue(0.0));
     QCOMPARE(value("microphone", "soundHeard"), QJsonValue(false));
+    const QJsonObject scripted{{QStringLiteral("notMeasured"), QStringLiteral("scripted")}};
+    for (const char* key :
+         {"peakDb", "noiseFloorDb", "clippedShare", "humShare", "humHz", "bandwidthHz"}) {
+        QCOMPARE(value("microphone", key), QJsonValue(scripted)); // there is no level curve
+    }
     QCOMPARE(value("microphone", "volumeBefore").toInt(), 80);
     QCOMPARE(value("microphone", "volumeAfter").toInt(), 70);
     QCOMPARE(value("speaker", "volumeBefore").toInt(), 50);
@@ -754,14 +775,75 @@ void tst_ScriptedEngine::recordsWhyItMeasuredNothing()
         microphone->open();
         QVERIFY(!m_engine->createPlayer(QStringLiteral("/sounds/Piano.mp3"), 1.0F, listener));
     }
-    const QJsonObject measured =
-        m_engine->reports().document().toJson().value(QStringLiteral("measurements")).toObject();
+    const QJsonObject measured = measurements();
     QCOMPARE(measured.value(QStringLiteral("microphone")),
              QJsonValue(QJsonObject{{QStringLiteral("state"), QStringLiteral("absent")}}));
     const QJsonObject failed{{QStringLiteral("failed"), QStringLiteral("failed")}};
     QCOMPARE(measured.value(QStringLiteral("speaker")),
              QJsonValue(QJsonObject{{QStringLiteral("state"), QStringLiteral("absent")},
                                     {QStringLiteral("soundPlayed"), failed}}));
+}
+
+void tst_ScriptedEngine::recordsTheLevelsInDecibels()
+{
+    TestSupport::NoListener listener;
+    ScriptedMicrophones& microphones = m_engine->microphones();
+    microphones.plug({First, QStringLiteral("A")});
+    microphones.plug({Second, QStringLiteral("B")});
+    const auto measured = [this](const char* key) {
+        return measurements().value(QStringLiteral("microphone"))[QLatin1String(key)];
+    };
+    const auto microphone = m_engine->createMicrophone(listener);
+    microphone->open();
+    for (const double level : {0.5, 0.05, 0.9, std::nan("")}) {
+        microphones.emitLevel(level);
+    }
+    QCoreApplication::processEvents();
+    microphone->close();
+    QCOMPARE(measured("peakDb"), QJsonValue(-6.0));
+    QCOMPARE(measured("noiseFloorDb"), QJsonValue(-57.0));
+
+    microphone->open();
+    microphones.emitLevel(2.0);
+    microphones.emitLevel(-1.0);
+    QCoreApplication::processEvents();
+    microphone->close();
+    QCOMPARE(measured("peakDb"), QJsonValue(0.0));
+    QCOMPARE(measured("noiseFloorDb"), QJsonValue(-60.0));
+
+    microphone->open();
+    microphones.emitLevel(0.5);
+    QCoreApplication::processEvents();
+    microphones.choose(Second); // has no part in that
+    microphone->close();
+    QVERIFY(measured("peakDb").isObject());
+}
+
+void tst_ScriptedEngine::recordsTheDefaultDevices()
+{
+    TestSupport::NoListener listener;
+    const DeviceInfo first{First, QStringLiteral("A")};
+    const DeviceInfo second{Second, QStringLiteral("B")};
+    {
+        const auto speaker = m_engine->createSpeaker(listener);
+        const auto microphone = m_engine->createMicrophone(listener);
+        microphone->open();
+        for (ScriptedDevices* devices :
+             {static_cast<ScriptedDevices*>(&m_engine->scriptedSpeakers()),
+              static_cast<ScriptedDevices*>(&m_engine->microphones())}) {
+            devices->plug(first);
+            devices->plug(second);
+            devices->choose(Second); // the user's choice moves no default
+            devices->unplug(First);
+            devices->unplug(Second); // none is no news
+        }
+    }
+    for (const char* check : {"speaker", "microphone"}) {
+        const QJsonValue measured = m_engine->reports().document().toJson().value(
+            QStringLiteral("measurements"))[QLatin1String(check)];
+        QCOMPARE(measured[QStringLiteral("defaultBefore")], QJsonValue(QStringLiteral("A")));
+        QCOMPARE(measured[QStringLiteral("defaultAfter")], QJsonValue(QStringLiteral("B")));
+    }
 }
 
 void tst_ScriptedEngine::mutedMicrophoneHearsNothing()

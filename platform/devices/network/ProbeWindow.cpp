@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/ProbeWindow.h"
 
+#include "platform/backend/Percentile.h"
+
 #include <QtGlobal>
 #include <algorithm>
 #include <vector>
@@ -21,13 +23,6 @@ ProbeWindow::Time median(const std::vector<ProbeWindow::Time>& times)
 {
     const size_t middle = times.size() / 2;
     return times.size() % 2 == 1 ? times[middle] : (times[middle - 1] + times[middle]) / 2;
-}
-
-// The least of the sorted times that so many percent of them don't exceed.
-ProbeWindow::Time percentile(const std::vector<ProbeWindow::Time>& times, size_t percent)
-{
-    const size_t rank = (times.size() * percent + 99) / 100;
-    return times[std::max<size_t>(rank, 1) - 1];
 }
 
 } // namespace

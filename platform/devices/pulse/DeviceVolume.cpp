@@ -19,16 +19,14 @@ void DeviceVolume::reset(const PulseDevice* device)
     m_percent = device ? percentOf(*device) : 0;
     m_isMuted = device && device->isMuted;
     m_awaitedOrder = 0;
-    m_foundPercent = m_percent;
-    m_wasFoundMuted = m_isMuted;
-    m_wasMovedByUser = false;
+    m_found.reset(m_percent, m_isMuted);
 }
 
 int DeviceVolume::set(int percent)
 {
     m_percent = std::clamp(percent, 0, m_maximum);
     m_isMuted = false;
-    m_wasMovedByUser = true;
+    m_found.noteMove();
     return m_percent;
 }
 
@@ -47,13 +45,9 @@ bool DeviceVolume::take(const PulseDevice& device, quint64 settledOrder)
     return std::exchange(m_percent, percent) != percent;
 }
 
-QJsonObject DeviceVolume::figures() const
+void DeviceVolume::addTo(QJsonObject& figures) const
 {
-    return {{QStringLiteral("volumeBefore"), m_foundPercent},
-            {QStringLiteral("volumeAfter"), m_percent},
-            {QStringLiteral("mutedBefore"), m_wasFoundMuted},
-            {QStringLiteral("mutedAfter"), m_isMuted},
-            {QStringLiteral("movedByUser"), m_wasMovedByUser}};
+    m_found.addTo(figures, m_percent, m_isMuted);
 }
 
 int DeviceVolume::percentOf(const PulseDevice& device) const

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QJsonObject>
+#include "platform/backend/FoundVolume.h"
 
 namespace Platform {
 
@@ -24,7 +24,7 @@ public:
     bool take(const PulseDevice& device, quint64 settledOrder);
 
     // Volume and mute as they were found and as they are left, for the report.
-    QJsonObject figures() const;
+    void addTo(QJsonObject& figures) const;
 
 private:
     int percentOf(const PulseDevice& device) const;
@@ -33,9 +33,7 @@ private:
     int m_percent = 0;
     bool m_isMuted = false;
     quint64 m_awaitedOrder = 0;
-    int m_foundPercent = 0;
-    bool m_wasFoundMuted = false;
-    bool m_wasMovedByUser = false;
+    FoundVolume m_found;
 };
 
 } // namespace Platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/LevelMeter.h"
 
+#include "platform/backend/LevelScale.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -28,7 +30,7 @@ LevelMeter::LevelMeter(unsigned rate)
 
 double LevelMeter::levelOf(double peak)
 {
-    return std::clamp(1.0 - decibelsOf(peak) / FloorDb, 0.0, 1.0);
+    return LevelScale::levelOf(decibelsOf(peak));
 }
 
 std::optional<double> LevelMeter::add(float sample)

@@ -7,14 +7,12 @@
 
 namespace Platform {
 
-// A peak meter with a scale in decibels: FloorDb and below read 0, 0 dBFS reads 1, and it is even
-// in between. Speech at a normal distance peaks at -30 to -20 dBFS, half the bar and more. It rises
-// at once and falls from full to nothing in FallSeconds. A constant offset, as cheap devices have,
-// doesn't count.
+// A peak meter on the scale of LevelScale. Speech at a normal distance peaks at -30 to -20 dBFS,
+// half the bar and more. It rises at once and falls from full to nothing in FallSeconds. A constant
+// offset, as cheap devices have, doesn't count.
 class LevelMeter
 {
 public:
-    static constexpr double FloorDb = -60.0;
     static constexpr double FallSeconds = 0.4;
     // A block is the shortest time whose peak means something.
     static constexpr double BlockSeconds = 0.01;

@@ -26,6 +26,12 @@ QString PulseSide::preferredId() const
     return devices.empty() ? QString() : devices.front().id;
 }
 
+QString PulseSide::defaultName() const
+{
+    const PulseDevice* device = find(defaultId);
+    return device ? device->name : QString();
+}
+
 DeviceList PulseSide::list() const
 {
     DeviceList result;

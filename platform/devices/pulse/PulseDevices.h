@@ -35,6 +35,7 @@ struct PulseSide
     const PulseDevice* find(const QString& id) const;
     // What is used where the user chose nothing: the default, otherwise the first.
     QString preferredId() const;
+    QString defaultName() const; // null where there is none
     DeviceList list() const;
 };
 

@@ -118,7 +118,7 @@ void PulseMicrophone::update()
     const PulseSide& microphones = m_session->devices().microphones;
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
-    m_default.take(microphones);
+    m_default.take(microphones.defaultName());
     const QString id = m_chosenId.value_or(microphones.preferredId());
     const bool isListChanged = !(m_list == list);
     const bool isOther = m_id != id;
@@ -274,10 +274,7 @@ void PulseMicrophone::recordMeasurement() const
         figures.insert(QStringLiteral("soundHeard"), m_hasHeardSound);
     }
     if (!m_id.isEmpty()) {
-        const QJsonObject volume = m_volume.figures();
-        for (auto figure = volume.begin(); figure != volume.end(); ++figure) {
-            figures.insert(figure.key(), figure.value());
-        }
+        m_volume.addTo(figures);
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/MicrophoneBackend.h"
-#include "platform/devices/pulse/DefaultDevice.h"
 #include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
 

@@ -64,7 +64,7 @@ void PulseSpeaker::update()
 {
     const PulseSide& speakers = m_session->devices().speakers;
     const DeviceList list = speakers.list();
-    m_default.take(speakers);
+    m_default.take(speakers.defaultName());
     const QString id = m_session->speakerId();
     const bool isOther = m_id != id;
     if (isOther) {
@@ -101,7 +101,7 @@ void PulseSpeaker::recordMeasurement() const
 {
     QJsonObject figures;
     if (!m_id.isEmpty()) {
-        figures = m_volume.figures();
+        m_volume.addTo(figures);
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);

@@ -2,27 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pulse/PulseDevices.h"
-
 #include <QJsonObject>
 #include <QString>
 
 namespace Platform {
 
-// The server's default device of one kind as it was found and as it is left, for the report.
+// The system's default device of one kind as it was found and as it is left, for the report.
 class DefaultDevice
 {
 public:
-    // A server without one, or one that is gone, says nothing.
-    void take(const PulseSide& side)
+    void take(const QString& name) // null where there is none, which says nothing
     {
-        const PulseDevice* device = side.find(side.defaultId);
-        if (device && m_found.isNull()) {
-            m_found = device->name;
+        if (name.isNull()) {
+            return;
         }
-        if (device) {
-            m_left = device->name;
+        if (m_found.isNull()) {
+            m_found = name;
         }
+        m_left = name;
     }
 
     void addTo(QJsonObject& figures) const
