@@ -4,7 +4,9 @@
 #include "platform/devices/pulse/PulseSound.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/ListeningRoom.h"
+#include "tests/support/MachineGap.h"
 #include "tests/support/MemoryReport.h"
+#include "tests/support/ProcessResources.h"
 #include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
 
@@ -16,6 +18,7 @@
 
 using namespace Platform;
 using TestSupport::GapMeter;
+using TestSupport::MachineGap;
 using TestSupport::SoundRecording;
 using TestSupport::SoundServer;
 using TestSupport::SoundSource;
@@ -418,6 +421,48 @@ private Q_SLOTS:
         QTRY_COMPARE(playbacks(), 2);
     }
 
+    void comesBackAfterItsConnections_data()
+    {
+        QTest::addColumn<QByteArray>("stream");
+        QTest::newRow("that of listening") << QByteArray("Listening to oneself");
+        QTest::newRow("that of all else") << QByteArray("Microphone check");
+    }
+
+    // The server ends one of them and keeps the other.
+    void comesBackAfterItsConnections()
+    {
+        constexpr double TornMs = 10.0;
+        constexpr double MaxSilenceMs = 1000.0;
+        QFETCH(QByteArray, stream);
+        const bool isOfListening = stream.startsWith("Listening");
+        m_microphone->setCurrent(id("microphone_a"));
+        m_microphone->open();
+        m_microphone->setListening(true);
+        SoundRecording speaker(id("speaker_a.monitor"));
+        SoundSource voice(id("voice"), TestSupport::tone(60.0, 440.0, -20.0));
+        QTRY_VERIFY(speaker.peak() > 0.05F);
+        QTRY_VERIFY(level() > 0.6);
+        const int handles = ProcessResources::openHandles();
+        for (int round = 0; round < 2; ++round) {
+            m_listener->levels.clear();
+            speaker.forget();
+            QVERIFY(m_server->cutConnection(stream));
+            const MachineGap machine;
+            GapMeter gaps;
+            QTRY_VERIFY(longestSilenceMs(speaker.samples()) > TornMs);
+            QTRY_VERIFY(silenceAtEndMs(speaker.samples()) < TornMs);
+            QTRY_VERIFY(level() > 0.6);
+            QVERIFY(gaps.longestMs() < MaxGapMs + machine.longestMs());
+            const double silence = longestSilenceMs(speaker.samples());
+            qInfo("nothing heard for %.0f ms", silence);
+            QVERIFY(silence < MaxSilenceMs);
+            QCOMPARE(m_listener->levels.contains(0.0), !isOfListening);
+            QTRY_COMPARE(captures(), 1);
+            QTRY_COMPARE(playbacks(), 2);
+        }
+        QTRY_COMPARE(ProcessResources::openHandles(), handles);
+    }
+
     void frozenServer()
     {
         m_microphone->open();
@@ -504,6 +549,13 @@ private:
             longest = std::max(longest, silent);
         }
         return 1000.0 * longest / SoundRecording::Rate;
+    }
+
+    static double silenceAtEndMs(const std::vector<float>& heard)
+    {
+        const auto last = std::find_if(heard.rbegin(), heard.rend(),
+                                       [](float sample) { return std::abs(sample) >= Audible; });
+        return 1000.0 * static_cast<double>(last - heard.rbegin()) / SoundRecording::Rate;
     }
 
     void setRate(int rate)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/SoundServer.h"
 
+#include "tests/support/PulseClient.h"
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
@@ -176,6 +178,24 @@ QByteArray SoundServer::plugMicrophone(const QString& name, const QString& descr
 void SoundServer::unplug(const QByteArray& module)
 {
     control({QStringLiteral("unload-module"), QString::fromLatin1(module)});
+}
+
+bool SoundServer::cutConnection(const QByteArray& streamName)
+{
+    const QByteArray streams = control({QStringLiteral("list"), QStringLiteral("sink-inputs")}) +
+                               '\n' +
+                               control({QStringLiteral("list"), QStringLiteral("source-outputs")});
+    QByteArray client;
+    for (const QByteArray& line : streams.split('\n')) {
+        const QByteArray text = line.trimmed();
+        if (text.startsWith("Client: ")) {
+            client = text.mid(8);
+        } else if (text == "media.name = \"" + streamName + '"') {
+            PulseClient killer;
+            return killer.connect() && killer.killClient(client.toUInt());
+        }
+    }
+    return false;
 }
 
 QStringList SoundServer::state()

@@ -43,6 +43,8 @@ public:
     QByteArray plugMicrophone(const QString& name, const QString& description,
                               const QString& hears = QStringLiteral("voice"));
     void unplug(const QByteArray& module);
+    // Ends the connection that a stream of that name came over; false where there is none.
+    bool cutConnection(const QByteArray& streamName);
     // Volumes and mutes, a line for each device that begins with its name, and the defaults.
     QStringList state();
 

@@ -22,7 +22,7 @@ constexpr std::size_t SmallestPiece = Channels * PulseCapture::Rate * FragmentMs
 constexpr pa_usec_t LevelIntervalUs = 19 * PA_USEC_PER_MSEC;
 constexpr double NoticeableRise = 0.02;
 constexpr pa_usec_t WatchIntervalUs = 50 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t ListenRetryUs = PA_USEC_PER_SEC;
+constexpr pa_usec_t ListenRetryUs = 250 * PA_USEC_PER_MSEC;
 constexpr char StreamName[] = "Microphone check";
 
 } // namespace
