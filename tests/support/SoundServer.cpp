@@ -4,7 +4,6 @@
 
 #include "tests/support/PulseClient.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -16,7 +15,6 @@ namespace TestSupport {
 namespace {
 
 constexpr int StartTimeoutMs = 10000;
-constexpr int PollMs = 20;
 
 void waitFor(QProcess& process)
 {
@@ -117,10 +115,9 @@ bool SoundServer::start()
     const QByteArray voice = plugSpeaker(QStringLiteral("voice"), QStringLiteral("Voice"));
     m_microphoneA =
         plugMicrophone(QStringLiteral("microphone_a"), QStringLiteral("Test Microphone A"));
-    control({QStringLiteral("set-default-sink"), QStringLiteral("speaker_a")});
-    control({QStringLiteral("set-default-source"), QStringLiteral("microphone_a")});
     return !m_speakerA.isEmpty() && !m_speakerB.isEmpty() && !voice.isEmpty() &&
-           !m_microphoneA.isEmpty();
+           !m_microphoneA.isEmpty() && makeDefault(QStringLiteral("sink"), "speaker_a") &&
+           makeDefault(QStringLiteral("source"), "microphone_a");
 }
 
 void SoundServer::kill()
@@ -238,14 +235,16 @@ bool SoundServer::launch(const QString& program, const QStringList& arguments)
 
 bool SoundServer::waitForAnswer()
 {
-    const QDeadlineTimer deadline(StartTimeoutMs);
-    while (!deadline.hasExpired()) {
-        if (!control({QStringLiteral("info")}).isEmpty()) {
-            return true;
-        }
-        QTest::qWait(PollMs);
-    }
-    return false;
+    return QTest::qWaitFor([this] { return !control({QStringLiteral("info")}).isEmpty(); },
+                           StartTimeoutMs);
+}
+
+// PipeWire takes the wish at once, and its session manager fulfils it later.
+bool SoundServer::makeDefault(const QString& kind, const QByteArray& device)
+{
+    control({QStringLiteral("set-default-") + kind, QString::fromLatin1(device)});
+    return QTest::qWaitFor(
+        [&] { return control({QStringLiteral("get-default-") + kind}) == device; }, StartTimeoutMs);
 }
 
 void SoundServer::signalAll(int number)

@@ -56,6 +56,7 @@ public:
 private:
     bool launch(const QString& program, const QStringList& arguments);
     bool waitForAnswer();
+    bool makeDefault(const QString& kind, const QByteArray& device);
     void signalAll(int number);
     void setEnvironment(const char* name, const QByteArray& value);
 
