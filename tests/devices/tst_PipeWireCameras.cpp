@@ -266,9 +266,14 @@ void tst_PipeWireCameras::mergesBursts()
     QTRY_COMPARE_WITH_TIMEOUT(ids().size(), Count, LongMs);
     QTRY_VERIFY(m_watcher.log.endsWith(QStringLiteral("current cam_0")));
     m_watcher.log.clear();
+    m_server->freeze(); // so that it finds them gone all at once, however long their end takes
     for (const Camera& camera : cameras) {
         camera->sendSignal(SIGKILL);
     }
+    for (const Camera& camera : cameras) {
+        QTRY_COMPARE(camera->state(), QProcess::NotRunning);
+    }
+    m_server->thaw();
     QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 0, LongMs);
     const QStringList expected{QStringLiteral("list"), QStringLiteral("current cam_0")};
     QTRY_COMPARE(m_watcher.log, expected);
