@@ -7,12 +7,16 @@
 
 namespace TestSupport {
 
-// How long the thread that made this has been ready to run without a processor since it began: the
-// second figure of the kernel's schedstat.
+// How long a thread, unless told otherwise the one that made this, has been ready to run without a
+// processor since it began: the second figure of the kernel's schedstat.
 class RunDelay
 {
 public:
-    RunDelay() { m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
+    explicit RunDelay(const QString& thread = QStringLiteral("/proc/thread-self"))
+        : m_file(thread + QStringLiteral("/schedstat"))
+    {
+        m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
 
     // 0 where the kernel keeps no such figures.
     qint64 totalMs()
@@ -23,7 +27,7 @@ public:
     }
 
 private:
-    QFile m_file{QStringLiteral("/proc/thread-self/schedstat")};
+    QFile m_file;
 };
 
 } // namespace TestSupport
