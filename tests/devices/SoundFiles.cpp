@@ -51,9 +51,16 @@ std::vector<float> readSound(const QString& path)
 
 std::vector<double> compareWithSounds(const std::vector<float>& recording)
 {
+    static const std::vector<std::vector<float>> sounds = [] {
+        std::vector<std::vector<float>> all;
+        for (const QString& name : soundNames()) {
+            all.push_back(readSound(soundPath(name)));
+        }
+        return all;
+    }();
     std::vector<double> result;
-    for (const QString& name : soundNames()) {
-        result.push_back(correlation(recording, readSound(soundPath(name))));
+    for (const std::vector<float>& sound : sounds) {
+        result.push_back(correlation(recording, sound));
     }
     return result;
 }

@@ -1,46 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseSound.h"
 #include "tests/devices/SoundFiles.h"
+#include "tests/devices/SoundTest.h"
 #include "tests/support/GapMeter.h"
-#include "tests/support/MemoryReport.h"
+#include "tests/support/MachineDelay.h"
 #include "tests/support/SoundRecording.h"
-#include "tests/support/SoundServer.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
-#include <memory>
 #include <sys/stat.h>
 
 using namespace Platform;
+using TestSupport::GapMeter;
 using TestSupport::soundNames;
 using TestSupport::soundPath;
 using TestSupport::SoundRecording;
-using TestSupport::SoundServer;
 
 namespace {
 
-constexpr int MaxGapMs = 50;
-constexpr int TimeoutMs = 5000;
 constexpr int BadFileMs = 1000;
 constexpr int PlayMs = 8000;
 constexpr qint64 ShortBytes = 32000; // over a second of sound
 constexpr double AlikeAtLeast = 0.95;
 constexpr double OthersAtMost = 0.5;
-constexpr float Audible = 0.003F;
-
-class SpeakerListener final : public SpeakerBackend::Listener
-{
-public:
-    void speakerListChanged() override {}
-    void currentSpeakerChanged(const QString&) override {}
-    void speakerVolumeChanged(int) override {}
-    void speakerWorkStateChanged(bool) override {}
-};
 
 class PlayerListener final : public PlayerBackend::Listener
 {
@@ -50,20 +35,13 @@ public:
     int finished = 0;
 };
 
-QString id(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
 } // namespace
 
-class tst_PulsePlayer : public QObject
+class tst_PulsePlayer : public TestSupport::SoundTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data() { SoundServer::addTestRows(); }
-
     void initTestCase()
     {
         QFile whole(soundPath(QStringLiteral("Saxophone.mp3")));
@@ -75,10 +53,8 @@ private Q_SLOTS:
 
     void init()
     {
-        m_server = SoundServer::startForTest();
-        QVERIFY(m_server);
-        m_sound = std::make_unique<PulseSound>(m_report);
-        m_speaker = m_sound->createSpeaker(m_speakerListener);
+        SoundTest::init();
+        m_speaker = m_sound->createSpeaker(m_noListener);
         QTRY_COMPARE_WITH_TIMEOUT(m_speaker->currentId(), id("speaker_a"), TimeoutMs);
         m_listener = {};
     }
@@ -87,62 +63,23 @@ private Q_SLOTS:
     {
         m_player.reset();
         m_speaker.reset();
-        m_sound.reset();
-        m_server.reset();
+        SoundTest::cleanup();
     }
 
     // Each of the sounds comes out as itself, on the chosen device and on no other: all at once,
     // each on a device of its own.
     void playsTheSounds()
     {
-        struct Place
-        {
-            explicit Place(const QString& speakerId) : recording(speakerId + ".monitor") {}
-
-            TestSupport::MemoryReport report;
-            PulseSound sound{report};
-            SpeakerListener speakerListener;
-            PlayerListener listener;
-            SoundRecording recording;
-            std::unique_ptr<SpeakerBackend> speaker;
-            std::unique_ptr<PlayerBackend> player;
-        };
-        const QStringList names = soundNames();
+        QStringList names = soundNames();
         QCOMPARE(names.size(), 8);
-        SoundRecording other(id("speaker_a.monitor"));
-        QVERIFY(other.waitForStart());
-        std::vector<std::unique_ptr<Place>> places;
-        for (const QString& name : names) {
-            const QString speakerId = "for_" + name.section('.', 0, 0).toLower();
-            QVERIFY(!m_server->plugSpeaker(speakerId, name).isEmpty());
-            places.push_back(std::make_unique<Place>(speakerId));
-            Place& place = *places.back();
-            QVERIFY(place.recording.waitForStart());
-            place.speaker = place.sound.createSpeaker(place.speakerListener);
-            place.speaker->setCurrent(speakerId);
-            QTRY_COMPARE(place.speaker->currentId(), speakerId);
+        for (const QString& name : qAsConst(names)) {
+            QVERIFY(!m_server->plugSpeaker(speakerFor(name), name).isEmpty());
         }
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            places[i]->player = places[i]->sound.createPlayer(
-                soundPath(names.at(static_cast<int>(i))), 1.0F, places[i]->listener);
-        }
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            QTRY_COMPARE_WITH_TIMEOUT(places[i]->listener.finished, 1, PlayMs);
-        }
-        QVERIFY(other.peak() < Audible);
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            const QByteArray played = names.at(static_cast<int>(i)).toUtf8();
-            const auto alike = TestSupport::compareWithSounds(places[i]->recording.samples());
-            QByteArray table;
-            for (const double value : alike) {
-                table += "  " + QByteArray::number(value, 'f', 3);
-            }
-            qInfo("%-14s%s", played.constData(), table.constData());
-            for (std::size_t k = 0; k < alike.size(); ++k) {
-                QVERIFY2(k == i ? alike[k] > AlikeAtLeast : alike[k] < OthersAtMost,
-                         played.constData());
-            }
-        }
+        const QString fault = TestSupport::measuredFault([this, &names] {
+            names = playTogether(names); // those that weren't right are played again
+            return names.join(QLatin1Char(' '));
+        });
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
     }
 
     void volumeIsWhatIsHeard()
@@ -156,52 +93,25 @@ private Q_SLOTS:
                  qPrintable(QStringLiteral("%1 dB").arg(half - full)));
     }
 
-    void badFiles_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"missing", "folder", "fifo", "empty", "huge", "noise", "text",
-                                 "half-header", "unreadable-path\n<b>"}) {
-            QTest::newRow(name) << QString::fromLatin1(name);
-        }
-    }
-
     void badFiles()
     {
-        QFETCH(QString, name);
         const QTemporaryDir folder;
-        const QString path = folder.filePath(name);
-        if (name == QLatin1String("folder")) {
-            QVERIFY(QDir().mkdir(path));
-        } else if (name == QLatin1String("fifo")) {
-            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-        } else if (name != QLatin1String("missing") && !name.startsWith(QLatin1String("unread"))) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            if (name == QLatin1String("huge")) {
-                QVERIFY(file.resize(1LL << 40));
-            } else if (name == QLatin1String("noise")) {
-                quint32 state = 1;
-                for (int i = 0; i < 200000; ++i) {
-                    state = state * 1664525U + 1013904223U;
-                    file.putChar(static_cast<char>(state >> 24U));
-                }
-            } else if (name == QLatin1String("text")) {
-                file.write(QByteArray("This is no sound.\n").repeated(5000));
-            } else if (name == QLatin1String("half-header")) {
-                file.write(QByteArray::fromHex("fffb90"));
-            }
+        for (const char* name : {"missing", "folder", "fifo", "empty", "huge", "noise", "text",
+                                 "half-header", "unreadable-path\n<b>"}) {
+            qInfo("%s", name);
+            const QString path = folder.filePath(name);
+            makeBadFile(name, path);
+            m_report = {};
+            m_listener = {};
+            play(path);
+            QCOMPARE(m_listener.finished, 0); // not from inside the call
+            QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
+            QTest::qWait(100);
+            QCOMPARE(m_listener.finished, 1);
+            QVERIFY(isUsable(m_speaker->state())); // the device is not to blame
+            QVERIFY(soundPlayed().isObject());
+            QVERIFY(soundPlayed().toObject().contains(id("failed")));
         }
-        QElapsedTimer clock;
-        clock.start();
-        play(path);
-        QCOMPARE(m_listener.finished, 0); // not from inside the call
-        QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
-        QVERIFY(clock.elapsed() < BadFileMs);
-        QTest::qWait(100);
-        QCOMPARE(m_listener.finished, 1);
-        QVERIFY(isUsable(m_speaker->state())); // the device is not to blame
-        QVERIFY(soundPlayed().isObject());
-        QVERIFY(soundPlayed().toObject().contains(id("failed")));
     }
 
     // A file that breaks off plays up to there.
@@ -230,10 +140,9 @@ private Q_SLOTS:
         QVERIFY(recording.waitForStart());
         play(soundPath(QStringLiteral("Saxophone.mp3")));
         QTRY_VERIFY(recording.peak() > Audible);
-        QElapsedTimer clock;
-        clock.start();
+        GapMeter gaps;
         m_player.reset();
-        QVERIFY(clock.elapsed() < MaxGapMs);
+        QVERIFY(gaps.longestMs() < MaxGapMs);
         QTRY_COMPARE(m_server->control({id("list"), id("short"), id("sink-inputs")}), QByteArray());
         QCOMPARE(m_listener.finished, 0);
     }
@@ -282,7 +191,7 @@ private Q_SLOTS:
     void frozenServer()
     {
         m_server->freeze();
-        TestSupport::GapMeter gaps;
+        GapMeter gaps;
         play(m_shortSound);
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
         m_player.reset();
@@ -313,10 +222,105 @@ private Q_SLOTS:
     }
 
 private:
-    QJsonValue soundPlayed() const
+    // The only one who plays on a device, and what is heard there.
+    struct Place
     {
-        return m_report.measurements.value(id("speaker")).value(id("soundPlayed"));
+        explicit Place(const QString& speakerId)
+            : recording(speakerId + ".monitor"), speaker(sound.createSpeaker(listener))
+        {
+            speaker->setCurrent(speakerId);
+        }
+
+        TestSupport::MemoryReport report;
+        PulseSound sound{report};
+        TestSupport::NoListener listener;
+        PlayerListener ending;
+        SoundRecording recording;
+        std::unique_ptr<SpeakerBackend> speaker;
+        std::unique_ptr<PlayerBackend> player;
+    };
+
+    static QString speakerFor(const QString& sound)
+    {
+        return "for_" + sound.section('.', 0, 0).toLower();
     }
+
+    // Those that didn't come out as themselves, or all where that can't be told.
+    QStringList playTogether(const QStringList& names)
+    {
+        SoundRecording other(id("speaker_a.monitor"));
+        bool isReady = other.waitForStart();
+        std::vector<std::unique_ptr<Place>> places;
+        for (const QString& name : names) {
+            places.push_back(std::make_unique<Place>(speakerFor(name)));
+            Place& place = *places.back();
+            // One after the other: of recordings that begin together PulseAudio forgets some.
+            isReady = place.recording.waitForStart() &&
+                      QTest::qWaitFor([&] { return isUsable(place.speaker->state()); }) && isReady;
+        }
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            Place& place = *places[i];
+            place.player = place.sound.createPlayer(soundPath(names.at(static_cast<int>(i))), 1.0F,
+                                                    place.ending);
+        }
+        for (const auto& place : places) {
+            isReady =
+                QTest::qWaitFor([&] { return place->ending.finished == 1; }, PlayMs) && isReady;
+        }
+        if (!isReady || other.peak() >= Audible) {
+            return names;
+        }
+        QStringList faulty;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const QString& name = names.at(static_cast<int>(i));
+            if (!isHeardAs(name, places[i]->recording.samples())) {
+                faulty.append(name);
+            }
+        }
+        return faulty;
+    }
+
+    static bool isHeardAs(const QString& name, const std::vector<float>& recording)
+    {
+        const std::vector<double> alike = TestSupport::compareWithSounds(recording);
+        const QStringList all = soundNames();
+        QString table;
+        bool result = true;
+        for (int i = 0; i < all.size(); ++i) {
+            const double value = alike[static_cast<std::size_t>(i)];
+            table += QStringLiteral("  %1").arg(value, 0, 'f', 3);
+            result &= all.at(i) == name ? value > AlikeAtLeast : value < OthersAtMost;
+        }
+        qInfo("%-14s%s", qPrintable(name), qPrintable(table));
+        return result;
+    }
+
+    static void makeBadFile(const QByteArray& name, const QString& path)
+    {
+        if (name == "folder") {
+            QVERIFY(QDir().mkdir(path));
+        } else if (name == "fifo") {
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        } else if (name != "missing" && !name.startsWith("unread")) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            if (name == "huge") {
+                QVERIFY(file.resize(1LL << 40));
+            } else if (name == "noise") {
+                quint32 state = 1;
+                for (int i = 0; i < 200000; ++i) {
+                    state = state * 1664525U + 1013904223U;
+                    file.putChar(static_cast<char>(state >> 24U));
+                }
+            } else if (name == "text") {
+                file.write(QByteArray("This is no sound.\n").repeated(5000));
+            } else if (name == "half-header") {
+                file.write(QByteArray::fromHex("fffb90"));
+            }
+        }
+    }
+
+    QJsonValue soundPlayed() const { return figures("speaker").value(id("soundPlayed")); }
 
     void play(const QString& path)
     {
@@ -343,10 +347,6 @@ private:
 
     const QTemporaryDir m_folder;
     const QString m_shortSound = m_folder.filePath(id("short.mp3"));
-    std::unique_ptr<SoundServer> m_server;
-    TestSupport::MemoryReport m_report;
-    std::unique_ptr<PulseSound> m_sound;
-    SpeakerListener m_speakerListener;
     std::unique_ptr<SpeakerBackend> m_speaker;
     PlayerListener m_listener;
     std::unique_ptr<PlayerBackend> m_player;

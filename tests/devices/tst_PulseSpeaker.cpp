@@ -1,22 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseSound.h"
+#include "platform/devices/pulse/PulseDevices.h"
+#include "tests/devices/SoundTest.h"
 #include "tests/support/GapMeter.h"
-#include "tests/support/MemoryReport.h"
 #include "tests/support/PlugStorm.h"
-#include "tests/support/SoundServer.h"
 
-#include <QElapsedTimer>
 #include <QTest>
-#include <memory>
 
 using namespace Platform;
+using TestSupport::GapMeter;
 using TestSupport::SoundServer;
 
 namespace {
-
-constexpr int MaxGapMs = 50;
-constexpr int TimeoutMs = 5000;
 
 class Listener final : public SpeakerBackend::Listener
 {
@@ -32,35 +27,16 @@ public:
     QList<bool> works_;
 };
 
-QString nameOf(const DeviceList& list, const QString& id)
-{
-    for (const DeviceInfo& device : list) {
-        if (device.id == id) {
-            return device.name;
-        }
-    }
-    return {};
-}
-
-QString id(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
 } // namespace
 
-class tst_PulseSpeaker : public QObject
+class tst_PulseSpeaker : public TestSupport::SoundTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data() { SoundServer::addTestRows(); }
-
     void init()
     {
-        m_server = SoundServer::startForTest();
-        QVERIFY(m_server);
-        m_sound = std::make_unique<PulseSound>(m_report);
+        SoundTest::init();
         m_listener = std::make_unique<Listener>();
         m_speaker = m_sound->createSpeaker(*m_listener);
         QVERIFY(m_sound->speakers().empty());
@@ -70,14 +46,13 @@ private Q_SLOTS:
     void cleanup()
     {
         m_speaker.reset();
-        m_sound.reset();
-        m_server.reset();
+        SoundTest::cleanup();
     }
 
     void listsTheDevices()
     {
         QCOMPARE(m_sound->speakers().size(), std::size_t{3});
-        QCOMPARE(nameOf(m_sound->speakers(), id("speaker_b")), QStringLiteral("Test Speaker B"));
+        QCOMPARE(nameIn(m_sound->speakers(), id("speaker_b")), QStringLiteral("Test Speaker B"));
         QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker A"));
         QTRY_VERIFY(m_listener->lists > 0);
         QTRY_COMPARE(m_listener->currents.value(0), id("speaker_a"));
@@ -91,11 +66,11 @@ private Q_SLOTS:
     void plugging()
     {
         const QByteArray twin = m_server->plugSpeaker(id("twin"), QStringLiteral("Test Speaker A"));
-        QTRY_COMPARE(nameOf(m_sound->speakers(), id("twin")), QStringLiteral("Test Speaker A (2)"));
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("twin")), QStringLiteral("Test Speaker A (2)"));
         m_server->plugSpeaker(id("markup"), QStringLiteral("<b>Bold</b>"));
-        QTRY_COMPARE(nameOf(m_sound->speakers(), id("markup")), QStringLiteral("<b>Bold</b>"));
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("markup")), QStringLiteral("<b>Bold</b>"));
         m_server->unplug(twin);
-        QTRY_COMPARE(nameOf(m_sound->speakers(), id("twin")), QString());
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("twin")), QString());
         // A refilled list has to show the choice again.
         QTRY_COMPARE(m_listener->currents.size(), 1 + 3);
         QCOMPARE(m_listener->currents.last(), id("speaker_a"));
@@ -114,7 +89,7 @@ private Q_SLOTS:
         // Nor does the default move the choice.
         m_server->control({id("set-default-sink"), id("voice")});
         m_server->plugSpeaker(id("late"), id("Late")); // behind it, so that it is known to be over
-        QTRY_COMPARE(nameOf(m_sound->speakers(), id("late")), id("Late"));
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("late")), id("Late"));
         QCOMPARE(m_speaker->currentId(), id("speaker_b"));
     }
 
@@ -199,7 +174,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_server->control({id("get-sink-mute"), id("speaker_b")}),
                      QByteArray("Mute: no"));
         m_speaker.reset();
-        const QJsonObject figures = m_report.measurements.value(id("speaker"));
+        const QJsonObject figures = this->figures("speaker");
         QCOMPARE(figures.value(id("device")).toString(), QStringLiteral("Test Speaker B"));
         QCOMPARE(figures.value(id("mutedBefore")).toBool(), true);
         QCOMPARE(figures.value(id("mutedAfter")).toBool(), false);
@@ -216,7 +191,7 @@ private Q_SLOTS:
         m_server->control({id("set-default-sink"), id("speaker_b")});
         QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
         m_speaker.reset();
-        const QJsonObject figures = m_report.measurements.value(id("speaker"));
+        const QJsonObject figures = this->figures("speaker");
         QCOMPARE(figures.value(id("defaultBefore")).toString(), QStringLiteral("Test Speaker A"));
         QCOMPARE(figures.value(id("defaultAfter")).toString(), QStringLiteral("Test Speaker B"));
     }
@@ -225,7 +200,7 @@ private Q_SLOTS:
     {
         m_speaker->setCurrent(id("speaker_b"));
         QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
-        TestSupport::GapMeter gaps;
+        GapMeter gaps;
         m_server->kill();
         QTRY_VERIFY(m_sound->speakers().empty());
         QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
@@ -242,14 +217,13 @@ private Q_SLOTS:
     void frozenServerHoldsNobodyUp()
     {
         m_server->freeze();
-        QElapsedTimer clock;
-        clock.start();
+        GapMeter gaps;
         m_speaker->setVolume(20);
         m_speaker->setCurrent(id("speaker_b"));
         const std::unique_ptr<SpeakerBackend> other = m_sound->createSpeaker(*m_listener);
         QCOMPARE(m_speaker->volume(), 20);
         m_speaker.reset();
-        QVERIFY2(clock.elapsed() < MaxGapMs, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         QTRY_COMPARE(other->currentId(), id("speaker_b"));
         m_server->thaw();
         QTRY_VERIFY(sinkVolumes().contains(" 20%"));
@@ -259,12 +233,11 @@ private Q_SLOTS:
     {
         Listener second;
         m_server->freeze();
-        QElapsedTimer clock;
-        clock.start();
+        GapMeter gaps;
         m_speaker.reset(); // with it the connection
         m_speaker = m_sound->createSpeaker(second);
         m_speaker.reset(); // one that never got through
-        QVERIFY2(clock.elapsed() < MaxGapMs, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         m_server->thaw();
     }
 
@@ -275,17 +248,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
         QCOMPARE(storm.events(), Events);
         m_server->plugSpeaker(id("last"), id("Last"));
-        QTRY_COMPARE(nameOf(m_sound->speakers(), id("last")), id("Last"));
-        QCOMPARE(nameOf(m_sound->speakers(), id("hasty")), QString());
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("last")), id("Last"));
+        QCOMPARE(nameIn(m_sound->speakers(), id("hasty")), QString());
         QCOMPARE(m_speaker->currentId(), id("speaker_a"));
     }
 
 private:
     QByteArray sinkVolumes() { return m_server->control({id("get-sink-volume"), id("speaker_a")}); }
 
-    std::unique_ptr<SoundServer> m_server;
-    TestSupport::MemoryReport m_report;
-    std::unique_ptr<PulseSound> m_sound;
     std::unique_ptr<Listener> m_listener;
     std::unique_ptr<SpeakerBackend> m_speaker;
 };

@@ -18,10 +18,13 @@ public:
         m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
 
-    // 0 where the kernel keeps no such figures.
+    // 0 where the kernel keeps no such figures, or the thread is over.
     qint64 totalMs()
     {
         constexpr qint64 NsPerMs = 1000000;
+        if (!m_file.isOpen()) {
+            return 0;
+        }
         m_file.seek(0);
         return m_file.readAll().split(' ').value(1).toLongLong() / NsPerMs;
     }

@@ -22,6 +22,9 @@ constexpr int EndTimeoutMs = 30000;
 constexpr std::size_t Decimation = 4;
 constexpr std::ptrdiff_t SearchedDelay = SoundRecording::Rate / Decimation / 30;
 constexpr float OnsetThreshold = 0.01F;
+// The beginning of a sound tells its delay nearly to the sample, for a fraction of the work.
+constexpr std::ptrdiff_t Beginning = SoundRecording::Rate / Decimation / 4;
+constexpr std::ptrdiff_t DelayError = 2;
 
 std::vector<float> decimated(const std::vector<float>& samples)
 {
@@ -237,26 +240,39 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
 {
     const std::vector<float> hay = decimated(recording);
     const std::vector<float> needle = decimated(sound);
-    const auto offset = static_cast<std::ptrdiff_t>(firstAbove(hay, OnsetThreshold)) -
-                        static_cast<std::ptrdiff_t>(firstAbove(needle, OnsetThreshold));
     const std::vector<double> hayEnergy = runningEnergy(hay);
-    const double needleEnergy = runningEnergy(needle).back();
+    const std::vector<double> needleEnergy = runningEnergy(needle);
     const auto hayEnd = static_cast<std::ptrdiff_t>(hay.size());
     const auto needleEnd = static_cast<std::ptrdiff_t>(needle.size());
+    const auto between = [](const std::vector<double>& energy, std::ptrdiff_t from,
+                            std::ptrdiff_t to) {
+        return energy[static_cast<std::size_t>(to)] - energy[static_cast<std::size_t>(from)];
+    };
+    const auto alike = [&](std::ptrdiff_t delay, std::ptrdiff_t from, std::ptrdiff_t to) {
+        // What lies outside the recording is silence.
+        const std::ptrdiff_t begin = std::clamp(-delay, from, to);
+        const std::ptrdiff_t end = std::clamp(hayEnd - delay, begin, to);
+        const double product = std::inner_product(needle.begin() + begin, needle.begin() + end,
+                                                  hay.begin() + (begin + delay), 0.0);
+        const double energies = std::sqrt(between(needleEnergy, from, to) *
+                                          between(hayEnergy, begin + delay, end + delay));
+        return energies > 0.0 ? product / energies : 0.0;
+    };
+    const auto onset = static_cast<std::ptrdiff_t>(firstAbove(needle, OnsetThreshold));
+    const auto offset = static_cast<std::ptrdiff_t>(firstAbove(hay, OnsetThreshold)) - onset;
+    const std::ptrdiff_t beginning = std::min(onset + Beginning, needleEnd);
+    std::ptrdiff_t likeliest = offset;
     double best = 0.0;
     for (std::ptrdiff_t delay = offset - SearchedDelay; delay <= offset + SearchedDelay; ++delay) {
-        // What lies outside the recording is silence.
-        const std::ptrdiff_t begin = std::clamp<std::ptrdiff_t>(-delay, 0, needleEnd);
-        const std::ptrdiff_t end = std::clamp<std::ptrdiff_t>(hayEnd - delay, begin, needleEnd);
-        if (begin == end) {
-            continue;
+        const double value = alike(delay, onset, beginning);
+        if (value > best) {
+            best = value;
+            likeliest = delay;
         }
-        const double product = std::inner_product(needle.begin() + begin, needle.begin() + end,
-                                                  hay.begin() + delay + begin, 0.0);
-        const double energies =
-            std::sqrt(needleEnergy * (hayEnergy[static_cast<std::size_t>(delay + end)] -
-                                      hayEnergy[static_cast<std::size_t>(delay + begin)]));
-        best = std::max(best, energies > 0.0 ? product / energies : 0.0);
+    }
+    best = 0.0;
+    for (std::ptrdiff_t delay = likeliest - DelayError; delay <= likeliest + DelayError; ++delay) {
+        best = std::max(best, alike(delay, 0, needleEnd));
     }
     return best;
 }
