@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/DriftingMicrophone.h"
 
+#include "tests/support/DrivingMicrophone.h"
+#include "tests/support/FifoMicrophone.h"
 #include "tests/support/SoundRecording.h"
 
-#include <QFile>
 #include <algorithm>
-#include <cmath>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace TestSupport {
 
@@ -19,21 +17,17 @@ constexpr double BurstSeconds = 0.002;
 constexpr double BurstHz = 4000.0;
 constexpr double BurstDecibels = -8.0;
 constexpr double ToneDecibels = -26.0;
-constexpr std::size_t PieceSize = 240; // samples; as much is written whole or not at all
 
 } // namespace
 
 DriftingMicrophone::DriftingMicrophone(SoundServer& server, const QString& name, double speed)
     : m_samplesPerSecond(SoundRecording::Rate * speed)
 {
-    const QString path = m_folder.filePath(name);
-    server.control({QStringLiteral("load-module"), QStringLiteral("module-pipe-source"),
-                    QStringLiteral("source_name=%1").arg(name), QStringLiteral("file=%1").arg(path),
-                    QStringLiteral("format=float32le"),
-                    QStringLiteral("rate=%1").arg(SoundRecording::Rate),
-                    QStringLiteral("channels=1")});
-    // Open for reading too, it breaks for nobody when the server ends.
-    m_fifo = ::open(QFile::encodeName(path).constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    if (server.kind() == SoundServer::Kind::PulseAudio) {
+        m_feed = std::make_unique<FifoMicrophone>(server, name);
+    } else {
+        m_feed = std::make_unique<DrivingMicrophone>(name.toUtf8());
+    }
 }
 
 DriftingMicrophone::~DriftingMicrophone()
@@ -41,9 +35,6 @@ DriftingMicrophone::~DriftingMicrophone()
     m_isOver = true;
     if (m_thread.joinable()) {
         m_thread.join();
-    }
-    if (m_fifo >= 0) {
-        ::close(m_fifo);
     }
 }
 
@@ -74,12 +65,10 @@ std::vector<DriftingMicrophone::Clock::time_point> DriftingMicrophone::burstTime
 // As a device does, it hands over what it has heard in a while.
 void DriftingMicrophone::run()
 {
-    for (std::size_t at = 0; at < m_sound.size() && !m_isOver; at += PieceSize) {
-        const std::size_t count = std::min(PieceSize, m_sound.size() - at);
-        std::this_thread::sleep_until(timeOf(at + count));
-        // What the server doesn't take in time is lost.
-        [[maybe_unused]] const ssize_t written =
-            ::write(m_fifo, m_sound.data() + at, count * sizeof(float));
+    constexpr std::size_t Size = MicrophoneFeed::PieceSize;
+    for (std::size_t at = 0; at + Size <= m_sound.size() && !m_isOver; at += Size) {
+        std::this_thread::sleep_until(timeOf(at + Size));
+        m_feed->hear(m_sound.data() + at);
     }
     m_hasHeardAll = true;
 }

@@ -2,18 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/MicrophoneFeed.h"
 #include "tests/support/SoundServer.h"
 
 #include <atomic>
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <thread>
 #include <vector>
 
 namespace TestSupport {
 
-// A microphone of PulseAudio with a clock of its own, which goes too fast or too slowly. It hears a
-// steady tone with short loud bursts in it.
+// A microphone with a clock of its own, which goes too fast or too slowly. It hears a steady tone
+// with short loud bursts in it.
 class DriftingMicrophone
 {
 public:
@@ -27,7 +29,7 @@ public:
     DriftingMicrophone(const DriftingMicrophone&) = delete;
     DriftingMicrophone& operator=(const DriftingMicrophone&) = delete;
 
-    bool isPlugged() const { return m_fifo >= 0; }
+    bool isPlugged() const { return m_feed->isPlugged(); }
     void hear(int bursts); // once, beginning now
     bool hasHeardAll() const { return m_hasHeardAll; }
     std::vector<Clock::time_point> burstTimes() const;
@@ -36,9 +38,8 @@ private:
     void run();
     Clock::time_point timeOf(std::size_t sample) const;
 
-    QTemporaryDir m_folder;
+    std::unique_ptr<MicrophoneFeed> m_feed;
     double m_samplesPerSecond; // by a clock that is right
-    int m_fifo = -1;
     std::vector<float> m_sound;
     std::vector<std::size_t> m_bursts; // where they begin
     Clock::time_point m_start;
