@@ -5,7 +5,10 @@ install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/envcheck RENAME c
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME envcheck)
-set(CPACK_PACKAGE_CONTACT "The EnvCheck authors <envcheck@localhost>")
+# Whoever passes the package on names somebody who answers: no mail reaches example.org.
+set(ENVCHECK_PACKAGE_CONTACT "The EnvCheck authors <envcheck@example.org>" CACHE STRING
+    "Who looks after the Debian package: NAME <MAIL>")
+set(CPACK_PACKAGE_CONTACT ${ENVCHECK_PACKAGE_CONTACT})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
