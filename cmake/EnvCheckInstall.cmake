@@ -25,6 +25,8 @@ install(TARGETS EnvCheck EXPORT EnvCheckTargets)
 install(FILES agent/EnvCheckAgent.h agent/EnvCheckExport.h DESTINATION ${include_folder}/agent)
 envcheck_install_package(EnvCheck)
 if(NOT ENVCHECK_ENGINE STREQUAL "bundled")
+    # The engine stays where it is.
+    set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
     return()
 endif()
 

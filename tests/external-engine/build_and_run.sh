@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
-# Builds the library against the minimal engine and walks through the check on it.
+# Builds and installs the library on the minimal engine, and walks through the check on it in a client
+# that knows the two by their CMake packages.
 # Usage: build_and_run.sh SOURCE_FOLDER BUILD_FOLDER
 set -euo pipefail
 source=$1
@@ -11,10 +12,11 @@ cmake -G Ninja -S "$source/tests/external-engine" -B "$build/engine" -DCMAKE_CXX
 cmake --build "$build/engine"
 cmake -G Ninja -S "$source" -B "$build/library" -DENVCHECK_ENGINE=external \
     -DClassroomEngine_DIR="$build/engine" -DENVCHECK_WARNINGS_AS_ERRORS=ON
-cmake --build "$build/library" --target EnvCheck
+cmake --build "$build/library"
 "$source/tests/abi/exported_symbols.sh" "$build/library/lib/libEnvCheck.so"
+cmake --install "$build/library" --prefix "$build/installed"
 cmake -G Ninja -S "$source/tests/external-engine/program" -B "$build/program" \
-    -DClassroomEngine_DIR="$build/engine" -DENVCHECK_SOURCE_DIR="$source" \
-    -DENVCHECK_LIBRARY="$build/library/lib/libEnvCheck.so" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+    -DCMAKE_PREFIX_PATH="$build/installed" -DClassroomEngine_DIR="$build/engine" \
+    -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 cmake --build "$build/program"
 QT_QPA_PLATFORM=offscreen "$build/program/run_check"
