@@ -3,7 +3,7 @@
 #include "tests/devices/DeviceDialog.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/support/GapMeter.h"
-#include "tests/support/MachineGap.h"
+#include "tests/support/MachineDelay.h"
 #include "tests/support/PlugStorm.h"
 #include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
@@ -26,9 +26,8 @@ using namespace TestSupport;
 namespace {
 
 constexpr qint64 MaxGapMs = 50;
-// While servers start and devices storm in, two cores have more to do than a page; at rest it stays
-// within the other bound.
-constexpr qint64 MaxBusyGapMs = 150;
+// Whoever starts a server from the GUI thread, as this test does, waits for its programs.
+constexpr qint64 MaxStartGapMs = 150;
 constexpr int LongMs = 8000;
 constexpr float Audible = 0.003F;
 constexpr double AlikeAtLeast = 0.95;
@@ -90,7 +89,7 @@ private:
 
     std::unique_ptr<SoundServer> m_server;
     std::unique_ptr<DeviceDialog> m_dialog;
-    qint64 m_worstGapMs = 0; // beyond the machine's own
+    qint64 m_worstGapMs = 0;
 };
 
 void tst_SpeakerDialog::initTestCase_data()
@@ -129,16 +128,21 @@ void tst_SpeakerDialog::hearsTheSoundAndAnswers()
         QTRY_COMPARE(volumeOf("speaker_b").count(" 80%"), 2);
         keepPicture("idle");
 
-        play(chosenOne);
-        keepPicture("playing");
-        QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
-        keepPicture("finished");
+        QString heard;
+        const QString fault = measuredFault([&] {
+            chosenOne.forget();
+            play(chosenOne);
+            keepPicture("playing");
+            const bool isOver = QTest::qWaitFor([this] { return !isPlaying(); }, LongMs);
+            keepPicture("finished");
+            const std::vector<double> alike = compareWithSounds(chosenOne.samples());
+            const auto best = std::max_element(alike.begin(), alike.end());
+            heard = soundNames().at(static_cast<int>(best - alike.begin()));
+            return isOver && *best > AlikeAtLeast ? QString()
+                                                  : QStringLiteral("%1: %2").arg(heard).arg(*best);
+        });
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
         QVERIFY(other.peak() < Audible);
-
-        const std::vector<double> alike = compareWithSounds(chosenOne.samples());
-        const auto best = std::max_element(alike.begin(), alike.end());
-        QVERIFY(*best > AlikeAtLeast);
-        const QString heard = soundNames().at(static_cast<int>(best - alike.begin()));
         QRadioButton* answer = answerFor(heard);
         QVERIFY2(answer, qPrintable(heard));
         QTest::mouseClick(answer, Qt::LeftButton, {}, QPoint(8, answer->height() / 2));
@@ -332,7 +336,7 @@ void tst_SpeakerDialog::survivesTheServersDeath()
         QVERIFY(again.waitForStart());
         play(again);
     }));
-    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_worstGapMs < MaxStartGapMs, qPrintable(QString::number(m_worstGapMs)));
 }
 
 void tst_SpeakerDialog::followsDevicesInMidSound()
@@ -401,7 +405,7 @@ void tst_SpeakerDialog::survivesAStormOfPlugs()
         m_server->plugSpeaker(id("last"), id("Last"));
         QTRY_COMPARE(box()->count(), count + 1);
     }));
-    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
 }
 
 bool tst_SpeakerDialog::isSpeakerThere() const
@@ -461,17 +465,11 @@ QByteArray tst_SpeakerDialog::volumeOf(const char* speakerId)
 // A row of the list of faults.
 void tst_SpeakerDialog::meter(const char* fault, const Script& action)
 {
-    qint64 gap = 0;
-    qint64 machineGap = 0;
-    {
-        const MachineGap machine;
-        GapMeter gaps;
-        action();
-        gap = gaps.longestMs();
-        machineGap = machine.longestMs();
-    }
-    qInfo("| %s | longest gap %lld ms, the machine's own %lld ms |", fault, gap, machineGap);
-    m_worstGapMs = std::max(m_worstGapMs, gap - machineGap);
+    GapMeter gaps;
+    action();
+    const qint64 gap = gaps.longestMs();
+    qInfo("| %s | longest gap %lld ms |", fault, gap);
+    m_worstGapMs = std::max(m_worstGapMs, gap);
 }
 
 QTEST_MAIN(tst_SpeakerDialog)
