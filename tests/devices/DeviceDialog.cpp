@@ -66,21 +66,24 @@ void DeviceDialog::click(const char* name) const
     QTest::mouseClick(child<QWidget>(name), Qt::LeftButton);
 }
 
-// With the balloons, which are windows of their own.
-bool DeviceDialog::keepPicture(const QString& name) const
+QPixmap DeviceDialog::picture() const
 {
-    QPixmap picture = m_dialog->grab();
-    {
-        QPainter painter(&picture);
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget* window : windows) {
-            if (window->isVisible() && window != m_dialog) {
-                painter.drawPixmap(window->pos() - m_dialog->pos(), window->grab());
-            }
+    QPixmap result = m_dialog->grab();
+    QPainter painter(&result);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window->isVisible() && window != m_dialog) {
+            painter.drawPixmap(window->pos() - m_dialog->pos(), window->grab());
         }
     }
+    return result;
+}
+
+QString DeviceDialog::screenshot(const QString& name)
+{
     const QString folder = QCoreApplication::applicationDirPath() + "/../screenshots/";
-    return QDir().mkpath(folder) && picture.save(folder + name + QStringLiteral(".png"));
+    QDir().mkpath(folder);
+    return folder + name + QStringLiteral(".png");
 }
 
 QJsonObject DeviceDialog::results() const

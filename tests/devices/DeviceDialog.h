@@ -5,6 +5,7 @@
 #include <LumWidgets/LumCustomNormalDialog.h>
 
 #include <QJsonObject>
+#include <QPixmap>
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -32,7 +33,9 @@ public:
     // the dialog didn't come or didn't go.
     bool run(const Script& script);
     void click(const char* name) const; // a widget, in its middle
-    bool keepPicture(const QString& name) const;
+    QPixmap picture() const;            // with the balloons, which are windows of their own
+    bool keepPicture(const QString& name) const { return picture().save(screenshot(name)); }
+    static QString screenshot(const QString& name); // its path, in a folder that is there
     QJsonObject results() const;
 
     template <typename T>
