@@ -111,6 +111,7 @@ class Shipped(unittest.TestCase):
                 self.assertGreater(np.sum(track.mean(axis=0) ** 2), 0.5 * np.mean(np.sum(track**2, axis=1)))
 
     def test_sound_begins_at_once(self):
+        self.every(lambda values: self.assertLess(values["onset"], 0.01))
         for name, track in self.tracks.items():
             with self.subTest(sound=name):
                 loud = level(track, 0.01)
@@ -138,7 +139,7 @@ class Shipped(unittest.TestCase):
 
     def test_seagull_cries_fall(self):
         track = self.tracks["Seagull"]
-        for first, last in ((0.20, 0.60), (0.95, 1.28), (1.70, 1.89), (2.05, 2.23), (2.40, 2.60)):
+        for first, last in ((0.17, 0.57), (0.92, 1.25), (1.67, 1.86), (2.02, 2.20), (2.37, 2.57)):
             with self.subTest(cry=first):
                 begin = strongest(stretch(track, first, first + 0.06), 750, 1400)
                 end = strongest(stretch(track, last - 0.06, last), 650, 1400)
@@ -146,7 +147,7 @@ class Shipped(unittest.TestCase):
 
     def test_thunder_cracks_and_rolls_away(self):
         track = self.tracks["Thunder"]
-        self.assertLess(np.argmax(np.abs(track).max(axis=0)) / kit.RATE, 0.4)
+        self.assertLess(np.argmax(level(track, 0.02)) / kit.RATE, 0.4)
         self.assertLess(centre(stretch(track, 1.5, 3.5)), 0.7 * centre(stretch(track, 0.05, 0.4)))
         # It rolls: the level keeps surging after the crack.
         tail = level(stretch(track, 0.6, 3.0), 0.08)
@@ -161,17 +162,18 @@ class Shipped(unittest.TestCase):
         self.assertAlmostEqual(strongest(stretch(track, 0.1, 0.7), 1200, 2500) / ding, 2.76, delta=0.02)
 
     def test_shutter_takes_three_pictures(self):
-        loud = level(self.tracks["Shutter"], 0.05) > 0.02
+        track = np.hstack((kit.silence(0.05), self.tracks["Shutter"]))  # a rise is seen only after rest
+        loud = level(track, 0.05) > 0.02
         edges = np.flatnonzero(np.diff(np.concatenate(([0], loud.astype(int), [0])))).reshape(-1, 2) / kit.RATE
         self.assertEqual(len(edges), 3)
         for first, last in edges:
-            blows = onsets(stretch(self.tracks["Shutter"], max(0, first - 0.05), first + 0.25), 0.006, 2.5, 0.02)
+            blows = onsets(stretch(track, max(0, first - 0.05), first + 0.25), 0.006, 2.2, 0.02)
             self.assertGreaterEqual(len(blows), 3, "mirror, curtain and mirror again")
             self.assertGreater(last - first, 0.35, "the motor runs on")
 
     def test_bubbles_rise(self):
         track = self.tracks["Bubble"]
-        for start in (0.06, 0.29, 0.92, 1.78, 2.62):
+        for start in (0.006, 0.236, 0.866, 1.726, 2.566):
             with self.subTest(bubble=start):
                 begin = strongest(stretch(track, start + 0.005, start + 0.035), 300, 1500)
                 end = strongest(stretch(track, start + 0.08, start + 0.11), 300, 1500)
@@ -186,8 +188,8 @@ class Shipped(unittest.TestCase):
     def test_phrases_have_their_notes(self):
         piano, saxophone = self.tracks["Piano"], self.tracks["Saxophone"]
         for track, first, last, hertz in (
-            (piano, 0.06, 0.28, 880.00), (piano, 0.32, 0.54, 1046.50), (piano, 0.85, 1.05, 1174.66),
-            (saxophone, 0.10, 0.27, 293.66), (saxophone, 1.12, 1.30, 523.25), (saxophone, 2.30, 2.50, 392.00),
+            (piano, 0.04, 0.26, 880.00), (piano, 0.30, 0.52, 1046.50), (piano, 0.83, 1.03, 1174.66),
+            (saxophone, 0.05, 0.22, 293.66), (saxophone, 1.07, 1.25, 523.25), (saxophone, 2.25, 2.45, 392.00),
         ):
             with self.subTest(at=first):
                 found = strongest(stretch(track, first, last), hertz / 1.1, hertz * 1.1)

@@ -10,6 +10,8 @@ import numpy as np
 from scipy import ndimage, signal
 
 RATE = 44100
+# Of a sound's peak: below, before its beginning, it is silence to the ear.
+ONSET_SHARE = 0.01
 
 
 def samples(seconds):
@@ -151,3 +153,14 @@ def faded(track, fade_in, fade_out):
     for count, ramp in ((samples(fade_in), result), (samples(fade_out), result[:, ::-1])):
         ramp[:, :count] *= (1 - np.cos(np.pi * np.arange(count) / count)) / 2
     return result
+
+
+def onset(track):
+    """The first sample that isn't silence."""
+    level = np.abs(track).max(axis=0)
+    return int(np.argmax(level > ONSET_SHARE * level.max()))
+
+
+def trimmed(track, lead):
+    """Begins so many seconds before its first sound, with a ramp too short to be heard."""
+    return faded(track[:, max(0, onset(track) - samples(lead)) :], lead, 0)

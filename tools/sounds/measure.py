@@ -67,9 +67,9 @@ def energy_share(track, low, high):
 
 
 def edge_level(track):
-    """The loudest sample within the first and the last 5 ms, in dBFS: a click at an end shows here."""
-    count = kit.samples(0.005)
-    loudest = max(np.abs(track[:, :count]).max(), np.abs(track[:, -count:]).max())
+    """The loudest sample within the first ms and the last five, in dBFS: a click at an end shows here."""
+    first, last = track[:, : kit.samples(0.001)], track[:, -kit.samples(0.005) :]
+    loudest = max(np.abs(first).max(), np.abs(last).max())
     return 20 * np.log10(max(loudest, 1e-6))
 
 
@@ -109,6 +109,7 @@ def measures(path):
         share=energy_share(track, *SMALL_SPEAKER),
         centre=float(np.sum(hertz * power) / power.sum()),
         edge=edge_level(track),
+        onset=kit.onset(track) / kit.RATE,
         bytes=pathlib.Path(path).stat().st_size,
     )
     return result
@@ -117,14 +118,14 @@ def measures(path):
 def table(folder, names):
     """The measures of the files in a folder as the lines of a table."""
     lines = [
-        "| Sound | Length | Bit rate | Loudness | True peak | 300 Hz to 6 kHz | Centre | First, last 5 ms | Size |",
-        "|---|---|---|---|---|---|---|---|---|",
+        "| Sound | Length | Bit rate | Loudness | True peak | 300 Hz to 6 kHz | Centre | Begins | First 1, last 5 ms | Size |",
+        "|---|---|---|---|---|---|---|---|---|---|",
     ]
     for name in names:
         values = measures(folder / f"{name}.mp3")
         lines.append(
             f"| {name} | {values['seconds']:.2f} s | {values['kbit']:.0f} kbit/s | {values['lufs']:.1f} LUFS "
             f"| {values['true_peak']:.1f} dBTP | {100 * values['share']:.0f} % | {values['centre']:.0f} Hz "
-            f"| {values['edge']:.0f} dBFS | {values['bytes'] / 1000:.1f} kB |"
+            f"| {1000 * values['onset']:.0f} ms | {values['edge']:.0f} dBFS | {values['bytes'] / 1000:.1f} kB |"
         )
     return lines

@@ -47,6 +47,11 @@ LOUDNESS = -17.7
 # Encoding adds overshoot: stay well below the -1 dBTP that the files may reach.
 CEILING = 10 ** (-2.5 / 20)
 BITRATE = "192k"
+# Samples of a frame, and of the delay that encoder and decoder add. A sound that ends with a frame leaves a decoder
+# nothing to cut off, which some don't do.
+FRAME, DELAY = 1152, 1105
+# Seconds before the first sound: whoever clicks "Play" waits for that.
+LEAD = 0.008
 # The record holds a hash, and one in so many samples for machines whose mathematics round differently.
 RECORD_STEP = 499
 
@@ -73,7 +78,8 @@ def levelled(track, scratch):
 
 def rendered(name):
     """The 16-bit samples of a sound, shape (2, samples)."""
-    track = importlib.import_module(SOUNDS[name]).render()
+    track = kit.trimmed(importlib.import_module(SOUNDS[name]).render(), LEAD)
+    track = np.pad(track, ((0, 0), (0, -(track.shape[1] + DELAY) % FRAME)))
     with tempfile.TemporaryDirectory() as folder:
         scratch = pathlib.Path(folder, "sound.wav")
         return write_wave(scratch, levelled(track, scratch))
