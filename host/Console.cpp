@@ -4,6 +4,7 @@
 
 #include "host/System.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace {

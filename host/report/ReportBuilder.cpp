@@ -80,8 +80,18 @@ Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpen
     return notMeasured(key, isIdle ? state : QStringLiteral("notRecorded"));
 }
 
-Measurement measurementOf(const QString& key, const QJsonValue& value)
+// Nobody counted the pictures of a camera that could not be opened.
+bool isUncounted(const QString& key, const QJsonObject& figures)
 {
+    static const QStringList closed = {QStringLiteral("absent"), QStringLiteral("off"),
+                                       QStringLiteral("denied"), QStringLiteral("busy")};
+    return key == QLatin1String("pictures") && figures.value(key).toDouble() == 0 &&
+           closed.contains(figures.value(StateKey).toString());
+}
+
+Measurement measurementOf(const QString& key, const QJsonObject& figures)
+{
+    const QJsonValue value = figures.value(key);
     const QJsonObject excuse = value.toObject();
     if (excuse.contains(FailedKey)) {
         return failed(key, excuse.value(FailedKey).toString());
@@ -90,7 +100,9 @@ Measurement measurementOf(const QString& key, const QJsonValue& value)
         return notMeasured(key, excuse.value(NotMeasuredKey).toString());
     }
     // The network's way to say that nothing came back.
-    if (key.startsWith(QLatin1String("delay")) && value.toDouble() < 0) {
+    const bool isOfAnswers =
+        key.startsWith(QLatin1String("delay")) || key == QLatin1String("jitterMs");
+    if (isOfAnswers && figures.value(QLatin1String("delayMs")).toDouble() < 0) {
         return failed(key, QStringLiteral("noAnswer"));
     }
     return {key, Measurement::Status::Measured, value, {}};
@@ -102,15 +114,15 @@ std::vector<Measurement> measurementsOf(const QString& check, const QJsonObject&
     std::vector<Measurement> result;
     for (const Figures::Figure& figure : Figures::of(check)) {
         const QString key = QLatin1String(figure.key);
-        const QJsonValue value = figures.value(key);
-        result.push_back(value.isUndefined() ? missing(key, figures, wasOpened)
-                                             : measurementOf(key, value));
+        const bool isMissing = !figures.contains(key) || isUncounted(key, figures);
+        result.push_back(isMissing ? missing(key, figures, wasOpened)
+                                   : measurementOf(key, figures));
     }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
         const bool isKnown =
             it.key() == StateKey || it.key() == DeviceKey || Figures::find(check, it.key());
         if (!isKnown) {
-            result.push_back(measurementOf(it.key(), it.value()));
+            result.push_back(measurementOf(it.key(), figures));
         }
     }
     return result;

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void missingFigures();
     void engineSaysWhy();
     void noAnswerFromTheServer();
+    void countsOfNoPictures_data();
+    void countsOfNoPictures();
     void unknownFigures();
     void grade();
     void contradictions_data();
@@ -171,13 +173,47 @@ void tst_ReportBuilder::engineSaysWhy()
 void tst_ReportBuilder::noAnswerFromTheServer()
 {
     Platform::ResultDocument document;
-    document.recordMeasurement(QStringLiteral("network"), {{QStringLiteral("delayMs"), -1},
-                                                           {QStringLiteral("lossPercent"), 100}});
+    const QString network = QStringLiteral("network");
+    document.recordMeasurement(network, {{QStringLiteral("delayMs"), -1},
+                                         {QStringLiteral("jitterMs"), 0},
+                                         {QStringLiteral("lossPercent"), 100}});
     const Report report = built(document);
-    const Measurement delay = figure(report, QStringLiteral("network"), QStringLiteral("delayMs"));
-    QCOMPARE(delay.status, Measurement::Status::Failed);
-    QCOMPARE(delay.reason, QStringLiteral("noAnswer"));
+    for (const char* key : {"delayMs", "jitterMs"}) {
+        const Measurement measurement = figure(report, network, QLatin1String(key));
+        QCOMPARE(measurement.status, Measurement::Status::Failed);
+        QCOMPARE(measurement.reason, QStringLiteral("noAnswer"));
+    }
+    QCOMPARE(figure(report, network, QStringLiteral("lossPercent")).value.toInt(), 100);
     QCOMPARE(report.grade, QString());
+}
+
+void tst_ReportBuilder::countsOfNoPictures_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<int>("pictures");
+    QTest::addColumn<int>("status");
+    const auto row = [](const char* state, int pictures, Measurement::Status status) {
+        QTest::addRow("%s, %d", state, pictures)
+            << QString::fromLatin1(state) << pictures << static_cast<int>(status);
+    };
+    row("absent", 0, Measurement::Status::NotMeasured);
+    row("off", 0, Measurement::Status::NotMeasured);
+    row("denied", 0, Measurement::Status::Failed);
+    row("busy", 0, Measurement::Status::Failed);
+    row("silent", 0, Measurement::Status::Measured); // it was open, and nothing came
+    row("absent", 7, Measurement::Status::Measured); // it was unplugged later
+}
+
+void tst_ReportBuilder::countsOfNoPictures()
+{
+    QFETCH(QString, state);
+    QFETCH(int, pictures);
+    const QString camera = QStringLiteral("camera");
+    Platform::ResultDocument document;
+    document.recordMeasurement(
+        camera, {{QStringLiteral("state"), state}, {QStringLiteral("pictures"), pictures}});
+    const Measurement count = figure(built(document), camera, QStringLiteral("pictures"));
+    QTEST(static_cast<int>(count.status), "status");
 }
 
 void tst_ReportBuilder::unknownFigures()
