@@ -19,11 +19,23 @@ const QLatin1String StateKey("state");
 const QLatin1String DeviceKey("device");
 constexpr int DocumentVersion = 1;
 
+QJsonObject toObject(const QMap<QString, QMap<QString, QJsonValue>>& section)
+{
+    QJsonObject result;
+    for (auto check = section.begin(); check != section.end(); ++check) {
+        QJsonObject values;
+        for (auto value = check->begin(); value != check->end(); ++value) {
+            values.insert(value.key(), value.value());
+        }
+        result.insert(check.key(), values);
+    }
+    return result;
+}
+
 } // namespace
 
 ResultDocument::ResultDocument(const QString& path) : m_path(path)
 {
-    clear();
 }
 
 void ResultDocument::setPath(const QString& path)
@@ -31,18 +43,29 @@ void ResultDocument::setPath(const QString& path)
     m_path = path;
 }
 
+QJsonObject ResultDocument::toJson() const
+{
+    QJsonArray codes;
+    for (const int code : m_codes) {
+        codes.append(code);
+    }
+    return {{VersionKey, DocumentVersion},
+            {ResultsKey, toObject(m_results)},
+            {MeasurementsKey, toObject(m_measurements)},
+            {CodesKey, codes}};
+}
+
 void ResultDocument::clear()
 {
-    m_document = QJsonObject{{VersionKey, DocumentVersion},
-                             {ResultsKey, QJsonObject()},
-                             {MeasurementsKey, QJsonObject()},
-                             {CodesKey, QJsonArray()}};
+    m_results.clear();
+    m_measurements.clear();
+    m_codes.clear();
     m_deviceKeys.clear();
 }
 
 void ResultDocument::recordResult(const QString& key, const QJsonValue& value)
 {
-    set(ResultsKey, key.section(QLatin1Char('.'), 0, 0), key.section(QLatin1Char('.'), 1), value);
+    m_results[key.section(QLatin1Char('.'), 0, 0)][key.section(QLatin1Char('.'), 1)] = value;
     write();
 }
 
@@ -53,7 +76,7 @@ void ResultDocument::recordMeasurement(const QString& check, const QJsonObject& 
         forgetOtherDevice(check, figures);
     }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
-        set(MeasurementsKey, check, it.key(), it.value());
+        m_measurements[check][it.key()] = it.value();
         if (areOfDevice) {
             m_deviceKeys[check].insert(it.key());
         }
@@ -63,41 +86,26 @@ void ResultDocument::recordMeasurement(const QString& check, const QJsonObject& 
 
 void ResultDocument::recordCode(int code)
 {
-    QJsonArray codes = m_document.value(CodesKey).toArray();
-    codes.append(code);
-    m_document.insert(CodesKey, codes);
+    m_codes.append(code);
     write();
-}
-
-void ResultDocument::set(const QString& section, const QString& check, const QString& name,
-                         const QJsonValue& value)
-{
-    QJsonObject checks = m_document.value(section).toObject();
-    QJsonObject values = checks.value(check).toObject();
-    values.insert(name, value);
-    checks.insert(check, values);
-    m_document.insert(section, checks);
 }
 
 void ResultDocument::forgetOtherDevice(const QString& check, const QJsonObject& figures)
 {
-    QJsonObject checks = m_document.value(MeasurementsKey).toObject();
-    QJsonObject values = checks.value(check).toObject();
-    if (values.value(DeviceKey) == figures.value(DeviceKey)) {
+    QMap<QString, QJsonValue>& values = m_measurements[check];
+    if (values.value(DeviceKey, QJsonValue::Undefined) == figures.value(DeviceKey)) {
         return;
     }
     const QSet<QString> keys = m_deviceKeys.take(check);
     for (const QString& key : keys) {
         values.remove(key);
     }
-    checks.insert(check, values);
-    m_document.insert(MeasurementsKey, checks);
 }
 
 void ResultDocument::write() const
 {
     if (!m_path.isEmpty()) {
-        FileWriter::replace(m_path, QJsonDocument(m_document).toJson());
+        FileWriter::replace(m_path, QJsonDocument(toJson()).toJson());
     }
 }
 

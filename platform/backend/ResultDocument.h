@@ -5,6 +5,7 @@
 #include "ClassroomBackend/ClassroomBackendExport.h"
 
 #include <QJsonObject>
+#include <QList>
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -22,7 +23,7 @@ public:
 
     void setPath(const QString& path); // an empty path keeps the document in memory
     QString path() const { return m_path; }
-    QJsonObject toJson() const { return m_document; }
+    QJsonObject toJson() const;
     void clear(); // for the next run; the file stays until something is recorded
 
     // key is "check.value", such as "camera.userState".
@@ -32,13 +33,16 @@ public:
     void recordCode(int code);
 
 private:
-    void set(const QString& section, const QString& check, const QString& name,
-             const QJsonValue& value);
+    // By check, by name. A QJsonObject would keep what was replaced in it.
+    using Section = QMap<QString, QMap<QString, QJsonValue>>;
+
     void forgetOtherDevice(const QString& check, const QJsonObject& figures);
     void write() const;
 
     QString m_path;
-    QJsonObject m_document;
+    Section m_results;
+    Section m_measurements;
+    QList<int> m_codes;
     QMap<QString, QSet<QString>> m_deviceKeys; // of the figures with a "state", by check
 };
 
