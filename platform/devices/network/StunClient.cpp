@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/StunClient.h"
 
+#include <QRandomGenerator>
+#include <QtEndian>
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <stun/stunagent.h>
 #include <stun/usages/bind.h>
 #include <sys/socket.h>
@@ -13,6 +17,18 @@ namespace {
 
 constexpr int MaxRequestSize = 256;
 constexpr auto NoUsageFlags = StunAgentUsageFlags(0);
+
+// 96 random bits behind the cookie (RFC 8489, section 5). The library's own come from GnuTLS, which
+// keeps some memory for each thread that ever asked it, and each dialog has a thread of its own.
+StunId newId()
+{
+    StunId id = {};
+    std::array<quint32, sizeof(id) / sizeof(quint32)> words = {};
+    QRandomGenerator::system()->fillRange(words.data(), qsizetype(words.size()));
+    words[0] = qToBigEndian(quint32(STUN_MAGIC_COOKIE));
+    std::memcpy(id.data(), words.data(), sizeof(id));
+    return id;
+}
 
 const quint8* bytesOf(const QByteArray& data)
 {
@@ -31,17 +47,19 @@ StunClient::~StunClient() = default;
 
 std::optional<StunClient::Request> StunClient::createRequest()
 {
-    Request request;
-    request.datagram.resize(MaxRequestSize);
-    StunMessage message;
-    const size_t length = stun_usage_bind_create(m_agent.get(), &message,
-                                                 reinterpret_cast<quint8*>(request.datagram.data()),
-                                                 size_t(request.datagram.size()));
+    Request request{newId(), QByteArray(MaxRequestSize, Qt::Uninitialized)};
+    StunMessage message = {};
+    message.agent = m_agent.get();
+    message.buffer = reinterpret_cast<quint8*>(request.datagram.data());
+    message.buffer_len = size_t(request.datagram.size());
+    if (!stun_message_init(&message, STUN_REQUEST, STUN_BINDING, request.id.data())) {
+        return {};
+    }
+    const size_t length = stun_agent_finish_message(m_agent.get(), &message, nullptr, 0);
     if (length == 0) {
         return {};
     }
     request.datagram.truncate(int(length));
-    stun_message_id(&message, request.id.data());
     return request;
 }
 
