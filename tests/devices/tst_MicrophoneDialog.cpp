@@ -3,7 +3,7 @@
 #include "host/tour/DialogView.h"
 #include "tests/devices/DeviceDialog.h"
 #include "tests/support/GapMeter.h"
-#include "tests/support/MachineGap.h"
+#include "tests/support/MachineDelay.h"
 #include "tests/support/PictureBoard.h"
 #include "tests/support/PlugStorm.h"
 #include "tests/support/SoundRecording.h"
@@ -23,9 +23,8 @@ namespace {
 
 constexpr int LongMs = 10000;
 constexpr qint64 MaxGapMs = 50;
-// While servers start and devices storm in, two cores have more to do than a page; at rest it stays
-// within the other bound.
-constexpr qint64 MaxBusyGapMs = 150;
+// Whoever starts a server from the GUI thread, as this test does, waits for its programs.
+constexpr qint64 MaxStartGapMs = 150;
 constexpr int FontPixelSize = 12;
 constexpr int LitPercent = 30;
 constexpr int FewestLevels = 20; // that a voice lights in a few seconds
@@ -103,7 +102,7 @@ private:
     std::unique_ptr<DeviceDialog> m_dialog;
     std::unique_ptr<DialogView> m_view;
     PictureBoard m_board;
-    qint64 m_worstGapMs = 0; // beyond the machine's own
+    qint64 m_worstGapMs = 0;
 };
 
 void tst_MicrophoneDialog::initTestCase_data()
@@ -193,21 +192,28 @@ void tst_MicrophoneDialog::listensBackWhileCounting()
         openPage();
         QTRY_COMPARE_WITH_TIMEOUT(playbacks(), 1, LongMs);
 
-        QSet<int> levels;
-        const auto connection = connect(levelBar(), &QProgressBar::valueChanged, this,
-                                        [&levels](int level) { levels.insert(level); });
-        m_dialog->click("Btn_Record");
-        SoundSource voice(id("voice"), words);
-        QVERIFY(voice.waitForEnd());
-        QVERIFY(!m_view->isEnabled("Btn_Mic_Yes"));
-        QVERIFY(levels.size() >= FewestLevels);
-        // A loaded machine tears the words on their way to the microphone too.
-        const std::vector<float> said = trimmed(microphone.samples(), words.size());
-        const double alike = loudnessCorrelation(chosen.samples(), said);
-        qInfo("heard and said are alike to %.3f", alike);
-        QVERIFY(alike > AlikeAtLeast);
+        const QString fault = measuredFault([&] {
+            const bool isReady =
+                QTest::qWaitFor([this] { return m_view->isEnabled("Btn_Record"); }, LongMs);
+            QSet<int> levels;
+            const auto connection = connect(levelBar(), &QProgressBar::valueChanged, this,
+                                            [&levels](int level) { levels.insert(level); });
+            microphone.forget();
+            chosen.forget();
+            m_dialog->click("Btn_Record");
+            SoundSource voice(id("voice"), words);
+            const bool isOver = isReady && voice.waitForEnd() && !m_view->isEnabled("Btn_Mic_Yes");
+            disconnect(connection);
+            // A loaded machine tears the words on their way to the microphone too.
+            const std::vector<float> said = trimmed(microphone.samples(), words.size());
+            const double alike = loudnessCorrelation(chosen.samples(), said);
+            qInfo("heard and said are alike to %.3f", alike);
+            return isOver && levels.size() >= FewestLevels && alike > AlikeAtLeast
+                       ? QString()
+                       : QStringLiteral("%1 levels, alike to %2").arg(levels.size()).arg(alike);
+        });
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
         QVERIFY(other.peak() < Audible);
-        disconnect(connection);
 
         QTRY_VERIFY_WITH_TIMEOUT(m_view->isEnabled("Btn_Mic_Yes"), LongMs);
         m_dialog->click("Btn_Mic_Yes");
@@ -379,7 +385,7 @@ void tst_MicrophoneDialog::survivesTheServersDeath()
         startAgain();
     });
     QTRY_COMPARE(captures() + playbacks(), 0);
-    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_worstGapMs < MaxStartGapMs, qPrintable(QString::number(m_worstGapMs)));
 }
 
 void tst_MicrophoneDialog::survivesAStormOfPlugs()
@@ -407,7 +413,7 @@ void tst_MicrophoneDialog::survivesAStormOfPlugs()
         QCOMPARE(captures(), 1);
         QCOMPARE(playbacks(), 1);
     });
-    QVERIFY2(m_worstGapMs < MaxBusyGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
 }
 
 void tst_MicrophoneDialog::runDialog(const Script& script)
@@ -465,17 +471,11 @@ void tst_MicrophoneDialog::keepPicture(const char* caption)
 // A row of the list of faults.
 void tst_MicrophoneDialog::meter(const char* fault, const Script& action)
 {
-    qint64 gap = 0;
-    qint64 machineGap = 0;
-    {
-        const MachineGap machine;
-        GapMeter gaps;
-        action();
-        gap = gaps.longestMs();
-        machineGap = machine.longestMs();
-    }
-    qInfo("| %s | longest gap %lld ms, the machine's own %lld ms |", fault, gap, machineGap);
-    m_worstGapMs = std::max(m_worstGapMs, gap - machineGap);
+    GapMeter gaps;
+    action();
+    const qint64 gap = gaps.longestMs();
+    qInfo("| %s | longest gap %lld ms |", fault, gap);
+    m_worstGapMs = std::max(m_worstGapMs, gap);
 }
 
 void tst_MicrophoneDialog::frozen(const char* step, const Script& action)
