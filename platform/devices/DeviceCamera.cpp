@@ -167,6 +167,7 @@ void DeviceCamera::onPictureArrived()
 {
     m_slot->notificationArrived();
     if (m_isStarted) {
+        notifyWorkState(); // the feed's word for it may have come when the picture before was old
         m_listener.pictureArrived();
     }
 }
