@@ -228,7 +228,8 @@ void DeviceCamera::openCurrent()
 
 void DeviceCamera::recordMeasurement()
 {
-    QJsonObject figures = m_slot->figures();
+    // Without a camera the slot still holds what was seen of the one before.
+    QJsonObject figures = m_currentId.isEmpty() ? QJsonObject() : m_slot->figures();
     figures.insert(QStringLiteral("state"), toString(state()));
     figures.insert(QStringLiteral("device"), m_currentName);
     m_report.recordMeasurement(QStringLiteral("camera"), figures);

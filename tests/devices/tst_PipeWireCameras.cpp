@@ -710,6 +710,14 @@ void tst_PipeWireCameras::measures()
     QCOMPARE(measured.value(QLatin1String("blackShare")).toDouble(), 1.0);
     QCOMPARE(measured.value(QLatin1String("frozenShare")).toDouble(), 1.0);
     QCOMPARE(measured.value(QLatin1String("brightness")).toDouble(), 0.0);
+
+    m_watcher.pictures = 0;
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures >= 1, LongMs);
+    m_backend->setCurrent({}); // the entry for no device has no figures
+    m_backend->stop();
+    QCOMPARE(figures(), (QJsonObject{{QStringLiteral("state"), QStringLiteral("off")},
+                                     {QStringLiteral("device"), QString()}}));
 }
 
 void tst_PipeWireCameras::leavesNothingBehind()
