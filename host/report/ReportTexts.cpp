@@ -3,6 +3,7 @@
 #include "host/report/ReportTexts.h"
 
 #include "host/Languages.h"
+#include "host/SoundNames.h"
 #include "host/report/Figures.h"
 #include "host/report/Report.h"
 
@@ -69,13 +70,6 @@ constexpr Word Reasons[] = {
     {"hung", "ID_Host_Reason_Hung"},
     {"failed", "ID_Host_Reason_Failed"},
     {"noAnswer", "ID_Host_Reason_NoAnswer"},
-};
-// The sounds of the speaker check, as its answers name them.
-constexpr Word Sounds[] = {
-    {"Piano", "ID_HeadsetPage_Piano"},     {"Seagull", "ID_HeadsetPage_Seagull"},
-    {"Thunder", "ID_HeadsetPage_Thunder"}, {"Doorbell", "ID_HeadsetPage_Doorbell"},
-    {"Shutter", "ID_HeadsetPage_Shutter"}, {"Bubble", "ID_HeadsetPage_Bubble"},
-    {"Typing", "ID_HeadsetPage_Typing"},   {"Saxophone", "ID_HeadsetPage_Saxophone"},
 };
 constexpr Word Changed[] = {
     {"verdict", "ID_Host_Report_Result"},
@@ -185,6 +179,12 @@ QString ReportTexts::changedValue(const QString& what, const QString& value) con
     return value;
 }
 
+QString ReportTexts::soundName(const QString& baseName) const
+{
+    const char* id = SoundNames::textId(baseName);
+    return id ? text(id) : baseName;
+}
+
 QString ReportTexts::yesOrNo(bool isYes) const
 {
     return text(isYes ? "ID_Host_Yes" : "ID_Host_No");
@@ -213,7 +213,7 @@ QString ReportTexts::valueOf(const QString& check, const Measurement& measuremen
                                known ? known->unit : Figures::Unit::None);
     case QJsonValue::String:
         return measurement.key == QLatin1String("soundPlayed")
-                   ? textOf(*this, Sounds, measurement.value.toString())
+                   ? soundName(measurement.value.toString())
                    : measurement.value.toString();
     case QJsonValue::Array:
         return QString::fromUtf8(

@@ -27,6 +27,7 @@ public:
     QString reason(const QString& word) const; // the word itself where there is no text of it
     QString changed(const QString& what) const;
     QString changedValue(const QString& what, const QString& value) const;
+    QString soundName(const QString& baseName) const; // as the speaker's answers have it
     QString yesOrNo(bool isYes) const;
     QString captionOf(const QString& check, const QString& figure) const;
     QString valueOf(const QString& check, const Measurement& measurement) const;

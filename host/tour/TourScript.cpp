@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/tour/TourScript.h"
 
+#include "host/SoundNames.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <QAbstractButton>
@@ -9,7 +10,6 @@
 #include <QCursor>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMap>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
@@ -117,16 +117,11 @@ Ready eitherEnabled(const char* yes, const char* no)
 // Picks the sound that the scripted engine played last.
 void pickPlayedSound(const DialogView& view, ScriptedEngine& engine)
 {
-    static const QMap<QString, const char*> ids{
-        {"Piano", "ID_HeadsetPage_Piano"},     {"Seagull", "ID_HeadsetPage_Seagull"},
-        {"Thunder", "ID_HeadsetPage_Thunder"}, {"Doorbell", "ID_HeadsetPage_Doorbell"},
-        {"Shutter", "ID_HeadsetPage_Shutter"}, {"Bubble", "ID_HeadsetPage_Bubble"},
-        {"Typing", "ID_HeadsetPage_Typing"},   {"Saxophone", "ID_HeadsetPage_Saxophone"}};
     const QStringList played = engine.scriptedSpeakers().playedFiles();
     if (played.isEmpty()) {
         return;
     }
-    const QString name = qtTrId(ids.value(QFileInfo(played.last()).completeBaseName(), ""));
+    const QString name = qtTrId(SoundNames::textId(QFileInfo(played.last()).completeBaseName()));
     for (const char* item : {"item0", "item1", "item2", "item3"}) {
         const auto* button = view.find<QAbstractButton>(item);
         if (button && button->text() == name) {
