@@ -196,8 +196,11 @@ private:
             return;
         }
         for (const Measurement& measurement : check.measurements) {
-            add(m_texts.captionOf(check.key, measurement.key),
-                m_texts.valueOf(check.key, measurement));
+            const QString value = m_texts.valueOf(check.key, measurement);
+            // A name that was left out leaves no row behind.
+            if (!value.isEmpty()) {
+                add(m_texts.captionOf(check.key, measurement.key), value);
+            }
         }
     }
 

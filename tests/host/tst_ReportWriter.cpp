@@ -3,6 +3,7 @@
 
 #include "SampleReport.h"
 #include "host/Languages.h"
+#include "host/report/Redaction.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
 #include "host/report/ReportWriter.h"
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void theThreeKindsReadDifferently();
     void soundPlayedAndPicked_data();
     void soundPlayedAndPicked();
+    void whatIsLeftOutHasNoRow();
     void roomTable();
     void formats_data();
     void formats();
@@ -205,6 +207,22 @@ void tst_ReportWriter::soundPlayedAndPicked()
         QVERIFY(shown.contains(QLatin1String("Sound played Thunder ") + englishRow));
         QCOMPARE(shown.count(QLatin1String("Right sound picked")), 1); // of the speaker alone
     }
+}
+
+void tst_ReportWriter::whatIsLeftOutHasNoRow()
+{
+    const Report report =
+        Redaction(Options::Redaction::Personal, QByteArray()).redacted(sampleReport());
+    const ReportView view = ReportView::of(report, ReportTexts(QStringLiteral("en")));
+    QStringList captions;
+    for (const ReportView::Section& section : view.sections) {
+        for (const ReportView::Row& row : section.rows) {
+            captions << row.caption;
+            QVERIFY2(!row.value.isEmpty(), qPrintable(row.caption));
+        }
+    }
+    QVERIFY(!captions.contains(QStringLiteral("lens")));
+    QVERIFY(captions.contains(QStringLiteral("Picture rate")));
 }
 
 void tst_ReportWriter::roomTable()
