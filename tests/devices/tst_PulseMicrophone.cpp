@@ -414,6 +414,7 @@ private Q_SLOTS:
             QVERIFY(m_server->cutConnection(stream));
             const MachineGap machine;
             GapMeter gaps;
+            QTRY_VERIFY(isOfListening || m_listener->levels.contains(0.0));
             QTRY_VERIFY(longestSilenceMs(speaker.samples()) > TornMs);
             QTRY_VERIFY(silenceAtEndMs(speaker.samples()) < TornMs);
             QTRY_VERIFY(level() > 0.6);
@@ -421,7 +422,7 @@ private Q_SLOTS:
             const double silence = longestSilenceMs(speaker.samples());
             qInfo("nothing heard for %.0f ms", silence);
             QVERIFY(silence < MaxSilenceMs);
-            QCOMPARE(m_listener->levels.contains(0.0), !isOfListening);
+            QVERIFY(!isOfListening || !m_listener->levels.contains(0.0));
             QTRY_COMPARE(captures(), 1);
             QTRY_COMPARE(playbacks(), 2);
         }
