@@ -122,10 +122,15 @@ private:
                 m_view.isRightToLeft ? QStringLiteral(" ← ") : QStringLiteral(" → ");
             add(m_texts.checkName(change.subject) + QStringLiteral(", ") +
                     m_texts.changed(change.what),
-                m_texts.changedValue(change.what, change.before) + arrow +
-                    m_texts.changedValue(change.what, change.now),
+                changedText(change, change.before) + arrow + changedText(change, change.now),
                 Mark::Notice);
         }
+    }
+
+    QString changedText(const ReportChange& change, const QString& value) const
+    {
+        const QString text = m_texts.changedValue(change.what, value);
+        return text.isEmpty() ? QStringLiteral("…") : text; // it may have been left out
     }
 
     void addSystem()

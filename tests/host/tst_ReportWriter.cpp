@@ -219,6 +219,7 @@ void tst_ReportWriter::whatIsLeftOutHasNoRow()
         for (const ReportView::Row& row : section.rows) {
             captions << row.caption;
             QVERIFY2(!row.value.isEmpty(), qPrintable(row.caption));
+            QVERIFY2(!row.value.trimmed().startsWith(QChar(0x2192)), qPrintable(row.caption));
         }
     }
     QVERIFY(!captions.contains(QStringLiteral("lens")));
