@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/CameraList.h"
+#include "platform/devices/camera/CameraList.h"
 
 #include <QtTest>
 

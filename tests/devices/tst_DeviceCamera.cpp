@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/DeviceCamera.h"
-#include "platform/devices/EndingThreads.h"
-#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/camera/DeviceCamera.h"
+#include "platform/devices/camera/EndingThreads.h"
+#include "platform/devices/camera/PictureSlot.h"
 #include "tests/support/MemoryReport.h"
 
 #include <QTemporaryDir>

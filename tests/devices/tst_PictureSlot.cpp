@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/PicturePool.h"
-#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/camera/PicturePool.h"
+#include "platform/devices/camera/PictureSlot.h"
 
 #include <QtTest>
 #include <optional>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/CameraSession.h"
 
-#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/camera/CameraLog.h"
 
 namespace Platform {
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/CameraFeed.h"
+#include "platform/devices/camera/CameraFeed.h"
+#include "platform/devices/camera/PictureConverter.h"
+#include "platform/devices/camera/PictureSlot.h"
 #include "platform/devices/pipewire/CameraStream.h"
 #include "platform/devices/pipewire/LoopTimer.h"
-#include "platform/devices/pipewire/PictureConverter.h"
-#include "platform/devices/pipewire/PictureSlot.h"
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
 #include <memory>

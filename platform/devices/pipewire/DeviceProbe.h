@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/CameraList.h"
+#include "platform/devices/camera/CameraList.h"
 
 #include <pipewire/pipewire.h>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireCameraSystem.h"
 
-#include "platform/devices/DeviceCamera.h"
-#include "platform/devices/EndingThreads.h"
+#include "platform/devices/camera/DeviceCamera.h"
+#include "platform/devices/camera/EndingThreads.h"
 #include "platform/devices/pipewire/PipeWireFeed.h"
 #include "platform/devices/pipewire/PipeWireThread.h"
 

@@ -4,8 +4,8 @@
 
 #include "platform/backend/CameraBackend.h"
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/CameraFeed.h"
 #include "platform/devices/CameraSystem.h"
+#include "platform/devices/camera/CameraFeed.h"
 
 #include <memory>
 

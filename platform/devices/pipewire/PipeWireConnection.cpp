@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
-#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/camera/CameraLog.h"
 #include "platform/devices/pipewire/NodeProperties.h"
 
 #include <algorithm>

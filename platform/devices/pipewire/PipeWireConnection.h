@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/CameraList.h"
+#include "platform/devices/camera/CameraList.h"
 #include "platform/devices/pipewire/DeviceProbe.h"
 #include "platform/devices/pipewire/LinkProbe.h"
 #include "platform/devices/pipewire/LoopTimer.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/PictureFormat.h"
+#include "platform/devices/camera/PictureFormat.h"
 
 #include <cstdint>
 #include <vector>

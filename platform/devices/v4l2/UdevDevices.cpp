@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/UdevDevices.h"
 
-#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/camera/CameraLog.h"
 
 #include <cstring>
 #include <libudev.h>

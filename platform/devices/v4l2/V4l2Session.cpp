@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Session.h"
 
-#include "platform/devices/EndingThreads.h"
-#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/camera/CameraLog.h"
+#include "platform/devices/camera/EndingThreads.h"
 
 namespace Platform {
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/CameraList.h"
-#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/camera/CameraList.h"
+#include "platform/devices/camera/PictureSlot.h"
 #include "platform/devices/v4l2/V4l2Stream.h"
 #include "platform/devices/v4l2/VideoDevices.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Stream.h"
 
-#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/camera/PictureSlot.h"
 
 #include <cerrno>
 #include <gst/app/gstappsink.h>

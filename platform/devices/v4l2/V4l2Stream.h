@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/backend/Mailbox.h"
-#include "platform/devices/pipewire/PictureConverter.h"
+#include "platform/devices/camera/PictureConverter.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 
 #include <QThread>

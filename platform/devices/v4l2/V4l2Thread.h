@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/CameraFeed.h"
+#include "platform/devices/camera/CameraFeed.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 
 #include <QThread>

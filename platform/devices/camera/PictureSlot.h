@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/DeliveryRule.h"
-#include "platform/devices/pipewire/PictureStatistics.h"
+#include "platform/devices/camera/DeliveryRule.h"
+#include "platform/devices/camera/PictureStatistics.h"
 
 #include <QImage>
 #include <QJsonObject>

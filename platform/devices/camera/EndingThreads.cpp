@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/EndingThreads.h"
+#include "platform/devices/camera/EndingThreads.h"
 
-#include "platform/devices/pipewire/CameraLog.h"
+#include "platform/devices/camera/CameraLog.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 
 #include "platform/backend/CameraBackend.h"
 #include "platform/backend/Mailbox.h"
-#include "platform/devices/CameraFeed.h"
+#include "platform/devices/camera/CameraFeed.h"
 
 #include <memory>
 #include <optional>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/DeviceCamera.h"
+#include "platform/devices/camera/DeviceCamera.h"
 
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/pipewire/CameraLog.h"
-#include "platform/devices/pipewire/PictureSlot.h"
+#include "platform/devices/camera/CameraLog.h"
+#include "platform/devices/camera/PictureSlot.h"
 
 #include <algorithm>
 #include <utility>

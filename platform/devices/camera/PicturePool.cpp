@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/PicturePool.h"
+#include "platform/devices/camera/PicturePool.h"
 
 #include <mutex>
 #include <vector>

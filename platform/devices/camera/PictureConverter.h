@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pipewire/PictureFormat.h"
-#include "platform/devices/pipewire/PicturePool.h"
+#include "platform/devices/camera/PictureFormat.h"
+#include "platform/devices/camera/PicturePool.h"
 
 #include <QImage>
 #include <vector>
