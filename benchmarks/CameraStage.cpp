@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/CameraStage.h"
 
+#include "benchmarks/BenchmarkOptions.h"
+
 #include <QCoreApplication>
 #include <QTest>
 #include <cstdio>
@@ -145,4 +147,17 @@ bool CameraStage::start()
 QString CameraStage::node() const
 {
     return QStringLiteral("bench_camera");
+}
+
+int runCameraBenchmark(
+    int argc, char** argv, int usualRounds,
+    const std::function<std::optional<bool>(CameraStage&, const BenchmarkOptions&)>& measure)
+{
+    constexpr int NotMeasured = 2;
+    QCoreApplication application(argc, argv);
+    const BenchmarkOptions options(application, usualRounds);
+    CameraStage stage;
+    const std::optional<bool> isWithinBounds =
+        stage.start() ? measure(stage, options) : std::nullopt;
+    return isWithinBounds ? options.verdict(*isWithinBounds) : NotMeasured;
 }

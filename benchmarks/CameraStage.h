@@ -5,9 +5,13 @@
 #include "tests/support/CameraProcess.h"
 #include "tests/support/PipeWireServer.h"
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
+
+class BenchmarkOptions;
 
 // The time of each picture, by its number, from what a camera or a viewer says.
 std::map<int, qint64> picturesIn(const QByteArray& output);
@@ -55,3 +59,9 @@ private:
     TestSupport::TestProcess m_display;
     std::unique_ptr<TestSupport::CameraProcess> m_camera;
 };
+
+// The main function of a benchmark with cameras. measure says whether the bounds were kept, and
+// nothing where it couldn't measure.
+int runCameraBenchmark(
+    int argc, char** argv, int usualRounds,
+    const std::function<std::optional<bool>(CameraStage&, const BenchmarkOptions&)>& measure);

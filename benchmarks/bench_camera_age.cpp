@@ -4,7 +4,6 @@
 #include "benchmarks/CameraStage.h"
 #include "benchmarks/Statistics.h"
 
-#include <QCoreApplication>
 #include <QTest>
 #include <cstdio>
 
@@ -29,26 +28,18 @@ struct Contestant
     std::vector<double> shares;
 };
 
-} // namespace
-
-int main(int argc, char** argv)
+std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
 {
-    QCoreApplication application(argc, argv);
-    const BenchmarkOptions options(application, UsualRounds);
-    CameraStage stage;
-    if (!stage.start()) {
-        return 2;
-    }
     std::vector<Contestant> contestants{{"own", {}, {}, {}}, {"widget", {}, {}, {}}};
     for (int round = 0; round < options.rounds(); ++round) {
         for (Contestant& contestant : contestants) {
             Viewer viewer(QString::fromLatin1(contestant.kind), stage.node());
             if (!viewer.waitUntilReady()) {
-                return 2;
+                return {};
             }
             viewer.go();
             if (!viewer.waitForPicture()) {
-                return 2;
+                return {};
             }
             QTest::qWait(options.isSmoke() ? SmokeRoundMs : RoundMs);
             std::map<int, qint64> painted = picturesIn(viewer.takeOutput());
@@ -79,7 +70,13 @@ int main(int argc, char** argv)
     const double own = Statistics(contestants[0].medians).median();
     const double peer = Statistics(contestants[1].medians).median();
     std::printf("Ratio %.2f.\n", own / peer);
-    return options.verdict(own <= MaxRatio * peer &&
-                           Statistics(contestants[0].p99s).median() <= MaxP99Ms &&
-                           Statistics(contestants[0].shares).median() >= MinPaintedShare);
+    return own <= MaxRatio * peer && Statistics(contestants[0].p99s).median() <= MaxP99Ms &&
+           Statistics(contestants[0].shares).median() >= MinPaintedShare;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return runCameraBenchmark(argc, argv, UsualRounds, measure);
 }

@@ -4,7 +4,6 @@
 #include "benchmarks/CameraStage.h"
 #include "benchmarks/Statistics.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTest>
 #include <cstdio>
@@ -27,23 +26,15 @@ struct Contestant
     std::vector<double> costs;
 };
 
-} // namespace
-
-int main(int argc, char** argv)
+std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
 {
-    QCoreApplication application(argc, argv);
-    const BenchmarkOptions options(application, UsualRounds);
-    CameraStage stage;
-    if (!stage.start()) {
-        return 2;
-    }
     std::vector<Contestant> contestants{
         {"fakesink", {}}, {"own", {}}, {"ximagesink", {}}, {"mediaplayer", {}}};
     for (int round = 0; round < options.rounds(); ++round) {
         for (Contestant& contestant : contestants) {
             Viewer viewer(QString::fromLatin1(contestant.kind), stage.node());
             if (!viewer.waitUntilReady()) {
-                return 2;
+                return {};
             }
             viewer.go();
             QTest::qWait(SettleMs);
@@ -55,7 +46,7 @@ int main(int argc, char** argv)
             contestant.costs.push_back(100.0 * used / static_cast<double>(clock.elapsed()));
             if (qIsNaN(viewer.stop()) || used <= 0.0) {
                 std::fprintf(stderr, "%s shows nothing\n", contestant.kind);
-                return 2;
+                return {};
             }
         }
     }
@@ -73,5 +64,12 @@ int main(int argc, char** argv)
     }
     const double sink = Statistics(contestants[1].costs).median() - floor;
     const double player = Statistics(contestants[2].costs).median() - floor;
-    return options.verdict(own <= MaxRatioToSink * sink && own <= MaxRatioToPlayer * player);
+    return own <= MaxRatioToSink * sink && own <= MaxRatioToPlayer * player;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return runCameraBenchmark(argc, argv, UsualRounds, measure);
 }

@@ -4,7 +4,6 @@
 #include "benchmarks/CameraStage.h"
 #include "benchmarks/Statistics.h"
 
-#include <QCoreApplication>
 #include <cstdio>
 
 // From the click to the first painted picture, against a bare GStreamer pipeline from the click to
@@ -24,23 +23,15 @@ struct Contestant
     std::vector<double> busy;
 };
 
-} // namespace
-
-int main(int argc, char** argv)
+std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
 {
-    QCoreApplication application(argc, argv);
-    const BenchmarkOptions options(application, UsualRounds);
-    CameraStage stage;
-    if (!stage.start()) {
-        return 2;
-    }
     std::vector<Contestant> contestants{{"own", {}, {}}, {"appsink", {}, {}}};
     std::vector<std::unique_ptr<Viewer>> viewers;
     for (const Contestant& contestant : contestants) {
         viewers.push_back(
             std::make_unique<Viewer>(QString::fromLatin1(contestant.kind), stage.node()));
         if (!viewers.back()->waitUntilReady()) {
-            return 2;
+            return {};
         }
     }
     for (int round = 0; round < options.rounds(); ++round) {
@@ -48,7 +39,7 @@ int main(int argc, char** argv)
             Viewer& viewer = *viewers[i];
             const qint64 clicked = viewer.go();
             if (!viewer.waitForPicture()) {
-                return 2;
+                return {};
             }
             const std::map<int, qint64> pictures = picturesIn(viewer.takeOutput());
             const double busyMs = viewer.stop();
@@ -75,5 +66,12 @@ int main(int argc, char** argv)
     const double busy = Statistics(contestants[0].busy).median();
     std::printf("Ratio %.2f; %.1f ms of %.1f ms allowed; GUI thread kept %.2f ms.\n", own / peer,
                 own, MaxRatio * peer + FrameMs, busy);
-    return options.verdict(own <= MaxRatio * peer + FrameMs && busy <= MaxBusyMs);
+    return own <= MaxRatio * peer + FrameMs && busy <= MaxBusyMs;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return runCameraBenchmark(argc, argv, UsualRounds, measure);
 }
