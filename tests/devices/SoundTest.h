@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/devices/pulse/PulseSound.h"
+#include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
 #include "tests/support/SoundServer.h"
@@ -24,7 +25,7 @@ protected Q_SLOTS:
 
 protected:
     static constexpr int TimeoutMs = 5000;
-    static constexpr int MaxGapMs = 50;
+    static constexpr qint64 MaxGapMs = TestSupport::MaxGapMs;
     static constexpr float Audible = 0.003F;
 
     static QString id(const char* name) { return QString::fromLatin1(name); }

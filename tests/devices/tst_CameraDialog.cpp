@@ -19,7 +19,6 @@ using namespace TestSupport;
 namespace {
 
 constexpr int LongMs = 8000;
-constexpr qint64 MaxGapMs = 50;
 constexpr int StateCount = 5;
 constexpr int StateWidth = 410;
 constexpr int StateGap = 8;

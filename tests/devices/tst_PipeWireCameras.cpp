@@ -22,7 +22,6 @@ namespace {
 const QSize PreviewSize(306, 172);
 constexpr int LongMs = 8000;
 constexpr int ReconnectsMs = 1000; // a few tries to reach the server that is gone
-constexpr qint64 MaxGapMs = 50;
 const QString NameA = QStringLiteral("cam_a");
 const QString NameB = QStringLiteral("cam_b");
 
