@@ -22,8 +22,10 @@ constexpr int EndTimeoutMs = 30000;
 constexpr std::size_t Decimation = 4;
 constexpr std::ptrdiff_t SearchedDelay = SoundRecording::Rate / Decimation / 30;
 constexpr float OnsetThreshold = 0.01F;
-// The beginning of a sound tells its delay nearly to the sample, for a fraction of the work.
-constexpr std::ptrdiff_t Beginning = SoundRecording::Rate / Decimation / 4;
+// A stretch of a sound tells its delay nearly to the sample, for a fraction of the work. There are
+// several, as behind a tear the delay is another one.
+constexpr std::ptrdiff_t Stretches = 4;
+constexpr std::ptrdiff_t StretchLength = SoundRecording::Rate / Decimation / 4;
 constexpr std::ptrdiff_t DelayError = 2;
 
 std::vector<float> decimated(const std::vector<float>& samples)
@@ -252,6 +254,9 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
         // What lies outside the recording is silence.
         const std::ptrdiff_t begin = std::clamp(-delay, from, to);
         const std::ptrdiff_t end = std::clamp(hayEnd - delay, begin, to);
+        if (begin == end) {
+            return 0.0;
+        }
         const double product = std::inner_product(needle.begin() + begin, needle.begin() + end,
                                                   hay.begin() + (begin + delay), 0.0);
         const double energies = std::sqrt(between(needleEnergy, from, to) *
@@ -260,19 +265,24 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
     };
     const auto onset = static_cast<std::ptrdiff_t>(firstAbove(needle, OnsetThreshold));
     const auto offset = static_cast<std::ptrdiff_t>(firstAbove(hay, OnsetThreshold)) - onset;
-    const std::ptrdiff_t beginning = std::min(onset + Beginning, needleEnd);
-    std::ptrdiff_t likeliest = offset;
     double best = 0.0;
-    for (std::ptrdiff_t delay = offset - SearchedDelay; delay <= offset + SearchedDelay; ++delay) {
-        const double value = alike(delay, onset, beginning);
-        if (value > best) {
-            best = value;
-            likeliest = delay;
+    for (std::ptrdiff_t stretch = 0; stretch < Stretches; ++stretch) {
+        const std::ptrdiff_t from = onset + stretch * (needleEnd - onset) / Stretches;
+        const std::ptrdiff_t to = std::min(from + StretchLength, needleEnd);
+        std::ptrdiff_t likeliest = offset;
+        double likeness = 0.0;
+        for (std::ptrdiff_t delay = offset - SearchedDelay; delay <= offset + SearchedDelay;
+             ++delay) {
+            const double value = alike(delay, from, to);
+            if (value > likeness) {
+                likeness = value;
+                likeliest = delay;
+            }
         }
-    }
-    best = 0.0;
-    for (std::ptrdiff_t delay = likeliest - DelayError; delay <= likeliest + DelayError; ++delay) {
-        best = std::max(best, alike(delay, 0, needleEnd));
+        for (std::ptrdiff_t delay = likeliest - DelayError; delay <= likeliest + DelayError;
+             ++delay) {
+            best = std::max(best, alike(delay, 0, needleEnd));
+        }
     }
     return best;
 }
