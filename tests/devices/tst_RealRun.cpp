@@ -4,6 +4,7 @@
 #include "host/CheckCommand.h"
 #include "host/ExitCode.h"
 #include "host/Options.h"
+#include "host/SoundNames.h"
 #include "host/tour/DialogView.h"
 #include "platform/devices/network/StunServer.h"
 #include "tests/support/CameraProcess.h"
@@ -15,6 +16,8 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
@@ -31,19 +34,6 @@ constexpr int FontPixelSize = 12;
 constexpr int LitPercent = 40;
 constexpr double AlikeAtLeast = 0.8;
 const QRgb CameraRed = qRgb(0xc8, 0x28, 0x28);
-
-struct SoundName
-{
-    const char* file;
-    const char* text;
-};
-
-const SoundName SoundNames[] = {
-    {"Piano", "ID_HeadsetPage_Piano"},     {"Seagull", "ID_HeadsetPage_Seagull"},
-    {"Thunder", "ID_HeadsetPage_Thunder"}, {"Doorbell", "ID_HeadsetPage_Doorbell"},
-    {"Shutter", "ID_HeadsetPage_Shutter"}, {"Bubble", "ID_HeadsetPage_Bubble"},
-    {"Typing", "ID_HeadsetPage_Typing"},   {"Saxophone", "ID_HeadsetPage_Saxophone"},
-};
 
 QString id(const char* name)
 {
@@ -327,15 +317,16 @@ bool tst_RealRun::previewIsRed() const
 // The answer that names what was heard; null where none of them does.
 const char* tst_RealRun::buttonFor(const std::vector<float>& heard) const
 {
+    const QFileInfoList sounds =
+        QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds")).entryInfoList({id("*.mp3")});
     for (const char* button : {"item0", "item1", "item2", "item3"}) {
         const QString answer = find<QAbstractButton>(button)->text();
-        for (const SoundName& sound : SoundNames) {
-            const QString path = QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds/%1.mp3");
-            if (answer != qtTrId(sound.text)) {
+        for (const QFileInfo& sound : sounds) {
+            if (answer != qtTrId(SoundNames::textId(sound.completeBaseName()))) {
                 continue;
             }
-            const double alike = correlation(heard, soundFile(path.arg(id(sound.file))));
-            qInfo("%s: %.3f", sound.file, alike);
+            const double alike = correlation(heard, soundFile(sound.filePath()));
+            qInfo("%s: %.3f", qPrintable(sound.fileName()), alike);
             if (alike > AlikeAtLeast) {
                 return button;
             }

@@ -14,8 +14,8 @@ mkdir "$HOME"
 (cd "$build" && cpack -G DEB -B "$folder/package" >"$folder/cpack.log") || { cat "$folder/cpack.log"; exit 1; }
 package=$(echo "$folder"/package/*.deb)
 dpkg-deb --info "$package"
-dpkg-deb -x "$package" "$folder/root"
-usr=$folder/root/usr
+dpkg-deb -x "$package" "$folder/unpacked"
+usr=$folder/unpacked/usr
 
 # Nothing may come from where it was built.
 no_build_tree()
