@@ -15,13 +15,13 @@ namespace TestSupport {
 
 QStringList soundNames()
 {
-    return QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds"))
+    return QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/share/sounds"))
         .entryList({QStringLiteral("*.mp3")});
 }
 
 QString soundPath(const QString& name)
 {
-    return QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds/") + name;
+    return QStringLiteral(ENVCHECK_SOURCE_DIR "/share/sounds/") + name;
 }
 
 std::vector<float> readSound(const QString& path)

@@ -318,7 +318,7 @@ bool tst_RealRun::previewIsRed() const
 const char* tst_RealRun::buttonFor(const std::vector<float>& heard) const
 {
     const QFileInfoList sounds =
-        QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/host/sounds")).entryInfoList({id("*.mp3")});
+        QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/share/sounds")).entryInfoList({id("*.mp3")});
     for (const char* button : {"item0", "item1", "item2", "item3"}) {
         const QString answer = find<QAbstractButton>(button)->text();
         for (const QFileInfo& sound : sounds) {

@@ -127,7 +127,7 @@ QString sourceFile(const QString& path)
 
 QString textFile(const QString& language)
 {
-    return sourceFile(QStringLiteral("host/translations/envcheck_%1.ts").arg(language));
+    return sourceFile(QStringLiteral("share/translations/envcheck_%1.ts").arg(language));
 }
 
 QString compiledFolder()
@@ -304,7 +304,7 @@ void tst_Translations::initTestCase()
 void tst_Translations::languages()
 {
     QStringList found;
-    const QDir folder(sourceFile(QStringLiteral("host/translations")));
+    const QDir folder(sourceFile(QStringLiteral("share/translations")));
     const QFileInfoList files =
         folder.entryInfoList({QStringLiteral("envcheck_*.ts")}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : files) {

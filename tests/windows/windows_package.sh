@@ -32,7 +32,7 @@ for wanted in bin/EnvCheck.dll lib/libEnvCheck.dll.a include/envcheck/agent/EnvC
     bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm; do
     grep -qxF "$wanted" "$folder/content" || fail "Not in the zip: $wanted"
 done
-for wanted in "$source"/host/sounds/*.mp3 "$build"/bin/translations/*.qm; do
+for wanted in "$source"/share/sounds/*.mp3 "$build"/bin/translations/*.qm; do
     grep -q "/$(basename "$wanted")\$" "$folder/content" || fail "Not in the zip: $(basename "$wanted")"
 done
 
