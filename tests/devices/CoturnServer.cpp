@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "CoturnServer.h"
+#include "tests/devices/CoturnServer.h"
 
 #include "platform/devices/network/StunServer.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "HttpServer.h"
+#include "tests/devices/HttpServer.h"
 
 #include <QRegularExpression>
 #include <QTcpSocket>

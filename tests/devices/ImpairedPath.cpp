@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "ImpairedPath.h"
+#include "tests/devices/ImpairedPath.h"
 
 #include <QElapsedTimer>
 #include <QNetworkDatagram>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "Measurement.h"
+#include "tests/devices/Measurement.h"
 
 #include "platform/devices/network/StunProbe.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "OddServer.h"
+#include "tests/devices/OddServer.h"
 
 #include "platform/devices/network/StunAnswerer.h"
 #include "platform/devices/network/StunServer.h"

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "CoturnServer.h"
-#include "ThreadCount.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/devices/DeviceEngine.h"
 #include "platform/devices/network/StunServer.h"
+#include "tests/devices/CoturnServer.h"
+#include "tests/devices/ThreadCount.h"
 #include "tests/support/AtOnce.h"
 
 #include <QElapsedTimer>

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "CoturnServer.h"
 #include "host/CheckCommand.h"
 #include "host/ExitCode.h"
 #include "host/Options.h"
 #include "host/SoundNames.h"
 #include "host/tour/DialogView.h"
 #include "platform/devices/network/StunServer.h"
+#include "tests/devices/CoturnServer.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/PictureBoard.h"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "Measurement.h"
-#include "ThreadCount.h"
 #include "platform/devices/network/StunClient.h"
 #include "platform/devices/network/StunResponder.h"
+#include "tests/devices/Measurement.h"
+#include "tests/devices/ThreadCount.h"
 #include "tests/support/AtOnce.h"
 
 #include <QElapsedTimer>

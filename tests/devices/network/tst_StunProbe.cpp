@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "CoturnServer.h"
-#include "ImpairedPath.h"
-#include "Measurement.h"
-#include "OddServer.h"
-#include "ThreadCount.h"
 #include "platform/devices/network/StunServer.h"
+#include "tests/devices/CoturnServer.h"
+#include "tests/devices/ImpairedPath.h"
+#include "tests/devices/Measurement.h"
+#include "tests/devices/OddServer.h"
+#include "tests/devices/ThreadCount.h"
 
 #include <QNetworkDatagram>
 #include <QNetworkInterface>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "HttpServer.h"
-#include "ThreadCount.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/devices/reports/ReportOutbox.h"
+#include "tests/devices/HttpServer.h"
+#include "tests/devices/ThreadCount.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
