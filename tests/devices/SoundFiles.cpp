@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/SoundFiles.h"
 
-#include "platform/devices/pulse/Mp3Decoder.h"
-#include "platform/devices/pulse/SoundBuffer.h"
+#include "platform/devices/sound/Mp3Decoder.h"
+#include "platform/devices/sound/SoundBuffer.h"
 #include "tests/support/SoundRecording.h"
 
 #include <QDir>

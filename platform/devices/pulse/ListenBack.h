@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pulse/DriftControl.h"
-#include "platform/devices/pulse/DriftResampler.h"
-#include "platform/devices/pulse/HowlGuard.h"
+#include "platform/devices/sound/DriftControl.h"
+#include "platform/devices/sound/DriftResampler.h"
+#include "platform/devices/sound/FeedbackLimiter.h"
 #include "platform/devices/pulse/PulseHandles.h"
 
 #include <QByteArray>
@@ -37,7 +37,7 @@ private:
     QByteArray m_speakerId;
     unsigned m_rate;
     double m_samplesPerMs;
-    HowlGuard m_guard;
+    FeedbackLimiter m_guard;
     DriftResampler m_resampler;
     DriftControl m_drift;
     std::size_t m_toSkip = 0;   // samples

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseCapture.h"
 
-#include "platform/devices/pulse/MicrophoneAnalysis.h"
+#include "platform/devices/sound/MicrophoneAnalysis.h"
 
 #include <algorithm>
 #include <numeric>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pulse/LevelMeter.h"
+#include "platform/devices/sound/LevelMeter.h"
 #include "platform/devices/pulse/ListenBack.h"
 #include "platform/devices/pulse/PulseConnection.h"
 

@@ -3,7 +3,7 @@
 #include "platform/devices/pulse/PulseMicrophone.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/pulse/MicrophoneAnalysis.h"
+#include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/pulse/PulseCapture.h"
 #include "platform/devices/pulse/PulseSession.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulsePlayback.h"
 
-#include "platform/devices/pulse/SoundBuffer.h"
+#include "platform/devices/sound/SoundBuffer.h"
 
 #include <algorithm>
 #include <pulse/timeval.h>

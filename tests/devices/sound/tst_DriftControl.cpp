@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/DriftControl.h"
-#include "platform/devices/pulse/DriftResampler.h"
+#include "platform/devices/sound/DriftControl.h"
+#include "platform/devices/sound/DriftResampler.h"
 
 #include <QTest>
 #include <cmath>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/pulse/ToneDetector.h"
+#include "platform/devices/sound/ToneDetector.h"
 
 #include <QJsonObject>
 #include <array>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/MicrophoneAnalysis.h"
+#include "platform/devices/sound/MicrophoneAnalysis.h"
 
 #include <algorithm>
 #include <cmath>

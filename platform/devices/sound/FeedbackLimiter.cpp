@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/HowlGuard.h"
+#include "platform/devices/sound/FeedbackLimiter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +16,7 @@ constexpr float DuckingPerSample = 0.99F;
 
 } // namespace
 
-HowlGuard::HowlGuard(unsigned rate)
+FeedbackLimiter::FeedbackLimiter(unsigned rate)
     : m_second(rate),
       m_peakRelease(static_cast<float>(std::exp(-1.0 / (PeakReleaseSeconds * rate)))),
       m_powerShare(static_cast<float>(1.0 / (BuildUpSeconds * rate))),
@@ -24,7 +24,7 @@ HowlGuard::HowlGuard(unsigned rate)
 {
 }
 
-float HowlGuard::pass(float sample)
+float FeedbackLimiter::pass(float sample)
 {
     const float value = std::isfinite(sample) ? sample : 0.0F;
     m_peak = std::max(std::abs(value), m_peak * m_peakRelease);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/ToneDetector.h"
+#include "platform/devices/sound/ToneDetector.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/LevelMeter.h"
+#include "platform/devices/sound/LevelMeter.h"
 
 #include "platform/backend/LevelScale.h"
 

@@ -7,7 +7,7 @@ namespace Platform {
 // Keeps listening to oneself from howling where the speaker is heard by the microphone. Nothing
 // louder than Ceiling passes; and where the sound stays loud, as only feedback does, it is turned
 // down for a while, which breaks the circle. Each time that wasn't enough, the while gets longer.
-class HowlGuard
+class FeedbackLimiter
 {
 public:
     static constexpr float Ceiling = 0.5F;    // -6 dBFS
@@ -18,7 +18,7 @@ public:
     static constexpr double LastHoldSeconds = 8.0;
     static constexpr double ForgetSeconds = 10.0; // of calm, and the first hold is right again
 
-    explicit HowlGuard(unsigned rate);
+    explicit FeedbackLimiter(unsigned rate);
 
     float pass(float sample);
     bool isDucking() const { return m_holdLeft > 0.0; }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/Mp3Decoder.h"
+#include "platform/devices/sound/Mp3Decoder.h"
 
-#include "platform/devices/pulse/SoundBuffer.h"
+#include "platform/devices/sound/SoundBuffer.h"
 
 #include <QFile>
 #include <QLoggingCategory>

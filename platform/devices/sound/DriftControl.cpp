@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/DriftControl.h"
+#include "platform/devices/sound/DriftControl.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/SoundBuffer.h"
+#include "platform/devices/sound/SoundBuffer.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/HowlGuard.h"
+#include "platform/devices/sound/FeedbackLimiter.h"
 
 #include <QTest>
 #include <cmath>
 #include <deque>
 #include <limits>
 
-using Platform::HowlGuard;
+using Platform::FeedbackLimiter;
 
 namespace {
 
@@ -21,14 +21,14 @@ float tone(int i, double amplitude)
 
 } // namespace
 
-class tst_HowlGuard : public QObject
+class tst_FeedbackLimiter : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void speechPassesUnchanged()
     {
-        HowlGuard guard(Rate);
+        FeedbackLimiter guard(Rate);
         for (unsigned i = 0; i < 10 * Rate; ++i) {
             const int at = static_cast<int>(i);
             // Words of half a second, peaking at -12 dBFS.
@@ -40,17 +40,17 @@ private Q_SLOTS:
 
     void nothingIsLouderThanTheCeiling()
     {
-        HowlGuard guard(Rate);
+        FeedbackLimiter guard(Rate);
         for (unsigned i = 0; i < Rate / 10; ++i) {
             const float passed = guard.pass(tone(static_cast<int>(i), 1.0));
-            QVERIFY(std::abs(passed) <= HowlGuard::Ceiling * 1.001F);
+            QVERIFY(std::abs(passed) <= FeedbackLimiter::Ceiling * 1.001F);
         }
         QCOMPARE(guard.pass(std::numeric_limits<float>::quiet_NaN()), 0.0F);
     }
 
     void ducksWhatStaysLoudAndComesBack()
     {
-        HowlGuard guard(Rate);
+        FeedbackLimiter guard(Rate);
         int i = 0;
         while (!guard.isDucking()) {
             guard.pass(tone(i++, 0.7));
@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         QFETCH(double, gain);
         constexpr int Seconds = 30;
-        HowlGuard guard(Rate);
+        FeedbackLimiter guard(Rate);
         std::deque<float> air(Rate / 50, 0.0F);
         double loudSeconds = 0.0;
         for (int i = 0; i < Seconds * static_cast<int>(Rate); ++i) {
@@ -89,12 +89,12 @@ private Q_SLOTS:
             const float passed = guard.pass(voice + static_cast<float>(std::min(1.0, heard)));
             air.pop_front();
             air.push_back(passed);
-            QVERIFY(std::abs(passed) <= HowlGuard::Ceiling * 1.001F);
+            QVERIFY(std::abs(passed) <= FeedbackLimiter::Ceiling * 1.001F);
             loudSeconds += std::abs(passed) > 0.1F ? 1.0 / Rate : 0.0;
         }
         QVERIFY2(loudSeconds < 0.2 * Seconds, qPrintable(QString::number(loudSeconds)));
     }
 };
 
-QTEST_APPLESS_MAIN(tst_HowlGuard)
-#include "tst_HowlGuard.moc"
+QTEST_APPLESS_MAIN(tst_FeedbackLimiter)
+#include "tst_FeedbackLimiter.moc"

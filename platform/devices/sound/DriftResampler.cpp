@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/DriftResampler.h"
+#include "platform/devices/sound/DriftResampler.h"
 
 #include <algorithm>
 
