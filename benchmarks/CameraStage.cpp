@@ -53,7 +53,7 @@ qint64 Viewer::go()
     return now.tv_sec * 1000000000LL + now.tv_nsec;
 }
 
-bool Viewer::waitForPicture()
+bool Viewer::waitForFrame()
 {
     return waitFor(PicturePrefix);
 }

@@ -28,7 +28,7 @@ public:
 
     bool waitUntilReady();
     qint64 go(); // the time of the click
-    bool waitForPicture();
+    bool waitForFrame();
     double stop(); // how long one handler kept the GUI thread at most
     QByteArray takeOutput();
     double processorMs() const; // used so far, by all threads

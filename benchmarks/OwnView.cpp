@@ -21,7 +21,7 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         PlayerContainer::paintEvent(event);
-        const QImage picture = m_camera.latestPicture();
+        const QImage picture = m_camera.latestFrame();
         if (!picture.isNull()) {
             tellPainted(picture, true);
         }

@@ -38,7 +38,7 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
                 return {};
             }
             viewer.go();
-            if (!viewer.waitForPicture()) {
+            if (!viewer.waitForFrame()) {
                 return {};
             }
             QTest::qWait(options.isSmoke() ? SmokeRoundMs : RoundMs);

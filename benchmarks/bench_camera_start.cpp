@@ -38,7 +38,7 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
         for (std::size_t i = 0; i < contestants.size(); ++i) {
             Viewer& viewer = *viewers[i];
             const qint64 clicked = viewer.go();
-            if (!viewer.waitForPicture()) {
+            if (!viewer.waitForFrame()) {
                 return {};
             }
             const std::map<int, qint64> pictures = picturesIn(viewer.takeOutput());

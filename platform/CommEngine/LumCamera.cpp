@@ -26,7 +26,7 @@ public:
     {
         Q_EMIT m_camera.workStateChanged(NoneDevice::toFacade(id), works);
     }
-    void pictureArrived() override { Q_EMIT m_camera.pictureArrived(); }
+    void frameArrived() override { Q_EMIT m_camera.frameArrived(); }
 
 private:
     LumCamera& m_camera;
@@ -95,10 +95,10 @@ void LumCamera::setOutputSize(const QSize& size)
     applyOutputSize();
 }
 
-QImage LumCamera::latestPicture() const
+QImage LumCamera::latestFrame() const
 {
     // A picture that no longer moves would pass for a camera that works.
-    return workWell() ? m_bridge->backend().latestPicture() : QImage();
+    return workWell() ? m_bridge->backend().latestFrame() : QImage();
 }
 
 void LumCamera::setPreviewPixelRatio(qreal ratio)

@@ -31,7 +31,7 @@ public:
     virtual void stopCapture();
     virtual void setOutputSize(const QSize& size); // device-independent pixels
 
-    QImage latestPicture() const override;
+    QImage latestFrame() const override;
     void setPreviewPixelRatio(qreal ratio) override;
 
 Q_SIGNALS:

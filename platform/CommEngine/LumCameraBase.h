@@ -17,12 +17,12 @@ public:
     explicit LumCameraBase(QObject* parent = nullptr);
     ~LumCameraBase() override;
 
-    virtual QImage latestPicture() const = 0; // null before the first
+    virtual QImage latestFrame() const = 0; // null before the first
 
     // The preview's device pixel ratio, so that pictures come sharp. At least 1.
     virtual void setPreviewPixelRatio(qreal ratio) = 0;
 
 Q_SIGNALS:
     void currentDeivceChanged(const QString& id);
-    void pictureArrived();
+    void frameArrived();
 };

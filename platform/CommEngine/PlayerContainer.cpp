@@ -26,7 +26,7 @@ void PlayerContainer::attachCamera(LumCameraBase* camera)
     }
     m_camera = camera;
     if (m_camera) {
-        connect(m_camera, &LumCameraBase::pictureArrived, this, &PlayerContainer::onPictureArrived);
+        connect(m_camera, &LumCameraBase::frameArrived, this, &PlayerContainer::onFrameArrived);
     }
     update();
 }
@@ -46,7 +46,7 @@ void PlayerContainer::stop()
     update();
 }
 
-void PlayerContainer::onPictureArrived()
+void PlayerContainer::onFrameArrived()
 {
     if (m_isPlaying) {
         update();
@@ -60,7 +60,7 @@ void PlayerContainer::paintEvent(QPaintEvent* event)
         return;
     }
     m_camera->setPreviewPixelRatio(devicePixelRatioF()); // the window may have changed its screen
-    const QImage picture = m_camera->latestPicture();
+    const QImage picture = m_camera->latestFrame();
     if (picture.isNull()) {
         return;
     }

@@ -30,7 +30,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void onPictureArrived();
+    void onFrameArrived();
 
     QPointer<LumCameraBase> m_camera;
     bool m_isPlaying = false;

@@ -21,7 +21,7 @@ public:
         virtual void cameraListChanged() = 0;
         virtual void currentCameraChanged(const QString& id) = 0;
         virtual void cameraWorkStateChanged(const QString& id, bool works) = 0;
-        virtual void pictureArrived() = 0; // at most one is under way at a time
+        virtual void frameArrived() = 0; // at most one is under way at a time
 
     protected:
         ~Listener() = default;
@@ -42,7 +42,7 @@ public:
     virtual void start() = 0;
     virtual void stop() = 0;                             // its pictures end with this call
     virtual void setOutputSize(const QSize& pixels) = 0; // an upper bound; the aspect is kept
-    virtual QImage latestPicture() const = 0;            // mirrored; null before the first
+    virtual QImage latestFrame() const = 0;              // mirrored; null before the first
 };
 
 } // namespace Platform

@@ -93,9 +93,9 @@ void ScriptedCamera::setOutputSize(const QSize& pixels)
     m_picture = {};
 }
 
-QImage ScriptedCamera::latestPicture() const
+QImage ScriptedCamera::latestFrame() const
 {
-    m_session.query("latestPicture");
+    m_session.query("latestFrame");
     if (m_frame > 0 && m_picture.isNull()) {
         const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
         const QSize size = TestPattern::fitted(feed.size, m_outputSize);
@@ -113,8 +113,8 @@ void ScriptedCamera::onCurrentChanged()
     m_startClock.start();
     m_frame = 0;
     m_pictures = 0;
-    m_blackPictures = 0;
-    m_frozenPictures = 0;
+    m_blackFrames = 0;
+    m_frozenFrames = 0;
     m_picture = {};
     runFrames();
     takeWorkState();
@@ -125,18 +125,18 @@ void ScriptedCamera::onFrame()
     const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
     const bool isFrozen = m_frame > 0 && feed.pictures == ScriptedCameras::Pictures::Frozen;
     if (m_pictures == 0) {
-        m_firstPictureMs = m_startClock.elapsed();
+        m_firstFrameMs = m_startClock.elapsed();
     }
     ++m_pictures;
-    m_blackPictures += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
-    m_frozenPictures += isFrozen ? 1 : 0;
+    m_blackFrames += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
+    m_frozenFrames += isFrozen ? 1 : 0;
     if (!isFrozen) {
         ++m_frame;
         m_picture = {};
     }
     m_watchdog.start(std::max(RecentMs, RecentFramePeriods * MsPerSecond / feed.framesPerSecond));
     notifyWorkState();
-    m_listener.pictureArrived();
+    m_listener.frameArrived();
 }
 
 bool ScriptedCamera::canDeliver() const
@@ -190,13 +190,13 @@ void ScriptedCamera::recordMeasurement()
         figures.insert(QStringLiteral("rate"), feed.framesPerSecond);
         figures.insert(QStringLiteral("width"), feed.size.width());
         figures.insert(QStringLiteral("height"), feed.size.height());
-        figures.insert(QStringLiteral("firstPictureMs"), m_firstPictureMs);
+        figures.insert(QStringLiteral("firstPictureMs"), m_firstFrameMs);
         const QImage sample = TestPattern::picture(TestPattern::fitted(feed.size, SampleSize),
                                                    m_devices.currentName(), m_frame);
         figures.insert(QStringLiteral("brightness"),
-                       TestPattern::brightness(sample) * (1 - m_blackPictures / pictures));
-        figures.insert(QStringLiteral("blackShare"), m_blackPictures / pictures);
-        figures.insert(QStringLiteral("frozenShare"), m_frozenPictures / pictures);
+                       TestPattern::brightness(sample) * (1 - m_blackFrames / pictures));
+        figures.insert(QStringLiteral("blackShare"), m_blackFrames / pictures);
+        figures.insert(QStringLiteral("frozenShare"), m_frozenFrames / pictures);
     }
     m_document.recordMeasurement(QStringLiteral("camera"), figures);
 }

@@ -29,7 +29,7 @@ public:
     void start() override;
     void stop() override;
     void setOutputSize(const QSize& pixels) override;
-    QImage latestPicture() const override;
+    QImage latestFrame() const override;
 
 private:
     void onCurrentChanged();
@@ -46,11 +46,11 @@ private:
     QSize m_outputSize;
     bool m_isStarted = false;
     QElapsedTimer m_startClock;
-    qint64 m_firstPictureMs = 0; // of the current camera, like the next three
+    qint64 m_firstFrameMs = 0; // of the current camera, like the next three
     int m_frame = 0;
     int m_pictures = 0;
-    int m_blackPictures = 0;
-    int m_frozenPictures = 0;
+    int m_blackFrames = 0;
+    int m_frozenFrames = 0;
     mutable QImage m_picture; // painted when it is asked for
 };
 

@@ -34,7 +34,7 @@ public:
     bool run(const Script& script);
     void click(const char* name) const; // a widget, in its middle
     QPixmap picture() const;            // with the balloons, which are windows of their own
-    bool keepPicture(const QString& name) const { return picture().save(screenshot(name)); }
+    bool keepFrame(const QString& name) const { return picture().save(screenshot(name)); }
     static QString screenshot(const QString& name); // its path, in a folder that is there
     QJsonObject results() const;
 

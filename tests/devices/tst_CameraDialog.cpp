@@ -80,10 +80,7 @@ private:
     bool previewShows(QRgb colour) const;
     QStringList entries() const;
     const QWidget* balloon() const; // null while none is visible
-    void keepPicture(const char* name) const
-    {
-        QVERIFY(m_dialog->keepPicture(QLatin1String(name)));
-    }
+    void keepFrame(const char* name) const { QVERIFY(m_dialog->keepFrame(QLatin1String(name))); }
     void keepState();
     void keepSheet() const;
 
@@ -122,11 +119,11 @@ void tst_CameraDialog::tellsTwoCamerasApart()
                                    qtTrId("ID_Engine_NoCamera")};
         QCOMPARE(entries(), expected);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isEnabled());
-        keepPicture("camera-first");
+        keepFrame("camera-first");
         chooseInPopup(QStringLiteral("Desk camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Green), LongMs);
         QCOMPARE(child<QComboBox>("cb_vd_name")->currentText(), QStringLiteral("Desk camera"));
-        keepPicture("camera-second");
+        keepFrame("camera-second");
     });
 }
 
@@ -151,7 +148,7 @@ void tst_CameraDialog::followsPlugsWithThePopupOpen()
         QTRY_COMPARE(box->currentIndex(), -1); // the chosen one is away and stays chosen
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QTRY_VERIFY(previewShows(Background));
-        keepPicture("camera-unplugged");
+        keepFrame("camera-unplugged");
 
         a = plug(NameA, QStringLiteral("Front camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);

@@ -93,7 +93,7 @@ private:
     QByteArray volume();
     int captures();
     int playbacks();
-    void keepPicture(const char* caption);
+    void keepFrame(const char* caption);
     void meter(const char* fault, const Script& action);
     void frozen(const char* step, const Script& action);
 
@@ -145,16 +145,16 @@ void tst_MicrophoneDialog::showsEveryState()
         {
             const SoundSource voice(id("voice"), speech(id("one, two, three, four, five, six")));
             QTRY_VERIFY_WITH_TIMEOUT(level() > LitPercent, LongMs);
-            keepPicture("a voice");
+            keepFrame("a voice");
             m_dialog->click("Btn_Record");
             QTRY_VERIFY(m_view->find<QLabel>("label_Record")->text().contains(QLatin1Char('5')));
             QTRY_VERIFY(level() > LitPercent);
-            keepPicture("counting");
+            keepFrame("counting");
         }
         QTest::keyClick(slider(), Qt::Key_End);
         QTRY_VERIFY(isBalloonShown("ID_MicrophonePage_MayNoisy"));
         QTRY_VERIFY(volume().contains("150%"));
-        keepPicture("turned up");
+        keepFrame("turned up");
         QTest::keyClick(slider(), Qt::Key_Home);
         QTRY_VERIFY(!isBalloonShown("ID_MicrophonePage_MayNoisy"));
 
@@ -162,13 +162,13 @@ void tst_MicrophoneDialog::showsEveryState()
         QTRY_VERIFY(isBalloonShown("ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable"));
         QVERIFY(!isShown("Btn_Mic_Yes"));
         QTRY_COMPARE(captures(), 0);
-        keepPicture("disabled");
+        keepFrame("disabled");
 
         m_server->unplug(m_server->microphoneA());
         QTRY_COMPARE(box()->count(), 1);
         QTRY_VERIFY(isShown("noMicPage"));
         QTRY_VERIFY(!isBalloonShown("ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable"));
-        keepPicture("no microphone");
+        keepFrame("no microphone");
     });
     m_board.endRow();
 }
@@ -462,7 +462,7 @@ int tst_MicrophoneDialog::playbacks()
     return m_server->control({id("list"), id("sink-inputs")}).count("Listening to oneself");
 }
 
-void tst_MicrophoneDialog::keepPicture(const char* caption)
+void tst_MicrophoneDialog::keepFrame(const char* caption)
 {
     m_board.add(id(caption), m_view->picture());
 }

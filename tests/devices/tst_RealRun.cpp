@@ -76,7 +76,7 @@ private:
     bool previewIsRed() const;
     const char* buttonFor(const std::vector<float>& heard) const;
     void compareTable(const QList<QPair<QString, QString>>& rows) const;
-    void keepPicture(const char* caption);
+    void keepFrame(const char* caption);
 
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<SoundServer> m_server;
@@ -177,7 +177,7 @@ void tst_RealRun::visitWithEverything()
         }
     }
     QTRY_VERIFY(isShown("tableWidget"));
-    keepPicture("Every check passed");
+    keepFrame("Every check passed");
     const QString passed = qtTrId("ID_CheckResultPage_Normal");
     compareTable({{{}, passed}, {{}, passed}, {{}, passed}, {{}, passed}});
     QCOMPARE(find<QLabel>("lb_Device")->text(), qtTrId("ID_CheckResultPage_EquipmentNormal"));
@@ -189,7 +189,7 @@ void tst_RealRun::passNetwork()
 {
     QTRY_VERIFY_WITH_TIMEOUT(isMeasured(), LongMs);
     QTRY_VERIFY(find<QLabel>("label_ND")->text().endsWith(id("ms")));
-    keepPicture("System and network");
+    keepFrame("System and network");
     click("Btn_Next");
 }
 
@@ -199,7 +199,7 @@ void tst_RealRun::passCamera()
     QCOMPARE(find<QComboBox>("cb_vd_name")->currentText(), id("Test Camera"));
     QTRY_VERIFY_WITH_TIMEOUT(previewIsRed(), LongMs);
     QTRY_VERIFY(m_view->isEnabled("Btn_CanSee"));
-    keepPicture("Camera");
+    keepFrame("Camera");
     click("Btn_CanSee");
 }
 
@@ -225,7 +225,7 @@ void tst_RealRun::passSpeaker()
     });
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
     click(button);
-    keepPicture("Speaker");
+    keepFrame("Speaker");
     click("Btn_CanHear");
 }
 
@@ -243,7 +243,7 @@ void tst_RealRun::passMicrophone()
     QTRY_VERIFY_WITH_TIMEOUT(bar->value() > LitPercent, LongMs);
     QTRY_VERIFY(find<QLabel>("label_Record")->text().contains(QLatin1Char('3')));
     QTRY_VERIFY(bar->value() > LitPercent);
-    keepPicture("Microphone, counting aloud");
+    keepFrame("Microphone, counting aloud");
     QTRY_VERIFY_WITH_TIMEOUT(m_view->isEnabled("Btn_Mic_Yes"), LongMs);
     QVERIFY(voice.waitForEnd());
     const double alike = loudnessCorrelation(ear.samples(), words);
@@ -256,20 +256,20 @@ void tst_RealRun::visitWithNothing()
     QTRY_VERIFY_WITH_TIMEOUT(isMeasured(), LongMs);
     QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("label_LR")->text(), id("100%"), LongMs);
     QCOMPARE(find<QLabel>("label_ND")->text(), id("N/A"));
-    keepPicture("System and network, nobody answers");
+    keepFrame("System and network, nobody answers");
     click("Btn_Next");
     QTRY_VERIFY(isShown("Btn_Cant"));
     QTRY_VERIFY(!isShown("Btn_CanSee"));
-    keepPicture("No camera");
+    keepFrame("No camera");
     click("Btn_Cant");
     QTRY_VERIFY(isShown("noHeadsetPage"));
-    keepPicture("No speaker");
+    keepFrame("No speaker");
     click("Btn_CantListen");
     QTRY_VERIFY(isShown("noMicPage"));
-    keepPicture("No microphone");
+    keepFrame("No microphone");
     click("Btn_Mic_No");
     QTRY_VERIFY(isShown("tableWidget"));
-    keepPicture("Every check failed");
+    keepFrame("Every check failed");
     const QString failed = qtTrId("ID_CheckResultPage_Abnormal");
     compareTable({{qtTrId("ID_NetworkPage_NetworkSlowOrUnstable"), failed},
                   {qtTrId("ID_lumcamera_NoWebcamFound"), failed},
@@ -349,7 +349,7 @@ void tst_RealRun::compareTable(const QList<QPair<QString, QString>>& rows) const
     }
 }
 
-void tst_RealRun::keepPicture(const char* caption)
+void tst_RealRun::keepFrame(const char* caption)
 {
     m_board.add(id(caption), m_view->picture());
 }

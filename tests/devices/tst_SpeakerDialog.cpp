@@ -81,7 +81,7 @@ private:
     void play(SoundRecording& recording) const;
     void choose(const QString& speakerId) const;
     QRadioButton* answerFor(const QString& soundFile) const;
-    void keepPicture(const char* state) const;
+    void keepFrame(const char* state) const;
     QString language() const;
     QByteArray volumeOf(const char* speakerId);
     void meter(const char* fault, const Script& action);
@@ -125,15 +125,15 @@ void tst_SpeakerDialog::hearsTheSoundAndAnswers()
         QTRY_COMPARE(slider()->value(), 90);
         slider()->setValue(80);
         QTRY_COMPARE(volumeOf("speaker_b").count(" 80%"), 2);
-        keepPicture("idle");
+        keepFrame("idle");
 
         QString heard;
         const QString fault = measuredFault([&] {
             chosenOne.forget();
             play(chosenOne);
-            keepPicture("playing");
+            keepFrame("playing");
             const bool isOver = QTest::qWaitFor([this] { return !isPlaying(); }, LongMs);
-            keepPicture("finished");
+            keepFrame("finished");
             const std::vector<double> alike = compareWithSounds(chosenOne.samples());
             const auto best = std::max_element(alike.begin(), alike.end());
             heard = soundNames().at(static_cast<int>(best - alike.begin()));
@@ -146,7 +146,7 @@ void tst_SpeakerDialog::hearsTheSoundAndAnswers()
         QVERIFY2(answer, qPrintable(heard));
         QTest::mouseClick(answer, Qt::LeftButton, {}, QPoint(8, answer->height() / 2));
         QVERIFY(answer->isChecked());
-        keepPicture("answered");
+        keepFrame("answered");
         m_dialog->click("Btn_CanHear");
         openSpeakerPage();
         m_dialog->click("label_MicCheck"); // so that the answer is recorded
@@ -154,7 +154,7 @@ void tst_SpeakerDialog::hearsTheSoundAndAnswers()
         openSpeakerPage();
         m_server->unplug(m_server->speakerB());
         QTRY_VERIFY(!isSpeakerThere());
-        keepPicture("no-headset");
+        keepFrame("no-headset");
     }));
     const QJsonObject results =
         m_dialog->results().value(id("results")).toObject().value(id("speaker")).toObject();
@@ -445,10 +445,10 @@ QRadioButton* tst_SpeakerDialog::answerFor(const QString& soundFile) const
     return nullptr;
 }
 
-void tst_SpeakerDialog::keepPicture(const char* state) const
+void tst_SpeakerDialog::keepFrame(const char* state) const
 {
-    QVERIFY(m_dialog->keepPicture(
-        QStringLiteral("speaker-%1-%2").arg(QLatin1String(state), language())));
+    QVERIFY(
+        m_dialog->keepFrame(QStringLiteral("speaker-%1-%2").arg(QLatin1String(state), language())));
 }
 
 QString tst_SpeakerDialog::language() const

@@ -25,7 +25,7 @@ QImage stripes(const QSize& size)
 class StillCamera final : public LumCameraBase
 {
 public:
-    QImage latestPicture() const override { return picture; }
+    QImage latestFrame() const override { return picture; }
     void setPreviewPixelRatio(qreal ratio) override { previewRatio = ratio; }
 
     QImage picture;
@@ -136,7 +136,7 @@ void tst_PlayerContainer::repaintsForPictures()
     m_player->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_player.get()));
     m_camera->picture = stripes(PreviewSize);
-    Q_EMIT m_camera->pictureArrived();
+    Q_EMIT m_camera->frameArrived();
     QTRY_COMPARE(m_player->grab().toImage().convertToFormat(QImage::Format_RGB32),
                  m_camera->picture);
 }

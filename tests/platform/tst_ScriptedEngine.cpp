@@ -29,7 +29,7 @@ public:
     {
         m_heard.append(QStringLiteral("works %1 %2").arg(id).arg(works));
     }
-    void pictureArrived() override { ++m_pictures; }
+    void frameArrived() override { ++m_pictures; }
 
     QStringList heard() const { return m_heard; }
     QStringList take() { return std::exchange(m_heard, {}); }
@@ -139,7 +139,7 @@ private Q_SLOTS:
     void listsAndChoosesCameras();
     void tellsCameraStates_data();
     void tellsCameraStates();
-    void deliversPicturesWhileStarted();
+    void deliversFramesWhileStarted();
     void noticesAStall();
     void worksAtOnceWhenSaid();
     void paintsWhatTheFeedSays();
@@ -255,7 +255,7 @@ void tst_ScriptedEngine::tellsCameraStates()
     QCOMPARE(int(camera->state()), started);
 }
 
-void tst_ScriptedEngine::deliversPicturesWhileStarted()
+void tst_ScriptedEngine::deliversFramesWhileStarted()
 {
     CameraListener listener;
     const auto camera = m_engine->createCamera(listener);
@@ -263,13 +263,13 @@ void tst_ScriptedEngine::deliversPicturesWhileStarted()
     QCoreApplication::processEvents();
     listener.take();
     QVERIFY(!camera->delivers());
-    QVERIFY(camera->latestPicture().isNull());
+    QVERIFY(camera->latestFrame().isNull());
 
     camera->start();
     QTRY_VERIFY(listener.pictures() >= 2);
     QVERIFY(camera->delivers());
     QVERIFY(camera->state() == DeviceState::Working);
-    QVERIFY(!camera->latestPicture().isNull());
+    QVERIFY(!camera->latestFrame().isNull());
     QCOMPARE(listener.take(), QStringList{QStringLiteral("works first 1")});
 
     camera->stop();
@@ -332,22 +332,22 @@ void tst_ScriptedEngine::paintsWhatTheFeedSays()
     m_engine->cameras().plug({First, QStringLiteral("Front")});
     camera->start();
     QTRY_VERIFY(listener.pictures() > 0);
-    QCOMPARE(camera->latestPicture().size(), QSize(640, 480));
+    QCOMPARE(camera->latestFrame().size(), QSize(640, 480));
     camera->setOutputSize(QSize(306, 172));
-    QCOMPARE(camera->latestPicture().size(), QSize(229, 172)); // the aspect is kept
+    QCOMPARE(camera->latestFrame().size(), QSize(229, 172)); // the aspect is kept
     camera->setOutputSize(QSize(2000, 2000));
-    QCOMPARE(camera->latestPicture().size(), QSize(640, 480)); // never enlarged
+    QCOMPARE(camera->latestFrame().size(), QSize(640, 480)); // never enlarged
 
-    const QImage moving = camera->latestPicture();
+    const QImage moving = camera->latestFrame();
     const int before = listener.pictures();
     QTRY_VERIFY(listener.pictures() > before);
-    QVERIFY(camera->latestPicture() != moving);
+    QVERIFY(camera->latestFrame() != moving);
 
     m_engine->cameras().setPictures(First, ScriptedCameras::Pictures::Frozen);
-    const QImage frozen = camera->latestPicture();
+    const QImage frozen = camera->latestFrame();
     const int frozenBefore = listener.pictures();
     QTRY_VERIFY(listener.pictures() > frozenBefore + 1);
-    QCOMPARE(camera->latestPicture(), frozen);
+    QCOMPARE(camera->latestFrame(), frozen);
     QVERIFY(camera->delivers());
 
     m_engine->cameras().setPictures(First, ScriptedCameras::Pictures::Black);
@@ -355,15 +355,15 @@ void tst_ScriptedEngine::paintsWhatTheFeedSays()
     QTRY_VERIFY(listener.pictures() > blackBefore);
     QImage black(640, 480, QImage::Format_RGB32);
     black.fill(Qt::black);
-    QCOMPARE(camera->latestPicture(), black);
+    QCOMPARE(camera->latestFrame(), black);
 
     m_engine->cameras().setFeed(Second, m_engine->cameras().feed(First));
     m_engine->cameras().setPictures(Second, ScriptedCameras::Pictures::Frozen);
     m_engine->cameras().plug({Second, QStringLiteral("Back")});
     camera->setCurrent(Second);
-    QVERIFY(camera->latestPicture().isNull()); // nothing from this one yet
-    QTRY_VERIFY(!camera->latestPicture().isNull());
-    QVERIFY(camera->latestPicture() != frozen);
+    QVERIFY(camera->latestFrame().isNull()); // nothing from this one yet
+    QTRY_VERIFY(!camera->latestFrame().isNull());
+    QVERIFY(camera->latestFrame() != frozen);
 }
 
 void tst_ScriptedEngine::keepsQuietAboutWhatTheCallerDid()
@@ -704,7 +704,7 @@ void tst_ScriptedEngine::recordsWhatItMeasured()
         void cameraListChanged() override {}
         void currentCameraChanged(const QString&) override {}
         void cameraWorkStateChanged(const QString&, bool) override {}
-        void pictureArrived() override { ++pictures; }
+        void frameArrived() override { ++pictures; }
         void networkFiguresChanged() override { ++figures; }
         int pictures = 0;
         int figures = 0;

@@ -18,7 +18,7 @@ public:
     void start() override {}
     void stop() override {}
     void setOutputSize(const QSize&) override {}
-    QImage latestPicture() const override { return {}; }
+    QImage latestFrame() const override { return {}; }
 };
 
 class AbsentCameraSystem final : public CameraSystem

@@ -11,7 +11,7 @@
 namespace Platform {
 
 class EndingThreads;
-class PictureSlot;
+class FrameSlot;
 
 // One camera user's line to whatever knows the cameras. Used on the GUI thread; nothing here waits,
 // and the destructor only asks its threads to end. Pictures go into the slot.
@@ -26,7 +26,7 @@ public:
         virtual void listArrived(const DeviceList& devices, const QString& preferredId,
                                  bool isDenied) = 0;
         virtual void stateChanged(int generation, DeviceState state) = 0;
-        virtual void pictureArrived() = 0;
+        virtual void frameArrived() = 0;
         virtual void serverMissing() = 0; // this machine has nothing to feed from
     };
 
@@ -37,7 +37,7 @@ public:
     virtual void setOutputSize(const QSize& pixels) = 0;
 };
 
-using FeedMaker = std::function<std::unique_ptr<CameraFeed>(std::shared_ptr<PictureSlot>,
+using FeedMaker = std::function<std::unique_ptr<CameraFeed>(std::shared_ptr<FrameSlot>,
                                                             std::unique_ptr<CameraFeed::Listener>,
                                                             std::shared_ptr<EndingThreads>)>;
 

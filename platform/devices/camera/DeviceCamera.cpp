@@ -5,7 +5,7 @@
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/CameraLog.h"
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FrameSlot.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,9 +35,9 @@ public:
         m_sender.post(
             [camera = m_camera, generation, state] { camera->onStateChanged(generation, state); });
     }
-    void pictureArrived() override
+    void frameArrived() override
     {
-        m_sender.post([camera = m_camera] { camera->onPictureArrived(); });
+        m_sender.post([camera = m_camera] { camera->onFrameArrived(); });
     }
     void serverMissing() override
     {
@@ -57,7 +57,7 @@ DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMa
       m_ending(std::move(ending)),
       m_settings(settings),
       m_report(report),
-      m_slot(std::make_shared<PictureSlot>())
+      m_slot(std::make_shared<FrameSlot>())
 {
     useFeed(makeFeed);
 }
@@ -127,7 +127,7 @@ void DeviceCamera::setOutputSize(const QSize& pixels)
     m_feed->setOutputSize(pixels);
 }
 
-QImage DeviceCamera::latestPicture() const
+QImage DeviceCamera::latestFrame() const
 {
     return m_slot->newest();
 }
@@ -163,12 +163,12 @@ void DeviceCamera::onStateChanged(int generation, DeviceState state)
     notifyWorkState();
 }
 
-void DeviceCamera::onPictureArrived()
+void DeviceCamera::onFrameArrived()
 {
     m_slot->notificationArrived();
     if (m_isStarted) {
         notifyWorkState(); // the feed's word for it may have come when the picture before was old
-        m_listener.pictureArrived();
+        m_listener.frameArrived();
     }
 }
 

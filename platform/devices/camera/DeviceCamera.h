@@ -11,7 +11,7 @@
 
 namespace Platform {
 
-class PictureSlot;
+class FrameSlot;
 class ReportSink;
 class SettingsStore;
 
@@ -38,14 +38,14 @@ public:
     void start() override;
     void stop() override;
     void setOutputSize(const QSize& pixels) override;
-    QImage latestPicture() const override;
+    QImage latestFrame() const override;
 
 private:
     class Post;
 
     void onListArrived(const DeviceList& devices, const QString& preferredId, bool isDenied);
     void onStateChanged(int generation, DeviceState state);
-    void onPictureArrived();
+    void onFrameArrived();
     void onServerMissing();
 
     void useFeed(const FeedMaker& makeFeed);
@@ -62,7 +62,7 @@ private:
     std::shared_ptr<EndingThreads> m_ending;
     SettingsStore& m_settings;
     ReportSink& m_report;
-    std::shared_ptr<PictureSlot> m_slot;
+    std::shared_ptr<FrameSlot> m_slot;
     QSize m_outputSize;
     DeviceList m_devices;
     QString m_currentId;

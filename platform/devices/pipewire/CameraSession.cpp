@@ -16,7 +16,7 @@ const QSize AskedSize(640, 480);
 
 } // namespace
 
-CameraSession::CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
+CameraSession::CameraSession(PipeWireConnection& connection, std::shared_ptr<FrameSlot> slot,
                              std::unique_ptr<CameraFeed::Listener> listener)
     : m_connection(connection),
       m_slot(std::move(slot)),
@@ -102,7 +102,7 @@ DeviceState CameraSession::stateOf(const QString& error)
 void CameraSession::streamRuns()
 {
     m_deadlineTimer.stop();
-    m_runsSince = PictureSlot::Clock::now();
+    m_runsSince = FrameSlot::Clock::now();
     m_watchTimer.startRepeating(WatchPeriod);
 }
 
@@ -116,13 +116,13 @@ void CameraSession::streamEnded(const QString& error)
     m_retryTimer.startOnce({}); // it can't be destroyed from inside its own event
 }
 
-void CameraSession::rateAgreed(double picturesPerSecond)
+void CameraSession::rateAgreed(double framesPerSecond)
 {
-    m_slot->setRate(m_generation, picturesPerSecond);
+    m_slot->setRate(m_generation, framesPerSecond);
 }
 
-void CameraSession::pictureReceived(const PictureFormat& format, const PictureView& view,
-                                    const PictureOrientation& orientation)
+void CameraSession::frameReceived(const PixelFormat& format, const FrameView& view,
+                                  const FrameOrientation& orientation)
 {
     const QImage picture = m_converter.convert(format, view, orientation, m_outputSize);
     if (picture.isNull()) {
@@ -131,7 +131,7 @@ void CameraSession::pictureReceived(const PictureFormat& format, const PictureVi
     const bool mustNotify = m_slot->put(m_generation, picture, format.size);
     report(DeviceState::Working);
     if (mustNotify) {
-        m_listener->pictureArrived();
+        m_listener->frameArrived();
     }
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/devices/camera/CameraFeed.h"
-#include "platform/devices/camera/PictureConverter.h"
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FrameConverter.h"
+#include "platform/devices/camera/FrameSlot.h"
 #include "platform/devices/pipewire/CameraStream.h"
 #include "platform/devices/pipewire/LoopTimer.h"
 #include "platform/devices/pipewire/PipeWireConnection.h"
@@ -19,7 +19,7 @@ namespace Platform {
 class CameraSession final : public PipeWireConnection::Observer, private CameraStream::Listener
 {
 public:
-    CameraSession(PipeWireConnection& connection, std::shared_ptr<PictureSlot> slot,
+    CameraSession(PipeWireConnection& connection, std::shared_ptr<FrameSlot> slot,
                   std::unique_ptr<CameraFeed::Listener> listener);
     ~CameraSession();
     CameraSession(const CameraSession&) = delete;
@@ -41,9 +41,9 @@ public:
 private:
     void streamRuns() override;
     void streamEnded(const QString& error) override;
-    void rateAgreed(double picturesPerSecond) override;
-    void pictureReceived(const PictureFormat& format, const PictureView& view,
-                         const PictureOrientation& orientation) override;
+    void rateAgreed(double framesPerSecond) override;
+    void frameReceived(const PixelFormat& format, const FrameView& view,
+                       const FrameOrientation& orientation) override;
 
     void openStream();
     void dropStream();
@@ -54,16 +54,16 @@ private:
     void report(DeviceState state);
 
     PipeWireConnection& m_connection;
-    std::shared_ptr<PictureSlot> m_slot;
+    std::shared_ptr<FrameSlot> m_slot;
     std::unique_ptr<CameraFeed::Listener> m_listener;
-    PictureConverter m_converter;
+    FrameConverter m_converter;
     QSize m_outputSize;
     QString m_id; // empty while closed
     int m_generation = 0;
     DeviceState m_state = DeviceState::Ready;
     QString m_serial; // of the camera that the stream is for
     std::unique_ptr<CameraStream> m_stream;
-    PictureSlot::Clock::time_point m_runsSince;
+    FrameSlot::Clock::time_point m_runsSince;
     LoopTimer m_deadlineTimer;
     LoopTimer m_retryTimer;
     LoopTimer m_watchTimer;

@@ -72,7 +72,7 @@ QSize sizeOf(const spa_rectangle& size)
             static_cast<int>(std::min(size.height, limit))};
 }
 
-PictureOrientation orientationOf(const spa_buffer& buffer)
+FrameOrientation orientationOf(const spa_buffer& buffer)
 {
     const auto* const transform =
         static_cast<const spa_meta_videotransform*>(spa_buffer_find_meta_data(
@@ -92,7 +92,7 @@ bool isCorrupted(const spa_buffer& buffer)
 }
 
 // What may be read of a block, whatever its sender claims.
-PictureView::Plane planeOf(const spa_data& block)
+FrameView::Plane planeOf(const spa_data& block)
 {
     if (block.data == nullptr || block.chunk == nullptr || block.chunk->stride < 0 ||
         (block.chunk->flags & SPA_CHUNK_FLAG_CORRUPTED) != 0) {
@@ -220,7 +220,7 @@ void CameraStream::onStateChanged(pw_stream_state state, const char* error)
 
 void CameraStream::onFormatChanged(const spa_pod* format)
 {
-    m_format = PictureFormat();
+    m_format = PixelFormat();
     spa_video_info info{};
     if (spa_format_parse(format, &info.media_type, &info.media_subtype) < 0) {
         return;
@@ -275,13 +275,13 @@ void CameraStream::deliver(const spa_buffer& buffer)
     if (m_format.layout == PixelLayout::None || isCorrupted(buffer)) {
         return;
     }
-    PictureView view;
+    FrameView view;
     view.planeCount = static_cast<int>(std::min<std::size_t>(buffer.n_datas, view.planes.size()));
     for (std::size_t i = 0; i < static_cast<std::size_t>(view.planeCount); ++i) {
         view.planes[i] = planeOf(buffer.datas[i]);
     }
     if (view.planeCount > 0 && view.planes[0].size > 0) {
-        m_listener.pictureReceived(m_format, view, orientationOf(buffer));
+        m_listener.frameReceived(m_format, view, orientationOf(buffer));
     }
 }
 

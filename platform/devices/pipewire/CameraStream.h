@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/PictureFormat.h"
+#include "platform/devices/camera/PixelFormat.h"
 
 #include <QString>
 #include <pipewire/pipewire.h>
@@ -22,9 +22,9 @@ public:
     public:
         virtual void streamRuns() = 0;
         virtual void streamEnded(const QString& error) = 0; // no text: nobody said why
-        virtual void rateAgreed(double picturesPerSecond) = 0;
-        virtual void pictureReceived(const PictureFormat& format, const PictureView& view,
-                                     const PictureOrientation& orientation) = 0;
+        virtual void rateAgreed(double framesPerSecond) = 0;
+        virtual void frameReceived(const PixelFormat& format, const FrameView& view,
+                                   const FrameOrientation& orientation) = 0;
 
     protected:
         ~Listener() = default;
@@ -51,7 +51,7 @@ private:
     pw_core* m_core; // null where the server takes no more connections
     pw_stream* m_stream = nullptr;
     spa_hook m_hook{};
-    PictureFormat m_format;
+    PixelFormat m_format;
     bool m_wasConnecting = false;
 };
 

@@ -7,8 +7,8 @@
 
 namespace Platform {
 
-PipeWireFeed::PipeWireFeed(std::shared_ptr<PipeWireThread> thread,
-                           std::shared_ptr<PictureSlot> slot, std::unique_ptr<Listener> listener)
+PipeWireFeed::PipeWireFeed(std::shared_ptr<PipeWireThread> thread, std::shared_ptr<FrameSlot> slot,
+                           std::unique_ptr<Listener> listener)
     : m_thread(std::move(thread)), m_session(std::make_shared<std::unique_ptr<CameraSession>>())
 {
     auto passed = std::make_shared<std::unique_ptr<Listener>>(std::move(listener));

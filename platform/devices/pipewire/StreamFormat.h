@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/PictureFormat.h"
+#include "platform/devices/camera/PixelFormat.h"
 
 #include <cstdint>
 #include <vector>

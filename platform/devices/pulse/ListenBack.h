@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/pulse/PulseHandles.h"
 #include "platform/devices/sound/DriftControl.h"
 #include "platform/devices/sound/DriftResampler.h"
 #include "platform/devices/sound/FeedbackLimiter.h"
-#include "platform/devices/pulse/PulseHandles.h"
 
 #include <QByteArray>
 #include <QString>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/sound/LevelMeter.h"
 #include "platform/devices/pulse/ListenBack.h"
 #include "platform/devices/pulse/PulseConnection.h"
+#include "platform/devices/sound/LevelMeter.h"
 
 #include <functional>
 #include <optional>

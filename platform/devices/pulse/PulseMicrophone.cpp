@@ -3,9 +3,9 @@
 #include "platform/devices/pulse/PulseMicrophone.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/pulse/PulseCapture.h"
 #include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/sound/MicrophoneAnalysis.h"
 
 #include <utility>
 

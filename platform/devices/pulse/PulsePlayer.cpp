@@ -3,9 +3,9 @@
 #include "platform/devices/pulse/PulsePlayer.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/sound/Mp3Decoder.h"
 #include "platform/devices/pulse/PulsePlayback.h"
 #include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/sound/Mp3Decoder.h"
 #include "platform/devices/sound/SoundBuffer.h"
 
 #include <QFileInfo>

@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-V4l2Feed::V4l2Feed(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+V4l2Feed::V4l2Feed(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                    std::unique_ptr<Listener> listener, std::shared_ptr<EndingThreads> ending)
     : m_ending(std::move(ending)),
       m_thread(std::make_unique<V4l2Thread>(parts, std::move(slot), std::move(listener), m_ending))

@@ -13,7 +13,7 @@ class V4l2Thread;
 class V4l2Feed final : public CameraFeed
 {
 public:
-    V4l2Feed(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+    V4l2Feed(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
              std::unique_ptr<Listener> listener, std::shared_ptr<EndingThreads> ending);
     ~V4l2Feed() override;
     V4l2Feed(const V4l2Feed&) = delete;

@@ -31,7 +31,7 @@ CameraNode nodeOf(const VideoDevices::Properties& properties)
 
 } // namespace
 
-V4l2Session::V4l2Session(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+V4l2Session::V4l2Session(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                          std::unique_ptr<CameraFeed::Listener> user,
                          std::shared_ptr<EndingThreads> ending)
     : m_parts(parts),
@@ -117,7 +117,7 @@ void V4l2Session::streamRuns()
     m_runsSince = Clock::now();
 }
 
-void V4l2Session::firstPictureArrived()
+void V4l2Session::firstFrameArrived()
 {
     report(DeviceState::Working);
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/devices/camera/CameraList.h"
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FrameSlot.h"
 #include "platform/devices/v4l2/V4l2Stream.h"
 #include "platform/devices/v4l2/VideoDevices.h"
 
@@ -17,7 +17,7 @@ namespace Platform {
 class V4l2Session final : private VideoDevices::Listener, private V4l2Stream::Listener
 {
 public:
-    V4l2Session(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+    V4l2Session(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                 std::unique_ptr<CameraFeed::Listener> user, std::shared_ptr<EndingThreads> ending);
     ~V4l2Session();
     V4l2Session(const V4l2Session&) = delete;
@@ -28,13 +28,13 @@ public:
     void setOutputSize(const QSize& pixels);
 
 private:
-    using Clock = PictureSlot::Clock;
+    using Clock = FrameSlot::Clock;
 
     void deviceFound(const VideoDevices::Properties& properties) override;
     void deviceGone(const QString& path) override;
     void streamOpens() override;
     void streamRuns() override;
-    void firstPictureArrived() override;
+    void firstFrameArrived() override;
     void streamEnded(DeviceState state, const QString& error) override;
 
     void announce();
@@ -44,7 +44,7 @@ private:
     void report(DeviceState state);
 
     const V4l2Parts m_parts;
-    std::shared_ptr<PictureSlot> m_slot;
+    std::shared_ptr<FrameSlot> m_slot;
     std::shared_ptr<CameraFeed::Listener> m_user;
     std::shared_ptr<EndingThreads> m_ending;
     CameraList m_cameras;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Stream.h"
 
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FrameSlot.h"
 
 #include <cerrno>
 #include <gst/app/gstappsink.h>
@@ -146,7 +146,7 @@ Element makeSink()
     return sink;
 }
 
-PictureView::Plane planeOf(const GstVideoFrame& frame, guint index)
+FrameView::Plane planeOf(const GstVideoFrame& frame, guint index)
 {
     // Without a description of the planes all are in the first mapping.
     const GstMapInfo& map = frame.map[frame.meta == nullptr ? 0 : index];
@@ -158,9 +158,8 @@ PictureView::Plane planeOf(const GstVideoFrame& frame, guint index)
 } // namespace
 
 V4l2Stream::V4l2Stream(const V4l2Parts& parts, const QString& path, int generation,
-                       std::shared_ptr<PictureSlot> slot,
-                       std::shared_ptr<CameraFeed::Listener> user, Mailbox::Sender sender,
-                       Listener& listener)
+                       std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> user,
+                       Mailbox::Sender sender, Listener& listener)
     : m_parts(parts),
       m_path(path),
       m_generation(generation),
@@ -258,9 +257,9 @@ void V4l2Stream::deliver(GstSample* sample)
     if (gst_video_info_from_caps(&info, caps) == 0) {
         return;
     }
-    PictureFormat format{PixelLayout::Mjpg, colourOf(info.colorimetry),
-                         QSize(GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info))};
-    PictureView view;
+    PixelFormat format{PixelLayout::Mjpg, colourOf(info.colorimetry),
+                       QSize(GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info))};
+    FrameView view;
     QImage picture;
     if (GST_VIDEO_INFO_FORMAT(&info) == GST_VIDEO_FORMAT_ENCODED) {
         GstMapInfo map;
@@ -285,14 +284,14 @@ void V4l2Stream::deliver(GstSample* sample)
     if (picture.isNull() || isInterruptionRequested()) {
         return;
     }
-    if (!m_hasPicture) {
-        m_hasPicture = true;
+    if (!m_hasFrame) {
+        m_hasFrame = true;
         const int rate = GST_VIDEO_INFO_FPS_N(&info);
         m_slot->setRate(m_generation, double(rate) / std::max(GST_VIDEO_INFO_FPS_D(&info), 1));
-        tell([](Listener& listener) { listener.firstPictureArrived(); });
+        tell([](Listener& listener) { listener.firstFrameArrived(); });
     }
     if (m_slot->put(m_generation, picture, format.size)) {
-        m_user->pictureArrived();
+        m_user->frameArrived();
     }
 }
 

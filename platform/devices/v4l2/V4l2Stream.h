@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/backend/Mailbox.h"
-#include "platform/devices/camera/PictureConverter.h"
+#include "platform/devices/camera/FrameConverter.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 
 #include <QThread>
@@ -27,7 +27,7 @@ public:
     public:
         virtual void streamOpens() = 0; // a deadline makes sense from now on
         virtual void streamRuns() = 0;
-        virtual void firstPictureArrived() = 0;
+        virtual void firstFrameArrived() = 0;
         virtual void streamEnded(DeviceState state, const QString& error) = 0;
 
     protected:
@@ -35,7 +35,7 @@ public:
     };
 
     V4l2Stream(const V4l2Parts& parts, const QString& path, int generation,
-               std::shared_ptr<PictureSlot> slot, std::shared_ptr<CameraFeed::Listener> user,
+               std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> user,
                Mailbox::Sender sender, Listener& listener);
     ~V4l2Stream() override;
 
@@ -55,13 +55,13 @@ private:
     const V4l2Parts m_parts;
     const QString m_path;
     const int m_generation;
-    const std::shared_ptr<PictureSlot> m_slot;
+    const std::shared_ptr<FrameSlot> m_slot;
     const std::shared_ptr<CameraFeed::Listener> m_user;
     const Mailbox::Sender m_sender;
     Listener& m_listener;
     std::atomic<QSize> m_outputSize;
-    PictureConverter m_converter;
-    bool m_hasPicture = false;
+    FrameConverter m_converter;
+    bool m_hasFrame = false;
 };
 
 } // namespace Platform

@@ -6,7 +6,7 @@
 
 namespace Platform {
 
-V4l2Thread::V4l2Thread(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+V4l2Thread::V4l2Thread(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                        std::unique_ptr<CameraFeed::Listener> listener,
                        std::shared_ptr<EndingThreads> ending)
     : m_parts(parts),

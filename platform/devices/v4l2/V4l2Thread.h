@@ -21,7 +21,7 @@ class V4l2Thread final : public QThread
     Q_DISABLE_COPY(V4l2Thread)
 
 public:
-    V4l2Thread(const V4l2Parts& parts, std::shared_ptr<PictureSlot> slot,
+    V4l2Thread(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                std::unique_ptr<CameraFeed::Listener> listener,
                std::shared_ptr<EndingThreads> ending);
     ~V4l2Thread() override;
@@ -33,7 +33,7 @@ protected:
 
 private:
     const V4l2Parts m_parts;
-    std::shared_ptr<PictureSlot> m_slot;
+    std::shared_ptr<FrameSlot> m_slot;
     std::unique_ptr<CameraFeed::Listener> m_listener;
     std::shared_ptr<EndingThreads> m_ending;
     QObject m_receiver;

@@ -3,7 +3,7 @@
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/DeviceCamera.h"
 #include "platform/devices/camera/EndingThreads.h"
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FrameSlot.h"
 #include "tests/support/MemoryReport.h"
 
 #include <QTemporaryDir>
@@ -22,7 +22,7 @@ public:
     void cameraListChanged() override {}
     void currentCameraChanged(const QString&) override {}
     void cameraWorkStateChanged(const QString&, bool works) override { workStates.append(works); }
-    void pictureArrived() override { ++pictures; }
+    void frameArrived() override { ++pictures; }
 
     QList<bool> workStates;
     int pictures = 0;
@@ -32,7 +32,7 @@ public:
 class Feed final : public CameraFeed
 {
 public:
-    Feed(std::shared_ptr<PictureSlot> slot, std::unique_ptr<Listener> listener)
+    Feed(std::shared_ptr<FrameSlot> slot, std::unique_ptr<Listener> listener)
         : m_slot(std::move(slot)), m_listener(std::move(listener))
     {
     }
@@ -48,12 +48,12 @@ public:
         QImage picture(Size, QImage::Format_RGB32);
         picture.fill(Qt::red);
         if (m_slot->put(m_generation, picture, Size)) {
-            m_listener->pictureArrived();
+            m_listener->frameArrived();
         }
     }
 
 private:
-    std::shared_ptr<PictureSlot> m_slot;
+    std::shared_ptr<FrameSlot> m_slot;
     std::unique_ptr<Listener> m_listener;
     int m_generation = 0;
 };

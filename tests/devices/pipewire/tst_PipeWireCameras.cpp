@@ -37,7 +37,7 @@ public:
     {
         log << (works ? QStringLiteral("works") : QStringLiteral("fails"));
     }
-    void pictureArrived() override { ++pictures; }
+    void frameArrived() override { ++pictures; }
 
     QStringList log;
     int pictures = 0;
@@ -203,19 +203,19 @@ void tst_PipeWireCameras::listsAndShowsTwoCameras()
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
     QCOMPARE(stateName(), QStringLiteral("working"));
-    QVERIFY(shows(m_backend->latestPicture(), Red));
-    QCOMPARE(m_backend->latestPicture().size(), QSize(229, 172));
+    QVERIFY(shows(m_backend->latestFrame(), Red));
+    QCOMPARE(m_backend->latestFrame().size(), QSize(229, 172));
 
     m_backend->setCurrent(NameB);
     QVERIFY(!m_backend->delivers());
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QVERIFY(shows(m_backend->latestPicture(), Green));
+    QVERIFY(shows(m_backend->latestFrame(), Green));
     const int before = m_watcher.pictures;
     QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures > before + 20, LongMs);
     m_backend->stop();
     QVERIFY(!m_backend->delivers());
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
 }
 
 // The server gives the node another name when it comes back; its device is in the same place.
@@ -324,7 +324,7 @@ void tst_PipeWireCameras::readsEveryLayout()
     makeBackend();
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    const QImage picture = m_backend->latestPicture();
+    const QImage picture = m_backend->latestFrame();
     QCOMPARE(picture.size(), expected);
     QCOMPARE(picture.format(), QImage::Format_RGB32);
     QVERIFY(shows(picture, Red));
@@ -361,7 +361,7 @@ void tst_PipeWireCameras::turnsTurnedSensors()
     makeBackend();
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    const QImage picture = m_backend->latestPicture();
+    const QImage picture = m_backend->latestFrame();
     QCOMPARE(picture.size(), expected);
     QVERIFY(isNear(picture.pixel(int(band.x() * picture.width()), int(band.y() * picture.height())),
                    Blue));
@@ -374,7 +374,7 @@ void tst_PipeWireCameras::readsDriverMemory()
     makeBackend();
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QVERIFY(shows(m_backend->latestPicture(), Red));
+    QVERIFY(shows(m_backend->latestFrame(), Red));
 }
 
 void tst_PipeWireCameras::followsFormatChanges()
@@ -382,16 +382,16 @@ void tst_PipeWireCameras::followsFormatChanges()
     const Camera camera = plug(NameA, QStringLiteral("Camera"));
     makeBackend();
     m_backend->start();
-    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(229, 172), LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(229, 172), LongMs);
     camera->command("size 320x180");
-    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), PreviewSize, LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), PreviewSize, LongMs);
     camera->command("size 1281x721");
-    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(306, 172), LongMs);
-    QTRY_VERIFY(shows(m_backend->latestPicture(), Red));
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(306, 172), LongMs);
+    QTRY_VERIFY(shows(m_backend->latestFrame(), Red));
     QTRY_VERIFY(m_backend->delivers());
     // and the preview's
     m_backend->setOutputSize(2 * PreviewSize);
-    QTRY_COMPARE(m_backend->latestPicture().size(), QSize(611, 344));
+    QTRY_COMPARE(m_backend->latestFrame().size(), QSize(611, 344));
 }
 
 void tst_PipeWireCameras::picksUpReturningCamera()
@@ -410,7 +410,7 @@ void tst_PipeWireCameras::picksUpReturningCamera()
     QTRY_COMPARE(stateName(), QStringLiteral("absent"));
     QVERIFY(isResponsive());
     QVERIFY(!m_backend->delivers());
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QCOMPARE(m_backend->currentId(), NameA);
     QCOMPARE(m_backend->currentName(), QStringLiteral("Camera"));
     QCOMPARE(ids(), QStringList(NameB));
@@ -418,7 +418,7 @@ void tst_PipeWireCameras::picksUpReturningCamera()
 
     camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--color"), GreenText});
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QVERIFY(shows(m_backend->latestPicture(), Green));
+    QVERIFY(shows(m_backend->latestFrame(), Green));
     QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("works")));
 }
 
@@ -443,7 +443,7 @@ void tst_PipeWireCameras::noticesSilence()
     QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("fails"));
     QVERIFY(sinceStall.elapsed() >= 400);
     QCOMPARE(stateName(), QStringLiteral("silent"));
-    QVERIFY(!m_backend->latestPicture().isNull()); // the last one stays
+    QVERIFY(!m_backend->latestFrame().isNull()); // the last one stays
     m_backend->stop();
     QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("silent"));
 }
@@ -469,7 +469,7 @@ void tst_PipeWireCameras::switchesOff()
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
     m_backend->setCurrent(QString());
     QCOMPARE(stateName(), QStringLiteral("off"));
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QTRY_COMPARE(m_watcher.log.last(), QStringLiteral("current "));
     QTRY_VERIFY(camera->output().endsWith("paused\n"));
     m_backend->setCurrent(NameA);

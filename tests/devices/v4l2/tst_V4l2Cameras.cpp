@@ -37,7 +37,7 @@ public:
     void cameraListChanged() override { ++lists; }
     void currentCameraChanged(const QString&) override {}
     void cameraWorkStateChanged(const QString&, bool works) override { doesWork = works; }
-    void pictureArrived() override { ++pictures; }
+    void frameArrived() override { ++pictures; }
 
     int lists = 0;
     int pictures = 0;
@@ -343,7 +343,7 @@ void tst_V4l2Cameras::showsPictures()
     QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures > 3, LongMs);
     QTRY_VERIFY(m_watcher.doesWork);
     QCOMPARE(stateName(), QStringLiteral("working"));
-    const QImage picture = m_backend->latestPicture();
+    const QImage picture = m_backend->latestFrame();
     if (caps.contains("jpegenc")) {
         QVERIFY(!picture.isNull()); // its source negotiates the smallest size
     } else {
@@ -354,7 +354,7 @@ void tst_V4l2Cameras::showsPictures()
     QVERIFY(isNear(picture.pixel(picture.width() / 14, y), qRgb(0, 0, 255)));
     QVERIFY(isNear(picture.pixel(picture.width() * 13 / 14, y), qRgb(255, 255, 255)));
     m_backend->stop();
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QCOMPARE(m_report.measurements.value(QStringLiteral("camera")).value(QLatin1String("state")),
              QJsonValue(QStringLiteral("working")));
 }
@@ -364,9 +364,9 @@ void tst_V4l2Cameras::followsTheWishedSize()
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     makeBackend();
     m_backend->start();
-    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestPicture().size(), QSize(229, 172), LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(229, 172), LongMs);
     m_backend->setOutputSize(2 * PreviewSize);
-    QTRY_COMPARE(m_backend->latestPicture().size(), QSize(459, 344));
+    QTRY_COMPARE(m_backend->latestFrame().size(), QSize(459, 344));
 }
 
 void tst_V4l2Cameras::switchesCameras()
@@ -382,9 +382,9 @@ void tst_V4l2Cameras::switchesCameras()
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
     m_backend->setCurrent(PlaceB);
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QVERIFY(isNear(m_backend->latestPicture().pixel(3, 3), qRgb(0, 255, 0)));
+    QVERIFY(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0, 255, 0)));
     QTRY_COMPARE(sourcesAlive.load(), 1);
     m_backend->setCurrent({});
     QCOMPARE(stateName(), QStringLiteral("off"));
@@ -399,7 +399,7 @@ void tst_V4l2Cameras::picksUpReturningCamera()
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
     m_sockets->unplug(QStringLiteral("/dev/video0"));
     QTRY_COMPARE(stateName(), QStringLiteral("absent"));
-    QVERIFY(m_backend->latestPicture().isNull());
+    QVERIFY(m_backend->latestFrame().isNull());
     QTRY_COMPARE(sourcesAlive.load(), 0);
     m_sockets->plug(device(QStringLiteral("/dev/video3"), PlaceA, QStringLiteral("Camera")));
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);

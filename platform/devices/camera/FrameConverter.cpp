@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PictureConverter.h"
+#include "platform/devices/camera/FrameConverter.h"
 
 #include <libyuv.h>
 
@@ -47,7 +47,7 @@ int rgbBytes(PixelLayout layout)
 }
 
 // The plane's stride where it holds all rows, otherwise 0.
-int strideOf(const PictureView::Plane& plane, int rowBytes, int rows)
+int strideOf(const FrameView::Plane& plane, int rowBytes, int rows)
 {
     const int stride = plane.stride == 0 ? rowBytes : plane.stride;
     const std::size_t needed =
@@ -57,8 +57,7 @@ int strideOf(const PictureView::Plane& plane, int rowBytes, int rows)
 }
 
 // The plane that follows the given one in the same memory.
-PictureView::Plane planeBehind(const PictureView::Plane& plane, int stride, int rows,
-                               int nextStride)
+FrameView::Plane planeBehind(const FrameView::Plane& plane, int stride, int rows, int nextStride)
 {
     const std::size_t bytes = static_cast<std::size_t>(stride) * static_cast<std::size_t>(rows);
     if (plane.size < bytes) {
@@ -68,14 +67,14 @@ PictureView::Plane planeBehind(const PictureView::Plane& plane, int stride, int 
 }
 
 // Gives each plane of a planar layout its own entry, also where all lie in one.
-PictureView separated(const PictureView& view, const PictureFormat& format)
+FrameView separated(const FrameView& view, const PixelFormat& format)
 {
-    PictureView result = view;
+    FrameView result = view;
     if (view.planeCount != 1) {
         return result;
     }
     const int height = format.size.height();
-    PictureView::Plane& luma = result.planes[0];
+    FrameView::Plane& luma = result.planes[0];
     if (luma.stride == 0) {
         luma.stride = format.size.width();
     }
@@ -91,16 +90,16 @@ PictureView separated(const PictureView& view, const PictureFormat& format)
 
 } // namespace
 
-struct PictureConverter::Source
+struct FrameConverter::Source
 {
-    const PictureFormat& format;
-    const PictureView& view;
+    const PixelFormat& format;
+    const FrameView& view;
 
     int width() const { return format.size.width(); }
     int height() const { return format.size.height(); }
 };
 
-QSize PictureConverter::fittedSize(const QSize& source, const QSize& bound)
+QSize FrameConverter::fittedSize(const QSize& source, const QSize& bound)
 {
     if (bound.isEmpty()) {
         return source;
@@ -112,14 +111,14 @@ QSize PictureConverter::fittedSize(const QSize& source, const QSize& bound)
         .expandedTo(QSize(1, 1));
 }
 
-QImage PictureConverter::convert(const PictureFormat& format, const PictureView& view,
-                                 const PictureOrientation& orientation, const QSize& bound)
+QImage FrameConverter::convert(const PixelFormat& format, const FrameView& view,
+                               const FrameOrientation& orientation, const QSize& bound)
 {
-    PictureFormat actual = format;
+    PixelFormat actual = format;
     if (format.layout == PixelLayout::Mjpg) {
         int width = 0;
         int height = 0;
-        const PictureView::Plane& plane = view.planes[0];
+        const FrameView::Plane& plane = view.planes[0];
         if (plane.data == nullptr ||
             libyuv::MJPGSize(plane.data, plane.size, &width, &height) != 0) {
             return {};
@@ -163,15 +162,15 @@ QImage PictureConverter::convert(const PictureFormat& format, const PictureView&
 
 // Packed layouts can't be scaled sideways as they are, but each byte column can be scaled upright,
 // which leaves little to unpack.
-void PictureConverter::scaleRows(const Source& source, int rowBytes, int rows)
+void FrameConverter::scaleRows(const Source& source, int rowBytes, int rows)
 {
-    const PictureView::Plane& plane = source.view.planes[0];
+    const FrameView::Plane& plane = source.view.planes[0];
     libyuv::ScalePlane(plane.data, strideOf(plane, rowBytes, source.height()), rowBytes,
                        source.height(), sized(m_rows, rowBytes, rows), rowBytes, rowBytes, rows,
                        libyuv::kFilterBox);
 }
 
-bool PictureConverter::scalePacked422(const Source& source, const QSize& size)
+bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
 {
     const int width = source.width();
     const int halfWidth = halfUp(width);
@@ -204,9 +203,9 @@ bool PictureConverter::scalePacked422(const Source& source, const QSize& size)
                                     constantsOf(source.format.colour), smallWidth, rows) == 0;
 }
 
-bool PictureConverter::scaleNv12(const Source& source, const QSize& size)
+bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
 {
-    const PictureView view = separated(source.view, source.format);
+    const FrameView view = separated(source.view, source.format);
     const int yStride = strideOf(view.planes[0], source.width(), source.height());
     const int uvStride =
         strideOf(view.planes[1], halfUp(source.width()) * 2, halfUp(source.height()));
@@ -225,9 +224,9 @@ bool PictureConverter::scaleNv12(const Source& source, const QSize& size)
                                     height) == 0;
 }
 
-bool PictureConverter::scaleI420(const Source& source, const QSize& size)
+bool FrameConverter::scaleI420(const Source& source, const QSize& size)
 {
-    const PictureView view = separated(source.view, source.format);
+    const FrameView view = separated(source.view, source.format);
     const int halfWidth = halfUp(source.width());
     const int halfHeight = halfUp(source.height());
     const int yStride = strideOf(view.planes[0], source.width(), source.height());
@@ -250,7 +249,7 @@ bool PictureConverter::scaleI420(const Source& source, const QSize& size)
                                     constantsOf(source.format.colour), width, height) == 0;
 }
 
-bool PictureConverter::scaleRgb(const Source& source, const QSize& size)
+bool FrameConverter::scaleRgb(const Source& source, const QSize& size)
 {
     const PixelLayout layout = source.format.layout;
     const int width = source.width();
@@ -282,12 +281,12 @@ bool PictureConverter::scaleRgb(const Source& source, const QSize& size)
                              size.width() * 4, size.width(), rows, libyuv::kFilterBox) == 0;
 }
 
-bool PictureConverter::scaleMjpg(const Source& source, const QSize& size)
+bool FrameConverter::scaleMjpg(const Source& source, const QSize& size)
 {
     const int width = source.width();
     const int height = source.height();
     const int halfWidth = halfUp(width);
-    const PictureView::Plane& plane = source.view.planes[0];
+    const FrameView::Plane& plane = source.view.planes[0];
     uchar* const y = sized(m_full[0], width, height);
     uchar* const u = sized(m_full[1], halfWidth, halfUp(height));
     uchar* const v = sized(m_full[2], halfWidth, halfUp(height));
@@ -295,8 +294,8 @@ bool PictureConverter::scaleMjpg(const Source& source, const QSize& size)
                            height, width, height) != 0) {
         return false;
     }
-    PictureFormat format{PixelLayout::I420, YuvColour::Bt601Full, source.format.size};
-    PictureView view;
+    PixelFormat format{PixelLayout::I420, YuvColour::Bt601Full, source.format.size};
+    FrameView view;
     view.planeCount = 3;
     for (std::size_t i = 0; i < view.planes.size(); ++i) {
         view.planes[i] = {m_full[i].data(), m_full[i].size(), i == 0 ? width : halfWidth};
@@ -304,7 +303,7 @@ bool PictureConverter::scaleMjpg(const Source& source, const QSize& size)
     return scaleI420(Source{format, view}, size);
 }
 
-QImage PictureConverter::oriented(const QSize& size, const PictureOrientation& orientation)
+QImage FrameConverter::oriented(const QSize& size, const FrameOrientation& orientation)
 {
     const int width = size.width();
     const int height = size.height();

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/DeliveryRule.h"
+#include "platform/devices/camera/StallTimeout.h"
 
 #include <QtTest>
 
 using namespace Platform;
 using namespace std::chrono_literals;
 
-class tst_DeliveryRule : public QObject
+class tst_StallTimeout : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void measuresWhereNoRateIsAgreed();
 };
 
-void tst_DeliveryRule::allowsFivePeriodsOrHalfASecond_data()
+void tst_StallTimeout::allowsFivePeriodsOrHalfASecond_data()
 {
     QTest::addColumn<double>("rate");
     QTest::addColumn<int>("allowedMs");
@@ -29,43 +29,43 @@ void tst_DeliveryRule::allowsFivePeriodsOrHalfASecond_data()
     QTest::newRow("absurd") << 0.001 << 5000;
 }
 
-void tst_DeliveryRule::allowsFivePeriodsOrHalfASecond()
+void tst_StallTimeout::allowsFivePeriodsOrHalfASecond()
 {
     QFETCH(double, rate);
     QFETCH(int, allowedMs);
-    DeliveryRule rule;
+    StallTimeout rule;
     rule.setRate(rate);
-    const auto start = DeliveryRule::Clock::now();
-    rule.pictureArrived(start);
+    const auto start = StallTimeout::Clock::now();
+    rule.frameArrived(start);
     QVERIFY(rule.delivers(start));
     QVERIFY(rule.delivers(start + std::chrono::milliseconds(allowedMs)));
     QVERIFY(!rule.delivers(start + std::chrono::milliseconds(allowedMs + 1)));
 }
 
-void tst_DeliveryRule::startsWithoutAPicture()
+void tst_StallTimeout::startsWithoutAPicture()
 {
-    DeliveryRule rule;
+    StallTimeout rule;
     rule.setRate(30.0);
-    const auto start = DeliveryRule::Clock::now();
+    const auto start = StallTimeout::Clock::now();
     QVERIFY(!rule.delivers(start));
-    rule.pictureArrived(start);
+    rule.frameArrived(start);
     QVERIFY(rule.delivers(start));
     rule.reset();
     QVERIFY(!rule.delivers(start));
 }
 
-void tst_DeliveryRule::measuresWhereNoRateIsAgreed()
+void tst_StallTimeout::measuresWhereNoRateIsAgreed()
 {
-    DeliveryRule rule;
+    StallTimeout rule;
     rule.setRate(0.0);
-    const auto start = DeliveryRule::Clock::now();
-    rule.pictureArrived(start);
+    const auto start = StallTimeout::Clock::now();
+    rule.frameArrived(start);
     QVERIFY(rule.allowance() == 500ms);
-    rule.pictureArrived(start + 400ms);
+    rule.frameArrived(start + 400ms);
     QVERIFY(rule.allowance() == 2s);
     QVERIFY(rule.delivers(start + 2400ms));
     QVERIFY(!rule.delivers(start + 2401ms));
 }
 
-QTEST_GUILESS_MAIN(tst_DeliveryRule)
-#include "tst_DeliveryRule.moc"
+QTEST_GUILESS_MAIN(tst_StallTimeout)
+#include "tst_StallTimeout.moc"

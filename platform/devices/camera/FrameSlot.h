@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/DeliveryRule.h"
-#include "platform/devices/camera/PictureStatistics.h"
+#include "platform/devices/camera/FrameStatistics.h"
+#include "platform/devices/camera/StallTimeout.h"
 
 #include <QImage>
 #include <QJsonObject>
@@ -14,10 +14,10 @@ namespace Platform {
 // Where the camera thread leaves the newest picture and the GUI thread finds it. Holds one picture;
 // the newest wins. Pictures of an earlier opening (generation) are refused. Thread-safe; nobody
 // waits longer than it takes to swap a pointer.
-class PictureSlot
+class FrameSlot
 {
 public:
-    using Clock = DeliveryRule::Clock;
+    using Clock = StallTimeout::Clock;
 
     // GUI thread
     int open();   // the generation whose pictures are taken from now on
@@ -28,7 +28,7 @@ public:
     void notificationArrived();  // the next picture is worth another one
 
     // camera thread
-    void setRate(int generation, double picturesPerSecond);
+    void setRate(int generation, double framesPerSecond);
     void interrupt(int generation); // no picture is left to show until the next one
     // Whether the GUI thread must be told; false while a notification is under way.
     bool put(int generation, const QImage& picture, const QSize& sourceSize);
@@ -37,8 +37,8 @@ public:
 private:
     mutable std::mutex m_mutex;
     QImage m_picture;
-    DeliveryRule m_rule;
-    PictureStatistics m_statistics;
+    StallTimeout m_rule;
+    FrameStatistics m_statistics;
     int m_generation = 0;
     bool m_isOpen = false;
     bool m_isNotificationUnderWay = false;

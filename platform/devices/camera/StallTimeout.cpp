@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/DeliveryRule.h"
+#include "platform/devices/camera/StallTimeout.h"
 
 #include <algorithm>
 
@@ -14,39 +14,39 @@ constexpr std::chrono::seconds LongestPeriod(1); // slower than that is a fault,
 
 } // namespace
 
-void DeliveryRule::setRate(double picturesPerSecond)
+void StallTimeout::setRate(double framesPerSecond)
 {
     m_agreedPeriod = {};
     m_measuredPeriod = {};
-    if (picturesPerSecond > 0.0) {
+    if (framesPerSecond > 0.0) {
         m_agreedPeriod =
             std::min<Clock::duration>(std::chrono::duration_cast<Clock::duration>(
-                                          std::chrono::duration<double>(1.0 / picturesPerSecond)),
+                                          std::chrono::duration<double>(1.0 / framesPerSecond)),
                                       LongestPeriod);
     }
 }
 
-void DeliveryRule::pictureArrived(Clock::time_point now)
+void StallTimeout::frameArrived(Clock::time_point now)
 {
-    if (m_hasPicture) {
+    if (m_hasFrame) {
         m_measuredPeriod = std::min<Clock::duration>(now - m_last, LongestPeriod);
     }
     m_last = now;
-    m_hasPicture = true;
+    m_hasFrame = true;
 }
 
-void DeliveryRule::reset()
+void StallTimeout::reset()
 {
-    m_hasPicture = false;
+    m_hasFrame = false;
     m_measuredPeriod = {};
 }
 
-bool DeliveryRule::delivers(Clock::time_point now) const
+bool StallTimeout::delivers(Clock::time_point now) const
 {
-    return m_hasPicture && now - m_last <= allowance();
+    return m_hasFrame && now - m_last <= allowance();
 }
 
-DeliveryRule::Clock::duration DeliveryRule::allowance() const
+StallTimeout::Clock::duration StallTimeout::allowance() const
 {
     const Clock::duration period =
         m_agreedPeriod > Clock::duration::zero() ? m_agreedPeriod : m_measuredPeriod;

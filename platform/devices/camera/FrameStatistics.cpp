@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PictureStatistics.h"
+#include "platform/devices/camera/FrameStatistics.h"
 
 #include <QImage>
 
@@ -19,14 +19,14 @@ double rounded(double value)
     return qRound(value * 1000.0) / 1000.0;
 }
 
-double milliseconds(PictureStatistics::Clock::duration duration)
+double milliseconds(FrameStatistics::Clock::duration duration)
 {
     return std::chrono::duration<double, std::milli>(duration).count();
 }
 
 } // namespace
 
-PictureStatistics::Sample PictureStatistics::sampleOf(const QImage& picture)
+FrameStatistics::Sample FrameStatistics::sampleOf(const QImage& picture)
 {
     Sample result;
     result.size = picture.size();
@@ -47,13 +47,13 @@ PictureStatistics::Sample PictureStatistics::sampleOf(const QImage& picture)
     return result;
 }
 
-void PictureStatistics::start(Clock::time_point now)
+void FrameStatistics::start(Clock::time_point now)
 {
-    *this = PictureStatistics();
+    *this = FrameStatistics();
     m_start = now;
 }
 
-void PictureStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::time_point now)
+void FrameStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::time_point now)
 {
     if (m_pictures == 0) {
         m_first = now;
@@ -70,7 +70,7 @@ void PictureStatistics::add(const Sample& sample, const QSize& sourceSize, Clock
     }
 }
 
-QJsonObject PictureStatistics::figures() const
+QJsonObject FrameStatistics::figures() const
 {
     QJsonObject result{{QStringLiteral("pictures"), m_pictures}};
     if (m_pictures == 0) {

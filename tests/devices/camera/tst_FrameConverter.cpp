@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PictureConverter.h"
+#include "platform/devices/camera/FrameConverter.h"
 #include "tests/support/CameraPattern.h"
 
 #include <QtTest>
@@ -10,9 +10,9 @@ using namespace TestSupport;
 
 namespace {
 
-PictureView viewOf(const QByteArray& bytes, int stride)
+FrameView viewOf(const QByteArray& bytes, int stride)
 {
-    PictureView view;
+    FrameView view;
     view.planeCount = 1;
     view.planes[0] = {reinterpret_cast<const uchar*>(bytes.constData()),
                       static_cast<std::size_t>(bytes.size()), stride};
@@ -36,7 +36,7 @@ QByteArray smallPicture()
     return result;
 }
 
-const PictureFormat SmallFormat{PixelLayout::Bgrx, YuvColour::Bt601, QSize(4, 2)};
+const PixelFormat SmallFormat{PixelLayout::Bgrx, YuvColour::Bt601, QSize(4, 2)};
 
 // The colours' first letters, row by row.
 QString letters(const QImage& picture)
@@ -57,7 +57,7 @@ QString letters(const QImage& picture)
 
 } // namespace
 
-class tst_PictureConverter : public QObject
+class tst_FrameConverter : public QObject
 {
     Q_OBJECT
 
@@ -77,7 +77,7 @@ private Q_SLOTS:
     void averagesWhatItScales();
 };
 
-void tst_PictureConverter::fits_data()
+void tst_FrameConverter::fits_data()
 {
     QTest::addColumn<QSize>("source");
     QTest::addColumn<QSize>("bound");
@@ -90,14 +90,14 @@ void tst_PictureConverter::fits_data()
     QTest::newRow("no bound") << QSize(640, 480) << QSize() << QSize(640, 480);
 }
 
-void tst_PictureConverter::fits()
+void tst_FrameConverter::fits()
 {
     QFETCH(QSize, source);
     QFETCH(QSize, bound);
-    QTEST(PictureConverter::fittedSize(source, bound), "expected");
+    QTEST(FrameConverter::fittedSize(source, bound), "expected");
 }
 
-void tst_PictureConverter::orients_data()
+void tst_FrameConverter::orients_data()
 {
     QTest::addColumn<int>("quarterTurns");
     QTest::addColumn<bool>("isFlipped");
@@ -116,36 +116,36 @@ void tst_PictureConverter::orients_data()
     row("flipped 270", 3, true, "wr/br/gb/rb/");
 }
 
-void tst_PictureConverter::orients()
+void tst_FrameConverter::orients()
 {
     QFETCH(int, quarterTurns);
     QFETCH(bool, isFlipped);
     const QByteArray bytes = smallPicture();
-    PictureConverter converter;
+    FrameConverter converter;
     const QImage result =
         converter.convert(SmallFormat, viewOf(bytes, 0), {quarterTurns, isFlipped}, {});
     QTEST(letters(result), "expected");
 }
 
-void tst_PictureConverter::takesSeparatePlanes()
+void tst_FrameConverter::takesSeparatePlanes()
 {
     const QSize size(64, 32);
     const CameraPattern pattern(CameraPattern::I420, size, 0);
     const QByteArray bytes = pattern.picture(0);
-    const PictureFormat format{PixelLayout::I420, YuvColour::Bt601, size};
+    const PixelFormat format{PixelLayout::I420, YuvColour::Bt601, size};
     const auto* const y = reinterpret_cast<const uchar*>(bytes.constData());
-    PictureView view;
+    FrameView view;
     view.planeCount = 3;
     view.planes[0] = {y, 64 * 32, 64};
     view.planes[1] = {y + 64 * 32, 32 * 16, 32};
     view.planes[2] = {y + 64 * 32 + 32 * 16, 32 * 16, 32};
-    PictureConverter converter;
+    FrameConverter converter;
     const QImage separate = converter.convert(format, view, {}, {}).copy();
     QVERIFY(!separate.isNull());
     QCOMPARE(separate, converter.convert(format, viewOf(bytes, 64), {}, {}));
 }
 
-void tst_PictureConverter::honoursTheColourMatrix_data()
+void tst_FrameConverter::honoursTheColourMatrix_data()
 {
     QTest::addColumn<int>("colour");
     QTest::addColumn<int>("expected"); // grey of a luma of 235
@@ -155,17 +155,17 @@ void tst_PictureConverter::honoursTheColourMatrix_data()
     QTest::newRow("709 full") << int(YuvColour::Bt709Full) << 235;
 }
 
-void tst_PictureConverter::honoursTheColourMatrix()
+void tst_FrameConverter::honoursTheColourMatrix()
 {
     QFETCH(int, colour);
-    const PictureFormat format{PixelLayout::I420, static_cast<YuvColour>(colour), QSize(4, 4)};
+    const PixelFormat format{PixelLayout::I420, static_cast<YuvColour>(colour), QSize(4, 4)};
     const QByteArray bytes = QByteArray(16, char(235)) + QByteArray(8, char(128));
-    PictureConverter converter;
+    FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 4), {}, {});
     QTEST(qGreen(result.pixel(1, 1)), "expected");
 }
 
-void tst_PictureConverter::refusesShortPictures_data()
+void tst_FrameConverter::refusesShortPictures_data()
 {
     QTest::addColumn<int>("source");
     QTest::addColumn<int>("layout");
@@ -180,55 +180,55 @@ void tst_PictureConverter::refusesShortPictures_data()
     row("BGRx", CameraPattern::Bgrx, PixelLayout::Bgrx);
 }
 
-void tst_PictureConverter::refusesShortPictures()
+void tst_FrameConverter::refusesShortPictures()
 {
     QFETCH(int, source);
     QFETCH(int, layout);
     const QSize size(33, 17);
     const CameraPattern pattern(static_cast<CameraPattern::Layout>(source), size, 0);
     const QByteArray bytes = pattern.picture(0);
-    const PictureFormat format{static_cast<PixelLayout>(layout), YuvColour::Bt601, size};
-    PictureConverter converter;
+    const PixelFormat format{static_cast<PixelLayout>(layout), YuvColour::Bt601, size};
+    FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, pattern.stride()), {}, {}).isNull());
     QVERIFY(
         converter.convert(format, viewOf(bytes.left(bytes.size() - 3), pattern.stride()), {}, {})
             .isNull());
     QVERIFY(converter.convert(format, viewOf(bytes.left(1), pattern.stride()), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes, 1), {}, {}).isNull()); // rows overlap
-    QVERIFY(converter.convert(format, PictureView(), {}, {}).isNull());
+    QVERIFY(converter.convert(format, FrameView(), {}, {}).isNull());
 }
 
-void tst_PictureConverter::refusesAbsurdSizes()
+void tst_FrameConverter::refusesAbsurdSizes()
 {
     const QByteArray bytes = smallPicture();
-    PictureConverter converter;
+    FrameConverter converter;
     for (const QSize& size : {QSize(0, 2), QSize(4, -2), QSize(9000, 1), QSize(1, 9000)}) {
-        const PictureFormat format{PixelLayout::Bgrx, YuvColour::Bt601, size};
+        const PixelFormat format{PixelLayout::Bgrx, YuvColour::Bt601, size};
         QVERIFY(converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     }
 }
 
-void tst_PictureConverter::refusesBrokenJpegs()
+void tst_FrameConverter::refusesBrokenJpegs()
 {
     const QSize size(64, 48);
     const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, size, 0).picture(0);
-    const PictureFormat format{PixelLayout::Mjpg, YuvColour::Bt601, size};
-    PictureConverter converter;
+    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, size};
+    FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes.left(20), 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(QByteArray(2000, 'x'), 0), {}, {}).isNull());
 }
 
-void tst_PictureConverter::trustsTheJpegsOwnSize()
+void tst_FrameConverter::trustsTheJpegsOwnSize()
 {
     const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, QSize(64, 48), 0).picture(0);
-    const PictureFormat format{PixelLayout::Mjpg, YuvColour::Bt601, QSize(1280, 720)};
-    PictureConverter converter;
+    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, QSize(1280, 720)};
+    FrameConverter converter;
     QCOMPARE(converter.convert(format, viewOf(bytes, 0), {}, {}).size(), QSize(64, 48));
 }
 
 // Rows and columns of black and white in turn become grey, not one or the other.
-void tst_PictureConverter::averagesWhatItScales()
+void tst_FrameConverter::averagesWhatItScales()
 {
     const QSize size(64, 64);
     QByteArray bytes;
@@ -238,12 +238,12 @@ void tst_PictureConverter::averagesWhatItScales()
             bytes.append(char(128));
         }
     }
-    const PictureFormat format{PixelLayout::Yuy2, YuvColour::Bt601, size};
-    PictureConverter converter;
+    const PixelFormat format{PixelLayout::Yuy2, YuvColour::Bt601, size};
+    FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 128), {}, QSize(16, 16));
     QCOMPARE(result.size(), QSize(16, 16));
     QVERIFY(qAbs(qGreen(result.pixel(7, 7)) - 128) < 10);
 }
 
-QTEST_GUILESS_MAIN(tst_PictureConverter)
-#include "tst_PictureConverter.moc"
+QTEST_GUILESS_MAIN(tst_FrameConverter)
+#include "tst_FrameConverter.moc"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PicturePool.h"
+#include "platform/devices/camera/FramePool.h"
 
 #include <mutex>
 #include <vector>
@@ -14,7 +14,7 @@ constexpr std::size_t MaxSpares = 3;
 
 } // namespace
 
-struct PicturePool::Shelf
+struct FramePool::Shelf
 {
     using Memory = std::vector<uchar>;
     // What a picture hands back when it goes.
@@ -37,13 +37,13 @@ struct PicturePool::Shelf
     std::vector<Memory> spares;
 };
 
-PicturePool::PicturePool() : m_shelf(std::make_shared<Shelf>())
+FramePool::FramePool() : m_shelf(std::make_shared<Shelf>())
 {
 }
 
-PicturePool::~PicturePool() = default;
+FramePool::~FramePool() = default;
 
-QImage PicturePool::take(const QSize& size)
+QImage FramePool::take(const QSize& size)
 {
     auto loan = std::make_unique<Shelf::Loan>();
     loan->shelf = m_shelf;

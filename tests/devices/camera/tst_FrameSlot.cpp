@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PicturePool.h"
-#include "platform/devices/camera/PictureSlot.h"
+#include "platform/devices/camera/FramePool.h"
+#include "platform/devices/camera/FrameSlot.h"
 
 #include <QtTest>
 #include <optional>
@@ -23,7 +23,7 @@ QImage picture(QRgb colour = qRgb(200, 0, 0))
 
 } // namespace
 
-class tst_PictureSlot : public QObject
+class tst_FrameSlot : public QObject
 {
     Q_OBJECT
 
@@ -38,9 +38,9 @@ private Q_SLOTS:
     void isSafeAcrossThreads();
 };
 
-void tst_PictureSlot::showsTheNewest()
+void tst_FrameSlot::showsTheNewest()
 {
-    PictureSlot slot;
+    FrameSlot slot;
     const int generation = slot.open();
     QVERIFY(slot.newest().isNull());
     QVERIFY(!slot.delivers());
@@ -51,9 +51,9 @@ void tst_PictureSlot::showsTheNewest()
     QCOMPARE(slot.figures().value(QLatin1String("pictures")).toInt(), 2);
 }
 
-void tst_PictureSlot::notifiesOnceUntilHeard()
+void tst_FrameSlot::notifiesOnceUntilHeard()
 {
-    PictureSlot slot;
+    FrameSlot slot;
     const int generation = slot.open();
     QVERIFY(slot.put(generation, picture(), Size));
     QVERIFY(!slot.put(generation, picture(), Size));
@@ -61,9 +61,9 @@ void tst_PictureSlot::notifiesOnceUntilHeard()
     QVERIFY(slot.put(generation, picture(), Size));
 }
 
-void tst_PictureSlot::refusesOtherGenerations()
+void tst_FrameSlot::refusesOtherGenerations()
 {
-    PictureSlot slot;
+    FrameSlot slot;
     QVERIFY(!slot.put(0, picture(), Size));
     const int first = slot.open();
     const int second = slot.open();
@@ -80,9 +80,9 @@ void tst_PictureSlot::refusesOtherGenerations()
     QVERIFY(slot.newest().isNull());
 }
 
-void tst_PictureSlot::forgetsWhenInterrupted()
+void tst_FrameSlot::forgetsWhenInterrupted()
 {
-    PictureSlot slot;
+    FrameSlot slot;
     const int generation = slot.open();
     slot.put(generation, picture(), Size);
     slot.interrupt(generation);
@@ -93,21 +93,21 @@ void tst_PictureSlot::forgetsWhenInterrupted()
     QCOMPARE(slot.figures().value(QLatin1String("pictures")).toInt(), 2);
 }
 
-void tst_PictureSlot::knowsSilence()
+void tst_FrameSlot::knowsSilence()
 {
-    PictureSlot slot;
+    FrameSlot slot;
     const int generation = slot.open();
     slot.setRate(generation, 30.0);
-    const auto now = PictureSlot::Clock::now();
+    const auto now = FrameSlot::Clock::now();
     QVERIFY(!slot.isSilent(now));        // it may still come
     QVERIFY(slot.isSilent(now - 600ms)); // it should have come
     slot.put(generation, picture(), Size);
     QVERIFY(!slot.isSilent(now - 600ms));
 }
 
-void tst_PictureSlot::usesMemoryAgain()
+void tst_FrameSlot::usesMemoryAgain()
 {
-    PicturePool pool;
+    FramePool pool;
     std::optional<QImage> first = pool.take(Size);
     const uchar* const memory = first->constBits();
     const QImage second = pool.take(Size);
@@ -116,22 +116,22 @@ void tst_PictureSlot::usesMemoryAgain()
     QCOMPARE(pool.take(Size).constBits(), memory);
 }
 
-void tst_PictureSlot::survivesItsPool()
+void tst_FrameSlot::survivesItsPool()
 {
-    auto pool = std::make_unique<PicturePool>();
+    auto pool = std::make_unique<FramePool>();
     QImage kept = pool->take(Size);
     pool.reset();
     kept.fill(Qt::red);
     QCOMPARE(kept.pixel(3, 3), qRgb(255, 0, 0));
 }
 
-void tst_PictureSlot::isSafeAcrossThreads()
+void tst_FrameSlot::isSafeAcrossThreads()
 {
     constexpr int Count = 2000;
-    PictureSlot slot;
+    FrameSlot slot;
     const int generation = slot.open();
     std::thread camera([&slot, generation] {
-        PicturePool pool;
+        FramePool pool;
         for (int i = 0; i < Count; ++i) {
             QImage next = pool.take(Size);
             next.fill(qRgb(i % 256, i % 256, i % 256));
@@ -148,5 +148,5 @@ void tst_PictureSlot::isSafeAcrossThreads()
     camera.join();
 }
 
-QTEST_GUILESS_MAIN(tst_PictureSlot)
-#include "tst_PictureSlot.moc"
+QTEST_GUILESS_MAIN(tst_FrameSlot)
+#include "tst_FrameSlot.moc"

@@ -16,7 +16,7 @@ enum class PixelLayout { None, Yuy2, Uyvy, Nv12, I420, Bgrx, Rgbx, Xrgb, Xbgr, R
 enum class YuvColour { Bt601, Bt601Full, Bt709, Bt709Full };
 
 // What a camera agreed to send.
-struct PictureFormat
+struct PixelFormat
 {
     PixelLayout layout = PixelLayout::None;
     YuvColour colour = YuvColour::Bt601;
@@ -25,7 +25,7 @@ struct PictureFormat
 
 // How a picture lies in its buffer: mirrored around its vertical axis first where it is flipped,
 // then turned counter-clockwise.
-struct PictureOrientation
+struct FrameOrientation
 {
     int quarterTurns = 0; // 0 to 3
     bool isFlipped = false;
@@ -33,7 +33,7 @@ struct PictureOrientation
 
 // A picture in memory that belongs to somebody else. Planar layouts may lie in one plane, one
 // behind the other, or in a plane each.
-struct PictureView
+struct FrameView
 {
     struct Plane
     {

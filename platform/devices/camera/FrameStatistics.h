@@ -11,7 +11,7 @@ class QImage;
 namespace Platform {
 
 // What a camera delivered between its start and its stop, as figures for the run's report.
-class PictureStatistics
+class FrameStatistics
 {
 public:
     using Clock = std::chrono::steady_clock;

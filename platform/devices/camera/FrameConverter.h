@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/PictureFormat.h"
-#include "platform/devices/camera/PicturePool.h"
+#include "platform/devices/camera/FramePool.h"
+#include "platform/devices/camera/PixelFormat.h"
 
 #include <QImage>
 #include <vector>
@@ -12,12 +12,12 @@ namespace Platform {
 
 // Makes what a camera sends into what a self-view shows: upright, mirrored, no larger than wished,
 // its aspect kept. Scales before it converts. One thread at a time.
-class PictureConverter
+class FrameConverter
 {
 public:
     // Null where the picture can't be read: too short, broken, or of an absurd size.
-    QImage convert(const PictureFormat& format, const PictureView& view,
-                   const PictureOrientation& orientation, const QSize& bound);
+    QImage convert(const PixelFormat& format, const FrameView& view,
+                   const FrameOrientation& orientation, const QSize& bound);
 
     // The size of the result: never larger than the source. An empty bound doesn't limit.
     static QSize fittedSize(const QSize& source, const QSize& bound);
@@ -32,9 +32,9 @@ private:
     bool scaleRgb(const Source& source, const QSize& size);
     bool scaleMjpg(const Source& source, const QSize& size);
     void scaleRows(const Source& source, int rowBytes, int rows);
-    QImage oriented(const QSize& size, const PictureOrientation& orientation);
+    QImage oriented(const QSize& size, const FrameOrientation& orientation);
 
-    PicturePool m_pool;
+    FramePool m_pool;
     Bytes m_rows;    // the source at its full width and the wished height
     Bytes m_full[3]; // planes at the source's width
     Bytes m_small[3];

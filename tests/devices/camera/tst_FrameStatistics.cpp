@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/PictureStatistics.h"
+#include "platform/devices/camera/FrameStatistics.h"
 
 #include <QImage>
 #include <QtTest>
@@ -10,16 +10,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
-PictureStatistics::Sample sampleOf(QRgb colour)
+FrameStatistics::Sample sampleOf(QRgb colour)
 {
     QImage picture(32, 16, QImage::Format_RGB32);
     picture.fill(colour);
-    return PictureStatistics::sampleOf(picture);
+    return FrameStatistics::sampleOf(picture);
 }
 
 } // namespace
 
-class tst_PictureStatistics : public QObject
+class tst_FrameStatistics : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void countsAndAverages();
 };
 
-void tst_PictureStatistics::samplesPictures()
+void tst_FrameStatistics::samplesPictures()
 {
     QCOMPARE(sampleOf(qRgb(255, 255, 255)).brightness, 1.0);
     QCOMPARE(sampleOf(qRgb(0, 0, 0)).brightness, 0.0);
@@ -39,19 +39,19 @@ void tst_PictureStatistics::samplesPictures()
     QCOMPARE(sampleOf(0x00090909).print, sampleOf(0xff090909).print);
 }
 
-void tst_PictureStatistics::tellsNothingOfNothing()
+void tst_FrameStatistics::tellsNothingOfNothing()
 {
-    PictureStatistics statistics;
-    statistics.start(PictureStatistics::Clock::now());
+    FrameStatistics statistics;
+    statistics.start(FrameStatistics::Clock::now());
     const QJsonObject expected{{QStringLiteral("pictures"), 0}};
     QCOMPARE(statistics.figures(), expected);
 }
 
-void tst_PictureStatistics::countsAndAverages()
+void tst_FrameStatistics::countsAndAverages()
 {
     const QSize size(640, 480);
-    const auto start = PictureStatistics::Clock::now();
-    PictureStatistics statistics;
+    const auto start = FrameStatistics::Clock::now();
+    FrameStatistics statistics;
     statistics.start(start);
     statistics.add(sampleOf(qRgb(0, 0, 0)), size, start + 80ms);
     statistics.add(sampleOf(qRgb(255, 255, 255)), size, start + 120ms);
@@ -68,5 +68,5 @@ void tst_PictureStatistics::countsAndAverages()
     QCOMPARE(statistics.pictures(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_PictureStatistics)
-#include "tst_PictureStatistics.moc"
+QTEST_GUILESS_MAIN(tst_FrameStatistics)
+#include "tst_FrameStatistics.moc"

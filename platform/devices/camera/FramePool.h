@@ -10,13 +10,13 @@ namespace Platform {
 
 // Memory for pictures that is used again once nobody holds the picture any more, on whatever
 // thread that happens. Thread-safe; the pictures may outlive the pool.
-class PicturePool
+class FramePool
 {
 public:
-    PicturePool();
-    ~PicturePool();
-    PicturePool(const PicturePool&) = delete;
-    PicturePool& operator=(const PicturePool&) = delete;
+    FramePool();
+    ~FramePool();
+    FramePool(const FramePool&) = delete;
+    FramePool& operator=(const FramePool&) = delete;
 
     QImage take(const QSize& size); // QImage::Format_RGB32, content undefined
 
