@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
-#include "host/CheckCommand.h"
 #include "host/Console.h"
-#include "host/EngineCommands.h"
 #include "host/Options.h"
-#include "host/ReportCommand.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
+#include "host/commands/CheckCommand.h"
+#include "host/commands/EngineCommands.h"
+#include "host/commands/ReportCommand.h"
 
 #include <QApplication>
 #include <QFont>

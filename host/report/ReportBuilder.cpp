@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/ReportBuilder.h"
 
-#include "host/NetworkGrade.h"
 #include "host/report/Contradictions.h"
 #include "host/report/Figures.h"
+#include "host/report/NetworkGrade.h"
 #include "platform/backend/SystemFacts.h"
 
 #include <QCoreApplication>

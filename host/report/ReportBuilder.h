@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/RunOutcome.h"
 #include "host/report/Report.h"
+#include "host/report/RunOutcome.h"
 
 namespace Platform {
 class SystemFacts;

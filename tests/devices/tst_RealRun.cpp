@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/CheckCommand.h"
 #include "host/ExitCode.h"
 #include "host/Options.h"
 #include "host/SoundNames.h"
+#include "host/commands/CheckCommand.h"
 #include "host/tour/DialogView.h"
 #include "platform/devices/network/StunServer.h"
 #include "tests/devices/CoturnServer.h"

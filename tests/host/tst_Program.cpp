@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleReport.h"
 #include "host/report/ReportWriter.h"
+#include "tests/host/report/SampleReport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

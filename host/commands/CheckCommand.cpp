@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/CheckCommand.h"
+#include "host/commands/CheckCommand.h"
 
-#include "host/CheckRun.h"
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
-#include "host/RunOutcome.h"
+#include "host/commands/CheckRun.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportBuilder.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
 #include "host/report/RunHistory.h"
+#include "host/report/RunOutcome.h"
 #include "host/tour/Tour.h"
 #include "platform/backend/Engine.h"
 #include "platform/scripted/ScriptedEngine.h"

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleReport.h"
 #include "host/Languages.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
 #include "host/report/ReportWriter.h"
+#include "tests/host/report/SampleReport.h"
 
 #include <QXmlStreamReader>
 #include <QtTest>

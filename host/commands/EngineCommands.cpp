@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/EngineCommands.h"
+#include "host/commands/EngineCommands.h"
 
 #include "host/Console.h"
 #include "host/DeviceSurvey.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
-#include "host/NetworkGrade.h"
 #include "host/NetworkLimits.h"
 #include "host/Options.h"
+#include "host/report/NetworkGrade.h"
 #include "platform/backend/Engine.h"
 #ifdef ENVCHECK_WITH_DEVICES
 #include "platform/devices/network/StunResponder.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/CheckRun.h"
+#include "host/commands/CheckRun.h"
 
 #include "agent/EnvCheckAgent.h"
 

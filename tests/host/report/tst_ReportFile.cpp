@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleReport.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
+#include "tests/host/report/SampleReport.h"
 #include "tests/support/WriteObstacle.h"
 
 #include <QTemporaryDir>

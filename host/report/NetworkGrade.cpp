@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/NetworkGrade.h"
+#include "host/report/NetworkGrade.h"
 
 #include <algorithm>
 #include <limits>

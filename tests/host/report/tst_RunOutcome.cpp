@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/Languages.h"
-#include "host/RunOutcome.h"
+#include "host/report/RunOutcome.h"
 #include "platform/backend/ResultDocument.h"
 
 #include <QtTest>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/ReportCommand.h"
+#include "host/commands/ReportCommand.h"
 
 #include "host/Console.h"
 #include "host/Folders.h"

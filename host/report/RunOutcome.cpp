@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/RunOutcome.h"
+#include "host/report/RunOutcome.h"
 
 #include "host/Console.h"
 #include "host/NetworkLimits.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "host/NetworkGrade.h"
 #include "host/NetworkLimits.h"
+#include "host/report/NetworkGrade.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleReport.h"
+#include "tests/host/report/SampleReport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "SampleReport.h"
+#include "tests/host/report/SampleReport.h"
 
 namespace {
 

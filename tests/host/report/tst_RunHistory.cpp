@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "SampleReport.h"
 #include "host/report/RunHistory.h"
 #include "platform/backend/FileWriter.h"
+#include "tests/host/report/SampleReport.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
