@@ -42,6 +42,13 @@ void CycleButton::updateStyle()
                       .arg(m_normalImage, m_hoverImage, frame));
 }
 
+// Qt asks a button that gets disabled to pass its focus on: the next press of the same key would be
+// for another control.
+bool CycleButton::focusNextPrevChild(bool next)
+{
+    return !isEnabled() || QPushButton::focusNextPrevChild(next);
+}
+
 void CycleButton::changeEvent(QEvent* event)
 {
     if (event->type() != QEvent::EnabledChange) {

@@ -5,8 +5,8 @@
 #include <QPushButton>
 #include <vector>
 
-// A button made of images alone, which runs through three of them while it is disabled. GUI thread
-// only.
+// A button made of images alone, which runs through three of them while it is disabled. Disabled by
+// its own click, it keeps the focus. GUI thread only.
 class CycleButton : public QPushButton
 {
     Q_OBJECT
@@ -23,6 +23,7 @@ public:
     void updateStyle();
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void changeEvent(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 

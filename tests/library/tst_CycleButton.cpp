@@ -56,6 +56,7 @@ private Q_SLOTS:
     void enabledChangeIsNotPassedOn();
     void animatedClickStillWorks();
     void disabledByItsParent();
+    void keepsTheFocusWhileDisabled();
     void framesFollowTheClock();
 
 private:
@@ -205,6 +206,33 @@ void tst_CycleButton::disabledByItsParent()
     QVERIFY(frameTimer(button) != 0);
     parent.setEnabled(true);
     QVERIFY(timersOf(&button).isEmpty());
+}
+
+// Qt passes the focus of any other button on.
+void tst_CycleButton::keepsTheFocusWhileDisabled()
+{
+    QWidget window;
+    CycleButton button(&window);
+    setImages(button);
+    QPushButton plain(&window);
+    QPushButton last(&window);
+    QWidget::setTabOrder(&button, &plain);
+    QWidget::setTabOrder(&plain, &last);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    button.setFocus();
+    button.setEnabled(false);
+    QCOMPARE(window.focusWidget(), &button);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    QCOMPARE(window.focusWidget(), &plain);
+    plain.setEnabled(false);
+    QCOMPARE(window.focusWidget(), &last);
+    button.setEnabled(true);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    QCOMPARE(window.focusWidget(), &button);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    QCOMPARE(window.focusWidget(), &last);
 }
 
 void tst_CycleButton::framesFollowTheClock()
