@@ -6,6 +6,7 @@
 
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
+#include "platform/backend/SpeakerSession.h"
 
 class LumSpeaker::Bridge final : public Platform::SpeakerBackend::Listener
 {
@@ -28,6 +29,7 @@ public:
 private:
     LumSpeaker& m_speaker;
     std::unique_ptr<Platform::SpeakerBackend> m_backend;
+    Platform::SpeakerSession m_session; // ends first, and its sounds with it
 };
 
 LumSpeaker::LumSpeaker(QObject* parent) : QObject(parent), m_bridge(std::make_unique<Bridge>(*this))

@@ -9,7 +9,8 @@
 #include <utility>
 #include <vector>
 
-// The playback devices: list, choice, volume. GUI thread only; no call blocks.
+// The playback devices: list, choice, volume. The sounds that were started while it was the newest
+// speaker end with it. GUI thread only; no call blocks.
 class COMMENGINE_EXPORT LumSpeaker : public QObject
 {
     Q_OBJECT

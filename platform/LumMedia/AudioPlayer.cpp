@@ -4,6 +4,7 @@
 
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
+#include "platform/backend/SpeakerSession.h"
 
 #include <QTimer>
 
@@ -16,6 +17,10 @@ public:
     {
         if (!m_backend) {
             QTimer::singleShot(0, &m_player, [this] { playbackFinished(); });
+        }
+        if (const auto* session = Platform::SpeakerSession::newest()) {
+            QObject::connect(session, &Platform::SpeakerSession::ended, &m_player,
+                             [this] { deleteWithSpeaker(); });
         }
     }
 
@@ -39,6 +44,18 @@ public:
     }
 
 private:
+    // At once, as no event loop may come any more; but not a player that is just speaking.
+    void deleteWithSpeaker()
+    {
+        m_player.disconnect();
+        stop();
+        if (m_isNotifying) {
+            m_player.deleteLater();
+        } else {
+            delete &m_player;
+        }
+    }
+
     AudioPlayer& m_player;
     bool m_isFinished = false;
     bool m_isNotifying = false;

@@ -9,7 +9,8 @@
 
 enum AudioPlayerType : int {};
 
-// One sound being played. GUI thread only; made and ended by the two functions below.
+// One sound being played. Made and ended by the two functions below; it is also stopped and deleted
+// with the LumSpeaker that was the newest when it was made, without a signal. GUI thread only.
 class LUMMEDIA_EXPORT AudioPlayer : public QObject
 {
     Q_OBJECT
