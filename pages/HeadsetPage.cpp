@@ -16,6 +16,7 @@
 #include <QTimerEvent>
 
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -177,7 +178,6 @@ void HeadsetPage::timerEvent(QTimerEvent* event)
 
 void HeadsetPage::onTestLoudspeaker()
 {
-    const bool hadFocus = ui->tb_play_test_sound->hasFocus();
     m_handLabel->hide();
     ui->tb_play_test_sound->setEnabled(false);
     ui->tb_play_test_sound->update();
@@ -195,15 +195,9 @@ void HeadsetPage::onTestLoudspeaker()
     startPlayer();
     m_answerCorrect = false;
     enableAnswerButtons();
-    if (hadFocus) {
-        ui->item2->setFocus(Qt::TabFocusReason); // the first of them to the eye
-    }
     showAnswerTip();
     ui->Btn_CanHear->setEnabled(false);
     ui->Btn_CantListen->setEnabled(false);
-    if (!m_player) {
-        onPlayFinished(); // nothing will ever say so
-    }
 }
 
 void HeadsetPage::onAnswerButtonClicked(QAbstractButton* button)
@@ -392,24 +386,24 @@ void HeadsetPage::drawAnswers()
     m_correctAnswer = answers.at(static_cast<std::size_t>(randomIndex(generator, AnswerCount)));
 }
 
+// Without a player nothing ever says that the sound is over: only hiding the page ends that. A
+// player may be one that was handed out before, and is still connected then.
 void HeadsetPage::startPlayer()
 {
-    endPlayer();
     const QString path =
         QCoreApplication::applicationDirPath() + SoundFolder + m_soundFiles.at(m_correctAnswer);
     m_player = CreateAudioPlayer(TestSoundType, path, FullVolume, nullptr, 0, false, false);
     if (m_player) {
-        m_player->setParent(this);
-        connect(m_player, &AudioPlayer::playFileFinished, this, &HeadsetPage::onPlayFinished);
+        connect(m_player, &AudioPlayer::playFileFinished, this, &HeadsetPage::onPlayFinished,
+                Qt::UniqueConnection);
     }
 }
 
+// The engine may say from within the call that the sound is over.
 void HeadsetPage::endPlayer()
 {
-    if (m_player) {
-        m_player->disconnect(this); // a late end is not the next player's
-        DeleleAudioPlayer(m_player);
-        m_player = nullptr;
+    if (AudioPlayer* player = std::exchange(m_player, nullptr)) {
+        DeleleAudioPlayer(player);
     }
 }
 

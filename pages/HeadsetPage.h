@@ -66,7 +66,7 @@ private:
 
     std::unique_ptr<Ui::HeadsetPage> ui;
     Volume* m_volume = nullptr;
-    AudioPlayer* m_player = nullptr;         // a child of the page, so that it never outlives it
+    AudioPlayer* m_player = nullptr;         // the engine's; null: nothing plays
     std::map<QString, QString> m_soundFiles; // name shown to file name
     QString m_correctAnswer;
     bool m_answerCorrect = false;

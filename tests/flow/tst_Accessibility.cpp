@@ -323,6 +323,8 @@ void tst_Accessibility::wholeRunByKeyboard()
     QCOMPARE(shownPageName(), QString("headsetPage"));
 
     press("tb_play_test_sound");
+    QCOMPARE(m_dialog->focusWidget(), child<QWidget>("tb_play_test_sound"));
+    type(Qt::Key_Tab);
     QCOMPARE(m_dialog->focusWidget(), child<QWidget>("item2"));
     const QString played =
         "ID_HeadsetPage_" +

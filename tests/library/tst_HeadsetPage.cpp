@@ -14,6 +14,7 @@
 
 #include <CommEngine/HardwareMgrInterface.h>
 
+#include <QDialog>
 #include <QFileInfo>
 #include <QRadioButton>
 #include <QSlider>
@@ -116,8 +117,9 @@ private Q_SLOTS:
     void hidingWhilePlayingEndsThePlayer();
     void destructionWhilePlayingEndsThePlayer();
     void doubleClickPlaysOnce();
-    void playingTwiceEndsTheFirst();
-    void lateEndIsNotTheNextPlayers();
+    void playingAnewLeavesTheFirstToTheEngine();
+    void playingMovesNoFocus_data();
+    void playingMovesNoFocus();
     void refusedPlayerFinishes();
     void speakerGoesWhilePlaying();
 
@@ -710,27 +712,63 @@ void tst_HeadsetPage::doubleClickPlaysOnce()
     QCOMPARE(m_engine->scriptedSpeakers().playedFiles().size(), 1);
 }
 
-void tst_HeadsetPage::playingTwiceEndsTheFirst()
+// No click gets there: the button is disabled. The first one ends with the speaker.
+void tst_HeadsetPage::playingAnewLeavesTheFirstToTheEngine()
 {
     makeShownPage();
     play();
     QVERIFY(QMetaObject::invokeMethod(m_page.get(), "onTestLoudspeaker"));
     QCOMPARE(m_engine->scriptedSpeakers().playedFiles().size(), 2);
-    QCOMPARE(m_engine->livingSessions(), 2); // the speaker's and one player's
+    QCOMPARE(m_engine->livingSessions(), 3); // the speaker's and two players'
+    m_page->hide();
+    QCOMPARE(m_engine->livingSessions(), 2);
+    m_page.reset();
+    QCOMPARE(m_engine->livingSessions(), 0);
 }
 
-void tst_HeadsetPage::lateEndIsNotTheNextPlayers()
+void tst_HeadsetPage::playingMovesNoFocus_data()
 {
-    makeShownPage();
-    play();
-    m_engine->scriptedSpeakers().finishPlayback();
-    QVERIFY(QMetaObject::invokeMethod(m_page.get(), "onTestLoudspeaker"));
-    turn();
-    QVERIFY(!m_play->isEnabled());
-    QCOMPARE(m_playLabel->text(), QString("ID_HeadsetPage_Playing"));
-    finish();
-    finish();
-    QCOMPARE(m_playLabel->text(), QString("ID_HeadsetPage_PlayAgain"));
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("space") << Qt::Key_Space;
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("enter") << Qt::Key_Enter;
+}
+
+// Somebody who presses twice picks no answer and answers nothing.
+void tst_HeadsetPage::playingMovesNoFocus()
+{
+    QFETCH(Qt::Key, key);
+    plug(Speaker::Works);
+    makePage();
+    QDialog dialog;
+    m_page->setParent(&dialog); // which presses its default button at Return
+    const auto release = qScopeGuard([this] { m_page->setParent(nullptr); });
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QSignalSpy completed(m_page.get(), &CheckPage::complete);
+    m_play->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Space);
+    finish(); // from now on the answers are enabled
+
+    for (int played = 2; played <= 3; ++played) {
+        QCOMPARE(dialog.focusWidget(), m_play);
+        QTest::keyClick(dialog.windowHandle(), key);
+        QCOMPARE(m_engine->scriptedSpeakers().playedFiles().size(), played);
+        QCOMPARE(dialog.focusWidget(), m_play);
+        QTest::keyClick(dialog.windowHandle(), key);
+        checkAnswerButtons(true);
+        for (const QRadioButton* item : m_items) {
+            QVERIFY(!item->isChecked());
+        }
+        checkVerdictButtons(false, false);
+        QVERIFY(!m_play->isEnabled());
+        QCOMPARE(completed.count(), 0);
+        finish();
+    }
+    QTest::keyClick(dialog.windowHandle(), key);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), m_items.at(2)); // the first of them to the eye
 }
 
 void tst_HeadsetPage::refusedPlayerFinishes()
