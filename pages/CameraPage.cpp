@@ -32,6 +32,7 @@ CameraPage::CameraPage(QWidget* parent)
     connect(ui->Btn_CanSee, &QPushButton::clicked, this, [this] { finishCheck(true); });
     connect(ui->Btn_Cant, &QPushButton::clicked, this, [this] { finishCheck(false); });
     DeviceChecks::setUpComboBox(ui->cb_vd_name, this);
+    DeviceChecks::setCaption(ui->cb_vd_name, ui->label_select_camera->text());
     ui->f_video_player->attachCamera(&m_camera);
     ui->f_video_player->play();
     connect(&m_camera, &LumCamera::deviceListChanged, this, &CameraPage::refillCameraList);
@@ -133,7 +134,6 @@ void CameraPage::setTexts()
     ui->Btn_Cant->setText(qtTrId("ID_CameraPage_CannotSee"));
     ui->Btn_CanSee->setText(qtTrId("ID_Next"));
     ui->label_select_camera->setText(qtTrId("ID_CameraPage_Camera"));
-    DeviceChecks::setCaption(ui->cb_vd_name, ui->label_select_camera->text());
     ui->f_video_player->setAccessibleName(ui->label_select_camera->text());
 }
 

@@ -48,11 +48,12 @@ int stateCode(bool works)
 void setUpComboBox(QCustomComboBox* combo, CheckPage* page)
 {
     combo->setItemDelegate(new QCustomComboBoxItem(page));
-    combo->view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     combo->setPopupWidth(combo->width());
     combo->installEventFilter(page);
     combo->setEnableClickLineEdit(true);
+    // A box that only now becomes editable has its view set up anew.
+    combo->view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     combo->lineEdit()->setReadOnly(true);
     combo->lineEdit()->setStyleSheet(
         QStringLiteral("background-color: transparent; border: none;"));
@@ -64,13 +65,17 @@ void setCaption(QCustomComboBox* combo, const QString& caption)
     combo->lineEdit()->setAccessibleName(caption);
 }
 
-// Each is put right behind the first, the last one to begin with: Qt leaves alone what follows
-// already, even where it does so around the end of the page.
-void setTabOrder(QWidget* first, std::initializer_list<QWidget*> rest)
+// Each is put right behind the box, the last one to begin with: Qt leaves alone what follows
+// already, even where it does so around the end of the page. A line edit that came late stands
+// elsewhere than its box, and it is what Qt puts them behind.
+void setTabOrder(QCustomComboBox* combo, std::initializer_list<QWidget*> rest)
 {
+    QWidget* first = combo;
+    if (combo->lineEdit()) {
+        first = combo->lineEdit();
+    }
     for (auto widget = std::rbegin(rest); widget != std::rend(rest); ++widget) {
-        QWidget* proxy = (*widget)->focusProxy();
-        QWidget::setTabOrder(first, proxy ? proxy : *widget);
+        QWidget::setTabOrder(first, *widget);
     }
 }
 

@@ -17,11 +17,11 @@ namespace DeviceChecks {
 int answerCode(bool isTested, bool isConfirmed); // 0 not answered, 1 yes, 2 no
 int stateCode(bool works);                       // 1 works, 2 doesn't
 
-// The page filters the box's events and owns its delegate.
+// The page filters the box's events and owns its delegate. The box may have no line edit before.
 void setUpComboBox(QCustomComboBox* combo, CheckPage* page);
 void setUpPopup(QCustomComboBox* combo); // as the speaker and the microphone page have it
 void setCaption(QCustomComboBox* combo, const QString& caption); // for a screen reader
-void setTabOrder(QWidget* first, std::initializer_list<QWidget*> rest);
+void setTabOrder(QCustomComboBox* combo, std::initializer_list<QWidget*> rest);
 void placeAbove(LumToolTip* popup, const QWidget* widget); // with left edges aligned
 
 QLabel* createHand(QWidget* parent); // points at a button and lets clicks through

@@ -287,7 +287,8 @@ void HeadsetPage::addTips()
     ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1, tips);
     DeviceChecks::setTabOrder(ui->cb_ad_output_name,
                               {ui->tb_play_test_sound, ui->item2, ui->item1, ui->item0, ui->item3,
-                               m_volume, tips->button(), ui->Btn_CanHear, ui->Btn_CantListen});
+                               m_volume->slider(), tips->button(), ui->Btn_CanHear,
+                               ui->Btn_CantListen});
 }
 
 void HeadsetPage::connectSpeaker()

@@ -255,8 +255,8 @@ void MicrophonePage::addTips()
     auto* tips =
         new TipsWidget(qtTrId("ID_MicrophonePage_ClickHere"), lines.join(QLatin1Char('\n')), this);
     ui->verticalLayout->insertLayout(ui->verticalLayout->count() - 1, tips);
-    DeviceChecks::setTabOrder(ui->cb_ad_input_name,
-                              {m_volume, tips->button(), ui->Btn_Mic_Yes, ui->Btn_Mic_No});
+    DeviceChecks::setTabOrder(ui->cb_ad_input_name, {m_volume->slider(), tips->button(),
+                                                     ui->Btn_Mic_Yes, ui->Btn_Mic_No});
 }
 
 void MicrophonePage::connectMicrophone()

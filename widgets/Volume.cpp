@@ -82,7 +82,6 @@ Volume::Volume(QWidget* parent, int initialValue, bool extendedRange)
     layout->addWidget(m_valueLabel);
     m_valueLabel->setStyleSheet(ValueLabelStyle);
     m_valueLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    setFocusProxy(m_slider);
 }
 
 Volume::~Volume() = default;
@@ -100,6 +99,11 @@ void Volume::setCaption(const QString& caption)
     setAccessibleName(caption);
     m_slider->setAccessibleName(caption);
     m_valueLabel->setAccessibleDescription(caption); // its name is the value
+}
+
+QWidget* Volume::slider() const
+{
+    return m_slider;
 }
 
 void Volume::onValueChange(int value)

@@ -24,6 +24,7 @@ public:
 
     // What a screen reader calls it.
     void setCaption(const QString& caption);
+    QWidget* slider() const; // what takes the focus
 
 Q_SIGNALS:
     void setVolumeByUser(int value);
