@@ -159,24 +159,28 @@ void CameraPage::ignoreComboBox()
                SLOT(onSelectCameraChanged(int)));
 }
 
+// The camera is asked before the box is touched, here and below: it may tell news from within each
+// call, and those fill the box, too.
 void CameraPage::refillCameraList()
 {
+    const auto list = m_camera.getDeviceList();
+    const QString noneText = m_camera.getNoneDeviceText();
     ignoreComboBox();
     ui->cb_vd_name->hidePopup();
     ui->cb_vd_name->clear();
-    for (const auto& [id, name] : m_camera.getDeviceList()) {
+    for (const auto& [id, name] : list) {
         ui->cb_vd_name->addItem(name, QVariant(id));
     }
-    ui->cb_vd_name->addItem(m_camera.getNoneDeviceText(),
-                            QVariant(HardwareMgrInterface::NoneDevice));
+    ui->cb_vd_name->addItem(noneText, QVariant(HardwareMgrInterface::NoneDevice));
     followComboBox();
 }
 
 void CameraPage::onCurrentCameraChanged()
 {
-    ignoreComboBox();
     updatePreview();
-    selectComboData(ui->cb_vd_name, m_camera.getCurrentDevice());
+    const QString id = m_camera.getCurrentDevice();
+    ignoreComboBox();
+    selectComboData(ui->cb_vd_name, id);
     followComboBox();
 }
 

@@ -313,42 +313,46 @@ void HeadsetPage::ignoreComboBox()
                SLOT(on_SpeakerIndexChanged(int)));
 }
 
+// The speaker is asked before the box is touched, here and below: it may tell news from within each
+// call, and those fill the box, too.
 void HeadsetPage::onDeviceListChanged()
 {
+    auto list = LumSpeaker::getDeviceList(false);
+    if (list.empty()) {
+        list.emplace_back(HardwareMgrInterface::NoneDevice, LumSpeaker::getNoneDeviceText(true));
+    }
     ignoreComboBox();
     ui->cb_ad_output_name->clear();
     ui->cb_ad_output_name->hidePopup();
-    const auto list = LumSpeaker::getDeviceList(false);
     for (const auto& [id, name] : list) {
         ui->cb_ad_output_name->addItem(name, QVariant(id));
-    }
-    if (list.empty()) {
-        ui->cb_ad_output_name->addItem(LumSpeaker::getNoneDeviceText(true),
-                                       QVariant(HardwareMgrInterface::NoneDevice));
     }
     followComboBox();
 }
 
 void HeadsetPage::onCurrentDeviceChanged(const QString& deviceId)
 {
-    ignoreComboBox();
+    const int volume = m_speaker.getVolume();
+    const bool isWorking = m_speaker.isWorking();
     QCustomComboBox* combo = ui->cb_ad_output_name;
     const auto indexOf = [combo](const QString& id) {
         return combo->findData(id, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
     };
+    const QString noneText =
+        indexOf(deviceId) >= 0 ? QString() : LumSpeaker::getNoneDeviceText(false);
+    ignoreComboBox();
     const bool isListed = indexOf(deviceId) >= 0;
     const bool isPresent = isListed && deviceId != HardwareMgrInterface::NoneDevice;
     if (isPresent) {
         combo->removeItem(indexOf(HardwareMgrInterface::NoneDevice));
     }
     if (!isListed) {
-        combo->addItem(LumSpeaker::getNoneDeviceText(false),
-                       QVariant(HardwareMgrInterface::NoneDevice));
+        combo->addItem(noneText, QVariant(HardwareMgrInterface::NoneDevice));
     }
     showSpeakerPresence(isPresent);
     combo->setCurrentIndex(indexOf(isListed ? deviceId : HardwareMgrInterface::NoneDevice));
-    m_volume->setVolume(m_speaker.getVolume());
-    m_volume->setEnabled(m_speaker.isWorking());
+    m_volume->setVolume(volume);
+    m_volume->setEnabled(isWorking);
     selectComboData(combo, deviceId);
     followComboBox();
 }

@@ -288,23 +288,27 @@ void MicrophonePage::ignoreComboBox()
                SLOT(on_cb_ad_input_name_currentIndexChanged(int)));
 }
 
+// The microphone is asked before the box is touched, here and below: it may tell news from within
+// each call, and those fill the box, too.
 void MicrophonePage::refreshDeviceList()
 {
+    const auto list = m_microphone.getDeviceList();
+    const QString noneText = m_microphone.getNoneDeviceText();
     ignoreComboBox();
     ui->cb_ad_input_name->hidePopup();
     ui->cb_ad_input_name->clear();
-    for (const auto& [id, device] : m_microphone.getDeviceList()) {
+    for (const auto& [id, device] : list) {
         ui->cb_ad_input_name->addItem(device.name, QVariant(id));
     }
-    ui->cb_ad_input_name->addItem(m_microphone.getNoneDeviceText(),
-                                  QVariant(HardwareMgrInterface::NoneDevice));
+    ui->cb_ad_input_name->addItem(noneText, QVariant(HardwareMgrInterface::NoneDevice));
     followComboBox();
 }
 
 void MicrophonePage::onCurrentMicChanged()
 {
+    const QString id = m_microphone.getCurrentDevice();
     ignoreComboBox();
-    selectComboData(ui->cb_ad_input_name, m_microphone.getCurrentDevice());
+    selectComboData(ui->cb_ad_input_name, id);
     followComboBox();
     refreshWorkState();
     ui->stackedWidget->setCurrentWidget(m_microphone ? ui->micPage : ui->noMicPage);

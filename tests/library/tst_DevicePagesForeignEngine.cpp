@@ -228,6 +228,8 @@ private Q_SLOTS:
     void sameSpeakerTwice();
     void newsComeTwice_data() { addPages(); }
     void newsComeTwice();
+    void newsComeInsideCalls_data() { addPages(); }
+    void newsComeInsideCalls();
     void newsComeAfterHiding_data() { addPages(); }
     void newsComeAfterHiding();
 
@@ -381,6 +383,36 @@ void tst_DevicePagesForeignEngine::newsComeTwice()
     QCOMPARE(s_devices.chosen, QStringList());
     m_combo->setCurrentIndex(0);
     QCOMPARE(s_devices.chosen, QStringList{"a"});
+}
+
+// Whichever call they come from, filling the list and following the choice never choose, and the
+// user chooses once.
+void tst_DevicePagesForeignEngine::newsComeInsideCalls()
+{
+    constexpr int MostCalls = 20;
+    makePage();
+    s_devices.list.push_back({"c", "Three"});
+    const auto check = [this](int call, const QStringList& chosen, int index) {
+        s_devices.callsUntilNews = 0;
+        const QByteArray where = "inside of call " + QByteArray::number(call);
+        QVERIFY2(entries(*m_combo) == expectedEntries(), where);
+        QVERIFY2(s_devices.chosen == chosen, where);
+        QVERIFY2(m_combo->currentIndex() == index, where);
+    };
+    for (int call = 1; call <= MostCalls; ++call) {
+        s_devices.chosen.clear();
+        s_devices.current = QStringLiteral("c");
+        s_devices.callsUntilNews = call;
+        s_devices.tellNews();
+        check(call, {}, 2);
+        s_devices.callsUntilNews = call;
+        m_combo->setCurrentIndex(1);
+        check(call, {"b"}, 1);
+        s_devices.callsUntilNews = call;
+        m_page->hide();
+        m_page->show();
+        check(call, {"b"}, 1);
+    }
 }
 
 void tst_DevicePagesForeignEngine::newsComeAfterHiding()
