@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "pages/HeadsetPage.h"
 #include "tests/devices/DeviceDialog.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/support/GapMeter.h"
@@ -7,6 +8,8 @@
 #include "tests/support/PlugStorm.h"
 #include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
+
+#include <LumMedia/AudioPlayer.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -68,6 +71,8 @@ private Q_SLOTS:
     void survivesTheServersDeath();
     void followsDevicesInMidSound();
     void survivesAStormOfPlugs();
+    void pageLeavesNoSoundBehind();
+    void speakerLeavesNoPlayerBehind();
 
 private:
     using Script = std::function<void()>;
@@ -84,6 +89,7 @@ private:
     void keepFrame(const char* state) const;
     QString language() const;
     QByteArray volumeOf(const char* speakerId);
+    QByteArray sounds() { return m_server->control({id("list"), id("short"), id("sink-inputs")}); }
     void meter(const char* fault, const Script& action);
 
     std::unique_ptr<SoundServer> m_server;
@@ -469,6 +475,31 @@ void tst_SpeakerDialog::meter(const char* fault, const Script& action)
     const qint64 gap = gaps.longestMs();
     qInfo("| %s | longest gap %lld ms |", fault, gap);
     m_worstGapMs = std::max(m_worstGapMs, gap);
+}
+
+// Destroyed in mid-sound without having been hidden: the page doesn't end the sound.
+void tst_SpeakerDialog::pageLeavesNoSoundBehind()
+{
+    auto page = std::make_unique<HeadsetPage>();
+    page->show();
+    const auto* const combo = page->findChild<QComboBox*>("cb_ad_output_name");
+    QTRY_COMPARE_WITH_TIMEOUT(combo->currentData().toString(), id("speaker_a"), LongMs);
+    QTest::mouseClick(page->findChild<QPushButton*>("tb_play_test_sound"), Qt::LeftButton);
+    QTRY_VERIFY(!sounds().isEmpty());
+    page.reset();
+    QTRY_COMPARE(sounds(), QByteArray());
+}
+
+void tst_SpeakerDialog::speakerLeavesNoPlayerBehind()
+{
+    auto speaker = std::make_unique<LumSpeaker>();
+    QTRY_COMPARE_WITH_TIMEOUT(speaker->getCurrentDevice(), id("speaker_a"), LongMs);
+    const QPointer<AudioPlayer> player = CreateAudioPlayer(
+        AudioPlayerType(3), soundPath(id("Saxophone.mp3")), 1.0F, nullptr, 0, false, false);
+    QTRY_VERIFY(!sounds().isEmpty());
+    speaker.reset();
+    QVERIFY(!player);
+    QTRY_COMPARE(sounds(), QByteArray());
 }
 
 QTEST_MAIN(tst_SpeakerDialog)
