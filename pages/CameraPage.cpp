@@ -43,8 +43,10 @@ CameraPage::CameraPage(QWidget* parent)
     m_camera.setOutputSize(ui->f_video_player->size());
 }
 
+// The camera outlives the form, and may still tell news when it is closed.
 CameraPage::~CameraPage()
 {
+    m_camera.disconnect(this);
     m_disabledTip.reset();
     ui.reset();
 }

@@ -85,8 +85,10 @@ MicrophonePage::MicrophonePage(QWidget* parent)
     connect(ui->Btn_Record, &QPushButton::clicked, this, &MicrophonePage::on_recordButton_clicked);
 }
 
+// The microphone outlives the form, and may still tell news when it is closed.
 MicrophonePage::~MicrophonePage()
 {
+    m_microphone.disconnect(this);
     m_disabledTip.reset();
     m_noisyTip.reset();
     m_recorder.reset();
