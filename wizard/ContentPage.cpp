@@ -12,8 +12,6 @@
 
 #include <QCloseEvent>
 #include <QDebug>
-#include <QDialog>
-#include <QPointer>
 
 namespace {
 
@@ -172,39 +170,44 @@ void ContentPage::connectSteps()
 
 void ContentPage::forceClose()
 {
-    if (m_forceClose) {
-        return;
-    }
     m_forceClose = true;
-    // Qt ignores close() while a close is under way, as it is while the question is open. Then the
-    // question has to go; the close that asked it goes on as a forced one.
     const QPointer<ContentPage> self(this);
-    const QList<QDialog*> questions = findChildren<QDialog*>();
-    for (QDialog* question : questions) {
-        question->reject();
+    if (m_openQuestions > 0) {
+        // The engine's question may stand on the stack below the frame: the frame outlives it.
+        setAttribute(Qt::WA_DeleteOnClose, false);
     }
-    close();
+    const bool isVetoed = !close();
+    // Qt ignores close() while a close is under way, as it is while that close asks its question.
+    if (self && !isVetoed && !isHidden()) {
+        leaveShownPage();
+        if (self) {
+            hide();
+        }
+    }
+    if (self && m_openQuestions > 0) {
+        closeQuestionWindows();
+    }
     if (self) {
+        m_isGone = !isVetoed;
         Q_EMIT closeDialog();
     }
 }
 
 bool ContentPage::mayClose(const QString& managerName)
 {
+    // Every call of the engine may end the session, and whoever hears of that may delete the frame.
+    const QPointer<ContentPage> self(this);
     HardwareMgr hardwareMgr(managerName);
-    if (!m_forceClose) {
-        if (ui->networkPage->isTested() && ui->cameraPage->isTested() &&
-            ui->headsetPage->isTested() && ui->microphonePage->isTested()) {
+    if (self && !m_forceClose) {
+        if (isEveryPageTested()) {
             LumSettings::instance(QString())->setSetting(QStringLiteral("ShowSystemCheck"),
                                                          QVariant(false));
-            hardwareMgr.postHardwardInfoToServer(ReportAllAnswered);
-        } else {
-            const QPointer<ContentPage> self(this);
-            const bool isConfirmed = confirmEarlyClose();
-            if (!self) {
-                return true;
+            if (self && !m_forceClose) {
+                hardwareMgr.postHardwardInfoToServer(ReportAllAnswered);
             }
-            if (!m_forceClose) {
+        } else {
+            const bool isConfirmed = confirmEarlyClose();
+            if (self && !m_forceClose) {
                 if (!isConfirmed) {
                     return false;
                 }
@@ -212,19 +215,83 @@ bool ContentPage::mayClose(const QString& managerName)
             }
         }
     }
-    if (ui->checkArea->currentWidget() == ui->checkPage) {
-        ui->stackedWidget->currentWidget()->hide();
+    if (self) {
+        leaveShownPage();
     }
     return true;
 }
 
+bool ContentPage::isEveryPageTested() const
+{
+    return ui->networkPage->isTested() && ui->cameraPage->isTested() &&
+           ui->headsetPage->isTested() && ui->microphonePage->isTested();
+}
+
+void ContentPage::leaveShownPage()
+{
+    if (ui->checkArea->currentWidget() == ui->checkPage) {
+        ui->stackedWidget->currentWidget()->hide();
+    }
+}
+
 bool ContentPage::confirmEarlyClose()
 {
+    const QPointer<ContentPage> self(this);
     const QString title = LumUtils::getMessageBoxTitle(QMessageBox::Question);
     const QString text = qtTrId("ID_ContentPage_NotFinishedIfLeave");
     qInfo().noquote() << title << text;
+    if (!self || m_forceClose) {
+        return false;
+    }
+    if (m_openQuestions == 0) {
+        m_windowsBefore = windowsBelow();
+    }
+    ++m_openQuestions;
     const QMessageBox::StandardButton answer = LumMessageBox::question(
         this, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    if (self) {
+        questionAnswered();
+    }
     qInfo() << answer;
     return answer == QMessageBox::Yes;
+}
+
+void ContentPage::questionAnswered()
+{
+    --m_openQuestions;
+    if (m_openQuestions > 0 || !m_forceClose) {
+        return;
+    }
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (m_isGone) {
+        // For a host that asked first: closing would do it now. Queued, so that the deletion
+        // belongs to the event loop that runs next, wherever the host asked.
+        QMetaObject::invokeMethod(this, &QObject::deleteLater, Qt::QueuedConnection);
+    }
+}
+
+QVector<QPointer<QWidget>> ContentPage::windowsBelow() const
+{
+    QVector<QPointer<QWidget>> windows;
+    const QList<QWidget*> all = window()->findChildren<QWidget*>();
+    for (QWidget* widget : all) {
+        if (widget->isWindow() && widget->isVisible()) {
+            windows.append(widget);
+        }
+    }
+    return windows;
+}
+
+void ContentPage::closeQuestionWindows()
+{
+    const QVector<QPointer<QWidget>> before = m_windowsBefore;
+    const QVector<QPointer<QWidget>> windows = windowsBelow();
+    for (const QPointer<QWidget>& window : windows) {
+        if (window && !before.contains(window)) {
+            window->close();
+            if (window) {
+                window->hide(); // a box without a way to say no doesn't close
+            }
+        }
+    }
 }

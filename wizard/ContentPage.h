@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointer>
+#include <QVector>
 #include <QWidget>
 #include <memory>
 
@@ -27,11 +29,12 @@ public:
     void showResult();
     void onResultDone();
 
-    // The rule of closing for a host that asks first: reports and asks as closing does.
+    // The rule of closing for a host that asks first: reports and asks as closing does. If the
+    // engine ends the session meanwhile, the answer is yes, and the frame closes without the host.
     bool canClose();
 
 Q_SIGNALS:
-    void closeDialog(); // after the frame closed itself because the engine ended the session
+    void closeDialog(); // the frame has closed itself because the engine ended the session
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -41,9 +44,17 @@ private:
     void connectSteps();
     void forceClose();
     bool mayClose(const QString& managerName);
+    bool isEveryPageTested() const;
+    void leaveShownPage();
     bool confirmEarlyClose();
+    void questionAnswered();
+    QVector<QPointer<QWidget>> windowsBelow() const; // those that are visible
+    void closeQuestionWindows();
 
     bool m_forceClose = false;
     QPoint m_anchorPos;
     std::unique_ptr<Ui::ContentPage> ui;
+    int m_openQuestions = 0;
+    bool m_isGone = false;                      // closed by an event of the engine
+    QVector<QPointer<QWidget>> m_windowsBefore; // what windowsBelow() gave before the question
 };

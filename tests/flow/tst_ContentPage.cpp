@@ -8,6 +8,7 @@
 #include "wizard/ClickColorLabel.h"
 #include "wizard/ContentPage.h"
 
+#include <CoreEngine/CoreEngine.h>
 #include <LumUtility/LumSettings.h>
 
 #include <QFrame>
@@ -33,6 +34,17 @@ const QString OtherStyle = "QLabel{background:#FFFFFF;border-radius:4px;padding-
 const char* const PageNames[] = {"networkPage", "cameraPage", "headsetPage", "microphonePage"};
 const char* const LabelNames[] = {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck",
                                   "label_MicCheck"};
+
+// A host that lets no close through.
+class Veto : public QObject
+{
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        event->setAccepted(event->type() != QEvent::Close);
+        return event->type() == QEvent::Close;
+    }
+};
 
 // Notes when the labels change their colour, and when results reach the engine, in one order.
 class OrderOfMarks : public QObject
@@ -129,6 +141,7 @@ private Q_SLOTS:
     void breakdownWinsOverCanClose();
     void breakdownTwiceInARow();
     void breakdownWhileClosing();
+    void breakdownAfterAVeto();
     void frameDestroyedDuringTheQuestion();
 
 private:
@@ -657,13 +670,18 @@ void tst_ContentPage::breakdownWinsOverTheQuestion()
     QFETCH(bool, isKickout);
     QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
+    bool wasClosedFirst = false;
+    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
+        wasClosedFirst =
+            frame->isHidden() && shown->isHidden() && !QApplication::activeModalWidget();
+    });
     QuestionAnswerer question([this, isKickout](QMessageBox*) {
         isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
     });
     m_frame->close();
     QCOMPARE(question.count(), 1);
-    QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(!m_frame || !m_frame->isVisible());
+    QVERIFY(wasClosedFirst);
     QCOMPARE(closeDialog.count(), 1);
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
     QCOMPARE(postedCodes(), QVector<int>());
@@ -692,18 +710,39 @@ void tst_ContentPage::breakdownTwiceInARow()
     });
     m_frame->close();
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(closeDialog.count(), 1);
+    QCOMPARE(closeDialog.count(), 2);
     QCOMPARE(postedCodes(), QVector<int>());
 }
 
 void tst_ContentPage::breakdownWhileClosing()
 {
     answerAll(true);
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);
     m_frame->close();
-    m_engine->facts().breakDown();
+    Q_EMIT LumEngine::CoreEngine::instance()->signalBasicBreakdown();
+    QCOMPARE(closeDialog.count(), 1);
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
     QCOMPARE(postedCodes(), QVector<int>({3}));
+}
+
+void tst_ContentPage::breakdownAfterAVeto()
+{
+    Veto veto;
+    m_frame->installEventFilter(&veto);
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    QuestionAnswerer question(QMessageBox::No);
+    m_engine->facts().breakDown();
+    QTRY_COMPARE(closeDialog.count(), 1);
+    QVERIFY(m_frame->isVisible());
+
+    m_frame->removeEventFilter(&veto);
+    m_engine->facts().kickOut();
+    QTRY_COMPARE(closeDialog.count(), 2);
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(question.count(), 0);
+    QCOMPARE(postedCodes(), QVector<int>());
 }
 
 void tst_ContentPage::frameDestroyedDuringTheQuestion()
