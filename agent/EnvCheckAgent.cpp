@@ -36,6 +36,14 @@ void EnvCheckAgent::showEnvCheck(QWidget* parent)
     auto* page = new ContentPage(nullptr);
     dialog.setCenterWidget(page, false);
     dialog.setTitleText(qtTrId("ID_Kestrel_SystemTesting"));
+    // First of all in the dialog's loop. If the engine ended the session before, the frame has
+    // closed already, and Qt keeps its deletion until this loop ends, which waits for that.
+    const auto deleteIfClosed = [page] {
+        if (!page->testAttribute(Qt::WA_DeleteOnClose)) {
+            delete page;
+        }
+    };
+    QMetaObject::invokeMethod(page, deleteIfClosed, Qt::QueuedConnection);
     dialog.exec();
 }
 

@@ -32,9 +32,7 @@ ICustomedTitleBar::~ICustomedTitleBar() = default;
 
 LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt::WindowFlags flags,
                                              ICustomedTitleBar* titleBar, bool /*isResizable*/)
-    : QDialog(nullptr, flags | Qt::Dialog | Qt::FramelessWindowHint),
-      m_owner(parent),
-      m_customTitleBar(titleBar)
+    : QDialog(parent, flags | Qt::Dialog | Qt::FramelessWindowHint), m_customTitleBar(titleBar)
 {
     setObjectName(QStringLiteral("LumCustomNormalDialog"));
     setStyleSheet(QStringLiteral("QDialog#LumCustomNormalDialog{background:#FFFFFF;"
@@ -45,8 +43,8 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     layout->setSizeConstraint(QLayout::SetFixedSize);
     m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
     layout->addWidget(m_titleBar);
-    if (m_owner) {
-        connect(m_owner, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
+    if (parent) {
+        connect(parent, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
     }
 }
 
@@ -92,7 +90,9 @@ bool LumCustomNormalDialog::eventFilter(QObject* watched, QEvent* event)
 int LumCustomNormalDialog::exec()
 {
     setWindowModality(Qt::ApplicationModal);
-    return QDialog::exec();
+    // What showing sets off may end the dialog before its loop begins, which would never end then.
+    show();
+    return isVisible() ? QDialog::exec() : result();
 }
 
 void LumCustomNormalDialog::reject()
@@ -122,10 +122,7 @@ void LumCustomNormalDialog::mousePressEvent(QMouseEvent* event)
 
 void LumCustomNormalDialog::showEvent(QShowEvent* event)
 {
-    if (m_owner && m_owner->window()->windowHandle() && windowHandle()) {
-        windowHandle()->setTransientParent(m_owner->window()->windowHandle());
-    }
-    moveAboveOwner();
+    moveAboveParent();
     QDialog::showEvent(event);
 }
 
@@ -155,18 +152,21 @@ QWidget* LumCustomNormalDialog::createTitleBar()
     return bar;
 }
 
-void LumCustomNormalDialog::moveAboveOwner()
+void LumCustomNormalDialog::moveAboveParent()
 {
     adjustSize();
     QRect place = geometry();
-    const QScreen* screen = m_owner ? m_owner->screen() : QGuiApplication::primaryScreen();
-    place.moveCenter(m_owner ? m_owner->window()->frameGeometry().center()
-                             : screen->availableGeometry().center());
+    const QWidget* parent = parentWidget();
+    place.moveCenter(parent ? parent->window()->frameGeometry().center()
+                            : QGuiApplication::primaryScreen()->availableGeometry().center());
     move(place.topLeft());
 }
 
 void LumCustomNormalDialog::abandon()
 {
+    // A widget that is destroyed says so before it deletes its children, and this one may stand on
+    // the stack.
+    setParent(nullptr, windowFlags());
     // A question that is open runs an event loop inside ours; that has to end first.
     const QList<QDialog*> questions = findChildren<QDialog*>();
     for (QDialog* question : questions) {

@@ -25,8 +25,8 @@ public:
 //
 // exec() ends when the centre widget closes or is destroyed. When the user closes the dialog, the
 // centre widget is asked first with close(), and the dialog stays if that refuses. The dialog is
-// shown above its parent but isn't owned by it, so that it may stand on the stack; it ends when the
-// parent is destroyed.
+// its parent's child, and may stand on the stack all the same: when the parent is destroyed, it
+// leaves the parent and ends.
 class LUMWIDGETS_EXPORT LumCustomNormalDialog : public QDialog
 {
     Q_OBJECT
@@ -57,11 +57,10 @@ protected:
 
 private:
     QWidget* createTitleBar();
-    void moveAboveOwner();
+    void moveAboveParent();
     void abandon();
     bool askCenterToClose(); // false where it refused
 
-    QPointer<QWidget> m_owner;
     QPointer<QWidget> m_center;
     std::unique_ptr<ICustomedTitleBar> m_customTitleBar;
     QWidget* m_titleBar = nullptr;

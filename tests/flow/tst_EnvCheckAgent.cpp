@@ -7,8 +7,10 @@
 #include "tests/support/ProcessResources.h"
 #include "tests/support/QuestionAnswerer.h"
 
+#include <CoreEngine/CoreEngine.h>
 #include <LumWidgets/LumCustomNormalDialog.h>
 
+#include <QLabel>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -69,6 +71,8 @@ private Q_SLOTS:
     void showKestrelAsksForTheMainWindow();
     void dialogWithoutParent();
     void dialogAboveItsParent();
+    void dialogIsTheParentsChild();
+    void lastWindowIsTheParent();
     void closingEmitsNothing();
     void everyCallStartsAfresh();
     void userClosesThroughTheFrame_data();
@@ -80,6 +84,8 @@ private Q_SLOTS:
     void ownerDeletedDuringTheQuestion();
     void applicationQuitsDuringTheQuestion();
     void breakdownDuringTheQuestionEndsTheDialog();
+    void breakdownBeforeTheDialogRuns_data();
+    void breakdownBeforeTheDialogRuns();
     void hundredOpeningsLeaveNothingBehind();
 
 private:
@@ -175,6 +181,43 @@ void tst_EnvCheckAgent::dialogAboveItsParent()
     EnvCheckAgent::instance()->showEnvCheck(&parent);
     QVERIFY(run.wasRun());
     QVERIFY(parent.isVisible());
+}
+
+void tst_EnvCheckAgent::dialogIsTheParentsChild()
+{
+    QWidget parent;
+    parent.setStyleSheet("QLabel#titleLabel{margin-left:37px;}");
+    parent.show();
+    const QMargins margins(37, 0, 0, 0);
+    DialogRun run([&](LumCustomNormalDialog* dialog) {
+        QCOMPARE(dialog->parentWidget(), &parent);
+        QVERIFY(dialog->isWindow());
+        auto* title = dialog->findChild<QLabel*>("titleLabel");
+        QCOMPARE(title->contentsRect(), title->rect().marginsRemoved(margins));
+        kickOut();
+    });
+    EnvCheckAgent::instance()->showEnvCheck(&parent);
+    QVERIFY(run.wasRun());
+    QVERIFY(parent.children().isEmpty());
+}
+
+void tst_EnvCheckAgent::lastWindowIsTheParent()
+{
+    QWidget parent;
+    parent.show();
+    QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
+    DialogRun run([&](LumCustomNormalDialog*) {
+        parent.close();
+        QCOMPARE(lastWindowClosed.count(), 1);
+        kickOut();
+    });
+    // Only an application that runs tells of its last window.
+    QTimer::singleShot(0, &parent, [&parent] {
+        EnvCheckAgent::instance()->showEnvCheck(&parent);
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    QVERIFY(run.wasRun());
 }
 
 void tst_EnvCheckAgent::closingEmitsNothing()
@@ -282,7 +325,15 @@ void tst_EnvCheckAgent::ownerDeletedInsideTheDialog()
 {
     auto* owner = new QWidget;
     owner->show();
-    DialogRun run([owner](LumCustomNormalDialog*) { delete owner; });
+    DialogRun run([owner](LumCustomNormalDialog* dialog) {
+        const Qt::WindowFlags flags = dialog->windowFlags();
+        const QPointer<LumCustomNormalDialog> guard(dialog);
+        delete owner;
+        QVERIFY(guard);
+        QVERIFY(!dialog->parent());
+        QCOMPARE(dialog->windowFlags(), flags);
+        QVERIFY(dialog->isHidden());
+    });
     EnvCheckAgent::instance()->showEnvCheck(owner);
     QVERIFY(run.wasRun());
 }
@@ -315,6 +366,50 @@ void tst_EnvCheckAgent::breakdownDuringTheQuestionEndsTheDialog()
     DialogRun run([](LumCustomNormalDialog* dialog) { dialog->close(); });
     EnvCheckAgent::instance()->showEnvCheck(nullptr);
     QCOMPARE(question.count(), 1);
+    QVERIFY(m_engine->reports().posts().isEmpty());
+}
+
+void tst_EnvCheckAgent::breakdownBeforeTheDialogRuns_data()
+{
+    QTest::addColumn<QEvent::Type>("moment");
+    QTest::newRow("title set") << QEvent::WindowTitleChange;
+    QTest::newRow("shown") << QEvent::Show;
+}
+
+void tst_EnvCheckAgent::breakdownBeforeTheDialogRuns()
+{
+    // The engine may end the session from within a call, at every step of the opening.
+    class EarlyBreakdown : public QObject
+    {
+    public:
+        explicit EarlyBreakdown(QEvent::Type moment) : m_moment(moment)
+        {
+            qApp->installEventFilter(this);
+        }
+
+    protected:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == m_moment && qobject_cast<LumCustomNormalDialog*>(watched)) {
+                Q_EMIT LumEngine::CoreEngine::instance()->signalBasicBreakdown();
+            }
+            return false;
+        }
+
+    private:
+        QEvent::Type m_moment;
+    };
+    QFETCH(QEvent::Type, moment);
+    // From an event loop, as there a deletion may be kept until the dialog has ended.
+    bool hasEnded = false;
+    QTimer::singleShot(0, this, [&] {
+        const EarlyBreakdown breakdown(moment);
+        EnvCheckAgent::instance()->showEnvCheck(nullptr);
+        hasEnded = true;
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    QVERIFY(hasEnded);
     QVERIFY(m_engine->reports().posts().isEmpty());
 }
 

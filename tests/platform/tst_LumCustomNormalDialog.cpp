@@ -51,6 +51,8 @@ private Q_SLOTS:
     void centreClosingEndsIt();
     void centreDestroyedEndsIt();
     void hidingTheDialogIsNoClosing();
+    void centreGoneBeforeTheLoopEndsIt();
+    void parentDestroyedEndsIt();
     void titleIsPlainText();
     void ownTitleBar();
 };
@@ -120,6 +122,37 @@ void tst_LumCustomNormalDialog::hidingTheDialogIsNoClosing()
     dialog.show();
     QCOMPARE(finished.count(), 0);
     QVERIFY(dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::centreGoneBeforeTheLoopEndsIt()
+{
+    class FleetingCenter : public QLabel
+    {
+    protected:
+        void showEvent(QShowEvent* event) override
+        {
+            QLabel::showEvent(event);
+            close();
+        }
+    };
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(new FleetingCenter, false);
+    dialog.exec();
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_LumCustomNormalDialog::parentDestroyedEndsIt()
+{
+    auto* parent = new QWidget;
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, parent, {}, nullptr, false);
+    dialog.setCenterWidget(new Center, false);
+    const Qt::WindowFlags flags = dialog.windowFlags();
+    QCOMPARE(dialog.parent(), parent);
+    QTimer::singleShot(0, &dialog, [parent] { delete parent; });
+    dialog.exec();
+    QVERIFY(!dialog.parent());
+    QCOMPARE(dialog.windowFlags(), flags);
+    QVERIFY(!dialog.isVisible());
 }
 
 void tst_LumCustomNormalDialog::titleIsPlainText()
