@@ -112,9 +112,7 @@ void CheckResultPage::fillRow(int row, const QString& name, const CheckPage& pag
 void CheckResultPage::setCell(int row, int column, const QString& text, const QString& color,
                               Qt::Alignment alignment)
 {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setText(text);
+    auto* label = new QLabel(text);
     label->setAlignment(alignment);
     label->setStyleSheet(QStringLiteral("font-size: 12px; color: %1;").arg(color));
     ui->tableWidget->setCellWidget(row, column, label);

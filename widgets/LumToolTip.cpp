@@ -34,10 +34,6 @@ LumToolTip::LumToolTip(const QString& text, bool wordWrap, QWidget* parent, Qt::
         setAttribute(Qt::WA_TranslucentBackground);
         m_layout.setContentsMargins(PopupMargins);
     }
-    QFont labelFont = m_label.font();
-    labelFont.setPixelSize(FontPixelSize);
-    m_label.setFont(labelFont);
-    m_label.setTextFormat(Qt::PlainText);
     m_layout.addWidget(&m_label);
     m_label.setWordWrap(wordWrap);
     m_label.adjustSize();

@@ -135,7 +135,6 @@ QWidget* LumCustomNormalDialog::createTitleBar()
     bar->setStyleSheet(QLatin1String(TitleBarStyle));
     m_titleLabel = new QLabel(bar);
     m_titleLabel->setObjectName(QStringLiteral("titleLabel"));
-    m_titleLabel->setTextFormat(Qt::PlainText);
     m_closeButton = new QToolButton(bar);
     m_closeButton->setObjectName(QStringLiteral("closeButton"));
     m_closeButton->setText(QString(QChar(0x2715)));

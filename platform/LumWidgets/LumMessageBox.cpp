@@ -32,7 +32,6 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
     for (QAbstractButton* button : all) {
         button->setStyleSheet(ButtonStyle);
     }
-    box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(defaultButton);
     box->exec();
     if (!box) {

@@ -10,7 +10,7 @@ class LUMWIDGETS_EXPORT LumMessageBox
 {
 public:
     // The button that was pressed; NoButton where the box went away without one, as when its parent
-    // was destroyed. The text is shown as plain text.
+    // was destroyed. The text is one of the client's own, so markup in it counts.
     static QMessageBox::StandardButton question(QWidget* parent, const QString& title,
                                                 const QString& text,
                                                 QMessageBox::StandardButtons buttons,

@@ -46,7 +46,8 @@ private Q_SLOTS:
     void withParentItIsAPlainChild();
     void labelLook_data();
     void labelLook();
-    void markupStaysLiteral();
+    void labelHasNoFontOfItsOwn();
+    void textIsShownAsQtShowsIt();
     void arrowPlace_data();
     void arrowPlace();
     void balloonIsRoundAndSlightlyTransparent();
@@ -104,14 +105,21 @@ void tst_LumToolTip::labelLook()
     QVERIFY(balloon.height() >= label->sizeHint().height() + 3 + 8);
 }
 
-void tst_LumToolTip::markupStaysLiteral()
+void tst_LumToolTip::labelHasNoFontOfItsOwn()
 {
-    const QString text = "<b>bold</b> &amp; <img src=\":/Kestrel/Images/back.png\">";
+    const LumToolTip balloon("text", false, nullptr, Qt::AlignLeft, false, Fill);
+    QVERIFY(!labelOf(balloon)->testAttribute(Qt::WA_SetFont));
+    QCOMPARE(labelOf(balloon)->font().key(), QApplication::font("QLabel").key());
+}
+
+void tst_LumToolTip::textIsShownAsQtShowsIt()
+{
+    const QString text = "<b>bold</b>";
     const LumToolTip balloon(text, false, nullptr, Qt::AlignLeft, false, Fill);
-    QCOMPARE(labelOf(balloon)->textFormat(), Qt::PlainText);
-    const int literalWidth = labelOf(balloon)->fontMetrics().horizontalAdvance(text);
-    QVERIFY(balloon.width() >= literalWidth);
-    QVERIFY(balloon.height() < 60); // the picture is 580 pixels high
+    QCOMPARE(balloon.text(), text);
+    QCOMPARE(labelOf(balloon)->textFormat(), Qt::AutoText);
+    QVERIFY(labelOf(balloon)->sizeHint().width() <
+            labelOf(balloon)->fontMetrics().horizontalAdvance(text));
 }
 
 void tst_LumToolTip::arrowPlace_data()

@@ -53,7 +53,7 @@ private Q_SLOTS:
     void hidingTheDialogIsNoClosing();
     void centreGoneBeforeTheLoopEndsIt();
     void parentDestroyedEndsIt();
-    void titleIsPlainText();
+    void titleIsShownAsQtShowsIt();
     void ownTitleBar();
 };
 
@@ -155,14 +155,14 @@ void tst_LumCustomNormalDialog::parentDestroyedEndsIt()
     QVERIFY(!dialog.isVisible());
 }
 
-void tst_LumCustomNormalDialog::titleIsPlainText()
+void tst_LumCustomNormalDialog::titleIsShownAsQtShowsIt()
 {
     LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
     dialog.setTitleText("<b>bold</b>");
     QCOMPARE(dialog.windowTitle(), QString("<b>bold</b>"));
     auto* title = dialog.findChild<QLabel*>("titleLabel");
     QCOMPARE(title->text(), QString("<b>bold</b>"));
-    QCOMPARE(title->textFormat(), Qt::PlainText);
+    QCOMPARE(title->textFormat(), Qt::AutoText);
 }
 
 void tst_LumCustomNormalDialog::ownTitleBar()
