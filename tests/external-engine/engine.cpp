@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "Journal.h"
+#include "QuestionBox.h"
 
 #include <CommEngine/HardwareMgr.h>
 #include <CommEngine/HardwareMgrInterface.h>
@@ -160,12 +161,20 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type type, QWidget* parent, Qt::Win
                        .arg(titleBar ? "dressed" : "plain")
                        .arg(last));
     new QVBoxLayout(this);
+    if (parent) {
+        // This dialog stands on the stack: it leaves a parent that is about to delete its children.
+        connect(parent, &QObject::destroyed, this, [this] {
+            setParent(nullptr, windowFlags());
+            done(Rejected);
+        });
+    }
 }
 
 void LumCustomNormalDialog::setCenterWidget(QWidget* widget, bool last)
 {
     note("centre", widget->objectName() + QStringLiteral(" %1").arg(last));
     layout()->addWidget(widget);
+    m_center = widget;
     connect(widget, &QObject::destroyed, this, &QDialog::accept);
 }
 
@@ -181,10 +190,21 @@ int LumCustomNormalDialog::exec()
     return QDialog::exec();
 }
 
-QMessageBox::StandardButton LumMessageBox::question(QWidget*, const QString&, const QString& text,
+void LumCustomNormalDialog::reject()
+{
+    if (m_center && !m_center->isHidden()) {
+        m_center->close();
+    }
+    if (!m_center || m_center->isHidden()) {
+        QDialog::reject();
+    }
+}
+
+QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QString&,
+                                                    const QString& text,
                                                     QMessageBox::StandardButtons,
-                                                    QMessageBox::StandardButton defaultButton)
+                                                    QMessageBox::StandardButton)
 {
     note("question", text);
-    return defaultButton;
+    return QuestionBox::instance().ask(parent);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 
 class ICustomedTitleBar;
 
@@ -17,4 +18,8 @@ public:
     void setCenterWidget(QWidget* widget, bool);
     void setTitleText(const QString& text);
     int exec() override;
+    void reject() override;
+
+private:
+    QPointer<QWidget> m_center;
 };
