@@ -8,6 +8,15 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/SpeakerSession.h"
 
+namespace {
+
+QString shownName(const QString& name)
+{
+    return LumSpeaker::isNoneDeviceText(name) ? name + QStringLiteral(" (2)") : name;
+}
+
+} // namespace
+
 class LumSpeaker::Bridge final : public Platform::SpeakerBackend::Listener
 {
 public:
@@ -42,7 +51,7 @@ std::vector<std::pair<QString, QString>> LumSpeaker::getDeviceList(bool /*withVi
 {
     std::vector<std::pair<QString, QString>> result;
     for (const Platform::DeviceInfo& device : Platform::EngineRegistry::engine().speakers()) {
-        result.emplace_back(device.id, device.name);
+        result.emplace_back(device.id, shownName(device.name));
     }
     return result;
 }
@@ -50,6 +59,11 @@ std::vector<std::pair<QString, QString>> LumSpeaker::getDeviceList(bool /*withVi
 QString LumSpeaker::getNoneDeviceText(bool listIsEmpty)
 {
     return listIsEmpty ? qtTrId("ID_Engine_NoSpeaker") : qtTrId("ID_Engine_NoSpeakerSelected");
+}
+
+bool LumSpeaker::isNoneDeviceText(const QString& name)
+{
+    return name == getNoneDeviceText(true) || name == getNoneDeviceText(false);
 }
 
 QString LumSpeaker::getCurrentDevice() const
@@ -64,7 +78,7 @@ void LumSpeaker::setCurrentDevice(const QString& id)
 
 QString LumSpeaker::getDeviceName() const
 {
-    return m_bridge->backend().currentName();
+    return shownName(m_bridge->backend().currentName());
 }
 
 int LumSpeaker::getVolume() const

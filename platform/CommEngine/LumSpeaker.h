@@ -24,6 +24,8 @@ public:
     // here.
     static std::vector<std::pair<QString, QString>> getDeviceList(bool withVirtual);
     static QString getNoneDeviceText(bool listIsEmpty);
+    // No speaker is shown under such a name, so that a recorded name tells whether there was one.
+    static bool isNoneDeviceText(const QString& name);
 
     QString getCurrentDevice() const;
     void setCurrentDevice(const QString& id);
