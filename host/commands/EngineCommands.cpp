@@ -7,10 +7,10 @@
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
-#include "host/NetworkLimits.h"
 #include "host/Options.h"
 #include "host/report/NetworkGrade.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/NetworkLimits.h"
 #ifdef ENVCHECK_WITH_DEVICES
 #include "platform/devices/network/StunResponder.h"
 #endif
@@ -47,7 +47,8 @@ public:
 
     bool hasPassed() const
     {
-        return m_printed > 0 && NetworkLimits::arePassed(m_last.delayMs, m_last.lossPercent);
+        return m_printed > 0 &&
+               Platform::NetworkLimits::arePassed(m_last.delayMs, m_last.lossPercent);
     }
 
 private:

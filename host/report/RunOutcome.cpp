@@ -3,39 +3,61 @@
 #include "host/report/RunOutcome.h"
 
 #include "host/Console.h"
-#include "host/NetworkLimits.h"
+#include "platform/backend/NetworkLimits.h"
+#include "platform/backend/ResultCodes.h"
+
+#include <CommEngine/LumSpeaker.h>
 
 #include <QJsonArray>
 #include <QTextStream>
 #include <algorithm>
+#include <optional>
 
 namespace {
 
-constexpr int AnsweredYes = 1;
-constexpr int AnsweredNothing = 0;
-constexpr int DeviceWorks = 1;
-constexpr int ReportAllAnswered = 3;
+using Platform::AnswerCode;
+using Platform::ReportCode;
+using Platform::StateCode;
+namespace NetworkLimits = Platform::NetworkLimits;
 
-int leadingNumber(const QString& text, int fallback)
+const QLatin1String DelayUnit("ms");
+const QLatin1String LossUnit("%");
+
+// The number before the unit; nothing in a text that is none, such as "N/A".
+std::optional<int> numberIn(const QString& text, QLatin1String unit)
 {
-    int digits = 0;
-    while (digits < text.size() && text.at(digits).isDigit()) {
-        ++digits;
-    }
-    return digits > 0 ? text.leftRef(digits).toInt() : fallback;
+    bool isNumber = false;
+    const int number = text.endsWith(unit) ? text.chopped(unit.size()).toInt(&isNumber) : 0;
+    return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
-CheckOutcome networkOutcome(const QJsonObject& values)
+// The step of the network is over once another one has recorded anything.
+bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
+{
+    // A camera is measured from when its step is left, and only then.
+    return results.contains(QLatin1String("camera")) ||
+           results.contains(QLatin1String("speaker")) ||
+           results.contains(QLatin1String("microphone")) ||
+           measurements.contains(QLatin1String("camera"));
+}
+
+// The page writes its two texts whenever it compares its two figures, so that the last texts give
+// the verdict that it has now. Before the first figures it counts as failed, once it was left.
+CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
 {
     CheckOutcome check{QStringLiteral("network"), qtTrId("ID_CheckResultPage_System"),
                        CheckOutcome::Verdict::NotTested, QString()};
     const QString delay = values.value(QLatin1String("delay")).toString();
     const QString loss = values.value(QLatin1String("loss")).toString();
     if (!delay.isEmpty()) {
-        const bool isGood = NetworkLimits::arePassed(
-            leadingNumber(delay, -1), leadingNumber(loss, NetworkLimits::WorstLossPercent + 1));
+        const std::optional<int> delayMs = numberIn(delay, DelayUnit);
+        const std::optional<int> lossPercent = numberIn(loss, LossUnit);
+        const bool isGood =
+            delayMs && lossPercent && NetworkLimits::arePassed(*delayMs, *lossPercent);
         check.verdict = isGood ? CheckOutcome::Verdict::Passed : CheckOutcome::Verdict::Failed;
         check.device = delay + QLatin1String(", ") + loss;
+    } else if (wasLeft) {
+        check.verdict = CheckOutcome::Verdict::Failed;
     }
     return check;
 }
@@ -44,11 +66,24 @@ CheckOutcome deviceOutcome(const QString& key, const QString& name, const QJsonO
 {
     CheckOutcome check{key, name, CheckOutcome::Verdict::NotTested,
                        values.value(QLatin1String("device")).toString()};
-    const int answer = values.value(QLatin1String("userState")).toInt(AnsweredNothing);
-    if (answer != AnsweredNothing) {
-        const bool isGood = answer == AnsweredYes &&
-                            values.value(QLatin1String("deviceState")).toInt() == DeviceWorks;
+    const auto answer = static_cast<AnswerCode>(values.value(QLatin1String("userState")).toInt());
+    const auto state = static_cast<StateCode>(values.value(QLatin1String("deviceState")).toInt());
+    if (answer != AnswerCode::None) {
+        const bool isGood = answer == AnswerCode::Yes && state == StateCode::Works;
         check.verdict = isGood ? CheckOutcome::Verdict::Passed : CheckOutcome::Verdict::Failed;
+    }
+    return check;
+}
+
+// A camera or a microphone that works is there. Of the speaker the state only says that the right
+// sound was picked; that it has gone since then shows in the name alone.
+CheckOutcome speakerOutcome(const QJsonObject& values)
+{
+    CheckOutcome check =
+        deviceOutcome(QStringLiteral("speaker"), qtTrId("ID_CheckResultPage_Headphone"), values);
+    if (check.verdict == CheckOutcome::Verdict::Passed &&
+        LumSpeaker::isNoneDeviceText(check.device)) {
+        check.verdict = CheckOutcome::Verdict::Failed;
     }
     return check;
 }
@@ -75,18 +110,18 @@ RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
         return results.value(QLatin1String(check)).toObject();
     };
     RunOutcome outcome;
+    const QJsonObject measurements = document.value(QLatin1String("measurements")).toObject();
     outcome.checks = {
-        networkOutcome(values("network")),
+        networkOutcome(values("network"), wasNetworkLeft(results, measurements)),
         deviceOutcome(QStringLiteral("camera"), qtTrId("ID_Camera_Check"), values("camera")),
-        deviceOutcome(QStringLiteral("speaker"), qtTrId("ID_CheckResultPage_Headphone"),
-                      values("speaker")),
+        speakerOutcome(values("speaker")),
         deviceOutcome(QStringLiteral("microphone"), qtTrId("ID_Microphone_Check"),
                       values("microphone")),
     };
     const QJsonArray codes = document.value(QLatin1String("codes")).toArray();
     if (wasPutOut) {
         outcome.exitCode = ExitCode::PutOut;
-    } else if (!codes.contains(ReportAllAnswered)) {
+    } else if (!codes.contains(static_cast<int>(ReportCode::AllAnswered))) {
         outcome.exitCode = ExitCode::LeftEarly;
     } else {
         const bool areAllPassed =

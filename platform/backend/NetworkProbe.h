@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ClassroomBackend/ClassroomBackendExport.h"
+#include "platform/backend/NetworkLimits.h"
 
 #include <QJsonObject>
 
@@ -11,13 +12,13 @@ namespace Platform {
 // What a probe measured over its window.
 struct NetworkFigures
 {
-    int lossPercent = 0; // of the probes whose deadline has passed
-    int delayMs = -1;    // median round trip; -1 while none came back
-    int jitterMs = 0;    // interarrival jitter, RFC 3550 section 6.4.1
+    int lossPercent = 0;                      // of the probes whose deadline has passed
+    int delayMs = NetworkLimits::NotMeasured; // median round trip
+    int jitterMs = 0;                         // interarrival jitter, RFC 3550 section 6.4.1
     int sent = 0;
     int answered = 0;
-    int delay5Ms = -1; // 5th and 95th percentile of the round trips
-    int delay95Ms = -1;
+    int delay5Ms = NetworkLimits::NotMeasured; // 5th and 95th percentile of the round trips
+    int delay95Ms = NetworkLimits::NotMeasured;
 };
 
 // As they are recorded.

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
-#include "host/NetworkLimits.h"
 #include "host/report/NetworkGrade.h"
+#include "platform/backend/NetworkLimits.h"
 
 #include <QtTest>
 
@@ -81,7 +81,7 @@ void tst_NetworkGrade::fixedLimits()
 {
     QFETCH(int, delay);
     QFETCH(int, loss);
-    QTEST(NetworkLimits::arePassed(delay, loss), "isPassed");
+    QTEST(Platform::NetworkLimits::arePassed(delay, loss), "isPassed");
 }
 
 QTEST_GUILESS_MAIN(tst_NetworkGrade)
