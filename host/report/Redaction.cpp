@@ -79,7 +79,13 @@ QJsonValue Redaction::replacedValue(const QJsonValue& value) const
 void Redaction::redactCheck(ReportCheck& check) const
 {
     check.device = replaced(check.device);
-    for (Measurement& measurement : check.measurements) {
+    redactMeasurements(check.measurements);
+    redactMeasurements(check.later);
+}
+
+void Redaction::redactMeasurements(std::vector<Measurement>& measurements) const
+{
+    for (Measurement& measurement : measurements) {
         const bool isPlain = measurement.key == QLatin1String("soundPlayed");
         if (!isPlain) {
             measurement.value = replacedValue(measurement.value);

@@ -20,6 +20,7 @@ private:
     QString replaced(const QString& text) const;
     QJsonValue replacedValue(const QJsonValue& value) const;
     void redactCheck(ReportCheck& check) const;
+    void redactMeasurements(std::vector<Measurement>& measurements) const;
 
     Options::Redaction m_level;
     QByteArray m_key;

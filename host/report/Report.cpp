@@ -172,13 +172,18 @@ Measurement readMeasurement(Fields& fields)
 
 QJsonObject checkToJson(const ReportCheck& check)
 {
-    return {{QStringLiteral("check"), check.key},
-            {QStringLiteral("verdict"), check.verdict},
-            {QStringLiteral("answer"), check.answer},
-            {QStringLiteral("deviceState"), check.deviceState},
-            {QStringLiteral("device"), check.device},
-            {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
-            {QStringLiteral("contradictions"), QJsonArray::fromStringList(check.contradictions)}};
+    QJsonObject object{
+        {QStringLiteral("check"), check.key},
+        {QStringLiteral("verdict"), check.verdict},
+        {QStringLiteral("answer"), check.answer},
+        {QStringLiteral("deviceState"), check.deviceState},
+        {QStringLiteral("device"), check.device},
+        {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
+        {QStringLiteral("contradictions"), QJsonArray::fromStringList(check.contradictions)}};
+    if (!check.later.empty()) {
+        object.insert(QStringLiteral("later"), toArray(check.later, measurementToJson));
+    }
+    return object;
 }
 
 ReportCheck readCheck(Fields& fields)
@@ -190,6 +195,9 @@ ReportCheck readCheck(Fields& fields)
     check.deviceState = fields.oneOf("deviceState", DeviceStates);
     check.device = fields.text("device");
     check.measurements = fields.list<Measurement>("measurements", readMeasurement);
+    if (fields.has("later")) {
+        check.later = fields.list<Measurement>("later", readMeasurement);
+    }
     check.contradictions = fields.texts("contradictions");
     return check;
 }

@@ -23,13 +23,14 @@ struct Measurement
 // One check of a run: what the user said and what was measured.
 struct ReportCheck
 {
-    QString key;         // "network", "camera", "speaker", "microphone"
-    QString verdict;     // "passed", "failed", "notTested"
-    QString answer;      // "yes", "no", "none"; the network asks nothing
-    QString deviceState; // "works", "fails", "unknown"
-    QString device;      // foreign text
-    std::vector<Measurement> measurements;
-    QStringList contradictions; // between answer and measurements
+    QString key;                           // "network", "camera", "speaker", "microphone"
+    QString verdict;                       // "passed", "failed", "notTested"
+    QString answer;                        // "yes", "no", "none"; the network asks nothing
+    QString deviceState;                   // "works", "fails", "unknown"
+    QString device;                        // foreign text
+    std::vector<Measurement> measurements; // those that the verdict was made of
+    std::vector<Measurement> later;        // of those, what changed after the verdict
+    QStringList contradictions;            // between answer and measurements
 
     const Measurement* measurement(const QString& name) const; // null where it isn't listed
 };

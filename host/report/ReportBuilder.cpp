@@ -128,8 +128,34 @@ std::vector<Measurement> measurementsOf(const QString& check, const QJsonObject&
     return result;
 }
 
+// false where there was none
+bool isSame(const Measurement& measurement, const Measurement* before)
+{
+    return before && before->status == measurement.status && before->value == measurement.value &&
+           before->reason == measurement.reason;
+}
+
+// Of the figures that were recorded after the verdict, those that the report lists otherwise.
+std::vector<Measurement> laterOf(const ReportCheck& check, const QJsonObject& figures,
+                                 const QJsonObject& laterFigures)
+{
+    QJsonObject newest = figures;
+    for (auto it = laterFigures.begin(); it != laterFigures.end(); ++it) {
+        newest.insert(it.key(), it.value());
+    }
+    std::vector<Measurement> result;
+    for (const Measurement& measurement : measurementsOf(check.key, newest, true)) {
+        const bool isNews = laterFigures.contains(measurement.key) &&
+                            !isSame(measurement, check.measurement(measurement.key));
+        if (isNews) {
+            result.push_back(measurement);
+        }
+    }
+    return result;
+}
+
 ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
-                    const QJsonObject& figures)
+                    const QJsonObject& figures, const QJsonObject& laterFigures)
 {
     ReportCheck check;
     check.key = outcome.key;
@@ -141,6 +167,7 @@ ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
                 QStringLiteral("fails"), QStringLiteral("unknown"));
     check.device = outcome.key == NetworkKey ? QString() : outcome.device;
     check.measurements = measurementsOf(outcome.key, figures, !values.isEmpty());
+    check.later = laterOf(check, figures, laterFigures);
     check.contradictions = Contradictions::of(check);
     return check;
 }
@@ -194,6 +221,7 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
 {
     const QJsonObject results = document.value(QLatin1String("results")).toObject();
     const QJsonObject measurements = document.value(QLatin1String("measurements")).toObject();
+    const QJsonObject later = document.value(QLatin1String("later")).toObject();
     Report report;
     report.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     report.programVersion = QCoreApplication::applicationVersion();
@@ -206,7 +234,8 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
     addFacts(report, facts);
     for (const CheckOutcome& check : outcome.checks) {
         report.checks.push_back(checkOf(check, results.value(check.key).toObject(),
-                                        measurements.value(check.key).toObject()));
+                                        measurements.value(check.key).toObject(),
+                                        later.value(check.key).toObject()));
     }
     addGrade(report, measurements.value(NetworkKey).toObject());
     return report;

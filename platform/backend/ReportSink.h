@@ -14,7 +14,8 @@ class ReportSink
 public:
     virtual ~ReportSink() = default;
 
-    // A value of the run, such as "camera.userState" = 1. The last one written wins.
+    // A value of the run, such as "camera.userState" = 1. The last one written wins. It was made of
+    // what was measured of that check so far: a back end records before it tells its listener.
     virtual void recordResult(const QString& key, const QJsonValue& value) = 0;
     // What a back end measured of a check ("camera", "speaker", "microphone", "network").
     virtual void recordMeasurement(const QString& check, const QJsonObject& figures) = 0;

@@ -14,6 +14,7 @@ namespace {
 const QLatin1String VersionKey("version");
 const QLatin1String ResultsKey("results");
 const QLatin1String MeasurementsKey("measurements");
+const QLatin1String LaterKey("later");
 const QLatin1String CodesKey("codes");
 const QLatin1String StateKey("state");
 const QLatin1String DeviceKey("device");
@@ -49,23 +50,31 @@ QJsonObject ResultDocument::toJson() const
     for (const int code : m_codes) {
         codes.append(code);
     }
-    return {{VersionKey, DocumentVersion},
-            {ResultsKey, toObject(m_results)},
-            {MeasurementsKey, toObject(m_measurements)},
-            {CodesKey, codes}};
+    QJsonObject document{{VersionKey, DocumentVersion},
+                         {ResultsKey, toObject(m_results)},
+                         {MeasurementsKey, toObject(judgedOrNewest())},
+                         {CodesKey, codes}};
+    const Section laterOnes = later();
+    if (!laterOnes.isEmpty()) {
+        document.insert(LaterKey, toObject(laterOnes));
+    }
+    return document;
 }
 
 void ResultDocument::clear()
 {
     m_results.clear();
     m_measurements.clear();
+    m_judged.clear();
     m_codes.clear();
     m_deviceKeys.clear();
 }
 
 void ResultDocument::recordResult(const QString& key, const QJsonValue& value)
 {
-    m_results[key.section(QLatin1Char('.'), 0, 0)][key.section(QLatin1Char('.'), 1)] = value;
+    const QString check = key.section(QLatin1Char('.'), 0, 0);
+    m_results[check][key.section(QLatin1Char('.'), 1)] = value;
+    m_judged[check] = m_measurements.value(check);
     write();
 }
 
@@ -88,6 +97,32 @@ void ResultDocument::recordCode(int code)
 {
     m_codes.append(code);
     write();
+}
+
+ResultDocument::Section ResultDocument::judgedOrNewest() const
+{
+    Section result = m_measurements;
+    for (auto check = m_judged.begin(); check != m_judged.end(); ++check) {
+        result[check.key()] = *check;
+        if (check->isEmpty()) {
+            result.remove(check.key());
+        }
+    }
+    return result;
+}
+
+ResultDocument::Section ResultDocument::later() const
+{
+    Section result;
+    for (auto check = m_judged.begin(); check != m_judged.end(); ++check) {
+        const QMap<QString, QJsonValue> newest = m_measurements.value(check.key());
+        for (auto value = newest.begin(); value != newest.end(); ++value) {
+            if (check->value(value.key(), QJsonValue::Undefined) != *value) {
+                result[check.key()][value.key()] = *value;
+            }
+        }
+    }
+    return result;
 }
 
 void ResultDocument::forgetOtherDevice(const QString& check, const QJsonObject& figures)

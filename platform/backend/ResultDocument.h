@@ -14,7 +14,9 @@ namespace Platform {
 
 // The values of one run as one JSON document:
 //   { "version": 1, "results": { "camera": { "userState": 1, … }, … },
-//     "measurements": { "camera": { … }, … }, "codes": [ 3 ] }
+//     "measurements": { "camera": { … }, … }, "later": { "network": { … } }, "codes": [ 3 ] }
+// The measurements of a check are those that stood when its last result was recorded; without a
+// result they are the newest. "later" has those that came or changed after that; often none did.
 // GUI thread only. Where a path is set, every change replaces the file whole (FileWriter).
 class CLASSROOMBACKEND_EXPORT ResultDocument
 {
@@ -36,12 +38,15 @@ private:
     // By check, by name. A QJsonObject would keep what was replaced in it.
     using Section = QMap<QString, QMap<QString, QJsonValue>>;
 
+    Section judgedOrNewest() const;
+    Section later() const;
     void forgetOtherDevice(const QString& check, const QJsonObject& figures);
     void write() const;
 
     QString m_path;
     Section m_results;
-    Section m_measurements;
+    Section m_measurements; // the newest
+    Section m_judged;       // the measurements as they were at a check's last result
     QList<int> m_codes;
     QMap<QString, QSet<QString>> m_deviceKeys; // of the figures with a "state", by check
 };

@@ -29,31 +29,35 @@ QString shownServer(const DeviceEngineConfig& config)
 
 } // namespace
 
-// A probe with what it needs to live: the responder, where it asks that. Its last figures go into
-// the results.
-class DeviceEngine::EngineProbe final : public NetworkProbe
+// A probe with what it needs to live: the responder, where it asks that. Its figures go into the
+// results before the listener hears of them.
+class DeviceEngine::EngineProbe final : public NetworkProbe, private NetworkProbe::Listener
 {
 public:
     EngineProbe(std::shared_ptr<StunResponder> responder, const StunServer& server,
-                Listener& listener, StunProbe::AddressHandler onClientAddress, ReportSink* sink)
+                NetworkProbe::Listener& listener, StunProbe::AddressHandler onClientAddress,
+                ReportSink* sink)
         : m_responder(std::move(responder)),
+          m_listener(listener),
           m_sink(sink),
-          m_probe(server, listener, std::move(onClientAddress))
+          m_probe(server, *this, std::move(onClientAddress))
     {
-    }
-
-    ~EngineProbe() override
-    {
-        const NetworkFigures last = figures();
-        if (m_sink && last.sent > 0) {
-            m_sink->recordMeasurement(QStringLiteral("network"), toJson(last));
-        }
     }
 
     NetworkFigures figures() const override { return m_probe.figures(); }
 
 private:
+    void networkFiguresChanged() override
+    {
+        const NetworkFigures now = figures();
+        if (m_sink && now.sent > 0) {
+            m_sink->recordMeasurement(QStringLiteral("network"), toJson(now));
+        }
+        m_listener.networkFiguresChanged();
+    }
+
     std::shared_ptr<StunResponder> m_responder;
+    NetworkProbe::Listener& m_listener;
     ReportSink* m_sink;
     StunProbe m_probe;
 };

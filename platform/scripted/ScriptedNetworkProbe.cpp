@@ -33,12 +33,7 @@ ScriptedNetworkProbe::ScriptedNetworkProbe(ScriptedNetwork& network, CallLog& lo
     restart();
 }
 
-ScriptedNetworkProbe::~ScriptedNetworkProbe()
-{
-    if (m_next > 0) {
-        m_document.recordMeasurement(QStringLiteral("network"), toJson(m_figures));
-    }
-}
+ScriptedNetworkProbe::~ScriptedNetworkProbe() = default;
 
 NetworkFigures ScriptedNetworkProbe::figures() const
 {
@@ -85,6 +80,7 @@ void ScriptedNetworkProbe::measure()
         m_figures.delay95Ms = percentile(delays, 95);
     }
     m_timer.start(PeriodMs);
+    m_document.recordMeasurement(QStringLiteral("network"), toJson(m_figures));
     m_listener.networkFiguresChanged();
 }
 

@@ -20,6 +20,8 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Resul
     connect(
         &m_devices, &ScriptedSpeakers::volumeMovedFromOutside, this,
         [this](int percent) { m_listener.speakerVolumeChanged(percent); }, Qt::QueuedConnection);
+    connect(&m_devices, &ScriptedSpeakers::volumeMovedFromOutside, this,
+            &ScriptedSpeaker::recordMeasurement);
     connect(&m_devices, &ScriptedSpeakers::currentStateChanged, this,
             &ScriptedSpeaker::notifyWorkState);
     connect(&m_devices, &ScriptedSpeakers::currentChanged, this,
@@ -27,17 +29,12 @@ ScriptedSpeaker::ScriptedSpeaker(ScriptedSpeakers& speakers, CallLog& log, Resul
     m_id = m_devices.currentId();
     m_found.reset(m_devices.volume(), m_devices.isMuted());
     m_default.take(m_devices.defaultName());
+    recordMeasurement();
 }
 
 ScriptedSpeaker::~ScriptedSpeaker()
 {
-    QJsonObject figures{{QStringLiteral("state"), toString(m_devices.currentState())}};
-    if (!m_id.isEmpty()) {
-        figures.insert(QStringLiteral("device"), m_devices.currentName());
-        m_found.addTo(figures, m_devices.volume(), m_devices.isMuted());
-    }
-    m_default.addTo(figures);
-    m_document.recordMeasurement(QStringLiteral("speaker"), figures);
+    recordMeasurement();
 }
 
 int ScriptedSpeaker::volume() const
@@ -51,6 +48,7 @@ void ScriptedSpeaker::setVolume(int percent)
     m_session.call("setVolume", QString::number(percent));
     m_found.noteMove();
     m_devices.setVolumeByUser(percent);
+    recordMeasurement();
 }
 
 // Told also where only the list changed.
@@ -61,10 +59,24 @@ void ScriptedSpeaker::onCurrentChanged(const QString& id)
         m_found.reset(m_devices.volume(), m_devices.isMuted());
     }
     m_default.take(m_devices.defaultName());
+    recordMeasurement();
+}
+
+// At every change, so that a result finds what it was made of.
+void ScriptedSpeaker::recordMeasurement() const
+{
+    QJsonObject figures{{QStringLiteral("state"), toString(m_devices.currentState())}};
+    if (!m_id.isEmpty()) {
+        figures.insert(QStringLiteral("device"), m_devices.currentName());
+        m_found.addTo(figures, m_devices.volume(), m_devices.isMuted());
+    }
+    m_default.addTo(figures);
+    m_document.recordMeasurement(QStringLiteral("speaker"), figures);
 }
 
 void ScriptedSpeaker::notifyWorkState()
 {
+    recordMeasurement();
     QMetaObject::invokeMethod(
         this,
         [this, works = isUsable(m_devices.currentState())] {

@@ -27,6 +27,7 @@ public:
 
 private:
     void onCurrentChanged(const QString& id);
+    void recordMeasurement() const;
     void notifyWorkState();
 
     QString m_id;

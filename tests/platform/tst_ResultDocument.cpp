@@ -28,6 +28,7 @@ class tst_ResultDocument : public QObject
 private Q_SLOTS:
     void startsEmpty();
     void collectsAllSections();
+    void keepsWhatAResultWasMadeOf();
     void keepsTheLastValue();
     void forgetsTheOtherDevice();
     void startsAgainWhenCleared();
@@ -44,11 +45,11 @@ void tst_ResultDocument::startsEmpty()
 void tst_ResultDocument::collectsAllSections()
 {
     ResultDocument document;
+    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "width": 640 })"));
+    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "height": 480 })"));
     document.recordResult(QStringLiteral("camera.userState"), 1);
     document.recordResult(QStringLiteral("camera.device"), QStringLiteral("<b>A.B</b>"));
     document.recordResult(QStringLiteral("network.delay"), QStringLiteral("37ms"));
-    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "width": 640 })"));
-    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "height": 480 })"));
     document.recordCode(3);
     document.recordCode(7);
     QCOMPARE(document.toJson(), parsed(R"({
@@ -60,6 +61,27 @@ void tst_ResultDocument::collectsAllSections()
         "measurements": { "camera": { "width": 640, "height": 480 } },
         "codes": [ 3, 7 ]
     })"));
+}
+
+void tst_ResultDocument::keepsWhatAResultWasMadeOf()
+{
+    const QString network = QStringLiteral("network");
+    ResultDocument document;
+    document.recordMeasurement(network, parsed(R"({ "delayMs": 37, "sent": 5 })"));
+    document.recordResult(QStringLiteral("network.delay"), QStringLiteral("37ms"));
+    document.recordResult(QStringLiteral("network.loss"), QStringLiteral("0%"));
+    document.recordMeasurement(network, parsed(R"({ "delayMs": 912, "sent": 5, "new": 1 })"));
+    document.recordMeasurement(QStringLiteral("camera"), parsed(R"({ "width": 640 })"));
+    QCOMPARE(document.toJson()[QStringLiteral("measurements")], QJsonValue(parsed(R"({
+        "network": { "delayMs": 37, "sent": 5 }, "camera": { "width": 640 } })")));
+    QCOMPARE(document.toJson()[QStringLiteral("later")],
+             QJsonValue(parsed(R"({ "network": { "delayMs": 912, "new": 1 } })")));
+
+    document.recordResult(QStringLiteral("network.delay"), QStringLiteral("912ms"));
+    const QJsonObject json = document.toJson();
+    QCOMPARE(json[QStringLiteral("measurements")][network][QStringLiteral("delayMs")],
+             QJsonValue(912));
+    QVERIFY(!json.contains(QStringLiteral("later")));
 }
 
 void tst_ResultDocument::keepsTheLastValue()

@@ -51,6 +51,7 @@ void PulseSpeaker::setVolume(int percent)
 {
     if (device()) {
         m_volume.await(m_session->setVolume(PulseKind::Speaker, m_id, m_volume.set(percent)));
+        recordMeasurement();
     }
 }
 
@@ -95,8 +96,10 @@ void PulseSpeaker::update()
         m_works = works;
         sender.post([this] { m_listener.speakerWorkStateChanged(m_works); });
     }
+    recordMeasurement();
 }
 
+// At every change, so that a result finds what it was made of.
 void PulseSpeaker::recordMeasurement() const
 {
     QJsonObject figures;

@@ -17,7 +17,7 @@ class PulseSession;
 class ReportSink;
 
 // The playback devices of the sound server. Choosing one concerns this program alone: the server's
-// default stays what it was. At the end it reports the device, its volume and its mute.
+// default stays what it was. At every change it reports the device, its volume and its mute.
 class PulseSpeaker final : public SpeakerBackend
 {
 public:

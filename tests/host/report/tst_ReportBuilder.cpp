@@ -137,11 +137,11 @@ void tst_ReportBuilder::missingFigures()
     QFETCH(QString, state);
     QFETCH(bool, hasFailed);
     Platform::ResultDocument document;
-    if (wasOpened) {
-        answer(document, QStringLiteral("camera"), 2, 2);
-    }
     if (!state.isEmpty()) {
         document.recordMeasurement(QStringLiteral("camera"), {{QStringLiteral("state"), state}});
+    }
+    if (wasOpened) {
+        answer(document, QStringLiteral("camera"), 2, 2);
     }
     const Measurement rate =
         figure(built(document), QStringLiteral("camera"), QStringLiteral("rate"));
@@ -286,8 +286,8 @@ void tst_ReportBuilder::contradictions()
     QFETCH(int, deviceState);
     QFETCH(QJsonObject, figures);
     Platform::ResultDocument document;
-    answer(document, check, userState, deviceState);
     document.recordMeasurement(check, figures);
+    answer(document, check, userState, deviceState);
     QTEST(built(document).check(check)->contradictions.join(QLatin1Char(' ')), "words");
 }
 
