@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/Options.h"
 
+#include "platform/backend/StunServer.h"
+
 #include <QCommandLineParser>
-#include <QRegularExpression>
 #include <QUrl>
 #include <optional>
 
@@ -11,7 +12,6 @@ namespace {
 
 const QLatin1String PlatformDevices("devices");
 const QLatin1String PlatformScripted("scripted");
-constexpr int DefaultPort = 3478;
 constexpr int MaxPort = 65535;
 
 // The commands that take an option, as bits.
@@ -62,9 +62,10 @@ constexpr Definition Definitions[] = {
      "Implies --platform scripted."},
     {"language", InCheck | InReport, "LANGUAGE",
      "Language of the texts, such as en or zh_CN; the system's by default."},
-    {"server", InCheck | InNetwork, "stun:HOST:PORT",
-     "STUN server that delay and loss are measured to. Without it a small responder on this "
-     "machine is used, which says nothing about the network."},
+    {"server", InCheck | InNetwork, "HOST[:PORT]",
+     "STUN server that delay and loss are measured to, also as stun:HOST:PORT; the port is 3478 by "
+     "default. Without a server a small responder on this machine is used, which says nothing "
+     "about the network."},
     {"account", InCheck, "TEXT", "Account to show; the system's user by default."},
     {"nickname", InCheck, "TEXT", "Nickname to show; the system's user by default."},
     {"cdn", InCheck, "FIRST/SECOND", "CDN to show."},
@@ -112,16 +113,6 @@ void addOptions(QCommandLineParser& parser, unsigned commands)
     parser.addOptions(
         {{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
          {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")}});
-}
-
-// Host and port of "stun:HOST:PORT"; HOST is a name, an IPv4 address or a bracketed IPv6 one.
-bool isServer(const QString& text)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^stun:(\\[[0-9A-Fa-f:.%]+\\]|[^\\s:\\[\\]/]+):([0-9]{1,5})$"));
-    const QRegularExpressionMatch match = form.match(text);
-    const int port = match.captured(2).toInt();
-    return match.hasMatch() && port >= 1 && port <= MaxPort;
 }
 
 bool isReportUrl(const QString& text)
@@ -249,9 +240,8 @@ private:
     void readAddresses()
     {
         m_options.server = value("server");
-        if (isSet("server") && !isServer(m_options.server)) {
-            failAt("server", QStringLiteral("stun:HOST:PORT, such as "
-                                            "stun:stun.example.org:3478"));
+        if (isSet("server") && !Platform::StunServer::fromText(m_options.server)) {
+            failAt("server", QLatin1String(Platform::StunServer::Form));
         }
         m_options.reportUrl = value("report-url");
         if (isSet("report-url") && !isReportUrl(m_options.reportUrl)) {
@@ -261,7 +251,7 @@ private:
 
     void readNumbers()
     {
-        m_options.port = DefaultPort;
+        m_options.port = Platform::StunServer::DefaultPort;
         if (isSet("port")) {
             const std::optional<int> port = numberIn(value("port"), 0, MaxPort);
             if (!port) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/DeviceEngine.h"
 
+#include "platform/backend/StunServer.h"
 #include "platform/devices/CameraSystem.h"
 #include "platform/devices/SoundSystem.h"
 #include "platform/devices/facts/DeviceFacts.h"
@@ -23,7 +24,7 @@ QString shownServer(const DeviceEngineConfig& config)
         return config.builtInResponderText.isEmpty() ? qtTrId("ID_Engine_BuiltInResponder")
                                                      : config.builtInResponderText;
     }
-    const std::optional<StunServer> server = StunServer::fromUrl(config.server);
+    const std::optional<StunServer> server = StunServer::fromText(config.server);
     return server ? server->toString() : config.server;
 }
 
@@ -74,10 +75,10 @@ DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
       m_sound(createSoundSystem(config, *m_reports)),
       m_cameras(createCameraSystem(config, *m_reports))
 {
-    if (!config.server.isEmpty() && !StunServer::fromUrl(config.server)) {
+    if (!config.server.isEmpty() && !StunServer::fromText(config.server)) {
         qCWarning(deviceEngineLog).noquote()
             << "The network is not measured: the server" << config.server
-            << "is not one. Give it as stun:HOST:PORT";
+            << "is not one. Give it as" << StunServer::Form;
     }
 }
 
@@ -164,7 +165,7 @@ DeviceEngine::probe(NetworkProbe::Listener& listener,
         return std::make_unique<EngineProbe>(std::move(present), server, listener,
                                              std::move(onClientAddress), sink);
     }
-    const StunServer server = StunServer::fromUrl(m_config.server).value_or(StunServer());
+    const StunServer server = StunServer::fromText(m_config.server).value_or(StunServer());
     return std::make_unique<EngineProbe>(nullptr, server, listener, std::move(onClientAddress),
                                          sink);
 }

@@ -9,7 +9,7 @@ namespace Platform {
 // What the host tells the real engine. Texts are shown as they are.
 struct DeviceEngineConfig
 {
-    QString server;               // "stun:HOST:PORT"; empty: the program's own responder
+    QString server;               // as StunServer::fromText() reads it; empty: the own responder
     QString builtInResponderText; // what the server line says then; empty: the usual words
     QString cdnFirstPart;
     QString cdnSecondPart;

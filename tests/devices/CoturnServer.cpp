@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/CoturnServer.h"
 
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 
 #include <QElapsedTimer>
 #include <QUdpSocket>

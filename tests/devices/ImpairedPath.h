@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 
 #include <QHostAddress>
 #include <QThread>

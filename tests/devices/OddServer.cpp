@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/OddServer.h"
 
+#include "platform/backend/StunServer.h"
 #include "platform/devices/network/StunAnswerer.h"
-#include "platform/devices/network/StunServer.h"
 
 #include <QNetworkDatagram>
 

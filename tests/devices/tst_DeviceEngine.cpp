@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/StunServer.h"
 #include "platform/devices/DeviceEngine.h"
-#include "platform/devices/network/StunServer.h"
 #include "tests/devices/CoturnServer.h"
 #include "tests/devices/ThreadCount.h"
 #include "tests/support/AtOnce.h"
@@ -108,7 +108,8 @@ void tst_DeviceEngine::badServer()
     config.settingsFolder = folder.path();
     config.server = QStringLiteral("<b>nowhere</b>");
     QTest::ignoreMessage(QtWarningMsg, "The network is not measured: the server <b>nowhere</b> is "
-                                       "not one. Give it as stun:HOST:PORT");
+                                       "not one. Give it as HOST or HOST:PORT, with or without "
+                                       "stun: before it, such as stun:stun.example.org:3478");
     DeviceEngine engine(config);
     QCOMPARE(engine.systemFacts().serverName(), config.server);
     Listener listener;

@@ -5,7 +5,7 @@
 #include "host/SoundNames.h"
 #include "host/commands/CheckCommand.h"
 #include "host/tour/DialogView.h"
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 #include "tests/devices/CoturnServer.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/MachineDelay.h"

@@ -123,8 +123,10 @@ void tst_Options::platform()
 void tst_Options::goodServers_data()
 {
     QTest::addColumn<QString>("server");
-    for (const char* server : {"stun:stun.example.org:3478", "stun:192.0.2.1:1",
-                               "stun:[2001:db8::1]:65535", "stun:localhost:19302"}) {
+    for (const char* server :
+         {"stun:stun.example.org:3478", "stun:192.0.2.1:1", "stun:[2001:db8::1]:65535",
+          "stun:localhost:19302", "stun:example.org", "example.org", "example.org:1", "[::1]",
+          "[2001:db8::1]:65535", "192.0.2.1"}) {
         QTest::newRow(server) << QString::fromLatin1(server);
     }
 }
@@ -212,7 +214,7 @@ void tst_Options::wrongOnes_data()
                                   << "--report";
     QTest::newRow("empty tour") << "--tour="
                                 << "--tour";
-    for (const char* server : {"stun.example.org:3478", "stun:example.org", "stun:example.org:0",
+    for (const char* server : {"stun.example.org:x", "example.org:", "::1", "stun:example.org:0",
                                "stun:example.org:65536", "stun::3478", "turn:example.org:3478",
                                "stun:::1:3478", "stun:a/b:1", "stun:example.org:x"}) {
         QTest::newRow(server) << QStringLiteral("--server %1").arg(QLatin1String(server))

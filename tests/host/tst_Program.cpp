@@ -223,6 +223,10 @@ void tst_Program::wrongUsage_data()
                                << "moon";
     QTest::newRow("no such language") << "--scenario all-well --language tlh"
                                       << "tlh";
+    QTest::newRow("no server") << "network --server http://example.org"
+                               << "http://example.org";
+    QTest::newRow("no server for the check") << "--server example.org:0"
+                                             << "example.org:0";
     QTest::newRow("no report named") << "report"
                                      << "FILE";
     QTest::newRow("no report in that language") << "report x --language tlh"
@@ -483,11 +487,10 @@ void tst_Program::serveAndMeasure()
     const QString number =
         port.match(QString::fromUtf8(server->readAllStandardOutput())).captured(1);
     QVERIFY(!number.isEmpty());
-    for (const char* host : {"127.0.0.1", "[::1]"}) {
-        const Run measured =
-            run(QStringList{QStringLiteral("network"), QStringLiteral("--count"),
-                            QStringLiteral("1"), QStringLiteral("--server"),
-                            QStringLiteral("stun:%1:%2").arg(QLatin1String(host), number)});
+    for (const char* host : {"127.0.0.1", "[::1]", "stun:127.0.0.1", "stun:[::1]"}) {
+        const Run measured = run(QStringList{
+            QStringLiteral("network"), QStringLiteral("--count"), QStringLiteral("1"),
+            QStringLiteral("--server"), QStringLiteral("%1:%2").arg(QLatin1String(host), number)});
         QCOMPARE(measured.code, 0);
         QVERIFY2(measured.out.contains(QLatin1String("delay ")), qPrintable(measured.out));
         QVERIFY2(!measured.out.contains(QLatin1String("::ffff")), qPrintable(measured.out));

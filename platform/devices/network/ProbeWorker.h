@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/StunServer.h"
 #include "platform/devices/network/ProbeWindow.h"
 #include "platform/devices/network/StunClient.h"
-#include "platform/devices/network/StunServer.h"
 
 #include <QBasicTimer>
 #include <QElapsedTimer>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "ClassroomDevices/ClassroomDevicesExport.h"
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 
 #include <QHostAddress>
 #include <QThread>

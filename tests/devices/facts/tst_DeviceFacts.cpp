@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/MachineFacts.h"
+#include "platform/backend/StunServer.h"
 #include "platform/devices/facts/DeviceFacts.h"
 #include "platform/devices/facts/LocalAddress.h"
 #include "platform/devices/network/StunProbe.h"
-#include "platform/devices/network/StunServer.h"
 #include "tests/devices/OddServer.h"
 #include "tests/support/AtOnce.h"
 

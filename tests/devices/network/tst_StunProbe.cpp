@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 #include "tests/devices/CoturnServer.h"
 #include "tests/devices/ImpairedPath.h"
 #include "tests/devices/Measurement.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/network/StunServer.h"
+#include "platform/backend/StunServer.h"
 
 #include <QUrl>
 
@@ -12,17 +12,20 @@ const QLatin1String Scheme("stun:");
 
 } // namespace
 
-std::optional<StunServer> StunServer::fromUrl(const QString& url)
+std::optional<StunServer> StunServer::fromText(const QString& text)
 {
-    if (!url.startsWith(Scheme, Qt::CaseInsensitive)) {
-        return {};
-    }
+    const bool hasScheme = text.startsWith(Scheme, Qt::CaseInsensitive);
+    const QString place = hasScheme ? text.mid(Scheme.size()) : text;
     // The scheme has no "//", so that QUrl would take host and port for a path.
-    const QUrl parsed(QStringLiteral("stun://") + url.mid(Scheme.size()), QUrl::StrictMode);
+    const QUrl parsed(QStringLiteral("stun://") + place, QUrl::StrictMode);
     const int port = parsed.port(DefaultPort);
     const bool hasMore = !parsed.path().isEmpty() || parsed.hasQuery() || parsed.hasFragment() ||
                          !parsed.userInfo().isEmpty();
-    if (!parsed.isValid() || parsed.host().isEmpty() || port == 0 || hasMore) {
+    // A lone number is a port without a host, and QUrl would make an address of it.
+    bool isNumber = false;
+    place.section(QLatin1Char(':'), 0, 0).toULongLong(&isNumber);
+    const bool hasHost = !parsed.host().isEmpty() && !isNumber;
+    if (!parsed.isValid() || !hasHost || port == 0 || hasMore || place.endsWith(QLatin1Char(':'))) {
         return {};
     }
     return StunServer{parsed.host(), quint16(port)};
