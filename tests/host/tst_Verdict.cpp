@@ -261,13 +261,7 @@ void tst_Verdict::measure(int delayMs, int lossPercent)
     figures.sent = 50;
     figures.answered = 50 - lossPercent / 2;
     engine().network().setFigures(figures);
-    const auto isRecorded = [this, delayMs] {
-        const QJsonObject document = engine().reports().document().toJson();
-        return std::any_of(document.begin(), document.end(), [delayMs](const QJsonValue& section) {
-            return section[id("network")][id("delayMs")].toInt() == delayMs;
-        });
-    };
-    QTRY_VERIFY(isRecorded());
+    QCoreApplication::processEvents();
     if (const auto* const delay = m_view->find<QLabel>("label_ND")) {
         QTRY_COMPARE(delay->text(), QStringLiteral("%1ms").arg(delayMs));
     }
