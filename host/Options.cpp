@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Options.h"
 
+#include "host/report/ReportWords.h"
 #include "platform/backend/StunServer.h"
 
 #include <QCommandLineParser>
@@ -10,8 +11,6 @@
 
 namespace {
 
-const QLatin1String PlatformDevices("devices");
-const QLatin1String PlatformScripted("scripted");
 constexpr int MaxPort = 65535;
 
 // The commands that take an option, as bits.
@@ -219,14 +218,14 @@ private:
 
     void readPlatform()
     {
-        const QString platform = value("platform");
-        if (isSet("platform") && platform != PlatformDevices && platform != PlatformScripted) {
+        const auto platform = ReportWords::find<Options::Platform>(value("platform"));
+        if (isSet("platform") && !platform) {
             failAt("platform", QStringLiteral("devices or scripted"));
         }
-        if (platform == PlatformDevices && isSet("scenario")) {
+        if (platform == Options::Platform::Devices && isSet("scenario")) {
             fail(QStringLiteral("--scenario doesn't go with --platform devices: leave one out"));
         }
-        if (platform == PlatformScripted || isSet("scenario")) {
+        if (platform == Options::Platform::Scripted || isSet("scenario")) {
             m_options.platform = Options::Platform::Scripted;
             if (m_options.scenario.isEmpty()) {
                 m_options.scenario = QLatin1String(Options::DefaultScenario);
@@ -273,18 +272,16 @@ private:
     {
         const QStringList formats = {QStringLiteral("text"), QStringLiteral("html"),
                                      QStringLiteral("json"), QStringLiteral("room")};
-        const QStringList levels = {QStringLiteral("none"), QStringLiteral("personal"),
-                                    QStringLiteral("hash")};
         const int format = static_cast<int>(formats.indexOf(value("format")));
         if (isSet("format") && format < 0) {
             failAt("format", QStringLiteral("text, html, json or room"));
         }
         m_options.format = static_cast<Options::Format>(std::max(0, format));
-        const int level = static_cast<int>(levels.indexOf(value("redact")));
-        if (isSet("redact") && level < 0) {
+        const auto level = ReportWords::find<Options::Redaction>(value("redact"));
+        if (isSet("redact") && !level) {
             failAt("redact", QStringLiteral("none, personal or hash"));
         }
-        m_options.redaction = static_cast<Options::Redaction>(std::max(0, level));
+        m_options.redaction = level.value_or(Options::Redaction::None);
         if (m_options.command == Options::Command::Report && m_options.files.isEmpty()) {
             fail(QStringLiteral("report needs the FILE of a report: see report --help"));
         }

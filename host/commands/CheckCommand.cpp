@@ -93,11 +93,10 @@ ExitCode CheckCommand::open(const QString& language)
         Console::printError(installed.error());
         return installed.errorCode();
     }
-    const bool isScripted = m_options.platform == Options::Platform::Scripted;
     ReportBuilder::Run facts{QDateTime::currentDateTime(),
                              {},
                              language,
-                             isScripted ? QStringLiteral("scripted") : QStringLiteral("devices"),
+                             m_options.platform,
                              QFileInfo(m_options.scenario).completeBaseName()};
     installed.prepare();
     const std::unique_ptr<Tour> tour = startTour(installed.engine());

@@ -9,6 +9,7 @@
 #include "host/Languages.h"
 #include "host/Options.h"
 #include "host/report/NetworkGrade.h"
+#include "host/report/ReportWords.h"
 #include "platform/backend/Engine.h"
 #include "platform/backend/NetworkLimits.h"
 #ifdef ENVCHECK_WITH_DEVICES
@@ -66,7 +67,7 @@ private:
             .arg(m_last.lossPercent)
             .arg(m_last.sent)
             .arg(m_last.answered)
-            .arg(NetworkGrade::toString(NetworkGrade::of(m_last).level));
+            .arg(ReportWords::of(NetworkGrade::of(m_last).level));
     }
 
     const int m_count;

@@ -6,83 +6,83 @@
 
 namespace {
 
-const QLatin1String Yes("yes");
-const QLatin1String No("no");
+using Flags = std::vector<Contradiction>;
 
-QJsonValue valueOf(const ReportCheck& check, const char* key)
+QJsonValue valueOf(const ReportCheck& check, FigureName name)
 {
-    const Measurement* found = check.measurement(QLatin1String(key));
+    const Measurement* found = check.measurement(name);
     return found && found->status == Measurement::Status::Measured ? found->value : QJsonValue();
 }
 
-bool isMostly(const ReportCheck& check, const char* key)
+bool isMostly(const ReportCheck& check, FigureName name)
 {
-    return valueOf(check, key).toDouble() > Contradictions::BadPictureShare;
+    return valueOf(check, name).toDouble() > Contradictions::BadPictureShare;
 }
 
-QStringList ofCamera(const ReportCheck& check)
+Flags ofCamera(const ReportCheck& check)
 {
-    const bool isBlack = isMostly(check, "blackShare");
-    const bool isFrozen = isMostly(check, "frozenShare");
-    const bool works = check.deviceState == QLatin1String("works");
-    QStringList words;
-    if (check.answer == Yes && !works) {
-        words << QStringLiteral("yesWithoutPictures");
+    const bool isBlack = isMostly(check, FigureName::BlackShare);
+    const bool isFrozen = isMostly(check, FigureName::FrozenShare);
+    const bool works = check.deviceState == SeenState::Works;
+    Flags words;
+    if (check.answer == Answer::Yes && !works) {
+        words.push_back(Contradiction::YesWithoutPictures);
     }
-    if (check.answer == Yes && isBlack) {
-        words << QStringLiteral("yesToBlackPicture");
+    if (check.answer == Answer::Yes && isBlack) {
+        words.push_back(Contradiction::YesToBlackPicture);
     }
-    if (check.answer == Yes && isFrozen && !isBlack) {
-        words << QStringLiteral("yesToFrozenPicture");
+    if (check.answer == Answer::Yes && isFrozen && !isBlack) {
+        words.push_back(Contradiction::YesToFrozenPicture);
     }
-    if (check.answer == No && works && !isBlack && !isFrozen) {
-        words << QStringLiteral("noToGoodPicture");
+    if (check.answer == Answer::No && works && !isBlack && !isFrozen) {
+        words.push_back(Contradiction::NoToGoodPicture);
     }
     return words;
 }
 
-QStringList ofSpeaker(const ReportCheck& check)
+Flags ofSpeaker(const ReportCheck& check)
 {
-    const bool isMuted =
-        valueOf(check, "mutedAfter").toBool() || valueOf(check, "volumeAfter").toDouble(1) <= 0;
-    const bool isRightSound = check.deviceState == QLatin1String("works");
-    QStringList words;
-    if (check.answer == Yes && !isRightSound) {
-        words << QStringLiteral("yesToWrongSound");
+    const bool isMuted = valueOf(check, FigureName::MutedAfter).toBool() ||
+                         valueOf(check, FigureName::VolumeAfter).toDouble(1) <= 0;
+    const bool isRightSound = check.deviceState == SeenState::Works;
+    Flags words;
+    if (check.answer == Answer::Yes && !isRightSound) {
+        words.push_back(Contradiction::YesToWrongSound);
     }
-    if (check.answer == Yes && isMuted) {
-        words << QStringLiteral("yesToMutedSpeaker");
+    if (check.answer == Answer::Yes && isMuted) {
+        words.push_back(Contradiction::YesToMutedSpeaker);
     }
-    if (check.answer == No && isRightSound) {
-        words << QStringLiteral("noToRightSound");
+    if (check.answer == Answer::No && isRightSound) {
+        words.push_back(Contradiction::NoToRightSound);
     }
     return words;
 }
 
-QStringList ofMicrophone(const ReportCheck& check)
+Flags ofMicrophone(const ReportCheck& check)
 {
-    const bool works = check.deviceState == QLatin1String("works");
-    const bool wasSilent = !valueOf(check, "soundHeard").toBool(works);
-    if (check.answer == Yes && (!works || wasSilent)) {
-        return {QStringLiteral("yesToSilence")};
+    const bool works = check.deviceState == SeenState::Works;
+    const bool wasSilent = !valueOf(check, FigureName::SoundHeard).toBool(works);
+    if (check.answer == Answer::Yes && (!works || wasSilent)) {
+        return {Contradiction::YesToSilence};
     }
-    if (check.answer == No && works && !wasSilent) {
-        return {QStringLiteral("noToGoodSound")};
+    if (check.answer == Answer::No && works && !wasSilent) {
+        return {Contradiction::NoToGoodSound};
     }
     return {};
 }
 
 } // namespace
 
-QStringList Contradictions::of(const ReportCheck& check)
+Flags Contradictions::of(const ReportCheck& check)
 {
-    if (check.key == QLatin1String("camera")) {
+    switch (check.kind) {
+    case CheckKind::Network:
+        break;
+    case CheckKind::Camera:
         return ofCamera(check);
-    }
-    if (check.key == QLatin1String("speaker")) {
+    case CheckKind::Speaker:
         return ofSpeaker(check);
-    }
-    if (check.key == QLatin1String("microphone")) {
+    case CheckKind::Microphone:
         return ofMicrophone(check);
     }
     return {};

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringList>
+#include "host/report/ReportWords.h"
 
 struct ReportCheck;
 
-// Where a user's answer and what was measured can't both be true, as words such as
-// "yesToBlackPicture".
+// Where a user's answer and what was measured can't both be true.
 namespace Contradictions {
 
 // More than this share of the pictures black or frozen is no picture of a user.
 constexpr double BadPictureShare = 0.5;
 
-QStringList of(const ReportCheck& check);
+std::vector<Contradiction> of(const ReportCheck& check);
 
 } // namespace Contradictions

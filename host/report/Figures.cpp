@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Figures.h"
 
-#include <QMap>
 #include <algorithm>
 
 namespace {
@@ -11,53 +10,35 @@ using Figures::Figure;
 using Figures::Unit;
 
 const std::vector<Figure> NetworkFigures = {
-    {"delayMs", "ID_Host_Figure_Delay", Unit::Ms},
-    {"delay5Ms", "ID_Host_Figure_Delay5", Unit::Ms},
-    {"delay95Ms", "ID_Host_Figure_Delay95", Unit::Ms},
-    {"jitterMs", "ID_Host_Figure_Jitter", Unit::Ms},
-    {"lossPercent", "ID_Host_Figure_Loss", Unit::Percent},
-    {"sent", "ID_Host_Figure_Sent", Unit::None},
-    {"answered", "ID_Host_Figure_Answered", Unit::None},
+    {FigureName::Delay, Unit::Ms},      {FigureName::Delay5, Unit::Ms},
+    {FigureName::Delay95, Unit::Ms},    {FigureName::Jitter, Unit::Ms},
+    {FigureName::Loss, Unit::Percent},  {FigureName::Sent, Unit::None},
+    {FigureName::Answered, Unit::None},
 };
 
 const std::vector<Figure> CameraFigures = {
-    {"rate", "ID_Host_Figure_Rate", Unit::PerSecond},
-    {"width", "ID_Host_Figure_Width", Unit::Pixels},
-    {"height", "ID_Host_Figure_Height", Unit::Pixels},
-    {"firstPictureMs", "ID_Host_Figure_FirstPicture", Unit::Ms},
-    {"pictures", "ID_Host_Figure_Pictures", Unit::None},
-    {"blackShare", "ID_Host_Figure_Black", Unit::Share},
-    {"frozenShare", "ID_Host_Figure_Frozen", Unit::Share},
-    {"brightness", "ID_Host_Figure_Brightness", Unit::Share},
+    {FigureName::Rate, Unit::PerSecond},    {FigureName::Width, Unit::Pixels},
+    {FigureName::Height, Unit::Pixels},     {FigureName::FirstPicture, Unit::Ms},
+    {FigureName::Pictures, Unit::None},     {FigureName::BlackShare, Unit::Share},
+    {FigureName::FrozenShare, Unit::Share}, {FigureName::Brightness, Unit::Share},
 };
 
 const std::vector<Figure> SpeakerFigures = {
-    {"volumeBefore", "ID_Host_Figure_VolumeBefore", Unit::Percent},
-    {"volumeAfter", "ID_Host_Figure_VolumeAfter", Unit::Percent},
-    {"mutedBefore", "ID_Host_Figure_MutedBefore", Unit::None},
-    {"mutedAfter", "ID_Host_Figure_MutedAfter", Unit::None},
-    {"movedByUser", "ID_Host_Figure_MovedByUser", Unit::None},
-    {"defaultBefore", "ID_Host_Figure_DefaultBefore", Unit::None},
-    {"defaultAfter", "ID_Host_Figure_DefaultAfter", Unit::None},
-    {"soundPlayed", "ID_Host_Figure_SoundPlayed", Unit::None},
+    {FigureName::VolumeBefore, Unit::Percent}, {FigureName::VolumeAfter, Unit::Percent},
+    {FigureName::MutedBefore, Unit::None},     {FigureName::MutedAfter, Unit::None},
+    {FigureName::MovedByUser, Unit::None},     {FigureName::DefaultBefore, Unit::None},
+    {FigureName::DefaultAfter, Unit::None},    {FigureName::SoundPlayed, Unit::None},
 };
 
 const std::vector<Figure> MicrophoneFigures = {
-    {"soundHeard", "ID_Host_Figure_SoundHeard", Unit::None},
-    {"seconds", "ID_Host_Figure_Seconds", Unit::Seconds},
-    {"peakDb", "ID_Host_Figure_Peak", Unit::Decibels},
-    {"noiseFloorDb", "ID_Host_Figure_NoiseFloor", Unit::Decibels},
-    {"clippedShare", "ID_Host_Figure_Clipped", Unit::Share},
-    {"humShare", "ID_Host_Figure_HumShare", Unit::Share},
-    {"humHz", "ID_Host_Figure_HumFrequency", Unit::Hertz},
-    {"bandwidthHz", "ID_Host_Figure_Bandwidth", Unit::Hertz},
-    {"volumeBefore", "ID_Host_Figure_VolumeBefore", Unit::Percent},
-    {"volumeAfter", "ID_Host_Figure_VolumeAfter", Unit::Percent},
-    {"mutedBefore", "ID_Host_Figure_MutedBefore", Unit::None},
-    {"mutedAfter", "ID_Host_Figure_MutedAfter", Unit::None},
-    {"movedByUser", "ID_Host_Figure_MovedByUser", Unit::None},
-    {"defaultBefore", "ID_Host_Figure_DefaultBefore", Unit::None},
-    {"defaultAfter", "ID_Host_Figure_DefaultAfter", Unit::None},
+    {FigureName::SoundHeard, Unit::None},      {FigureName::Seconds, Unit::Seconds},
+    {FigureName::Peak, Unit::Decibels},        {FigureName::NoiseFloor, Unit::Decibels},
+    {FigureName::ClippedShare, Unit::Share},   {FigureName::HumShare, Unit::Share},
+    {FigureName::HumFrequency, Unit::Hertz},   {FigureName::Bandwidth, Unit::Hertz},
+    {FigureName::VolumeBefore, Unit::Percent}, {FigureName::VolumeAfter, Unit::Percent},
+    {FigureName::MutedBefore, Unit::None},     {FigureName::MutedAfter, Unit::None},
+    {FigureName::MovedByUser, Unit::None},     {FigureName::DefaultBefore, Unit::None},
+    {FigureName::DefaultAfter, Unit::None},
 };
 
 QString number(double value, int decimals)
@@ -76,24 +57,27 @@ QString number(double value, int decimals)
 
 } // namespace
 
-const std::vector<Figure>& Figures::of(const QString& check)
+const std::vector<Figure>& Figures::of(CheckKind check)
 {
-    static const std::vector<Figure> none;
-    static const QMap<QString, const std::vector<Figure>*> lists = {
-        {QStringLiteral("network"), &NetworkFigures},
-        {QStringLiteral("camera"), &CameraFigures},
-        {QStringLiteral("speaker"), &SpeakerFigures},
-        {QStringLiteral("microphone"), &MicrophoneFigures}};
-    const auto found = lists.find(check);
-    return found == lists.end() ? none : **found;
+    switch (check) {
+    case CheckKind::Network:
+        break;
+    case CheckKind::Camera:
+        return CameraFigures;
+    case CheckKind::Speaker:
+        return SpeakerFigures;
+    case CheckKind::Microphone:
+        return MicrophoneFigures;
+    }
+    return NetworkFigures;
 }
 
-const Figure* Figures::find(const QString& check, const QString& key)
+const Figure* Figures::find(CheckKind check, const QString& key)
 {
+    const std::optional<FigureName> name = ReportWords::find<FigureName>(key);
     const std::vector<Figure>& list = of(check);
-    const auto found = std::find_if(list.begin(), list.end(), [&key](const Figure& figure) {
-        return key == QLatin1String(figure.key);
-    });
+    const auto found = std::find_if(list.begin(), list.end(),
+                                    [&name](const Figure& figure) { return name == figure.name; });
     return found == list.end() ? nullptr : &*found;
 }
 

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-#include <vector>
+#include "host/report/ReportWords.h"
 
 // The figures that a report lists of each check, whether they were taken or not.
 namespace Figures {
@@ -12,13 +11,12 @@ enum class Unit { None, Ms, Percent, Share, Pixels, PerSecond, Hertz, Decibels, 
 
 struct Figure
 {
-    const char* key;
-    const char* captionId; // of its caption
+    FigureName name;
     Unit unit;
 };
 
-const std::vector<Figure>& of(const QString& check);
-const Figure* find(const QString& check, const QString& key); // null for a figure of no list
+const std::vector<Figure>& of(CheckKind check);
+const Figure* find(CheckKind check, const QString& key); // null for a figure of no list
 // A value of the figure's unit as people read it, such as "37 ms"; a share as percent.
 QString toText(double value, Unit unit);
 

@@ -13,14 +13,14 @@ constexpr double GoodLossPercent = 1;
 constexpr double FairLossPercent = 3;
 constexpr double GoodJitterMs = 50;
 
-NetworkGrade::Line line(const char* key, double value, double goodUpTo, double fairUpTo,
+NetworkGrade::Line line(NetworkGrade::Figure figure, double value, double goodUpTo, double fairUpTo,
                         const char* source)
 {
     using Level = NetworkGrade::Level;
     const Level level = value <= goodUpTo   ? Level::Good
                         : value <= fairUpTo ? Level::Fair
                                             : Level::Poor;
-    return {QLatin1String(key), value, goodUpTo, fairUpTo, level, QLatin1String(source)};
+    return {figure, value, goodUpTo, fairUpTo, level, QLatin1String(source)};
 }
 
 } // namespace
@@ -32,9 +32,9 @@ NetworkGrade NetworkGrade::of(const Platform::NetworkFigures& figures)
     }
     NetworkGrade grade;
     grade.lines = {
-        line("oneWayDelayMs", figures.delayMs / 2.0, GoodDelayMs, FairDelayMs, "ITU-T G.114"),
-        line("lossPercent", figures.lossPercent, GoodLossPercent, FairLossPercent, "ITU-T G.1010"),
-        line("jitterMs", figures.jitterMs, GoodJitterMs, std::numeric_limits<double>::max(),
+        line(Figure::OneWayDelay, figures.delayMs / 2.0, GoodDelayMs, FairDelayMs, "ITU-T G.114"),
+        line(Figure::Loss, figures.lossPercent, GoodLossPercent, FairLossPercent, "ITU-T G.1010"),
+        line(Figure::Jitter, figures.jitterMs, GoodJitterMs, std::numeric_limits<double>::max(),
              "ITU-T Y.1541"),
     };
     const auto worst =
@@ -42,17 +42,4 @@ NetworkGrade NetworkGrade::of(const Platform::NetworkFigures& figures)
                          [](const Line& a, const Line& b) { return a.level < b.level; });
     grade.level = worst->level;
     return grade;
-}
-
-QString NetworkGrade::toString(Level level)
-{
-    switch (level) {
-    case Level::Good:
-        return QStringLiteral("good");
-    case Level::Fair:
-        return QStringLiteral("fair");
-    case Level::Poor:
-        return QStringLiteral("poor");
-    }
-    return {};
 }

@@ -12,11 +12,12 @@
 struct NetworkGrade
 {
     enum class Level { Good, Fair, Poor };
+    enum class Figure { OneWayDelay, Loss, Jitter };
 
     // One figure against its limits. The delay is one way: half of the round trip.
     struct Line
     {
-        QString key; // "oneWayDelayMs", "lossPercent", "jitterMs"
+        Figure figure = Figure::OneWayDelay;
         double value = 0;
         double goodUpTo = 0;
         double fairUpTo = 0; // as good as never reached where only one limit is published
@@ -29,5 +30,4 @@ struct NetworkGrade
 
     // Something must have been measured: a negative delay has no grade, and gives no lines.
     static NetworkGrade of(const Platform::NetworkFigures& figures);
-    static QString toString(Level level); // "good", "fair", "poor"
 };

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Redaction.h"
 
-#include "host/report/ReportTexts.h"
-
 #include <QMessageAuthenticationCode>
 
 namespace {
@@ -12,12 +10,20 @@ constexpr int CodeLength = 12;
 const QLatin1String Mark("#");
 // Facts of the machine that don't tell whose it is.
 const QStringList PlainFacts = {QStringLiteral("operatingSystem"), QStringLiteral("processor")};
-const QStringList PlainChanges = {QStringLiteral("verdict"), QStringLiteral("grade"),
-                                  QStringLiteral("delayMs"), QStringLiteral("operatingSystem")};
 
-QString levelName(Options::Redaction level)
+bool isPlain(ChangedThing what)
 {
-    return level == Options::Redaction::Hash ? QStringLiteral("hash") : QStringLiteral("personal");
+    switch (what) {
+    case ChangedThing::Verdict:
+    case ChangedThing::Grade:
+    case ChangedThing::Delay:
+    case ChangedThing::OperatingSystem:
+        return true;
+    case ChangedThing::Device:
+    case ChangedThing::Server:
+        break;
+    }
+    return false;
 }
 
 } // namespace
@@ -30,13 +36,13 @@ Report Redaction::redacted(const Report& report) const
 {
     // What is left out once doesn't come back.
     const bool isDone =
-        report.redaction == QLatin1String("personal") ||
-        (report.redaction == QLatin1String("hash") && m_level == Options::Redaction::Hash);
+        report.redaction == Options::Redaction::Personal ||
+        (report.redaction == Options::Redaction::Hash && m_level == Options::Redaction::Hash);
     if (m_level == Options::Redaction::None || isDone) {
         return report;
     }
     Report result = report;
-    result.redaction = levelName(m_level);
+    result.redaction = m_level;
     result.scenario = replaced(report.scenario);
     for (auto fact = result.facts.begin(); fact != result.facts.end(); ++fact) {
         if (!PlainFacts.contains(fact.key())) {
@@ -47,7 +53,7 @@ Report Redaction::redacted(const Report& report) const
         redactCheck(check);
     }
     for (ReportChange& change : result.changes) {
-        if (!PlainChanges.contains(change.what)) {
+        if (!isPlain(change.what)) {
             change.before = replaced(change.before);
             change.now = replaced(change.now);
         }
@@ -86,11 +92,10 @@ void Redaction::redactCheck(ReportCheck& check) const
 void Redaction::redactMeasurements(std::vector<Measurement>& measurements) const
 {
     for (Measurement& measurement : measurements) {
-        const bool isPlain = measurement.key == QLatin1String("soundPlayed");
-        if (!isPlain) {
+        if (ReportWords::find<FigureName>(measurement.key) != FigureName::SoundPlayed) {
             measurement.value = replacedValue(measurement.value);
         }
-        if (!ReportTexts::isReason(measurement.reason)) {
+        if (!ReportWords::find<Reason>(measurement.reason)) {
             measurement.reason = replaced(measurement.reason);
         }
     }

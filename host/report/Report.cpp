@@ -8,19 +8,6 @@
 namespace {
 
 const QLatin1String FormatName("envcheck-report");
-const QStringList Statuses = {QStringLiteral("measured"), QStringLiteral("notMeasured"),
-                              QStringLiteral("failed")};
-const QStringList Verdicts = {QStringLiteral("passed"), QStringLiteral("failed"),
-                              QStringLiteral("notTested")};
-const QStringList Answers = {QStringLiteral("yes"), QStringLiteral("no"), QStringLiteral("none")};
-const QStringList DeviceStates = {QStringLiteral("works"), QStringLiteral("fails"),
-                                  QStringLiteral("unknown")};
-const QStringList Outcomes = {QStringLiteral("passed"), QStringLiteral("failed"),
-                              QStringLiteral("leftEarly"), QStringLiteral("putOut")};
-const QStringList Platforms = {QStringLiteral("devices"), QStringLiteral("scripted")};
-const QStringList Redactions = {QStringLiteral("none"), QStringLiteral("personal"),
-                                QStringLiteral("hash")};
-const QStringList Levels = {QStringLiteral("good"), QStringLiteral("fair"), QStringLiteral("poor")};
 
 // Takes values out of an object, and keeps the first thing that is wrong with them.
 class Fields
@@ -33,14 +20,10 @@ public:
 
     QString text(const char* key) { return value(key, QJsonValue::String, "a text").toString(); }
 
-    QString oneOf(const char* key, const QStringList& words)
+    template <typename Value>
+    Value oneOf(const char* key)
     {
-        const QString word = text(key);
-        if (!words.contains(word)) {
-            fail(key, QStringLiteral("it is '%1', not one of %2")
-                          .arg(word, words.join(QLatin1String(", "))));
-        }
-        return word;
+        return valueOf<Value>(key, text(key));
     }
 
     double number(const char* key) { return value(key, QJsonValue::Double, "a number").toDouble(); }
@@ -88,15 +71,16 @@ public:
         return result;
     }
 
-    QStringList texts(const char* key)
+    template <typename Value>
+    std::vector<Value> listOf(const char* key)
     {
-        QStringList result;
+        std::vector<Value> result;
         const QJsonArray array = value(key, QJsonValue::Array, "a list").toArray();
         for (const QJsonValue& element : array) {
             if (!element.isString()) {
                 fail(key, QStringLiteral("it isn't a list of texts"));
             }
-            result << element.toString();
+            result.push_back(valueOf<Value>(key, element.toString()));
         }
         return result;
     }
@@ -110,6 +94,17 @@ public:
 
 private:
     QString placeOf(const char* key) const { return m_place + QLatin1String(key); }
+
+    template <typename Value>
+    Value valueOf(const char* key, const QString& word)
+    {
+        const std::optional<Value> found = ReportWords::find<Value>(word);
+        if (!found) {
+            fail(key, QStringLiteral("it is '%1', not one of %2")
+                          .arg(word, ReportWords::all<Value>().join(QLatin1String(", "))));
+        }
+        return found.value_or(Value());
+    }
 
     QJsonValue value(const char* key, QJsonValue::Type type, const char* typeName)
     {
@@ -138,6 +133,15 @@ QJsonArray toArray(const std::vector<Element>& elements,
     return array;
 }
 
+QJsonArray wordArray(const std::vector<Contradiction>& values)
+{
+    QJsonArray array;
+    for (const Contradiction value : values) {
+        array.append(ReportWords::of(value));
+    }
+    return array;
+}
+
 QString timeText(const QDateTime& time)
 {
     return time.toUTC().toString(Qt::ISODateWithMs);
@@ -145,9 +149,8 @@ QString timeText(const QDateTime& time)
 
 QJsonObject measurementToJson(const Measurement& measurement)
 {
-    QJsonObject object{
-        {QStringLiteral("key"), measurement.key},
-        {QStringLiteral("status"), Statuses.at(static_cast<int>(measurement.status))}};
+    QJsonObject object{{QStringLiteral("key"), measurement.key},
+                       {QStringLiteral("status"), ReportWords::of(measurement.status)}};
     if (measurement.status == Measurement::Status::Measured) {
         object.insert(QStringLiteral("value"), measurement.value);
     } else {
@@ -160,8 +163,7 @@ Measurement readMeasurement(Fields& fields)
 {
     Measurement measurement;
     measurement.key = fields.text("key");
-    measurement.status = static_cast<Measurement::Status>(
-        std::max(0, Statuses.indexOf(fields.oneOf("status", Statuses))));
+    measurement.status = fields.oneOf<FigureStatus>("status");
     if (measurement.status == Measurement::Status::Measured) {
         measurement.value = fields.any("value");
     } else {
@@ -173,13 +175,13 @@ Measurement readMeasurement(Fields& fields)
 QJsonObject checkToJson(const ReportCheck& check)
 {
     QJsonObject object{
-        {QStringLiteral("check"), check.key},
-        {QStringLiteral("verdict"), check.verdict},
-        {QStringLiteral("answer"), check.answer},
-        {QStringLiteral("deviceState"), check.deviceState},
+        {QStringLiteral("check"), ReportWords::of(check.kind)},
+        {QStringLiteral("verdict"), ReportWords::of(check.verdict)},
+        {QStringLiteral("answer"), ReportWords::of(check.answer)},
+        {QStringLiteral("deviceState"), ReportWords::of(check.deviceState)},
         {QStringLiteral("device"), check.device},
         {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
-        {QStringLiteral("contradictions"), QJsonArray::fromStringList(check.contradictions)}};
+        {QStringLiteral("contradictions"), wordArray(check.contradictions)}};
     if (!check.later.empty()) {
         object.insert(QStringLiteral("later"), toArray(check.later, measurementToJson));
     }
@@ -189,23 +191,23 @@ QJsonObject checkToJson(const ReportCheck& check)
 ReportCheck readCheck(Fields& fields)
 {
     ReportCheck check;
-    check.key = fields.text("check");
-    check.verdict = fields.oneOf("verdict", Verdicts);
-    check.answer = fields.oneOf("answer", Answers);
-    check.deviceState = fields.oneOf("deviceState", DeviceStates);
+    check.kind = fields.oneOf<CheckKind>("check");
+    check.verdict = fields.oneOf<Verdict>("verdict");
+    check.answer = fields.oneOf<Answer>("answer");
+    check.deviceState = fields.oneOf<SeenState>("deviceState");
     check.device = fields.text("device");
     check.measurements = fields.list<Measurement>("measurements", readMeasurement);
     if (fields.has("later")) {
         check.later = fields.list<Measurement>("later", readMeasurement);
     }
-    check.contradictions = fields.texts("contradictions");
+    check.contradictions = fields.listOf<Contradiction>("contradictions");
     return check;
 }
 
 QJsonObject gradeLineToJson(const GradeLine& line)
 {
-    QJsonObject object{{QStringLiteral("key"), line.key},
-                       {QStringLiteral("level"), line.level},
+    QJsonObject object{{QStringLiteral("key"), ReportWords::of(line.figure)},
+                       {QStringLiteral("level"), ReportWords::of(line.level)},
                        {QStringLiteral("value"), line.value},
                        {QStringLiteral("goodUpTo"), line.goodUpTo},
                        {QStringLiteral("source"), line.source}};
@@ -218,8 +220,8 @@ QJsonObject gradeLineToJson(const GradeLine& line)
 GradeLine readGradeLine(Fields& fields)
 {
     GradeLine line;
-    line.key = fields.text("key");
-    line.level = fields.oneOf("level", Levels);
+    line.figure = fields.oneOf<NetworkGrade::Figure>("key");
+    line.level = fields.oneOf<NetworkGrade::Level>("level");
     line.value = fields.number("value");
     line.goodUpTo = fields.number("goodUpTo");
     line.fairUpTo = fields.numberIfThere("fairUpTo");
@@ -229,22 +231,23 @@ GradeLine readGradeLine(Fields& fields)
 
 QJsonObject changeToJson(const ReportChange& change)
 {
-    return {{QStringLiteral("subject"), change.subject},
-            {QStringLiteral("what"), change.what},
+    return {{QStringLiteral("subject"), ReportWords::of(change.subject)},
+            {QStringLiteral("what"), ReportWords::of(change.what)},
             {QStringLiteral("before"), change.before},
             {QStringLiteral("now"), change.now}};
 }
 
 ReportChange readChange(Fields& fields)
 {
-    return {fields.text("subject"), fields.text("what"), fields.text("before"), fields.text("now")};
+    return {fields.oneOf<ChangeSubject>("subject"), fields.oneOf<ChangedThing>("what"),
+            fields.text("before"), fields.text("now")};
 }
 
 void readNetworkGrade(Fields& fields, Report& report, QString& error)
 {
     if (fields.has("networkGrade")) {
         Fields grade(fields.object("networkGrade"), QStringLiteral("networkGrade."), error);
-        report.grade = grade.oneOf("level", Levels);
+        report.grade = grade.oneOf<NetworkGrade::Level>("level");
         report.gradeLines = grade.list<GradeLine>("lines", readGradeLine);
     }
 }
@@ -260,18 +263,23 @@ void readChanges(Fields& fields, Report& report, QString& error)
 
 } // namespace
 
-const Measurement* ReportCheck::measurement(const QString& name) const
+const Measurement* ReportCheck::measurement(const QString& key) const
 {
     const auto found =
         std::find_if(measurements.begin(), measurements.end(),
-                     [&name](const Measurement& candidate) { return candidate.key == name; });
+                     [&key](const Measurement& candidate) { return candidate.key == key; });
     return found == measurements.end() ? nullptr : &*found;
 }
 
-const ReportCheck* Report::check(const QString& key) const
+const Measurement* ReportCheck::measurement(FigureName name) const
+{
+    return measurement(ReportWords::of(name));
+}
+
+const ReportCheck* Report::check(CheckKind kind) const
 {
     const auto found = std::find_if(checks.begin(), checks.end(),
-                                    [&key](const ReportCheck& c) { return c.key == key; });
+                                    [kind](const ReportCheck& c) { return c.kind == kind; });
     return found == checks.end() ? nullptr : &*found;
 }
 
@@ -288,17 +296,17 @@ QJsonObject Report::toJson() const
                        {QStringLiteral("started"), timeText(started)},
                        {QStringLiteral("finished"), timeText(finished)},
                        {QStringLiteral("language"), language},
-                       {QStringLiteral("platform"), platform},
-                       {QStringLiteral("redaction"), redaction},
-                       {QStringLiteral("outcome"), outcome},
+                       {QStringLiteral("platform"), ReportWords::of(platform)},
+                       {QStringLiteral("redaction"), ReportWords::of(redaction)},
+                       {QStringLiteral("outcome"), ReportWords::of(outcome)},
                        {QStringLiteral("system"), system},
                        {QStringLiteral("checks"), toArray(checks, checkToJson)}};
     if (!scenario.isEmpty()) {
         object.insert(QStringLiteral("scenario"), scenario);
     }
-    if (!grade.isEmpty()) {
+    if (grade) {
         object.insert(QStringLiteral("networkGrade"),
-                      QJsonObject{{QStringLiteral("level"), grade},
+                      QJsonObject{{QStringLiteral("level"), ReportWords::of(*grade)},
                                   {QStringLiteral("lines"), toArray(gradeLines, gradeLineToJson)}});
     }
     if (lastGoodRun) {
@@ -330,9 +338,9 @@ std::optional<Report> Report::fromJson(const QJsonObject& object, QString* error
     report.started = fields.time("started");
     report.finished = fields.time("finished");
     report.language = fields.text("language");
-    report.platform = fields.oneOf("platform", Platforms);
-    report.redaction = fields.oneOf("redaction", Redactions);
-    report.outcome = fields.oneOf("outcome", Outcomes);
+    report.platform = fields.oneOf<Options::Platform>("platform");
+    report.redaction = fields.oneOf<Options::Redaction>("redaction");
+    report.outcome = fields.oneOf<RunEnd>("outcome");
     report.scenario = fields.has("scenario") ? fields.text("scenario") : QString();
     report.facts = fields.object("system");
     Fields system(report.facts, QStringLiteral("system."), problem);

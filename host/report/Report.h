@@ -2,19 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/report/ReportWords.h"
+
 #include <QDateTime>
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 #include <optional>
 #include <vector>
 
 // One figure that an engine takes of a check, or why there is none.
 struct Measurement
 {
-    enum class Status { Measured, NotMeasured, Failed };
+    using Status = FigureStatus;
 
-    QString key;
+    QString key; // the word of a FigureName, or a name of the engine's own
     Status status = Status::NotMeasured;
     QJsonValue value; // where it was measured
     QString reason;   // where it wasn't: one of the words of docs/report-format.md, or the engine's
@@ -23,23 +24,24 @@ struct Measurement
 // One check of a run: what the user said and what was measured.
 struct ReportCheck
 {
-    QString key;                           // "network", "camera", "speaker", "microphone"
-    QString verdict;                       // "passed", "failed", "notTested"
-    QString answer;                        // "yes", "no", "none"; the network asks nothing
-    QString deviceState;                   // "works", "fails", "unknown"
-    QString device;                        // foreign text
-    std::vector<Measurement> measurements; // those that the verdict was made of
-    std::vector<Measurement> later;        // of those, what changed after the verdict
-    QStringList contradictions;            // between answer and measurements
+    CheckKind kind = CheckKind::Network;
+    Verdict verdict = Verdict::NotTested; // the one that the dialog showed last
+    Answer answer = Answer::None;         // the network asks nothing
+    SeenState deviceState = SeenState::Unknown;
+    QString device;                            // foreign text
+    std::vector<Measurement> measurements;     // those that the verdict was made of
+    std::vector<Measurement> later;            // of those, what changed after the verdict
+    std::vector<Contradiction> contradictions; // between answer and measurements
 
-    const Measurement* measurement(const QString& name) const; // null where it isn't listed
+    const Measurement* measurement(const QString& key) const; // null where it isn't listed
+    const Measurement* measurement(FigureName name) const;
 };
 
 // One line of the network's grade.
 struct GradeLine
 {
-    QString key;
-    QString level; // "good", "fair", "poor"
+    NetworkGrade::Figure figure = NetworkGrade::Figure::OneWayDelay;
+    NetworkGrade::Level level = NetworkGrade::Level::Good;
     double value = 0;
     double goodUpTo = 0;
     std::optional<double> fairUpTo;
@@ -49,9 +51,9 @@ struct GradeLine
 // What is different from the last good run.
 struct ReportChange
 {
-    QString subject; // a check, or "system"
-    QString what;    // "verdict", "device", "grade", "delayMs", "operatingSystem", "server"
-    QString before;
+    ChangeSubject subject = ChangeSubject::System;
+    ChangedThing what = ChangedThing::Verdict;
+    QString before; // a word of the verdict or the grade, a number, or foreign text
     QString now;
 };
 
@@ -66,21 +68,21 @@ struct Report
     QDateTime started;
     QDateTime finished;
     QString language;
-    QString platform;                           // "devices" or "scripted"
-    QString scenario;                           // of scripted devices
-    QString redaction = QStringLiteral("none"); // "none", "personal", "hash"
-    QString outcome;                            // "passed", "failed", "leftEarly", "putOut"
+    Options::Platform platform = Options::Platform::Devices;
+    QString scenario; // of scripted devices
+    Options::Redaction redaction = Options::Redaction::None;
+    RunEnd outcome = RunEnd::LeftEarly;
     // "account", "nickname", "operatingSystem", "processor", "server", "clientAddress", "cdn";
     // foreign texts, left out where they aren't known
     QJsonObject facts;
     std::optional<double> cacheFreeBytes;
     std::vector<ReportCheck> checks;
-    QString grade; // of the network; empty where nothing was measured
+    std::optional<NetworkGrade::Level> grade; // of the network; none where nothing was measured
     std::vector<GradeLine> gradeLines;
     std::optional<QDateTime> lastGoodRun;
     std::vector<ReportChange> changes;
 
-    const ReportCheck* check(const QString& key) const; // null where there is none
+    const ReportCheck* check(CheckKind kind) const; // null where there is none
     QJsonObject toJson() const;
     // Nothing where the object isn't a report; error then is one line that names the field.
     static std::optional<Report> fromJson(const QJsonObject& object, QString* error);

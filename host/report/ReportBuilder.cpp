@@ -5,6 +5,7 @@
 #include "host/report/Contradictions.h"
 #include "host/report/Figures.h"
 #include "host/report/NetworkGrade.h"
+#include "platform/backend/ResultCodes.h"
 #include "platform/backend/SystemFacts.h"
 
 #include <QCoreApplication>
@@ -13,44 +14,47 @@
 
 namespace {
 
-const QLatin1String NetworkKey("network");
 const QLatin1String StateKey("state");
 const QLatin1String DeviceKey("device");
 
-// The two ways in which an engine says itself why it has no figure.
-const QLatin1String FailedKey("failed");
-const QLatin1String NotMeasuredKey("notMeasured");
-
-QString outcomeWord(ExitCode code)
+RunEnd endOf(ExitCode code)
 {
     switch (code) {
     case ExitCode::AllPassed:
-        return QStringLiteral("passed");
+        return RunEnd::Passed;
     case ExitCode::SomeFailed:
-        return QStringLiteral("failed");
+        return RunEnd::Failed;
     case ExitCode::PutOut:
-        return QStringLiteral("putOut");
+        return RunEnd::PutOut;
     default:
-        return QStringLiteral("leftEarly");
+        return RunEnd::LeftEarly;
     }
 }
 
-QString verdictWord(CheckOutcome::Verdict verdict)
+Answer answerOf(int code)
 {
-    switch (verdict) {
-    case CheckOutcome::Verdict::Passed:
-        return QStringLiteral("passed");
-    case CheckOutcome::Verdict::Failed:
-        return QStringLiteral("failed");
-    case CheckOutcome::Verdict::NotTested:
+    switch (static_cast<Platform::AnswerCode>(code)) {
+    case Platform::AnswerCode::Yes:
+        return Answer::Yes;
+    case Platform::AnswerCode::No:
+        return Answer::No;
+    case Platform::AnswerCode::None:
         break;
     }
-    return QStringLiteral("notTested");
+    return Answer::None;
 }
 
-QString wordFor(int code, const QString& one, const QString& two, const QString& other)
+SeenState stateOf(int code)
 {
-    return code == 1 ? one : code == 2 ? two : other;
+    switch (static_cast<Platform::StateCode>(code)) {
+    case Platform::StateCode::Works:
+        return SeenState::Works;
+    case Platform::StateCode::Fails:
+        return SeenState::Fails;
+    case Platform::StateCode::Unknown:
+        break;
+    }
+    return SeenState::Unknown;
 }
 
 Measurement failed(const QString& key, const QString& reason)
@@ -63,58 +67,70 @@ Measurement notMeasured(const QString& key, const QString& reason)
     return {key, Measurement::Status::NotMeasured, {}, reason};
 }
 
+// The engine's own state of the device, if it explains why there is no figure.
+std::optional<Reason> stateIn(const QJsonObject& figures)
+{
+    return ReportWords::find<Reason>(figures.value(StateKey).toString());
+}
+
+bool isOneOf(std::optional<Reason> state, std::initializer_list<Reason> reasons)
+{
+    return state && std::find(reasons.begin(), reasons.end(), *state) != reasons.end();
+}
+
 // Why a figure that the report lists isn't among those of the check.
 Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpened)
 {
     if (figures.isEmpty() && !wasOpened) {
-        return notMeasured(key, QStringLiteral("stepNotOpened"));
+        return notMeasured(key, ReportWords::of(Reason::StepNotOpened));
     }
-    const QString state = figures.value(StateKey).toString();
-    const bool hasBroken = state == QLatin1String("failed") || state == QLatin1String("hung") ||
-                           state == QLatin1String("denied") || state == QLatin1String("busy");
-    if (hasBroken) {
-        return failed(key, state);
+    const std::optional<Reason> state = stateIn(figures);
+    if (isOneOf(state, {Reason::Failed, Reason::Hung, Reason::Denied, Reason::Busy})) {
+        return failed(key, ReportWords::of(*state));
     }
-    const bool isIdle = state == QLatin1String("absent") || state == QLatin1String("off") ||
-                        state == QLatin1String("silent");
-    return notMeasured(key, isIdle ? state : QStringLiteral("notRecorded"));
+    const bool isIdle = isOneOf(state, {Reason::Absent, Reason::Off, Reason::Silent});
+    return notMeasured(key, ReportWords::of(isIdle ? *state : Reason::NotRecorded));
 }
 
 // Nobody counted the pictures of a camera that could not be opened.
-bool isUncounted(const QString& key, const QJsonObject& figures)
+bool isUncounted(FigureName name, const QJsonObject& figures)
 {
-    static const QStringList closed = {QStringLiteral("absent"), QStringLiteral("off"),
-                                       QStringLiteral("denied"), QStringLiteral("busy")};
-    return key == QLatin1String("pictures") && figures.value(key).toDouble() == 0 &&
-           closed.contains(figures.value(StateKey).toString());
+    return name == FigureName::Pictures && figures.value(ReportWords::of(name)).toDouble() == 0 &&
+           isOneOf(stateIn(figures), {Reason::Absent, Reason::Off, Reason::Denied, Reason::Busy});
+}
+
+// The figures that only answers of the server give.
+bool isOfAnswers(const QString& key)
+{
+    const std::optional<FigureName> name = ReportWords::find<FigureName>(key);
+    return name == FigureName::Delay || name == FigureName::Delay5 || name == FigureName::Delay95 ||
+           name == FigureName::Jitter;
 }
 
 Measurement measurementOf(const QString& key, const QJsonObject& figures)
 {
     const QJsonValue value = figures.value(key);
-    const QJsonObject excuse = value.toObject();
-    if (excuse.contains(FailedKey)) {
-        return failed(key, excuse.value(FailedKey).toString());
-    }
-    if (excuse.contains(NotMeasuredKey)) {
-        return notMeasured(key, excuse.value(NotMeasuredKey).toString());
+    // An engine may say itself why it has no figure.
+    for (const FigureStatus status : {FigureStatus::Failed, FigureStatus::NotMeasured}) {
+        const QJsonValue excuse = value[ReportWords::of(status)];
+        if (!excuse.isUndefined()) {
+            return {key, status, {}, excuse.toString()};
+        }
     }
     // The network's way to say that nothing came back.
-    const bool isOfAnswers =
-        key.startsWith(QLatin1String("delay")) || key == QLatin1String("jitterMs");
-    if (isOfAnswers && figures.value(QLatin1String("delayMs")).toDouble() < 0) {
-        return failed(key, QStringLiteral("noAnswer"));
+    const QString delayKey = ReportWords::of(FigureName::Delay);
+    if (isOfAnswers(key) && figures.value(delayKey).toDouble() < 0) {
+        return failed(key, ReportWords::of(Reason::NoAnswer));
     }
     return {key, Measurement::Status::Measured, value, {}};
 }
 
-std::vector<Measurement> measurementsOf(const QString& check, const QJsonObject& figures,
-                                        bool wasOpened)
+std::vector<Measurement> measurementsOf(CheckKind check, const QJsonObject& figures, bool wasOpened)
 {
     std::vector<Measurement> result;
     for (const Figures::Figure& figure : Figures::of(check)) {
-        const QString key = QLatin1String(figure.key);
-        const bool isMissing = !figures.contains(key) || isUncounted(key, figures);
+        const QString key = ReportWords::of(figure.name);
+        const bool isMissing = !figures.contains(key) || isUncounted(figure.name, figures);
         result.push_back(isMissing ? missing(key, figures, wasOpened)
                                    : measurementOf(key, figures));
     }
@@ -144,7 +160,7 @@ std::vector<Measurement> laterOf(const ReportCheck& check, const QJsonObject& fi
         newest.insert(it.key(), it.value());
     }
     std::vector<Measurement> result;
-    for (const Measurement& measurement : measurementsOf(check.key, newest, true)) {
+    for (const Measurement& measurement : measurementsOf(check.kind, newest, true)) {
         const bool isNews = laterFigures.contains(measurement.key) &&
                             !isSame(measurement, check.measurement(measurement.key));
         if (isNews) {
@@ -158,15 +174,12 @@ ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
                     const QJsonObject& figures, const QJsonObject& laterFigures)
 {
     ReportCheck check;
-    check.key = outcome.key;
-    check.verdict = verdictWord(outcome.verdict);
-    check.answer = wordFor(values.value(QLatin1String("userState")).toInt(), QStringLiteral("yes"),
-                           QStringLiteral("no"), QStringLiteral("none"));
-    check.deviceState =
-        wordFor(values.value(QLatin1String("deviceState")).toInt(), QStringLiteral("works"),
-                QStringLiteral("fails"), QStringLiteral("unknown"));
-    check.device = outcome.key == NetworkKey ? QString() : outcome.device;
-    check.measurements = measurementsOf(outcome.key, figures, !values.isEmpty());
+    check.kind = outcome.check;
+    check.verdict = outcome.verdict;
+    check.answer = answerOf(values.value(QLatin1String("userState")).toInt());
+    check.deviceState = stateOf(values.value(QLatin1String("deviceState")).toInt());
+    check.device = outcome.check == CheckKind::Network ? QString() : outcome.device;
+    check.measurements = measurementsOf(outcome.check, figures, !values.isEmpty());
     check.later = laterOf(check, figures, laterFigures);
     check.contradictions = Contradictions::of(check);
     return check;
@@ -198,18 +211,18 @@ void addFacts(Report& report, const Platform::SystemFacts& facts)
 void addGrade(Report& report, const QJsonObject& figures)
 {
     Platform::NetworkFigures measured;
-    measured.delayMs = figures.value(QLatin1String("delayMs")).toInt(-1);
-    measured.lossPercent = figures.value(QLatin1String("lossPercent")).toInt();
-    measured.jitterMs = figures.value(QLatin1String("jitterMs")).toInt();
+    measured.delayMs = figures.value(ReportWords::of(FigureName::Delay)).toInt(measured.delayMs);
+    measured.lossPercent = figures.value(ReportWords::of(FigureName::Loss)).toInt();
+    measured.jitterMs = figures.value(ReportWords::of(FigureName::Jitter)).toInt();
     const NetworkGrade grade = NetworkGrade::of(measured);
     if (grade.lines.empty()) {
         return;
     }
-    report.grade = NetworkGrade::toString(grade.level);
+    report.grade = grade.level;
     for (const NetworkGrade::Line& line : grade.lines) {
         const bool isBounded = line.fairUpTo < std::numeric_limits<double>::max();
         report.gradeLines.push_back(
-            {line.key, NetworkGrade::toString(line.level), line.value, line.goodUpTo,
+            {line.figure, line.level, line.value, line.goodUpTo,
              isBounded ? std::optional<double>(line.fairUpTo) : std::nullopt, line.source});
     }
 }
@@ -230,13 +243,14 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
     report.language = run.language;
     report.platform = run.platform;
     report.scenario = run.scenario;
-    report.outcome = outcomeWord(outcome.exitCode);
+    report.outcome = endOf(outcome.exitCode);
     addFacts(report, facts);
     for (const CheckOutcome& check : outcome.checks) {
-        report.checks.push_back(checkOf(check, results.value(check.key).toObject(),
-                                        measurements.value(check.key).toObject(),
-                                        later.value(check.key).toObject()));
+        const QString key = ReportWords::of(check.check);
+        report.checks.push_back(checkOf(check, results.value(key).toObject(),
+                                        measurements.value(key).toObject(),
+                                        later.value(key).toObject()));
     }
-    addGrade(report, measurements.value(NetworkKey).toObject());
+    addGrade(report, measurements.value(ReportWords::of(CheckKind::Network)).toObject());
     return report;
 }

@@ -17,7 +17,7 @@ struct Run
     QDateTime started;
     QDateTime finished;
     QString language;
-    QString platform;
+    Options::Platform platform = Options::Platform::Devices;
     QString scenario;
 };
 

@@ -10,94 +10,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocale>
-#include <algorithm>
 
 namespace {
 
-// A word of the report's data and the id of its text.
-struct Word
+// What is no word of the enumeration is shown as it is.
+template <typename Value>
+QString textOf(const ReportTexts& texts, const QString& word)
 {
-    const char* word;
-    const char* id;
-};
-
-constexpr Word Outcomes[] = {
-    {"passed", "ID_Host_Outcome_Passed"},
-    {"failed", "ID_Host_Outcome_Failed"},
-    {"leftEarly", "ID_Host_Outcome_LeftEarly"},
-    {"putOut", "ID_Host_Outcome_PutOut"},
-};
-constexpr Word Verdicts[] = {
-    {"passed", "ID_CheckResultPage_Normal"},
-    {"failed", "ID_CheckResultPage_Abnormal"},
-    {"notTested", "ID_CameraPage_NotDetected"},
-};
-constexpr Word Answers[] = {
-    {"yes", "ID_Host_Yes"},
-    {"no", "ID_Host_No"},
-    {"none", "ID_Host_NoAnswer"},
-};
-constexpr Word Grades[] = {
-    {"good", "ID_Host_Grade_Good"},
-    {"fair", "ID_Host_Grade_Fair"},
-    {"poor", "ID_Host_Grade_Poor"},
-};
-constexpr Word Checks[] = {
-    {"network", "ID_CheckResultPage_System"},    {"camera", "ID_Camera_Check"},
-    {"speaker", "ID_CheckResultPage_Headphone"}, {"microphone", "ID_Microphone_Check"},
-    {"system", "ID_Host_Report_System"},
-};
-constexpr Word ContradictionTexts[] = {
-    {"yesWithoutPictures", "ID_Host_Flag_YesWithoutPictures"},
-    {"yesToBlackPicture", "ID_Host_Flag_YesToBlackPicture"},
-    {"yesToFrozenPicture", "ID_Host_Flag_YesToFrozenPicture"},
-    {"noToGoodPicture", "ID_Host_Flag_NoToGoodPicture"},
-    {"yesToWrongSound", "ID_Host_Flag_YesToWrongSound"},
-    {"yesToMutedSpeaker", "ID_Host_Flag_YesToMutedSpeaker"},
-    {"noToRightSound", "ID_Host_Flag_NoToRightSound"},
-    {"yesToSilence", "ID_Host_Flag_YesToSilence"},
-    {"noToGoodSound", "ID_Host_Flag_NoToGoodSound"},
-};
-constexpr Word Reasons[] = {
-    {"stepNotOpened", "ID_Host_Reason_StepNotOpened"},
-    {"notRecorded", "ID_Host_Reason_NotRecorded"},
-    {"scripted", "ID_Host_Reason_Scripted"},
-    {"absent", "ID_Host_Reason_Absent"},
-    {"off", "ID_Host_Reason_Off"},
-    {"silent", "ID_Host_Reason_Silent"},
-    {"denied", "ID_Host_Reason_Denied"},
-    {"busy", "ID_Host_Reason_Busy"},
-    {"hung", "ID_Host_Reason_Hung"},
-    {"failed", "ID_Host_Reason_Failed"},
-    {"noAnswer", "ID_Host_Reason_NoAnswer"},
-};
-constexpr Word Changed[] = {
-    {"verdict", "ID_Host_Report_Result"},
-    {"device", "ID_Host_Report_Device"},
-    {"grade", "ID_Host_Grade"},
-    {"delayMs", "ID_Host_Figure_Delay"},
-    {"operatingSystem", "ID_NetworkPage_OS"},
-    {"server", "ID_NewLogin_Server"},
-};
-// Figures of the grade that aren't figures of the network check.
-constexpr Word GradeFigures[] = {
-    {"oneWayDelayMs", "ID_Host_Figure_OneWayDelay"},
-};
-
-template <std::size_t Size>
-const char* idOf(const Word (&words)[Size], const QString& word)
-{
-    const auto* found = std::find_if(std::begin(words), std::end(words), [&word](const Word& each) {
-        return word == QLatin1String(each.word);
-    });
-    return found == std::end(words) ? nullptr : found->id;
-}
-
-template <std::size_t Size>
-QString textOf(const ReportTexts& texts, const Word (&words)[Size], const QString& word)
-{
-    const char* id = idOf(words, word);
-    return id ? texts.caption(id) : word;
+    const std::optional<Value> value = ReportWords::find<Value>(word);
+    return value ? texts.of(*value) : word;
 }
 
 } // namespace
@@ -125,56 +46,24 @@ QString ReportTexts::caption(const char* id) const
     return (hasColon ? found.left(found.size() - 1) : found).trimmed();
 }
 
-QString ReportTexts::outcome(const QString& word) const
-{
-    return textOf(*this, Outcomes, word);
-}
-
-QString ReportTexts::verdict(const QString& word) const
-{
-    return textOf(*this, Verdicts, word);
-}
-
-QString ReportTexts::answer(const QString& word) const
-{
-    return textOf(*this, Answers, word);
-}
-
-QString ReportTexts::grade(const QString& word) const
-{
-    return textOf(*this, Grades, word);
-}
-
-QString ReportTexts::checkName(const QString& key) const
-{
-    return textOf(*this, Checks, key);
-}
-
-QString ReportTexts::contradiction(const QString& word) const
-{
-    return textOf(*this, ContradictionTexts, word);
-}
-
 QString ReportTexts::reason(const QString& word) const
 {
-    return textOf(*this, Reasons, word);
+    return textOf<Reason>(*this, word);
 }
 
-QString ReportTexts::changed(const QString& what) const
+QString ReportTexts::changedValue(ChangedThing what, const QString& value) const
 {
-    return textOf(*this, Changed, what);
-}
-
-QString ReportTexts::changedValue(const QString& what, const QString& value) const
-{
-    if (what == QLatin1String("verdict")) {
-        return verdict(value);
-    }
-    if (what == QLatin1String("grade")) {
-        return grade(value);
-    }
-    if (what == QLatin1String("delayMs")) {
+    switch (what) {
+    case ChangedThing::Verdict:
+        return textOf<Verdict>(*this, value);
+    case ChangedThing::Grade:
+        return textOf<NetworkGrade::Level>(*this, value);
+    case ChangedThing::Delay:
         return Figures::toText(value.toDouble(), Figures::Unit::Ms);
+    case ChangedThing::Device:
+    case ChangedThing::OperatingSystem:
+    case ChangedThing::Server:
+        break;
     }
     return value;
 }
@@ -190,19 +79,16 @@ QString ReportTexts::yesOrNo(bool isYes) const
     return text(isYes ? "ID_Host_Yes" : "ID_Host_No");
 }
 
-QString ReportTexts::captionOf(const QString& check, const QString& figure) const
+QString ReportTexts::captionOf(CheckKind check, const QString& figure) const
 {
     const Figures::Figure* known = Figures::find(check, figure);
-    return known ? caption(known->captionId) : textOf(*this, GradeFigures, figure);
+    return known ? of(known->name) : figure;
 }
 
-QString ReportTexts::valueOf(const QString& check, const Measurement& measurement) const
+QString ReportTexts::valueOf(CheckKind check, const Measurement& measurement) const
 {
-    if (measurement.status == Measurement::Status::NotMeasured) {
-        return text("ID_Host_NotMeasured").arg(reason(measurement.reason));
-    }
-    if (measurement.status == Measurement::Status::Failed) {
-        return text("ID_Host_MeasuringFailed").arg(reason(measurement.reason));
+    if (measurement.status != FigureStatus::Measured) {
+        return text(ReportWords::textId(measurement.status)).arg(reason(measurement.reason));
     }
     const Figures::Figure* known = Figures::find(check, measurement.key);
     switch (measurement.value.type()) {
@@ -212,7 +98,7 @@ QString ReportTexts::valueOf(const QString& check, const Measurement& measuremen
         return Figures::toText(measurement.value.toDouble(),
                                known ? known->unit : Figures::Unit::None);
     case QJsonValue::String:
-        return measurement.key == QLatin1String("soundPlayed")
+        return known && known->name == FigureName::SoundPlayed
                    ? soundName(measurement.value.toString())
                    : measurement.value.toString();
     case QJsonValue::Array:
@@ -226,9 +112,4 @@ QString ReportTexts::valueOf(const QString& check, const Measurement& measuremen
         break;
     }
     return {};
-}
-
-bool ReportTexts::isReason(const QString& word)
-{
-    return idOf(Reasons, word) != nullptr;
 }

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QStringList>
+#include "host/report/ReportWords.h"
+
 #include <QTranslator>
 
 struct Measurement;
@@ -18,21 +19,18 @@ public:
     QString text(const char* id) const;
     QString caption(const char* id) const; // without the colon that some captions end in
 
-    QString outcome(const QString& word) const;
-    QString verdict(const QString& word) const;
-    QString answer(const QString& word) const;
-    QString grade(const QString& word) const;
-    QString checkName(const QString& key) const;
-    QString contradiction(const QString& word) const;
+    // What people read in the place of a word of the report.
+    template <typename Value>
+    QString of(Value value) const
+    {
+        return caption(ReportWords::textId(value));
+    }
     QString reason(const QString& word) const; // the word itself where there is no text of it
-    QString changed(const QString& what) const;
-    QString changedValue(const QString& what, const QString& value) const;
+    QString changedValue(ChangedThing what, const QString& value) const;
     QString soundName(const QString& baseName) const; // as the speaker's answers have it
     QString yesOrNo(bool isYes) const;
-    QString captionOf(const QString& check, const QString& figure) const;
-    QString valueOf(const QString& check, const Measurement& measurement) const;
-
-    static bool isReason(const QString& word);
+    QString captionOf(CheckKind check, const QString& figure) const;
+    QString valueOf(CheckKind check, const Measurement& measurement) const;
 
 private:
     QString m_language;

@@ -63,46 +63,45 @@ private:
         return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss t"));
     }
 
-    static Mark verdictMark(const QString& verdict)
+    template <typename Value> // a verdict, or the end of a run
+    static Mark mark(Value value)
     {
-        return verdict == QLatin1String("passed")   ? Mark::Good
-               : verdict == QLatin1String("failed") ? Mark::Bad
-                                                    : Mark::Notice;
+        return value == Value::Passed   ? Mark::Good
+               : value == Value::Failed ? Mark::Bad
+                                        : Mark::Notice;
     }
 
-    static Mark gradeMark(const QString& level)
+    static Mark mark(NetworkGrade::Level level)
     {
-        return level == QLatin1String("good")   ? Mark::Good
-               : level == QLatin1String("poor") ? Mark::Bad
-                                                : Mark::Notice;
+        return level == NetworkGrade::Level::Good   ? Mark::Good
+               : level == NetworkGrade::Level::Poor ? Mark::Bad
+                                                    : Mark::Notice;
     }
 
     void addSummary()
     {
         addSection(m_texts.text("ID_Host_Report_Summary"));
         add("ID_Host_Report_Time", timeText(m_report.finished));
-        add("ID_Host_Report_Outcome", m_texts.outcome(m_report.outcome),
-            verdictMark(m_report.outcome));
+        add("ID_Host_Report_Outcome", m_texts.of(m_report.outcome), mark(m_report.outcome));
         for (const ReportCheck& check : m_report.checks) {
-            add(m_texts.checkName(check.key), m_texts.verdict(check.verdict),
-                verdictMark(check.verdict));
-            for (const QString& word : check.contradictions) {
+            add(m_texts.of(check.kind), m_texts.of(check.verdict), mark(check.verdict));
+            for (const Contradiction flag : check.contradictions) {
                 add("ID_Host_Report_Contradiction",
-                    m_texts.checkName(check.key) + QStringLiteral(": ") +
-                        m_texts.contradiction(word),
-                    Mark::Notice);
+                    m_texts.of(check.kind) + QStringLiteral(": ") + m_texts.of(flag), Mark::Notice);
             }
         }
-        if (!m_report.grade.isEmpty()) {
-            add("ID_Host_Grade", m_texts.grade(m_report.grade), gradeMark(m_report.grade));
+        if (m_report.grade) {
+            add("ID_Host_Grade", m_texts.of(*m_report.grade), mark(*m_report.grade));
         }
-        if (m_report.platform == QLatin1String("scripted")) {
-            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Report_Scripted"), Mark::Notice);
-        }
-        if (m_report.redaction == QLatin1String("personal")) {
-            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Redacted_Personal"), Mark::Notice);
-        } else if (m_report.redaction == QLatin1String("hash")) {
-            add("ID_Host_Report_Notice", m_texts.text("ID_Host_Redacted_Hash"), Mark::Notice);
+        addNotice(m_report.platform);
+        addNotice(m_report.redaction);
+    }
+
+    template <typename Value>
+    void addNotice(Value value)
+    {
+        if (const char* id = ReportWords::textId(value)) {
+            add("ID_Host_Report_Notice", m_texts.text(id), Mark::Notice);
         }
     }
 
@@ -120,8 +119,7 @@ private:
         for (const ReportChange& change : m_report.changes) {
             const QString arrow =
                 m_view.isRightToLeft ? QStringLiteral(" ← ") : QStringLiteral(" → ");
-            add(m_texts.checkName(change.subject) + QStringLiteral(", ") +
-                    m_texts.changed(change.what),
+            add(m_texts.of(change.subject) + QStringLiteral(", ") + m_texts.of(change.what),
                 changedText(change, change.before) + arrow + changedText(change, change.now),
                 Mark::Notice);
         }
@@ -158,33 +156,42 @@ private:
 
     void addCheck(const ReportCheck& check)
     {
-        addSection(m_texts.checkName(check.key));
-        add("ID_Host_Report_Result", m_texts.verdict(check.verdict), verdictMark(check.verdict));
-        const bool isNetwork = check.key == QLatin1String("network");
+        addSection(m_texts.of(check.kind));
+        add("ID_Host_Report_Result", m_texts.of(check.verdict), mark(check.verdict));
+        const bool isNetwork = check.kind == CheckKind::Network;
         if (!isNetwork) {
-            add("ID_Host_Report_Answer", m_texts.answer(check.answer));
+            add("ID_Host_Report_Answer", m_texts.of(check.answer));
         }
         if (!check.device.isEmpty()) {
             add("ID_Host_Report_Device", check.device);
         }
-        for (const QString& word : check.contradictions) {
-            add("ID_Host_Report_Contradiction", m_texts.contradiction(word), Mark::Notice);
+        for (const Contradiction flag : check.contradictions) {
+            add("ID_Host_Report_Contradiction", m_texts.of(flag), Mark::Notice);
         }
         addMeasurements(check);
-        if (check.key == QLatin1String("speaker")) {
-            add("ID_Host_Report_RightSound", rightSoundText(check));
+        // The check sees no more of a speaker than whether the sound was recognised.
+        if (check.kind == CheckKind::Speaker) {
+            add("ID_Host_Report_RightSound", m_texts.of(check.deviceState));
         }
-        if (isNetwork && !m_report.grade.isEmpty()) {
+        addLater(check);
+        if (isNetwork && m_report.grade) {
             addGrade();
         }
     }
 
-    // The check sees no more of a speaker than whether the sound was recognised.
-    QString rightSoundText(const ReportCheck& check) const
+    void addLater(const ReportCheck& check)
     {
-        return check.deviceState == QLatin1String("unknown")
-                   ? m_texts.answer(QStringLiteral("none"))
-                   : m_texts.yesOrNo(check.deviceState == QLatin1String("works"));
+        QStringList figures;
+        for (const Measurement& measurement : check.later) {
+            const QString value = m_texts.valueOf(check.kind, measurement);
+            if (!value.isEmpty()) {
+                figures << m_texts.captionOf(check.kind, measurement.key) + QStringLiteral(": ") +
+                               value;
+            }
+        }
+        if (!figures.isEmpty()) {
+            add("ID_Host_Report_Later", figures.join(QStringLiteral("; ")));
+        }
     }
 
     // Where the same is true of all figures it is said once.
@@ -197,23 +204,23 @@ private:
             });
         if (areAllMissing && !check.measurements.empty()) {
             add("ID_Host_Report_Measurements",
-                m_texts.valueOf(check.key, check.measurements.front()));
+                m_texts.valueOf(check.kind, check.measurements.front()));
             return;
         }
         for (const Measurement& measurement : check.measurements) {
-            const QString value = m_texts.valueOf(check.key, measurement);
+            const QString value = m_texts.valueOf(check.kind, measurement);
             // A name that was left out leaves no row behind.
             if (!value.isEmpty()) {
-                add(m_texts.captionOf(check.key, measurement.key), value);
+                add(m_texts.captionOf(check.kind, measurement.key), value);
             }
         }
     }
 
     void addGrade()
     {
-        add("ID_Host_Grade", m_texts.grade(m_report.grade), gradeMark(m_report.grade));
+        add("ID_Host_Grade", m_texts.of(*m_report.grade), mark(*m_report.grade));
         for (const GradeLine& line : m_report.gradeLines) {
-            const Figures::Unit unit = line.key == QLatin1String("lossPercent")
+            const Figures::Unit unit = line.figure == NetworkGrade::Figure::Loss
                                            ? Figures::Unit::Percent
                                            : Figures::Unit::Ms;
             QString limits =
@@ -222,11 +229,11 @@ private:
                 limits += QStringLiteral(", ") + m_texts.text("ID_Host_Grade_FairUpTo")
                                                      .arg(Figures::toText(*line.fairUpTo, unit));
             }
-            add(m_texts.captionOf(QStringLiteral("network"), line.key),
+            add(m_texts.of(line.figure),
                 QStringLiteral("%1: %2 (%3; %4)")
-                    .arg(Figures::toText(line.value, unit), m_texts.grade(line.level), limits,
+                    .arg(Figures::toText(line.value, unit), m_texts.of(line.level), limits,
                          line.source),
-                gradeMark(line.level));
+                mark(line.level));
         }
     }
 

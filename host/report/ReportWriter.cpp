@@ -26,7 +26,8 @@ const char* const Style =
     "[dir=rtl] th,[dir=rtl] td{text-align:right}"
     "article+article{border-top:2px solid #595959;margin-top:3em}";
 
-constexpr const char* CheckKeys[] = {"network", "camera", "speaker", "microphone"};
+constexpr CheckKind Checks[] = {CheckKind::Network, CheckKind::Camera, CheckKind::Speaker,
+                                CheckKind::Microphone};
 
 // The language that was asked for, then English unless it is that.
 QStringList languagesOf(const QString& language)
@@ -133,14 +134,14 @@ QStringList roomRow(const Report& report, const QString& name, const ReportTexts
 {
     QStringList row = {Console::plainLine(name),
                        Console::plainLine(report.facts.value(QLatin1String("account")).toString()),
-                       texts.outcome(report.outcome)};
-    int contradictions = 0;
-    for (const char* key : CheckKeys) {
-        const ReportCheck* check = report.check(QLatin1String(key));
-        row << (check ? texts.verdict(check->verdict) : QStringLiteral("-"));
+                       texts.of(report.outcome)};
+    std::size_t contradictions = 0;
+    for (const CheckKind kind : Checks) {
+        const ReportCheck* check = report.check(kind);
+        row << (check ? texts.of(check->verdict) : QStringLiteral("-"));
         contradictions += check ? check->contradictions.size() : 0;
     }
-    row << (report.grade.isEmpty() ? QStringLiteral("-") : texts.grade(report.grade))
+    row << (report.grade ? texts.of(*report.grade) : QStringLiteral("-"))
         << QString::number(contradictions);
     return row;
 }
@@ -193,13 +194,13 @@ QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStr
     const ReportTexts texts(language);
     QStringList head = {QStringLiteral("#"), texts.caption("ID_NetworkPage_Account"),
                         texts.caption("ID_Host_Report_Outcome")};
-    for (const char* check : CheckKeys) {
-        head << texts.checkName(QLatin1String(check));
+    for (const CheckKind check : Checks) {
+        head << texts.of(check);
     }
     head << texts.caption("ID_Host_Grade") << texts.caption("ID_Host_Report_Contradiction");
     std::vector<QStringList> rows = {head};
     for (std::size_t i = 0; i < reports.size(); ++i) {
-        const bool isNamed = reports[i].redaction == QLatin1String("none");
+        const bool isNamed = reports[i].redaction == Options::Redaction::None;
         rows.push_back(roomRow(
             reports[i], isNamed ? names.at(static_cast<int>(i)) : QString::number(i + 1), texts));
     }

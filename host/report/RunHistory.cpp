@@ -15,39 +15,50 @@ const QLatin1String PlatformKey("platform");
 const QLatin1String OutcomeKey("outcome");
 const QLatin1String FinishedKey("finished");
 const QLatin1String ChecksKey("checks");
-const QLatin1String VerdictKey("verdict");
-const QLatin1String DeviceKey("device");
-const QLatin1String GradeKey("grade");
-const QLatin1String DelayKey("delayMs");
-const QLatin1String SystemKey("operatingSystem");
-const QLatin1String ServerKey("server");
-const QLatin1String Passed("passed");
-const QLatin1String NetworkCheck("network");
+
+using ReportWords::of;
+
+ChangeSubject subjectOf(CheckKind check)
+{
+    switch (check) {
+    case CheckKind::Network:
+        return ChangeSubject::Network;
+    case CheckKind::Camera:
+        return ChangeSubject::Camera;
+    case CheckKind::Speaker:
+        return ChangeSubject::Speaker;
+    case CheckKind::Microphone:
+        return ChangeSubject::Microphone;
+    }
+    return ChangeSubject::System;
+}
 
 // The run as its line in the file.
 QJsonObject lineOf(const Report& report, const QString& file)
 {
     QJsonObject checks;
     for (const ReportCheck& check : report.checks) {
-        QJsonObject values{{VerdictKey, check.verdict}, {DeviceKey, check.device}};
-        if (check.key == NetworkCheck) {
-            const Measurement* delay = check.measurement(DelayKey);
-            values.insert(GradeKey, report.grade);
-            values.insert(DelayKey, delay ? delay->value : QJsonValue());
+        QJsonObject values{{of(ChangedThing::Verdict), of(check.verdict)},
+                           {of(ChangedThing::Device), check.device}};
+        if (check.kind == CheckKind::Network) {
+            const Measurement* delay = check.measurement(FigureName::Delay);
+            values.insert(of(ChangedThing::Grade), report.grade ? of(*report.grade) : QString());
+            values.insert(of(ChangedThing::Delay), delay ? delay->value : QJsonValue());
         }
-        checks.insert(check.key, values);
+        checks.insert(of(check.kind), values);
     }
-    return {{QStringLiteral("id"), report.id},
-            {FinishedKey, report.finished.toUTC().toString(Qt::ISODateWithMs)},
-            {PlatformKey, report.platform},
-            {OutcomeKey, report.outcome},
-            {SystemKey, report.facts.value(SystemKey)},
-            {ServerKey, report.facts.value(ServerKey)},
-            {ChecksKey, checks},
-            {QStringLiteral("report"), file}};
+    return {
+        {QStringLiteral("id"), report.id},
+        {FinishedKey, report.finished.toUTC().toString(Qt::ISODateWithMs)},
+        {PlatformKey, of(report.platform)},
+        {OutcomeKey, of(report.outcome)},
+        {of(ChangedThing::OperatingSystem), report.facts.value(of(ChangedThing::OperatingSystem))},
+        {of(ChangedThing::Server), report.facts.value(of(ChangedThing::Server))},
+        {ChecksKey, checks},
+        {QStringLiteral("report"), file}};
 }
 
-QJsonObject lastGoodLine(const QString& path, const QString& platform)
+QJsonObject lastGoodLine(const QString& path, Options::Platform platform)
 {
     QFile file(path);
     QJsonObject found;
@@ -57,7 +68,8 @@ QJsonObject lastGoodLine(const QString& path, const QString& platform)
     while (!file.atEnd()) {
         // A line that can't be read isn't a good run.
         const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
-        if (line.value(PlatformKey) == platform && line.value(OutcomeKey) == Passed) {
+        if (line.value(PlatformKey) == of(platform) &&
+            line.value(OutcomeKey) == of(RunEnd::Passed)) {
             found = line;
         }
     }
@@ -80,39 +92,40 @@ public:
 
     void addSystem()
     {
-        addText(QStringLiteral("system"), SystemKey, m_before, m_now);
-        addText(QStringLiteral("system"), ServerKey, m_before, m_now);
+        addText(ChangeSubject::System, ChangedThing::OperatingSystem, m_before, m_now);
+        addText(ChangeSubject::System, ChangedThing::Server, m_before, m_now);
     }
 
-    void addCheck(const QString& key)
+    void addCheck(CheckKind check)
     {
-        const QJsonObject before = m_before.value(ChecksKey).toObject().value(key).toObject();
-        const QJsonObject now = m_now.value(ChecksKey).toObject().value(key).toObject();
-        addText(key, VerdictKey, before, now);
-        addText(key, DeviceKey, before, now);
-        addText(key, GradeKey, before, now);
-        if (before.value(DelayKey).isDouble() && now.value(DelayKey).isDouble()) {
-            const double delayBefore = before.value(DelayKey).toDouble();
-            const double delayNow = now.value(DelayKey).toDouble();
-            if (isNoticeable(delayBefore, delayNow)) {
-                add(key, DelayKey, QString::number(delayBefore), QString::number(delayNow));
-            }
+        const ChangeSubject subject = subjectOf(check);
+        const QJsonObject before = m_before.value(ChecksKey)[of(check)].toObject();
+        const QJsonObject now = m_now.value(ChecksKey)[of(check)].toObject();
+        addText(subject, ChangedThing::Verdict, before, now);
+        addText(subject, ChangedThing::Device, before, now);
+        addText(subject, ChangedThing::Grade, before, now);
+        const QJsonValue delayBefore = before.value(of(ChangedThing::Delay));
+        const QJsonValue delayNow = now.value(of(ChangedThing::Delay));
+        if (delayBefore.isDouble() && delayNow.isDouble() &&
+            isNoticeable(delayBefore.toDouble(), delayNow.toDouble())) {
+            add(subject, ChangedThing::Delay, QString::number(delayBefore.toDouble()),
+                QString::number(delayNow.toDouble()));
         }
     }
 
 private:
     // What wasn't known at one of the times can't have changed.
-    void addText(const QString& subject, const QString& what, const QJsonObject& before,
+    void addText(ChangeSubject subject, ChangedThing what, const QJsonObject& before,
                  const QJsonObject& now)
     {
-        const QString textBefore = before.value(what).toString();
-        const QString textNow = now.value(what).toString();
+        const QString textBefore = before.value(of(what)).toString();
+        const QString textNow = now.value(of(what)).toString();
         if (!textBefore.isEmpty() && !textNow.isEmpty() && textBefore != textNow) {
             add(subject, what, textBefore, textNow);
         }
     }
 
-    void add(const QString& subject, const QString& what, const QString& before, const QString& now)
+    void add(ChangeSubject subject, ChangedThing what, const QString& before, const QString& now)
     {
         m_report.changes.push_back({subject, what, before, now});
     }
@@ -156,7 +169,7 @@ void RunHistory::compare(Report& report) const
     Comparison comparison(before, lineOf(report, QString()), report);
     comparison.addSystem();
     for (const ReportCheck& check : report.checks) {
-        comparison.addCheck(check.key);
+        comparison.addCheck(check.kind);
     }
 }
 

@@ -34,19 +34,20 @@ std::optional<int> numberIn(const QString& text, QLatin1String unit)
 // The step of the network is over once another one has recorded anything.
 bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
 {
-    // A camera is measured from when its step is left, and only then.
-    return results.contains(QLatin1String("camera")) ||
-           results.contains(QLatin1String("speaker")) ||
-           results.contains(QLatin1String("microphone")) ||
-           measurements.contains(QLatin1String("camera"));
+    const auto hasResults = [&results](CheckKind check) {
+        return results.contains(ReportWords::of(check));
+    };
+    // The figures of a camera are recorded when its step is left.
+    return hasResults(CheckKind::Camera) || hasResults(CheckKind::Speaker) ||
+           hasResults(CheckKind::Microphone) ||
+           measurements.contains(ReportWords::of(CheckKind::Camera));
 }
 
 // The page writes its two texts whenever it compares its two figures, so that the last texts give
 // the verdict that it has now. Before the first figures it counts as failed, once it was left.
 CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
 {
-    CheckOutcome check{QStringLiteral("network"), qtTrId("ID_CheckResultPage_System"),
-                       CheckOutcome::Verdict::NotTested, QString()};
+    CheckOutcome check;
     const QString delay = values.value(QLatin1String("delay")).toString();
     const QString loss = values.value(QLatin1String("loss")).toString();
     if (!delay.isEmpty()) {
@@ -54,23 +55,22 @@ CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
         const std::optional<int> lossPercent = numberIn(loss, LossUnit);
         const bool isGood =
             delayMs && lossPercent && NetworkLimits::arePassed(*delayMs, *lossPercent);
-        check.verdict = isGood ? CheckOutcome::Verdict::Passed : CheckOutcome::Verdict::Failed;
+        check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
         check.device = delay + QLatin1String(", ") + loss;
     } else if (wasLeft) {
-        check.verdict = CheckOutcome::Verdict::Failed;
+        check.verdict = Verdict::Failed;
     }
     return check;
 }
 
-CheckOutcome deviceOutcome(const QString& key, const QString& name, const QJsonObject& values)
+CheckOutcome deviceOutcome(CheckKind kind, const QJsonObject& values)
 {
-    CheckOutcome check{key, name, CheckOutcome::Verdict::NotTested,
-                       values.value(QLatin1String("device")).toString()};
+    CheckOutcome check{kind, Verdict::NotTested, values.value(QLatin1String("device")).toString()};
     const auto answer = static_cast<AnswerCode>(values.value(QLatin1String("userState")).toInt());
     const auto state = static_cast<StateCode>(values.value(QLatin1String("deviceState")).toInt());
     if (answer != AnswerCode::None) {
         const bool isGood = answer == AnswerCode::Yes && state == StateCode::Works;
-        check.verdict = isGood ? CheckOutcome::Verdict::Passed : CheckOutcome::Verdict::Failed;
+        check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
     }
     return check;
 }
@@ -79,26 +79,17 @@ CheckOutcome deviceOutcome(const QString& key, const QString& name, const QJsonO
 // sound was picked; that it has gone since then shows in the name alone.
 CheckOutcome speakerOutcome(const QJsonObject& values)
 {
-    CheckOutcome check =
-        deviceOutcome(QStringLiteral("speaker"), qtTrId("ID_CheckResultPage_Headphone"), values);
-    if (check.verdict == CheckOutcome::Verdict::Passed &&
-        LumSpeaker::isNoneDeviceText(check.device)) {
-        check.verdict = CheckOutcome::Verdict::Failed;
+    CheckOutcome check = deviceOutcome(CheckKind::Speaker, values);
+    if (check.verdict == Verdict::Passed && LumSpeaker::isNoneDeviceText(check.device)) {
+        check.verdict = Verdict::Failed;
     }
     return check;
 }
 
-QString verdictText(CheckOutcome::Verdict verdict)
+template <typename Value>
+QString textOf(Value value)
 {
-    switch (verdict) {
-    case CheckOutcome::Verdict::Passed:
-        return qtTrId("ID_CheckResultPage_Normal");
-    case CheckOutcome::Verdict::Failed:
-        return qtTrId("ID_CheckResultPage_Abnormal");
-    case CheckOutcome::Verdict::NotTested:
-        break;
-    }
-    return qtTrId("ID_CameraPage_NotDetected");
+    return qtTrId(ReportWords::textId(value));
 }
 
 } // namespace
@@ -106,17 +97,16 @@ QString verdictText(CheckOutcome::Verdict verdict)
 RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
 {
     const QJsonObject results = document.value(QLatin1String("results")).toObject();
-    const auto values = [&results](const char* check) {
-        return results.value(QLatin1String(check)).toObject();
+    const auto values = [&results](CheckKind check) {
+        return results.value(ReportWords::of(check)).toObject();
     };
     RunOutcome outcome;
     const QJsonObject measurements = document.value(QLatin1String("measurements")).toObject();
     outcome.checks = {
-        networkOutcome(values("network"), wasNetworkLeft(results, measurements)),
-        deviceOutcome(QStringLiteral("camera"), qtTrId("ID_Camera_Check"), values("camera")),
-        speakerOutcome(values("speaker")),
-        deviceOutcome(QStringLiteral("microphone"), qtTrId("ID_Microphone_Check"),
-                      values("microphone")),
+        networkOutcome(values(CheckKind::Network), wasNetworkLeft(results, measurements)),
+        deviceOutcome(CheckKind::Camera, values(CheckKind::Camera)),
+        speakerOutcome(values(CheckKind::Speaker)),
+        deviceOutcome(CheckKind::Microphone, values(CheckKind::Microphone)),
     };
     const QJsonArray codes = document.value(QLatin1String("codes")).toArray();
     if (wasPutOut) {
@@ -125,9 +115,8 @@ RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
         outcome.exitCode = ExitCode::LeftEarly;
     } else {
         const bool areAllPassed =
-            std::all_of(outcome.checks.begin(), outcome.checks.end(), [](const CheckOutcome& c) {
-                return c.verdict == CheckOutcome::Verdict::Passed;
-            });
+            std::all_of(outcome.checks.begin(), outcome.checks.end(),
+                        [](const CheckOutcome& c) { return c.verdict == Verdict::Passed; });
         outcome.exitCode = areAllPassed ? ExitCode::AllPassed : ExitCode::SomeFailed;
     }
     return outcome;
@@ -139,14 +128,14 @@ QString RunOutcome::toText() const
     int nameWidth = 0;
     int verdictWidth = 0;
     for (const CheckOutcome& check : checks) {
-        nameWidth = std::max(nameWidth, Console::columns(check.name) + Gap);
-        verdictWidth = std::max(verdictWidth, Console::columns(verdictText(check.verdict)) + Gap);
+        nameWidth = std::max(nameWidth, Console::columns(textOf(check.check)) + Gap);
+        verdictWidth = std::max(verdictWidth, Console::columns(textOf(check.verdict)) + Gap);
     }
     QString text;
     QTextStream stream(&text);
     for (const CheckOutcome& check : checks) {
-        stream << Console::padded(check.name, nameWidth)
-               << Console::padded(verdictText(check.verdict), verdictWidth)
+        stream << Console::padded(textOf(check.check), nameWidth)
+               << Console::padded(textOf(check.verdict), verdictWidth)
                << Console::plainLine(check.device) << '\n';
     }
     stream.flush();

@@ -3,18 +3,17 @@
 #pragma once
 
 #include "host/ExitCode.h"
+#include "host/report/ReportWords.h"
 
 #include <QJsonObject>
 #include <QString>
 #include <vector>
 
-// One row of the result: a check, its verdict and what was recorded of it.
+// One row of the result: a check, the verdict that the dialog showed last, and what was recorded
+// of it.
 struct CheckOutcome
 {
-    enum class Verdict { Passed, Failed, NotTested };
-
-    QString key;  // "network", "camera", "speaker", "microphone"
-    QString name; // translated
+    CheckKind check = CheckKind::Network;
     Verdict verdict = Verdict::NotTested;
     QString device; // the device's name, or the figures of the network; foreign text
 };

@@ -543,6 +543,10 @@
         <source></source>
         <translation>رقم التقرير</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>قيس لاحقًا</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>القياسات</translation>

@@ -543,6 +543,10 @@
         <source></source>
         <translation>Berichtsnummer</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Später gemessen</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Messwerte</translation>

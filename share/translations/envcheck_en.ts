@@ -543,6 +543,10 @@
         <source></source>
         <translation>Report number</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Measured later</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Measurements</translation>

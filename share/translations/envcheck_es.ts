@@ -543,6 +543,10 @@
         <source></source>
         <translation>Número de informe</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Medido después</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Mediciones</translation>

@@ -543,6 +543,10 @@
         <source></source>
         <translation>Numéro du rapport</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Mesuré plus tard</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Mesures</translation>

@@ -543,6 +543,10 @@
         <source></source>
         <translation>レポート番号</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>その後の測定値</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>測定値</translation>

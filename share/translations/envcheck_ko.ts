@@ -543,6 +543,10 @@
         <source></source>
         <translation>보고서 번호</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>이후 측정값</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>측정값</translation>

@@ -543,6 +543,10 @@
         <source></source>
         <translation>Número do relatório</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Medido depois</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Medições</translation>

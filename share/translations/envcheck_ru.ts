@@ -543,6 +543,10 @@
         <source></source>
         <translation>Номер отчёта</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Измерено позже</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Измерения</translation>

@@ -543,6 +543,10 @@
         <source></source>
         <translation>Mã báo cáo</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>Đo sau đó</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>Số đo</translation>

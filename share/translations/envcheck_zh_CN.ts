@@ -543,6 +543,10 @@
         <source></source>
         <translation>报告编号</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>之后的测量值</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>测量值</translation>

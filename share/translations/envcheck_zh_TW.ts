@@ -543,6 +543,10 @@
         <source></source>
         <translation>報告編號</translation>
     </message>
+    <message id="ID_Host_Report_Later">
+        <source></source>
+        <translation>之後的測量值</translation>
+    </message>
     <message id="ID_Host_Report_Measurements">
         <source></source>
         <translation>測量值</translation>

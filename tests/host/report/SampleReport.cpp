@@ -9,13 +9,13 @@ Measurement measured(const char* key, const QJsonValue& value)
     return {QLatin1String(key), Measurement::Status::Measured, value, {}};
 }
 
-ReportCheck check(const char* key, const char* answer, const char* device)
+ReportCheck check(CheckKind kind, Answer answer, const char* device)
 {
     ReportCheck result;
-    result.key = QLatin1String(key);
-    result.verdict = QStringLiteral("passed");
-    result.answer = QLatin1String(answer);
-    result.deviceState = QStringLiteral("works");
+    result.kind = kind;
+    result.verdict = Verdict::Passed;
+    result.answer = answer;
+    result.deviceState = SeenState::Works;
     result.device = QString::fromUtf8(device);
     return result;
 }
@@ -30,8 +30,8 @@ Report sampleReport()
     report.started = QDateTime(QDate(2026, 3, 1), QTime(8, 30), Qt::UTC);
     report.finished = QDateTime(QDate(2026, 3, 1), QTime(8, 33, 20, 250), Qt::UTC);
     report.language = QStringLiteral("de");
-    report.platform = QStringLiteral("devices");
-    report.outcome = QStringLiteral("passed");
+    report.platform = Options::Platform::Devices;
+    report.outcome = RunEnd::Passed;
     report.facts = {{QStringLiteral("account"), QStringLiteral("robin@example.org")},
                     {QStringLiteral("nickname"), QStringLiteral("Robin <b>B</b>")},
                     {QStringLiteral("operatingSystem"), QStringLiteral("Debian GNU/Linux 12")},
@@ -40,10 +40,12 @@ Report sampleReport()
                     {QStringLiteral("clientAddress"), QStringLiteral("192.0.2.7")},
                     {QStringLiteral("cdn"), QStringLiteral("edge-1/edge-2")}};
     report.cacheFreeBytes = 1536.0 * 1024 * 1024;
-    ReportCheck network = check("network", "none", "");
+    ReportCheck network = check(CheckKind::Network, Answer::None, "");
     network.measurements = {measured("delayMs", 40), measured("jitterMs", 3),
                             measured("lossPercent", 2)};
-    ReportCheck camera = check("camera", "yes", "Robin's <script>alert(1)</script> & \"camera\"");
+    network.later = {measured("lossPercent", 84), measured("lens", QStringLiteral("Robin's net"))};
+    ReportCheck camera =
+        check(CheckKind::Camera, Answer::Yes, "Robin's <script>alert(1)</script> & \"camera\"");
     camera.measurements = {
         measured("rate", 29.97),
         measured("blackShare", 0.75),
@@ -53,23 +55,24 @@ Report sampleReport()
          {},
          QStringLiteral("notRecorded")},
         {QStringLiteral("width"), Measurement::Status::Failed, {}, QStringLiteral("hung")}};
-    camera.contradictions << QStringLiteral("yesToBlackPicture");
-    ReportCheck speaker = check("speaker", "no", "Headset of Robin");
+    camera.contradictions = {Contradiction::YesToBlackPicture};
+    ReportCheck speaker = check(CheckKind::Speaker, Answer::No, "Headset of Robin");
     speaker.measurements = {measured("mutedAfter", false), measured("volumeAfter", 60),
                             measured("soundPlayed", QStringLiteral("Thunder"))};
-    report.checks = {network, camera, speaker, check("microphone", "yes", "Mic \x1b[31m of Robin")};
-    report.grade = QStringLiteral("fair");
-    report.gradeLines = {{QStringLiteral("oneWayDelayMs"), QStringLiteral("good"), 20, 150, 400,
-                          QStringLiteral("ITU-T G.114")},
-                         {QStringLiteral("lossPercent"), QStringLiteral("fair"), 2, 1, 3,
+    report.checks = {network, camera, speaker,
+                     check(CheckKind::Microphone, Answer::Yes, "Mic \x1b[31m of Robin")};
+    report.grade = NetworkGrade::Level::Fair;
+    report.gradeLines = {{NetworkGrade::Figure::OneWayDelay, NetworkGrade::Level::Good, 20, 150,
+                          400, QStringLiteral("ITU-T G.114")},
+                         {NetworkGrade::Figure::Loss, NetworkGrade::Level::Fair, 2, 1, 3,
                           QStringLiteral("ITU-T G.1010")},
-                         {QStringLiteral("jitterMs"), QStringLiteral("good"), 3, 50, std::nullopt,
-                          QStringLiteral("ITU-T Y.1541")}};
+                         {NetworkGrade::Figure::Jitter, NetworkGrade::Level::Good, 3, 50,
+                          std::nullopt, QStringLiteral("ITU-T Y.1541")}};
     report.lastGoodRun = QDateTime(QDate(2026, 2, 1), QTime(9, 0), Qt::UTC);
-    report.changes = {{QStringLiteral("camera"), QStringLiteral("device"),
+    report.changes = {{ChangeSubject::Camera, ChangedThing::Device,
                        QStringLiteral("Old camera of Robin"),
                        QStringLiteral("New camera of Robin")},
-                      {QStringLiteral("network"), QStringLiteral("grade"), QStringLiteral("good"),
+                      {ChangeSubject::Network, ChangedThing::Grade, QStringLiteral("good"),
                        QStringLiteral("fair")}};
     return report;
 }

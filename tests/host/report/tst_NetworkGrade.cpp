@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/report/NetworkGrade.h"
+#include "host/report/ReportWords.h"
 #include "platform/backend/NetworkLimits.h"
 
 #include <QtTest>
@@ -46,7 +47,7 @@ void tst_NetworkGrade::levels()
     QFETCH(int, loss);
     QFETCH(int, jitter);
     const NetworkGrade grade = NetworkGrade::of({loss, delay, jitter, 50, 50});
-    QTEST(NetworkGrade::toString(grade.level), "level");
+    QTEST(ReportWords::of(grade.level), "level");
 }
 
 void tst_NetworkGrade::nothingMeasured()

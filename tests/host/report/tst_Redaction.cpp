@@ -79,10 +79,10 @@ void tst_Redaction::whatSaysNothingOfAPersonStays()
     QCOMPARE(report.grade, before.grade);
     QCOMPARE(report.facts.value(QStringLiteral("operatingSystem")),
              before.facts.value(QStringLiteral("operatingSystem")));
-    const ReportCheck* camera = report.check(QStringLiteral("camera"));
+    const ReportCheck* camera = report.check(CheckKind::Camera);
     QCOMPARE(camera->measurement(QStringLiteral("rate"))->value.toDouble(), 29.97);
     QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
-    QCOMPARE(camera->contradictions, before.check(QStringLiteral("camera"))->contradictions);
+    QCOMPARE(camera->contradictions, before.check(CheckKind::Camera)->contradictions);
     QCOMPARE(report.changes.at(1).before, QStringLiteral("good"));
 }
 
@@ -103,13 +103,13 @@ void tst_Redaction::whatIsGoneStaysGone()
 {
     const Report personal = redacted(Options::Redaction::Personal);
     const Redaction hash(Options::Redaction::Hash, Key);
-    QCOMPARE(hash.redacted(personal).redaction, QStringLiteral("personal"));
+    QCOMPARE(hash.redacted(personal).redaction, Options::Redaction::Personal);
     const Report codes = redacted(Options::Redaction::Hash);
     QCOMPARE(hash.redacted(codes).toJson(), codes.toJson());
     QCOMPARE(Redaction(Options::Redaction::Personal, Key).redacted(codes).redaction,
-             QStringLiteral("personal"));
+             Options::Redaction::Personal);
     QCOMPARE(Redaction(Options::Redaction::None, Key).redacted(personal).redaction,
-             QStringLiteral("personal"));
+             Options::Redaction::Personal);
 }
 
 QTEST_GUILESS_MAIN(tst_Redaction)

@@ -88,7 +88,7 @@ void tst_Report::theThreeKindsOfFigures()
     QString error;
     const std::optional<Report> read = Report::fromJson(sampleReport().toJson(), &error);
     QVERIFY2(read, qPrintable(error));
-    const ReportCheck* camera = read->check(QStringLiteral("camera"));
+    const ReportCheck* camera = read->check(CheckKind::Camera);
     QVERIFY(camera);
     QCOMPARE(camera->measurement(QStringLiteral("rate"))->status, Measurement::Status::Measured);
     QCOMPARE(camera->measurement(QStringLiteral("rate"))->value.toDouble(), 29.97);
@@ -96,7 +96,10 @@ void tst_Report::theThreeKindsOfFigures()
              Measurement::Status::NotMeasured);
     QCOMPARE(camera->measurement(QStringLiteral("width"))->status, Measurement::Status::Failed);
     QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
-    QVERIFY(!camera->measurement(QStringLiteral("height")));
+    QVERIFY(!camera->measurement(FigureName::Height));
+    const ReportCheck* network = read->check(CheckKind::Network);
+    QCOMPARE(network->measurement(FigureName::Loss)->value.toDouble(), 2.0);
+    QCOMPARE(network->later.at(0).value.toDouble(), 84.0);
 }
 
 void tst_Report::unknownFiguresAreCarriedAlong()
@@ -104,7 +107,7 @@ void tst_Report::unknownFiguresAreCarriedAlong()
     QString error;
     const std::optional<Report> read = Report::fromJson(sampleReport().toJson(), &error);
     QVERIFY2(read, qPrintable(error));
-    const ReportCheck* camera = read->check(QStringLiteral("camera"));
+    const ReportCheck* camera = read->check(CheckKind::Camera);
     QCOMPARE(camera->measurement(QStringLiteral("lens"))->value.toString(),
              QStringLiteral("Robin's lens"));
 }
@@ -118,7 +121,7 @@ void tst_Report::isValidBySchema_data()
     bare.facts = {};
     bare.cacheFreeBytes.reset();
     bare.checks.clear();
-    bare.grade.clear();
+    bare.grade.reset();
     bare.lastGoodRun.reset();
     QTest::newRow("whole") << good << true;
     QTest::newRow("bare") << bare.toJson() << true;
@@ -175,6 +178,9 @@ void tst_Report::brokenOnesAreNamed_data()
     QTest::newRow("a figure without a key")
         << withCheckValue(good, QStringLiteral("measurements"), QJsonArray{QJsonObject()})
         << "checks[0].measurements[0].key: it is missing";
+    QTest::newRow("an unknown contradiction")
+        << withCheckValue(good, QStringLiteral("contradictions"), QJsonArray{QStringLiteral("?")})
+        << "checks[0].contradictions: it is '?'";
     QTest::newRow("contradictions of numbers")
         << withCheckValue(good, QStringLiteral("contradictions"), QJsonArray{1})
         << "checks[0].contradictions: ";

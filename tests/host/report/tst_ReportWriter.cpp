@@ -11,6 +11,8 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
+Q_DECLARE_METATYPE(SeenState)
+
 class tst_ReportWriter : public QObject
 {
     Q_OBJECT
@@ -133,6 +135,18 @@ void tst_ReportWriter::textAndHtmlShowTheSame()
     }
 }
 
+// Each word of the enumeration is read as a text of the language.
+template <typename Value>
+void compareTexts(const ReportTexts& texts)
+{
+    for (const auto& each : ReportWords::table<Value>()) {
+        const QString text = texts.of(each.value);
+        QVERIFY2(!text.isEmpty() && text != QLatin1String(each.word) &&
+                     !text.startsWith(QLatin1String("ID_")),
+                 each.word);
+    }
+}
+
 void tst_ReportWriter::everyWordHasAText_data()
 {
     everyLanguageHasItsTwin_data();
@@ -142,20 +156,15 @@ void tst_ReportWriter::everyWordHasAText()
 {
     QFETCH(QString, language);
     const ReportTexts texts(language);
-    const auto isText = [](const QString& text, const QString& word) {
-        return !text.isEmpty() && text != word && !text.startsWith(QLatin1String("ID_"));
-    };
-    for (const char* each : {"passed", "failed", "leftEarly", "putOut"}) {
-        QVERIFY2(isText(texts.outcome(QLatin1String(each)), QLatin1String(each)), each);
-    }
-    for (const char* each : {"yesWithoutPictures", "yesToBlackPicture", "yesToFrozenPicture",
-                             "noToGoodPicture", "yesToWrongSound", "yesToMutedSpeaker",
-                             "noToRightSound", "yesToSilence", "noToGoodSound"}) {
-        QVERIFY2(isText(texts.contradiction(QLatin1String(each)), QLatin1String(each)), each);
-    }
-    for (const char* each : {"stepNotOpened", "notRecorded", "scripted", "absent", "off", "silent",
-                             "denied", "busy", "hung", "failed", "noAnswer"}) {
-        QVERIFY2(isText(texts.reason(QLatin1String(each)), QLatin1String(each)), each);
+    compareTexts<RunEnd>(texts);
+    compareTexts<Verdict>(texts);
+    compareTexts<Answer>(texts);
+    compareTexts<FigureName>(texts);
+    compareTexts<Contradiction>(texts);
+    compareTexts<ChangedThing>(texts);
+    compareTexts<Reason>(texts);
+    for (const QString& word : ReportWords::all<Reason>()) {
+        QCOMPARE(texts.reason(word), texts.of(*ReportWords::find<Reason>(word)));
     }
     QCOMPARE(texts.reason(QStringLiteral("<own words>")), QStringLiteral("<own words>"));
     QVERIFY(!texts.caption("ID_NetworkPage_Account").endsWith(QLatin1Char(':')));
@@ -171,6 +180,7 @@ void tst_ReportWriter::theThreeKindsReadDifferently()
         text.contains(QLatin1String("Picture width measuring failed: the device did not answer")));
     QVERIFY(text.contains(QLatin1String("Black pictures 75 %")));
     QVERIFY(text.contains(QLatin1String("lens Robin's lens")));
+    QVERIFY(text.contains(QLatin1String("Measured later Packet loss: 84 %; lens: Robin's net")));
     QVERIFY(text.contains(QLatin1String("20 ms: good (good up to 150 ms, fair up to 400 ms; "
                                         "ITU-T G.114)")));
     QVERIFY(
@@ -179,23 +189,20 @@ void tst_ReportWriter::theThreeKindsReadDifferently()
 
 void tst_ReportWriter::soundPlayedAndPicked_data()
 {
-    QTest::addColumn<QString>("deviceState");
+    QTest::addColumn<SeenState>("deviceState");
     QTest::addColumn<QString>("germanRow");
     QTest::addColumn<QString>("englishRow");
-    QTest::newRow("right") << "works"
-                           << "Richtiger Ton gewählt Ja"
+    QTest::newRow("right") << SeenState::Works << "Richtiger Ton gewählt Ja"
                            << "Right sound picked Yes";
-    QTest::newRow("wrong") << "fails"
-                           << "Richtiger Ton gewählt Nein"
+    QTest::newRow("wrong") << SeenState::Fails << "Richtiger Ton gewählt Nein"
                            << "Right sound picked No";
-    QTest::newRow("not asked") << "unknown"
-                               << "Richtiger Ton gewählt Keine Antwort"
+    QTest::newRow("not asked") << SeenState::Unknown << "Richtiger Ton gewählt Keine Antwort"
                                << "Right sound picked No answer";
 }
 
 void tst_ReportWriter::soundPlayedAndPicked()
 {
-    QFETCH(QString, deviceState);
+    QFETCH(SeenState, deviceState);
     QFETCH(QString, germanRow);
     QFETCH(QString, englishRow);
     Report report = sampleReport();
@@ -229,10 +236,10 @@ void tst_ReportWriter::whatIsLeftOutHasNoRow()
 void tst_ReportWriter::roomTable()
 {
     Report second = sampleReport();
-    second.redaction = QStringLiteral("personal");
+    second.redaction = Options::Redaction::Personal;
     second.facts = {};
     second.checks.clear();
-    second.grade.clear();
+    second.grade.reset();
     QCOMPARE(ReportWriter::toRoomTable({sampleReport(), second},
                                        {QStringLiteral("seat-1"), QStringLiteral("robins-file")},
                                        QStringLiteral("en")),

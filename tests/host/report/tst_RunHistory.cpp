@@ -92,10 +92,10 @@ void tst_RunHistory::lastGoodRunCounts()
     append(good);
     Report later = good;
     later.finished = QDateTime(QDate(2026, 1, 3), QTime(10, 0), Qt::UTC);
-    later.outcome = QStringLiteral("failed");
+    later.outcome = RunEnd::Failed;
     append(later);
-    later.outcome = QStringLiteral("passed");
-    later.platform = QStringLiteral("scripted");
+    later.outcome = RunEnd::Passed;
+    later.platform = Options::Platform::Scripted;
     append(later);
     const Report report = compared(sampleReport());
     QCOMPARE(report.lastGoodRun, std::optional<QDateTime>(good.finished));
@@ -106,15 +106,16 @@ void tst_RunHistory::whatChanged()
 {
     append(sampleReport());
     Report now = withDelay(400);
-    now.grade = QStringLiteral("poor");
-    now.checks[0].verdict = QStringLiteral("failed");
+    now.grade = NetworkGrade::Level::Poor;
+    now.checks[0].verdict = Verdict::Failed;
     now.checks[1].device = QStringLiteral("Another camera");
     now.facts.insert(QStringLiteral("operatingSystem"), QStringLiteral("Debian GNU/Linux 13"));
     now.facts.remove(QStringLiteral("server"));
     QStringList lines;
     for (const ReportChange& change : compared(now).changes) {
-        lines << QStringList{change.subject, change.what, change.before, change.now}.join(
-            QLatin1Char('|'));
+        lines << QStringList{ReportWords::of(change.subject), ReportWords::of(change.what),
+                             change.before, change.now}
+                     .join(QLatin1Char('|'));
     }
     QCOMPARE(lines.join(QLatin1Char('\n')),
              QStringLiteral("system|operatingSystem|Debian GNU/Linux 12|Debian GNU/Linux 13\n"

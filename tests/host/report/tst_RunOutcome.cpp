@@ -19,6 +19,9 @@ private Q_SLOTS:
     void exitCodes();
     void network_data();
     void network();
+    void networkLeftUnmeasured();
+    void speakerGone_data();
+    void speakerGone();
     void devices_data();
     void devices();
     void table();
@@ -96,8 +99,8 @@ void tst_RunOutcome::network_data()
     QTest::addColumn<QString>("delay");
     QTest::addColumn<QString>("loss");
     QTest::addColumn<int>("verdict");
-    const int passed = static_cast<int>(CheckOutcome::Verdict::Passed);
-    const int failed = static_cast<int>(CheckOutcome::Verdict::Failed);
+    const int passed = static_cast<int>(Verdict::Passed);
+    const int failed = static_cast<int>(Verdict::Failed);
     QTest::newRow("499 ms") << "499ms"
                             << "0%" << passed;
     QTest::newRow("500 ms") << "500ms"
@@ -109,8 +112,11 @@ void tst_RunOutcome::network_data()
     QTest::newRow("71 %") << "37ms"
                           << "71%" << failed;
     QTest::newRow("no loss known") << "37ms" << QString() << failed;
-    QTest::newRow("never shown") << QString() << QString()
-                                 << static_cast<int>(CheckOutcome::Verdict::NotTested);
+    QTest::newRow("below 0") << "-5ms"
+                             << "-1%" << passed; // as the step compares
+    QTest::newRow("no number") << "ms"
+                               << "0%" << failed;
+    QTest::newRow("never shown") << QString() << QString() << static_cast<int>(Verdict::NotTested);
 }
 
 void tst_RunOutcome::network()
@@ -119,8 +125,37 @@ void tst_RunOutcome::network()
     QFETCH(QString, loss);
     const QJsonObject document = with(with({}, "network", "delay", delay), "network", "loss", loss);
     const CheckOutcome check = RunOutcome::fromDocument(document, false).checks.at(0);
-    QCOMPARE(check.key, QStringLiteral("network"));
+    QCOMPARE(check.check, CheckKind::Network);
     QTEST(static_cast<int>(check.verdict), "verdict");
+}
+
+// The dialog counts the network as failed as soon as it says anything of it.
+void tst_RunOutcome::networkLeftUnmeasured()
+{
+    const QJsonObject document = with({}, "camera", "userState", 0);
+    QVERIFY(RunOutcome::fromDocument(document, false).checks.at(0).verdict == Verdict::Failed);
+    const QJsonObject camera{{QStringLiteral("camera"), QJsonObject{{QStringLiteral("x"), 1}}}};
+    QVERIFY(RunOutcome::fromDocument({{QStringLiteral("measurements"), camera}}, false)
+                .checks.at(0)
+                .verdict == Verdict::Failed);
+}
+
+void tst_RunOutcome::speakerGone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<ExitCode>("code");
+    QTest::newRow("none there") << qtTrId("ID_Engine_NoSpeaker") << ExitCode::SomeFailed;
+    QTest::newRow("none chosen") << qtTrId("ID_Engine_NoSpeakerSelected") << ExitCode::SomeFailed;
+    QTest::newRow("called alike") << qtTrId("ID_Engine_NoSpeaker") + QStringLiteral(" (2)")
+                                  << ExitCode::AllPassed;
+    QTest::newRow("no name") << QString() << ExitCode::AllPassed;
+}
+
+void tst_RunOutcome::speakerGone()
+{
+    QFETCH(QString, name);
+    const QJsonObject document = with(documentWhereAllPassed(), "speaker", "device", name);
+    QTEST(RunOutcome::fromDocument(document, false).exitCode, "code");
 }
 
 void tst_RunOutcome::devices_data()
@@ -128,10 +163,10 @@ void tst_RunOutcome::devices_data()
     QTest::addColumn<int>("answer");
     QTest::addColumn<int>("state");
     QTest::addColumn<int>("verdict");
-    QTest::newRow("yes, works") << 1 << 1 << static_cast<int>(CheckOutcome::Verdict::Passed);
-    QTest::newRow("yes, fails") << 1 << 2 << static_cast<int>(CheckOutcome::Verdict::Failed);
-    QTest::newRow("no, works") << 2 << 1 << static_cast<int>(CheckOutcome::Verdict::Failed);
-    QTest::newRow("no answer") << 0 << 1 << static_cast<int>(CheckOutcome::Verdict::NotTested);
+    QTest::newRow("yes, works") << 1 << 1 << static_cast<int>(Verdict::Passed);
+    QTest::newRow("yes, fails") << 1 << 2 << static_cast<int>(Verdict::Failed);
+    QTest::newRow("no, works") << 2 << 1 << static_cast<int>(Verdict::Failed);
+    QTest::newRow("no answer") << 0 << 1 << static_cast<int>(Verdict::NotTested);
 }
 
 void tst_RunOutcome::devices()
@@ -142,9 +177,10 @@ void tst_RunOutcome::devices()
         const QJsonObject document =
             with(with({}, key, "userState", answer), key, "deviceState", state);
         const RunOutcome outcome = RunOutcome::fromDocument(document, false);
-        const auto check =
-            std::find_if(outcome.checks.begin(), outcome.checks.end(),
-                         [key](const CheckOutcome& c) { return c.key == QLatin1String(key); });
+        const auto check = std::find_if(outcome.checks.begin(), outcome.checks.end(),
+                                        [key](const CheckOutcome& c) {
+                                            return ReportWords::of(c.check) == QLatin1String(key);
+                                        });
         QVERIFY(check != outcome.checks.end());
         QTEST(static_cast<int>(check->verdict), "verdict");
     }

@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/report/ReportWords.h"
+
+namespace ReportWords {
+
+template <>
+const std::vector<Word<CheckKind>>& table()
+{
+    static const std::vector<Word<CheckKind>> words = {
+        {CheckKind::Network, "network", "ID_CheckResultPage_System"},
+        {CheckKind::Camera, "camera", "ID_Camera_Check"},
+        {CheckKind::Speaker, "speaker", "ID_CheckResultPage_Headphone"},
+        {CheckKind::Microphone, "microphone", "ID_Microphone_Check"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<RunEnd>>& table()
+{
+    static const std::vector<Word<RunEnd>> words = {
+        {RunEnd::Passed, "passed", "ID_Host_Outcome_Passed"},
+        {RunEnd::Failed, "failed", "ID_Host_Outcome_Failed"},
+        {RunEnd::LeftEarly, "leftEarly", "ID_Host_Outcome_LeftEarly"},
+        {RunEnd::PutOut, "putOut", "ID_Host_Outcome_PutOut"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Verdict>>& table()
+{
+    static const std::vector<Word<Verdict>> words = {
+        {Verdict::Passed, "passed", "ID_CheckResultPage_Normal"},
+        {Verdict::Failed, "failed", "ID_CheckResultPage_Abnormal"},
+        {Verdict::NotTested, "notTested", "ID_CameraPage_NotDetected"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Answer>>& table()
+{
+    static const std::vector<Word<Answer>> words = {
+        {Answer::Yes, "yes", "ID_Host_Yes"},
+        {Answer::No, "no", "ID_Host_No"},
+        {Answer::None, "none", "ID_Host_NoAnswer"},
+    };
+    return words;
+}
+
+// Only the speaker's is shown, which says whether the right sound was picked.
+template <>
+const std::vector<Word<SeenState>>& table()
+{
+    static const std::vector<Word<SeenState>> words = {
+        {SeenState::Works, "works", "ID_Host_Yes"},
+        {SeenState::Fails, "fails", "ID_Host_No"},
+        {SeenState::Unknown, "unknown", "ID_Host_NoAnswer"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<FigureStatus>>& table()
+{
+    static const std::vector<Word<FigureStatus>> words = {
+        {FigureStatus::Measured, "measured", nullptr},
+        {FigureStatus::NotMeasured, "notMeasured", "ID_Host_NotMeasured"},
+        {FigureStatus::Failed, "failed", "ID_Host_MeasuringFailed"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<FigureName>>& table()
+{
+    static const std::vector<Word<FigureName>> words = {
+        {FigureName::Delay, "delayMs", "ID_Host_Figure_Delay"},
+        {FigureName::Delay5, "delay5Ms", "ID_Host_Figure_Delay5"},
+        {FigureName::Delay95, "delay95Ms", "ID_Host_Figure_Delay95"},
+        {FigureName::Jitter, "jitterMs", "ID_Host_Figure_Jitter"},
+        {FigureName::Loss, "lossPercent", "ID_Host_Figure_Loss"},
+        {FigureName::Sent, "sent", "ID_Host_Figure_Sent"},
+        {FigureName::Answered, "answered", "ID_Host_Figure_Answered"},
+        {FigureName::Rate, "rate", "ID_Host_Figure_Rate"},
+        {FigureName::Width, "width", "ID_Host_Figure_Width"},
+        {FigureName::Height, "height", "ID_Host_Figure_Height"},
+        {FigureName::FirstPicture, "firstPictureMs", "ID_Host_Figure_FirstPicture"},
+        {FigureName::Pictures, "pictures", "ID_Host_Figure_Pictures"},
+        {FigureName::BlackShare, "blackShare", "ID_Host_Figure_Black"},
+        {FigureName::FrozenShare, "frozenShare", "ID_Host_Figure_Frozen"},
+        {FigureName::Brightness, "brightness", "ID_Host_Figure_Brightness"},
+        {FigureName::VolumeBefore, "volumeBefore", "ID_Host_Figure_VolumeBefore"},
+        {FigureName::VolumeAfter, "volumeAfter", "ID_Host_Figure_VolumeAfter"},
+        {FigureName::MutedBefore, "mutedBefore", "ID_Host_Figure_MutedBefore"},
+        {FigureName::MutedAfter, "mutedAfter", "ID_Host_Figure_MutedAfter"},
+        {FigureName::MovedByUser, "movedByUser", "ID_Host_Figure_MovedByUser"},
+        {FigureName::DefaultBefore, "defaultBefore", "ID_Host_Figure_DefaultBefore"},
+        {FigureName::DefaultAfter, "defaultAfter", "ID_Host_Figure_DefaultAfter"},
+        {FigureName::SoundPlayed, "soundPlayed", "ID_Host_Figure_SoundPlayed"},
+        {FigureName::SoundHeard, "soundHeard", "ID_Host_Figure_SoundHeard"},
+        {FigureName::Seconds, "seconds", "ID_Host_Figure_Seconds"},
+        {FigureName::Peak, "peakDb", "ID_Host_Figure_Peak"},
+        {FigureName::NoiseFloor, "noiseFloorDb", "ID_Host_Figure_NoiseFloor"},
+        {FigureName::ClippedShare, "clippedShare", "ID_Host_Figure_Clipped"},
+        {FigureName::HumShare, "humShare", "ID_Host_Figure_HumShare"},
+        {FigureName::HumFrequency, "humHz", "ID_Host_Figure_HumFrequency"},
+        {FigureName::Bandwidth, "bandwidthHz", "ID_Host_Figure_Bandwidth"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Reason>>& table()
+{
+    static const std::vector<Word<Reason>> words = {
+        {Reason::StepNotOpened, "stepNotOpened", "ID_Host_Reason_StepNotOpened"},
+        {Reason::NotRecorded, "notRecorded", "ID_Host_Reason_NotRecorded"},
+        {Reason::Scripted, "scripted", "ID_Host_Reason_Scripted"},
+        {Reason::Absent, "absent", "ID_Host_Reason_Absent"},
+        {Reason::Off, "off", "ID_Host_Reason_Off"},
+        {Reason::Silent, "silent", "ID_Host_Reason_Silent"},
+        {Reason::Denied, "denied", "ID_Host_Reason_Denied"},
+        {Reason::Busy, "busy", "ID_Host_Reason_Busy"},
+        {Reason::Hung, "hung", "ID_Host_Reason_Hung"},
+        {Reason::Failed, "failed", "ID_Host_Reason_Failed"},
+        {Reason::NoAnswer, "noAnswer", "ID_Host_Reason_NoAnswer"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Contradiction>>& table()
+{
+    using Flag = Contradiction;
+    static const std::vector<Word<Flag>> words = {
+        {Flag::YesWithoutPictures, "yesWithoutPictures", "ID_Host_Flag_YesWithoutPictures"},
+        {Flag::YesToBlackPicture, "yesToBlackPicture", "ID_Host_Flag_YesToBlackPicture"},
+        {Flag::YesToFrozenPicture, "yesToFrozenPicture", "ID_Host_Flag_YesToFrozenPicture"},
+        {Flag::NoToGoodPicture, "noToGoodPicture", "ID_Host_Flag_NoToGoodPicture"},
+        {Flag::YesToWrongSound, "yesToWrongSound", "ID_Host_Flag_YesToWrongSound"},
+        {Flag::YesToMutedSpeaker, "yesToMutedSpeaker", "ID_Host_Flag_YesToMutedSpeaker"},
+        {Flag::NoToRightSound, "noToRightSound", "ID_Host_Flag_NoToRightSound"},
+        {Flag::YesToSilence, "yesToSilence", "ID_Host_Flag_YesToSilence"},
+        {Flag::NoToGoodSound, "noToGoodSound", "ID_Host_Flag_NoToGoodSound"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<ChangeSubject>>& table()
+{
+    static const std::vector<Word<ChangeSubject>> words = {
+        {ChangeSubject::System, "system", "ID_Host_Report_System"},
+        {ChangeSubject::Network, "network", "ID_CheckResultPage_System"},
+        {ChangeSubject::Camera, "camera", "ID_Camera_Check"},
+        {ChangeSubject::Speaker, "speaker", "ID_CheckResultPage_Headphone"},
+        {ChangeSubject::Microphone, "microphone", "ID_Microphone_Check"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<ChangedThing>>& table()
+{
+    static const std::vector<Word<ChangedThing>> words = {
+        {ChangedThing::Verdict, "verdict", "ID_Host_Report_Result"},
+        {ChangedThing::Device, "device", "ID_Host_Report_Device"},
+        {ChangedThing::Grade, "grade", "ID_Host_Grade"},
+        {ChangedThing::Delay, "delayMs", "ID_Host_Figure_Delay"},
+        {ChangedThing::OperatingSystem, "operatingSystem", "ID_NetworkPage_OS"},
+        {ChangedThing::Server, "server", "ID_NewLogin_Server"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<NetworkGrade::Level>>& table()
+{
+    using Level = NetworkGrade::Level;
+    static const std::vector<Word<Level>> words = {
+        {Level::Good, "good", "ID_Host_Grade_Good"},
+        {Level::Fair, "fair", "ID_Host_Grade_Fair"},
+        {Level::Poor, "poor", "ID_Host_Grade_Poor"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<NetworkGrade::Figure>>& table()
+{
+    using Figure = NetworkGrade::Figure;
+    static const std::vector<Word<Figure>> words = {
+        {Figure::OneWayDelay, "oneWayDelayMs", "ID_Host_Figure_OneWayDelay"},
+        {Figure::Loss, "lossPercent", "ID_Host_Figure_Loss"},
+        {Figure::Jitter, "jitterMs", "ID_Host_Figure_Jitter"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Options::Platform>>& table()
+{
+    static const std::vector<Word<Options::Platform>> words = {
+        {Options::Platform::Devices, "devices", nullptr},
+        {Options::Platform::Scripted, "scripted", "ID_Host_Report_Scripted"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Options::Redaction>>& table()
+{
+    static const std::vector<Word<Options::Redaction>> words = {
+        {Options::Redaction::None, "none", nullptr},
+        {Options::Redaction::Personal, "personal", "ID_Host_Redacted_Personal"},
+        {Options::Redaction::Hash, "hash", "ID_Host_Redacted_Hash"},
+    };
+    return words;
+}
+
+} // namespace ReportWords

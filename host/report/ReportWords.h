@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/NetworkGrade.h"
+#include "host/Options.h"
+
+#include <QString>
+#include <QStringList>
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+enum class CheckKind { Network, Camera, Speaker, Microphone };
+enum class RunEnd { Passed, Failed, LeftEarly, PutOut };
+enum class Verdict { Passed, Failed, NotTested };
+enum class Answer { Yes, No, None };
+enum class SeenState { Works, Fails, Unknown };
+enum class FigureStatus { Measured, NotMeasured, Failed };
+
+enum class FigureName {
+    Delay,
+    Delay5,
+    Delay95,
+    Jitter,
+    Loss,
+    Sent,
+    Answered,
+    Rate,
+    Width,
+    Height,
+    FirstPicture,
+    Pictures,
+    BlackShare,
+    FrozenShare,
+    Brightness,
+    VolumeBefore,
+    VolumeAfter,
+    MutedBefore,
+    MutedAfter,
+    MovedByUser,
+    DefaultBefore,
+    DefaultAfter,
+    SoundPlayed,
+    SoundHeard,
+    Seconds,
+    Peak,
+    NoiseFloor,
+    ClippedShare,
+    HumShare,
+    HumFrequency,
+    Bandwidth,
+};
+
+// Why there is no figure. An engine may have words of its own for it.
+enum class Reason {
+    StepNotOpened,
+    NotRecorded,
+    Scripted,
+    Absent,
+    Off,
+    Silent,
+    Denied,
+    Busy,
+    Hung,
+    Failed,
+    NoAnswer,
+};
+
+// What can't be true at once.
+enum class Contradiction {
+    YesWithoutPictures,
+    YesToBlackPicture,
+    YesToFrozenPicture,
+    NoToGoodPicture,
+    YesToWrongSound,
+    YesToMutedSpeaker,
+    NoToRightSound,
+    YesToSilence,
+    NoToGoodSound,
+};
+
+// Of what something changed, and what it was.
+enum class ChangeSubject { System, Network, Camera, Speaker, Microphone };
+enum class ChangedThing { Verdict, Device, Grade, Delay, OperatingSystem, Server };
+
+// The words of a report, which its format fixes, and the texts that people read in their place.
+// There is one table for each enumeration, and nothing else spells its words.
+namespace ReportWords {
+
+template <typename Value>
+struct Word
+{
+    Value value;
+    const char* word;
+    const char* textId; // null if it is never shown
+};
+
+template <typename Value>
+const std::vector<Word<Value>>& table();
+
+template <>
+const std::vector<Word<CheckKind>>& table();
+template <>
+const std::vector<Word<RunEnd>>& table();
+template <>
+const std::vector<Word<Verdict>>& table();
+template <>
+const std::vector<Word<Answer>>& table();
+template <>
+const std::vector<Word<SeenState>>& table();
+template <>
+const std::vector<Word<FigureStatus>>& table();
+template <>
+const std::vector<Word<FigureName>>& table();
+template <>
+const std::vector<Word<Reason>>& table();
+template <>
+const std::vector<Word<Contradiction>>& table();
+template <>
+const std::vector<Word<ChangeSubject>>& table();
+template <>
+const std::vector<Word<ChangedThing>>& table();
+template <>
+const std::vector<Word<NetworkGrade::Level>>& table();
+template <>
+const std::vector<Word<NetworkGrade::Figure>>& table();
+template <>
+const std::vector<Word<Options::Platform>>& table();
+template <>
+const std::vector<Word<Options::Redaction>>& table();
+
+template <typename Value>
+const Word<Value>& entryOf(Value value)
+{
+    const std::vector<Word<Value>>& words = table<Value>();
+    const auto found = std::find_if(words.begin(), words.end(), [value](const Word<Value>& each) {
+        return each.value == value;
+    });
+    Q_ASSERT(found != words.end());
+    return *found;
+}
+
+template <typename Value>
+QString of(Value value)
+{
+    return QString::fromLatin1(entryOf(value).word);
+}
+
+template <typename Value>
+const char* textId(Value value)
+{
+    return entryOf(value).textId;
+}
+
+// Nothing if it is no word of the enumeration.
+template <typename Value>
+std::optional<Value> find(const QString& word)
+{
+    for (const Word<Value>& each : table<Value>()) {
+        if (word == QLatin1String(each.word)) {
+            return each.value;
+        }
+    }
+    return std::nullopt;
+}
+
+template <typename Value>
+QStringList all()
+{
+    QStringList words;
+    for (const Word<Value>& each : table<Value>()) {
+        words << QString::fromLatin1(each.word);
+    }
+    return words;
+}
+
+} // namespace ReportWords
