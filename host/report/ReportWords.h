@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/NetworkGrade.h"
 #include "host/Options.h"
+#include "host/report/NetworkGrade.h"
 
 #include <QString>
 #include <QStringList>
