@@ -3,6 +3,7 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/CloseVeto.h"
 #include "tests/support/QuestionAnswerer.h"
 #include "wizard/CheckPage.h"
 #include "wizard/ClickColorLabel.h"
@@ -34,17 +35,6 @@ const QString OtherStyle = "QLabel{background:#FFFFFF;border-radius:4px;padding-
 const char* const PageNames[] = {"networkPage", "cameraPage", "headsetPage", "microphonePage"};
 const char* const LabelNames[] = {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck",
                                   "label_MicCheck"};
-
-// A host that lets no close through.
-class Veto : public QObject
-{
-protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        event->setAccepted(event->type() != QEvent::Close);
-        return event->type() == QEvent::Close;
-    }
-};
 
 // Notes when the labels change their colour, and when results reach the engine, in one order.
 class OrderOfMarks : public QObject
@@ -728,7 +718,7 @@ void tst_ContentPage::breakdownWhileClosing()
 
 void tst_ContentPage::breakdownAfterAVeto()
 {
-    Veto veto;
+    CloseVeto veto;
     m_frame->installEventFilter(&veto);
     QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);

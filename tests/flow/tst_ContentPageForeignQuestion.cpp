@@ -3,6 +3,7 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
 #include "tests/external-engine/QuestionBox.h"
+#include "tests/support/CloseVeto.h"
 #include "wizard/CheckPage.h"
 #include "wizard/ContentPage.h"
 
@@ -246,16 +247,7 @@ void tst_ContentPageForeignQuestion::otherWindowsStay()
 
 void tst_ContentPageForeignQuestion::vetoOutlastsTheQuestion()
 {
-    // The host lets no close through until it is ready, and asks beforehand.
-    class Veto : public QObject
-    {
-    protected:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override
-        {
-            event->setAccepted(event->type() != QEvent::Close);
-            return event->type() == QEvent::Close;
-        }
-    } veto;
+    CloseVeto veto;
     m_frame->installEventFilter(&veto);
     m_question.reset(Kind::NothingShown, QMessageBox::Yes);
     m_question.whileOpen = [this] {
