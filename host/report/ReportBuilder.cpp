@@ -6,6 +6,7 @@
 #include "host/report/Figures.h"
 #include "host/report/NetworkGrade.h"
 #include "platform/backend/ResultCodes.h"
+#include "platform/backend/ResultKeys.h"
 #include "platform/backend/SystemFacts.h"
 
 #include <QCoreApplication>
@@ -14,8 +15,9 @@
 
 namespace {
 
+namespace ResultKeys = Platform::ResultKeys;
+
 const QLatin1String StateKey("state");
-const QLatin1String DeviceKey("device");
 
 RunEnd endOf(ExitCode code)
 {
@@ -135,8 +137,8 @@ std::vector<Measurement> measurementsOf(CheckKind check, const QJsonObject& figu
                                    : measurementOf(key, figures));
     }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
-        const bool isKnown =
-            it.key() == StateKey || it.key() == DeviceKey || Figures::find(check, it.key());
+        const bool isKnown = it.key() == StateKey || it.key() == ResultKeys::Device ||
+                             Figures::find(check, it.key());
         if (!isKnown) {
             result.push_back(measurementOf(it.key(), figures));
         }
@@ -176,8 +178,8 @@ ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
     ReportCheck check;
     check.kind = outcome.check;
     check.verdict = outcome.verdict;
-    check.answer = answerOf(values.value(QLatin1String("userState")).toInt());
-    check.deviceState = stateOf(values.value(QLatin1String("deviceState")).toInt());
+    check.answer = answerOf(values.value(ResultKeys::UserState).toInt());
+    check.deviceState = stateOf(values.value(ResultKeys::DeviceState).toInt());
     check.device = outcome.check == CheckKind::Network ? QString() : outcome.device;
     check.measurements = measurementsOf(outcome.check, figures, !values.isEmpty());
     check.later = laterOf(check, figures, laterFigures);
@@ -232,9 +234,9 @@ void addGrade(Report& report, const QJsonObject& figures)
 Report ReportBuilder::build(const Run& run, const QJsonObject& document, const RunOutcome& outcome,
                             const Platform::SystemFacts& facts)
 {
-    const QJsonObject results = document.value(QLatin1String("results")).toObject();
-    const QJsonObject measurements = document.value(QLatin1String("measurements")).toObject();
-    const QJsonObject later = document.value(QLatin1String("later")).toObject();
+    const QJsonObject results = document.value(ResultKeys::Results).toObject();
+    const QJsonObject measurements = document.value(ResultKeys::Measurements).toObject();
+    const QJsonObject later = document.value(ResultKeys::Later).toObject();
     Report report;
     report.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     report.programVersion = QCoreApplication::applicationVersion();

@@ -2,16 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/ReportWords.h"
 
+#include "platform/backend/ResultKeys.h"
+
 namespace ReportWords {
+
+namespace ResultKeys = Platform::ResultKeys;
 
 template <>
 const std::vector<Word<CheckKind>>& table()
 {
     static const std::vector<Word<CheckKind>> words = {
-        {CheckKind::Network, "network", "ID_CheckResultPage_System"},
-        {CheckKind::Camera, "camera", "ID_Camera_Check"},
-        {CheckKind::Speaker, "speaker", "ID_CheckResultPage_Headphone"},
-        {CheckKind::Microphone, "microphone", "ID_Microphone_Check"},
+        {CheckKind::Network, ResultKeys::Network.data(), "ID_CheckResultPage_System"},
+        {CheckKind::Camera, ResultKeys::Camera.data(), "ID_Camera_Check"},
+        {CheckKind::Speaker, ResultKeys::Speaker.data(), "ID_CheckResultPage_Headphone"},
+        {CheckKind::Microphone, ResultKeys::Microphone.data(), "ID_Microphone_Check"},
     };
     return words;
 }
@@ -154,10 +158,10 @@ const std::vector<Word<ChangeSubject>>& table()
 {
     static const std::vector<Word<ChangeSubject>> words = {
         {ChangeSubject::System, "system", "ID_Host_Report_System"},
-        {ChangeSubject::Network, "network", "ID_CheckResultPage_System"},
-        {ChangeSubject::Camera, "camera", "ID_Camera_Check"},
-        {ChangeSubject::Speaker, "speaker", "ID_CheckResultPage_Headphone"},
-        {ChangeSubject::Microphone, "microphone", "ID_Microphone_Check"},
+        {ChangeSubject::Network, ResultKeys::Network.data(), "ID_CheckResultPage_System"},
+        {ChangeSubject::Camera, ResultKeys::Camera.data(), "ID_Camera_Check"},
+        {ChangeSubject::Speaker, ResultKeys::Speaker.data(), "ID_CheckResultPage_Headphone"},
+        {ChangeSubject::Microphone, ResultKeys::Microphone.data(), "ID_Microphone_Check"},
     };
     return words;
 }

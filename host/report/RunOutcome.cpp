@@ -5,6 +5,7 @@
 #include "host/Console.h"
 #include "platform/backend/NetworkLimits.h"
 #include "platform/backend/ResultCodes.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <CommEngine/LumSpeaker.h>
 
@@ -19,6 +20,7 @@ using Platform::AnswerCode;
 using Platform::ReportCode;
 using Platform::StateCode;
 namespace NetworkLimits = Platform::NetworkLimits;
+namespace ResultKeys = Platform::ResultKeys;
 
 const QLatin1String DelayUnit("ms");
 const QLatin1String LossUnit("%");
@@ -48,8 +50,8 @@ bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
 CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
 {
     CheckOutcome check;
-    const QString delay = values.value(QLatin1String("delay")).toString();
-    const QString loss = values.value(QLatin1String("loss")).toString();
+    const QString delay = values.value(ResultKeys::Delay).toString();
+    const QString loss = values.value(ResultKeys::Loss).toString();
     if (!delay.isEmpty()) {
         const std::optional<int> delayMs = numberIn(delay, DelayUnit);
         const std::optional<int> lossPercent = numberIn(loss, LossUnit);
@@ -65,9 +67,9 @@ CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
 
 CheckOutcome deviceOutcome(CheckKind kind, const QJsonObject& values)
 {
-    CheckOutcome check{kind, Verdict::NotTested, values.value(QLatin1String("device")).toString()};
-    const auto answer = static_cast<AnswerCode>(values.value(QLatin1String("userState")).toInt());
-    const auto state = static_cast<StateCode>(values.value(QLatin1String("deviceState")).toInt());
+    CheckOutcome check{kind, Verdict::NotTested, values.value(ResultKeys::Device).toString()};
+    const auto answer = static_cast<AnswerCode>(values.value(ResultKeys::UserState).toInt());
+    const auto state = static_cast<StateCode>(values.value(ResultKeys::DeviceState).toInt());
     if (answer != AnswerCode::None) {
         const bool isGood = answer == AnswerCode::Yes && state == StateCode::Works;
         check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
@@ -96,19 +98,19 @@ QString textOf(Value value)
 
 RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
 {
-    const QJsonObject results = document.value(QLatin1String("results")).toObject();
+    const QJsonObject results = document.value(ResultKeys::Results).toObject();
     const auto values = [&results](CheckKind check) {
         return results.value(ReportWords::of(check)).toObject();
     };
     RunOutcome outcome;
-    const QJsonObject measurements = document.value(QLatin1String("measurements")).toObject();
+    const QJsonObject measurements = document.value(ResultKeys::Measurements).toObject();
     outcome.checks = {
         networkOutcome(values(CheckKind::Network), wasNetworkLeft(results, measurements)),
         deviceOutcome(CheckKind::Camera, values(CheckKind::Camera)),
         speakerOutcome(values(CheckKind::Speaker)),
         deviceOutcome(CheckKind::Microphone, values(CheckKind::Microphone)),
     };
-    const QJsonArray codes = document.value(QLatin1String("codes")).toArray();
+    const QJsonArray codes = document.value(ResultKeys::Codes).toArray();
     if (wasPutOut) {
         outcome.exitCode = ExitCode::PutOut;
     } else if (!codes.contains(static_cast<int>(ReportCode::AllAnswered))) {

@@ -4,67 +4,71 @@
 
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
+#include "platform/backend/ResultKeys.h"
 
 namespace {
 
-void record(const char* key, const QJsonValue& value)
+namespace ResultKeys = Platform::ResultKeys;
+
+void record(QLatin1String check, QLatin1String key, const QJsonValue& value)
 {
-    Platform::EngineRegistry::engine().reportSink().recordResult(QLatin1String(key), value);
+    Platform::EngineRegistry::engine().reportSink().recordResult(check + QLatin1Char('.') + key,
+                                                                 value);
 }
 
 } // namespace
 
 void SystemTestingResult::writeCameraStateFromUser(int answer)
 {
-    record("camera.userState", answer);
+    record(ResultKeys::Camera, ResultKeys::UserState, answer);
 }
 
 void SystemTestingResult::writeCameraState(int state)
 {
-    record("camera.deviceState", state);
+    record(ResultKeys::Camera, ResultKeys::DeviceState, state);
 }
 
 void SystemTestingResult::writeCurrentCamera(const QString& name)
 {
-    record("camera.device", name);
+    record(ResultKeys::Camera, ResultKeys::Device, name);
 }
 
 void SystemTestingResult::writeHeadphoneStateFromUser(int answer)
 {
-    record("speaker.userState", answer);
+    record(ResultKeys::Speaker, ResultKeys::UserState, answer);
 }
 
 void SystemTestingResult::writeHeadphoneState(int state)
 {
-    record("speaker.deviceState", state);
+    record(ResultKeys::Speaker, ResultKeys::DeviceState, state);
 }
 
 void SystemTestingResult::writeCurrentHeadphone(const QString& name)
 {
-    record("speaker.device", name);
+    record(ResultKeys::Speaker, ResultKeys::Device, name);
 }
 
 void SystemTestingResult::writeMicrophoneStateFromUser(int answer)
 {
-    record("microphone.userState", answer);
+    record(ResultKeys::Microphone, ResultKeys::UserState, answer);
 }
 
 void SystemTestingResult::writeMicrophoneState(int state)
 {
-    record("microphone.deviceState", state);
+    record(ResultKeys::Microphone, ResultKeys::DeviceState, state);
 }
 
 void SystemTestingResult::writeCurrentMicrophone(const QString& name)
 {
-    record("microphone.device", name);
+    record(ResultKeys::Microphone, ResultKeys::Device, name);
 }
 
 void SystemTestingResult::writeNetworkDelay(const QString& text)
 {
-    record("network.delay", text);
+    record(ResultKeys::Network, ResultKeys::Delay, text);
 }
 
 void SystemTestingResult::writeFrameLossRate(const QString& text)
 {
-    record("network.loss", text);
+    record(ResultKeys::Network, ResultKeys::Loss, text);
 }

@@ -3,6 +3,7 @@
 #include "platform/backend/ResultDocument.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,12 +13,7 @@ namespace Platform {
 namespace {
 
 const QLatin1String VersionKey("version");
-const QLatin1String ResultsKey("results");
-const QLatin1String MeasurementsKey("measurements");
-const QLatin1String LaterKey("later");
-const QLatin1String CodesKey("codes");
 const QLatin1String StateKey("state");
-const QLatin1String DeviceKey("device");
 constexpr int DocumentVersion = 1;
 
 QJsonObject toObject(const QMap<QString, QMap<QString, QJsonValue>>& section)
@@ -51,12 +47,12 @@ QJsonObject ResultDocument::toJson() const
         codes.append(code);
     }
     QJsonObject document{{VersionKey, DocumentVersion},
-                         {ResultsKey, toObject(m_results)},
-                         {MeasurementsKey, toObject(judgedOrNewest())},
-                         {CodesKey, codes}};
+                         {ResultKeys::Results, toObject(m_results)},
+                         {ResultKeys::Measurements, toObject(judgedOrNewest())},
+                         {ResultKeys::Codes, codes}};
     const Section laterOnes = later();
     if (!laterOnes.isEmpty()) {
-        document.insert(LaterKey, toObject(laterOnes));
+        document.insert(ResultKeys::Later, toObject(laterOnes));
     }
     return document;
 }
@@ -128,7 +124,8 @@ ResultDocument::Section ResultDocument::later() const
 void ResultDocument::forgetOtherDevice(const QString& check, const QJsonObject& figures)
 {
     QMap<QString, QJsonValue>& values = m_measurements[check];
-    if (values.value(DeviceKey, QJsonValue::Undefined) == figures.value(DeviceKey)) {
+    if (values.value(ResultKeys::Device, QJsonValue::Undefined) ==
+        figures.value(ResultKeys::Device)) {
         return;
     }
     const QSet<QString> keys = m_deviceKeys.take(check);

@@ -132,6 +132,9 @@ void tst_DeviceEngine::figuresGoIntoTheResults()
     std::unique_ptr<NetworkProbe> probe = engine.createNetworkProbe(listener);
     QTRY_COMPARE(listener.changes, 1);
     const NetworkFigures last = probe->figures();
+    // Before the listener heard of them: what it makes of them finds them there.
+    const QJsonObject present = engine.results();
+    QCOMPARE(present["measurements"].toObject()["network"].toObject()["sent"].toInt(), last.sent);
     probe.reset();
     QVERIFY(FileWriter::waitForWritten(5000));
     QFile results(config.resultsPath);

@@ -173,6 +173,8 @@ private Q_SLOTS:
         m_speaker->setVolume(70);
         QTRY_COMPARE(m_server->control({id("get-sink-mute"), id("speaker_b")}),
                      QByteArray("Mute: no"));
+        // At once, as a result that is recorded now was made of it.
+        QCOMPARE(this->figures("speaker").value(id("volumeAfter")).toInt(), 70);
         m_speaker.reset();
         const QJsonObject figures = this->figures("speaker");
         QCOMPARE(figures.value(id("device")).toString(), QStringLiteral("Test Speaker B"));
