@@ -3,8 +3,8 @@
 #include "DialogRun.h"
 
 #include "CapturedOutput.h"
-#include "host/CheckCommand.h"
 #include "host/SoundNames.h"
+#include "host/commands/CheckCommand.h"
 #include "platform/backend/EngineRegistry.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "tests/unit/ForeignDevices.h"
+#include "tests/library/ForeignDevices.h"
 
 #include <CommEngine/HardwareMgrInterface.h>
 #include <CommEngine/LumCamera.h>

@@ -6,8 +6,8 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/library/ForeignDevices.h"
 #include "tests/support/DevicePageTools.h"
-#include "tests/unit/ForeignDevices.h"
 
 #include <CommEngine/HardwareMgrInterface.h>
 
