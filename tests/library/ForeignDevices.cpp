@@ -174,7 +174,7 @@ void LumCamera::setOutputSize(const QSize& /*size*/)
     called(this);
 }
 
-QImage LumCamera::latestPicture() const
+QImage LumCamera::latestFrame() const
 {
     return {};
 }
