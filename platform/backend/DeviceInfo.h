@@ -4,10 +4,13 @@
 
 #include "ClassroomBackend/ClassroomBackendExport.h"
 
+#include <QObject>
 #include <QString>
 #include <vector>
 
 namespace Platform {
+
+Q_NAMESPACE_EXPORT(CLASSROOMBACKEND_EXPORT)
 
 // A device as a back end reports it. Both texts are foreign: any Unicode, any length.
 struct DeviceInfo
@@ -35,11 +38,12 @@ enum class DeviceState {
     Ready,   // usable, not opened yet
     Working, // it delivers
 };
+Q_ENUM_NS(DeviceState)
 
-// Chosen, present, and may be opened: all but Absent, Off, Denied and Failed.
+// Chosen, plugged in and allowed to be opened: all but Absent, Off, Denied and Failed.
 CLASSROOMBACKEND_EXPORT bool isUsable(DeviceState state);
 
-// The state as one lower-case English word, for logs and reports.
+// The word of a state in logs and reports, such as "working".
 CLASSROOMBACKEND_EXPORT QString toString(DeviceState state);
 
 // Makes equal names distinct: the second "Camera" becomes "Camera (2)". Control characters become

@@ -3,7 +3,7 @@
 #include "platform/scripted/Scenario.h"
 
 #include "platform/backend/FileNames.h"
-#include "platform/scripted/JsonLines.h"
+#include "platform/backend/JsonLines.h"
 #include "platform/scripted/ScenarioReader.h"
 
 #include <QDir>
@@ -107,9 +107,7 @@ std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error
     }
     const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
     if (problem.isSet()) {
-        const QString field =
-            problem.path.isEmpty() ? QString() : problem.path + QStringLiteral(": ");
-        *error = message(path, lines.lineOf(problem.path), field + problem.text);
+        *error = message(path, lines.lineOf(problem.path), problem.toString());
         return {};
     }
     return scenario;

@@ -22,6 +22,7 @@ public:
         Black,
         None, // a stall: the camera runs and nothing comes
     };
+    Q_ENUM(Pictures)
 
     struct Feed
     {

@@ -6,6 +6,7 @@
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/ResultDocument.h"
 
+#include <QObject>
 #include <QVector>
 
 namespace Platform {
@@ -15,8 +16,11 @@ class CallLog;
 // Takes what a run reports, and keeps it for the scenario's author to look at.
 class CLASSROOMSCRIPTED_EXPORT ScriptedReports final : public ReportSink
 {
+    Q_GADGET
+
 public:
     enum class Outcome { Accepted, Refused, Unreachable };
+    Q_ENUM(Outcome)
 
     struct Post
     {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -10,12 +12,12 @@ namespace Platform {
 
 // Where the fields of a JSON text stand, as QJsonDocument doesn't tell. The text must be valid. A
 // field is named by its path, such as "cameras[0].name"; the document itself by an empty one.
-class JsonLines
+class CLASSROOMBACKEND_EXPORT JsonLines
 {
 public:
     explicit JsonLines(const QByteArray& json);
 
-    int lineOf(const QString& path) const; // of its nearest ancestor where it isn't there
+    int lineOf(const QString& path) const;            // of its nearest ancestor if it isn't there
     QString duplicate() const { return m_duplicate; } // first key that stands twice, or empty
 
     static int lineAt(const QByteArray& json, int offset); // from 1

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/scripted/JsonLines.h"
+#include "platform/backend/JsonLines.h"
 
 namespace Platform {
 
