@@ -21,6 +21,7 @@ class tst_Scenario : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void bundlesEveryFileOfTheFolder();
     void readsEveryBundledScenario_data();
     void readsEveryBundledScenario();
     void setsUpDevices();
@@ -54,6 +55,16 @@ std::optional<Scenario> tst_Scenario::read(const QByteArray& json, QString* erro
 {
     QString unused;
     return Scenario::read(write(json), error ? error : &unused);
+}
+
+void tst_Scenario::bundlesEveryFileOfTheFolder()
+{
+    const QDir folder(QStringLiteral(ENVCHECK_SOURCE_DIR "/platform/scripted/scenarios"));
+    QStringList names;
+    for (const QFileInfo& file : folder.entryInfoList(QDir::Files, QDir::Name)) {
+        names.append(file.completeBaseName());
+    }
+    QCOMPARE(Scenario::bundledNames(), names);
 }
 
 void tst_Scenario::readsEveryBundledScenario_data()
