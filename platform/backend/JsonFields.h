@@ -72,7 +72,7 @@ public:
 
     void require(const char* key);
     void take(const QString& key) { m_taken.insert(key); }
-    void rejectOthers(); // the last call: a field that nobody asked for is a problem
+    void rejectOthers(); // last call: a field that nobody asked for is a problem
 
 private:
     bool has(const char* key, bool isRequired);

@@ -91,7 +91,7 @@ void JsonLines::skipBlanks()
     }
 }
 
-// As it is written, escapes included.
+// Leaves escape sequences as they are.
 QString JsonLines::takeString()
 {
     const int start = ++m_position;

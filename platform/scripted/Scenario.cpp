@@ -30,7 +30,7 @@ QString load(const QString& path, QByteArray* content)
     }
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("no such file, and no bundled scenario of this name (those are %1)")
+        return QStringLiteral("no such file, and no bundled scenario of this name (there are %1)")
             .arg(Scenario::bundledNames().join(QStringLiteral(", ")));
     }
     if (!info.isFile()) {
@@ -52,7 +52,7 @@ QString bundledPath(const QString& name)
     return BundledFolder + QLatin1Char('/') + name + Suffix;
 }
 
-// What a scenario doesn't say stands in the bundled one that it builds on.
+// Takes fields that the scenario doesn't set from the bundled scenario that it names as its base.
 QJsonObject withBase(const QJsonObject& document, JsonProblem& problem)
 {
     if (!document.contains(BaseKey)) {
@@ -103,7 +103,7 @@ std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error
         problem.set({}, QStringLiteral("the document must be an object"));
     }
     if (!lines.duplicate().isEmpty()) {
-        problem.set(lines.duplicate(), QStringLiteral("stands twice"));
+        problem.set(lines.duplicate(), QStringLiteral("occurs twice"));
     }
     const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
     if (problem.isSet()) {

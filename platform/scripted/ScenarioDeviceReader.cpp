@@ -177,7 +177,7 @@ void ScenarioDeviceReader::readList(JsonFields& root, Kind kind, Scenario& scena
         const int count = ids.size();
         scenario.setup.push_back(readDevice(fields, kind));
         if (ids.size() == count) {
-            m_problem.set(fields.path("id"), QStringLiteral("must be another one for each device"));
+            m_problem.set(fields.path("id"), QStringLiteral("must be unique in its list"));
         }
         fields.rejectOthers();
     }

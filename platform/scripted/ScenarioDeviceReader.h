@@ -33,16 +33,16 @@ public:
     Scenario::Action readDevice(JsonFields& fields, Kind kind);
     static DeviceState readState(JsonFields& fields);
     static DeviceState readState(JsonFields& fields, DeviceState fallback);
-    // The id of a device that is plugged in at some time.
+    // Reads an id. A device of that id must be in a list, or an event must plug it in.
     QString readKnownId(JsonFields& fields, const char* key, Kind kind, bool allowsNone) const;
-    // A device that an event of the timeline plugs in.
+    // Announces a device that a later event plugs in.
     void expect(Kind kind, const QString& id) { m_ids[kind].insert(id); }
 
 private:
     void readList(JsonFields& root, Kind kind, Scenario& scenario);
 
     JsonProblem& m_problem;
-    QMap<Kind, QSet<QString>> m_ids; // those that are plugged in at some time
+    QMap<Kind, QSet<QString>> m_ids; // of all devices that are ever plugged in
 };
 
 } // namespace Platform

@@ -80,8 +80,7 @@ void ScenarioTimelineReader::read(JsonFields& root, Scenario& scenario)
         [](const Scenario::Event& a, const Scenario::Event& b) { return a.atMs < b.atMs; });
 }
 
-// The order of the file isn't the order of time: an event may name a device that the file plugs in
-// further down.
+// Events may stand in any order: one may name a device that a line further down plugs in.
 void ScenarioTimelineReader::expectDevice(const QJsonObject& event)
 {
     const auto kind = EnumWords::value<Kind>(event.value(QLatin1String("kind")).toString());

@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-// Values that stand both in the lists of a scenario and in the events of its timeline.
+// Values that occur both in the lists of a scenario and in the events of its timeline.
 namespace ScenarioValues {
 
 constexpr int MaxElements = 10000; // of a timeline, a series, a curve
@@ -17,7 +17,7 @@ constexpr int MaxTextLength = 100000;
 constexpr int MaxTimeMs = 24 * 60 * 60 * 1000;
 constexpr int MaxPercent = 100;
 
-// number() of a field whose bounds are those of an int.
+// JsonFields::number() as an int.
 int integer(JsonFields& fields, const char* key, int min, int max);
 int integer(JsonFields& fields, const char* key, int min, int max, int fallback);
 

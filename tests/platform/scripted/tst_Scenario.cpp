@@ -261,13 +261,13 @@ void tst_Scenario::namesFileLineAndField_data()
         "{\"cameras\": [\n{ \"id\": \"a\", \"name\": \"A\" },\n"
         "{ \"id\": \"b\", \"name\": \"B\",\n \"colour\": 1 }]}",
         "4: cameras[1].colour: is not a known field here");
-    row("twice", "{\"report\": \"refused\",\n\"report\": \"accepted\"}", "2: report: stands twice");
+    row("twice", "{\"report\": \"refused\",\n\"report\": \"accepted\"}", "2: report: occurs twice");
     row("missing", "{\"speakers\": [\n{ \"name\": \"A\" }]}", "2: speakers[0].id: is missing");
     row("empty id", "{\"speakers\": [{ \"id\": \"\", \"name\": \"A\" }]}",
         "1: speakers[0].id: must not be empty");
     row("equal ids",
         "{\"speakers\": [{ \"id\": \"a\", \"name\": \"A\" },\n{ \"id\": \"a\", \"name\": \"B\" }]}",
-        "2: speakers[1].id: must be another one for each device");
+        "2: speakers[1].id: must be unique in its list");
     row("no list", "{\"cameras\": {}}", "1: cameras: must be a list of at most 1000 elements");
     row("no object", "{\"cameras\": [ 7 ]}", "1: cameras[0]: must be an object");
     row("no text", "{\"cameras\": [{ \"id\": 7, \"name\": \"\" }]}",
