@@ -19,10 +19,10 @@
 
 namespace {
 
-// The balloons are windows of their own: without a page around them they take this size.
+// Balloons are top-level windows: they take this size and no page's.
 constexpr int FontPixelSize = 12;
 
-// What the engine warns of is for the user, what Qt does for developers.
+// Warnings of the engine are for users, those of Qt for developers.
 const char* const QuietRules =
     "*.debug=false\n*.info=false\n*.warning=false\nengine.*.warning=true";
 
@@ -80,7 +80,7 @@ ExitCode Program::run(int argc, char* argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // Qt knows a --platform of its own: it gets to see the program's name alone.
+    // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
     std::unique_ptr<QCoreApplication> application;
     if (isCheck) {
