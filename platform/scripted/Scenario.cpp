@@ -15,7 +15,7 @@ namespace Platform {
 
 namespace {
 
-constexpr qint64 MaxFileBytes = 1024 * 1024;
+constexpr qint64 MaxFileBytes = qint64(1024) * 1024;
 const QLatin1String BundledFolder(":/scenarios");
 const QLatin1String Suffix(".json");
 const QLatin1String BaseKey("base");
@@ -23,7 +23,7 @@ const QLatin1String BaseKey("base");
 // Empty on success, otherwise why the file can't be read.
 QString load(const QString& path, QByteArray* content)
 {
-    const QString nameProblem =
+    QString nameProblem =
         path.startsWith(BundledFolder) ? QString() : FileNames::problem(path);
     if (!nameProblem.isEmpty()) {
         return nameProblem;
