@@ -7,8 +7,10 @@
 #include "host/System.h"
 #include "host/TerminationSignals.h"
 #include "host/commands/CheckCommand.h"
-#include "host/commands/EngineCommands.h"
+#include "host/commands/DevicesCommand.h"
+#include "host/commands/NetworkCommand.h"
 #include "host/commands/ReportCommand.h"
+#include "host/commands/ServeCommand.h"
 
 #include <QApplication>
 #include <QFont>
@@ -47,11 +49,11 @@ ExitCode runCommand(const Options& options)
     case Options::Command::Check:
         return CheckCommand(options).run();
     case Options::Command::Devices:
-        return EngineCommands::listDevices(options);
+        return DevicesCommand::run(options);
     case Options::Command::Network:
-        return EngineCommands::watchNetwork(options);
+        return NetworkCommand::run(options);
     case Options::Command::Serve:
-        return EngineCommands::serve(options);
+        return ServeCommand::run(options);
     case Options::Command::Report:
         return ReportCommand::run(options);
     }
