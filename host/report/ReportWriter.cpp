@@ -3,6 +3,7 @@
 #include "host/report/ReportWriter.h"
 
 #include "host/Console.h"
+#include "host/report/ReportJson.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
 
@@ -185,7 +186,7 @@ QString ReportWriter::toHtml(const std::vector<Report>& reports, const QString& 
 
 QByteArray ReportWriter::toJson(const Report& report)
 {
-    return QJsonDocument(report.toJson()).toJson();
+    return QJsonDocument(ReportJson::toJson(report)).toJson();
 }
 
 QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStringList& names,

@@ -143,15 +143,17 @@ std::vector<JsonFields> JsonFields::objects(const char* key, int maxCount)
     return result;
 }
 
-QStringList JsonFields::texts(const char* key, int maxCount, int maxLength)
+QStringList JsonFields::words(const char* key, const QStringList& words)
 {
     QStringList result;
-    const QJsonArray elements = array(key, maxCount);
+    const QJsonArray elements = array(key, AnyLength);
     for (const QJsonValue& element : elements) {
-        if (!element.isString() || element.toString().size() > maxLength) {
-            m_problem.set(path(key), QStringLiteral("must be a list of texts"));
+        if (words.contains(element.toString())) {
+            result.append(element.toString());
+        } else {
+            m_problem.set(path(key),
+                          QStringLiteral("must be a list of ") + words.join(QStringLiteral(", ")));
         }
-        result.append(element.toString());
     }
     return result;
 }

@@ -67,7 +67,7 @@ public:
     // Not required unless require() says so; then they are empty.
     JsonFields object(const char* key);
     std::vector<JsonFields> objects(const char* key, int maxCount);
-    QStringList texts(const char* key, int maxCount, int maxLength);
+    QStringList words(const char* key, const QStringList& words);
     QJsonArray array(const char* key, int maxCount);
 
     void require(const char* key);
