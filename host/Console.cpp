@@ -5,7 +5,6 @@
 #include "host/System.h"
 
 #include <QVector>
-#include <algorithm>
 #include <numeric>
 #include <utf8proc.h>
 
@@ -49,9 +48,4 @@ int Console::columns(const QString& text)
     return std::accumulate(characters.begin(), characters.end(), 0, [](int sum, uint character) {
         return sum + utf8proc_charwidth(static_cast<utf8proc_int32_t>(character));
     });
-}
-
-QString Console::padded(const QString& text, int width)
-{
-    return text + QString(std::max(0, width - columns(text)), QLatin1Char(' '));
 }

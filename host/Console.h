@@ -16,6 +16,5 @@ bool isTerminal(); // where print() goes to
 QString plainLine(const QString& text);
 // How many columns a text takes: most East Asian characters take two, combining ones none.
 int columns(const QString& text);
-QString padded(const QString& text, int width);
 
 } // namespace Console
