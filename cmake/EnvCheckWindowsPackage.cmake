@@ -29,6 +29,8 @@ install(FILES
     /usr/share/common-licenses/LGPL-3
     /usr/share/common-licenses/GPL-3
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses)
+install(FILES ${qt_folder}/share/utf8proc/LICENSE.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses RENAME utf8proc.md)
 
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_FILE_NAME EnvCheck-${PROJECT_VERSION}-win64)

@@ -4,18 +4,11 @@
 
 #include "host/System.h"
 
-#include <algorithm>
+#include <QVector>
 #include <numeric>
+#include <utf8proc.h>
 
 namespace {
-
-bool isWide(QChar c)
-{
-    return (c >= QChar(0x1100) && c <= QChar(0x115F)) ||
-           (c >= QChar(0x2E80) && c <= QChar(0xA4CF)) ||
-           (c >= QChar(0xAC00) && c <= QChar(0xD7A3)) ||
-           (c >= QChar(0xF900) && c <= QChar(0xFAFF)) || (c >= QChar(0xFF00) && c <= QChar(0xFF60));
-}
 
 bool isSteering(QChar c)
 {
@@ -51,11 +44,8 @@ QString Console::plainLine(const QString& text)
 
 int Console::columns(const QString& text)
 {
-    return std::accumulate(text.begin(), text.end(), 0,
-                           [](int sum, QChar c) { return sum + (isWide(c) ? 2 : 1); });
-}
-
-QString Console::padded(const QString& text, int width)
-{
-    return text + QString(std::max(0, width - columns(text)), QLatin1Char(' '));
+    const QVector<uint> characters = text.toUcs4();
+    return std::accumulate(characters.begin(), characters.end(), 0, [](int sum, uint character) {
+        return sum + utf8proc_charwidth(static_cast<utf8proc_int32_t>(character));
+    });
 }

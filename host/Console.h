@@ -4,17 +4,17 @@
 
 #include <QString>
 
-// The terminal, or what stands in its place. Everything is UTF-8.
+// Standard output and standard error, as UTF-8.
 namespace Console {
 
 void print(const QString& text); // as it is, at once
 void printError(const QString& line);
 bool isTerminal(); // where print() goes to
 
-// Foreign text on one line, without what would steer a terminal or turn the line's direction.
+// Foreign text on one line, without characters that control a terminal or change the text
+// direction.
 QString plainLine(const QString& text);
-// How many columns a text takes: East Asian letters take two.
+// How many columns a text takes: most East Asian characters take two, combining ones none.
 int columns(const QString& text);
-QString padded(const QString& text, int width);
 
 } // namespace Console

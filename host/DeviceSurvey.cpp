@@ -3,21 +3,21 @@
 #include "host/DeviceSurvey.h"
 
 #include "host/Console.h"
+#include "host/TextTable.h"
 #include "platform/backend/Engine.h"
 
 #include <QEventLoop>
 #include <QJsonArray>
-#include <QTextStream>
 #include <QTimer>
 
 namespace {
 
-// Servers are asked in the background: the lists have settled when nothing comes for a while.
+// Servers answer in the background: the lists are complete if nothing changes for QuietMs.
 constexpr int FirstAnswerMs = 1000;
 constexpr int QuietMs = 150;
 constexpr int LongestMs = 3000;
 
-// Listens to one device of each kind and waits for the event loop.
+// Listens to one session of each kind, and runs the event loop until nothing changes.
 class Watch final : public Platform::CameraBackend::Listener,
                     public Platform::MicrophoneBackend::Listener,
                     public Platform::SpeakerBackend::Listener
@@ -102,21 +102,18 @@ QJsonArray toArray(const DeviceSurvey::Devices& devices)
     return array;
 }
 
-void writeTable(QTextStream& stream, const QString& title, const DeviceSurvey::Devices& devices)
+void addTo(TextTable& table, const QString& title, const DeviceSurvey::Devices& devices)
 {
-    constexpr int StateWidth = 10;
-    constexpr int VolumeWidth = 7;
-    stream << title << '\n';
+    table.addHeading(title);
     if (devices.empty()) {
-        stream << "    none found\n";
+        table.addHeading(QStringLiteral("    none found"));
     }
     for (const DeviceSurvey::Device& device : devices) {
+        const QString mark = device.isCurrent ? QStringLiteral("  * ") : QStringLiteral("    ");
         const QString volume =
             device.volume ? QStringLiteral("%1 %").arg(*device.volume) : QStringLiteral("-");
-        stream << (device.isCurrent ? "  * " : "    ")
-               << Console::padded(Platform::toString(device.state), StateWidth)
-               << Console::padded(volume, VolumeWidth) << Console::plainLine(device.info.name)
-               << '\n';
+        table.addRow({mark + Platform::toString(device.state), volume,
+                      Console::plainLine(device.info.name)});
     }
 }
 
@@ -140,13 +137,11 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
 
 QString DeviceSurvey::toText() const
 {
-    QString text;
-    QTextStream stream(&text);
-    writeTable(stream, QStringLiteral("Cameras"), cameras);
-    writeTable(stream, QStringLiteral("Microphones"), microphones);
-    writeTable(stream, QStringLiteral("Speakers"), speakers);
-    stream.flush();
-    return text;
+    TextTable table;
+    addTo(table, QStringLiteral("Cameras"), cameras);
+    addTo(table, QStringLiteral("Microphones"), microphones);
+    addTo(table, QStringLiteral("Speakers"), speakers);
+    return table.toText();
 }
 
 QJsonObject DeviceSurvey::toJson() const

@@ -13,7 +13,7 @@ namespace Platform {
 class Engine;
 }
 
-// The devices of an engine and how each of them is, without opening any. GUI thread only.
+// The devices of an engine with their states. Opens none of them. GUI thread only.
 struct DeviceSurvey
 {
     struct Device
@@ -29,7 +29,7 @@ struct DeviceSurvey
     Devices microphones;
     Devices speakers;
 
-    // Runs the event loop until the lists have settled, a few seconds at most.
+    // Runs the event loop until the lists don't change any more, for a few seconds at most.
     static DeviceSurvey of(Platform::Engine& engine);
 
     QString toText() const; // a table for a terminal

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// How the program ends.
+// The exit codes of the program.
 enum class ExitCode : int {
     AllPassed = 0,
     SomeFailed = 1,
     LeftEarly = 2,
     PutOut = 3,       // the engine ended the session
-    TourProblems = 4, // the tour found texts that can't be read, or didn't get through
+    TourProblems = 4, // the tour found unreadable texts, or didn't reach its end
     WrongUsage = 64,  // an unknown option or a bad value
-    BadInput = 65,    // a file that was named can't be used
-    Unavailable = 69, // a display, port or server that is needed isn't there
-    CannotWrite = 73, // a file or folder that was named can't be written
+    BadInput = 65,    // a named file can't be used
+    Unavailable = 69, // a display, port or server is missing
+    CannotWrite = 73, // a named file or folder can't be written
 };

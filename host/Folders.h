@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// Where the program keeps what outlives a run. None of these need exist yet.
+// Where the program keeps its files. None of these paths may exist yet.
 namespace Folders {
 
 QString data();         // settings, journal, outbox

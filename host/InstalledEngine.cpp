@@ -27,7 +27,7 @@ QString cdnSecondPart(const Options& options)
     return options.cdn.section(QLatin1Char('/'), 1);
 }
 
-// What was named on the command line goes before the scenario's.
+// Options of the command line replace the values of the scenario.
 void useTexts(const Options& options, Platform::ScriptedFacts& facts)
 {
     Platform::ScriptedFacts::Values values = facts.values();
@@ -57,7 +57,7 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 
 InstalledEngine::~InstalledEngine()
 {
-    // Before the engine goes: the scripted one's settings stand in a folder that it removes.
+    // Write first: the scripted engine removes the folder of its settings.
     Platform::FileWriter::waitForWritten(WriteTimeoutMs);
     Platform::EngineRegistry::uninstall();
     Platform::FileWriter::waitForWritten(WriteTimeoutMs);

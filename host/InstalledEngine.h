@@ -14,7 +14,8 @@ namespace Platform {
 class Engine;
 }
 
-// The engine that the options ask for, installed while this lives. GUI thread only.
+// Creates the engine that the options ask for, and installs it while this object lives. GUI thread
+// only.
 class InstalledEngine
 {
 public:
@@ -24,11 +25,11 @@ public:
     InstalledEngine(const InstalledEngine&) = delete;
     InstalledEngine& operator=(const InstalledEngine&) = delete;
 
-    // Empty, or one line that says why there is none; then nothing else may be called.
+    // Empty, or one line that says why there is no engine; then call nothing else.
     QString error() const { return m_error; }
     ExitCode errorCode() const { return m_errorCode; }
 
-    // Gathers the slow facts; runs the event loop, for a second at most.
+    // Collects the slow facts; runs the event loop for a second at most.
     void prepare();
     Platform::Engine& engine() const;
     QJsonObject results() const; // of the run so far
@@ -40,6 +41,6 @@ private:
 
     QString m_error;
     ExitCode m_errorCode = ExitCode::AllPassed;
-    std::function<void(std::function<void()>)> m_prepare; // null where there is nothing to gather
+    std::function<void(std::function<void()>)> m_prepare; // null if there is nothing to collect
     std::function<QJsonObject()> m_results;
 };

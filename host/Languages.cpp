@@ -18,8 +18,7 @@ QString folder()
     return QCoreApplication::applicationDirPath() + QLatin1String("/translations");
 }
 
-// The first of the languages that is available, or one of the same script or name; empty where
-// there is none.
+// The first wanted language that is available, exactly or by its name or script. Empty if none is.
 QString nearest(const QStringList& wanted, const QStringList& available)
 {
     for (QString name : wanted) {
@@ -72,7 +71,7 @@ QString Languages::use(const QString& language)
 {
     const QStringList languages = available();
     if (languages.isEmpty()) {
-        return QStringLiteral("there are no texts in %1: install or build the program anew")
+        return QStringLiteral("there are no texts in %1: install or build the program again")
             .arg(folder());
     }
     m_current = nearest(
@@ -90,7 +89,7 @@ QString Languages::use(const QString& language)
         m_qtTexts.load(qtTexts, folder())) {
         QCoreApplication::installTranslator(&m_qtTexts);
     }
-    // Installed last, ours are asked first.
+    // Qt asks the translator that was installed last first.
     if (!load(m_texts, m_current)) {
         return QStringLiteral("the texts %1 in %2 can't be read: install or build the program anew")
             .arg(FilePrefix + m_current + FileSuffix, folder());

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <QTranslator>
 
-// The texts of the program and of Qt in one of the languages that the program brings. Keeps the
-// translators installed while it lives. GUI thread only.
+// The texts of the program and of Qt in one of the available languages. The translators are
+// installed while this object lives. GUI thread only.
 class Languages
 {
 public:
@@ -17,11 +17,11 @@ public:
 
     static QStringList available(); // such as "en", "zh_CN"
 
-    // The program's own texts in one of the available languages; false where they can't be read.
+    // Loads the program's own texts in an available language; false if they can't be read.
     static bool load(QTranslator& translator, const QString& language);
 
-    // Takes the nearest to the system's language, otherwise English, or exactly the language that
-    // is asked for. Returns nothing, or one line that says why it can't.
+    // Uses the given language, or if none is given the one nearest to the system's, or English.
+    // Returns nothing, or one line that says why it failed.
     QString use(const QString& language);
     QString current() const { return m_current; }
 

@@ -4,9 +4,9 @@
 
 #include "host/report/ReportWords.h"
 #include "platform/backend/StunServer.h"
+#include "platform/backend/WebAddress.h"
 
 #include <QCommandLineParser>
-#include <QUrl>
 #include <optional>
 
 namespace {
@@ -112,13 +112,6 @@ void addOptions(QCommandLineParser& parser, unsigned commands)
     parser.addOptions(
         {{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
          {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")}});
-}
-
-bool isReportUrl(const QString& text)
-{
-    const QUrl url(text, QUrl::StrictMode);
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
 }
 
 std::optional<int> numberIn(const QString& text, int least, int most)
@@ -243,7 +236,7 @@ private:
             failAt("server", QLatin1String(Platform::StunServer::Form));
         }
         m_options.reportUrl = value("report-url");
-        if (isSet("report-url") && !isReportUrl(m_options.reportUrl)) {
+        if (isSet("report-url") && !Platform::webAddress(m_options.reportUrl)) {
             failAt("report-url", QStringLiteral("an http or https address"));
         }
     }

@@ -7,8 +7,10 @@
 #include "host/System.h"
 #include "host/TerminationSignals.h"
 #include "host/commands/CheckCommand.h"
-#include "host/commands/EngineCommands.h"
+#include "host/commands/DevicesCommand.h"
+#include "host/commands/NetworkCommand.h"
 #include "host/commands/ReportCommand.h"
+#include "host/commands/ServeCommand.h"
 
 #include <QApplication>
 #include <QFont>
@@ -19,10 +21,10 @@
 
 namespace {
 
-// The balloons are windows of their own: without a page around them they take this size.
+// Balloons are top-level windows: they take this size and no page's.
 constexpr int FontPixelSize = 12;
 
-// What the engine warns of is for the user, what Qt does for developers.
+// Warnings of the engine are for users, those of Qt for developers.
 const char* const QuietRules =
     "*.debug=false\n*.info=false\n*.warning=false\nengine.*.warning=true";
 
@@ -47,11 +49,11 @@ ExitCode runCommand(const Options& options)
     case Options::Command::Check:
         return CheckCommand(options).run();
     case Options::Command::Devices:
-        return EngineCommands::listDevices(options);
+        return DevicesCommand::run(options);
     case Options::Command::Network:
-        return EngineCommands::watchNetwork(options);
+        return NetworkCommand::run(options);
     case Options::Command::Serve:
-        return EngineCommands::serve(options);
+        return ServeCommand::run(options);
     case Options::Command::Report:
         return ReportCommand::run(options);
     }
@@ -80,7 +82,7 @@ ExitCode Program::run(int argc, char* argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // Qt knows a --platform of its own: it gets to see the program's name alone.
+    // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
     std::unique_ptr<QCoreApplication> application;
     if (isCheck) {

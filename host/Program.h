@@ -4,7 +4,7 @@
 
 #include "host/ExitCode.h"
 
-// The program as a whole: reads the command line, makes the application that the command needs,
+// The whole program: reads the command line, creates the application object that the command needs,
 // and runs the command.
 namespace Program {
 

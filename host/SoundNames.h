@@ -4,10 +4,10 @@
 
 #include <QString>
 
-// The sounds of the speaker check, as its answers name them.
+// The names of the sounds of the speaker check.
 namespace SoundNames {
 
-// The id of the text for a file such as "Piano"; null where it is none of them.
+// The text id of a file such as "Piano"; null if it is no such file.
 const char* textId(const QString& baseName);
 
 } // namespace SoundNames

@@ -6,15 +6,15 @@
 
 #include <cstdio>
 
-// What the program asks of the operating system by itself, once for each.
+// The calls of the program to the operating system; one source file for each system.
 namespace System {
 
-// Before anything else in main().
+// Call this first in main().
 void prepareProcess();
 
 QStringList arguments(int argc, char* argv[]); // the program's name first
 bool hasDisplay();
 bool isTerminal(std::FILE* file);
-void write(std::FILE* file, const QString& text); // UTF-8 where it isn't a terminal
+void write(std::FILE* file, const QString& text); // UTF-8 unless it is a terminal
 
 } // namespace System

@@ -5,8 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-// A standard stream that is closed would lend its number to the next file, which then gets what is
-// printed.
+// If a standard stream is closed, the next opened file would get its number, and all output.
 void System::prepareProcess()
 {
     int descriptor = STDIN_FILENO;

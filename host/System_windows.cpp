@@ -6,7 +6,7 @@
 #include <io.h>
 #include <memory>
 #include <windows.h>
-// After windows.h, which it needs.
+// Must follow windows.h.
 #include <shellapi.h>
 
 namespace {
@@ -16,8 +16,8 @@ HANDLE handleOf(std::FILE* file)
     return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
 }
 
-// From now on libraries come from the program's folder and the system's, and neither from the
-// working folder nor from the path, where anybody may have put one of the same name.
+// Loads libraries only from the folders of the program and of the system. Anybody may have put one
+// of the same name into the working folder or the path.
 void searchLibrariesSafely()
 {
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
@@ -25,7 +25,7 @@ void searchLibrariesSafely()
     SetSearchPathMode(BASE_SEARCH_PATH_ENABLE_SAFE_SEARCHMODE | BASE_SEARCH_PATH_PERMANENT);
 }
 
-// Started from the desktop, a console program is given an empty console window of its own.
+// A console program that is started from the desktop gets an empty console window.
 void closeOwnConsole()
 {
     std::array<DWORD, 2> users = {};
@@ -44,7 +44,7 @@ void System::prepareProcess()
 
 QStringList System::arguments(int, char**)
 {
-    // Those of main() have lost every letter that the code page lacks.
+    // The arguments of main() lack all characters that aren't in the code page.
     int count = 0;
     const std::unique_ptr<LPWSTR, decltype(&LocalFree)> values(
         CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);

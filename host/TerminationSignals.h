@@ -5,9 +5,9 @@
 #include <QObject>
 #include <memory>
 
-// While it lives, the first SIGINT or SIGTERM (on Windows: Ctrl+C, or the end of the console) ends
-// all event loops, so that the program leaves by its ordinary way; a second one ends it at once.
-// One at a time, GUI thread only.
+// While this object lives, the first SIGINT or SIGTERM (on Windows: Ctrl+C, or closing the console)
+// ends all event loops, so the program ends as usual. A second one ends it at once. Only one object
+// at a time; GUI thread only.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
@@ -20,6 +20,6 @@ public:
     bool haveArrived() const { return m_haveArrived; }
 
 private:
-    std::unique_ptr<QObject> m_watch; // what the system wakes, where it needs one
+    std::unique_ptr<QObject> m_watch; // receives the signal, if the system needs an object for it
     bool m_haveArrived = false;
 };

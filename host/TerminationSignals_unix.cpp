@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<int, 2> Signals = {SIGINT, SIGTERM};
 std::array<int, 2> thePipe = {-1, -1}; // reading end, writing end
 
-// A handler may do next to nothing: the byte wakes the event loop.
+// A signal handler may do almost nothing: one byte wakes the event loop.
 void wake(int)
 {
     const char byte = 0;

@@ -13,7 +13,7 @@ namespace {
 QMutex theLock;
 std::function<void()> theArrival;
 
-// Runs in a thread that the system makes for it.
+// Runs in a thread that the system creates.
 BOOL WINAPI wake(DWORD event)
 {
     {
@@ -25,7 +25,7 @@ BOOL WINAPI wake(DWORD event)
         theArrival = nullptr;
     }
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) {
-        // The program is ended as soon as this returns, and after some seconds in any case.
+        // The system ends the program when this returns, or after some seconds.
         Sleep(INFINITE);
     }
     return TRUE;

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "host/commands/CheckCommand.h"
 
+#include "agent/EnvCheckAgent.h"
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
-#include "host/commands/CheckRun.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportBuilder.h"
 #include "host/report/ReportFile.h"
@@ -17,9 +17,29 @@
 #include "platform/backend/Engine.h"
 #include "platform/scripted/ScriptedEngine.h"
 
+#include <CoreEngine/CoreEngine.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+
+namespace {
+
+// Returns when the dialog is closed: true if the engine ended the session.
+bool runDialog()
+{
+    bool wasPutOut = false;
+    const QObject watcher;
+    auto* core = LumEngine::CoreEngine::instance();
+    const auto putOut = [&wasPutOut] { wasPutOut = true; };
+    QObject::connect(core, &LumEngine::CoreEngine::signalBasicBreakdown, &watcher, putOut);
+    QObject::connect(core, &LumEngine::CoreEngine::signalKickout, &watcher, putOut);
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    EnvCheckAgent::release();
+    return wasPutOut;
+}
+
+} // namespace
 
 CheckCommand::CheckCommand(const Options& options) : m_options(options)
 {
@@ -50,8 +70,8 @@ bool CheckCommand::prepareTour()
     return false;
 }
 
-// A file that was named is tried before the user spends time on the check. The default place is
-// not: a run without a report is better than none.
+// Tries a named file before the user spends time on the check. Doesn't try the default place: a run
+// without a report is better than no run.
 bool CheckCommand::prepareFiles()
 {
     for (const QString& file : {m_options.resultsFile, m_options.reportFile}) {
@@ -100,11 +120,10 @@ ExitCode CheckCommand::open(const QString& language)
                              QFileInfo(m_options.scenario).completeBaseName()};
     installed.prepare();
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
-    CheckRun run;
-    run.exec();
+    const bool wasPutOut = runDialog();
     facts.finished = QDateTime::currentDateTime();
     const QJsonObject results = installed.results();
-    const RunOutcome outcome = RunOutcome::fromDocument(results, run.wasPutOut());
+    const RunOutcome outcome = RunOutcome::fromDocument(results, wasPutOut);
     Console::print(outcome.toText());
 
     bool isWritten =
@@ -129,7 +148,7 @@ bool CheckCommand::write(Report report) const
     const QString problem = ReportFile::write(
         m_reportFile,
         ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
-    // A tour is nobody's run.
+    // A tour is no run of a user.
     if (!isTour()) {
         history.append(report,
                        problem.isEmpty() ? QFileInfo(m_reportFile).absoluteFilePath() : QString());

@@ -14,13 +14,14 @@ namespace Platform {
 class Engine;
 }
 
-// The command without a name: opens the check, then says what came of it. GUI thread only.
+// The command without a name: opens the check, then prints its result and writes the report. GUI
+// thread only.
 class CheckCommand
 {
 public:
     explicit CheckCommand(const Options& options);
 
-    ExitCode run(); // returns when the dialog is closed and all is written
+    ExitCode run(); // returns when the dialog is closed and the files are written
 
 private:
     bool isTour() const { return !m_options.tourFolder.isEmpty(); }
@@ -29,7 +30,7 @@ private:
     bool prepareRedaction();
     ExitCode open(const QString& language);
     bool write(Report report) const;
-    std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null where none is wanted
+    std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null without --tour
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 
     Options m_options;

@@ -8,6 +8,7 @@
 #include "host/Options.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportFile.h"
+#include "host/report/ReportJson.h"
 #include "host/report/ReportWriter.h"
 
 #include <QFileInfo>
@@ -39,7 +40,7 @@ QString shown(const std::vector<Report>& reports, const QStringList& names, Opti
     }
     QJsonArray array;
     for (const Report& report : reports) {
-        array.append(report.toJson());
+        array.append(ReportJson::toJson(report));
     }
     return QString::fromUtf8(QJsonDocument(array).toJson());
 }

@@ -6,7 +6,7 @@
 
 struct Options;
 
-// The command "report": shows what earlier runs have written.
+// The command "report": shows reports of earlier runs. GUI thread only.
 namespace ReportCommand {
 
 ExitCode run(const Options& options);

@@ -58,7 +58,7 @@ struct ReportChange
 };
 
 // One run of the check, as it is kept and passed on. Texts of devices, accounts and addresses are
-// foreign. docs/report-format.md and docs/report-schema.json describe its JSON.
+// foreign. ReportJson reads and writes it.
 struct Report
 {
     static constexpr int Version = 1;
@@ -83,7 +83,4 @@ struct Report
     std::vector<ReportChange> changes;
 
     const ReportCheck* check(CheckKind kind) const; // null where there is none
-    QJsonObject toJson() const;
-    // Nothing where the object isn't a report; error then is one line that names the field.
-    static std::optional<Report> fromJson(const QJsonObject& object, QString* error);
 };

@@ -84,7 +84,7 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
         return std::nullopt;
     }
     QString problem;
-    std::optional<Report> report = Report::fromJson(document.object(), &problem);
+    std::optional<Report> report = ReportJson::fromJson(document.object(), &problem);
     if (!report) {
         *error = QStringLiteral("%1: %2").arg(path, problem);
     }

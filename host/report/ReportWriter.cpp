@@ -3,13 +3,14 @@
 #include "host/report/ReportWriter.h"
 
 #include "host/Console.h"
+#include "host/TextTable.h"
+#include "host/report/ReportJson.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QTextStream>
-#include <algorithm>
 
 namespace {
 
@@ -40,26 +41,33 @@ QString titleOf(const ReportView& view, bool isTwin)
     return isTwin ? view.title + QStringLiteral(" (English, for support)") : view.title;
 }
 
+char markOf(const ReportView::Row& row)
+{
+    switch (row.mark) {
+    case ReportView::Mark::Bad:
+        return 'x';
+    case ReportView::Mark::Notice:
+        return '!';
+    case ReportView::Mark::Good:
+    case ReportView::Mark::Plain:
+        break;
+    }
+    return ' ';
+}
+
 void writeText(QTextStream& stream, const ReportView& view, bool isTwin)
 {
-    constexpr int Indent = 2;
-    constexpr int Gap = 2;
     const QString title = titleOf(view, isTwin);
     stream << title << '\n' << QString(Console::columns(title), QLatin1Char('=')) << '\n';
     for (const ReportView::Section& section : view.sections) {
-        stream << '\n' << section.title << '\n';
-        int width = 0;
+        TextTable table;
         for (const ReportView::Row& row : section.rows) {
-            width = std::max(width, Console::columns(Console::plainLine(row.caption)) + Gap);
+            const QString caption = QStringLiteral(" %1 %2")
+                                        .arg(QLatin1Char(markOf(row)))
+                                        .arg(Console::plainLine(row.caption));
+            table.addRow({caption, Console::plainLine(row.value)});
         }
-        for (const ReportView::Row& row : section.rows) {
-            const char* mark = row.mark == ReportView::Mark::Bad      ? "x"
-                               : row.mark == ReportView::Mark::Notice ? "!"
-                                                                      : " ";
-            stream << QString(Indent - 1, QLatin1Char(' ')) << mark << ' '
-                   << Console::padded(Console::plainLine(row.caption), width)
-                   << Console::plainLine(row.value) << '\n';
-        }
+        stream << '\n' << section.title << '\n' << table.toText();
     }
 }
 
@@ -102,32 +110,6 @@ void writeHtml(QTextStream& stream, const ReportView& view, bool isTwin)
         stream << "</table>\n";
     }
     stream << "</article>\n";
-}
-
-// A table of any texts, each column as wide as its widest.
-QString tableText(const std::vector<QStringList>& rows)
-{
-    constexpr int Gap = 2;
-    std::vector<int> widths;
-    for (const QStringList& row : rows) {
-        widths.resize(std::max(widths.size(), static_cast<std::size_t>(row.size())));
-        for (int i = 0; i < row.size(); ++i) {
-            int& width = widths[static_cast<std::size_t>(i)];
-            width = std::max(width, Console::columns(row.at(i)) + Gap);
-        }
-    }
-    QString text;
-    for (const QStringList& row : rows) {
-        QString line;
-        for (int i = 0; i < row.size(); ++i) {
-            line += Console::padded(row.at(i), widths[static_cast<std::size_t>(i)]);
-        }
-        while (line.endsWith(QLatin1Char(' '))) {
-            line.chop(1);
-        }
-        text += line + QLatin1Char('\n');
-    }
-    return text;
 }
 
 QStringList roomRow(const Report& report, const QString& name, const ReportTexts& texts)
@@ -185,7 +167,7 @@ QString ReportWriter::toHtml(const std::vector<Report>& reports, const QString& 
 
 QByteArray ReportWriter::toJson(const Report& report)
 {
-    return QJsonDocument(report.toJson()).toJson();
+    return QJsonDocument(ReportJson::toJson(report)).toJson();
 }
 
 QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStringList& names,
@@ -198,13 +180,14 @@ QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStr
         head << texts.of(check);
     }
     head << texts.caption("ID_Host_Grade") << texts.caption("ID_Host_Report_Contradiction");
-    std::vector<QStringList> rows = {head};
+    TextTable table;
+    table.addRow(head);
     for (std::size_t i = 0; i < reports.size(); ++i) {
         const bool isNamed = reports[i].redaction == Options::Redaction::None;
-        rows.push_back(roomRow(
+        table.addRow(roomRow(
             reports[i], isNamed ? names.at(static_cast<int>(i)) : QString::number(i + 1), texts));
     }
-    return tableText(rows);
+    return table.toText();
 }
 
 Options::Format ReportWriter::formatOf(const QString& fileName)

@@ -3,6 +3,7 @@
 #include "host/report/RunOutcome.h"
 
 #include "host/Console.h"
+#include "host/TextTable.h"
 #include "platform/backend/NetworkLimits.h"
 #include "platform/backend/ResultCodes.h"
 #include "platform/backend/ResultKeys.h"
@@ -10,7 +11,6 @@
 #include <CommEngine/LumSpeaker.h>
 
 #include <QJsonArray>
-#include <QTextStream>
 #include <algorithm>
 #include <optional>
 
@@ -126,20 +126,10 @@ RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
 
 QString RunOutcome::toText() const
 {
-    constexpr int Gap = 2;
-    int nameWidth = 0;
-    int verdictWidth = 0;
+    TextTable table;
     for (const CheckOutcome& check : checks) {
-        nameWidth = std::max(nameWidth, Console::columns(textOf(check.check)) + Gap);
-        verdictWidth = std::max(verdictWidth, Console::columns(textOf(check.verdict)) + Gap);
+        table.addRow(
+            {textOf(check.check), textOf(check.verdict), Console::plainLine(check.device)});
     }
-    QString text;
-    QTextStream stream(&text);
-    for (const CheckOutcome& check : checks) {
-        stream << Console::padded(textOf(check.check), nameWidth)
-               << Console::padded(textOf(check.verdict), verdictWidth)
-               << Console::plainLine(check.device) << '\n';
-    }
-    stream.flush();
-    return text;
+    return table.toText();
 }

@@ -6,13 +6,13 @@
 #include <QStringList>
 #include <vector>
 
-// The pictures of a tour on one HTML page.
+// Shows the pictures of a tour on one HTML page.
 class ContactSheet
 {
 public:
     explicit ContactSheet(const QString& folder) : m_folder(folder) {}
 
-    // The picture is a file name in the folder; the problems are what was found in it.
+    // The picture is a file name in the folder; the problems were found in it.
     void add(const QString& picture, const QString& caption, const QStringList& problems);
     bool write(const QString& title, QString* error) const; // to index.html in the folder
 

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QWidget>
 
-// The dialog as a visitor sees it: what is visible in it, by object name, and a picture of it with
-// its balloons, popups and questions. GUI thread only.
+// The dialog as a user sees it: its visible widgets by object name, and a picture of it with its
+// balloons, popups and questions. GUI thread only.
 class DialogView
 {
 public:
@@ -29,10 +29,10 @@ public:
         return nullptr;
     }
     bool isEnabled(const char* buttonName) const;
-    // Clicks from the event loop: what a click opens may run a loop of its own.
+    // Clicks from the event loop: the click may open a dialog with its own event loop.
     void click(const char* buttonName) const;
 
-    // All visible windows: the dialog first, then what stands above it.
+    // All visible windows: the dialog first, then those above it.
     QWidgetList windows() const;
     QPixmap picture() const;
 

@@ -17,19 +17,19 @@
 
 namespace {
 
-// Letters may lean a little out of their own width.
+// Letters may reach a little beyond their width.
 constexpr int TolerancePx = 2;
-// Letters don't stand quite in the middle of their line.
+// Letters aren't exactly in the middle of their line.
 constexpr int OverlapTolerancePx = 4;
-// Texts whose colours are the frame's own, by object name.
+// Object names of texts whose colour the frame sets.
 const char* const OwnColorNames[] = {"titleLabel", "closeButton"};
 
 struct ShownText
 {
     const QWidget* widget;
     QString text;
-    QSize needed; // what the text takes when it is painted
-    QRect room;   // where it may be painted, in the window's coordinates
+    QSize needed; // of the painted text
+    QRect room;   // where it may be painted, in coordinates of the window
     Qt::Alignment alignment;
 
     QRect painted(const QWidget* window) const
@@ -48,8 +48,8 @@ QRect inWindow(const QWidget* widget, const QRect& rect, const QWidget* window)
     return {widget->mapTo(const_cast<QWidget*>(window), rect.topLeft()), rect.size()};
 }
 
-// A line's box is higher than its letters, most of all in fonts for many scripts: what sticks out
-// of the room at the box's edges isn't missed.
+// The box of a line is higher than its letters, above all in fonts for many scripts. So the box may
+// be cut off a little at its edges.
 int inkHeight(const QFontMetrics& metrics, const QString& text, int boxHeight)
 {
     QString line = text;
@@ -109,7 +109,7 @@ std::vector<ShownText> textsOf(const QWidget* window)
     return texts;
 }
 
-// A balloon stands above what it speaks of.
+// A balloon may cover other texts.
 bool isBalloon(const QWidget* widget)
 {
     return widget->parentWidget()->inherits("LumToolTip");
@@ -141,7 +141,8 @@ double contrast(QRgb a, QRgb b)
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
-// The ground is the commonest colour, the letters are what differs from it most.
+// The background is the most frequent colour; the letters have the colour that differs most from
+// it.
 double paintedContrast(const ShownText& text, const QWidget* window, const QImage& picture)
 {
     const qreal ratio = picture.devicePixelRatio();

@@ -6,12 +6,13 @@
 
 class QWidget;
 
-// Looks for texts that a visitor can't read: cut off, on top of one another, or too faint where the
-// colour is the client's frame's and not the check's own style. GUI thread only.
+// Looks for texts that a user can't read: cut off, on top of one another, or with too little
+// contrast. It checks the contrast only of texts whose colour the client's frame sets. GUI thread
+// only.
 class LayoutInspector
 {
 public:
-    // Contrast of text that the frame colours, WCAG 2.1 success criterion 1.4.3.
+    // Least contrast of such a text, WCAG 2.1 success criterion 1.4.3.
     static constexpr double MinContrast = 4.5;
 
     // One line per problem in the visible texts of the window.

@@ -12,10 +12,10 @@
 namespace {
 
 constexpr int TickMs = 40;
-constexpr int SettleTicks = 3; // what becomes ready is painted a moment later
+constexpr int SettleTicks = 3; // a widget that becomes ready is painted a moment later
 constexpr qint64 StopDeadlineMs = 15000;
 
-// The dialog of the check, also while a question stands above it.
+// The dialog of the check, also while a question is open.
 QWidget* openDialog()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -110,8 +110,7 @@ void Tour::takePicture(const DialogView& view, const TourStop& stop)
 
 void Tour::leave(const DialogView& view)
 {
-    // OK ends the dialog; where a check failed there is none, and the dialog is closed as a visitor
-    // would.
+    // OK ends the dialog. If a check failed there is no OK: close the dialog as a user would.
     m_timer.stop();
     if (view.isEnabled("okButton")) {
         view.click("okButton");

@@ -10,23 +10,23 @@
 #include <QStringList>
 #include <QTimer>
 
-// Walks through the check by itself, saves a picture of every stop and looks for texts that can't
-// be read. Started before the dialog opens; works from its event loop. GUI thread only.
+// Walks through the check by itself, saves a picture of each stop and looks for unreadable texts.
+// Start it before the dialog opens; it works in the event loop of the dialog. GUI thread only.
 class Tour : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY(Tour)
 
 public:
-    // The pictures go into the folder, which must exist.
+    // The folder for the pictures must exist.
     Tour(const QString& folder, std::vector<TourStop> stops);
     ~Tour() override;
 
     void start();
-    // After the dialog is closed: writes the contact sheet. False with an error where it couldn't.
+    // Call it when the dialog is closed: writes the contact sheet. False with an error if it fails.
     bool finish(const QString& title, QString* error);
 
-    // What was found: unreadable texts, stops that weren't reached, pictures that weren't written.
+    // Unreadable texts, stops that weren't reached and pictures that weren't written.
     QStringList problems() const { return m_problems; }
     int pictureCount() const { return m_pictureCount; }
 

@@ -28,7 +28,7 @@ using Ready = std::function<bool(const DialogView&)>;
 using Stops = std::vector<TourStop>;
 
 constexpr int LitPercent = 30;
-constexpr int PointerMs = 150; // until the pointer's move has arrived
+constexpr int PointerMs = 150; // until the pointer has moved
 
 void nothing(const DialogView&)
 {
@@ -54,19 +54,20 @@ Ready shown(const char* widget)
     return [widget](const DialogView& view) { return view.find<QWidget>(widget) != nullptr; };
 }
 
-// The windows above the dialog are balloons, popups and questions.
+// Windows above the dialog are balloons, popups and questions.
 Ready windowsAbove(int count)
 {
     return [count](const DialogView& view) { return view.windows().size() == count + 1; };
 }
 
-// The tips button has no name of its own; its text is known.
+// The tips button has no object name, so find it by its text.
 void pressTips(const DialogView& view, const QString& text)
 {
     const QList<QPushButton*> buttons = view.dialog()->findChildren<QPushButton*>();
     for (QPushButton* button : buttons) {
         if (button->isVisible() && button->text() == QLatin1Char(' ') + text) {
-            // As a visitor does, the pointer first: the balloon closes when the pointer leaves it.
+            // Move the pointer first, as a user does: the balloon closes when the pointer leaves
+            // it.
             QCursor::setPos(button->mapToGlobal(button->rect().center()));
             QTimer::singleShot(PointerMs, button, &QAbstractButton::click);
         }
@@ -103,7 +104,7 @@ bool isMeasured(const DialogView& view)
     return delay && delay->text() != QLatin1String("- -");
 }
 
-// Yes where the page offers it, otherwise no.
+// Answers yes if the page offers it, else no.
 Act answering(const char* yes, const char* no)
 {
     return [yes, no](const DialogView& view) { view.click(view.isEnabled(yes) ? yes : no); };
@@ -388,7 +389,7 @@ std::vector<TourStop> TourScript::walkWithStates(Platform::ScriptedEngine& engin
 {
     auto& microphones = engine.microphones();
     const Platform::DeviceInfo microphone{microphones.currentId(), microphones.currentName()};
-    Stops stops = walkThrough(&engine, true); // ends without a microphone
+    Stops stops = walkThrough(&engine, true); // the microphone is gone at its end
     stops += {{}, clicking("Btn_Mic_No"), shown("resultPage")};
     stops += {"result-failed", nothing, shown("redetectButton")};
     stops += {{}, clicking("redetectButton"), shown("microphonePage")};

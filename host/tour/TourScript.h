@@ -12,18 +12,18 @@ namespace Platform {
 class ScriptedEngine;
 }
 
-// One stop of the tour: what to do first, what to wait for, and the name of the picture then taken.
+// One stop of the tour: what to do, what to wait for, and the name of the picture.
 struct TourStop
 {
-    QString name; // also the picture's file name; empty: no picture is taken
+    QString name; // also the file name of the picture; if empty, there is no picture
     std::function<void(const DialogView&)> act;
     std::function<bool(const DialogView&)> isReady;
-    bool isQuestion = false; // the picture is of a question above the dialog
+    bool isQuestion = false; // the picture shows a question above the dialog
 };
 
-// The stops of a tour, in order. The walk goes through the steps as a visitor does, on any devices.
-// With states, it also takes the scripted devices of the all-well scenario through all that can go
-// wrong.
+// The stops of a tour, in order. walk() goes through the steps as a user does, on any devices.
+// walkWithStates() also shows everything that can go wrong, on the scripted devices of the all-well
+// scenario.
 namespace TourScript {
 
 std::vector<TourStop> walk(Platform::ScriptedEngine* engine); // null: real devices

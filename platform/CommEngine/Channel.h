@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Whose device is meant.
+// The user whose device is meant; 0 is the local one.
 enum class Channel : int {
     Local = 0,
 };

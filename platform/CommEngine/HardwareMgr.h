@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QString>
 
-// The client's device manager, as far as the check reports to it. GUI thread only.
+// The client's device manager: the part that the check reports to. GUI thread only.
 class COMMENGINE_EXPORT HardwareMgr : public QObject
 {
     Q_OBJECT

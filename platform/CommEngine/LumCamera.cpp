@@ -97,7 +97,7 @@ void LumCamera::setOutputSize(const QSize& size)
 
 QImage LumCamera::latestFrame() const
 {
-    // A picture that no longer moves would pass for a camera that works.
+    // Clear the preview: a still frame would look like a working camera.
     return workWell() ? m_bridge->backend().latestFrame() : QImage();
 }
 

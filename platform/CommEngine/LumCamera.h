@@ -8,7 +8,7 @@
 #include <map>
 #include <memory>
 
-// The cameras: list, choice, pictures. GUI thread only; no call blocks.
+// The cameras: list, choice, frames. GUI thread only; no call blocks.
 class COMMENGINE_EXPORT LumCamera : public LumCameraBase
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
 
     std::map<QString, QString> getDeviceList() const; // id to name
     QString getNoneDeviceText() const;
-    explicit operator bool() const; // a camera is chosen, present, and may be opened
-    bool workWell() const;          // pictures arrive
+    explicit operator bool() const; // a camera is chosen, plugged in and allowed to be opened
+    bool workWell() const;          // frames arrive
     QString getCurrentDevice() const;
     QString getCurrentDeviceName() const;
     // The flags are for the client's shared cameras and have no meaning here.

@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QString>
 
-// A source of pictures that a PlayerContainer shows. GUI thread only.
+// A source of frames that a PlayerContainer shows. GUI thread only.
 class COMMENGINE_EXPORT LumCameraBase : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     virtual QImage latestFrame() const = 0; // null before the first
 
-    // The preview's device pixel ratio, so that pictures come sharp. At least 1.
+    // Device pixel ratio of the preview, so that frames are sharp. At least 1.
     virtual void setPreviewPixelRatio(qreal ratio) = 0;
 
 Q_SIGNALS:

@@ -33,7 +33,7 @@ public:
         Q_EMIT m_microphone.currentMicChanged(
             NoneDevice::toFacade(id), static_cast<bool>(m_microphone), m_microphone.workWell());
     }
-    // What a server reports isn't trusted to be a number.
+    // A server may report NaN.
     void levelMeasured(double level) override
     {
         Q_EMIT m_microphone.intensity(std::isnan(level) ? 0.0 : std::clamp(level, 0.0, 1.0));

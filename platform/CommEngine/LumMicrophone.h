@@ -28,7 +28,7 @@ public:
     void openMicrophone();
     void closeMicrophone();
     void enableListenSelf(bool on);
-    explicit operator bool() const; // a microphone is chosen, present, and may be opened
+    explicit operator bool() const; // a microphone is chosen, plugged in and allowed to be opened
     bool workWell() const;          // sound has been heard from it
 
     std::map<QString, _LumAudioInDevInfo> getDeviceList() const;
@@ -49,7 +49,7 @@ Q_SIGNALS:
     void volumeChanged(int percent);
     void infoChanged();
     void workStateChanged(const QString& id, bool works);
-    void systemMicrophoneVolume(float percent); // moved by somebody else
+    void systemMicrophoneVolume(float percent); // moved by another program
 
 private:
     class Bridge;

@@ -32,7 +32,7 @@ public:
     QString getDeviceName() const;
     int getVolume() const; // percent, 0 to 100
     void setVolume(int percent);
-    bool isWorking() const; // false for a vanished or failed device
+    bool isWorking() const; // false if the device is gone or failed
 
 Q_SIGNALS:
     void deviceListChanged();

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int RoundingPixels = 1; // by which two ways of fitting a size may differ
+constexpr int RoundingPixels = 1; // two ways to fit a size may differ by this
 
 } // namespace
 
@@ -59,13 +59,12 @@ void PlayerContainer::paintEvent(QPaintEvent* event)
     if (!m_isPlaying || !m_camera) {
         return;
     }
-    m_camera->setPreviewPixelRatio(devicePixelRatioF()); // the window may have changed its screen
+    m_camera->setPreviewPixelRatio(devicePixelRatioF()); // the window may be on another screen now
     const QImage picture = m_camera->latestFrame();
     if (picture.isNull()) {
         return;
     }
-    // In the device's own pixels, so that a picture of just the right size is neither scaled nor
-    // smoothed, whatever the ratio.
+    // Paint in device pixels: a frame of the right size is then neither scaled nor smoothed.
     QPainter painter(this);
     const qreal ratio = painter.deviceTransform().m11();
     painter.scale(1.0 / ratio, 1.0 / ratio);

@@ -10,7 +10,7 @@ class LumCameraBase;
 
 enum enumPlayerType : int {};
 
-// Shows the pictures of a camera, fitted in with their aspect kept. GUI thread only.
+// Shows the frames of a camera, scaled to fit with the aspect ratio kept. GUI thread only.
 class COMMENGINE_EXPORT PlayerContainer : public QFrame
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
 
     void attachCamera(LumCameraBase* camera); // not owned; null detaches
     void play();
-    void stop(); // shows the empty frame
+    void stop(); // shows nothing
 
 protected:
     void paintEvent(QPaintEvent* event) override;

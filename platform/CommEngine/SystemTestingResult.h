@@ -6,7 +6,7 @@
 #include <QString>
 
 // The result recorder. Answers: 0 not answered, 1 yes, 2 no. Device states: 1 works, 2 doesn't.
-// GUI thread only; nothing here waits.
+// GUI thread only; no call blocks.
 class COMMENGINE_EXPORT SystemTestingResult
 {
 public:

@@ -7,7 +7,7 @@
 #include <memory>
 #include <tuple>
 
-// A measurement of the way to the server that runs as long as the object lives. GUI thread only.
+// Measures the way to the server as long as the object lives. GUI thread only.
 class COREENGINE_EXPORT CommandNetworkTest : public QObject
 {
     Q_OBJECT

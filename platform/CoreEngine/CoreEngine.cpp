@@ -16,7 +16,7 @@ Platform::SystemFacts& facts()
 
 } // namespace
 
-// Passes what the engine reports on as signals of the façade.
+// Turns the reports of the engine into signals of the façade.
 class CoreEngine::Bridge final : public Platform::SystemFacts::Listener
 {
 public:

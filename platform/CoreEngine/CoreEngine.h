@@ -29,7 +29,7 @@ public:
     virtual void refreshUserInfo(); // may lead to signalUserInfoGet
 
     QString getProcessorName();
-    qint64 getCacheVolumeAvailableBytes(); // negative where it couldn't be read
+    qint64 getCacheVolumeAvailableBytes(); // negative if it is unknown
     QString clientIpFromLB();
 
 Q_SIGNALS:

@@ -34,7 +34,7 @@ public:
         }
     }
 
-    // Silence at once; but a back end can't be destroyed from inside its own call.
+    // Stop the sound now, but delete the object later: this may be a call from its back end.
     void stop()
     {
         m_isFinished = true;

@@ -9,8 +9,9 @@
 
 enum AudioPlayerType : int {};
 
-// One sound being played. Made and ended by the two functions below; it is also stopped and deleted
-// with the LumSpeaker that was the newest when it was made, without a signal. GUI thread only.
+// One sound that plays. The two functions below create and delete it. It is also stopped and
+// deleted, without a signal, with the LumSpeaker that was the newest at its creation. GUI thread
+// only.
 class LUMMEDIA_EXPORT AudioPlayer : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
     ~AudioPlayer() override;
 
 Q_SIGNALS:
-    // Once, from the event loop; also when the file or the device is bad.
+    // Once, from the event loop; also if the file or the device is bad.
     void playFileFinished();
 
 private:
@@ -34,7 +35,7 @@ private:
     std::unique_ptr<Bridge> m_bridge;
 };
 
-// Plays the file on the current speaker at once. volume is a factor, 0 to 1; type, data, size and
+// Starts to play the file on the current speaker. volume is a factor, 0 to 1; type, data, size and
 // the flags are for the client's other sounds and have no meaning here. Never null.
 LUMMEDIA_EXPORT AudioPlayer* CreateAudioPlayer(AudioPlayerType type, QString path, float volume,
                                                char* data, int size, bool loop, bool fadeIn);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Store names are foreign text, and some characters mean something in a path.
+// Store names are foreign text: escape characters that have a meaning in a path.
 QString fileName(const QString& store)
 {
     if (store.isEmpty()) {

@@ -15,8 +15,8 @@ class SettingsStore;
 class LUMUTILITY_EXPORT LumSettings
 {
 public:
-    // The store of that name; the empty name is the default store. The stores live until the
-    // installed engine changes.
+    // The store of that name; the empty name means the default store. Stores live until another
+    // engine is installed.
     static LumSettings* instance(const QString& store);
 
     ~LumSettings();

@@ -9,9 +9,9 @@
 
 namespace Platform {
 
-// One user of the cameras: the list, the choice and the pictures. Called on the GUI thread, never
-// blocks; the listener is called on the GUI thread from the event loop, never from inside a call,
-// and never after the back end's destructor.
+// One user of the cameras: list, choice and frames. All calls are on the GUI thread, and none
+// blocks. The listener is called on the GUI thread from the event loop: never during a call of this
+// class, and never after the destructor.
 class CameraBackend
 {
 public:
@@ -21,7 +21,7 @@ public:
         virtual void cameraListChanged() = 0;
         virtual void currentCameraChanged(const QString& id) = 0;
         virtual void cameraWorkStateChanged(const QString& id, bool works) = 0;
-        virtual void frameArrived() = 0; // at most one is under way at a time
+        virtual void frameArrived() = 0; // no second one is posted before the first is handled
 
     protected:
         ~Listener() = default;
@@ -30,18 +30,18 @@ public:
     virtual ~CameraBackend() = default;
 
     virtual DeviceList devices() const = 0;
-    // The chosen camera, also while it is unplugged; an empty id where none was chosen or the entry
-    // for no camera is.
+    // The chosen camera, also while it is unplugged. Empty if none was chosen, or if "no camera"
+    // was.
     virtual QString currentId() const = 0;
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id turns the camera off
     virtual DeviceState state() const = 0;
-    // A picture arrived within the last five frame periods or 500 ms, whichever is longer.
+    // A frame arrived within the last five frame periods or 500 ms, whichever is longer.
     virtual bool delivers() const = 0;
 
     virtual void start() = 0;
-    virtual void stop() = 0;                             // its pictures end with this call
-    virtual void setOutputSize(const QSize& pixels) = 0; // an upper bound; the aspect is kept
+    virtual void stop() = 0;                             // no frame arrives after this call
+    virtual void setOutputSize(const QSize& pixels) = 0; // upper bound; keeps the aspect ratio
     virtual QImage latestFrame() const = 0;              // mirrored; null before the first
 };
 

@@ -7,11 +7,11 @@
 
 namespace Platform {
 
-// The system's default device of one kind as it was found and as it is left, for the report.
+// For the report: the system's default device of one kind, when first seen and when last seen.
 class DefaultDevice
 {
 public:
-    void take(const QString& name) // null where there is none, which says nothing
+    void take(const QString& name) // null if there is none; that changes nothing
     {
         if (name.isNull()) {
             return;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/DeviceInfo.h"
 
+#include "platform/backend/EnumWords.h"
+
 #include <QSet>
 
 namespace Platform {
@@ -51,27 +53,7 @@ bool isUsable(DeviceState state)
 
 QString toString(DeviceState state)
 {
-    switch (state) {
-    case DeviceState::Absent:
-        return QStringLiteral("absent");
-    case DeviceState::Off:
-        return QStringLiteral("off");
-    case DeviceState::Denied:
-        return QStringLiteral("denied");
-    case DeviceState::Failed:
-        return QStringLiteral("failed");
-    case DeviceState::Busy:
-        return QStringLiteral("busy");
-    case DeviceState::Hung:
-        return QStringLiteral("hung");
-    case DeviceState::Silent:
-        return QStringLiteral("silent");
-    case DeviceState::Ready:
-        return QStringLiteral("ready");
-    case DeviceState::Working:
-        return QStringLiteral("working");
-    }
-    return {};
+    return EnumWords::word(state);
 }
 
 DeviceList withDistinctNames(DeviceList devices)

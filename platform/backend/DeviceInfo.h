@@ -4,15 +4,18 @@
 
 #include "ClassroomBackend/ClassroomBackendExport.h"
 
+#include <QObject>
 #include <QString>
 #include <vector>
 
 namespace Platform {
 
+Q_NAMESPACE_EXPORT(CLASSROOMBACKEND_EXPORT)
+
 // A device as a back end reports it. Both texts are foreign: any Unicode, any length.
 struct DeviceInfo
 {
-    QString id;   // unique in its list, stable over replugging where the system allows it
+    QString id;   // unique in its list; the same after replugging if the system allows it
     QString name; // for display, equal names already numbered
 
     friend bool operator==(const DeviceInfo& a, const DeviceInfo& b)
@@ -26,20 +29,21 @@ using DeviceList = std::vector<DeviceInfo>;
 // Why a chosen device works or doesn't.
 enum class DeviceState {
     Absent,  // none is chosen, or the chosen one isn't plugged in
-    Off,     // the entry for no device is chosen
+    Off,     // "no device" is chosen
     Denied,  // the system refuses to open it
     Failed,  // it was opened and broke
     Busy,    // another program holds it
     Hung,    // it didn't answer before the deadline
-    Silent,  // open, and nothing (or nothing above its noise) comes from it
+    Silent,  // open, and sends nothing, or nothing louder than its noise
     Ready,   // usable, not opened yet
-    Working, // it delivers
+    Working, // it sends frames or sound
 };
+Q_ENUM_NS(DeviceState)
 
-// Chosen, present, and may be opened: all but Absent, Off, Denied and Failed.
+// Chosen, plugged in and allowed to be opened: all but Absent, Off, Denied and Failed.
 CLASSROOMBACKEND_EXPORT bool isUsable(DeviceState state);
 
-// The state as one lower-case English word, for logs and reports.
+// The word of a state in logs and reports, such as "working".
 CLASSROOMBACKEND_EXPORT QString toString(DeviceState state);
 
 // Makes equal names distinct: the second "Camera" becomes "Camera (2)". Control characters become

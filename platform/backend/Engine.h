@@ -15,8 +15,8 @@
 
 namespace Platform {
 
-// A back end as a whole: what the façades ask for everything. One is installed in the
-// EngineRegistry. GUI thread only. What it creates must be destroyed before it.
+// A complete back end: the façades get everything from it. One is installed in the EngineRegistry.
+// GUI thread only. Destroy what it created before the engine itself.
 class CLASSROOMBACKEND_EXPORT Engine
 {
 public:
@@ -26,7 +26,7 @@ public:
     virtual std::unique_ptr<MicrophoneBackend>
     createMicrophone(MicrophoneBackend::Listener& listener) = 0;
     virtual std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) = 0;
-    // Null where no player can be made. volume is a factor, 0 to 1, on top of the device's volume.
+    // Null if no player can be made. volume is a factor, 0 to 1, on top of the device's volume.
     virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener) = 0;
     virtual std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) = 0;
@@ -34,7 +34,7 @@ public:
     virtual DeviceList speakers() const = 0;
     virtual SystemFacts& systemFacts() = 0;
     virtual ReportSink& reportSink() = 0;
-    // The folder that keeps the settings stores; it need not exist yet.
+    // The folder of the settings stores. It may not exist yet.
     virtual QString settingsFolder() const = 0;
 };
 

@@ -10,15 +10,15 @@ namespace Platform {
 
 class Engine;
 
-// The engine of this process. The host (or a test) installs one before it makes the first façade
-// object and uninstalls it after the last one is gone. GUI thread only.
+// The engine of this process. The host (or a test) installs it before it creates the first façade
+// object, and uninstalls it after it destroyed the last one. GUI thread only.
 namespace EngineRegistry {
 
 CLASSROOMBACKEND_EXPORT void install(std::unique_ptr<Engine> engine);
 CLASSROOMBACKEND_EXPORT void uninstall();
 CLASSROOMBACKEND_EXPORT bool isInstalled();
 CLASSROOMBACKEND_EXPORT Engine& engine(); // one must be installed
-// Grows with every install(), so that a cached reference can be told to be stale.
+// Increases with every install(): shows whether a cached reference is stale.
 CLASSROOMBACKEND_EXPORT int generation();
 
 } // namespace EngineRegistry

@@ -13,7 +13,7 @@ const QLatin1String LongPathMark("//?/");
 
 bool isDevice(const QString& name)
 {
-    // The digits 1 to 3 also as superscripts.
+    // Windows also accepts superscript digits 1 to 3.
     static const QRegularExpression devices(
         QStringLiteral("^(CON|PRN|AUX|NUL|CONIN\\$|CONOUT\\$|(COM|LPT)[1-9\u00b9\u00b2\u00b3])$"),
         QRegularExpression::CaseInsensitiveOption);
@@ -27,11 +27,11 @@ QString problemOfName(const QString& name)
         return QStringLiteral("%1 is the name of a device on Windows").arg(name);
     }
     if (name.contains(letters)) {
-        return QStringLiteral("on Windows no name has a letter of < > : \" | ? * or a control "
-                              "character");
+        return QStringLiteral("on Windows a name can't contain < > : \" | ? * or control "
+                              "characters");
     }
     if (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' '))) {
-        return QStringLiteral("on Windows no name ends in a dot or a blank");
+        return QStringLiteral("on Windows a name can't end in a dot or a space");
     }
     return {};
 }

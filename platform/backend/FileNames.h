@@ -8,14 +8,14 @@
 
 namespace Platform {
 
-// Paths that a system opens as something else than the file they name.
+// Recognises paths that the system doesn't open as an ordinary file of that name.
 namespace FileNames {
 
-// Empty, or what is wrong with the path by this system's own rules.
+// Empty, or what is wrong with the path under the rules of this system.
 CLASSROOMBACKEND_EXPORT QString problem(const QString& path);
 
-// Windows' rules: in any folder and with any ending, some names are devices; some letters and ends
-// no name has.
+// Under the rules of Windows: some names mean devices in every folder and with every extension, and
+// some characters and endings are forbidden.
 CLASSROOMBACKEND_EXPORT QString problemOnWindows(const QString& path);
 
 } // namespace FileNames

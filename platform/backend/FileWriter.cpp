@@ -50,13 +50,13 @@ QString updateNow(const QString& path, const FileWriter::Transform& transform)
         return QStringLiteral("it is not a regular file");
     }
     if (!QDir().mkpath(info.absolutePath())) {
-        return QStringLiteral("its folder can't be made");
+        return QStringLiteral("its folder can't be created");
     }
     QLockFile lock(path + QStringLiteral(".lock"));
     if (!lock.tryLock(FileWriter::LockTimeoutMs)) {
         return lock.error() == QLockFile::LockFailedError
                    ? QStringLiteral("another program holds its lock file %1.lock").arg(path)
-                   : QStringLiteral("its lock file can't be made");
+                   : QStringLiteral("its lock file can't be created");
     }
     QByteArray present;
     if (info.exists()) {
@@ -71,7 +71,7 @@ QString updateNow(const QString& path, const FileWriter::Transform& transform)
     }
     const QByteArray content = transform(present);
     QSaveFile file(path);
-    // commit() takes no notice of what only comes to light when the last bytes are written.
+    // commit() doesn't report errors of the last buffered bytes; flush() does.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.flush() || !file.commit()) {
         return file.errorString();

@@ -19,7 +19,7 @@ constexpr int MaxCpuInfoLines = 64; // the first processor's block is shorter
 } // namespace
 
 #ifdef Q_OS_WIN
-// Without the build number in brackets, for which the step has no room.
+// Without the build number in brackets: the network page has no room for it.
 QStringList MachineFacts::operatingSystem()
 {
     return {QSysInfo::prettyProductName().section(QStringLiteral(" ("), 0, 0),
@@ -61,7 +61,7 @@ qint64 MachineFacts::availableBytes(const QString& folder)
     while (!existing.exists() && existing.absolutePath() != existing.absoluteFilePath()) {
         existing.setFile(existing.absolutePath());
     }
-    // Asked of the folder itself: QStorageInfo knows nothing below a changed root.
+    // Ask the folder itself: QStorageInfo doesn't work after chroot.
     std::error_code error;
     const std::filesystem::space_info space =
         std::filesystem::space(existing.absoluteFilePath().toStdU16String(), error);

@@ -9,20 +9,19 @@
 
 namespace Platform {
 
-// What Qt and the system tell of the machine. Thread-safe; availableBytes() waits
-// for the disk.
+// What Qt and the system know about the machine. Thread-safe; availableBytes() waits for the disk.
 namespace MachineFacts {
 
 CLASSROOMBACKEND_EXPORT QStringList operatingSystem(); // name with version, then architecture
-// The model as the system names it, otherwise the architecture.
+// The model as the system names it, or the architecture if it names none.
 #ifdef Q_OS_WIN
 CLASSROOMBACKEND_EXPORT QString processorName();
 #else
 CLASSROOMBACKEND_EXPORT QString
 processorName(const QString& cpuInfoPath = QStringLiteral("/proc/cpuinfo"));
 #endif
-// What this user may still write on the folder's volume; the folder need not exist yet. -1 where it
-// can't be read.
+// The space left for this user on the volume of the folder, which may not exist yet. -1 if the
+// system doesn't say.
 CLASSROOMBACKEND_EXPORT qint64 availableBytes(const QString& folder);
 
 } // namespace MachineFacts

@@ -12,7 +12,7 @@ namespace Platform {
 struct Mailbox::Sender::Shared
 {
     QMutex mutex;
-    std::unique_ptr<QObject> receiver; // null once closed; its posted events die with it
+    std::unique_ptr<QObject> receiver; // null after close(); deleting it drops its posted events
 };
 
 void Mailbox::Sender::post(Letter letter) const

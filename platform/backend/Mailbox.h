@@ -11,10 +11,10 @@ class QObject;
 
 namespace Platform {
 
-// The one way from a media thread to the GUI thread. The owner lives on the GUI thread and keeps
-// the mailbox; media threads keep copies of its sender. What is posted runs on the GUI thread from
-// the event loop, in order; after close() or the destructor nothing runs any more, also what was
-// posted before. Posting is thread-safe and never waits for the GUI thread.
+// The only way from a media thread to the GUI thread. The owner of the mailbox lives on the GUI
+// thread; media threads hold copies of its sender. Letters run on the GUI thread from the event
+// loop, in order. After close() or the destructor none runs, not even those posted before. Posting
+// is thread-safe and never waits for the GUI thread.
 class CLASSROOMBACKEND_EXPORT Mailbox
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-// One user of the microphones: the list, the choice, the level, the volume, listening to oneself.
-// Threads as for CameraBackend.
+// One user of the microphones: list, choice, level, volume and listening to oneself. Threads as for
+// CameraBackend.
 class MicrophoneBackend
 {
 public:
@@ -17,10 +17,10 @@ public:
         virtual void microphoneListChanged() = 0;
         virtual void currentMicrophoneChanged(const QString& id) = 0;
         virtual void levelMeasured(double level) = 0; // 0 to 1, at least 30 a second while open
-        virtual void microphoneVolumeChanged(int percent) = 0; // as set by this user
+        virtual void microphoneVolumeChanged(int percent) = 0; // by setVolume()
         virtual void microphoneInfoChanged() = 0;              // name, mute or adjustability
         virtual void microphoneWorkStateChanged(const QString& id, bool works) = 0;
-        virtual void systemVolumeChanged(float percent) = 0; // moved by somebody else
+        virtual void systemVolumeChanged(float percent) = 0; // by another program
 
     protected:
         ~Listener() = default;
@@ -36,7 +36,7 @@ public:
     virtual bool hasHeardSound() const = 0; // from the current device while it was open
 
     virtual void open() = 0;
-    virtual void close() = 0; // leaves no stream behind
+    virtual void close() = 0; // stops all streams
     virtual void setListening(bool on) = 0;
 
     virtual bool isVolumeAdjustable() const = 0;

@@ -9,10 +9,10 @@
 
 namespace Platform {
 
-// What a probe measured over its window.
+// What a probe measured within its time window.
 struct NetworkFigures
 {
-    int lossPercent = 0;                      // of the probes whose deadline has passed
+    int lossPercent = 0;                      // of the requests whose deadline has passed
     int delayMs = NetworkLimits::NotMeasured; // median round trip
     int jitterMs = 0;                         // interarrival jitter, RFC 3550 section 6.4.1
     int sent = 0;
@@ -21,11 +21,11 @@ struct NetworkFigures
     int delay95Ms = NetworkLimits::NotMeasured;
 };
 
-// As they are recorded.
+// As they stand in the report.
 CLASSROOMBACKEND_EXPORT QJsonObject toJson(const NetworkFigures& figures);
 
-// A running measurement of the way to the server, from its creation to its destruction. Threads as
-// for CameraBackend.
+// Measures the way to the server from its construction to its destruction. Threads as for
+// CameraBackend.
 class NetworkProbe
 {
 public:

@@ -7,8 +7,7 @@
 
 namespace Platform {
 
-// The least of the sorted values, of which there must be one, that so many percent of them don't
-// exceed.
+// Nearest-rank percentile of a non-empty sorted range.
 template <typename Value>
 Value percentile(const std::vector<Value>& sorted, std::size_t percent)
 {

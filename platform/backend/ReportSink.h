@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-// Where the outcome of a run goes. GUI thread; nothing here waits for a disk or a server.
+// Receives what a run finds out. GUI thread only; no call waits for a disk or a server.
 class ReportSink
 {
 public:
@@ -19,7 +19,7 @@ public:
     virtual void recordResult(const QString& key, const QJsonValue& value) = 0;
     // What a back end measured of a check ("camera", "speaker", "microphone", "network").
     virtual void recordMeasurement(const QString& check, const QJsonObject& figures) = 0;
-    // A report code, posted by the device manager of the given name.
+    // A report code that the device manager of this name posts.
     virtual void postCode(const QString& managerName, int code) = 0;
 };
 

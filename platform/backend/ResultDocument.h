@@ -15,9 +15,9 @@ namespace Platform {
 // The values of one run as one JSON document:
 //   { "version": 1, "results": { "camera": { "userState": 1, … }, … },
 //     "measurements": { "camera": { … }, … }, "later": { "network": { … } }, "codes": [ 3 ] }
-// The measurements of a check are those that stood when its last result was recorded; without a
-// result they are the newest. "later" has those that came or changed after that; often none did.
-// GUI thread only. Where a path is set, every change replaces the file whole (FileWriter).
+// The measurements of a check are those at the time of its last result, or the newest if it has no
+// result. "later" has those that came or changed after that; it is often missing. GUI thread only.
+// If a path is set, every change rewrites the file (FileWriter).
 class CLASSROOMBACKEND_EXPORT ResultDocument
 {
 public:
@@ -26,16 +26,16 @@ public:
     void setPath(const QString& path); // an empty path keeps the document in memory
     QString path() const { return m_path; }
     QJsonObject toJson() const;
-    void clear(); // for the next run; the file stays until something is recorded
+    void clear(); // for the next run; the file keeps its content until the next value
 
     // key is "check.value", such as "camera.userState".
     void recordResult(const QString& key, const QJsonValue& value);
-    // Figures with a "state" are those of one device. They replace what was recorded so of another.
+    // Figures with a "state" belong to one device. They replace the figures of another device.
     void recordMeasurement(const QString& check, const QJsonObject& figures);
     void recordCode(int code);
 
 private:
-    // By check, by name. A QJsonObject would keep what was replaced in it.
+    // By check, then by name. A QJsonObject would keep the memory of replaced values.
     using Section = QMap<QString, QMap<QString, QJsonValue>>;
 
     Section judgedOrNewest() const;
@@ -48,7 +48,7 @@ private:
     Section m_measurements; // the newest
     Section m_judged;       // the measurements as they were at a check's last result
     QList<int> m_codes;
-    QMap<QString, QSet<QString>> m_deviceKeys; // of the figures with a "state", by check
+    QMap<QString, QSet<QString>> m_deviceKeys; // keys of figures with a "state", by check
 };
 
 } // namespace Platform

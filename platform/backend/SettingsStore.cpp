@@ -28,8 +28,8 @@ bool writeFile(const QString& path, const QByteArray& content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-// QSettings waits for a foreign lock without a bound. On a private copy there is nobody to wait
-// for; the file itself is replaced by the FileWriter, whose wait is bounded.
+// QSettings waits without limit while another program holds the lock. So it edits a private copy,
+// and the FileWriter replaces the file, with a limited wait.
 QByteArray edited(const QString& path, const QByteArray& present,
                   const QMap<QString, QVariant>& changes)
 {
@@ -45,7 +45,7 @@ QByteArray edited(const QString& path, const QByteArray& present,
     settings.sync();
     if (settings.status() == QSettings::FormatError) {
         qCWarning(settingsLog).noquote()
-            << "Damaged settings:" << path << "- what could be read of it is kept";
+            << "Damaged settings:" << path << "- the readable part is kept";
     }
     return settings.status() == QSettings::AccessError ? present : readFile(copy);
 }

@@ -10,16 +10,16 @@
 
 namespace Platform {
 
-// An INI file of settings. Writing returns at once: the file is rewritten whole by the FileWriter,
-// with the other programs' keys kept. GUI thread only.
+// An INI file of settings. setValue() returns at once; the FileWriter rewrites the file later and
+// keeps the keys of other programs. GUI thread only.
 class CLASSROOMBACKEND_EXPORT SettingsStore
 {
 public:
     explicit SettingsStore(const QString& path);
 
     QString path() const { return m_path; }
-    // The value set last here, otherwise the file's, otherwise the fallback. Reads the file at the
-    // first call (the only wait for a disk).
+    // The value that was set last, else the file's, else the fallback. The first call reads the
+    // file: it alone waits for the disk.
     QVariant value(const QString& key, const QVariant& fallback = {}) const;
     void setValue(const QString& key, const QVariant& value);
 

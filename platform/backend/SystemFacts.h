@@ -7,8 +7,8 @@
 
 namespace Platform {
 
-// Facts about the machine, the account and the session. GUI thread; every answer is at hand, none
-// waits for a disk or a server.
+// Facts about the machine, the account and the session. GUI thread only. Every answer is already
+// there: no call waits for a disk or a server.
 class SystemFacts
 {
 public:
@@ -36,7 +36,7 @@ public:
     virtual void refreshUserInfo() = 0; // may later lead to userInfoArrived()
 
     virtual QString processorName() const = 0;
-    virtual qint64 cacheVolumeAvailableBytes() const = 0; // negative where it couldn't be read
+    virtual qint64 cacheVolumeAvailableBytes() const = 0; // negative if it is unknown
     virtual QString clientAddress() const = 0;
     virtual QStringList operatingSystem() const = 0; // name, then version, then architecture
 };

@@ -10,15 +10,15 @@
 
 namespace Platform {
 
-// What the library asked of the scripted back end, in order, as "object.operation(arguments)".
-// Keeps the last MaxEntries calls.
+// The calls that the library made to the scripted back end, in order, as
+// "object.operation(arguments)". Keeps the last MaxEntries calls.
 class CLASSROOMSCRIPTED_EXPORT CallLog
 {
 public:
     static constexpr std::size_t MaxEntries = 10000;
 
     QStringList calls() const;
-    QStringList commands() const; // without the calls that only ask
+    QStringList commands() const; // without queries
     void clear();
     int livingSessions() const { return m_livingSessions; }
 

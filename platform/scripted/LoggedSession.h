@@ -8,7 +8,7 @@ namespace Platform {
 
 class CallLog;
 
-// Logs the life and the calls of one session. The log must outlive it.
+// Logs creation, calls and destruction of one session. The log must outlive it.
 class LoggedSession
 {
 public:

@@ -3,7 +3,7 @@
 #include "platform/scripted/Scenario.h"
 
 #include "platform/backend/FileNames.h"
-#include "platform/scripted/JsonLines.h"
+#include "platform/backend/JsonLines.h"
 #include "platform/scripted/ScenarioReader.h"
 
 #include <QDir>
@@ -15,7 +15,7 @@ namespace Platform {
 
 namespace {
 
-constexpr qint64 MaxFileBytes = 1024 * 1024;
+constexpr qint64 MaxFileBytes = qint64(1024) * 1024;
 const QLatin1String BundledFolder(":/scenarios");
 const QLatin1String Suffix(".json");
 const QLatin1String BaseKey("base");
@@ -23,14 +23,14 @@ const QLatin1String BaseKey("base");
 // Empty on success, otherwise why the file can't be read.
 QString load(const QString& path, QByteArray* content)
 {
-    const QString nameProblem =
+    QString nameProblem =
         path.startsWith(BundledFolder) ? QString() : FileNames::problem(path);
     if (!nameProblem.isEmpty()) {
         return nameProblem;
     }
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("no such file, and no bundled scenario of this name (those are %1)")
+        return QStringLiteral("no such file, and no bundled scenario of this name (there are %1)")
             .arg(Scenario::bundledNames().join(QStringLiteral(", ")));
     }
     if (!info.isFile()) {
@@ -52,7 +52,7 @@ QString bundledPath(const QString& name)
     return BundledFolder + QLatin1Char('/') + name + Suffix;
 }
 
-// What a scenario doesn't say stands in the bundled one that it builds on.
+// Takes fields that the scenario doesn't set from the bundled scenario that it names as its base.
 QJsonObject withBase(const QJsonObject& document, JsonProblem& problem)
 {
     if (!document.contains(BaseKey)) {
@@ -103,13 +103,11 @@ std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error
         problem.set({}, QStringLiteral("the document must be an object"));
     }
     if (!lines.duplicate().isEmpty()) {
-        problem.set(lines.duplicate(), QStringLiteral("stands twice"));
+        problem.set(lines.duplicate(), QStringLiteral("occurs twice"));
     }
     const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
     if (problem.isSet()) {
-        const QString field =
-            problem.path.isEmpty() ? QString() : problem.path + QStringLiteral(": ");
-        *error = message(path, lines.lineOf(problem.path), field + problem.text);
+        *error = message(path, lines.lineOf(problem.path), problem.toString());
         return {};
     }
     return scenario;

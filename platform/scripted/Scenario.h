@@ -14,7 +14,7 @@ namespace Platform {
 
 class ScriptedEngine;
 
-// What a scripted engine plays: how everything is at its start, and what happens when.
+// What a scripted engine plays: the state at the start, and the events after it.
 class CLASSROOMSCRIPTED_EXPORT Scenario
 {
 public:
@@ -28,10 +28,10 @@ public:
 
     QString description;
     std::vector<Action> setup;
-    std::vector<Event> timeline; // in the order of time
+    std::vector<Event> timeline; // sorted by time
 
-    // Reads a bundled scenario by its name, or a file (docs/scenario-format.md). Where that fails,
-    // error is one line that names the file, the line and the field.
+    // Reads a bundled scenario by its name, or a file (docs/scenario-format.md). If that fails,
+    // error is one line with the file, the line number and the field.
     static std::optional<Scenario> read(const QString& nameOrPath, QString* error);
     static QStringList bundledNames();
 };

@@ -72,7 +72,7 @@ void ScriptedCamera::start()
     takeWorkState();
 }
 
-// What changes by this call is known to the caller: it is not notified.
+// The caller knows what its own call changes, so the listener isn't told.
 void ScriptedCamera::stop()
 {
     m_session.call("stop");
@@ -106,7 +106,7 @@ QImage ScriptedCamera::latestFrame() const
     return m_picture;
 }
 
-// The listener hears of another camera, and with that of its state, in one call.
+// One call tells the listener about the other camera and its state.
 void ScriptedCamera::onCurrentChanged()
 {
     m_watchdog.stop();
@@ -164,7 +164,7 @@ DeviceState ScriptedCamera::currentState() const
     return m_isStarted ? DeviceState::Silent : DeviceState::Ready;
 }
 
-// A stall is noticed by the watchdog, as with a real camera; what the state says holds at once.
+// As with a real camera, the watchdog notices a stall. A scripted state counts at once.
 void ScriptedCamera::runFrames()
 {
     if (m_isStarted && canDeliver()) {

@@ -42,16 +42,16 @@ private:
     void recordMeasurement();
 
     QTimer m_frameTimer;
-    QTimer m_watchdog; // runs as long as the last picture is recent
+    QTimer m_watchdog; // runs while the last frame is recent
     QSize m_outputSize;
     bool m_isStarted = false;
     QElapsedTimer m_startClock;
-    qint64 m_firstFrameMs = 0; // of the current camera, like the next three
+    qint64 m_firstFrameMs = 0; // this and the next three: of the current camera
     int m_frame = 0;
     int m_pictures = 0;
     int m_blackFrames = 0;
     int m_frozenFrames = 0;
-    mutable QImage m_picture; // painted when it is asked for
+    mutable QImage m_picture; // painted on demand
 };
 
 } // namespace Platform

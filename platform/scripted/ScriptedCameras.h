@@ -18,10 +18,11 @@ class CLASSROOMSCRIPTED_EXPORT ScriptedCameras : public ScriptedDevices
 public:
     enum class Pictures {
         Moving, // a test pattern with the camera's name
-        Frozen, // the same pattern again and again
+        Frozen, // the same frame again and again
         Black,
-        None, // a stall: the camera runs and nothing comes
+        None, // a stall: the camera runs and sends no frame
     };
+    Q_ENUM(Pictures)
 
     struct Feed
     {

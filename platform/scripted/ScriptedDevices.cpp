@@ -106,7 +106,7 @@ std::vector<ScriptedDevices::Device>::const_iterator ScriptedDevices::find(const
                         [&id](const Device& device) { return device.info.id == id; });
 }
 
-// The name of an unplugged device is the last one it had.
+// An unplugged device keeps its last name.
 void ScriptedDevices::refreshCurrentName()
 {
     for (const DeviceInfo& device : devices()) {

@@ -10,13 +10,13 @@
 
 namespace Platform {
 
-// The devices of one kind: which are plugged in, what is wrong with them, which one is chosen. The
-// first device to be plugged in is chosen unless a choice was made; a chosen device stays chosen
-// while it is unplugged. Steered by a scenario or a test; the sessions pass changes on to their
-// listeners from the event loop.
+// The devices of one kind: which are plugged in, their states, and which one is chosen. If nobody
+// chose one, the first device that is plugged in is the chosen one. A chosen device stays chosen
+// while it is unplugged. A scenario or a test makes the changes; the sessions tell their listeners
+// from the event loop.
 //
-// A device's scripted state: Ready works as soon as something comes from it, Working works without
-// waiting for that, all others stay as they are.
+// The scripted state of a device: Ready becomes Working with the first frame or sound, Working
+// doesn't wait for that, and all others stay as they are.
 class CLASSROOMSCRIPTED_EXPORT ScriptedDevices : public QObject
 {
     Q_OBJECT
@@ -26,23 +26,23 @@ public:
     ScriptedDevices();
     ~ScriptedDevices() override;
 
-    // A device that is already there keeps its place and takes the new name and state.
+    // If a device of this id is in the list, it keeps its place and gets the new name and state.
     void plug(const DeviceInfo& device, DeviceState state = DeviceState::Ready);
     void unplug(const QString& id);
     void rename(const QString& id, const QString& name);
     void setState(const QString& id, DeviceState state);
-    void choose(const QString& id); // an empty id is the entry for no device
+    void choose(const QString& id); // an empty id means "no device"
 
     DeviceList devices() const;
     QString currentId() const { return m_currentId; }
-    // The system's own choice: the first of the list. Null where there is none.
+    // The system's default device: the first of the list. Null if the list is empty.
     QString defaultName() const;
     QString currentName() const { return m_currentName; }
-    DeviceState currentState() const; // as scripted; Absent or Off where there is none
+    DeviceState currentState() const; // as scripted; Absent or Off if there is none
 
 Q_SIGNALS:
     void listChanged();
-    void currentChanged(const QString& id); // also after every change of the list
+    void currentChanged(const QString& id); // also after each change of the list
     void currentStateChanged();
     void currentInfoChanged();
 

@@ -19,18 +19,17 @@ namespace Platform {
 
 class Timeline;
 
-// A back end without hardware: what the library is told is steered through the objects below, by a
-// test or by a scenario, and what it asks is logged. A fresh one has no device, measures nothing
-// and knows nothing. Changes reach the listeners from the event loop: a test turns it
-// (QTRY_VERIFY, QCoreApplication::processEvents()) before it looks. Pictures need a
-// QGuiApplication.
+// A back end without hardware. A test or a scenario controls it through the objects below, and
+// every call of the library is logged. A new engine has no device, measures nothing and knows no
+// facts. Changes reach the listeners from the event loop, so a test runs it (QTRY_VERIFY,
+// QCoreApplication::processEvents()) before it looks. Frames need a QGuiApplication.
 class CLASSROOMSCRIPTED_EXPORT ScriptedEngine final : public Engine
 {
 public:
     explicit ScriptedEngine(const Scenario& scenario = {});
     ~ScriptedEngine() override;
 
-    // Makes one, installs it in the EngineRegistry, which owns it, and hands it out for steering.
+    // Creates an engine and installs it in the EngineRegistry, which owns it.
     static ScriptedEngine& install(const Scenario& scenario = {});
 
     ScriptedCameras& cameras() { return m_cameras; }
@@ -41,9 +40,9 @@ public:
     ScriptedReports& reports() { return m_reports; }
 
     QStringList calls() const { return m_log.calls(); }
-    QStringList commands() const { return m_log.commands(); } // without the calls that only ask
+    QStringList commands() const { return m_log.commands(); } // without queries
     void clearCalls() { m_log.clear(); }
-    // Cameras, microphones, speakers, players and probes that were created and not destroyed.
+    // The number of cameras, microphones, speakers, players and probes that exist now.
     int livingSessions() const { return m_log.livingSessions(); }
 
     void setSettingsFolder(const QString& folder) { m_settingsFolder = folder; }
@@ -68,7 +67,7 @@ private:
     ScriptedNetwork m_network;
     ScriptedFacts m_facts;
     ScriptedReports m_reports;
-    QTemporaryDir m_privateFolder; // never the user's own settings, unless the host says so
+    QTemporaryDir m_privateFolder; // used unless the host names the user's own settings
     QString m_settingsFolder;
     std::unique_ptr<Timeline> m_timeline;
 };

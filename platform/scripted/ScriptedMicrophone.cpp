@@ -136,7 +136,7 @@ void ScriptedMicrophone::connectModel()
         [this](float percent) { m_listener.systemVolumeChanged(percent); }, Qt::QueuedConnection);
 }
 
-// The listener hears of another microphone, and with that of its state, in one call.
+// One call tells the listener about the other microphone and its state.
 void ScriptedMicrophone::onCurrentChanged()
 {
     m_hasHeard = false;
@@ -180,7 +180,7 @@ void ScriptedMicrophone::startMeasuring()
     m_quietest.reset();
 }
 
-// A level is all that is scripted of the sound; what takes samples to measure isn't made up.
+// A scenario gives levels and no samples: figures that need samples are not measured.
 void ScriptedMicrophone::addSound(QJsonObject& figures) const
 {
     figures.insert(QStringLiteral("soundHeard"), hasHeard());
@@ -224,7 +224,7 @@ DeviceState ScriptedMicrophone::currentState() const
     return m_isOpen ? DeviceState::Silent : DeviceState::Ready;
 }
 
-// The last level of a microphone that goes away while it is open is 0.
+// If a microphone disappears while it is open, its last level is 0.
 void ScriptedMicrophone::runLevels()
 {
     const bool runs = m_isOpen && m_devices.hasLevels() && isUsable(currentState());

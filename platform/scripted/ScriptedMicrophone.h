@@ -55,10 +55,10 @@ private:
     QElapsedTimer m_openClock;
     bool m_isOpen = false;
     QString m_id;
-    FoundVolume m_found; // of that microphone
+    FoundVolume m_found; // of the microphone m_id
     DefaultDevice m_default;
     bool m_hasHeard = false;
-    std::optional<double> m_loudest; // levels of this opening
+    std::optional<double> m_loudest; // since it was opened
     std::optional<double> m_quietest;
 };
 

@@ -53,7 +53,7 @@ void ScriptedMicrophones::emitLevel(double level)
     Q_EMIT levelEmitted(level);
 }
 
-// What is reported may be absurd, the device's own volume isn't.
+// The report may be any number; the volume of the device stays within its range.
 void ScriptedMicrophones::moveVolumeFromOutside(float percent)
 {
     if (!std::isnan(percent)) {

@@ -22,8 +22,8 @@ public:
         int atMs = 0;
         double level = 0; // 0 to 1
     };
-    // Straight lines between its points, repeated from the last one on. Without a point no level
-    // is measured but those of emitLevel().
+    // Straight lines between the points, repeated after the last one. Without points, only
+    // emitLevel() gives levels.
     using LevelCurve = std::vector<LevelPoint>;
 
     ScriptedMicrophones();
@@ -34,11 +34,11 @@ public:
     void setLevel(const QString& id, double level); // a constant one
     void setAdjustable(const QString& id, bool isAdjustable);
     void setVolume(const QString& id, int percent);
-    void setMuted(const QString& id, bool isMuted); // it hears nothing while it is
+    void setMuted(const QString& id, bool isMuted); // a muted one hears nothing
 
-    // One level, whatever it is, as if the current microphone had measured it.
+    // Acts as if the current microphone had measured this level, which may be any number.
     void emitLevel(double level);
-    // Somebody else moves the volume of the current microphone.
+    // Another program moves the volume of the current microphone.
     void moveVolumeFromOutside(float percent);
 
     bool hasLevels() const; // of the current microphone
@@ -46,7 +46,7 @@ public:
     bool isAdjustable() const;
     int volume() const;
     bool isMuted() const;
-    void setVolumeByUser(int percent); // ends a mute
+    void setVolumeByUser(int percent); // also unmutes
 
 Q_SIGNALS:
     void currentLevelsChanged();

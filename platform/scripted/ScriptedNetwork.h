@@ -22,9 +22,9 @@ public:
     ScriptedNetwork();
     ~ScriptedNetwork() override;
 
-    // One element a second, the last one for good. A probe with an empty series says nothing.
+    // One element per second; the last one repeats. With an empty series a probe reports nothing.
     void setSeries(const Series& series);
-    // Measured now, and from now on.
+    // Probes measure this now, and in every second from now on.
     void setFigures(const NetworkFigures& figures);
 
     Series series() const { return m_series; }

@@ -51,7 +51,7 @@ void ScriptedNetworkProbe::restart()
     }
 }
 
-// Those of the seconds that a real probe's figures are about.
+// The delays within the time window of a real probe.
 std::vector<int> ScriptedNetworkProbe::sortedDelays() const
 {
     const ScriptedNetwork::Series series = m_network.series();

@@ -33,7 +33,7 @@ private:
     std::vector<int> sortedDelays() const;
 
     ScriptedNetwork& m_network;
-    ResultDocument& m_document; // the last figures go there
+    ResultDocument& m_document; // receives the last figures
     Listener& m_listener;
     LoggedSession m_session;
     QTimer m_timer;

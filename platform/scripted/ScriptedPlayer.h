@@ -13,8 +13,8 @@ namespace Platform {
 class ResultDocument;
 class ScriptedSpeakers;
 
-// One sound that takes its time and makes no noise. It ends early when its speaker goes away, and
-// at once when there is no such file.
+// A sound that takes the time of the real one and is silent. It ends early if its speaker
+// disappears, and at once if the file doesn't exist.
 class ScriptedPlayer final : public QObject, public PlayerBackend
 {
     Q_OBJECT

@@ -6,31 +6,35 @@
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/ResultDocument.h"
 
+#include <QObject>
 #include <QVector>
 
 namespace Platform {
 
 class CallLog;
 
-// Takes what a run reports, and keeps it for the scenario's author to look at.
+// Keeps what a run reports, for tests to look at.
 class CLASSROOMSCRIPTED_EXPORT ScriptedReports final : public ReportSink
 {
+    Q_GADGET
+
 public:
     enum class Outcome { Accepted, Refused, Unreachable };
+    Q_ENUM(Outcome)
 
     struct Post
     {
         QString managerName;
         int code = 0;
-        Outcome outcome = Outcome::Accepted; // what the server made of it
+        Outcome outcome = Outcome::Accepted; // how the server answered
     };
 
     explicit ScriptedReports(CallLog& log);
     ~ScriptedReports() override;
 
-    void setOutcome(Outcome outcome) { m_outcome = outcome; } // of the posts to come
+    void setOutcome(Outcome outcome) { m_outcome = outcome; } // of all further posts
     QVector<Post> posts() const { return m_posts; }
-    ResultDocument& document() { return m_document; } // in memory unless it is given a path
+    ResultDocument& document() { return m_document; } // in memory unless a path is set
 
     void recordResult(const QString& key, const QJsonValue& value) override;
     void recordMeasurement(const QString& check, const QJsonObject& figures) override;

@@ -11,8 +11,7 @@ namespace Platform {
 
 class ResultDocument;
 
-// What the users of scripted cameras, microphones and speakers have in common: which device is
-// chosen, and the log of what was asked.
+// What scripted cameras, microphones and speakers share: the chosen device and the log of calls.
 template <typename Backend, typename Devices>
 class ScriptedSession : public QObject, public Backend
 {
@@ -50,10 +49,10 @@ protected:
     {
     }
 
-    // What the devices say, and what this session made of it.
+    // The scripted state, and what this session makes of it.
     virtual DeviceState currentState() const { return m_devices.currentState(); }
 
-    // Whether that is news for the listener; from now on it isn't.
+    // True if the listener doesn't know this state yet; remembers it as known.
     bool takeWorkState()
     {
         const WorkState before = m_workState;
@@ -62,7 +61,7 @@ protected:
     }
 
     Devices& m_devices;
-    ResultDocument& m_document; // what was measured goes there
+    ResultDocument& m_document; // receives what was measured
     Listener& m_listener;
     LoggedSession m_session;
     WorkState m_workState;

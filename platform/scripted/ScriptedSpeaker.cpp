@@ -51,7 +51,7 @@ void ScriptedSpeaker::setVolume(int percent)
     recordMeasurement();
 }
 
-// Told also where only the list changed.
+// Also called if only the list changed.
 void ScriptedSpeaker::onCurrentChanged(const QString& id)
 {
     if (m_id != id) {

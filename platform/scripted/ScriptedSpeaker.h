@@ -31,7 +31,7 @@ private:
     void notifyWorkState();
 
     QString m_id;
-    FoundVolume m_found; // of that speaker
+    FoundVolume m_found; // of the speaker m_id
     DefaultDevice m_default;
 };
 

@@ -25,23 +25,23 @@ public:
 
     void setVolume(const QString& id, int percent); // kept while the speaker is unplugged
     void setMuted(const QString& id, bool isMuted);
-    // Somebody else moves the volume of the current speaker.
+    // Another program moves the volume of the current speaker.
     void moveVolumeFromOutside(int percent);
 
-    // How long the file of that name plays; without it as long as the file says.
+    // How long the file of that name plays. By default that follows from its size.
     void setSoundLength(const QString& fileName, int ms) { m_soundLengths.insert(fileName, ms); }
-    // From now on no player can be made.
+    // Whether creating players fails from now on.
     void setPlayerFails(bool fails) { m_playerFails = fails; }
-    // The sound that is playing ends now.
+    // Ends the sound that is playing.
     void finishPlayback();
     // Full paths of all sounds that were started.
     QStringList playedFiles() const { return m_playedFiles; }
 
     int volume() const; // of the current speaker
     bool isMuted() const;
-    void setVolumeByUser(int percent); // ends a mute
+    void setVolumeByUser(int percent); // also unmutes
     bool playerFails() const { return m_playerFails; }
-    int soundLength(const QString& fileName) const; // -1 where none was set
+    int soundLength(const QString& fileName) const; // -1 if none was set
     void addPlayedFile(const QString& path) { m_playedFiles.append(path); }
 
 Q_SIGNALS:

@@ -13,9 +13,9 @@ namespace Platform {
 namespace {
 
 constexpr int Hues = 360;
-constexpr int BarSteps = 90; // frames for one way across the picture
-constexpr int BarShare = 20; // the bar's width as a part of the picture's
-constexpr int FontShare = 8; // the letters' height as a part of the picture's
+constexpr int BarSteps = 90; // frames for one way across the image
+constexpr int BarShare = 20; // width of the image divided by that of the bar
+constexpr int FontShare = 8; // height of the image divided by that of the letters
 constexpr int MarginShare = 20;
 constexpr double Brightest = 255.0;
 

@@ -8,14 +8,15 @@
 
 namespace Platform {
 
-// The pictures of a scripted camera.
+// The frames of a scripted camera.
 namespace TestPattern {
 
-// The picture's size within an upper bound (an empty one doesn't bound), its aspect kept.
+// The size, scaled down to the bound if it is larger, with the aspect ratio kept. An empty bound
+// is no bound.
 QSize fitted(const QSize& size, const QSize& bound);
 
-// Colours that tell cameras apart, a bar that moves with the frame's number, and the name, which
-// reads right for the viewer: the picture is a mirrored one already.
+// A background colour per camera, a bar that moves with the frame number, and the name. The name is
+// not mirrored: a viewer must be able to read it.
 QImage picture(const QSize& size, const QString& name, int frame);
 QImage black(const QSize& size);
 double brightness(const QImage& picture); // 0 to 1

@@ -10,7 +10,7 @@
 
 namespace Platform {
 
-// Plays the events of a scenario at their times, counted from its construction.
+// Plays the events of a scenario. Their times count from the construction of this object.
 class Timeline final : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace Platform {
 
-// What the listeners are told of a device's state: whether it may be opened and whether it works.
+// The part of a device's state that listeners hear of: may it be opened, and does it work?
 struct WorkState
 {
     bool isUsable = false;

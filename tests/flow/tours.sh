@@ -2,11 +2,12 @@
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
 # Walks through every page and state in every language, and on a sharp screen, at once: a tour waits
-# far more than it works. Fails where one doesn't get through or finds a text that can't be read.
-# Usage: tours.sh PROGRAM FOLDER
+# far more than it works. Fails if one doesn't get through or finds a text that can't be read.
+# Usage: tours.sh PROGRAM FOLDER LANGUAGE...
 set -uo pipefail
 program=$1
 folder=$2
+shift 2
 export QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96
 
 tour()
@@ -21,7 +22,7 @@ tour()
 rm -rf "$folder"
 mkdir -p "$folder"
 jobs=()
-for language in ar de en es fr ja ko pt_BR ru vi zh_CN zh_TW; do
+for language in "$@"; do
     tour "$language" "$language" 1 &
     jobs+=($!)
 done

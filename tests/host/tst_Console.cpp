@@ -13,7 +13,6 @@ private Q_SLOTS:
     void plainLine_data();
     void plainLine();
     void columns();
-    void padding();
 };
 
 void tst_Console::plainLine_data()
@@ -47,13 +46,9 @@ void tst_Console::columns()
     QCOMPARE(Console::columns(QStringLiteral("Camera")), 6);
     QCOMPARE(Console::columns(QString::fromUtf8("摄像头")), 6);
     QCOMPARE(Console::columns(QString::fromUtf8("카메라 1")), 8);
-}
-
-void tst_Console::padding()
-{
-    QCOMPARE(Console::padded(QStringLiteral("ab"), 4), QStringLiteral("ab  "));
-    QCOMPARE(Console::padded(QString::fromUtf8("系统"), 5), QString::fromUtf8("系统 "));
-    QCOMPARE(Console::padded(QStringLiteral("abc"), 2), QStringLiteral("abc"));
+    QCOMPARE(Console::columns(QString::fromUtf8("e\u0301")), 1);    // a combining accent
+    QCOMPARE(Console::columns(QString::fromUtf8("\U0001F4F7")), 2); // beyond 16 bits
+    QCOMPARE(Console::columns(QString::fromUtf8("Kamera \u200B")), 7);
 }
 
 QTEST_GUILESS_MAIN(tst_Console)

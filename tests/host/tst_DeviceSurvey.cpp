@@ -40,12 +40,12 @@ void tst_DeviceSurvey::everyDeviceHasItsState()
     engine.scriptedSpeakers().setVolume(QStringLiteral("s"), 40);
     const DeviceSurvey survey = DeviceSurvey::of(engine);
     QCOMPARE(survey.toText(), QStringLiteral("Cameras\n"
-                                             "  * denied    -      One\n"
-                                             "    ready     -      Two\n"
+                                             "  * denied  -      One\n"
+                                             "    ready   -      Two\n"
                                              "Microphones\n"
-                                             "  * busy      120 %  Mic\n"
+                                             "  * busy    120 %  Mic\n"
                                              "Speakers\n"
-                                             "  * ready     40 %   Speaker\n"));
+                                             "  * ready   40 %   Speaker\n"));
     const QJsonObject camera =
         survey.toJson().value(QStringLiteral("cameras")).toArray().at(0).toObject();
     QCOMPARE(camera, (QJsonObject{{QStringLiteral("id"), QStringLiteral("c1")},

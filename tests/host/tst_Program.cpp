@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
+#include "host/report/ReportJson.h"
 #include "host/report/ReportWriter.h"
 #include "tests/host/report/SampleReport.h"
 
@@ -324,7 +325,7 @@ void tst_Program::resultsAndReportGoWhereAsked()
     QCOMPARE(results.value(QStringLiteral("version")).toInt(), 1);
     const QJsonObject report = jsonOf(file("r.json"));
     QString error;
-    QVERIFY2(Report::fromJson(report, &error), qPrintable(error));
+    QVERIFY2(ReportJson::fromJson(report, &error), qPrintable(error));
     QCOMPARE(report.value(QStringLiteral("language")).toString(), QStringLiteral("fr"));
     QCOMPARE(report.value(QStringLiteral("scenario")).toString(), QStringLiteral("all-well"));
     QVERIFY(!QFileInfo::exists(dataFolder() + QStringLiteral("/reports/r.json")));
@@ -346,7 +347,7 @@ void tst_Program::outputNowhere()
                 QStringLiteral("exec \"$0\" \"$@\" >&- 2>&-"));
     QCOMPARE(finished(*closed).code, 3);
     QString error;
-    QVERIFY2(Report::fromJson(jsonOf(report), &error), qPrintable(error));
+    QVERIFY2(ReportJson::fromJson(jsonOf(report), &error), qPrintable(error));
     QCOMPARE(linesOf(dataFolder() + QStringLiteral("/runs.jsonl")).size(), 1);
 }
 
@@ -417,7 +418,7 @@ void tst_Program::runsAreKeptAndCompared()
     QCOMPARE(last.value(QStringLiteral("outcome")).toString(), QStringLiteral("putOut"));
     QCOMPARE(last.value(QStringLiteral("report")).toString(), file("r.json"));
     QString error;
-    const std::optional<Report> report = Report::fromJson(jsonOf(file("r.json")), &error);
+    const std::optional<Report> report = ReportJson::fromJson(jsonOf(file("r.json")), &error);
     QVERIFY2(report, qPrintable(error));
     QVERIFY(report->lastGoodRun);
     QCOMPARE(report->changes.at(0).what, ChangedThing::OperatingSystem);
@@ -523,7 +524,7 @@ void tst_Program::reports()
     QVERIFY(shown("--language en").out.startsWith(QLatin1String("System check report\n")));
     QVERIFY(shown("--language ja --format html").out.contains(QLatin1String("lang=\"ja\"")));
     QCOMPARE(QJsonDocument::fromJson(shown("--format json").out.toUtf8()).object(),
-             sampleReport().toJson());
+             ReportJson::toJson(sampleReport()));
     const Run room = run(QStringList{QStringLiteral("report"), report.fileName(), report.fileName(),
                                      QStringLiteral("--format"), QStringLiteral("room")});
     QCOMPARE(room.out.count(QLatin1Char('\n')), 3);

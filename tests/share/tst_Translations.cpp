@@ -21,10 +21,7 @@ namespace {
 
 using Texts = QMap<QString, QString>;
 
-const QStringList LANGUAGES = {
-    QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("en"),    QStringLiteral("es"),
-    QStringLiteral("fr"), QStringLiteral("ja"), QStringLiteral("ko"),    QStringLiteral("pt_BR"),
-    QStringLiteral("ru"), QStringLiteral("vi"), QStringLiteral("zh_CN"), QStringLiteral("zh_TW")};
+const QStringList LANGUAGES = QStringLiteral(ENVCHECK_LANGUAGES).split(QLatin1Char(' '));
 
 const QStringList SOUND_IDS = {
     QStringLiteral("ID_HeadsetPage_Piano"),   QStringLiteral("ID_HeadsetPage_Seagull"),

@@ -3,6 +3,7 @@
 #include "platform/devices/reports/ReportOutbox.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/WebAddress.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -19,14 +20,6 @@ const QLatin1String JournalName("/journal.txt");
 const QLatin1String OutboxName("/outbox");
 constexpr int MaxJournalBytes = 1024 * 1024;
 constexpr int ReportVersion = 1;
-
-QUrl webAddress(const QString& text)
-{
-    const QUrl url(text, QUrl::StrictMode);
-    const bool isWeb =
-        url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    return url.isValid() && isWeb && !url.host().isEmpty() ? url : QUrl();
-}
 
 // The oldest lines go where the journal grows too large.
 QByteArray withLine(const QByteArray& journal, const QByteArray& line)
@@ -47,14 +40,14 @@ ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
     if (reportUrl.isEmpty()) {
         return;
     }
-    const QUrl url = webAddress(reportUrl);
-    if (url.isEmpty()) {
+    const std::optional<QUrl> url = webAddress(reportUrl);
+    if (!url) {
         qCWarning(reportLog).noquote() << "Reports are not posted: the report address" << reportUrl
                                        << "is not one. Give it as http://HOST/PATH or "
                                           "https://HOST/PATH";
         return;
     }
-    startPosting(url, limits);
+    startPosting(*url, limits);
 }
 
 ReportOutbox::~ReportOutbox()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/scripted/JsonFields.h"
+#include "platform/backend/JsonFields.h"
 
 #include <cmath>
 
@@ -12,6 +12,11 @@ void JsonProblem::set(const QString& fieldPath, const QString& what)
         path = fieldPath;
         text = what;
     }
+}
+
+QString JsonProblem::toString() const
+{
+    return path.isEmpty() ? text : path + QStringLiteral(": ") + text;
 }
 
 JsonFields::JsonFields(const QJsonObject& object, const QString& path, JsonProblem& problem)
@@ -41,8 +46,11 @@ QString JsonFields::text(const char* key, int maxLength, const QString& fallback
     }
     const QJsonValue field = value(key);
     if (!field.isString() || field.toString().size() > maxLength) {
-        m_problem.set(path(key),
-                      QStringLiteral("must be a text of at most %1 characters").arg(maxLength));
+        m_problem.set(
+            path(key),
+            maxLength == AnyLength
+                ? QStringLiteral("must be a text")
+                : QStringLiteral("must be a text of at most %1 characters").arg(maxLength));
         return fallback;
     }
     return field.toString();
@@ -69,6 +77,14 @@ qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallba
     return static_cast<qint64>(number);
 }
 
+double JsonFields::real(const char* key)
+{
+    if (has(key, true) && !value(key).isDouble()) {
+        m_problem.set(path(key), QStringLiteral("must be a number"));
+    }
+    return value(key).toDouble();
+}
+
 bool JsonFields::flag(const char* key, bool fallback)
 {
     if (!has(key, false)) {
@@ -81,23 +97,28 @@ bool JsonFields::flag(const char* key, bool fallback)
     return field.toBool(fallback);
 }
 
-int JsonFields::word(const char* key, const QStringList& words)
+QJsonValue JsonFields::any(const char* key)
 {
-    return has(key, true) ? word(key, words, 0) : 0;
+    return has(key, true) ? value(key) : QJsonValue();
 }
 
-int JsonFields::word(const char* key, const QStringList& words, int fallback)
+QString JsonFields::word(const char* key, const QStringList& words)
+{
+    return has(key, true) ? word(key, words, words.constFirst()) : words.constFirst();
+}
+
+QString JsonFields::word(const char* key, const QStringList& words, const QString& fallback)
 {
     if (!has(key, false)) {
         return fallback;
     }
-    const int index = words.indexOf(value(key).toString());
-    if (index < 0) {
+    const QString word = value(key).toString();
+    if (!words.contains(word)) {
         m_problem.set(path(key),
                       QStringLiteral("must be one of ") + words.join(QStringLiteral(", ")));
         return fallback;
     }
-    return index;
+    return word;
 }
 
 JsonFields JsonFields::object(const char* key)
@@ -122,6 +143,21 @@ std::vector<JsonFields> JsonFields::objects(const char* key, int maxCount)
     return result;
 }
 
+QStringList JsonFields::words(const char* key, const QStringList& words)
+{
+    QStringList result;
+    const QJsonArray elements = array(key, AnyLength);
+    for (const QJsonValue& element : elements) {
+        if (words.contains(element.toString())) {
+            result.append(element.toString());
+        } else {
+            m_problem.set(path(key),
+                          QStringLiteral("must be a list of ") + words.join(QStringLiteral(", ")));
+        }
+    }
+    return result;
+}
+
 QJsonArray JsonFields::array(const char* key, int maxCount)
 {
     if (!has(key, false)) {
@@ -130,10 +166,17 @@ QJsonArray JsonFields::array(const char* key, int maxCount)
     const QJsonValue field = value(key);
     if (!field.isArray() || field.toArray().size() > maxCount) {
         m_problem.set(path(key),
-                      QStringLiteral("must be a list of at most %1 elements").arg(maxCount));
+                      maxCount == AnyLength
+                          ? QStringLiteral("must be a list")
+                          : QStringLiteral("must be a list of at most %1 elements").arg(maxCount));
         return {};
     }
     return field.toArray();
+}
+
+void JsonFields::require(const char* key)
+{
+    has(key, true);
 }
 
 void JsonFields::rejectOthers()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/scripted/JsonLines.h"
+#include "platform/backend/JsonLines.h"
 
 namespace Platform {
 
@@ -91,7 +91,7 @@ void JsonLines::skipBlanks()
     }
 }
 
-// As it is written, escapes included.
+// Leaves escape sequences as they are.
 QString JsonLines::takeString()
 {
     const int start = ++m_position;

@@ -2,21 +2,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 
 namespace Platform {
 
-// Where the fields of a JSON text stand, as QJsonDocument doesn't tell. The text must be valid. A
-// field is named by its path, such as "cameras[0].name"; the document itself by an empty one.
-class JsonLines
+// The line numbers of the fields of a JSON text, which QJsonDocument doesn't keep. The text must be
+// valid. A field is named by its path, such as "cameras[0].name"; the path of the document is
+// empty.
+class CLASSROOMBACKEND_EXPORT JsonLines
 {
 public:
     explicit JsonLines(const QByteArray& json);
 
-    int lineOf(const QString& path) const; // of its nearest ancestor where it isn't there
-    QString duplicate() const { return m_duplicate; } // first key that stands twice, or empty
+    int lineOf(const QString& path) const; // the nearest ancestor's if the field is missing
+    QString duplicate() const
+    {
+        return m_duplicate;
+    } // path of the first key that occurs twice, or empty
 
     static int lineAt(const QByteArray& json, int offset); // from 1
 

@@ -36,10 +36,10 @@ void tst_FileNames::windowsRules_data()
     QTest::newRow("superscript") << QStringLiteral("com²") << "the name of a device";
     for (const char* path :
          {"a<b", "C:/a>b/c", "report.json:stream", "a\"b", "a|b", "what?", "*", "a\nb", "a\tb"}) {
-        QTest::newRow(path) << path << "no name has a letter";
+        QTest::newRow(path) << path << "a name can't contain";
     }
     for (const char* path : {"report.", "C:/a /report", "report.json ", "..."}) {
-        QTest::newRow(path) << path << "no name ends in";
+        QTest::newRow(path) << path << "a name can't end in";
     }
 }
 

@@ -21,6 +21,7 @@ class tst_Scenario : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void bundlesEveryFileOfTheFolder();
     void readsEveryBundledScenario_data();
     void readsEveryBundledScenario();
     void setsUpDevices();
@@ -54,6 +55,16 @@ std::optional<Scenario> tst_Scenario::read(const QByteArray& json, QString* erro
 {
     QString unused;
     return Scenario::read(write(json), error ? error : &unused);
+}
+
+void tst_Scenario::bundlesEveryFileOfTheFolder()
+{
+    const QDir folder(QStringLiteral(ENVCHECK_SOURCE_DIR "/platform/scripted/scenarios"));
+    QStringList names;
+    for (const QFileInfo& file : folder.entryInfoList(QDir::Files, QDir::Name)) {
+        names.append(file.completeBaseName());
+    }
+    QCOMPARE(Scenario::bundledNames(), names);
 }
 
 void tst_Scenario::readsEveryBundledScenario_data()
@@ -250,13 +261,13 @@ void tst_Scenario::namesFileLineAndField_data()
         "{\"cameras\": [\n{ \"id\": \"a\", \"name\": \"A\" },\n"
         "{ \"id\": \"b\", \"name\": \"B\",\n \"colour\": 1 }]}",
         "4: cameras[1].colour: is not a known field here");
-    row("twice", "{\"report\": \"refused\",\n\"report\": \"accepted\"}", "2: report: stands twice");
+    row("twice", "{\"report\": \"refused\",\n\"report\": \"accepted\"}", "2: report: occurs twice");
     row("missing", "{\"speakers\": [\n{ \"name\": \"A\" }]}", "2: speakers[0].id: is missing");
     row("empty id", "{\"speakers\": [{ \"id\": \"\", \"name\": \"A\" }]}",
         "1: speakers[0].id: must not be empty");
     row("equal ids",
         "{\"speakers\": [{ \"id\": \"a\", \"name\": \"A\" },\n{ \"id\": \"a\", \"name\": \"B\" }]}",
-        "2: speakers[1].id: must be another one for each device");
+        "2: speakers[1].id: must be unique in its list");
     row("no list", "{\"cameras\": {}}", "1: cameras: must be a list of at most 1000 elements");
     row("no object", "{\"cameras\": [ 7 ]}", "1: cameras[0]: must be an object");
     row("no text", "{\"cameras\": [{ \"id\": 7, \"name\": \"\" }]}",

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/commands/EngineCommands.h"
+#include "host/commands/NetworkCommand.h"
 
 #include "host/Console.h"
-#include "host/DeviceSurvey.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
@@ -12,16 +11,12 @@
 #include "host/report/ReportWords.h"
 #include "platform/backend/Engine.h"
 #include "platform/backend/NetworkLimits.h"
-#ifdef ENVCHECK_WITH_DEVICES
-#include "platform/devices/network/StunResponder.h"
-#endif
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 
 namespace {
 
-// Prints what a probe measures: on a terminal on one line that changes, else a line each.
+// Prints what a probe measures: a terminal gets one line that changes, a file a line per figure.
 class FigurePrinter final : public Platform::NetworkProbe::Listener
 {
 public:
@@ -76,29 +71,11 @@ private:
     std::unique_ptr<Platform::NetworkProbe> m_probe;
 };
 
-ExitCode failed(const InstalledEngine& installed)
-{
-    Console::printError(installed.error());
-    return installed.errorCode();
-}
-
 } // namespace
 
-ExitCode EngineCommands::listDevices(const Options& options)
+ExitCode NetworkCommand::run(const Options& options)
 {
-    const InstalledEngine installed(options, Folders::data());
-    if (!installed.error().isEmpty()) {
-        return failed(installed);
-    }
-    const DeviceSurvey survey = DeviceSurvey::of(installed.engine());
-    Console::print(options.isJson ? QString::fromUtf8(QJsonDocument(survey.toJson()).toJson())
-                                  : survey.toText());
-    return ExitCode::AllPassed;
-}
-
-ExitCode EngineCommands::watchNetwork(const Options& options)
-{
-    // The built-in responder is shown in words.
+    // The name of the built-in responder is a text.
     Languages languages;
     const QString problem = languages.use(QStringLiteral("en"));
     if (!problem.isEmpty()) {
@@ -107,7 +84,8 @@ ExitCode EngineCommands::watchNetwork(const Options& options)
     }
     InstalledEngine installed(options, Folders::data());
     if (!installed.error().isEmpty()) {
-        return failed(installed);
+        Console::printError(installed.error());
+        return installed.errorCode();
     }
     installed.prepare();
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
@@ -121,30 +99,3 @@ ExitCode EngineCommands::watchNetwork(const Options& options)
     }
     return printer.hasPassed() ? ExitCode::AllPassed : ExitCode::SomeFailed;
 }
-
-#ifdef ENVCHECK_WITH_DEVICES
-ExitCode EngineCommands::serve(const Options& options)
-{
-    const Platform::StunResponder responder(QHostAddress::Any, options.port);
-    const quint16 port = responder.server().port;
-    if (port == 0) {
-        Console::printError(QStringLiteral("UDP port %1 can't be answered on: %2. Choose another "
-                                           "by --port")
-                                .arg(options.port)
-                                .arg(responder.errorString()));
-        return ExitCode::Unavailable;
-    }
-    Console::print(QStringLiteral("Answering on UDP port %1. Other machines measure the way here "
-                                  "by --server stun:HOST:%1\n")
-                       .arg(port));
-    QCoreApplication::exec();
-    return ExitCode::AllPassed;
-}
-#else
-ExitCode EngineCommands::serve(const Options&)
-{
-    Console::printError(QStringLiteral("serve needs a program that was built with the real devices "
-                                       "(ENVCHECK_DEVICES)"));
-    return ExitCode::Unavailable;
-}
-#endif

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+#include <vector>
+
+// A table for a terminal: each column is as wide as its widest cell. Cells are printed as they are;
+// foreign text needs Console::plainLine() first.
+class TextTable
+{
+public:
+    void addRow(const QStringList& cells);
+    void addHeading(const QString& text); // a line that doesn't widen any column
+
+    QString toText() const;
+
+private:
+    struct Line
+    {
+        QStringList cells;
+        bool isHeading = false;
+    };
+
+    std::vector<int> widths() const;
+
+    std::vector<Line> m_lines;
+};

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/commands/DevicesCommand.h"
+
+#include "host/Console.h"
+#include "host/DeviceSurvey.h"
+#include "host/Folders.h"
+#include "host/InstalledEngine.h"
+#include "host/Options.h"
+
+#include <QJsonDocument>
+
+ExitCode DevicesCommand::run(const Options& options)
+{
+    const InstalledEngine installed(options, Folders::data());
+    if (!installed.error().isEmpty()) {
+        Console::printError(installed.error());
+        return installed.errorCode();
+    }
+    const DeviceSurvey survey = DeviceSurvey::of(installed.engine());
+    Console::print(options.isJson ? QString::fromUtf8(QJsonDocument(survey.toJson()).toJson())
+                                  : survey.toText());
+    return ExitCode::AllPassed;
+}
