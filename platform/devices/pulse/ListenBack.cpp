@@ -83,13 +83,15 @@ void ListenBack::play(const float* samples, std::size_t count)
         m_resampler.setDeviation(m_drift.deviation());
         takeExcess();
     }
-    m_output.clear();
+    m_kept.clear();
     for (std::size_t i = 0; i < count; ++i) {
         const float sample = m_guard.pass(samples[i]);
         if (!isSkipped(sample)) {
-            m_resampler.process(sample, m_output);
+            m_kept.push_back(sample);
         }
     }
+    m_output.clear();
+    m_resampler.process(m_kept, m_output);
     if (!m_output.empty()) {
         pa_stream_write(m_stream.get(), m_output.data(), m_output.size() * sizeof(float), nullptr,
                         0, PA_SEEK_RELATIVE);

@@ -44,6 +44,7 @@ private:
     std::size_t m_patience = 0; // samples for which only silence is skipped
     std::size_t m_quiet = 0;    // samples of silence up to here
     bool m_hasStarted = false;
+    std::vector<float> m_kept;
     std::vector<float> m_output;
     PulseContextHandle m_context;
     PulseStreamHandle m_stream;

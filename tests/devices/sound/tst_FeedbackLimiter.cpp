@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/FeedbackLimiter.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
@@ -8,11 +9,11 @@
 #include <limits>
 
 using Platform::FeedbackLimiter;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
 float tone(int i, double amplitude)
 {

@@ -1,22 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/LevelMeter.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
 #include <limits>
 
 using Platform::LevelMeter;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
 // The last level of so many seconds of a tone on an offset.
 double feed(LevelMeter& meter, double seconds, double decibels, double offset = 0.0)
 {
-    const double amplitude = std::pow(10.0, decibels / 20.0);
+    const double amplitude = Platform::amplitudeOfDecibels(decibels);
     double level = -1.0;
     for (int i = 0; i < static_cast<int>(seconds * Rate); ++i) {
         const double sample = offset + amplitude * std::sin(2.0 * Pi * 1000.0 * i / Rate);

@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/MicrophoneAnalysis.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
 #include <random>
 
 using Platform::MicrophoneAnalysis;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
 double tone(unsigned i, double frequency, double amplitude)
 {
