@@ -197,16 +197,16 @@ void PulseMicrophone::startCapture()
         });
     };
     PulseCapture::Events events;
-    events.levelMeasured = [this, post](double level) {
+    events.metered.levelMeasured = [this, post](double level) {
         post([this, level] { m_listener.levelMeasured(level); });
     };
-    events.soundHeard = [this, post] {
+    events.metered.soundHeard = [this, post] {
         post([this] {
             m_hasHeardSound = true;
             updateWorkState();
         });
     };
-    events.deliveryChanged = [this, post](bool delivers) {
+    events.metered.deliveryChanged = [this, post](bool delivers) {
         post([this, delivers] {
             m_hasStalled = !delivers;
             m_hasFailed = m_hasFailed && !delivers;
