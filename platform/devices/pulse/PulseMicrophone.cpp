@@ -86,7 +86,7 @@ void PulseMicrophone::open()
 void PulseMicrophone::close()
 {
     if (m_isOpen && !m_isCapturing) {
-        recordMeasurement(); // why nothing was measured
+        recordMeasurement(); // says why nothing was measured
     }
     m_isOpen = false;
     updateCapture();
@@ -112,7 +112,7 @@ const PulseDevice* PulseMicrophone::device() const
     return m_session->devices().microphones.find(m_id);
 }
 
-// As for the speakers, the letters tell what is already so.
+// As for speakers, the state changes before the listener is called.
 void PulseMicrophone::update()
 {
     const PulseSide& microphones = m_session->devices().microphones;
@@ -132,7 +132,7 @@ void PulseMicrophone::update()
     if (isListChanged) {
         sender.post([this] { m_listener.microphoneListChanged(); });
     }
-    // A new list says nothing of the choice, which has to be shown in it again.
+    // Whoever refills a list of devices has to select the current device in it again.
     if (isOther || isListChanged) {
         sender.post([this] { m_listener.currentMicrophoneChanged(m_id); });
     }
@@ -147,7 +147,7 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
     const bool isArrival = isOther || (current && !m_isPresent);
     m_isPresent = current != nullptr;
     if (isArrival) {
-        m_volume.reset(current);
+        m_volume.reset(current ? current->volumeState() : VolumeState());
     }
     const PulseDevice info = current ? *current : PulseDevice();
     const bool isInfoChanged =
@@ -161,14 +161,14 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
         }
     }
     if (current && !isArrival &&
-        m_volume.take(*current, m_session->devices().microphones.settledOrder)) {
-        const auto percent = static_cast<float>(current->volumePercent());
+        m_volume.take(current->volumeState(), m_session->devices().microphones.settledOrder)) {
+        const auto percent = static_cast<float>(current->volumeState().percent);
         m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
     }
 }
 
-// Brings the stream in line with what is wanted and what is there. A stream on a device that goes
-// away is moved by some servers without a word, so that it is the list that counts.
+// Opens or closes the stream as needed. Whether the device is there is read from the device list:
+// some servers move the stream of a lost device to another one and don't report it.
 void PulseMicrophone::updateCapture()
 {
     const bool isWanted = m_isOpen && device();
@@ -228,7 +228,7 @@ void PulseMicrophone::startCapture()
     updateListening();
 }
 
-// Silence at once: what is still on its way is of an opening that is over.
+// The level drops at once. Messages that are still on their way belong to an ended opening.
 void PulseMicrophone::endCapture()
 {
     if (!m_isCapturing) {

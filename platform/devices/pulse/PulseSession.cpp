@@ -8,16 +8,16 @@
 
 namespace Platform {
 
-// The newest list on its way to the GUI thread. One that comes before the last was fetched replaces
-// it, so that a storm of changes doesn't pile up in the event loop.
+// The newest list on its way to the GUI thread. It replaces a list that was not fetched yet, so
+// that many changes at once don't fill the event loop.
 struct PulseSession::Arrival
 {
     std::mutex mutex;
     std::optional<PulseDevices> devices;
 
-    bool put(const PulseDevices& newest) // true where nobody is on the way to fetch it
+    bool put(const PulseDevices& newest) // true if no message to fetch it is on its way
     {
-        const std::lock_guard lock(mutex);
+        const std::scoped_lock lock(mutex);
         const bool isFirst = !devices;
         devices = newest;
         return isFirst;
@@ -25,7 +25,7 @@ struct PulseSession::Arrival
 
     PulseDevices take()
     {
-        const std::lock_guard lock(mutex);
+        const std::scoped_lock lock(mutex);
         return *std::exchange(devices, std::nullopt);
     }
 };

@@ -9,8 +9,8 @@ namespace Platform {
 class PulseSession;
 class ReportSink;
 
-// The sound of a machine with PulseAudio or PipeWire. While nobody uses it, it has no connection,
-// no thread and no list.
+// The sound system of a machine with PulseAudio or PipeWire. Without users it has no connection, no
+// thread and no device list.
 class PulseSound final : public SoundSystem
 {
 public:

@@ -59,7 +59,7 @@ const PulseDevice* PulseSpeaker::device() const
     return m_session->devices().speakers.find(m_id);
 }
 
-// The letters tell what is already so: by the time they are read, all questions are answered anew.
+// The state changes before the listener is called: it may ask anything and gets the new values.
 void PulseSpeaker::update()
 {
     const PulseSide& speakers = m_session->devices().speakers;
@@ -82,11 +82,11 @@ void PulseSpeaker::update()
 
     const PulseDevice* current = device();
     if (isOther) {
-        m_volume.reset(current);
-    } else if (current && m_volume.take(*current, speakers.settledOrder)) {
+        m_volume.reset(current ? current->volumeState() : VolumeState());
+    } else if (current && m_volume.take(current->volumeState(), speakers.settledOrder)) {
         sender.post([this] { m_listener.speakerVolumeChanged(volume()); });
     }
-    // A new list says nothing of the choice, which has to be shown in it again.
+    // Whoever refills a list of devices has to select the current device in it again.
     if (isOther || isListChanged) {
         sender.post([this] { m_listener.currentSpeakerChanged(m_id); });
     }

@@ -5,8 +5,8 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/SpeakerBackend.h"
-#include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
+#include "platform/devices/sound/DeviceVolume.h"
 
 #include <QObject>
 #include <memory>
@@ -16,8 +16,8 @@ namespace Platform {
 class PulseSession;
 class ReportSink;
 
-// The playback devices of the sound server. Choosing one concerns this program alone: the server's
-// default stays what it was. At the end it reports the device, its volume and its mute.
+// The speakers of the sound server. A choice is valid in this program only; the default of the
+// server stays as it is. The destructor reports the device, its volume and its mute.
 class PulseSpeaker final : public SpeakerBackend
 {
 public:
