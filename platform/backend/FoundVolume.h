@@ -6,11 +6,12 @@
 
 namespace Platform {
 
-// How the volume of the current device was found, and whether the user moved it, for the report.
+// For the report: the volume of the current device as it was found, and whether the user changed
+// it.
 class FoundVolume
 {
 public:
-    void reset(int percent, bool isMuted) // it has just become the current one
+    void reset(int percent, bool isMuted) // another device became the current one
     {
         m_percent = percent;
         m_isMuted = isMuted;

@@ -6,8 +6,7 @@
 
 namespace Platform {
 
-// What a level of a microphone means: it is even in decibels, from FloorDb and below, which is 0,
-// to full scale, which is 1.
+// The level of a microphone is linear in decibels: 0 at FloorDb and below, 1 at full scale.
 namespace LevelScale {
 
 constexpr double FloorDb = -60.0;

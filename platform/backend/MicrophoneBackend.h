@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-// One user of the microphones: the list, the choice, the level, the volume, listening to oneself.
-// Threads as for CameraBackend.
+// One session with the microphones: list, choice, level, volume, listening to oneself. The rules
+// for threads are those of CameraBackend.
 class MicrophoneBackend
 {
 public:
@@ -16,11 +16,11 @@ public:
     public:
         virtual void microphoneListChanged() = 0;
         virtual void currentMicrophoneChanged(const QString& id) = 0;
-        virtual void levelMeasured(double level) = 0; // 0 to 1, at least 30 a second while open
-        virtual void microphoneVolumeChanged(int percent) = 0; // as set by this user
+        virtual void levelMeasured(double level) = 0; // 0 to 1, at least 30 per second while open
+        virtual void microphoneVolumeChanged(int percent) = 0; // after setVolume()
         virtual void microphoneInfoChanged() = 0;              // name, mute or adjustability
         virtual void microphoneWorkStateChanged(const QString& id, bool works) = 0;
-        virtual void systemVolumeChanged(float percent) = 0; // moved by somebody else
+        virtual void systemVolumeChanged(float percent) = 0; // changed by somebody else
 
     protected:
         ~Listener() = default;
@@ -29,14 +29,14 @@ public:
     virtual ~MicrophoneBackend() = default;
 
     virtual DeviceList devices() const = 0;
-    virtual QString currentId() const = 0; // as for cameras
+    virtual QString currentId() const = 0; // as in CameraBackend
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id chooses none
     virtual DeviceState state() const = 0;
-    virtual bool hasHeardSound() const = 0; // from the current device while it was open
+    virtual bool hasHeardSound() const = 0; // the current device delivered sound while open
 
     virtual void open() = 0;
-    virtual void close() = 0; // leaves no stream behind
+    virtual void close() = 0; // ends all streams
     virtual void setListening(bool on) = 0;
 
     virtual bool isVolumeAdjustable() const = 0;

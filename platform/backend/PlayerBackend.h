@@ -4,15 +4,14 @@
 
 namespace Platform {
 
-// One sound being played on the current speaker; it starts with its creation and stops with its
-// destruction.
+// Plays one sound on the current speaker, from construction to destruction.
 class PlayerBackend
 {
 public:
     class Listener
     {
     public:
-        // Exactly once, on the GUI thread from the event loop, also when nothing could be played.
+        // Called exactly once, on the GUI thread from the event loop, even if nothing was played.
         virtual void playbackFinished() = 0;
 
     protected:

@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-// One user of the playback devices. Threads as for CameraBackend. The list itself is the engine's
-// (Engine::speakers), as it is asked for without a speaker at hand.
+// One session with the speakers. The rules for threads are those of CameraBackend. The list is a
+// function of the engine (Engine::speakers), because it is also needed without a session.
 class SpeakerBackend
 {
 public:
@@ -16,7 +16,7 @@ public:
     public:
         virtual void speakerListChanged() = 0;
         virtual void currentSpeakerChanged(const QString& id) = 0;
-        virtual void speakerVolumeChanged(int percent) = 0; // from outside, not from setVolume
+        virtual void speakerVolumeChanged(int percent) = 0; // by somebody else, not by setVolume()
         virtual void speakerWorkStateChanged(bool works) = 0;
 
     protected:
@@ -25,7 +25,7 @@ public:
 
     virtual ~SpeakerBackend() = default;
 
-    virtual QString currentId() const = 0; // empty where there is none
+    virtual QString currentId() const = 0; // empty if there is none
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0;
     virtual DeviceState state() const = 0;

@@ -10,6 +10,8 @@
 
 namespace TestSupport {
 
+constexpr float Audible = 0.003F; // -50 dBFS
+
 // Records a speaker or a microphone, beginning with its construction.
 class SoundRecording
 {

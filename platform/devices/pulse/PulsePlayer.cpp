@@ -17,7 +17,7 @@ namespace Platform {
 
 namespace {
 
-// A reader that is told to stop does so within one piece, unless the disk hangs.
+// The reader stops after its current piece, unless the disk hangs.
 constexpr std::chrono::milliseconds ReaderPatience(20);
 
 const QLatin1String Check("speaker");
@@ -60,7 +60,7 @@ void PulsePlayer::startReading(const QString& path, float volume)
 {
     PulseConnection& connection = m_session->connection();
     const Mailbox::Sender sender = m_mailbox.sender();
-    // The playback comes after the sound that it plays, hence the box to find it by.
+    // The sound is created before its playback, so its callback finds the playback by this pointer.
     const auto playback = std::make_shared<std::weak_ptr<PulsePlayback>>();
     m_sound = std::make_shared<SoundBuffer>([this, &connection, sender, playback](bool hasEnded) {
         connection.run([playback] {
@@ -78,7 +78,7 @@ void PulsePlayer::startReading(const QString& path, float volume)
     *playback = m_playback;
     connection.run([&connection, added = m_playback] { connection.add(added); });
 
-    // The reader shares nothing but the sound: where a disk hangs, it is left behind.
+    // The reader shares nothing but the sound, so it can be abandoned if the disk hangs.
     std::packaged_task<void()> reading(
         [path, volume, sound = m_sound] { Mp3Decoder::decode(path, volume, *sound); });
     m_readerEnd = reading.get_future();

@@ -19,12 +19,12 @@ class PulseSession;
 class ReportSink;
 class SoundBuffer;
 
-// Plays an MP3 file on the speaker of the session. The file is read and decoded on a thread of its
-// own; whatever becomes of it, of the device or of the server, the end comes in time.
+// Plays an MP3 file on the current speaker. A separate thread reads and decodes the file. Whatever
+// happens to the file, the device or the server, playbackFinished() comes in time.
 class PulsePlayer final : public PlayerBackend
 {
 public:
-    // How long the device and the server may take on top of the sound itself.
+    // How long device and server may take beyond the length of the sound.
     static constexpr int GraceMs = 2000;
 
     PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,

@@ -14,7 +14,7 @@ namespace {
 
 constexpr unsigned Rate = 48000;
 
-// The last level of so many seconds of a tone on an offset.
+// Feeds a tone with a constant offset and returns the last level.
 double feed(LevelMeter& meter, double seconds, double decibels, double offset = 0.0)
 {
     const double amplitude = Platform::amplitudeOfDecibels(decibels);
@@ -35,7 +35,7 @@ class tst_LevelMeter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scale()
+    void mapsAmplitudesToLevels()
     {
         QCOMPARE(LevelMeter::levelOf(0.0), 0.0);
         QCOMPARE(LevelMeter::levelOf(0.001), 0.0);
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(feed(meter, 0.6 * LevelMeter::FallSeconds, Silence), 0.0);
     }
 
-    void offsetIsNoSound()
+    void ignoresAConstantOffset()
     {
         LevelMeter meter(Rate);
         QVERIFY(feed(meter, 1.0, Silence, 0.3) < 0.001);
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(feed(meter, 0.5, -20.0, 0.3) - 2.0 / 3.0) < 0.01);
     }
 
-    void noNumbersAreSilence()
+    void takesInvalidSamplesAsSilence()
     {
         LevelMeter meter(Rate);
         for (unsigned i = 0; i < Rate; ++i) {
@@ -71,19 +71,19 @@ private Q_SLOTS:
         }
     }
 
-    void hearing_data()
+    void tellsSoundFromNoise_data()
     {
         QTest::addColumn<double>("noise");
         QTest::addColumn<double>("sound");
         QTest::addColumn<bool>("isHeard");
-        QTest::newRow("whisper into silence") << Silence << -52.0 << false;
-        QTest::newRow("word into silence") << Silence << -45.0 << true;
+        QTest::newRow("whisper in silence") << Silence << -52.0 << false;
+        QTest::newRow("word in silence") << Silence << -45.0 << true;
         QTest::newRow("word no louder than the noise") << -45.0 << -40.0 << false;
         QTest::newRow("word over the noise") << -45.0 << -33.0 << true;
         QTest::newRow("noise as loud as speech") << -25.0 << -25.0 << true;
     }
 
-    void hearing()
+    void tellsSoundFromNoise()
     {
         QFETCH(double, noise);
         QFETCH(double, sound);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(meter.hasHeardSound(), isHeard);
     }
 
-    void clicksAreNotHeard()
+    void ignoresClicks()
     {
         LevelMeter meter(Rate);
         feed(meter, 0.5, Silence);
