@@ -4,7 +4,7 @@
 
 #include "platform/backend/ReportSink.h"
 #include "platform/devices/pulse/PulseCapture.h"
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/MicrophoneAnalysis.h"
 
 #include <utility>
@@ -17,27 +17,27 @@ constexpr int MaxVolume = 150;
 
 } // namespace
 
-PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener,
+PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener,
                                  ReportSink& report)
-    : m_session(std::move(session)),
+    : m_server(std::move(server)),
       m_listener(listener),
       m_report(report),
       m_volume(MaxVolume),
-      m_capture(std::make_shared<PulseCapture>(m_session->connection()))
+      m_capture(std::make_shared<PulseCapture>(m_server->connection()))
 {
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     connection.run([&connection, capture = m_capture] { connection.add(capture); });
     m_retry.setSingleShot(true);
     m_retry.setInterval(RetryMs);
     QObject::connect(&m_retry, &QTimer::timeout, &m_context, [this] { updateCapture(); });
-    QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
     update();
 }
 
 PulseMicrophone::~PulseMicrophone()
 {
     close();
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     connection.run([&connection, capture = m_capture] {
         capture->close();
         connection.remove(capture);
@@ -102,20 +102,20 @@ void PulseMicrophone::setListening(bool on)
 void PulseMicrophone::setVolume(int percent)
 {
     if (device()) {
-        m_volume.await(m_session->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
+        m_volume.await(m_server->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
         m_mailbox.sender().post([this] { m_listener.microphoneVolumeChanged(volume()); });
     }
 }
 
 const PulseDevice* PulseMicrophone::device() const
 {
-    return m_session->devices().microphones.find(m_id);
+    return m_server->devices().microphones.find(m_id);
 }
 
 // As for speakers, the state changes before the listener is called.
 void PulseMicrophone::update()
 {
-    const PulseSide& microphones = m_session->devices().microphones;
+    const PulseSide& microphones = m_server->devices().microphones;
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
     m_default.take(microphones.defaultName());
@@ -161,7 +161,7 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
         }
     }
     if (current && !isArrival &&
-        m_volume.take(current->volumeState(), m_session->devices().microphones.settledOrder)) {
+        m_volume.take(current->volumeState(), m_server->devices().microphones.settledOrder)) {
         const auto percent = static_cast<float>(current->volumeState().percent);
         m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
     }
@@ -221,7 +221,7 @@ void PulseMicrophone::startCapture()
             updateWorkState();
         });
     };
-    m_session->connection().run(
+    m_server->connection().run(
         [capture = m_capture, id = m_id, analysis = m_analysis, events = std::move(events)] {
             capture->open(id, analysis, events);
         });
@@ -238,7 +238,7 @@ void PulseMicrophone::endCapture()
     m_isCapturing = false;
     ++m_opening;
     m_analysis.reset();
-    m_session->connection().run([capture = m_capture] { capture->close(); });
+    m_server->connection().run([capture = m_capture] { capture->close(); });
     m_mailbox.sender().post([this] {
         if (!m_isCapturing) {
             m_listener.levelMeasured(0.0);
@@ -248,9 +248,9 @@ void PulseMicrophone::endCapture()
 
 void PulseMicrophone::updateListening()
 {
-    const QString speakerId = m_isListening && m_isCapturing ? m_session->speakerId() : QString();
+    const QString speakerId = m_isListening && m_isCapturing ? m_server->speakerId() : QString();
     if (std::exchange(m_listeningOn, speakerId) != speakerId) {
-        m_session->connection().run(
+        m_server->connection().run(
             [capture = m_capture, speakerId] { capture->listenOn(speakerId); });
     }
 }

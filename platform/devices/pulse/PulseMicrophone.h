@@ -17,7 +17,7 @@ namespace Platform {
 
 class MicrophoneAnalysis;
 class PulseCapture;
-class PulseSession;
+class PulseServer;
 class ReportSink;
 
 // The microphones of the sound server, and listening to oneself on the current speaker. Closing it
@@ -27,7 +27,7 @@ class PulseMicrophone final : public MicrophoneBackend
 public:
     static constexpr int RetryMs = 1000; // if a stream broke although its device is there
 
-    PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
+    PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
     ~PulseMicrophone() override;
 
     DeviceList devices() const override { return m_list; }
@@ -56,7 +56,7 @@ private:
     void endCapture();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     DeviceList m_list;

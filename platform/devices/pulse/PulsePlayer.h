@@ -15,7 +15,7 @@
 namespace Platform {
 
 class PulsePlayback;
-class PulseSession;
+class PulseServer;
 class ReportSink;
 class SoundBuffer;
 
@@ -27,7 +27,7 @@ public:
     // How long device and server may take beyond the length of the sound.
     static constexpr int GraceMs = 2000;
 
-    PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
+    PulsePlayer(std::shared_ptr<PulseServer> server, const QString& path, float volume,
                 Listener& listener, ReportSink& report);
     ~PulsePlayer() override;
 
@@ -38,7 +38,7 @@ private:
     void fail(const QString& reason); // in the report's words
     void finish();
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report; // what was played goes there
     std::shared_ptr<SoundBuffer> m_sound;
@@ -48,7 +48,7 @@ private:
     std::thread m_reader;
     std::future<void> m_readerEnd;
     QTimer m_watchdog;
-    QObject m_context; // of the connection to the session
+    QObject m_context; // ends the signal connection
     Mailbox m_mailbox;
 };
 

@@ -13,7 +13,7 @@
 
 namespace Platform {
 
-class PulseSession;
+class PulseServer;
 class ReportSink;
 
 // The speakers of the sound server. A choice is valid in this program only; the default of the
@@ -21,7 +21,7 @@ class ReportSink;
 class PulseSpeaker final : public SpeakerBackend
 {
 public:
-    PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
+    PulseSpeaker(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
     ~PulseSpeaker() override;
 
     QString currentId() const override { return m_id; }
@@ -36,7 +36,7 @@ private:
     void update();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     DeviceList m_list;
@@ -44,7 +44,7 @@ private:
     bool m_works = false;
     DeviceVolume m_volume;
     DefaultDevice m_default;
-    QObject m_context; // of the connection to the session
+    QObject m_context; // ends the signal connection
     Mailbox m_mailbox;
 };
 

@@ -10,17 +10,17 @@
 
 namespace Platform {
 
-// What all speakers, microphones and players of the process share: the connection, the last list of
-// devices, and the user's choice of a speaker. The first of them creates it, the last one destroys
-// it. GUI thread only.
-class PulseSession : public QObject
+// The sound server as the GUI thread sees it: the connection, the last list of devices, and the
+// user's choice of a speaker. All speakers, microphones and players of the process share it. The
+// first of them creates it, the last one destroys it. GUI thread only.
+class PulseServer : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY(PulseSession)
+    Q_DISABLE_COPY(PulseServer)
 
 public:
-    PulseSession();
-    ~PulseSession() override;
+    PulseServer();
+    ~PulseServer() override;
 
     PulseConnection& connection() { return *m_connection; }
     bool isKnown() const { return m_isKnown; } // the server answered, or there is none

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 
 #include <mutex>
 #include <optional>
@@ -10,7 +10,7 @@ namespace Platform {
 
 // The newest list on its way to the GUI thread. It replaces a list that was not fetched yet, so
 // that many changes at once don't fill the event loop.
-struct PulseSession::Arrival
+struct PulseServer::Arrival
 {
     std::mutex mutex;
     std::optional<PulseDevices> devices;
@@ -30,7 +30,7 @@ struct PulseSession::Arrival
     }
 };
 
-PulseSession::PulseSession() : m_arrival(std::make_shared<Arrival>())
+PulseServer::PulseServer() : m_arrival(std::make_shared<Arrival>())
 {
     m_connection = std::make_unique<PulseConnection>(
         [this, arrival = m_arrival, sender = m_mailbox.sender()](const PulseDevices& devices) {
@@ -40,9 +40,9 @@ PulseSession::PulseSession() : m_arrival(std::make_shared<Arrival>())
         });
 }
 
-PulseSession::~PulseSession() = default;
+PulseServer::~PulseServer() = default;
 
-quint64 PulseSession::setVolume(PulseKind kind, const QString& id, int percent)
+quint64 PulseServer::setVolume(PulseKind kind, const QString& id, int percent)
 {
     const quint64 order = ++m_lastOrder;
     m_connection->run([connection = m_connection.get(), kind, id, percent, order] {
@@ -51,7 +51,7 @@ quint64 PulseSession::setVolume(PulseKind kind, const QString& id, int percent)
     return order;
 }
 
-QString PulseSession::speakerId() const
+QString PulseServer::speakerId() const
 {
     if (m_chosenSpeakerId.isEmpty()) {
         return m_devices.speakers.preferredId();
@@ -59,14 +59,14 @@ QString PulseSession::speakerId() const
     return m_devices.speakers.find(m_chosenSpeakerId) ? m_chosenSpeakerId : QString();
 }
 
-void PulseSession::chooseSpeaker(const QString& id)
+void PulseServer::chooseSpeaker(const QString& id)
 {
     m_chosenSpeakerId = id;
     m_failedSpeakerId.clear();
     announce();
 }
 
-void PulseSession::setSpeakerFailed(const QString& id, bool hasFailed)
+void PulseServer::setSpeakerFailed(const QString& id, bool hasFailed)
 {
     const QString failed = hasFailed && m_devices.speakers.find(id) ? id : QString();
     if (m_failedSpeakerId != failed) {
@@ -75,7 +75,7 @@ void PulseSession::setSpeakerFailed(const QString& id, bool hasFailed)
     }
 }
 
-void PulseSession::takeDevices(const PulseDevices& devices)
+void PulseServer::takeDevices(const PulseDevices& devices)
 {
     m_isKnown = true;
     m_devices = devices;
@@ -85,7 +85,7 @@ void PulseSession::takeDevices(const PulseDevices& devices)
     Q_EMIT changed();
 }
 
-void PulseSession::announce()
+void PulseServer::announce()
 {
     m_mailbox.sender().post([this] { Q_EMIT changed(); });
 }
