@@ -11,8 +11,8 @@ namespace {
 
 // The shortest of the library's good filters: listening to oneself bears no delay.
 constexpr int Quality = SRC_SINC_FASTEST;
-// What the filter may hold back from one call to the next.
-constexpr std::size_t FilterSamples = 64;
+// Room for samples that the filter held back in the call before.
+constexpr std::size_t HeldBack = 2 * DriftResampler::DelaySamples;
 
 } // namespace
 
@@ -23,6 +23,8 @@ void DriftResampler::Deleter::operator()(SRC_STATE_tag* state) const
 
 DriftResampler::DriftResampler() : m_state(src_new(Quality, 1, nullptr))
 {
+    std::vector<float> nothing;
+    process(std::vector<float>(DelaySamples), nothing);
 }
 
 DriftResampler::~DriftResampler() = default;
@@ -37,7 +39,7 @@ void DriftResampler::process(const std::vector<float>& samples, std::vector<floa
 {
     const std::size_t before = result.size();
     const auto longest = static_cast<double>(samples.size()) / (1.0 - MaxDeviation);
-    result.resize(before + static_cast<std::size_t>(longest) + FilterSamples);
+    result.resize(before + static_cast<std::size_t>(longest) + HeldBack);
     SRC_DATA data = {};
     data.data_in = samples.data();
     data.data_out = result.data() + before;

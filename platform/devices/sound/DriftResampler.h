@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -10,11 +11,14 @@ struct SRC_STATE_tag;
 namespace Platform {
 
 // Makes a sound longer or shorter by up to 1.5 %, so that the clock of one device follows that of
-// another without tears. The sound comes out 20 samples late.
+// another without tears.
 class DriftResampler
 {
 public:
     static constexpr double MaxDeviation = 0.015;
+    // How much later the sound comes out. Silence takes its place at the beginning, so that the
+    // first call already returns as many samples as it gets.
+    static constexpr std::size_t DelaySamples = 20;
 
     DriftResampler();
     ~DriftResampler();

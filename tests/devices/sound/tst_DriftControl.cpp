@@ -111,7 +111,7 @@ private Q_SLOTS:
             std::vector<float> result;
             constexpr int Count = 48000;
             constexpr int PieceSize = 240;
-            constexpr double MaxDelaySamples = 24.0; // half a millisecond
+            constexpr double Delay = DriftResampler::DelaySamples;
             const auto wave = [](double at) { return std::sin(0.05 * at); };
             for (int i = 0; i < Count; i += PieceSize) {
                 std::vector<float> piece;
@@ -119,13 +119,13 @@ private Q_SLOTS:
                     piece.push_back(static_cast<float>(wave(k)));
                 }
                 resampler.process(piece, result);
+                // A playback buffer that starts with less than it expects underflows at once.
+                QVERIFY(i > 0 || std::abs(static_cast<int>(result.size()) - PieceSize) < 5);
             }
             const double step = 1.0 + resampler.deviation();
-            const double missing = Count / step - static_cast<double>(result.size());
-            QVERIFY2(missing >= 0.0 && missing < MaxDelaySamples,
-                     qPrintable(QString::number(missing)));
+            QVERIFY(std::abs(static_cast<double>(result.size()) - Count / step) < 2.0);
             for (std::size_t i = 100; i < result.size(); ++i) {
-                const double expected = wave(static_cast<double>(i) * step);
+                const double expected = wave(static_cast<double>(i) * step - Delay);
                 QVERIFY(std::abs(static_cast<double>(result[i]) - expected) < 0.001);
             }
         }
