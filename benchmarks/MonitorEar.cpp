@@ -56,7 +56,7 @@ MonitorEar::~MonitorEar()
 
 void MonitorEar::arm()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_isWaitingForQuiet = true;
     m_quietSamples = 0;
     m_onset.reset();
@@ -64,13 +64,13 @@ void MonitorEar::arm()
 
 bool MonitorEar::isArmed() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return !m_isWaitingForQuiet;
 }
 
 std::optional<MonitorEar::Clock::time_point> MonitorEar::onset() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_onset;
 }
 
@@ -81,7 +81,7 @@ void MonitorEar::listen()
     while ((size = ::read(m_pipe, samples.data(), sizeof samples)) > 0) {
         const Clock::time_point now = Clock::now();
         const std::size_t count = static_cast<std::size_t>(size) / sizeof(float);
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         for (std::size_t i = 0; i < count; ++i) {
             const bool isLoud = std::abs(samples[i]) > Threshold;
             m_quietSamples = isLoud ? 0 : m_quietSamples + 1;

@@ -9,21 +9,21 @@
 #include <optional>
 #include <thread>
 
-// Listens to a device on a thread of its own and says when a sound began, however busy the thread
-// that asks is. A sound counts from when its first sample got here: a few milliseconds late, the
-// same for everybody.
+// Records a device on its own thread and notes when a sound begins, however busy the calling thread
+// is. The noted time is when the first sample arrives: a few milliseconds late, the same for all
+// that are compared.
 class MonitorEar
 {
 public:
     using Clock = std::chrono::steady_clock;
-    static constexpr float Threshold = 0.01F; // what is louder is a sound
+    static constexpr float Threshold = 0.01F; // louder samples are sound
 
     explicit MonitorEar(const QString& device);
     ~MonitorEar();
 
-    // Forgets what it heard; the next sound counts once it has been quiet for a while.
+    // Forgets the last sound. The next one counts after some silence.
     void arm();
-    bool isArmed() const; // it has been quiet
+    bool isArmed() const; // the silence has passed
     std::optional<Clock::time_point> onset() const;
 
 private:

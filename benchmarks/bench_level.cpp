@@ -18,8 +18,8 @@
 #include <ctime>
 #include <memory>
 
-// From a sound at the microphone to the value of the bar, beside Qt's audio input with a
-// notification every 20 ms; and what the bar costs the GUI thread.
+// Measures the delay from a sound at the microphone to the value of the bar, and what the bar costs
+// the GUI thread. The peer is Qt's audio input with a notification every 20 ms.
 
 using namespace Platform;
 using TestSupport::SoundServer;
@@ -38,7 +38,7 @@ constexpr double MaxCostPercent = 1.0;
 
 using TimePoint = MonitorEar::Clock::time_point;
 
-// Where both write to, as the page does.
+// The level bar, as on the microphone page.
 struct Bar
 {
     QProgressBar widget;
@@ -77,7 +77,7 @@ private:
     Bar& m_bar;
 };
 
-// What a program of Qt's own would do.
+// How a plain Qt program would do it.
 class QtLevel
 {
 public:
@@ -112,7 +112,7 @@ public:
                 bar.set(peak / 32768.0 > static_cast<double>(LoudSample) ? 1.0 : 0.0);
             }
         };
-        // The notifications begin only once something was read.
+        // Notifications begin only after the first read, so readyRead() starts them.
         QObject::connect(m_input.get(), &QAudioInput::notify, device, look);
         QObject::connect(device, &QIODevice::readyRead, device, look);
     }
@@ -129,7 +129,8 @@ Statistics measure(Bar& bar, MonitorEar& ear, int bursts)
         if (!QTest::qWaitFor([&ear] { return ear.isArmed(); }, TimeoutMs)) {
             break;
         }
-        QTest::qWait(300 + i * 7 % 20); // the bar falls; off the grid
+        QTest::qWait(300 +
+                     i * 7 % 20); // until the bar is down; not a multiple of the server's cycle
         bar.lit.reset();
         const SoundSource burst(QStringLiteral("voice"), TestSupport::tone(0.1, 1000.0, -6.0));
         if (QTest::qWaitFor([&] { return bar.lit && ear.onset(); }, TimeoutMs)) {
@@ -139,7 +140,7 @@ Statistics measure(Bar& bar, MonitorEar& ear, int bursts)
     return Statistics(delays);
 }
 
-// Of a core, while somebody speaks.
+// Load of one core by the GUI thread while somebody speaks.
 double costPercent(int milliseconds)
 {
     const SoundSource voice(QStringLiteral("voice"),

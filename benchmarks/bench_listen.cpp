@@ -11,7 +11,8 @@
 #include <QTest>
 #include <cstdio>
 
-// From the microphone to the speaker, beside the server's own loopback at 20 ms on the same server.
+// Measures the delay from the microphone to the speaker. The peer is the server's own loopback
+// module at 20 ms, on the same server.
 
 using namespace Platform;
 using TestSupport::ListeningRoom;

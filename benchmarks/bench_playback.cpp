@@ -23,10 +23,10 @@
 #include <functional>
 #include <gst/gst.h>
 
-// From the click to the first sample at the monitor of the playback device: the player, Qt's
-// player, and a plain GStreamer pipeline, in turn on the same server. They play a tone whose file
-// doesn't say how much of its beginning is the encoder's: not all of them would skip it. What they
-// all play of it before the tone is taken off.
+// Measures the delay from the click to the first sample at the monitor of the speaker. The player,
+// Qt's player and a plain GStreamer pipeline play in turn on the same server. The file has no
+// header that tells the delay of the encoder, because not all of them would skip that delay. So all
+// play the same silence before the tone, and it is subtracted.
 
 using namespace Platform;
 using TestSupport::SoundServer;
@@ -72,7 +72,7 @@ double leadMs(const QString& path)
     return 1000.0 * first / (format.rate * format.channels);
 }
 
-// One click, from inside the event loop as a real one.
+// One click, inside the event loop like a real one.
 bool click(MeteredApplication& application, Contestant& contestant, MonitorEar& ear, double lead,
            bool isCounted)
 {

@@ -5,8 +5,8 @@
 run_packages=(
     cmake ninja-build g++ ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
-    libnice-dev libpulse-dev libmpg123-dev libpipewire-0.3-dev libspa-0.2-dev libyuv-dev
-    libutf8proc-dev
+    libnice-dev libpulse-dev libmpg123-dev libsamplerate0-dev libkissfft-dev
+    libpipewire-0.3-dev libspa-0.2-dev libyuv-dev libutf8proc-dev
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk

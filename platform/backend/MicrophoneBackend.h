@@ -29,11 +29,11 @@ public:
     virtual ~MicrophoneBackend() = default;
 
     virtual DeviceList devices() const = 0;
-    virtual QString currentId() const = 0; // as for cameras
+    virtual QString currentId() const = 0; // as in CameraBackend
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id chooses none
     virtual DeviceState state() const = 0;
-    virtual bool hasHeardSound() const = 0; // from the current device while it was open
+    virtual bool hasHeardSound() const = 0; // the current device delivered sound while open
 
     virtual void open() = 0;
     virtual void close() = 0; // stops all streams

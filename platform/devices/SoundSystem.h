@@ -13,8 +13,8 @@ namespace Platform {
 struct DeviceEngineConfig;
 class ReportSink;
 
-// The sound of the real engine: one per engine, made with it and destroyed after all that it
-// created. GUI thread only.
+// The sound system of the real engine, one per engine. It outlives all objects that it creates. GUI
+// thread only.
 class SoundSystem
 {
 public:
@@ -23,14 +23,14 @@ public:
     virtual std::unique_ptr<MicrophoneBackend>
     createMicrophone(MicrophoneBackend::Listener& listener) = 0;
     virtual std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) = 0;
-    // Null where no player can be made.
+    // Null if no player can be created.
     virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener) = 0;
     virtual DeviceList speakers() const = 0;
 };
 
-// Defined once, by the folder that provides the sound of this build. What it measured of a device
-// goes to the report.
+// Each build has one definition, in the folder of its sound system. Measurements of the devices go
+// to the report.
 std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& config,
                                                ReportSink& report);
 

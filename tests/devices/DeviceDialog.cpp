@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QTest>
+#include <algorithm>
 
 using namespace Platform;
 
@@ -19,6 +20,8 @@ namespace TestSupport {
 namespace {
 
 constexpr int WriteTimeoutMs = 8000;
+// Well above the limit for gaps: a thread that waits for a frozen server is noticed.
+constexpr int FreezeMs = 600;
 
 } // namespace
 
@@ -89,6 +92,20 @@ QString DeviceDialog::screenshot(const QString& name)
 QJsonObject DeviceDialog::results() const
 {
     return m_engine->results();
+}
+
+void DeviceDialog::meter(const char* fault, const Script& action)
+{
+    GapMeter gaps;
+    action();
+    const qint64 gap = gaps.longestMs();
+    qInfo("| %s | longest gap %lld ms |", fault, gap);
+    m_worstGapMs = std::max(m_worstGapMs, gap);
+}
+
+int DeviceDialog::freezeMs()
+{
+    return std::max(FreezeMs, qEnvironmentVariableIntValue("ENVCHECK_FREEZE_MS"));
 }
 
 } // namespace TestSupport

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/GapMeter.h"
+
 #include <LumWidgets/LumCustomNormalDialog.h>
 
 #include <QJsonObject>
@@ -17,26 +19,37 @@ class DeviceEngine;
 
 namespace TestSupport {
 
-// The real dialog on the real engine, in a language of the program. Pictures of it are kept in the
-// folder "screenshots" of the build.
+// The real dialog on the real engine, in one language of the program. Screenshots go to the folder
+// "screenshots" of the build.
 class DeviceDialog
 {
 public:
     using Script = std::function<void()>;
+
+    // Starting a server blocks the event loop of the test for longer, because it waits for
+    // programs.
+    static constexpr qint64 MaxStartGapMs = 3 * MaxGapMs;
 
     explicit DeviceDialog(const QString& language);
     ~DeviceDialog();
     DeviceDialog(const DeviceDialog&) = delete;
     DeviceDialog& operator=(const DeviceDialog&) = delete;
 
-    // Opens the dialog, runs the script in it, closes it and says yes to the question. False where
-    // the dialog didn't come or didn't go.
+    // Opens the dialog, runs the script, closes the dialog and answers the question with yes. False
+    // if the dialog didn't open or didn't close.
     bool run(const Script& script);
-    void click(const char* name) const; // a widget, in its middle
-    QPixmap picture() const;            // with the balloons, which are windows of their own
+    void click(const char* name) const; // the middle of a widget
+    QPixmap picture() const;            // with the balloons, which are separate windows
     bool keepFrame(const QString& name) const { return picture().save(screenshot(name)); }
-    static QString screenshot(const QString& name); // its path, in a folder that is there
+    static QString screenshot(const QString& name); // its path; creates the folder
     QJsonObject results() const;
+
+    // Measures how long the action blocks the event loop, and prints it as a row for
+    // docs/faults.md.
+    void meter(const char* fault, const Script& action);
+    qint64 worstGapMs() const { return m_worstGapMs; } // of all calls to meter()
+    // How long servers are stopped: ENVCHECK_FREEZE_MS if that is longer than the usual time.
+    static int freezeMs();
 
     template <typename T>
     T* child(const char* name) const
@@ -53,6 +66,7 @@ private:
     QTemporaryDir m_folder;
     Platform::DeviceEngine* m_engine; // the registry's
     QPointer<LumCustomNormalDialog> m_dialog;
+    qint64 m_worstGapMs = 0;
 };
 
 } // namespace TestSupport

@@ -8,12 +8,12 @@
 
 namespace TestSupport {
 
-// The sounds of the speaker check, as files and as what is to be heard.
+// The sounds of the speaker check.
 QStringList soundNames();
 QString soundPath(const QString& name);
-// In one channel, at the rate of the recordings.
+// One channel, at the sample rate of SoundRecording.
 std::vector<float> readSound(const QString& path);
-// How alike a recording and each of the sounds are, in the order of their names.
+// Similarity of the recording and each of the sounds, in the order of soundNames().
 std::vector<double> compareWithSounds(const std::vector<float>& recording);
 
 } // namespace TestSupport

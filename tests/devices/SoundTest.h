@@ -6,6 +6,7 @@
 #include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
+#include "tests/support/SoundRecording.h"
 #include "tests/support/SoundServer.h"
 
 #include <QObject>
@@ -13,7 +14,7 @@
 
 namespace TestSupport {
 
-// Every case of such a test runs with both kinds of sound server, on a fresh one each time.
+// Each test case runs with both kinds of sound server, on a new one each time.
 class SoundTest : public QObject
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ protected Q_SLOTS:
 protected:
     static constexpr int TimeoutMs = 5000;
     static constexpr qint64 MaxGapMs = TestSupport::MaxGapMs;
-    static constexpr float Audible = 0.003F;
+    static constexpr float Audible = TestSupport::Audible;
 
     static QString id(const char* name) { return QString::fromLatin1(name); }
 

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "host/tour/DialogView.h"
-#include "tests/devices/DeviceDialog.h"
-#include "tests/support/GapMeter.h"
+#include "tests/devices/SoundDialogTest.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/PictureBoard.h"
 #include "tests/support/PlugStorm.h"
 #include "tests/support/SoundRecording.h"
-#include "tests/support/SoundServer.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -22,29 +20,13 @@ using namespace TestSupport;
 namespace {
 
 constexpr int LongMs = 10000;
-// Whoever starts a server from the GUI thread, as this test does, waits for its programs.
-constexpr qint64 MaxStartGapMs = 3 * MaxGapMs;
 constexpr int FontPixelSize = 12;
 constexpr int LitPercent = 30;
-constexpr int FewestLevels = 20; // that a voice lights in a few seconds
-constexpr float Audible = 0.003F;
+constexpr int FewestLevels = 20; // different levels of a voice in a few seconds
 constexpr double AlikeAtLeast = 0.8;
 constexpr int PlugEvents = 200;
-// A thread that waits for the server stands still for as long as it is frozen, however long that
-// is.
-constexpr int FreezeMs = 600;
 
-QString id(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
-int freezeMs()
-{
-    return std::max(FreezeMs, qEnvironmentVariableIntValue("ENVCHECK_FREEZE_MS"));
-}
-
-// From its first sound on.
+// The part of the recording that begins with its first sound.
 std::vector<float> trimmed(const std::vector<float>& recording, std::size_t length)
 {
     const std::size_t begin = firstAbove(recording, Audible);
@@ -55,16 +37,13 @@ std::vector<float> trimmed(const std::vector<float>& recording, std::size_t leng
 
 } // namespace
 
-// The microphone's page in the real dialog, on the real engine and real sound servers: in English
-// on the one and in Chinese on the other.
-class tst_MicrophoneDialog : public QObject
+// The microphone page in the real dialog, on the real engine and real sound servers.
+class tst_MicrophoneDialog : public SoundDialogTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
     void initTestCase();
-    void init();
     void cleanup();
     void cleanupTestCase();
 
@@ -75,11 +54,9 @@ private Q_SLOTS:
     void leavesTheServerAsItWas();
     void neverBlocksWhileTheServerIsFrozen();
     void survivesTheServersDeath();
-    void survivesAStormOfPlugs();
+    void survivesManyPluggings();
 
 private:
-    using Script = std::function<void()>;
-
     void runDialog(const Script& script);
     void openPage() const { m_dialog->click("label_MicCheck"); }
     void leavePage() const { m_dialog->click("label_SystemCheck"); }
@@ -94,20 +71,10 @@ private:
     int captures();
     int playbacks();
     void keepFrame(const char* caption);
-    void meter(const char* fault, const Script& action);
-    void frozen(const char* step, const Script& action);
 
-    std::unique_ptr<SoundServer> m_server;
-    std::unique_ptr<DeviceDialog> m_dialog;
     std::unique_ptr<DialogView> m_view;
     PictureBoard m_board;
-    qint64 m_worstGapMs = 0;
 };
-
-void tst_MicrophoneDialog::initTestCase_data()
-{
-    SoundServer::addTestRows();
-}
 
 void tst_MicrophoneDialog::initTestCase()
 {
@@ -116,20 +83,10 @@ void tst_MicrophoneDialog::initTestCase()
     QApplication::setFont(font);
 }
 
-void tst_MicrophoneDialog::init()
-{
-    m_server = SoundServer::startForTest();
-    QVERIFY(m_server);
-    m_dialog = std::make_unique<DeviceDialog>(
-        m_server->kind() == SoundServer::Kind::PulseAudio ? id("en") : id("zh_CN"));
-    m_worstGapMs = 0;
-}
-
 void tst_MicrophoneDialog::cleanup()
 {
     m_view.reset();
-    m_dialog.reset();
-    m_server.reset();
+    SoundDialogTest::cleanup();
 }
 
 void tst_MicrophoneDialog::cleanupTestCase()
@@ -173,7 +130,7 @@ void tst_MicrophoneDialog::showsEveryState()
     m_board.endRow();
 }
 
-// What a person does: choose a speaker, count aloud, see the bar move, hear oneself, say yes.
+// As a user does: choose a speaker, count aloud, watch the bar, listen, answer yes.
 void tst_MicrophoneDialog::listensBackWhileCounting()
 {
     const std::vector<float> words = speech(id("one, two, three, four, five, six"));
@@ -203,7 +160,8 @@ void tst_MicrophoneDialog::listensBackWhileCounting()
             SoundSource voice(id("voice"), words);
             const bool isOver = isReady && voice.waitForEnd() && !m_view->isEnabled("Btn_Mic_Yes");
             disconnect(connection);
-            // A loaded machine tears the words on their way to the microphone too.
+            // Compared with the recording, because on a busy machine the words have gaps there
+            // already.
             const std::vector<float> said = trimmed(microphone.samples(), words.size());
             const double alike = loudnessCorrelation(chosen.samples(), said);
             qInfo("heard and said are alike to %.3f", alike);
@@ -224,7 +182,7 @@ void tst_MicrophoneDialog::listensBackWhileCounting()
     QCOMPARE(result.value(id("deviceState")).toInt(), 1);
 }
 
-// The countdown goes on to its end, and the page says what is wrong.
+// The countdown continues to its end, and the page says what is wrong.
 void tst_MicrophoneDialog::unpluggedWhileCounting()
 {
     runDialog([this] {
@@ -255,7 +213,7 @@ void tst_MicrophoneDialog::leavesTheServerAsItWas_data()
     QTest::newRow("slider moved") << true;
 }
 
-// Volumes, mutes and defaults, of a visit in which one microphone after the other is tried.
+// Trying one microphone after the other changes no volume, no mute and no default.
 void tst_MicrophoneDialog::leavesTheServerAsItWas()
 {
     QFETCH(bool, isSliderMoved);
@@ -297,58 +255,59 @@ void tst_MicrophoneDialog::neverBlocksWhileTheServerIsFrozen()
 {
     m_server->plugMicrophone(id("microphone_b"), id("Test Microphone B"));
     m_server->control({id("set-source-volume"), id("microphone_b"), id("90%")});
-    // The first pages, their texts and fonts take their time whatever the server does.
+    // Once before measuring: the first pages load texts and fonts, which takes time on any server.
     runDialog([this] { openPage(); });
 
     const SoundSource voice(id("voice"), tone(60.0, 440.0, -20.0));
     m_server->freeze();
     runDialog([&] {
-        meter("frozen while the dialog opens", [&] {
+        m_dialog->meter("frozen while the dialog opens", [&] {
             openPage();
-            QTest::qWait(freezeMs());
+            QTest::qWait(DeviceDialog::freezeMs());
             QVERIFY(isShown("noMicPage"));
         });
         m_server->thaw();
         works();
 
         leavePage();
-        frozen("frozen while the page opens", [this] { openPage(); });
+        meterFrozen("frozen while the page opens", [this] { openPage(); });
         works();
-        frozen("frozen while listening", [] {});
+        meterFrozen("frozen while listening", [] {});
         works();
-        frozen("frozen while a device is chosen",
-               [this] { box()->setCurrentIndex(box()->findData(id("microphone_b"))); });
+        meterFrozen("frozen while a device is chosen",
+                    [this] { box()->setCurrentIndex(box()->findData(id("microphone_b"))); });
         QTRY_COMPARE(slider()->value(), 90);
         works();
         box()->setCurrentIndex(box()->findData(id("microphone_a")));
         QTRY_COMPARE(slider()->value(), 100);
         works();
-        frozen("frozen while the slider is dragged", [this] {
+        meterFrozen("frozen while the slider is dragged", [this] {
             for (int value = 100; value >= 80; --value) {
                 slider()->setValue(value);
             }
         });
         QTRY_VERIFY(volume().contains(" 80%"));
         m_dialog->click("Btn_Record");
-        frozen("frozen while counting", [this] { QTRY_COMPARE(level(), 0); });
+        meterFrozen("frozen while counting", [this] { QTRY_COMPARE(level(), 0); });
         works();
-        frozen("frozen while the page is left", [this] { leavePage(); });
+        meterFrozen("frozen while the page is left", [this] { leavePage(); });
         QTRY_COMPARE(captures() + playbacks(), 0);
 
         openPage();
         works();
         m_server->freeze();
     });
-    // The dialog closed on a frozen server.
+    // The dialog was closed with a frozen server.
     m_server->thaw();
     QTRY_COMPARE(captures() + playbacks(), 0);
-    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
 void tst_MicrophoneDialog::survivesTheServersDeath()
 {
     const auto startAgain = [this] {
-        meter("started again", [this] {
+        m_dialog->meter("started again", [this] {
             QVERIFY(m_server->start());
             QTRY_COMPARE_WITH_TIMEOUT(box()->currentText(), id("Test Microphone A"), LongMs);
         });
@@ -356,7 +315,7 @@ void tst_MicrophoneDialog::survivesTheServersDeath()
         works();
     };
     const auto killed = [this](const char* step, const Script& action) {
-        meter(step, [&] {
+        m_dialog->meter(step, [&] {
             m_server->kill();
             action();
             QTRY_VERIFY(isShown("noMicPage") || !isShown("microphonePage"));
@@ -373,7 +332,7 @@ void tst_MicrophoneDialog::survivesTheServersDeath()
             QTRY_COMPARE(level(), 0);
             QTRY_VERIFY(m_view->isEnabled("Btn_Mic_No"));
         });
-        meter("the page left and opened without a server", [this] {
+        m_dialog->meter("the page left and opened without a server", [this] {
             leavePage();
             openPage();
         });
@@ -384,10 +343,11 @@ void tst_MicrophoneDialog::survivesTheServersDeath()
         startAgain();
     });
     QTRY_COMPARE(captures() + playbacks(), 0);
-    QVERIFY2(m_worstGapMs < MaxStartGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < DeviceDialog::MaxStartGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
-void tst_MicrophoneDialog::survivesAStormOfPlugs()
+void tst_MicrophoneDialog::survivesManyPluggings()
 {
     SoundRecording speaker(id("speaker_a.monitor"));
     QVERIFY(speaker.waitForStart());
@@ -398,7 +358,7 @@ void tst_MicrophoneDialog::survivesAStormOfPlugs()
         const int count = box()->count();
         QElapsedTimer clock;
         clock.start();
-        meter("storm of plugs while listening", [&] {
+        m_dialog->meter("many pluggings while listening", [&] {
             const PlugStorm storm(PlugEvents / 2, PlugStorm::Device::Microphone);
             QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
             QCOMPARE(storm.events(), PlugEvents);
@@ -412,7 +372,8 @@ void tst_MicrophoneDialog::survivesAStormOfPlugs()
         QCOMPARE(captures(), 1);
         QCOMPARE(playbacks(), 1);
     });
-    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
 void tst_MicrophoneDialog::runDialog(const Script& script)
@@ -423,7 +384,7 @@ void tst_MicrophoneDialog::runDialog(const Script& script)
     }));
 }
 
-// The balloons draw their texts on labels of their own.
+// Balloons are windows that show their text in a label.
 bool tst_MicrophoneDialog::isBalloonShown(const char* textId) const
 {
     const QString text = qtTrId(textId);
@@ -441,7 +402,7 @@ QProgressBar* tst_MicrophoneDialog::levelBar() const
     return m_dialog->child<QWidget>("w_intensity")->findChildren<QProgressBar*>().last();
 }
 
-// The bar moves with a sound that is to be heard at this moment.
+// The bar shows the sound that is playing.
 void tst_MicrophoneDialog::works() const
 {
     QTRY_VERIFY_WITH_TIMEOUT(isShown("micPage") && level() > LitPercent, LongMs);
@@ -465,26 +426,6 @@ int tst_MicrophoneDialog::playbacks()
 void tst_MicrophoneDialog::keepFrame(const char* caption)
 {
     m_board.add(id(caption), m_view->picture());
-}
-
-// A row of the list of faults.
-void tst_MicrophoneDialog::meter(const char* fault, const Script& action)
-{
-    GapMeter gaps;
-    action();
-    const qint64 gap = gaps.longestMs();
-    qInfo("| %s | longest gap %lld ms |", fault, gap);
-    m_worstGapMs = std::max(m_worstGapMs, gap);
-}
-
-void tst_MicrophoneDialog::frozen(const char* step, const Script& action)
-{
-    m_server->freeze();
-    meter(step, [&] {
-        action();
-        QTest::qWait(freezeMs());
-    });
-    m_server->thaw();
 }
 
 QTEST_MAIN(tst_MicrophoneDialog)

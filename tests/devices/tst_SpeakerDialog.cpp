@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "pages/HeadsetPage.h"
-#include "tests/devices/DeviceDialog.h"
+#include "tests/devices/SoundDialogTest.h"
 #include "tests/devices/SoundFiles.h"
-#include "tests/support/GapMeter.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/PlugStorm.h"
 #include "tests/support/SoundRecording.h"
-#include "tests/support/SoundServer.h"
 
 #include <LumMedia/AudioPlayer.h>
 
@@ -28,55 +26,30 @@ using namespace TestSupport;
 
 namespace {
 
-// Whoever starts a server from the GUI thread, as this test does, waits for its programs.
-constexpr qint64 MaxStartGapMs = 3 * MaxGapMs;
 constexpr int LongMs = 8000;
-constexpr float Audible = 0.003F;
 constexpr double AlikeAtLeast = 0.95;
-// A thread that waits for the server stands still for as long as it is frozen, however long that
-// is.
-constexpr int FreezeMs = 600;
 constexpr int PlugEvents = 1000;
-
-QString id(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
-int freezeMs()
-{
-    bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue("ENVCHECK_FREEZE_MS", &isNumber);
-    return isNumber ? value : FreezeMs;
-}
 
 } // namespace
 
-// The speaker page in the real dialog, on the real engine and real sound servers: in English on the
-// one and in Chinese on the other.
-class tst_SpeakerDialog : public QObject
+// The speaker page in the real dialog, on the real engine and real sound servers.
+class tst_SpeakerDialog : public SoundDialogTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
-    void init();
-    void cleanup();
-
-    void hearsTheSoundAndAnswers();
+    void playsTheSoundAndTakesTheAnswer();
     void leavesTheServerAsItWas_data();
     void leavesTheServerAsItWas();
-    void endsAMuteThatTheUserMoves();
+    void unmutesIfTheSliderMoves();
     void neverBlocksWhileTheServerIsFrozen();
     void survivesTheServersDeath();
-    void followsDevicesInMidSound();
-    void survivesAStormOfPlugs();
+    void followsDevicesDuringASound();
+    void survivesManyPluggings();
     void pageLeavesNoSoundBehind();
     void speakerLeavesNoPlayerBehind();
 
 private:
-    using Script = std::function<void()>;
-
     void openSpeakerPage() const { m_dialog->click("label_SoundCheck"); }
     bool isPlaying() const { return !m_dialog->child<QWidget>("tb_play_test_sound")->isEnabled(); }
     bool isSpeakerThere() const;
@@ -87,37 +60,12 @@ private:
     void choose(const QString& speakerId) const;
     QRadioButton* answerFor(const QString& soundFile) const;
     void keepFrame(const char* state) const;
-    QString language() const;
     QByteArray volumeOf(const char* speakerId);
     QByteArray sounds() { return m_server->control({id("list"), id("short"), id("sink-inputs")}); }
-    void meter(const char* fault, const Script& action);
-
-    std::unique_ptr<SoundServer> m_server;
-    std::unique_ptr<DeviceDialog> m_dialog;
-    qint64 m_worstGapMs = 0;
 };
 
-void tst_SpeakerDialog::initTestCase_data()
-{
-    SoundServer::addTestRows();
-}
-
-void tst_SpeakerDialog::init()
-{
-    m_server = SoundServer::startForTest();
-    QVERIFY(m_server);
-    m_dialog = std::make_unique<DeviceDialog>(language());
-    m_worstGapMs = 0;
-}
-
-void tst_SpeakerDialog::cleanup()
-{
-    m_dialog.reset();
-    m_server.reset();
-}
-
-// What a person does: choose the device and the volume, play, listen, pick the sound, say yes.
-void tst_SpeakerDialog::hearsTheSoundAndAnswers()
+// As a user does: choose the device and the volume, play, listen, select the sound, answer yes.
+void tst_SpeakerDialog::playsTheSoundAndTakesTheAnswer()
 {
     SoundRecording chosenOne(id("speaker_b.monitor"));
     SoundRecording other(id("speaker_a.monitor"));
@@ -155,7 +103,7 @@ void tst_SpeakerDialog::hearsTheSoundAndAnswers()
         keepFrame("answered");
         m_dialog->click("Btn_CanHear");
         openSpeakerPage();
-        m_dialog->click("label_MicCheck"); // so that the answer is recorded
+        m_dialog->click("label_MicCheck"); // leaving the page records the answer
 
         openSpeakerPage();
         m_server->unplug(m_server->speakerB());
@@ -174,7 +122,7 @@ void tst_SpeakerDialog::leavesTheServerAsItWas_data()
     QTest::newRow("slider moved") << true;
 }
 
-// Volumes, mutes and defaults, of a run through every step.
+// A run through all steps changes no volume, no mute and no default.
 void tst_SpeakerDialog::leavesTheServerAsItWas()
 {
     QFETCH(bool, isSliderMoved);
@@ -217,7 +165,7 @@ void tst_SpeakerDialog::leavesTheServerAsItWas()
     QCOMPARE(after, expected);
 }
 
-void tst_SpeakerDialog::endsAMuteThatTheUserMoves()
+void tst_SpeakerDialog::unmutesIfTheSliderMoves()
 {
     m_server->control({id("set-sink-mute"), id("speaker_a"), id("1")});
     SoundRecording recording(id("speaker_a.monitor"));
@@ -246,22 +194,14 @@ void tst_SpeakerDialog::endsAMuteThatTheUserMoves()
 
 void tst_SpeakerDialog::neverBlocksWhileTheServerIsFrozen()
 {
-    const auto frozen = [&](const char* step, const Script& action) {
-        m_server->freeze();
-        meter(step, [&] {
-            action();
-            QTest::qWait(freezeMs());
-        });
-        m_server->thaw();
-    };
-    // The first pages, their texts and fonts take their time whatever the server does.
+    // Once before measuring: the first pages load texts and fonts, which takes time on any server.
     QVERIFY(m_dialog->run([this] { openSpeakerPage(); }));
 
     m_server->freeze();
     QVERIFY(m_dialog->run([&] {
-        meter("frozen while the dialog opens", [&] {
+        m_dialog->meter("frozen while the dialog opens", [&] {
             openSpeakerPage();
-            QTest::qWait(freezeMs());
+            QTest::qWait(DeviceDialog::freezeMs());
             QVERIFY(!isSpeakerThere());
         });
         m_server->thaw();
@@ -269,43 +209,45 @@ void tst_SpeakerDialog::neverBlocksWhileTheServerIsFrozen()
         QVERIFY(isSpeakerThere());
 
         m_dialog->click("label_CameraCheck");
-        frozen("frozen while the page opens", [this] { openSpeakerPage(); });
+        meterFrozen("frozen while the page opens", [this] { openSpeakerPage(); });
         QCOMPARE(chosen(), id("speaker_a"));
 
-        frozen("frozen at the click on play", [this] { m_dialog->click("tb_play_test_sound"); });
+        meterFrozen("frozen at the click on play",
+                    [this] { m_dialog->click("tb_play_test_sound"); });
         QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
 
         SoundRecording recording(id("speaker_a.monitor"));
         QVERIFY(recording.waitForStart());
         play(recording);
-        frozen("frozen in mid-sound", [] {});
+        meterFrozen("frozen during a sound", [] {});
         QTRY_VERIFY_WITH_TIMEOUT(!isPlaying(), LongMs);
 
-        frozen("frozen while the slider is dragged", [this] {
+        meterFrozen("frozen while the slider is dragged", [this] {
             for (int value = 99; value >= 40; --value) {
                 slider()->setValue(value);
             }
         });
         QTRY_VERIFY(volumeOf("speaker_a").contains(" 40%"));
 
-        frozen("frozen while a device is chosen", [this] { choose(id("speaker_b")); });
+        meterFrozen("frozen while a device is chosen", [this] { choose(id("speaker_b")); });
         QTRY_COMPARE(chosen(), id("speaker_b"));
 
         choose(id("speaker_a"));
         QTRY_COMPARE(chosen(), id("speaker_a"));
         slider()->setValue(100);
         play(recording);
-        frozen("frozen while the page is left in mid-sound",
-               [this] { m_dialog->click("label_CameraCheck"); });
+        meterFrozen("frozen while the page is left during a sound",
+                    [this] { m_dialog->click("label_CameraCheck"); });
 
         openSpeakerPage();
         m_dialog->click("tb_play_test_sound");
         m_server->freeze();
     }));
-    // The dialog closed with a sound on the way to a frozen server.
+    // The dialog was closed during a sound, with a frozen server.
     m_server->thaw();
     QTRY_COMPARE(m_server->control({id("list"), id("short"), id("sink-inputs")}), QByteArray());
-    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
 void tst_SpeakerDialog::survivesTheServersDeath()
@@ -318,33 +260,34 @@ void tst_SpeakerDialog::survivesTheServersDeath()
         SoundRecording recording(id("speaker_b.monitor"));
         QVERIFY(recording.waitForStart());
         play(recording);
-        meter("killed in mid-sound", [&] {
+        m_dialog->meter("killed during a sound", [&] {
             m_server->kill();
             QTRY_VERIFY(!isPlaying());
             QTRY_VERIFY(!isSpeakerThere());
         });
-        meter("the page left and opened without a server", [this] {
+        m_dialog->meter("the page left and opened without a server", [this] {
             m_dialog->click("label_CameraCheck");
             openSpeakerPage();
         });
         QElapsedTimer clock;
-        meter("started again", [&] {
+        m_dialog->meter("started again", [&] {
             QVERIFY(m_server->start());
             clock.start();
-            // The chosen one comes back.
+            // The chosen speaker is current again.
             QTRY_COMPARE_WITH_TIMEOUT(chosen(), id("speaker_b"), LongMs);
         });
         qInfo("| back on the page after | %lld ms |", clock.elapsed());
-        QVERIFY(clock.elapsed() < 2500); // the longest back-off, and half a second
+        QVERIFY(clock.elapsed() < 2500); // the longest delay between two attempts, and 0.5 s
         QVERIFY(isSpeakerThere());
         SoundRecording again(id("speaker_b.monitor"));
         QVERIFY(again.waitForStart());
         play(again);
     }));
-    QVERIFY2(m_worstGapMs < MaxStartGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < DeviceDialog::MaxStartGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
-void tst_SpeakerDialog::followsDevicesInMidSound()
+void tst_SpeakerDialog::followsDevicesDuringASound()
 {
     QVERIFY(m_dialog->run([&] {
         openSpeakerPage();
@@ -354,8 +297,8 @@ void tst_SpeakerDialog::followsDevicesInMidSound()
         QVERIFY(first.waitForStart());
         QVERIFY(second.waitForStart());
         play(first);
-        // Nothing was chosen: the sound goes where the default goes.
-        meter("default switched in mid-sound", [&] {
+        // No speaker was chosen, so the sound follows the default.
+        m_dialog->meter("default changed during a sound", [&] {
             m_server->control({id("set-default-sink"), id("speaker_b")});
             QTRY_COMPARE(chosen(), id("speaker_b"));
             QTRY_VERIFY(second.peak() > Audible);
@@ -368,26 +311,27 @@ void tst_SpeakerDialog::followsDevicesInMidSound()
         second.forget();
         first.forget();
         play(second);
-        meter("chosen device unloaded in mid-sound", [&] {
+        m_dialog->meter("chosen device unplugged during a sound", [&] {
             m_server->unplug(m_server->speakerB());
             QTRY_VERIFY(!isPlaying());
             QTRY_VERIFY(!isSpeakerThere());
         });
-        QVERIFY(first.peak() < Audible); // it never came out of another one
-        meter("plugged in again", [&] {
+        QVERIFY(first.peak() < Audible); // it did not continue on another one
+        m_dialog->meter("plugged in again", [&] {
             m_server->plugSpeaker(id("speaker_b"), QStringLiteral("Test Speaker B"));
             QTRY_COMPARE(chosen(), id("speaker_b"));
         });
         QVERIFY(isSpeakerThere());
-        meter("last device unloaded", [&] {
+        m_dialog->meter("last device unplugged", [&] {
             m_server->control({id("unload-module"), id("module-null-sink")});
             QTRY_VERIFY(!isSpeakerThere());
         });
     }));
-    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
-void tst_SpeakerDialog::survivesAStormOfPlugs()
+void tst_SpeakerDialog::survivesManyPluggings()
 {
     QVERIFY(m_dialog->run([&] {
         openSpeakerPage();
@@ -398,7 +342,7 @@ void tst_SpeakerDialog::survivesAStormOfPlugs()
         play(recording);
         QElapsedTimer clock;
         clock.start();
-        meter("storm of plugs in mid-sound", [&] {
+        m_dialog->meter("many pluggings during a sound", [&] {
             const PlugStorm storm(PlugEvents / 2);
             QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
             QCOMPARE(storm.events(), PlugEvents);
@@ -410,7 +354,8 @@ void tst_SpeakerDialog::survivesAStormOfPlugs()
         m_server->plugSpeaker(id("last"), id("Last"));
         QTRY_COMPARE(box()->count(), count + 1);
     }));
-    QVERIFY2(m_worstGapMs < MaxGapMs, qPrintable(QString::number(m_worstGapMs)));
+    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+             qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
 bool tst_SpeakerDialog::isSpeakerThere() const
@@ -457,24 +402,9 @@ void tst_SpeakerDialog::keepFrame(const char* state) const
         m_dialog->keepFrame(QStringLiteral("speaker-%1-%2").arg(QLatin1String(state), language())));
 }
 
-QString tst_SpeakerDialog::language() const
-{
-    return m_server->kind() == SoundServer::Kind::PulseAudio ? id("en") : id("zh_CN");
-}
-
 QByteArray tst_SpeakerDialog::volumeOf(const char* speakerId)
 {
     return m_server->control({id("get-sink-volume"), id(speakerId)});
-}
-
-// A row of the list of faults.
-void tst_SpeakerDialog::meter(const char* fault, const Script& action)
-{
-    GapMeter gaps;
-    action();
-    const qint64 gap = gaps.longestMs();
-    qInfo("| %s | longest gap %lld ms |", fault, gap);
-    m_worstGapMs = std::max(m_worstGapMs, gap);
 }
 
 // Destroyed in mid-sound without having been hidden: the page doesn't end the sound.

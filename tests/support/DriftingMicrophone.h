@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/support/MicrophoneFeed.h"
 #include "tests/support/SoundServer.h"
 
 #include <atomic>
@@ -14,8 +13,8 @@
 
 namespace TestSupport {
 
-// A microphone with a clock of its own, which goes too fast or too slowly. It hears a steady tone
-// with short loud bursts in it.
+// A microphone whose clock is too fast or too slow. It records a steady tone with short loud
+// bursts.
 class DriftingMicrophone
 {
 public:
@@ -23,28 +22,40 @@ public:
     static constexpr double BurstSpacingSeconds = 0.2;
     static constexpr double ToneHz = 440.0;
 
-    // A speed of 1 is right.
+    // speed: 1 is exact, 1.01 is 1 % too fast.
     DriftingMicrophone(SoundServer& server, const QString& name, double speed);
     ~DriftingMicrophone();
     DriftingMicrophone(const DriftingMicrophone&) = delete;
     DriftingMicrophone& operator=(const DriftingMicrophone&) = delete;
 
-    bool isPlugged() const { return m_feed->isPlugged(); }
-    void hear(int bursts); // once, beginning now
-    bool hasHeardAll() const { return m_hasHeardAll; }
+    bool isPlugged() const;
+    void record(int bursts); // once, beginning now
+    bool hasRecordedAll() const { return m_hasRecordedAll; }
     std::vector<Clock::time_point> burstTimes() const;
+
+    // A device of a server, whose samples come from the test when the test wants it.
+    class Feed
+    {
+    public:
+        static constexpr std::size_t PieceSize = 256; // samples, of one channel
+
+        virtual ~Feed() = default;
+        virtual bool isPlugged() const = 0;
+        // PieceSize samples. Always from the same thread.
+        virtual void write(const float* piece) = 0;
+    };
 
 private:
     void run();
     Clock::time_point timeOf(std::size_t sample) const;
 
-    std::unique_ptr<MicrophoneFeed> m_feed;
-    double m_samplesPerSecond; // by a clock that is right
+    std::unique_ptr<Feed> m_feed;
+    double m_samplesPerSecond; // of an exact clock
     std::vector<float> m_sound;
-    std::vector<std::size_t> m_bursts; // where they begin
+    std::vector<std::size_t> m_bursts; // positions in m_sound
     Clock::time_point m_start;
-    std::atomic<bool> m_hasHeardAll{false};
-    std::atomic<bool> m_isOver{false};
+    std::atomic<bool> m_hasRecordedAll{false};
+    std::atomic<bool> m_isStopping{false};
     std::thread m_thread;
 };
 

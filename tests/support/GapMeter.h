@@ -11,16 +11,16 @@
 
 namespace TestSupport {
 
-// How long the event loop may answer nobody. Under the address sanitizer a test's own start of a
-// helper program, which copies the page tables of all that was freed, takes longer than that.
+// How long the event loop may be blocked. With the address sanitizer the limit is higher: starting
+// a child process copies the page tables of all freed memory, which takes longer than 50 ms.
 #ifdef __SANITIZE_ADDRESS__
 constexpr qint64 MaxGapMs = 150;
 #else
 constexpr qint64 MaxGapMs = 50;
 #endif
 
-// Measures the longest time for which the event loop of this thread answered nobody. The time that
-// it was ready to run and other programs had the processors isn't counted.
+// Measures the longest time for which the event loop of this thread was blocked. Time in which the
+// thread was ready to run but waited for a processor is not counted.
 class GapMeter
 {
 public:
@@ -51,7 +51,7 @@ private:
 
     QTimer m_timer;
     QElapsedTimer m_sinceBeat;
-    RunDelay m_delay; // of the thread that made this
+    RunDelay m_delay; // of the constructing thread
     qint64 m_delayAtBeatMs = m_delay.totalMs();
     qint64 m_longestMs = 0;
 };

@@ -21,7 +21,7 @@ QByteArray load(SoundServer& server, const char* module, const QStringList& argu
                           arguments);
 }
 
-// Part of the room's four channels as a device of its own.
+// A device that uses two of the four channels of the room.
 QStringList part(const char* kind, const char* name, const char* master, const char* channels)
 {
     return {QStringLiteral("%1_name=%2").arg(QLatin1String(kind), QLatin1String(name)),
@@ -61,7 +61,7 @@ std::vector<double> ListeningRoom::measureDelays(int bursts)
     std::vector<float> spoken = silence(LeadSeconds + bursts * BurstSpacingSeconds + LeadSeconds);
     const std::vector<float> burst = tone(BurstSeconds, BurstHz, -6.0);
     for (int i = 0; i < bursts; ++i) {
-        // Off the grid of the server's blocks.
+        // At different positions within the blocks of the server.
         const double at = LeadSeconds + i * BurstSpacingSeconds + (i * 37 % 100) * 1e-4;
         std::copy(burst.begin(), burst.end(),
                   spoken.begin() + static_cast<std::ptrdiff_t>(at * SoundRecording::Rate));

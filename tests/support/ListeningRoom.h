@@ -9,9 +9,9 @@
 
 namespace TestSupport {
 
-// A microphone and a speaker on one clock, so that the delay from the one to the other is known to
-// the sample: "room_voice" is what is spoken into the microphone "room_microphone", and
-// "room_speaker" is what the speaker plays.
+// A microphone and a speaker on one clock, so that the delay between them is measured to the
+// sample. What is played on "room_voice" is recorded by the microphone "room_microphone".
+// "room_speaker" is the speaker.
 class ListeningRoom
 {
 public:
@@ -20,8 +20,8 @@ public:
     explicit ListeningRoom(SoundServer& server);
 
     bool isBuilt() const { return m_isBuilt; }
-    // Speaks so many short bursts and gives how many milliseconds later each came out of the
-    // speaker; a negative number for one that didn't.
+    // Plays short bursts to the microphone. Returns for each one after how many milliseconds the
+    // speaker played it; a negative number if it didn't.
     std::vector<double> measureDelays(int bursts);
 
 private:

@@ -13,7 +13,7 @@ namespace TestSupport {
 namespace {
 
 constexpr int Attempts = 3;
-constexpr qint64 BearableMs = 20; // a cycle of a sound server
+constexpr qint64 BearableMs = 20; // one cycle of a sound server
 
 } // namespace
 

@@ -8,9 +8,9 @@
 
 namespace TestSupport {
 
-// How long the threads of this process and of its helper programs were ready to run and had to wait
-// for a processor since it was made, all together, as the kernel counts it. On a machine that is at
-// rest that is next to nothing.
+// How long, since its construction, the threads of this process and of its child processes were
+// ready to run but had to wait for a processor. This is the sum over all threads, as the kernel
+// counts it. On an idle machine it is close to zero.
 class MachineDelay
 {
 public:
@@ -19,13 +19,13 @@ public:
     qint64 ms() const;
 
 private:
-    static QHash<QString, qint64> milliseconds(); // of each thread, in all its life
+    static QHash<QString, qint64> milliseconds(); // of each thread since its start
 
     QHash<QString, qint64> m_before;
 };
 
-// What is wrong by a measurement in real time, empty where nothing is. One that finds a fault while
-// threads were held up for longer than sound can bear is done again, a few times at the most.
+// Runs a measurement in real time, which returns what is wrong or an empty text. If it finds a
+// fault while threads waited longer than sound can bear, it is repeated, at most a few times.
 QString measuredFault(const std::function<QString()>& measure);
 
 } // namespace TestSupport

@@ -7,15 +7,14 @@
 
 namespace TestSupport {
 
-// Plugs a device in and out again, as fast as the sound server of the environment does it, on a
-// thread and a connection of its own.
+// Plugs and unplugs a device as fast as the sound server can, on its own thread and connection.
 class PlugStorm
 {
 public:
     enum class Device { Speaker, Microphone };
 
     explicit PlugStorm(int rounds, Device device = Device::Speaker);
-    ~PlugStorm(); // breaks off
+    ~PlugStorm(); // stops early
     PlugStorm(const PlugStorm&) = delete;
     PlugStorm& operator=(const PlugStorm&) = delete;
 
@@ -28,7 +27,7 @@ private:
     std::atomic<bool> m_isEnding{false};
     std::atomic<bool> m_isOver{false};
     std::atomic<int> m_events{0};
-    std::thread m_thread; // last: it uses the others
+    std::thread m_thread; // last, because it uses the members above
 };
 
 } // namespace TestSupport

@@ -11,8 +11,8 @@ struct pa_operation;
 
 namespace TestSupport {
 
-// A connection of one's own to the sound server of the environment, for what its command-line
-// client can't do or is too slow for. It waits for each answer.
+// A connection to the sound server of the environment, for what the command-line client can't do or
+// does too slowly. Each call waits for the answer.
 class PulseClient
 {
 public:
@@ -21,7 +21,7 @@ public:
     PulseClient(const PulseClient&) = delete;
     PulseClient& operator=(const PulseClient&) = delete;
 
-    // False where the server doesn't do it.
+    // They return false if the server refuses.
     bool connect();
     bool loadModule(const char* name, const char* arguments, std::uint32_t& index);
     bool unloadModule(std::uint32_t index);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/SoundRecording.h"
 
+#include "platform/devices/sound/SoundMath.h"
+
 #include <QEventLoop>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,12 +20,12 @@ namespace {
 
 constexpr int StartTimeoutMs = 5000;
 constexpr int EndTimeoutMs = 30000;
-// A quarter of the rate is plenty to tell sounds apart, and forgives half a sample of delay.
+// A quarter of the rate is enough to tell sounds apart, and tolerates half a sample of delay.
 constexpr std::size_t Decimation = 4;
 constexpr std::ptrdiff_t SearchedDelay = SoundRecording::Rate / Decimation / 30;
 constexpr float OnsetThreshold = 0.01F;
-// A stretch of a sound tells its delay nearly to the sample, for a fraction of the work. There are
-// several, as behind a tear the delay is another one.
+// A short stretch of a sound gives its delay nearly to the sample, for a fraction of the work.
+// There are several stretches, because the delay changes at each tear.
 constexpr std::ptrdiff_t Stretches = 4;
 constexpr std::ptrdiff_t StretchLength = SoundRecording::Rate / Decimation / 4;
 constexpr std::ptrdiff_t DelayError = 2;
@@ -39,7 +41,7 @@ std::vector<float> decimated(const std::vector<float>& samples)
     return result;
 }
 
-// Of all samples before each, and at the end of all.
+// The energy of all samples before each sample; at the end, of all samples.
 std::vector<double> runningEnergy(const std::vector<float>& samples)
 {
     std::vector<double> result(samples.size() + 1);
@@ -68,7 +70,7 @@ SoundRecording::SoundRecording(const QString& device, const QString& channelMap)
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
                      [this] { take(); });
     QStringList arguments = rawFormat(device, m_channels);
-    // Otherwise PipeWire moves a recording of the default device along with the default.
+    // Otherwise a recording of the default device moves when PipeWire's default changes.
     arguments += QStringLiteral("--property=node.dont-reconnect=true");
     if (!channelMap.isEmpty()) {
         arguments += QStringLiteral("--channel-map=%1").arg(channelMap);
@@ -134,7 +136,7 @@ double SoundRecording::seconds() const
 void SoundRecording::forget()
 {
     m_start = std::chrono::steady_clock::time_point::max();
-    // A frame may be here only in part.
+    // The last frame may have arrived only in part; the rest of it is still to come.
     m_data = m_data.right(m_data.size() % (m_channels * static_cast<int>(sizeof(float))));
 }
 
@@ -146,7 +148,7 @@ void SoundRecording::stop()
     }
 }
 
-// What comes late says nothing; the earliest of all is the best guess.
+// Data may arrive late but never early, so the earliest estimate is the best one.
 void SoundRecording::take()
 {
     const std::chrono::duration<double> before(seconds());
@@ -214,18 +216,13 @@ std::vector<float> silence(double seconds)
 std::vector<float> tone(double seconds, double frequency, double decibels)
 {
     std::vector<float> result = silence(seconds);
-    const double amplitude = std::pow(10.0, decibels / 20.0);
+    const double amplitude = Platform::amplitudeOfDecibels(decibels);
     for (std::size_t i = 0; i < result.size(); ++i) {
-        result[i] = static_cast<float>(amplitude *
-                                       std::sin(2.0 * M_PI * frequency * static_cast<double>(i) /
-                                                static_cast<double>(SoundRecording::Rate)));
+        result[i] = static_cast<float>(
+            amplitude * std::sin(2.0 * Platform::Pi * frequency * static_cast<double>(i) /
+                                 static_cast<double>(SoundRecording::Rate)));
     }
     return result;
-}
-
-double decibels(double amplitude)
-{
-    return 20.0 * std::log10(std::max(amplitude, 1e-9));
 }
 
 double rms(const std::vector<float>& samples, std::size_t from, std::size_t count)
@@ -251,7 +248,7 @@ double correlation(const std::vector<float>& recording, const std::vector<float>
         return energy[static_cast<std::size_t>(to)] - energy[static_cast<std::size_t>(from)];
     };
     const auto alike = [&](std::ptrdiff_t delay, std::ptrdiff_t from, std::ptrdiff_t to) {
-        // What lies outside the recording is silence.
+        // Before and after the recording there is silence.
         const std::ptrdiff_t begin = std::clamp(-delay, from, to);
         const std::ptrdiff_t end = std::clamp(hayEnd - delay, begin, to);
         if (begin == end) {

@@ -10,27 +10,29 @@
 
 namespace TestSupport {
 
-// What comes out of a playback device, or into a microphone, from its making on.
+constexpr float Audible = 0.003F; // -50 dBFS
+
+// Records a speaker or a microphone, beginning with its construction.
 class SoundRecording
 {
 public:
     static constexpr int Rate = 48000;
 
-    // device is a source of the server, such as "speaker_a.monitor"; without a map there are two
-    // channels.
+    // device: a source of the server, such as "speaker_a.monitor". Two channels without a map.
     explicit SoundRecording(const QString& device, const QString& channelMap = {});
     ~SoundRecording();
 
     bool waitForStart(); // until the first sample
-    // So far; of one channel, or the mean of all. Servers don't agree on what a mean is.
+    // Everything so far, of one channel or the mean of all channels. The mean is computed here,
+    // because servers mix channels in different ways.
     std::vector<float> samples(int channel) const;
     std::vector<float> samples() const;
-    // The loudest sample from the given one on.
+    // Amplitude of the loudest sample, beginning at index from.
     float peak(std::size_t from = 0) const;
     double seconds() const; // so far
-    // When its first sample was heard, to within a block of the server.
+    // When the first sample was recorded, to within one block of the server.
     std::chrono::steady_clock::time_point start() const { return m_start; }
-    void forget(); // what it has so far
+    void forget(); // drops everything so far
     void stop();
 
 private:
@@ -42,7 +44,7 @@ private:
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::time_point::max();
 };
 
-// Plays samples on a device, beginning at once.
+// Plays samples on a device, beginning with its construction.
 class SoundSource
 {
 public:
@@ -56,21 +58,20 @@ private:
     QProcess m_process;
 };
 
-// What is in a sound file of any format; nothing, with a warning, where it can't be read.
+// Decodes a sound file of any format. Empty, with a warning, if it can't be read.
 std::vector<float> soundFile(const QString& path);
-// A voice that says it.
+// A synthetic voice that says the text.
 std::vector<float> speech(const QString& text);
 std::vector<float> silence(double seconds);
 std::vector<float> tone(double seconds, double frequency, double decibels);
-double decibels(double amplitude);
 double rms(const std::vector<float>& samples, std::size_t from, std::size_t count);
-// How alike (0 to 1) the part of a recording from its first sound on and a sound are, at the best
-// of the delays near by.
+// Similarity, 0 to 1, of a sound and a recording of it. The recording is aligned by its first sound
+// and by a search for the best delay near it.
 double correlation(const std::vector<float>& recording, const std::vector<float>& sound);
-// The same for how loud they are from moment to moment, anywhere in the recording: a sound that was
-// stretched a little on its way stays the same to the ear.
+// The same for the course of the loudness, anywhere in the recording. A sound that clock drift made
+// a little longer still has the same loudness.
 double loudnessCorrelation(const std::vector<float>& recording, const std::vector<float>& sound);
-// Where the first sample louder than the threshold is; the size where none is.
+// Index of the first sample that is louder than the threshold; the size if there is none.
 std::size_t firstAbove(const std::vector<float>& samples, float threshold, std::size_t from = 0);
 
 } // namespace TestSupport

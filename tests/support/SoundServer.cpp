@@ -155,7 +155,7 @@ QByteArray SoundServer::control(const QStringList& arguments)
 QByteArray SoundServer::plugSpeaker(const QString& name, const QString& description, int channels,
                                     int rate)
 {
-    // Without norewinds such a device works in blocks of two seconds.
+    // Without norewinds this module works in blocks of two seconds.
     return control(
         {QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
          QStringLiteral("norewinds=1"), QStringLiteral("sink_name=%1").arg(name),
@@ -239,7 +239,7 @@ bool SoundServer::waitForAnswer()
                            StartTimeoutMs);
 }
 
-// PipeWire takes the wish at once, and its session manager fulfils it later.
+// PipeWire accepts the command at once, and its session manager executes it later.
 bool SoundServer::makeDefault(const QString& kind, const QByteArray& device)
 {
     control({QStringLiteral("set-default-") + kind, QString::fromLatin1(device)});

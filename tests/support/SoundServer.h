@@ -13,42 +13,42 @@
 
 namespace TestSupport {
 
-// A real sound server of one's own, in a folder of its own, with two playback devices ("speaker_a",
-// the default, and "speaker_b") and a microphone ("microphone_a") that hears what is played on
-// "voice". The environment of the process points to it while it exists.
+// A real sound server for one test, in its own folder. It has the speakers "speaker_a" (the
+// default) and "speaker_b", and the microphone "microphone_a", which records what is played on
+// "voice". While it exists, the environment of the process points to it.
 class SoundServer
 {
 public:
     enum class Kind { PulseAudio, PipeWire };
 
-    // For initTestCase_data(): every test runs with both kinds; startForTest() starts the one that
-    // it is the turn of, and gives null where it doesn't.
+    // For initTestCase_data(): each test runs with both kinds of server.
     static void addTestRows();
+    // Starts the kind of the current row; null if it doesn't start.
     static std::unique_ptr<SoundServer> startForTest();
 
     explicit SoundServer(Kind kind);
     ~SoundServer();
 
     Kind kind() const { return m_kind; }
-    bool start(); // waits until it answers; false with a warning where it doesn't
-    void kill();  // at once, as in a crash; start() brings it back
+    bool start(); // waits until it answers; false with a warning if it doesn't
+    void kill();  // like a crash; start() starts it again
     void freeze();
     void thaw();
 
-    // The command-line client of the server, with the event loop running meanwhile.
+    // Runs the command-line client of the server. The event loop goes on meanwhile.
     QByteArray control(const QStringList& arguments);
-    // Plugs in a device and gives what unplug() takes; an empty one where it failed.
+    // Plugs in a device. Returns the argument for unplug(), empty on failure.
     QByteArray plugSpeaker(const QString& name, const QString& description, int channels = 2,
                            int rate = 48000);
     QByteArray plugMicrophone(const QString& name, const QString& description,
                               const QString& hears = QStringLiteral("voice"));
     void unplug(const QByteArray& module);
-    // Ends the connection that a stream of that name came over; false where there is none.
+    // Ends the connection of the stream with this name; false if there is none.
     bool cutConnection(const QByteArray& streamName);
-    // Volumes and mutes, a line for each device that begins with its name, and the defaults.
+    // Volume and mute of each device, in one line that begins with its name; then the defaults.
     QStringList state();
 
-    // Their modules.
+    // For unplug().
     QByteArray speakerA() const { return m_speakerA; }
     QByteArray speakerB() const { return m_speakerB; }
     QByteArray microphoneA() const { return m_microphoneA; }

@@ -3,21 +3,18 @@
 #pragma once
 
 #include "platform/devices/pulse/PulseHandles.h"
-#include "platform/devices/sound/DriftControl.h"
-#include "platform/devices/sound/DriftResampler.h"
-#include "platform/devices/sound/FeedbackLimiter.h"
+#include "platform/devices/sound/ListenBackFilter.h"
 
 #include <QByteArray>
 #include <QString>
-#include <vector>
 
 namespace Platform {
 
-// Plays what the microphone hears on one speaker with as little delay as the server allows. Sound
-// thread only. Where the speaker fails it falls silent.
+// Plays the sound of the microphone on one speaker, with as little delay as the server allows.
+// Sound thread only. If the speaker fails, it stays silent.
 //
-// It has a connection of its own: PipeWire holds back what a client records for as long as anything
-// else waits to be sent to that client, and a playing stream is sent a request in every round.
+// It has its own connection, because PipeWire delays the recording of a client while other messages
+// to the same client wait, and a playback stream gets a message in every cycle.
 class ListenBack
 {
 public:
@@ -29,22 +26,12 @@ public:
 private:
     void contextStateChanged();
     void connectStream();
-    void takeExcess();
-    bool isSkipped(float sample);
-    double storeMs() const;
-    void noteUnderflow();
+    double fillMs() const;
 
     QByteArray m_speakerId;
     unsigned m_rate;
-    double m_samplesPerMs;
-    FeedbackLimiter m_guard;
-    DriftResampler m_resampler;
-    DriftControl m_drift;
-    std::size_t m_toSkip = 0;   // samples
-    std::size_t m_patience = 0; // samples for which only silence is skipped
-    std::size_t m_quiet = 0;    // samples of silence up to here
+    ListenBackFilter m_filter;
     bool m_hasStarted = false;
-    std::vector<float> m_output;
     PulseContextHandle m_context;
     PulseStreamHandle m_stream;
 };

@@ -2,10 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseCapture.h"
 
-#include "platform/devices/sound/MicrophoneAnalysis.h"
-
-#include <algorithm>
-#include <numeric>
 #include <pulse/rtclock.h>
 #include <pulse/timeval.h>
 #include <utility>
@@ -14,15 +10,13 @@ namespace Platform {
 
 namespace {
 
-// Two, whatever the device has: servers don't agree on what becomes of them in one.
-constexpr std::size_t Channels = 2;
+// Always two channels: servers mix a device down to one channel in different ways.
+constexpr std::size_t Channels = CaptureMeter::Channels;
 constexpr unsigned FragmentMs = 5;
 constexpr std::size_t SmallestPiece = Channels * PulseCapture::Rate * FragmentMs / 1000 / 2;
-// A level that rises is told at once, the others as often as an eye can follow.
-constexpr pa_usec_t LevelIntervalUs = 19 * PA_USEC_PER_MSEC;
-constexpr double NoticeableRise = 0.02;
-constexpr pa_usec_t WatchIntervalUs = 50 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t ListenRetryUs = 250 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t WatchIntervalUs =
+    std::chrono::microseconds(CaptureMeter::WatchInterval).count();
+constexpr std::chrono::milliseconds ListenRetry(250);
 constexpr char StreamName[] = "Microphone check";
 
 } // namespace
@@ -42,11 +36,10 @@ void PulseCapture::open(const QString& microphoneId, std::shared_ptr<MicrophoneA
         events.failed();
         return;
     }
-    m_events = std::move(events);
+    m_failed = std::move(events.failed);
     m_microphoneId = microphoneId;
-    m_analysis = std::move(analysis);
-    resetMeters();
-    m_lastSample = pa_rtclock_now();
+    m_meter.emplace(Rate, std::move(analysis), std::move(events.metered),
+                    CaptureMeter::Clock::now());
     const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, Rate, Channels};
     m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
     if (!m_stream) {
@@ -92,15 +85,11 @@ void PulseCapture::close()
 {
     m_listenBack.reset();
     m_stream.reset();
-    m_meters.clear();
-    m_analysis.reset();
+    m_meter.reset();
     m_frames.clear();
     if (m_watch) {
         m_connection.api()->time_free(std::exchange(m_watch, nullptr));
     }
-    m_isHeard = false;
-    m_delivers.reset();
-    m_lastLevel = 0.0;
 }
 
 void PulseCapture::connectionLost()
@@ -112,7 +101,7 @@ void PulseCapture::streamStateChanged()
 {
     switch (pa_stream_get_state(m_stream.get())) {
     case PA_STREAM_READY:
-        // One kind of server takes another device where the named one has just gone.
+        // PipeWire takes another device if the named one has just gone.
         if (QString::fromUtf8(pa_stream_get_device_name(m_stream.get())) != m_microphoneId) {
             fail();
         }
@@ -127,8 +116,8 @@ void PulseCapture::streamStateChanged()
     }
 }
 
-// A server may cut the sound very small, and where the microphone hears the speaker, each piece
-// that is played would cut it smaller still. So it is handed on in pieces worth the trouble.
+// A server may deliver very small pieces. If the microphone hears the speaker, each piece that is
+// played would make the next ones smaller still. So small pieces are collected first.
 void PulseCapture::readStream()
 {
     while (pa_stream_readable_size(m_stream.get()) > 0) {
@@ -146,7 +135,7 @@ void PulseCapture::readStream()
             const auto* samples = static_cast<const float*>(data);
             m_frames.insert(m_frames.end(), samples, samples + count);
         } else {
-            // A hole in the sound: time has passed, and nothing was heard.
+            // A hole in the recording counts as silence of the same length.
             m_frames.resize(m_frames.size() + count, 0.0F);
         }
         pa_stream_drop(m_stream.get());
@@ -157,98 +146,41 @@ void PulseCapture::readStream()
     }
 }
 
-void PulseCapture::take(const float* frames, std::size_t count)
+void PulseCapture::take(const float* samples, std::size_t frames)
 {
-    m_lastSample = pa_rtclock_now();
-    setDelivering(true);
-    m_mono.resize(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        m_mono[i] = std::accumulate(frames + i * Channels, frames + (i + 1) * Channels, 0.0F) /
-                    static_cast<float>(Channels);
-    }
-    listenBack(m_mono.data(), count); // first, as its delay is heard
-    measure(frames, count);
+    const CaptureMeter::Clock::time_point now = CaptureMeter::Clock::now();
+    CaptureMeter::mixToMono(samples, frames, m_mono);
+    listenBack(now); // first, because its delay is heard
+    m_meter->add(samples, m_mono, now);
 }
 
-void PulseCapture::measure(const float* frames, std::size_t count)
+void PulseCapture::listenBack(CaptureMeter::Clock::time_point now)
 {
-    for (std::size_t i = 0; i < count; ++i) {
-        std::optional<double> level;
-        bool isSound = false;
-        for (std::size_t channel = 0; channel < Channels; ++channel) {
-            level = std::max(level, m_meters[channel].add(frames[i * Channels + channel]));
-            isSound = isSound || m_meters[channel].isSound();
-        }
-        if (level) {
-            publish(*level);
-        }
-        m_analysis->add(m_mono[i], isSound);
-    }
-    const bool isHeard = std::any_of(m_meters.begin(), m_meters.end(),
-                                     [](const LevelMeter& meter) { return meter.hasHeardSound(); });
-    if (isHeard && !std::exchange(m_isHeard, true)) {
-        m_events.soundHeard();
-    }
-}
-
-void PulseCapture::resetMeters()
-{
-    m_meters.assign(Channels, LevelMeter(Rate));
-}
-
-void PulseCapture::listenBack(const float* samples, std::size_t count)
-{
-    const bool isBroken = m_listenBack && m_listenBack->hasFailed() &&
-                          m_lastSample - m_listenBackStart > ListenRetryUs;
+    const bool isBroken =
+        m_listenBack && m_listenBack->hasFailed() && now - m_listenBackStart > ListenRetry;
     if (isBroken) {
         m_listenBack.reset();
     }
     if (!m_listenBack && !m_speakerId.isEmpty()) {
         m_listenBack = std::make_unique<ListenBack>(m_connection.api(), m_speakerId, Rate);
-        m_listenBackStart = m_lastSample;
+        m_listenBackStart = now;
     }
     if (m_listenBack) {
-        m_listenBack->play(samples, count);
+        m_listenBack->play(m_mono.data(), m_mono.size());
     }
 }
 
-void PulseCapture::publish(double level)
-{
-    const pa_usec_t now = pa_rtclock_now();
-    if (level > m_lastLevel + NoticeableRise || now - m_lastLevelTime >= LevelIntervalUs) {
-        m_lastLevel = level;
-        m_lastLevelTime = now;
-        m_events.levelMeasured(level);
-    }
-}
-
-// A device that goes away in silence, or a frozen server, is noticed by what doesn't come.
 void PulseCapture::watch()
 {
-    if (pa_rtclock_now() - m_lastSample > StallMs * PA_USEC_PER_MSEC) {
-        setDelivering(false);
-    }
+    m_meter->watch(CaptureMeter::Clock::now());
     pa_context_rttime_restart(m_connection.context(), m_watch, pa_rtclock_now() + WatchIntervalUs);
-}
-
-void PulseCapture::setDelivering(bool delivers)
-{
-    if (m_delivers != delivers) {
-        m_delivers = delivers;
-        m_events.deliveryChanged(delivers);
-        if (!delivers) {
-            m_lastLevel = 0.0;
-            resetMeters();
-            m_events.levelMeasured(0.0);
-        }
-    }
 }
 
 void PulseCapture::fail()
 {
-    if (!m_meters.empty()) {
+    if (m_meter) {
         close();
-        m_events.failed();
+        m_failed();
     }
 }
 

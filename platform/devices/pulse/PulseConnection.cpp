@@ -17,9 +17,9 @@ namespace {
 
 constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
-// Between two rounds of questions: a storm of changes mustn't keep everybody busy.
+// Pause between two queries of the device list, so that many changes at once don't keep us busy.
 constexpr unsigned PauseMs = 20;
-// What the server shows where it has no playback device at all.
+// Servers show this sink if they have no real one.
 constexpr char DummySink[] = "auto_null";
 
 PulseKind kindOf(const pa_sink_info&)
@@ -59,7 +59,7 @@ bool isAdjustable(const pa_source_info& source)
 PulseConnection::PulseConnection(Publish publish)
     : m_publish(std::move(publish)), m_backOffMs(FirstBackOffMs)
 {
-    // The context is made on the sound thread too: it may ask the display for the server.
+    // On the sound thread, because creating a context may ask the X display for the server.
     run([this] { connect(); });
     m_loop.start();
 }
@@ -133,7 +133,8 @@ void PulseConnection::contextStateChanged()
     }
 }
 
-// A context that failed is of no use any more, but it can't be freed inside its own callback.
+// A failed context can't be used again, and it can't be freed inside its own callback. So the timer
+// replaces it.
 void PulseConnection::disconnected()
 {
     if (m_retry) {
@@ -173,7 +174,7 @@ void PulseConnection::dropClients()
     }
 }
 
-// However many events come, one round of questions is under way at a time.
+// However many events come, only one query of the device list runs at a time.
 void PulseConnection::refresh()
 {
     m_isStale = true;
@@ -301,7 +302,7 @@ void PulseConnection::sendVolume(PulseKind kind)
     const QByteArray name = device->id.toUtf8();
     const auto unmute = kind == PulseKind::Speaker ? &pa_context_set_sink_mute_by_name
                                                    : &pa_context_set_source_mute_by_name;
-    // Also where no mute is known of: it may have come since.
+    // Always unmute; our last state may be stale.
     release(unmute(context(), name.constData(), 0, nullptr, nullptr));
     if (kind == PulseKind::Speaker) {
         release(pa_context_set_sink_volume_by_name(context(), name.constData(), &volume,

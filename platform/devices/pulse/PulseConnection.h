@@ -15,31 +15,32 @@ struct pa_time_event;
 
 namespace Platform {
 
-// The connection to the sound server: it keeps the list of devices up to date, sets volumes, and
-// comes back when the server does. Made and destroyed on the GUI thread; all else but run() belongs
-// to the sound thread.
+// The connection to the sound server. It keeps the list of devices up to date, sets volumes, and
+// reconnects when the server comes back. The GUI thread creates and destroys it; run() is for any
+// thread, all else for the sound thread.
 class PulseConnection
 {
 public:
-    // Something with streams on the connection.
+    // Owner of streams on this connection.
     class Client
     {
     public:
         virtual ~Client() = default;
-        virtual void connectionLost() = 0; // the streams are dead; also at the very end
+        virtual void connectionLost() = 0; // the streams are dead; also called by the destructor
     };
     using Publish = std::function<void(const PulseDevices&)>;
 
     explicit PulseConnection(Publish publish);
     ~PulseConnection(); // ends the thread and every stream
 
-    void run(PulseLoop::Job job) { m_loop.post(std::move(job)); } // any thread
+    void run(PulseLoop::Job job) { m_loop.post(std::move(job)); } // from any thread
 
     pa_context* context() const; // null while there is no connection
     pa_mainloop_api* api() const { return m_loop.api(); }
     void add(std::shared_ptr<Client> client);
     void remove(const std::shared_ptr<Client>& client);
-    // Sets the volume and ends a mute. Of several orders on the way only the last one counts.
+    // Sets the volume and unmutes. Orders that come while one is being carried out replace each
+    // other; only the last one is sent.
     void setVolume(PulseKind kind, const QString& id, int percent, quint64 order);
 
 private:
@@ -82,10 +83,10 @@ private:
     unsigned m_backOffMs;
     std::vector<std::shared_ptr<Client>> m_clients;
 
-    PulseDevices m_devices; // as published last
+    PulseDevices m_devices; // the last published ones
     PulseDevices m_arriving;
     int m_awaitedReplies = 0;
-    bool m_isStale = false; // something changed since the round under way began
+    bool m_isStale = false; // something changed since the current round began
     VolumeOrders m_speakerOrders;
     VolumeOrders m_microphoneOrders;
 };

@@ -6,9 +6,9 @@
 
 namespace Platform {
 
-double PulseDevice::volumePercent() const
+VolumeState PulseDevice::volumeState() const
 {
-    return 100.0 * pa_cvolume_max(&volume) / PA_VOLUME_NORM;
+    return {100.0 * pa_cvolume_max(&volume) / PA_VOLUME_NORM, isMuted};
 }
 
 const PulseDevice* PulseSide::find(const QString& id) const

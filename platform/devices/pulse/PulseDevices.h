@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/DeviceInfo.h"
+#include "platform/devices/sound/DeviceVolume.h"
 
 #include <QString>
 #include <pulse/volume.h>
@@ -14,34 +15,33 @@ enum class PulseKind { Speaker, Microphone };
 
 struct PulseDevice
 {
-    QString id; // the server's name of it, which outlives a replugging
+    QString id; // the server's name for it; the same after replugging
     QString name;
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
 
-    double volumePercent() const;
+    VolumeState volumeState() const;
 };
 
-// The devices of one kind, without those that are none: the server's dummy output, and the monitors
-// of playback devices.
+// The devices of one kind. The server's dummy output and the monitors of speakers don't count.
 struct PulseSide
 {
     std::vector<PulseDevice> devices;
     QString defaultId;
-    // Orders to set a volume, up to this one, have been carried out in what is reported here.
+    // The volumes here contain all orders to set a volume up to this number.
     quint64 settledOrder = 0;
 
     const PulseDevice* find(const QString& id) const;
-    // What is used where the user chose nothing: the default, otherwise the first.
+    // For users who chose nothing: the default device, or the first if there is no default.
     QString preferredId() const;
-    QString defaultName() const; // null where there is none
+    QString defaultName() const; // null without a default
     DeviceList list() const;
 };
 
-QString nameIn(const DeviceList& list, const QString& id); // empty where it isn't in it
+QString nameIn(const DeviceList& list, const QString& id); // empty if it isn't listed
 
-// What the sound server has, at one moment.
+// The devices of the sound server at one moment.
 struct PulseDevices
 {
     bool isConnected = false;

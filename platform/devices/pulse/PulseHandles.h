@@ -10,10 +10,10 @@
 
 namespace Platform {
 
-// What the server shows as the owner of streams and connections.
+// The name of this program in the server's mixers.
 constexpr char PulseClientName[] = "EnvCheck";
 
-// Ends a stream or a connection for good: none of its callbacks runs any more. Sound thread only.
+// They end a stream or a connection, and none of its callbacks runs afterwards. Sound thread only.
 struct PulseStreamCloser
 {
     void operator()(pa_stream* stream) const
@@ -41,7 +41,7 @@ struct PulseContextCloser
 using PulseStreamHandle = std::unique_ptr<pa_stream, PulseStreamCloser>;
 using PulseContextHandle = std::unique_ptr<pa_context, PulseContextCloser>;
 
-// Lets an operation run to its end by itself; false where it couldn't be begun.
+// Nobody waits for the operation; it goes on by itself. False if it couldn't be started.
 inline bool release(pa_operation* operation)
 {
     if (operation) {

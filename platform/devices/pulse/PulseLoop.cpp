@@ -13,8 +13,8 @@ namespace Platform {
 
 namespace {
 
-// Listening to oneself tears where the thread doesn't run in time. Where the system doesn't allow
-// it this, it does its best without. Children of the thread don't inherit it.
+// If this thread runs late, listening to oneself tears. Most systems refuse this priority to users;
+// then the thread does without. Its child processes don't inherit it.
 void askForPriority()
 {
     sched_param parameters = {};
@@ -60,11 +60,11 @@ void PulseLoop::stop()
 void PulseLoop::post(Job job)
 {
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_jobs.push_back(std::move(job));
     }
     const std::uint64_t one = 1;
-    // It can't fail but for a full counter, and then the thread is being woken up already.
+    // This fails only if the counter is full, and then the thread is already being woken up.
     [[maybe_unused]] const ssize_t written = ::write(m_wakeUp, &one, sizeof one);
 }
 
@@ -79,7 +79,7 @@ void PulseLoop::runJobs()
     [[maybe_unused]] const ssize_t taken = ::read(m_wakeUp, &count, sizeof count);
     std::vector<Job> jobs;
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         jobs.swap(m_jobs);
     }
     for (const Job& job : jobs) {

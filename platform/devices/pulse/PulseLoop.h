@@ -12,8 +12,8 @@ struct pa_threaded_mainloop;
 
 namespace Platform {
 
-// The thread that talks to the sound server. Others hand it jobs and never take its lock, so that
-// none of them waits for what it is doing.
+// The thread that talks to the sound server. Other threads post jobs and never take the lock of its
+// main loop, so they never wait for it.
 class PulseLoop
 {
 public:
@@ -25,10 +25,10 @@ public:
     PulseLoop& operator=(const PulseLoop&) = delete;
 
     void start();
-    // Returns when the thread is gone. Nothing that runs there waits for a server, so a frozen one
-    // doesn't hold this up. Afterwards the caller may touch what lived there.
+    // Waits for the end of the thread. This is short even if the server is frozen, because no job
+    // waits for the server. Afterwards the caller may use the objects of the thread.
     void stop();
-    void post(Job job); // any thread; the jobs run in order
+    void post(Job job); // from any thread; jobs run in order
     pa_mainloop_api* api() const;
 
 private:

@@ -4,7 +4,7 @@
 
 #include "platform/backend/ReportSink.h"
 #include "platform/devices/pulse/PulseCapture.h"
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/MicrophoneAnalysis.h"
 
 #include <utility>
@@ -17,27 +17,27 @@ constexpr int MaxVolume = 150;
 
 } // namespace
 
-PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener,
+PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener,
                                  ReportSink& report)
-    : m_session(std::move(session)),
+    : m_server(std::move(server)),
       m_listener(listener),
       m_report(report),
       m_volume(MaxVolume),
-      m_capture(std::make_shared<PulseCapture>(m_session->connection()))
+      m_capture(std::make_shared<PulseCapture>(m_server->connection()))
 {
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     connection.run([&connection, capture = m_capture] { connection.add(capture); });
     m_retry.setSingleShot(true);
     m_retry.setInterval(RetryMs);
     QObject::connect(&m_retry, &QTimer::timeout, &m_context, [this] { updateCapture(); });
-    QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
     update();
 }
 
 PulseMicrophone::~PulseMicrophone()
 {
     close();
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     connection.run([&connection, capture = m_capture] {
         capture->close();
         connection.remove(capture);
@@ -86,7 +86,7 @@ void PulseMicrophone::open()
 void PulseMicrophone::close()
 {
     if (m_isOpen && !m_isCapturing) {
-        recordMeasurement(); // why nothing was measured
+        recordMeasurement(); // says why nothing was measured
     }
     m_isOpen = false;
     updateCapture();
@@ -102,20 +102,20 @@ void PulseMicrophone::setListening(bool on)
 void PulseMicrophone::setVolume(int percent)
 {
     if (device()) {
-        m_volume.await(m_session->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
+        m_volume.await(m_server->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
         m_mailbox.sender().post([this] { m_listener.microphoneVolumeChanged(volume()); });
     }
 }
 
 const PulseDevice* PulseMicrophone::device() const
 {
-    return m_session->devices().microphones.find(m_id);
+    return m_server->devices().microphones.find(m_id);
 }
 
-// As for the speakers, the letters tell what is already so.
+// As for speakers, the state changes before the listener is called.
 void PulseMicrophone::update()
 {
-    const PulseSide& microphones = m_session->devices().microphones;
+    const PulseSide& microphones = m_server->devices().microphones;
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
     m_default.take(microphones.defaultName());
@@ -132,7 +132,7 @@ void PulseMicrophone::update()
     if (isListChanged) {
         sender.post([this] { m_listener.microphoneListChanged(); });
     }
-    // A new list says nothing of the choice, which has to be shown in it again.
+    // Whoever refills a list of devices has to select the current device in it again.
     if (isOther || isListChanged) {
         sender.post([this] { m_listener.currentMicrophoneChanged(m_id); });
     }
@@ -147,7 +147,7 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
     const bool isArrival = isOther || (current && !m_isPresent);
     m_isPresent = current != nullptr;
     if (isArrival) {
-        m_volume.reset(current);
+        m_volume.reset(current ? current->volumeState() : VolumeState());
     }
     const PulseDevice info = current ? *current : PulseDevice();
     const bool isInfoChanged =
@@ -161,14 +161,14 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
         }
     }
     if (current && !isArrival &&
-        m_volume.take(*current, m_session->devices().microphones.settledOrder)) {
-        const auto percent = static_cast<float>(current->volumePercent());
+        m_volume.take(current->volumeState(), m_server->devices().microphones.settledOrder)) {
+        const auto percent = static_cast<float>(current->volumeState().percent);
         m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
     }
 }
 
-// Brings the stream in line with what is wanted and what is there. A stream on a device that goes
-// away is moved by some servers without a word, so that it is the list that counts.
+// Opens or closes the stream as needed. Whether the device is there is read from the device list:
+// some servers move the stream of a lost device to another one and don't report it.
 void PulseMicrophone::updateCapture()
 {
     const bool isWanted = m_isOpen && device();
@@ -197,16 +197,16 @@ void PulseMicrophone::startCapture()
         });
     };
     PulseCapture::Events events;
-    events.levelMeasured = [this, post](double level) {
+    events.metered.levelMeasured = [this, post](double level) {
         post([this, level] { m_listener.levelMeasured(level); });
     };
-    events.soundHeard = [this, post] {
+    events.metered.soundHeard = [this, post] {
         post([this] {
             m_hasHeardSound = true;
             updateWorkState();
         });
     };
-    events.deliveryChanged = [this, post](bool delivers) {
+    events.metered.deliveryChanged = [this, post](bool delivers) {
         post([this, delivers] {
             m_hasStalled = !delivers;
             m_hasFailed = m_hasFailed && !delivers;
@@ -221,14 +221,14 @@ void PulseMicrophone::startCapture()
             updateWorkState();
         });
     };
-    m_session->connection().run(
+    m_server->connection().run(
         [capture = m_capture, id = m_id, analysis = m_analysis, events = std::move(events)] {
             capture->open(id, analysis, events);
         });
     updateListening();
 }
 
-// Silence at once: what is still on its way is of an opening that is over.
+// The level drops at once. Messages that are still on their way belong to an ended opening.
 void PulseMicrophone::endCapture()
 {
     if (!m_isCapturing) {
@@ -238,7 +238,7 @@ void PulseMicrophone::endCapture()
     m_isCapturing = false;
     ++m_opening;
     m_analysis.reset();
-    m_session->connection().run([capture = m_capture] { capture->close(); });
+    m_server->connection().run([capture = m_capture] { capture->close(); });
     m_mailbox.sender().post([this] {
         if (!m_isCapturing) {
             m_listener.levelMeasured(0.0);
@@ -248,9 +248,9 @@ void PulseMicrophone::endCapture()
 
 void PulseMicrophone::updateListening()
 {
-    const QString speakerId = m_isListening && m_isCapturing ? m_session->speakerId() : QString();
+    const QString speakerId = m_isListening && m_isCapturing ? m_server->speakerId() : QString();
     if (std::exchange(m_listeningOn, speakerId) != speakerId) {
-        m_session->connection().run(
+        m_server->connection().run(
             [capture = m_capture, speakerId] { capture->listenOn(speakerId); });
     }
 }

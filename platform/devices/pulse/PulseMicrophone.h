@@ -5,8 +5,8 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/MicrophoneBackend.h"
-#include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
+#include "platform/devices/sound/DeviceVolume.h"
 
 #include <QObject>
 #include <QTimer>
@@ -17,17 +17,17 @@ namespace Platform {
 
 class MicrophoneAnalysis;
 class PulseCapture;
-class PulseSession;
+class PulseServer;
 class ReportSink;
 
-// The microphones of the sound server, and listening to oneself on the session's speaker. When it
-// is closed it reports what it measured of the device.
+// The microphones of the sound server, and listening to oneself on the current speaker. Closing it
+// reports what was measured.
 class PulseMicrophone final : public MicrophoneBackend
 {
 public:
-    static constexpr int RetryMs = 1000; // a stream that broke on a device that is there
+    static constexpr int RetryMs = 1000; // if a stream broke although its device is there
 
-    PulseMicrophone(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
+    PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
     ~PulseMicrophone() override;
 
     DeviceList devices() const override { return m_list; }
@@ -56,13 +56,13 @@ private:
     void endCapture();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     DeviceList m_list;
-    std::optional<QString> m_chosenId; // an empty one chose none
+    std::optional<QString> m_chosenId; // an empty id: the user chose none
     QString m_id;
-    QString m_name; // of the current device when it was last there
+    QString m_name; // of the current device; kept while it is absent
     bool m_isPresent = false;
     bool m_isMuted = false;
     bool m_isAdjustable = false;
@@ -74,15 +74,15 @@ private:
     std::shared_ptr<PulseCapture> m_capture;
     std::shared_ptr<MicrophoneAnalysis> m_analysis;
     bool m_isCapturing = false;
-    int m_opening = 0; // letters of an earlier one are old
+    int m_opening = 0; // drops the messages of earlier openings
     bool m_hasStalled = false;
     bool m_hasFailed = false;
     bool m_hasHeardSound = false;
-    bool m_wasUsable = false; // as told last
-    bool m_hadHeardSound = false;
+    bool m_wasUsable = false;     // when the listener was called last
+    bool m_hadHeardSound = false; // likewise
     QString m_listeningOn;
     QTimer m_retry;
-    QObject m_context; // of the connections
+    QObject m_context; // ends the signal connections
     Mailbox m_mailbox;
 };
 

@@ -13,8 +13,8 @@ namespace Platform {
 
 namespace {
 
-// The server holds this much, so that a busy machine doesn't tear the sound, yet starts with the
-// first piece and asks the device for no more delay than that.
+// BufferMs is long, so that the sound doesn't tear on a busy machine. RequestMs is short: playback
+// starts with the first piece, and the device adds no more delay.
 constexpr unsigned BufferMs = 400;
 constexpr unsigned RequestMs = 10;
 constexpr char StreamName[] = "Test sound";
@@ -105,7 +105,7 @@ void PulsePlayback::openStream()
     const pa_buffer_attr buffer = {static_cast<std::uint32_t>(-1), bytes(BufferMs),
                                    bytes(RequestMs), bytes(RequestMs),
                                    static_cast<std::uint32_t>(-1)};
-    // It must not come out of another device when this one goes.
+    // If the device goes away, the sound must not continue on another one.
     const auto flags =
         static_cast<pa_stream_flags_t>(PA_STREAM_DONT_MOVE | PA_STREAM_EARLY_REQUESTS |
                                        PA_STREAM_INTERPOLATE_TIMING | PA_STREAM_AUTO_TIMING_UPDATE);
@@ -119,7 +119,7 @@ void PulsePlayback::streamStateChanged()
 {
     switch (pa_stream_get_state(m_stream.get())) {
     case PA_STREAM_READY:
-        // One kind of server takes another device where the named one has just gone.
+        // PipeWire takes another device if the named one has just gone.
         if (QString::fromUtf8(pa_stream_get_device_name(m_stream.get())) != m_speakerId) {
             finish(false);
         }
@@ -140,7 +140,7 @@ void PulsePlayback::feed()
         return;
     }
     const std::size_t frameSize = pa_frame_size(pa_stream_get_sample_spec(m_stream.get()));
-    const bool hasEnded = m_sound->hasEnded(); // asked before what there is
+    const bool hasEnded = m_sound->hasEnded(); // asked before reading: the end may come meanwhile
     std::size_t wanted = pa_stream_writable_size(m_stream.get());
     while (wanted != static_cast<std::size_t>(-1) && wanted >= frameSize) {
         void* memory = nullptr;

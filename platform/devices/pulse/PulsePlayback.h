@@ -10,20 +10,20 @@ namespace Platform {
 
 class SoundBuffer;
 
-// Plays a sound buffer on one playback device, and on no other. Sound thread only, but for its
-// making.
+// Plays a sound buffer on one speaker, and on no other. Sound thread only, except for the
+// constructor.
 class PulsePlayback final : public PulseConnection::Client
 {
 public:
-    // finished is called once, unless it is stopped before: true at the end of the sound, false
-    // where the device or the server failed.
+    // finished is called once, but not after stop(): with true at the end of the sound, with false
+    // if the device or the server failed.
     using Finished = std::function<void(bool)>;
 
     PulsePlayback(PulseConnection& connection, std::shared_ptr<SoundBuffer> sound,
                   Finished finished);
     ~PulsePlayback() override;
 
-    void playOn(const QString& speakerId); // goes on there, if it plays elsewhere
+    void playOn(const QString& speakerId); // moves there if it is playing already
     void soundAdvanced();
     void stop();
     void connectionLost() override;
@@ -39,8 +39,8 @@ private:
     Finished m_finished;
     QString m_speakerId;
     PulseStreamHandle m_stream;
-    std::size_t m_start = 0;   // where in the sound the stream began
-    std::size_t m_written = 0; // up to where it has got
+    std::size_t m_start = 0;   // position in the sound at which the stream began
+    std::size_t m_written = 0; // position up to which it was written
     bool m_isDraining = false;
     bool m_isOver = false;
 };

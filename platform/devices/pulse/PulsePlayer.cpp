@@ -4,7 +4,7 @@
 
 #include "platform/backend/ReportSink.h"
 #include "platform/devices/pulse/PulsePlayback.h"
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/Mp3Decoder.h"
 #include "platform/devices/sound/SoundBuffer.h"
 
@@ -17,7 +17,7 @@ namespace Platform {
 
 namespace {
 
-// A reader that is told to stop does so within one piece, unless the disk hangs.
+// The reader stops after its current piece, unless the disk hangs.
 constexpr std::chrono::milliseconds ReaderPatience(20);
 
 const QLatin1String Check("speaker");
@@ -25,9 +25,9 @@ const QLatin1String SoundKey("soundPlayed");
 
 } // namespace
 
-PulsePlayer::PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
+PulsePlayer::PulsePlayer(std::shared_ptr<PulseServer> server, const QString& path, float volume,
                          Listener& listener, ReportSink& report)
-    : m_session(std::move(session)), m_listener(listener), m_report(report)
+    : m_server(std::move(server)), m_listener(listener), m_report(report)
 {
     m_report.recordMeasurement(Check, {{SoundKey, QFileInfo(path).completeBaseName()}});
     m_watchdog.setSingleShot(true);
@@ -36,7 +36,7 @@ PulsePlayer::PulsePlayer(std::shared_ptr<PulseSession> session, const QString& p
     m_watchdog.start(GraceMs);
 
     startReading(path, volume);
-    QObject::connect(m_session.get(), &PulseSession::changed, &m_context,
+    QObject::connect(m_server.get(), &PulseServer::changed, &m_context,
                      [this] { followSpeaker(); });
     followSpeaker();
 }
@@ -44,7 +44,7 @@ PulsePlayer::PulsePlayer(std::shared_ptr<PulseSession> session, const QString& p
 PulsePlayer::~PulsePlayer()
 {
     m_sound->cancel();
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     connection.run([&connection, playback = m_playback] {
         playback->stop();
         connection.remove(playback);
@@ -58,9 +58,9 @@ PulsePlayer::~PulsePlayer()
 
 void PulsePlayer::startReading(const QString& path, float volume)
 {
-    PulseConnection& connection = m_session->connection();
+    PulseConnection& connection = m_server->connection();
     const Mailbox::Sender sender = m_mailbox.sender();
-    // The playback comes after the sound that it plays, hence the box to find it by.
+    // The sound is created before its playback, so its callback finds the playback by this pointer.
     const auto playback = std::make_shared<std::weak_ptr<PulsePlayback>>();
     m_sound = std::make_shared<SoundBuffer>([this, &connection, sender, playback](bool hasEnded) {
         connection.run([playback] {
@@ -78,7 +78,7 @@ void PulsePlayer::startReading(const QString& path, float volume)
     *playback = m_playback;
     connection.run([&connection, added = m_playback] { connection.add(added); });
 
-    // The reader shares nothing but the sound: where a disk hangs, it is left behind.
+    // The reader shares nothing but the sound, so it can be abandoned if the disk hangs.
     std::packaged_task<void()> reading(
         [path, volume, sound = m_sound] { Mp3Decoder::decode(path, volume, *sound); });
     m_readerEnd = reading.get_future();
@@ -87,21 +87,21 @@ void PulsePlayer::startReading(const QString& path, float volume)
 
 void PulsePlayer::followSpeaker()
 {
-    if (!m_session->isKnown()) {
+    if (!m_server->isKnown()) {
         return;
     }
-    const QString id = m_session->speakerId();
+    const QString id = m_server->speakerId();
     if (id.isEmpty()) {
         m_mailbox.sender().post([this] { fail(toString(DeviceState::Absent)); });
     } else if (std::exchange(m_speakerId, id) != id) {
-        m_session->connection().run([playback = m_playback, id] { playback->playOn(id); });
+        m_server->connection().run([playback = m_playback, id] { playback->playOn(id); });
     }
 }
 
 void PulsePlayer::playbackEnded(bool isGood)
 {
     if (!m_speakerId.isEmpty() && m_sound->size() > 0) {
-        m_session->setSpeakerFailed(m_speakerId, !isGood);
+        m_server->setSpeakerFailed(m_speakerId, !isGood);
     }
     if (isGood && m_sound->size() > 0) {
         finish();

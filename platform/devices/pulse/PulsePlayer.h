@@ -15,19 +15,19 @@
 namespace Platform {
 
 class PulsePlayback;
-class PulseSession;
+class PulseServer;
 class ReportSink;
 class SoundBuffer;
 
-// Plays an MP3 file on the speaker of the session. The file is read and decoded on a thread of its
-// own; whatever becomes of it, of the device or of the server, the end comes in time.
+// Plays an MP3 file on the current speaker. A separate thread reads and decodes the file. Whatever
+// happens to the file, the device or the server, playbackFinished() comes in time.
 class PulsePlayer final : public PlayerBackend
 {
 public:
-    // How long the device and the server may take on top of the sound itself.
+    // How long device and server may take beyond the length of the sound.
     static constexpr int GraceMs = 2000;
 
-    PulsePlayer(std::shared_ptr<PulseSession> session, const QString& path, float volume,
+    PulsePlayer(std::shared_ptr<PulseServer> server, const QString& path, float volume,
                 Listener& listener, ReportSink& report);
     ~PulsePlayer() override;
 
@@ -38,7 +38,7 @@ private:
     void fail(const QString& reason); // in the report's words
     void finish();
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report; // what was played goes there
     std::shared_ptr<SoundBuffer> m_sound;
@@ -48,7 +48,7 @@ private:
     std::thread m_reader;
     std::future<void> m_readerEnd;
     QTimer m_watchdog;
-    QObject m_context; // of the connection to the session
+    QObject m_context; // ends the signal connection
     Mailbox m_mailbox;
 };
 

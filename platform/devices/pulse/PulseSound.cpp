@@ -4,7 +4,7 @@
 
 #include "platform/devices/pulse/PulseMicrophone.h"
 #include "platform/devices/pulse/PulsePlayer.h"
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/pulse/PulseSpeaker.h"
 
 namespace Platform {
@@ -18,34 +18,34 @@ PulseSound::~PulseSound() = default;
 std::unique_ptr<MicrophoneBackend>
 PulseSound::createMicrophone(MicrophoneBackend::Listener& listener)
 {
-    return std::make_unique<PulseMicrophone>(session(), listener, m_report);
+    return std::make_unique<PulseMicrophone>(server(), listener, m_report);
 }
 
 std::unique_ptr<SpeakerBackend> PulseSound::createSpeaker(SpeakerBackend::Listener& listener)
 {
-    return std::make_unique<PulseSpeaker>(session(), listener, m_report);
+    return std::make_unique<PulseSpeaker>(server(), listener, m_report);
 }
 
 std::unique_ptr<PlayerBackend> PulseSound::createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener)
 {
-    return std::make_unique<PulsePlayer>(session(), path, volume, listener, m_report);
+    return std::make_unique<PulsePlayer>(server(), path, volume, listener, m_report);
 }
 
 DeviceList PulseSound::speakers() const
 {
-    const std::shared_ptr<PulseSession> session = m_session.lock();
-    return session ? session->devices().speakers.list() : DeviceList();
+    const std::shared_ptr<PulseServer> server = m_server.lock();
+    return server ? server->devices().speakers.list() : DeviceList();
 }
 
-std::shared_ptr<PulseSession> PulseSound::session()
+std::shared_ptr<PulseServer> PulseSound::server()
 {
-    std::shared_ptr<PulseSession> session = m_session.lock();
-    if (!session) {
-        session = std::make_shared<PulseSession>();
-        m_session = session;
+    std::shared_ptr<PulseServer> server = m_server.lock();
+    if (!server) {
+        server = std::make_shared<PulseServer>();
+        m_server = server;
     }
-    return session;
+    return server;
 }
 
 std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& /*config*/,

@@ -6,11 +6,11 @@
 
 namespace Platform {
 
-class PulseSession;
+class PulseServer;
 class ReportSink;
 
-// The sound of a machine with PulseAudio or PipeWire. While nobody uses it, it has no connection,
-// no thread and no list.
+// The sound system of a machine with PulseAudio or PipeWire. Without users it has no connection, no
+// thread and no device list.
 class PulseSound final : public SoundSystem
 {
 public:
@@ -25,10 +25,10 @@ public:
     DeviceList speakers() const override;
 
 private:
-    std::shared_ptr<PulseSession> session();
+    std::shared_ptr<PulseServer> server();
 
     ReportSink& m_report;
-    std::weak_ptr<PulseSession> m_session;
+    std::weak_ptr<PulseServer> m_server;
 };
 
 } // namespace Platform

@@ -3,7 +3,7 @@
 #include "platform/devices/pulse/PulseSpeaker.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 
 #include <QJsonObject>
 #include <utility>
@@ -16,11 +16,11 @@ constexpr int MaxVolume = 100;
 
 } // namespace
 
-PulseSpeaker::PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener,
+PulseSpeaker::PulseSpeaker(std::shared_ptr<PulseServer> server, Listener& listener,
                            ReportSink& report)
-    : m_session(std::move(session)), m_listener(listener), m_report(report), m_volume(MaxVolume)
+    : m_server(std::move(server)), m_listener(listener), m_report(report), m_volume(MaxVolume)
 {
-    QObject::connect(m_session.get(), &PulseSession::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
     update();
 }
 
@@ -36,7 +36,7 @@ QString PulseSpeaker::currentName() const
 
 void PulseSpeaker::setCurrent(const QString& id)
 {
-    m_session->chooseSpeaker(id);
+    m_server->chooseSpeaker(id);
 }
 
 DeviceState PulseSpeaker::state() const
@@ -44,29 +44,29 @@ DeviceState PulseSpeaker::state() const
     if (!device()) {
         return DeviceState::Absent;
     }
-    return m_session->hasSpeakerFailed() ? DeviceState::Failed : DeviceState::Ready;
+    return m_server->hasSpeakerFailed() ? DeviceState::Failed : DeviceState::Ready;
 }
 
 void PulseSpeaker::setVolume(int percent)
 {
     if (device()) {
-        m_volume.await(m_session->setVolume(PulseKind::Speaker, m_id, m_volume.set(percent)));
+        m_volume.await(m_server->setVolume(PulseKind::Speaker, m_id, m_volume.set(percent)));
         recordMeasurement();
     }
 }
 
 const PulseDevice* PulseSpeaker::device() const
 {
-    return m_session->devices().speakers.find(m_id);
+    return m_server->devices().speakers.find(m_id);
 }
 
-// The letters tell what is already so: by the time they are read, all questions are answered anew.
+// The state changes before the listener is called: it may ask anything and gets the new values.
 void PulseSpeaker::update()
 {
-    const PulseSide& speakers = m_session->devices().speakers;
+    const PulseSide& speakers = m_server->devices().speakers;
     const DeviceList list = speakers.list();
     m_default.take(speakers.defaultName());
-    const QString id = m_session->speakerId();
+    const QString id = m_server->speakerId();
     const bool isOther = m_id != id;
     if (isOther) {
         if (!m_id.isEmpty()) {
@@ -83,11 +83,11 @@ void PulseSpeaker::update()
 
     const PulseDevice* current = device();
     if (isOther) {
-        m_volume.reset(current);
-    } else if (current && m_volume.take(*current, speakers.settledOrder)) {
+        m_volume.reset(current ? current->volumeState() : VolumeState());
+    } else if (current && m_volume.take(current->volumeState(), speakers.settledOrder)) {
         sender.post([this] { m_listener.speakerVolumeChanged(volume()); });
     }
-    // A new list says nothing of the choice, which has to be shown in it again.
+    // Whoever refills a list of devices has to select the current device in it again.
     if (isOther || isListChanged) {
         sender.post([this] { m_listener.currentSpeakerChanged(m_id); });
     }

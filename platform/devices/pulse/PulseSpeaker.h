@@ -5,23 +5,23 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/SpeakerBackend.h"
-#include "platform/devices/pulse/DeviceVolume.h"
 #include "platform/devices/pulse/PulseDevices.h"
+#include "platform/devices/sound/DeviceVolume.h"
 
 #include <QObject>
 #include <memory>
 
 namespace Platform {
 
-class PulseSession;
+class PulseServer;
 class ReportSink;
 
-// The playback devices of the sound server. Choosing one concerns this program alone: the server's
-// default stays what it was. At every change it reports the device, its volume and its mute.
+// The speakers of the sound server. A choice is valid in this program only; the default of the
+// server stays as it is. Every change reports the device, its volume and its mute.
 class PulseSpeaker final : public SpeakerBackend
 {
 public:
-    PulseSpeaker(std::shared_ptr<PulseSession> session, Listener& listener, ReportSink& report);
+    PulseSpeaker(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
     ~PulseSpeaker() override;
 
     QString currentId() const override { return m_id; }
@@ -36,7 +36,7 @@ private:
     void update();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseSession> m_session;
+    std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     DeviceList m_list;
@@ -44,7 +44,7 @@ private:
     bool m_works = false;
     DeviceVolume m_volume;
     DefaultDevice m_default;
-    QObject m_context; // of the connection to the session
+    QObject m_context; // ends the signal connection
     Mailbox m_mailbox;
 };
 

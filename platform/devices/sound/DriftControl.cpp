@@ -9,37 +9,37 @@ namespace Platform {
 
 namespace {
 
-// A millisecond too much is worked off in a second, and what it takes to keep it so is learnt from
-// window to window, as slowly as it comes to rest without swinging.
+// A proportional and integral controller. One millisecond too much is gone after one second; the
+// integral part is as strong as it can be without oscillation (critical damping).
 constexpr double DeviationPerMs = 0.001;
 constexpr double DriftPerMs = DeviationPerMs * DeviationPerMs / 4.0 * DriftControl::WindowMs;
-// Worse clocks there are not.
+// No real clock drifts further.
 constexpr double MaxDrift = 0.012;
 
 } // namespace
 
-void DriftControl::observe(double storeMs, double addedMs)
+void DriftControl::observe(double fillMs, double addedMs)
 {
-    m_lowestMs = m_observedMs == 0.0 ? storeMs : std::min(m_lowestMs, storeMs);
+    m_lowestMs = m_observedMs == 0.0 ? fillMs : std::min(m_lowestMs, fillMs);
     m_observedMs += addedMs;
     if (m_observedMs < WindowMs) {
         return;
     }
     m_observedMs = 0.0;
-    m_reserveMs = std::max(m_reserveMs - CalmMs, FirstReserveMs);
-    const double tooMuch = m_lowestMs - m_reserveMs;
-    if (tooMuch > ExcessMs) {
-        m_excessMs = tooMuch;
+    m_targetMs = std::max(m_targetMs - DecayMs, FirstTargetMs);
+    const double tooMuchMs = m_lowestMs - m_targetMs;
+    if (tooMuchMs > ExcessMs) {
+        m_excessMs = tooMuchMs;
         m_deviation = m_drift;
     } else {
-        m_drift = std::clamp(m_drift + tooMuch * DriftPerMs, -MaxDrift, MaxDrift);
-        m_deviation = m_drift + tooMuch * DeviationPerMs;
+        m_drift = std::clamp(m_drift + tooMuchMs * DriftPerMs, -MaxDrift, MaxDrift);
+        m_deviation = m_drift + tooMuchMs * DeviationPerMs;
     }
 }
 
-void DriftControl::ranDry()
+void DriftControl::noteUnderflow()
 {
-    m_reserveMs = std::min(m_reserveMs + RanDryMs, LastReserveMs);
+    m_targetMs = std::min(m_targetMs + UnderflowStepMs, MaxTargetMs);
     m_observedMs = 0.0;
 }
 

@@ -2,36 +2,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
-
 namespace Platform {
 
-// Says how a sound between two devices has to be stretched for the second one to keep a small,
-// steady store of it: enough never to run dry, no more. It watches how low the store gets in a
-// while, as only that counts. In milliseconds.
+// Compensates the clock drift between two devices. It says how much longer or shorter the sound has
+// to become so that the playback buffer keeps a small, steady fill level: low for little delay, and
+// high enough that it never underflows. Only the lowest level in a window counts, because only that
+// one can underflow. All times are in milliseconds.
 class DriftControl
 {
 public:
-    static constexpr double FirstReserveMs = 6.0; // left at the lowest point
-    static constexpr double LastReserveMs = 30.0;
-    static constexpr double RanDryMs = 3.0; // more reserve after each time that it ran dry
-    static constexpr double CalmMs = 0.1;   // less after each window in which it didn't
+    static constexpr double FirstTargetMs = 6.0; // wanted at the lowest point of a window
+    static constexpr double MaxTargetMs = 30.0;
+    static constexpr double UnderflowStepMs = 3.0; // the target rises with each underflow
+    static constexpr double DecayMs = 0.1; // the target falls with each window without underflow
     static constexpr double WindowMs = 200.0;
-    static constexpr double ExcessMs = 10.0; // more than that is cut off instead of squeezed
+    static constexpr double ExcessMs = 10.0; // more than this is dropped, not resampled away
 
-    // The store before so many milliseconds of new sound are added to it.
-    void observe(double storeMs, double addedMs);
-    void ranDry();
+    // fillMs: the fill level before addedMs of new sound are written.
+    void observe(double fillMs, double addedMs);
+    void noteUnderflow();
 
-    double reserveMs() const { return m_reserveMs; }
-    double deviation() const { return m_deviation; } // for the resampler
-    double takeExcessMs();                           // to be left out of the sound now; once
+    double targetMs() const { return m_targetMs; }
+    double deviation() const { return m_deviation; } // for DriftResampler
+    double takeExcessMs();                           // how much to drop now; zero until more comes
 
 private:
-    double m_reserveMs = FirstReserveMs;
+    double m_targetMs = FirstTargetMs;
     double m_lowestMs = 0.0;
-    double m_observedMs = 0.0; // of the window under way
-    double m_drift = 0.0;      // of the two clocks, as far as it is known
+    double m_observedMs = 0.0; // length of the current window so far
+    double m_drift = 0.0;      // estimated drift of the two clocks
     double m_deviation = 0.0;
     double m_excessMs = 0.0;
 };

@@ -3,40 +3,51 @@
 #include "platform/devices/sound/DriftResampler.h"
 
 #include <algorithm>
+#include <samplerate.h>
 
 namespace Platform {
 
 namespace {
 
-// A cubic through the two middle samples with the slopes of their neighbours.
-double between(const std::array<float, 4>& samples, double phase)
-{
-    const double a = static_cast<double>(samples[0]);
-    const double b = static_cast<double>(samples[1]);
-    const double c = static_cast<double>(samples[2]);
-    const double d = static_cast<double>(samples[3]);
-    const double slopeB = (c - a) / 2.0;
-    const double slopeC = (d - b) / 2.0;
-    const double third = 2.0 * (b - c) + slopeB + slopeC;
-    const double second = 3.0 * (c - b) - 2.0 * slopeB - slopeC;
-    return ((third * phase + second) * phase + slopeB) * phase + b;
-}
+// The shortest of the library's good filters: listening to oneself bears no delay.
+constexpr int Quality = SRC_SINC_FASTEST;
+// Room for samples that the filter held back in the call before.
+constexpr std::size_t HeldBack = 2 * DriftResampler::DelaySamples;
 
 } // namespace
+
+void DriftResampler::Deleter::operator()(SRC_STATE_tag* state) const
+{
+    src_delete(state);
+}
+
+DriftResampler::DriftResampler() : m_state(src_new(Quality, 1, nullptr))
+{
+    std::vector<float> nothing;
+    process(std::vector<float>(DelaySamples), nothing);
+}
+
+DriftResampler::~DriftResampler() = default;
 
 void DriftResampler::setDeviation(double deviation)
 {
     m_deviation = std::clamp(deviation, -MaxDeviation, MaxDeviation);
+    src_set_ratio(m_state.get(), 1.0 / (1.0 + m_deviation));
 }
 
-void DriftResampler::process(float sample, std::vector<float>& result)
+void DriftResampler::process(const std::vector<float>& samples, std::vector<float>& result)
 {
-    std::rotate(m_recent.begin(), m_recent.begin() + 1, m_recent.end());
-    m_recent.back() = sample;
-    for (; m_phase < 1.0; m_phase += 1.0 + m_deviation) {
-        result.push_back(static_cast<float>(between(m_recent, m_phase)));
-    }
-    m_phase -= 1.0;
+    const std::size_t before = result.size();
+    const auto longest = static_cast<double>(samples.size()) / (1.0 - MaxDeviation);
+    result.resize(before + static_cast<std::size_t>(longest) + HeldBack);
+    SRC_DATA data = {};
+    data.data_in = samples.data();
+    data.data_out = result.data() + before;
+    data.input_frames = static_cast<long>(samples.size());
+    data.output_frames = static_cast<long>(result.size() - before);
+    data.src_ratio = 1.0 / (1.0 + m_deviation);
+    src_process(m_state.get(), &data);
+    result.resize(before + static_cast<std::size_t>(data.output_frames_gen));
 }
 
 } // namespace Platform

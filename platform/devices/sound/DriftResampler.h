@@ -2,28 +2,42 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstddef>
+#include <memory>
 #include <vector>
+
+struct SRC_STATE_tag;
 
 namespace Platform {
 
-// Stretches or squeezes a sound by a hundredth or so, so that one device's clock follows another's
-// without a tear. Two samples of delay.
+// Makes a sound longer or shorter by up to 1.5 %, so that the clock of one device follows that of
+// another without tears.
 class DriftResampler
 {
 public:
     static constexpr double MaxDeviation = 0.015;
+    // How much later the sound comes out. Silence takes its place at the beginning, so that the
+    // first call already returns as many samples as it gets.
+    static constexpr std::size_t DelaySamples = 20;
 
-    // The share by which the sound is made shorter; a negative one makes it longer.
+    DriftResampler();
+    ~DriftResampler();
+    DriftResampler(const DriftResampler&) = delete;
+    DriftResampler& operator=(const DriftResampler&) = delete;
+
+    // The share by which the sound becomes shorter; a negative share makes it longer.
     void setDeviation(double deviation);
     double deviation() const { return m_deviation; }
-    void process(float sample, std::vector<float>& result); // appends none, one or two
+    void process(const std::vector<float>& samples, std::vector<float>& result); // appends
 
 private:
+    struct Deleter
+    {
+        void operator()(SRC_STATE_tag* state) const;
+    };
+
+    std::unique_ptr<SRC_STATE_tag, Deleter> m_state;
     double m_deviation = 0.0;
-    double m_phase = 0.0; // between the two middle samples
-    std::array<float, 4> m_recent{};
 };
 
 } // namespace Platform

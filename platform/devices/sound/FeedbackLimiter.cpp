@@ -11,7 +11,7 @@ namespace {
 
 constexpr double PeakReleaseSeconds = 0.15;
 constexpr double RecoverySeconds = 0.5;
-// A gain that jumps clicks.
+// A sudden change of the gain would be heard as a click.
 constexpr float DuckingPerSample = 0.99F;
 
 } // namespace
@@ -33,7 +33,7 @@ float FeedbackLimiter::pass(float sample)
     if (m_holdLeft > 0.0) {
         m_holdLeft -= 1.0;
         m_gain = std::max(DuckedGain, m_gain * DuckingPerSample);
-        m_power = 0.0F; // what built up is judged afresh afterwards
+        m_power = 0.0F; // measured anew after the hold
     } else if (m_power > BuildUpRms * BuildUpRms) {
         m_holdLeft = m_hold * m_second;
         m_hold = std::min(2.0 * m_hold, LastHoldSeconds);

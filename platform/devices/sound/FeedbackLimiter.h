@@ -4,9 +4,9 @@
 
 namespace Platform {
 
-// Keeps listening to oneself from howling where the speaker is heard by the microphone. Nothing
-// louder than Ceiling passes; and where the sound stays loud, as only feedback does, it is turned
-// down for a while, which breaks the circle. Each time that wasn't enough, the while gets longer.
+// Stops acoustic feedback if the microphone hears the speaker. No sample is louder than Ceiling. If
+// the sound stays loud, as only feedback does, it is turned down for a while, which breaks the
+// loop. If the feedback returns, the next while is twice as long.
 class FeedbackLimiter
 {
 public:
@@ -16,7 +16,7 @@ public:
     static constexpr float DuckedGain = 0.01F; // -40 dB
     static constexpr double FirstHoldSeconds = 0.5;
     static constexpr double LastHoldSeconds = 8.0;
-    static constexpr double ForgetSeconds = 10.0; // of calm, and the first hold is right again
+    static constexpr double ForgetSeconds = 10.0; // without feedback; then the first hold applies
 
     explicit FeedbackLimiter(unsigned rate);
 
@@ -24,7 +24,7 @@ public:
     bool isDucking() const { return m_holdLeft > 0.0; }
 
 private:
-    double m_second; // samples
+    double m_second; // samples per second
     float m_peakRelease;
     float m_powerShare;
     float m_recoveryStep;
@@ -32,8 +32,8 @@ private:
     float m_power = 0.0F;
     float m_gain = 1.0F;
     double m_hold = FirstHoldSeconds; // seconds
-    double m_holdLeft = 0.0;          // samples, as all below
-    double m_calm = 0.0;
+    double m_holdLeft = 0.0;          // samples
+    double m_calm = 0.0;              // samples
 };
 
 } // namespace Platform

@@ -3,6 +3,7 @@
 #include "platform/devices/sound/LevelMeter.h"
 
 #include "platform/backend/LevelScale.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,13 +13,6 @@ namespace Platform {
 namespace {
 
 constexpr double OffsetCutHz = 10.0;
-constexpr double Pi = 3.14159265358979323846;
-constexpr double NoPeak = 1e-9;
-
-double decibelsOf(double peak)
-{
-    return 20.0 * std::log10(std::max(peak, NoPeak));
-}
 
 } // namespace
 
@@ -30,12 +24,12 @@ LevelMeter::LevelMeter(unsigned rate)
 
 double LevelMeter::levelOf(double peak)
 {
-    return LevelScale::levelOf(decibelsOf(peak));
+    return LevelScale::levelOf(decibelsOfAmplitude(peak));
 }
 
 std::optional<double> LevelMeter::add(float sample)
 {
-    // What a driver delivers isn't trusted to be a number.
+    // Drivers may deliver samples that are not numbers.
     const double value = std::isfinite(sample) ? static_cast<double>(sample) : 0.0;
     if (m_isFirst) {
         m_isFirst = false;
@@ -53,7 +47,7 @@ std::optional<double> LevelMeter::add(float sample)
 
 void LevelMeter::endBlock()
 {
-    const double decibels = decibelsOf(m_peak);
+    const double decibels = decibelsOfAmplitude(m_peak);
     m_noiseDb = std::min(m_noiseDb, decibels);
     m_isSound = decibels > UnmistakableDb ||
                 (decibels > QuietestDb && decibels > m_noiseDb + NoiseMarginDb);

@@ -8,16 +8,16 @@
 namespace Platform {
 
 // A peak meter on the scale of LevelScale. Speech at a normal distance peaks at -30 to -20 dBFS,
-// half the bar and more. It rises at once and falls from full to nothing in FallSeconds. A constant
-// offset, as cheap devices have, doesn't count.
+// which fills half the bar and more. The level rises at once and falls from full to zero in
+// FallSeconds. The constant offset of cheap devices is filtered out.
 class LevelMeter
 {
 public:
     static constexpr double FallSeconds = 0.4;
-    // A block is the shortest time whose peak means something.
+    // One peak is taken per block. A shorter block could miss the peak of a low tone.
     static constexpr double BlockSeconds = 0.01;
-    // Sound has been heard once so many blocks in a row stand out of the noise by NoiseMarginDb and
-    // are louder than QuietestDb, or are louder than UnmistakableDb whatever the noise.
+    // Sound counts as heard after HeardBlocks blocks in a row that are loud enough: louder than
+    // QuietestDb and NoiseMarginDb above the noise, or louder than UnmistakableDb in any noise.
     static constexpr int HeardBlocks = 3;
     static constexpr double QuietestDb = -50.0;
     static constexpr double NoiseMarginDb = 10.0;
@@ -25,11 +25,11 @@ public:
 
     explicit LevelMeter(unsigned rate);
 
-    static double levelOf(double peak); // of an amplitude, 0 to 1
+    static double levelOf(double peak); // peak: an amplitude, 0 to 1
 
-    // One sample; a level at the end of each block.
+    // Returns a level with the last sample of each block.
     std::optional<double> add(float sample);
-    bool isSound() const { return m_isSound; } // the last whole block stands out of the noise
+    bool isSound() const { return m_isSound; } // the last whole block is loud enough
     bool hasHeardSound() const { return m_heardBlocks >= HeardBlocks; }
 
 private:

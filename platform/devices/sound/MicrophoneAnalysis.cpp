@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/MicrophoneAnalysis.h"
 
+#include "platform/devices/sound/SoundMath.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,42 +11,34 @@ namespace Platform {
 
 namespace {
 
-// A tenth of a second tells 50 from 60 Hz apart exactly.
+// 0.1 s holds whole periods of all frequencies measured below, so that none leaks into another.
 constexpr double PieceSeconds = 0.1;
+constexpr int HumHarmonics = 3;
 constexpr float FullScale = 0.999F;
-constexpr double Silence = 1e-12; // power, -120 dBFS
+constexpr double SilentPower = 1e-12; // -120 dBFS
 constexpr double BandStepHz = 500.0;
 constexpr double LastBandHz = 20000.0;
-// A band is heard in where it is stronger than the same band of the noise, and not weaker than this
-// part of the strongest one.
+// The microphone hears a band if its power is this many times the noise in that band, and at least
+// this part of the strongest band's power.
 constexpr double AboveNoise = 4.0;
 constexpr double BelowStrongest = 1e-6;
 
-double decibelsOf(double power)
+double roundedDecibels(double power)
 {
-    return std::round(100.0 * std::log10(std::max(power, Silence))) / 10.0;
-}
-
-template <typename Detectors>
-double takePowers(Detectors& detectors)
-{
-    double sum = 0.0;
-    for (ToneDetector& detector : detectors) {
-        sum += detector.takePower();
-    }
-    return sum;
+    return std::round(10.0 * decibelsOfPower(std::max(power, SilentPower))) / 10.0;
 }
 
 } // namespace
 
 MicrophoneAnalysis::MicrophoneAnalysis(unsigned rate)
     : m_rate(rate),
-      m_pieceSize(static_cast<std::size_t>(PieceSeconds * rate)),
-      m_hum50{ToneDetector(50, rate), ToneDetector(100, rate), ToneDetector(150, rate)},
-      m_hum60{ToneDetector(60, rate), ToneDetector(120, rate), ToneDetector(180, rate)}
+      m_pieceSize(2 * static_cast<std::size_t>(PieceSeconds * rate / 2.0)),
+      m_spectrum(m_pieceSize)
 {
-    for (double frequency = BandStepHz; frequency <= LastBandHz; frequency += BandStepHz) {
-        m_bands.emplace_back(frequency, rate);
+    m_piece.reserve(m_pieceSize);
+    const double lastBand = std::min(LastBandHz, m_rate / 2.0);
+    for (double frequency = BandStepHz; frequency <= lastBand; frequency += BandStepHz) {
+        m_bands.push_back(frequency);
     }
     m_heardBands.resize(m_bands.size());
     m_quietBands.resize(m_bands.size());
@@ -52,38 +46,32 @@ MicrophoneAnalysis::MicrophoneAnalysis(unsigned rate)
 
 void MicrophoneAnalysis::add(float sample, bool isHeard)
 {
-    const double value = std::isfinite(sample) ? static_cast<double>(sample) : 0.0;
+    // Drivers may deliver samples that are not numbers.
+    const float finite = std::isfinite(sample) ? sample : 0.0F;
+    const auto value = static_cast<double>(finite);
     m_isHeard = m_isHeard || isHeard;
     m_power += value * value;
     m_peak = std::max(m_peak, std::abs(value));
     if (std::abs(sample) >= FullScale) {
         m_clipped += 1.0;
     }
-    for (auto* hum : {&m_hum50, &m_hum60}) {
-        for (ToneDetector& detector : *hum) {
-            detector.add(value);
-        }
-    }
-    for (ToneDetector& band : m_bands) {
-        band.add(value);
-    }
-    if (++m_count >= m_pieceSize) {
+    m_piece.push_back(finite);
+    if (m_piece.size() >= m_pieceSize) {
         endPiece();
     }
 }
 
 void MicrophoneAnalysis::endPiece()
 {
-    const double count = static_cast<double>(m_count);
-    const double hum50 = takePowers(m_hum50);
-    const double hum60 = takePowers(m_hum60);
+    const auto count = static_cast<double>(m_piece.size());
+    m_spectrum.measure(m_piece);
     std::vector<double>& bands = m_isHeard ? m_heardBands : m_quietBands;
     (m_isHeard ? m_heardPieces : m_quietPieces) += 1.0;
     for (std::size_t i = 0; i < m_bands.size(); ++i) {
-        bands[i] += m_bands[i].takePower();
+        bands[i] += powerAt(m_bands[i]);
     }
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_figures.seconds += count / m_rate;
         m_figures.samples += count;
         m_figures.peak = std::max(m_figures.peak, m_peak);
@@ -91,12 +79,12 @@ void MicrophoneAnalysis::endPiece()
         m_figures.quietestPower = std::min(m_figures.quietestPower, m_power / count);
         if (!m_isHeard) {
             m_figures.quietPower += m_power / count;
-            m_figures.hum50 += hum50;
-            m_figures.hum60 += hum60;
+            m_figures.hum50 += humPower(50.0);
+            m_figures.hum60 += humPower(60.0);
         }
         measureBandwidth();
     }
-    m_count = 0;
+    m_piece.clear();
     m_isHeard = false;
     m_power = 0.0;
     m_peak = 0.0;
@@ -110,24 +98,39 @@ void MicrophoneAnalysis::measureBandwidth()
         const double noise =
             m_quietPieces > 0.0 ? m_quietBands[i] / m_quietPieces * m_heardPieces : 0.0;
         if (m_heardBands[i] > BelowStrongest * strongest && m_heardBands[i] > AboveNoise * noise) {
-            m_figures.bandwidth = m_bands[i].frequency();
+            m_figures.bandwidth = m_bands[i];
         }
     }
 }
 
+double MicrophoneAnalysis::powerAt(double frequency) const
+{
+    const double periods = frequency * static_cast<double>(m_pieceSize) / m_rate;
+    return m_spectrum.power(static_cast<std::size_t>(std::lround(periods)));
+}
+
+double MicrophoneAnalysis::humPower(double mainsHz) const
+{
+    double sum = 0.0;
+    for (int harmonic = 1; harmonic <= HumHarmonics; ++harmonic) {
+        sum += powerAt(harmonic * mainsHz);
+    }
+    return sum;
+}
+
 QJsonObject MicrophoneAnalysis::figures() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     if (m_figures.samples == 0.0) {
         return {};
     }
     const bool is60 = m_figures.hum60 > m_figures.hum50;
     const double hum = is60 ? m_figures.hum60 : m_figures.hum50;
     const double share =
-        m_figures.quietPower > Silence ? std::min(1.0, hum / m_figures.quietPower) : 0.0;
+        m_figures.quietPower > SilentPower ? std::min(1.0, hum / m_figures.quietPower) : 0.0;
     return {{QStringLiteral("seconds"), std::round(10.0 * m_figures.seconds) / 10.0},
-            {QStringLiteral("peakDb"), decibelsOf(m_figures.peak * m_figures.peak)},
-            {QStringLiteral("noiseFloorDb"), decibelsOf(m_figures.quietestPower)},
+            {QStringLiteral("peakDb"), roundedDecibels(m_figures.peak * m_figures.peak)},
+            {QStringLiteral("noiseFloorDb"), roundedDecibels(m_figures.quietestPower)},
             {QStringLiteral("clippedShare"), m_figures.clipped / m_figures.samples},
             {QStringLiteral("humHz"), is60 ? 60 : 50},
             {QStringLiteral("humShare"), std::round(1000.0 * share) / 1000.0},

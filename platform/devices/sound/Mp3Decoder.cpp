@@ -21,7 +21,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcPlayer, "envcheck.devices.player", QtInfoMsg)
 
-// The first piece is short, so that the sound starts soon; the later ones spare the hand-overs.
+// The first piece is short, so that playback starts soon. Later ones are long, because each wakes
+// up the sound thread.
 constexpr std::size_t FirstPieceSamples = 2304;
 constexpr std::size_t PieceSamples = 32768;
 
@@ -45,7 +46,7 @@ struct DecoderCloser
     void operator()(mpg123_handle* handle) const { mpg123_delete(handle); }
 };
 
-// Empty where the file may be read.
+// Why the file is refused; empty if it may be read.
 QString refusal(int descriptor)
 {
     struct stat facts = {};
@@ -61,7 +62,7 @@ QString refusal(int descriptor)
     return {};
 }
 
-// Returns why it ended before its time, if it did.
+// Returns an error, or an empty text if it read everything.
 QString readSound(int descriptor, float volume, SoundBuffer& buffer)
 {
     const std::unique_ptr<mpg123_handle, DecoderCloser> decoder(mpg123_new(nullptr, nullptr));
@@ -79,7 +80,7 @@ QString readSound(int descriptor, float volume, SoundBuffer& buffer)
         channels <= 0 || encoding != MPG123_ENC_FLOAT_32) {
         return QStringLiteral("it is no MP3 sound");
     }
-    // The format stays what it is, whatever a later frame says.
+    // Keep this format even if a later frame of the file has another one.
     mpg123_format_none(handle);
     mpg123_format(handle, rate, channels, encoding);
     mpg123_volume(handle, static_cast<double>(volume));
@@ -107,7 +108,7 @@ QString readSound(int descriptor, float volume, SoundBuffer& buffer)
 
 void Mp3Decoder::decode(const QString& path, float volume, SoundBuffer& buffer)
 {
-    // Opening a pipe that nobody writes to must not wait either.
+    // O_NONBLOCK: opening a pipe without a writer must not wait.
     const FileCloser file(
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     QString problem = refusal(file.descriptor);

@@ -8,9 +8,9 @@ namespace Platform {
 
 class SoundBuffer;
 
-// Reads an MP3 file into a buffer, on a thread of the caller's. Whatever is no such file (a folder,
-// a pipe, something else, more than MaxFileBytes) ends it with an empty buffer; a file that breaks
-// off ends it with what there was. A sound is cut after MaxSeconds.
+// Decodes an MP3 file into a buffer, on the caller's thread. If the path is no MP3 file (a folder,
+// a pipe, another format, more than MaxFileBytes), the buffer stays empty. A broken file gives the
+// sound before the damage. Longer sounds end after MaxSeconds.
 namespace Mp3Decoder {
 
 constexpr long long MaxFileBytes = 16LL * 1024 * 1024;

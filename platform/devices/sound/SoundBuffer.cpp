@@ -13,13 +13,13 @@ SoundBuffer::SoundBuffer(Advanced advanced) : m_advanced(std::move(advanced))
 
 void SoundBuffer::begin(Format format)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_format = format;
 }
 
 void SoundBuffer::append(const float* samples, std::size_t count)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_samples.insert(m_samples.end(), samples, samples + count);
     if (m_advanced) {
         m_advanced(false);
@@ -28,7 +28,7 @@ void SoundBuffer::append(const float* samples, std::size_t count)
 
 void SoundBuffer::end()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_hasEnded = true;
     if (m_advanced) {
         m_advanced(true);
@@ -37,45 +37,45 @@ void SoundBuffer::end()
 
 bool SoundBuffer::isCancelled() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_isCancelled;
 }
 
 void SoundBuffer::cancel()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_isCancelled = true;
     m_advanced = nullptr;
 }
 
 SoundBuffer::Format SoundBuffer::format() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_format;
 }
 
 bool SoundBuffer::hasEnded() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_hasEnded;
 }
 
 std::size_t SoundBuffer::size() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_samples.size();
 }
 
 int SoundBuffer::lengthMs() const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     const std::size_t perSecond = std::size_t{m_format.rate} * m_format.channels;
     return perSecond == 0 ? 0 : static_cast<int>(m_samples.size() * 1000 / perSecond);
 }
 
 std::size_t SoundBuffer::read(std::size_t from, float* samples, std::size_t count) const
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     if (from >= m_samples.size()) {
         return 0;
     }

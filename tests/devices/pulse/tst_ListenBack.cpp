@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseSound.h"
+#include "platform/devices/sound/SoundMath.h"
 #include "tests/support/DriftingMicrophone.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/MemoryReport.h"
@@ -22,13 +23,13 @@ using TestSupport::SoundServer;
 namespace {
 
 constexpr int TimeoutMs = 5000;
-constexpr int Bursts = 50; // 10 s, in which one clock gets 100 ms ahead of the other
+constexpr int Bursts = 50; // 10 s; meanwhile the clocks drift apart by 100 ms
 constexpr int SettledBurst = Bursts / 2;
 constexpr double MaxDelayMs = 60.0;
 constexpr double MaxGrowthMs = 10.0;
-constexpr int MaxTears = 1; // once the clocks have found together
+constexpr int MaxTears = 1; // after the drift was measured
 
-// One drifting microphone listened to on one speaker.
+// Listening to one drifting microphone on one speaker.
 class Listening
 {
 public:
@@ -54,7 +55,7 @@ public:
 
     DriftingMicrophone& device() { return m_device; }
 
-    // What is wrong with it; nothing where all is well.
+    // What is wrong; empty if all is well.
     QString fault() const
     {
         const std::vector<float> heard = m_recording.samples();
@@ -91,7 +92,7 @@ private:
         return static_cast<std::size_t>(std::max(0.0, since.count()) * SoundRecording::Rate);
     }
 
-    // Negative for one that isn't heard.
+    // Negative for bursts that were not played.
     std::vector<double> delays(const std::vector<float>& heard) const
     {
         constexpr double LongestMs = 1000.0 * DriftingMicrophone::BurstSpacingSeconds - 5.0;
@@ -105,13 +106,13 @@ private:
         return result;
     }
 
-    // Where a tone is whole, each sample follows from the two before it, also where it was
-    // stretched a little.
+    // In a pure tone, each sample follows from the two before it. This stays true if the tone is
+    // resampled a little, but not at a tear.
     int countTears(const std::vector<float>& heard) const
     {
         constexpr double Tolerance = 0.003;
         constexpr std::size_t Apart = SoundRecording::Rate / 50;
-        constexpr double Step = 2.0 * M_PI * DriftingMicrophone::ToneHz / SoundRecording::Rate;
+        constexpr double Step = 2.0 * Pi * DriftingMicrophone::ToneHz / SoundRecording::Rate;
         const auto sample = [&heard](std::size_t i) { return static_cast<double>(heard[i]); };
         const std::vector<DriftingMicrophone::Clock::time_point> bursts = m_device.burstTimes();
         const std::size_t end = std::min(heard.size(), sampleAt(bursts.back()));
@@ -148,9 +149,9 @@ class tst_ListenBack : public QObject
 private Q_SLOTS:
     void initTestCase_data() { SoundServer::addTestRows(); }
 
-    // Two devices never agree on how long a second is. The one clock goes 1 % wrong here, ten times
-    // as much as a bad one does.
-    void clocksThatDriftApart()
+    // No two devices have exactly the same rate. Here the clocks drift by 1 %, ten times as much as
+    // those of bad devices.
+    void compensatesClockDrift()
     {
         const QString fault = TestSupport::measuredFault([] {
             QString heard;
@@ -169,10 +170,10 @@ private:
         Listening slower(*server, QStringLiteral("slower"), 0.99, QStringLiteral("speaker_b"));
         for (Listening* listening : {&faster, &slower}) {
             QVERIFY(listening->waitForStart());
-            listening->device().hear(Bursts);
+            listening->device().record(Bursts);
         }
         for (Listening* listening : {&faster, &slower}) {
-            QTRY_VERIFY_WITH_TIMEOUT(listening->device().hasHeardAll(), 4 * TimeoutMs);
+            QTRY_VERIFY_WITH_TIMEOUT(listening->device().hasRecordedAll(), 4 * TimeoutMs);
         }
         fault = QStringList({faster.fault(), slower.fault()}).join(QLatin1Char(' ')).trimmed();
     }

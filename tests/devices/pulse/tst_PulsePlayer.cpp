@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/devices/sound/SoundMath.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/devices/SoundTest.h"
 #include "tests/support/GapMeter.h"
@@ -66,8 +67,8 @@ private Q_SLOTS:
         SoundTest::cleanup();
     }
 
-    // Each of the sounds comes out as itself, on the chosen device and on no other: all at once,
-    // each on a device of its own.
+    // All sounds at once, each on its own speaker. Each must be heard there and on no other
+    // speaker.
     void playsTheSounds()
     {
         QStringList names = soundNames();
@@ -76,24 +77,24 @@ private Q_SLOTS:
             QVERIFY(!m_server->plugSpeaker(speakerFor(name), name).isEmpty());
         }
         const QString fault = TestSupport::measuredFault([this, &names] {
-            names = playTogether(names); // those that weren't right are played again
+            names = playTogether(names); // only the wrong ones are repeated
             return names.join(QLatin1Char(' '));
         });
         QVERIFY2(fault.isEmpty(), qPrintable(fault));
     }
 
-    void volumeIsWhatIsHeard()
+    void volumeSetsTheLoudness()
     {
         const double full = loudness();
         m_speaker->setVolume(50);
         QTRY_VERIFY(m_server->control({id("get-sink-volume"), id("speaker_a")}).contains("50%"));
         const double half = loudness();
-        // The percentages of sound servers are cubic.
-        QVERIFY2(std::abs((half - full) - 60.0 * std::log10(0.5)) < 0.5,
+        // The volume scale of sound servers is cubic.
+        QVERIFY2(std::abs((half - full) - 3.0 * decibelsOfAmplitude(0.5)) < 0.5,
                  qPrintable(QStringLiteral("%1 dB").arg(half - full)));
     }
 
-    void badFiles()
+    void endsAtOnceWithABadFile()
     {
         const QTemporaryDir folder;
         for (const char* name : {"missing", "folder", "fifo", "empty", "huge", "noise", "text",
@@ -104,18 +105,17 @@ private Q_SLOTS:
             m_report = {};
             m_listener = {};
             play(path);
-            QCOMPARE(m_listener.finished, 0); // not from inside the call
+            QCOMPARE(m_listener.finished, 0); // never during the call
             QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
             QTest::qWait(100);
             QCOMPARE(m_listener.finished, 1);
-            QVERIFY(isUsable(m_speaker->state())); // the device is not to blame
+            QVERIFY(isUsable(m_speaker->state())); // a bad file is no fault of the device
             QVERIFY(soundPlayed().isObject());
             QVERIFY(soundPlayed().toObject().contains(id("failed")));
         }
     }
 
-    // A file that breaks off plays up to there.
-    void cutFile()
+    void playsACutFileUpToItsEnd()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("cut.mp3"));
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(m_listener.finished, 0);
     }
 
-    void followsTheChoice()
+    void followsTheChosenSpeaker()
     {
         SoundRecording recording(id("speaker_b.monitor"));
         QVERIFY(recording.waitForStart());
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
     }
 
-    void endsWithItsDevice()
+    void endsIfItsSpeakerIsUnplugged()
     {
         m_speaker->setCurrent(id("speaker_b"));
         SoundRecording other(id("speaker_a.monitor"));
@@ -170,11 +170,11 @@ private Q_SLOTS:
         m_server->unplug(m_server->speakerB());
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, 1000);
         other.forget();
-        QTRY_VERIFY(other.seconds() > 0.2); // what was on its way has arrived
+        QTRY_VERIFY(other.seconds() > 0.2); // what was still buffered has arrived
         QVERIFY(other.peak() < Audible);
     }
 
-    void endsWithTheServer()
+    void endsIfTheServerDies()
     {
         SoundRecording recording(id("speaker_a.monitor"));
         QVERIFY(recording.waitForStart());
@@ -182,13 +182,13 @@ private Q_SLOTS:
         QTRY_VERIFY(recording.peak() > Audible);
         m_server->kill();
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, 1000);
-        // Without a server there is nothing to play on.
+        // And once more without a server.
         m_listener = {};
         play(soundPath(QStringLiteral("Saxophone.mp3")));
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
     }
 
-    void frozenServer()
+    void endsIfTheServerFreezes()
     {
         m_server->freeze();
         GapMeter gaps;
@@ -202,7 +202,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, PlayMs);
     }
 
-    void withoutASpeaker()
+    void endsAtOnceWithoutASpeaker()
     {
         m_server->control({id("unload-module"), id("module-null-sink")});
         QTRY_VERIFY(m_sound->speakers().empty());
@@ -210,8 +210,8 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_listener.finished, 1, BadFileMs);
     }
 
-    // A player that comes first brings the connection itself.
-    void aloneIsEnough()
+    // The first user opens the connection, even if it is a player.
+    void connectsIfItIsTheFirstUser()
     {
         m_speaker.reset();
         SoundRecording recording(id("speaker_a.monitor"));
@@ -222,7 +222,7 @@ private Q_SLOTS:
     }
 
 private:
-    // The only one who plays on a device, and what is heard there.
+    // One sound on its own speaker.
     struct Place
     {
         explicit Place(const QString& speakerId)
@@ -245,7 +245,7 @@ private:
         return "for_" + sound.section('.', 0, 0).toLower();
     }
 
-    // Those that didn't come out as themselves, or all where that can't be told.
+    // Returns the sounds that were not heard right; all of them if the setup failed.
     QStringList playTogether(const QStringList& names)
     {
         SoundRecording other(id("speaker_a.monitor"));
@@ -254,7 +254,7 @@ private:
         for (const QString& name : names) {
             places.push_back(std::make_unique<Place>(speakerFor(name)));
             Place& place = *places.back();
-            // One after the other: of recordings that begin together PulseAudio forgets some.
+            // One after the other: PulseAudio loses recordings that begin at the same time.
             isReady = place.recording.waitForStart() &&
                       QTest::qWaitFor([&] { return isUsable(place.speaker->state()); }) && isReady;
         }
@@ -341,7 +341,7 @@ private:
         }
         const std::vector<float> samples = recording.samples();
         const std::size_t start = TestSupport::firstAbove(samples, Audible / 10.0F);
-        return TestSupport::decibels(
+        return decibelsOfAmplitude(
             TestSupport::rms(samples, start, std::size_t{SoundRecording::Rate}));
     }
 

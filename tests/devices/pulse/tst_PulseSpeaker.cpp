@@ -19,12 +19,12 @@ public:
     void speakerListChanged() override { ++lists; }
     void currentSpeakerChanged(const QString& id) override { currents.append(id); }
     void speakerVolumeChanged(int percent) override { volumes.append(percent); }
-    void speakerWorkStateChanged(bool works) override { works_.append(works); }
+    void speakerWorkStateChanged(bool works) override { workStates.append(works); }
 
     int lists = 0;
     QStringList currents;
     QList<int> volumes;
-    QList<bool> works_;
+    QList<bool> workStates;
 };
 
 } // namespace
@@ -56,14 +56,14 @@ private Q_SLOTS:
         QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker A"));
         QTRY_VERIFY(m_listener->lists > 0);
         QTRY_COMPARE(m_listener->currents.value(0), id("speaker_a"));
-        QTRY_COMPARE(m_listener->works_, QList<bool>{true});
+        QTRY_COMPARE(m_listener->workStates, QList<bool>{true});
         QVERIFY(m_speaker->state() == DeviceState::Ready);
 
-        m_speaker.reset(); // nobody is left who needs the server
+        m_speaker.reset(); // the last user closes the connection
         QVERIFY(m_sound->speakers().empty());
     }
 
-    void plugging()
+    void followsPlugging()
     {
         const QByteArray twin = m_server->plugSpeaker(id("twin"), QStringLiteral("Test Speaker A"));
         QTRY_COMPARE(nameIn(m_sound->speakers(), id("twin")), QStringLiteral("Test Speaker A (2)"));
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QTRY_COMPARE(nameIn(m_sound->speakers(), id("markup")), QStringLiteral("<b>Bold</b>"));
         m_server->unplug(twin);
         QTRY_COMPARE(nameIn(m_sound->speakers(), id("twin")), QString());
-        // A refilled list has to show the choice again.
+        // After each new list the current speaker is told again.
         QTRY_COMPARE(m_listener->currents.size(), 1 + 3);
         QCOMPARE(m_listener->currents.last(), id("speaker_a"));
     }
@@ -80,15 +80,16 @@ private Q_SLOTS:
     {
         m_speaker->setCurrent(id("speaker_b"));
         QVERIFY(m_listener->currents.isEmpty() ||
-                m_listener->currents.last() != id("speaker_b")); // not from inside the call
+                m_listener->currents.last() != id("speaker_b")); // never during the call
         QTRY_VERIFY(!m_listener->currents.isEmpty() &&
                     m_listener->currents.last() == id("speaker_b"));
         QCOMPARE(m_speaker->currentName(), QStringLiteral("Test Speaker B"));
         QCOMPARE(m_server->control({id("get-default-sink")}), QByteArray("speaker_a"));
 
-        // Nor does the default move the choice.
+        // And the default doesn't change the choice.
         m_server->control({id("set-default-sink"), id("voice")});
-        m_server->plugSpeaker(id("late"), id("Late")); // behind it, so that it is known to be over
+        m_server->plugSpeaker(id("late"),
+                              id("Late")); // when this one is listed, the change above is done
         QTRY_COMPARE(nameIn(m_sound->speakers(), id("late")), id("Late"));
         QCOMPARE(m_speaker->currentId(), id("speaker_b"));
     }
@@ -110,11 +111,11 @@ private Q_SLOTS:
         m_server->unplug(m_server->speakerB());
         QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
         QVERIFY(m_speaker->state() == DeviceState::Absent);
-        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == false);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty() && m_listener->workStates.last() == false);
         m_server->plugSpeaker(id("speaker_b"), QStringLiteral("Test Speaker B"));
         QTRY_VERIFY(!m_listener->currents.isEmpty() &&
                     m_listener->currents.last() == id("speaker_b"));
-        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == true);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty() && m_listener->workStates.last() == true);
     }
 
     void dummyOutputIsNoSpeaker()
@@ -132,24 +133,24 @@ private Q_SLOTS:
         QCOMPARE(m_speaker->volume(), 0);
     }
 
-    void volume()
+    void setsAndReportsTheVolume()
     {
         QTRY_COMPARE(m_speaker->volume(), 100);
-        for (int percent = 99; percent >= 37; --percent) { // a slider being dragged
+        for (int percent = 99; percent >= 37; --percent) { // as if a slider is dragged
             m_speaker->setVolume(percent);
             QCOMPARE(m_speaker->volume(), percent);
         }
         QTRY_VERIFY(sinkVolumes().contains("37%"));
         m_server->control({id("set-sink-volume"), id("speaker_a"), id("61%")});
         QTRY_COMPARE(m_speaker->volume(), 61);
-        // What the user set never came back as somebody else's change.
+        // Only the change by somebody else was reported.
         QTRY_COMPARE(m_listener->volumes, QList<int>{61});
 
         m_server->control({id("set-sink-volume"), id("speaker_a"), id("150%")});
         QTRY_VERIFY(!m_listener->volumes.isEmpty() && m_listener->volumes.last() == 100);
         m_speaker->setVolume(-5);
         QTRY_VERIFY(sinkVolumes().contains(" 0%"));
-        m_speaker->setVolume(50); // balance is lost at nought, but both sides come back
+        m_speaker->setVolume(50); // at 0 % the balance is lost, but both sides come back
         QTRY_COMPARE(sinkVolumes().count(" 50%"), 2);
     }
 
@@ -162,7 +163,7 @@ private Q_SLOTS:
         QVERIFY(sinkVolumes().contains(" 40%"));
     }
 
-    void movingEndsAMute()
+    void settingTheVolumeUnmutes()
     {
         m_speaker.reset();
         m_server->control({id("set-sink-mute"), id("speaker_b"), id("1")});
@@ -183,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(figures.value(id("volumeBefore")).toInt(), 100);
         QCOMPARE(figures.value(id("volumeAfter")).toInt(), 70);
         QCOMPARE(figures.value(id("movedByUser")).toBool(), true);
-        // The choice was the check's, not the system's.
+        // Choosing a speaker doesn't change the default.
         QCOMPARE(figures.value(id("defaultBefore")).toString(), QStringLiteral("Test Speaker A"));
         QCOMPARE(figures.value(id("defaultAfter")).toString(), QStringLiteral("Test Speaker A"));
     }
@@ -198,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(figures.value(id("defaultAfter")).toString(), QStringLiteral("Test Speaker B"));
     }
 
-    void comesBackWithTheServer()
+    void reconnectsToARestartedServer()
     {
         m_speaker->setCurrent(id("speaker_b"));
         QTRY_COMPARE(m_speaker->currentId(), id("speaker_b"));
@@ -206,17 +207,17 @@ private Q_SLOTS:
         m_server->kill();
         QTRY_VERIFY(m_sound->speakers().empty());
         QTRY_VERIFY(!m_listener->currents.isEmpty() && m_listener->currents.last() == QString());
-        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == false);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty() && m_listener->workStates.last() == false);
         QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         QVERIFY(m_server->start());
         QTRY_VERIFY_WITH_TIMEOUT(!m_listener->currents.isEmpty() &&
                                      m_listener->currents.last() == id("speaker_b"),
                                  TimeoutMs);
-        QTRY_VERIFY(!m_listener->works_.isEmpty() && m_listener->works_.last() == true);
+        QTRY_VERIFY(!m_listener->workStates.isEmpty() && m_listener->workStates.last() == true);
         QCOMPARE(m_sound->speakers().size(), std::size_t{3});
     }
 
-    void frozenServerHoldsNobodyUp()
+    void doesNotWaitForAFrozenServer()
     {
         m_server->freeze();
         GapMeter gaps;
@@ -231,19 +232,19 @@ private Q_SLOTS:
         QTRY_VERIFY(sinkVolumes().contains(" 20%"));
     }
 
-    void leavesAFrozenServer()
+    void disconnectsFromAFrozenServer()
     {
         Listener second;
         m_server->freeze();
         GapMeter gaps;
-        m_speaker.reset(); // with it the connection
+        m_speaker.reset(); // closes the connection, too
         m_speaker = m_sound->createSpeaker(second);
-        m_speaker.reset(); // one that never got through
+        m_speaker.reset(); // this connection was never established
         QVERIFY2(gaps.longestMs() < MaxGapMs, qPrintable(QString::number(gaps.longestMs())));
         m_server->thaw();
     }
 
-    void manyPluggings()
+    void survivesManyPluggings()
     {
         constexpr int Events = 1000;
         const TestSupport::PlugStorm storm(Events / 2);

@@ -14,36 +14,36 @@ namespace {
 constexpr double FragmentMs = 5.0;
 constexpr double StartMs = 7.0;
 
-// A store that a speaker takes from at a rate of its own, in pieces, for so many seconds. Where it
-// runs dry it is waited for, as a server does.
-struct Store
+// A playback buffer whose speaker has its own clock. After an underflow playback waits until the
+// buffer is filled to StartMs, as servers do.
+struct PlaybackBuffer
 {
-    double storeMs = 0.0;
+    double fillMs = 0.0;
     double lowestMs = 1000.0;
     double highestMs = 0.0;
-    int dryTimes = 0;
-    bool isWaitedFor = false;
+    int underflows = 0;
+    bool isWaiting = false;
 
     void run(DriftControl& control, double speakerRate, double seconds)
     {
         lowestMs = 1000.0;
         highestMs = 0.0;
         for (double at = 0.0; at < 1000.0 * seconds; at += FragmentMs) {
-            control.observe(storeMs, FragmentMs);
-            storeMs += FragmentMs / (1.0 + control.deviation()) - control.takeExcessMs();
-            isWaitedFor = isWaitedFor && storeMs < StartMs;
-            if (isWaitedFor) {
+            control.observe(fillMs, FragmentMs);
+            fillMs += FragmentMs / (1.0 + control.deviation()) - control.takeExcessMs();
+            isWaiting = isWaiting && fillMs < StartMs;
+            if (isWaiting) {
                 continue;
             }
-            storeMs -= FragmentMs * speakerRate;
-            if (storeMs < 0.0) {
-                storeMs = 0.0;
-                ++dryTimes;
-                isWaitedFor = true;
-                control.ranDry();
+            fillMs -= FragmentMs * speakerRate;
+            if (fillMs < 0.0) {
+                fillMs = 0.0;
+                ++underflows;
+                isWaiting = true;
+                control.noteUnderflow();
             }
-            lowestMs = std::min(lowestMs, storeMs);
-            highestMs = std::max(highestMs, storeMs);
+            lowestMs = std::min(lowestMs, fillMs);
+            highestMs = std::max(highestMs, fillMs);
         }
     }
 };
@@ -55,10 +55,10 @@ class tst_DriftControl : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsTheReserve_data()
+    void keepsTheTargetLevel_data()
     {
         QTest::addColumn<double>("speakerRate");
-        QTest::addColumn<int>("dryAtFirst");
+        QTest::addColumn<int>("underflowsAtFirst");
         QTest::newRow("same clock") << 1.0 << 0;
         QTest::newRow("speaker 200 ppm slow") << 0.9998 << 0;
         QTest::newRow("speaker 200 ppm fast") << 1.0002 << 0;
@@ -68,37 +68,38 @@ private Q_SLOTS:
         QTest::newRow("speaker 1 % fast") << 1.01 << 1;
     }
 
-    void keepsTheReserve()
+    void keepsTheTargetLevel()
     {
         QFETCH(double, speakerRate);
-        QFETCH(int, dryAtFirst);
+        QFETCH(int, underflowsAtFirst);
         DriftControl control;
-        Store store{5.0};
-        store.run(control, speakerRate, 20.0);
-        QVERIFY2(store.dryTimes <= dryAtFirst, qPrintable(QString::number(store.dryTimes)));
-        store.dryTimes = 0;
-        store.run(control, speakerRate, 600.0);
-        QCOMPARE(store.dryTimes, 0);
-        QVERIFY(store.lowestMs > 0.0);
-        QVERIFY2(store.highestMs < control.reserveMs() + 2.0 * FragmentMs,
-                 qPrintable(QString::number(store.highestMs)));
+        PlaybackBuffer buffer{5.0};
+        buffer.run(control, speakerRate, 20.0);
+        QVERIFY2(buffer.underflows <= underflowsAtFirst,
+                 qPrintable(QString::number(buffer.underflows)));
+        buffer.underflows = 0;
+        buffer.run(control, speakerRate, 600.0);
+        QCOMPARE(buffer.underflows, 0);
+        QVERIFY(buffer.lowestMs > 0.0);
+        QVERIFY2(buffer.highestMs < control.targetMs() + 2.0 * FragmentMs,
+                 qPrintable(QString::number(buffer.highestMs)));
     }
 
-    void aPileIsCutOff()
+    void excessIsDropped()
     {
         DriftControl control;
-        Store store{3000.0}; // a server that was frozen
-        store.run(control, 1.0, 2.0);
-        QVERIFY2(store.storeMs < 15.0, qPrintable(QString::number(store.storeMs)));
+        PlaybackBuffer buffer{3000.0}; // after a server was frozen
+        buffer.run(control, 1.0, 2.0);
+        QVERIFY2(buffer.fillMs < 15.0, qPrintable(QString::number(buffer.fillMs)));
     }
 
-    void runningDryTakesMoreReserve()
+    void underflowsRaiseTheTarget()
     {
         DriftControl control;
         for (int i = 0; i < 100; ++i) {
-            control.ranDry();
+            control.noteUnderflow();
         }
-        QCOMPARE(control.reserveMs(), DriftControl::LastReserveMs);
+        QCOMPARE(control.targetMs(), DriftControl::MaxTargetMs);
     }
 
     void resamplerKeepsTheSound()
@@ -109,14 +110,22 @@ private Q_SLOTS:
             QVERIFY(std::abs(resampler.deviation()) <= DriftResampler::MaxDeviation);
             std::vector<float> result;
             constexpr int Count = 48000;
+            constexpr int PieceSize = 240;
+            constexpr double Delay = DriftResampler::DelaySamples;
             const auto wave = [](double at) { return std::sin(0.05 * at); };
-            for (int i = 0; i < Count; ++i) {
-                resampler.process(static_cast<float>(wave(i)), result);
+            for (int i = 0; i < Count; i += PieceSize) {
+                std::vector<float> piece;
+                for (int k = i; k < i + PieceSize; ++k) {
+                    piece.push_back(static_cast<float>(wave(k)));
+                }
+                resampler.process(piece, result);
+                // A playback buffer that starts with less than it expects underflows at once.
+                QVERIFY(i > 0 || std::abs(static_cast<int>(result.size()) - PieceSize) < 5);
             }
             const double step = 1.0 + resampler.deviation();
-            QVERIFY(std::abs(static_cast<double>(result.size()) - Count / step) < 3.0);
-            for (std::size_t i = 10; i < result.size(); ++i) {
-                const double expected = wave(static_cast<double>(i) * step - 2.0);
+            QVERIFY(std::abs(static_cast<double>(result.size()) - Count / step) < 2.0);
+            for (std::size_t i = 100; i < result.size(); ++i) {
+                const double expected = wave(static_cast<double>(i) * step - Delay);
                 QVERIFY(std::abs(static_cast<double>(result[i]) - expected) < 0.001);
             }
         }

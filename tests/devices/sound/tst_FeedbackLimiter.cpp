@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/FeedbackLimiter.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
@@ -8,11 +9,11 @@
 #include <limits>
 
 using Platform::FeedbackLimiter;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
 float tone(int i, double amplitude)
 {
@@ -26,67 +27,67 @@ class tst_FeedbackLimiter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void speechPassesUnchanged()
+    void leavesSpeechUnchanged()
     {
-        FeedbackLimiter guard(Rate);
+        FeedbackLimiter limiter(Rate);
         for (unsigned i = 0; i < 10 * Rate; ++i) {
             const int at = static_cast<int>(i);
             // Words of half a second, peaking at -12 dBFS.
             const float sample = i / (Rate / 2) % 2 == 0 ? tone(at, 0.25) : 0.0F;
-            QCOMPARE(guard.pass(sample), sample);
+            QCOMPARE(limiter.pass(sample), sample);
         }
-        QVERIFY(!guard.isDucking());
+        QVERIFY(!limiter.isDucking());
     }
 
-    void nothingIsLouderThanTheCeiling()
+    void limitsToTheCeiling()
     {
-        FeedbackLimiter guard(Rate);
+        FeedbackLimiter limiter(Rate);
         for (unsigned i = 0; i < Rate / 10; ++i) {
-            const float passed = guard.pass(tone(static_cast<int>(i), 1.0));
+            const float passed = limiter.pass(tone(static_cast<int>(i), 1.0));
             QVERIFY(std::abs(passed) <= FeedbackLimiter::Ceiling * 1.001F);
         }
-        QCOMPARE(guard.pass(std::numeric_limits<float>::quiet_NaN()), 0.0F);
+        QCOMPARE(limiter.pass(std::numeric_limits<float>::quiet_NaN()), 0.0F);
     }
 
-    void ducksWhatStaysLoudAndComesBack()
+    void ducksLastingLoudnessAndRecovers()
     {
-        FeedbackLimiter guard(Rate);
+        FeedbackLimiter limiter(Rate);
         int i = 0;
-        while (!guard.isDucking()) {
-            guard.pass(tone(i++, 0.7));
+        while (!limiter.isDucking()) {
+            limiter.pass(tone(i++, 0.7));
             QVERIFY(i < static_cast<int>(Rate));
         }
         for (unsigned later = 0; later < Rate / 10; ++later) {
-            guard.pass(tone(i++, 0.7));
+            limiter.pass(tone(i++, 0.7));
         }
-        QVERIFY(guard.isDucking());
-        QVERIFY(std::abs(guard.pass(0.5F)) < 0.01F);
+        QVERIFY(limiter.isDucking());
+        QVERIFY(std::abs(limiter.pass(0.5F)) < 0.01F);
         for (unsigned later = 0; later < 2 * Rate; ++later) {
-            guard.pass(0.0F);
+            limiter.pass(0.0F);
         }
-        QCOMPARE(guard.pass(0.1F), 0.1F);
+        QCOMPARE(limiter.pass(0.1F), 0.1F);
     }
 
-    // A microphone hears its own speaker 20 ms later, louder than it was played.
-    void feedbackDies_data()
+    // The microphone records the speaker with a delay of 20 ms, louder than it was played.
+    void stopsFeedback_data()
     {
         QTest::addColumn<double>("gain");
-        QTest::newRow("barely") << 1.05;
-        QTest::newRow("twice") << 2.0;
-        QTest::newRow("ten times") << 10.0;
+        QTest::newRow("gain 1.05") << 1.05;
+        QTest::newRow("gain 2") << 2.0;
+        QTest::newRow("gain 10") << 10.0;
     }
 
-    void feedbackDies()
+    void stopsFeedback()
     {
         QFETCH(double, gain);
         constexpr int Seconds = 30;
-        FeedbackLimiter guard(Rate);
+        FeedbackLimiter limiter(Rate);
         std::deque<float> air(Rate / 50, 0.0F);
         double loudSeconds = 0.0;
         for (int i = 0; i < Seconds * static_cast<int>(Rate); ++i) {
             const float voice = i < 4800 ? tone(i, 0.1) : 0.0F;
             const auto heard = static_cast<double>(air.front()) * gain;
-            const float passed = guard.pass(voice + static_cast<float>(std::min(1.0, heard)));
+            const float passed = limiter.pass(voice + static_cast<float>(std::min(1.0, heard)));
             air.pop_front();
             air.push_back(passed);
             QVERIFY(std::abs(passed) <= FeedbackLimiter::Ceiling * 1.001F);

@@ -1,22 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/LevelMeter.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
 #include <limits>
 
 using Platform::LevelMeter;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
-// The last level of so many seconds of a tone on an offset.
+// Feeds a tone with a constant offset and returns the last level.
 double feed(LevelMeter& meter, double seconds, double decibels, double offset = 0.0)
 {
-    const double amplitude = std::pow(10.0, decibels / 20.0);
+    const double amplitude = Platform::amplitudeOfDecibels(decibels);
     double level = -1.0;
     for (int i = 0; i < static_cast<int>(seconds * Rate); ++i) {
         const double sample = offset + amplitude * std::sin(2.0 * Pi * 1000.0 * i / Rate);
@@ -34,7 +35,7 @@ class tst_LevelMeter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scale()
+    void mapsAmplitudesToLevels()
     {
         QCOMPARE(LevelMeter::levelOf(0.0), 0.0);
         QCOMPARE(LevelMeter::levelOf(0.001), 0.0);
@@ -52,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(feed(meter, 0.6 * LevelMeter::FallSeconds, Silence), 0.0);
     }
 
-    void offsetIsNoSound()
+    void ignoresAConstantOffset()
     {
         LevelMeter meter(Rate);
         QVERIFY(feed(meter, 1.0, Silence, 0.3) < 0.001);
@@ -60,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(std::abs(feed(meter, 0.5, -20.0, 0.3) - 2.0 / 3.0) < 0.01);
     }
 
-    void noNumbersAreSilence()
+    void takesInvalidSamplesAsSilence()
     {
         LevelMeter meter(Rate);
         for (unsigned i = 0; i < Rate; ++i) {
@@ -70,19 +71,19 @@ private Q_SLOTS:
         }
     }
 
-    void hearing_data()
+    void tellsSoundFromNoise_data()
     {
         QTest::addColumn<double>("noise");
         QTest::addColumn<double>("sound");
         QTest::addColumn<bool>("isHeard");
-        QTest::newRow("whisper into silence") << Silence << -52.0 << false;
-        QTest::newRow("word into silence") << Silence << -45.0 << true;
+        QTest::newRow("whisper in silence") << Silence << -52.0 << false;
+        QTest::newRow("word in silence") << Silence << -45.0 << true;
         QTest::newRow("word no louder than the noise") << -45.0 << -40.0 << false;
         QTest::newRow("word over the noise") << -45.0 << -33.0 << true;
         QTest::newRow("noise as loud as speech") << -25.0 << -25.0 << true;
     }
 
-    void hearing()
+    void tellsSoundFromNoise()
     {
         QFETCH(double, noise);
         QFETCH(double, sound);
@@ -93,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(meter.hasHeardSound(), isHeard);
     }
 
-    void clicksAreNotHeard()
+    void ignoresClicks()
     {
         LevelMeter meter(Rate);
         feed(meter, 0.5, Silence);

@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/MicrophoneAnalysis.h"
+#include "platform/devices/sound/SoundMath.h"
 
 #include <QTest>
 #include <cmath>
 #include <random>
 
 using Platform::MicrophoneAnalysis;
+using Platform::Pi;
 
 namespace {
 
 constexpr unsigned Rate = 48000;
-constexpr double Pi = 3.14159265358979323846;
 
 double tone(unsigned i, double frequency, double amplitude)
 {
@@ -38,9 +39,9 @@ class tst_MicrophoneAnalysis : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingYet() { QVERIFY(MicrophoneAnalysis(Rate).figures().isEmpty()); }
+    void isEmptyAtFirst() { QVERIFY(MicrophoneAnalysis(Rate).figures().isEmpty()); }
 
-    void silence()
+    void measuresSilence()
     {
         MicrophoneAnalysis analysis(Rate);
         feed(analysis, 1.0, false, [](unsigned) { return 0.0; });
@@ -51,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(value(analysis, "bandwidthHz"), 0.0);
     }
 
-    void loudnessAndClipping()
+    void measuresLoudnessAndClipping()
     {
         MicrophoneAnalysis analysis(Rate);
         feed(analysis, 1.0, false, [](unsigned i) { return tone(i, 997.0, 0.001); });
@@ -59,24 +60,25 @@ private Q_SLOTS:
              [](unsigned i) { return std::min(1.0, std::max(-1.0, tone(i, 997.0, 2.0))); });
         QCOMPARE(value(analysis, "peakDb"), 0.0);
         QVERIFY(std::abs(value(analysis, "noiseFloorDb") + 63.0) < 0.2);
-        // Two thirds of such a tone's time are above its half, in one of the two seconds.
+        // A tone is above half its amplitude for two thirds of the time; this one sounds half the
+        // time.
         QVERIFY(std::abs(value(analysis, "clippedShare") - 1.0 / 3.0) < 0.01);
     }
 
-    void hum_data()
+    void detectsMainsHum_data()
     {
         QTest::addColumn<double>("frequency");
         QTest::newRow("50 Hz") << 50.0;
         QTest::newRow("60 Hz") << 60.0;
     }
 
-    void hum()
+    void detectsMainsHum()
     {
         QFETCH(double, frequency);
         MicrophoneAnalysis analysis(Rate);
         std::mt19937 engine(1);
         std::normal_distribution<double> noise(0.0, 0.01);
-        // The hum holds four fifths of the noise's energy: its first and its third harmonic.
+        // The first and third harmonic of the hum have four fifths of all the power.
         feed(analysis, 2.0, false, [&](unsigned i) {
             return tone(i, frequency, 0.02 * std::sqrt(1.5)) +
                    tone(i, 3.0 * frequency, 0.02 * std::sqrt(0.5)) + noise(engine);
@@ -86,7 +88,7 @@ private Q_SLOTS:
                  qPrintable(QString::number(value(analysis, "humShare"))));
     }
 
-    void bandwidth()
+    void measuresTheBandwidth()
     {
         MicrophoneAnalysis analysis(Rate);
         std::mt19937 engine(1);

@@ -10,33 +10,33 @@
 
 namespace Platform {
 
-// What the speakers, the microphones and the players of a process share while there are any: the
-// connection, the last list of devices, and the user's choice of a speaker. It goes with the last
-// of them. GUI thread only.
-class PulseSession : public QObject
+// The sound server as the GUI thread sees it: the connection, the last list of devices, and the
+// user's choice of a speaker. All speakers, microphones and players of the process share it. The
+// first of them creates it, the last one destroys it. GUI thread only.
+class PulseServer : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY(PulseSession)
+    Q_DISABLE_COPY(PulseServer)
 
 public:
-    PulseSession();
-    ~PulseSession() override;
+    PulseServer();
+    ~PulseServer() override;
 
     PulseConnection& connection() { return *m_connection; }
-    bool isKnown() const { return m_isKnown; } // the first answer, or refusal, is in
+    bool isKnown() const { return m_isKnown; } // the server answered, or there is none
     const PulseDevices& devices() const { return m_devices; }
-    // An order number for PulseConnection::setVolume has been given out and sent with it.
+    // Returns the number of the order; see PulseSide::settledOrder.
     quint64 setVolume(PulseKind kind, const QString& id, int percent);
 
-    // The chosen speaker, or the server's where none was chosen; empty while it isn't there.
+    // The chosen speaker, or the server's default if none was chosen. Empty while it is absent.
     QString speakerId() const;
-    void chooseSpeaker(const QString& id); // an empty id goes back to the server's
-    // Playing on it failed although it is there.
+    void chooseSpeaker(const QString& id); // an empty id: follow the server's default
+    // The last playback on it failed although it is there.
     bool hasSpeakerFailed() const { return m_failedSpeakerId == speakerId(); }
     void setSpeakerFailed(const QString& id, bool hasFailed);
 
 Q_SIGNALS:
-    // From the event loop, never from inside a call.
+    // Emitted from the event loop, never during a call to this class.
     void changed();
 
 private:

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/DeviceVolume.h"
-
-#include "platform/devices/pulse/PulseDevices.h"
+#include "platform/devices/sound/DeviceVolume.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,10 +12,10 @@ DeviceVolume::DeviceVolume(int maximum) : m_maximum(maximum)
 {
 }
 
-void DeviceVolume::reset(const PulseDevice* device)
+void DeviceVolume::reset(const VolumeState& state)
 {
-    m_percent = device ? percentOf(*device) : 0;
-    m_isMuted = device && device->isMuted;
+    m_percent = limited(state.percent);
+    m_isMuted = state.isMuted;
     m_awaitedOrder = 0;
     m_found.reset(m_percent, m_isMuted);
 }
@@ -35,13 +33,13 @@ void DeviceVolume::await(quint64 order)
     m_awaitedOrder = order;
 }
 
-bool DeviceVolume::take(const PulseDevice& device, quint64 settledOrder)
+bool DeviceVolume::take(const VolumeState& state, quint64 settledOrder)
 {
     if (settledOrder < m_awaitedOrder) {
         return false;
     }
-    m_isMuted = device.isMuted;
-    const int percent = percentOf(device);
+    m_isMuted = state.isMuted;
+    const int percent = limited(state.percent);
     return std::exchange(m_percent, percent) != percent;
 }
 
@@ -50,9 +48,9 @@ void DeviceVolume::addTo(QJsonObject& figures) const
     m_found.addTo(figures, m_percent, m_isMuted);
 }
 
-int DeviceVolume::percentOf(const PulseDevice& device) const
+int DeviceVolume::limited(double percent) const
 {
-    return std::clamp(static_cast<int>(std::lround(device.volumePercent())), 0, m_maximum);
+    return std::clamp(static_cast<int>(std::lround(percent)), 0, m_maximum);
 }
 
 } // namespace Platform

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseSession.h"
+#include "platform/devices/pulse/PulseServer.h"
 
 #include <mutex>
 #include <optional>
@@ -8,16 +8,16 @@
 
 namespace Platform {
 
-// The newest list on its way to the GUI thread. One that comes before the last was fetched replaces
-// it, so that a storm of changes doesn't pile up in the event loop.
-struct PulseSession::Arrival
+// The newest list on its way to the GUI thread. It replaces a list that was not fetched yet, so
+// that many changes at once don't fill the event loop.
+struct PulseServer::Arrival
 {
     std::mutex mutex;
     std::optional<PulseDevices> devices;
 
-    bool put(const PulseDevices& newest) // true where nobody is on the way to fetch it
+    bool put(const PulseDevices& newest) // true if no message to fetch it is on its way
     {
-        const std::lock_guard lock(mutex);
+        const std::scoped_lock lock(mutex);
         const bool isFirst = !devices;
         devices = newest;
         return isFirst;
@@ -25,12 +25,12 @@ struct PulseSession::Arrival
 
     PulseDevices take()
     {
-        const std::lock_guard lock(mutex);
+        const std::scoped_lock lock(mutex);
         return *std::exchange(devices, std::nullopt);
     }
 };
 
-PulseSession::PulseSession() : m_arrival(std::make_shared<Arrival>())
+PulseServer::PulseServer() : m_arrival(std::make_shared<Arrival>())
 {
     m_connection = std::make_unique<PulseConnection>(
         [this, arrival = m_arrival, sender = m_mailbox.sender()](const PulseDevices& devices) {
@@ -40,9 +40,9 @@ PulseSession::PulseSession() : m_arrival(std::make_shared<Arrival>())
         });
 }
 
-PulseSession::~PulseSession() = default;
+PulseServer::~PulseServer() = default;
 
-quint64 PulseSession::setVolume(PulseKind kind, const QString& id, int percent)
+quint64 PulseServer::setVolume(PulseKind kind, const QString& id, int percent)
 {
     const quint64 order = ++m_lastOrder;
     m_connection->run([connection = m_connection.get(), kind, id, percent, order] {
@@ -51,7 +51,7 @@ quint64 PulseSession::setVolume(PulseKind kind, const QString& id, int percent)
     return order;
 }
 
-QString PulseSession::speakerId() const
+QString PulseServer::speakerId() const
 {
     if (m_chosenSpeakerId.isEmpty()) {
         return m_devices.speakers.preferredId();
@@ -59,14 +59,14 @@ QString PulseSession::speakerId() const
     return m_devices.speakers.find(m_chosenSpeakerId) ? m_chosenSpeakerId : QString();
 }
 
-void PulseSession::chooseSpeaker(const QString& id)
+void PulseServer::chooseSpeaker(const QString& id)
 {
     m_chosenSpeakerId = id;
     m_failedSpeakerId.clear();
     announce();
 }
 
-void PulseSession::setSpeakerFailed(const QString& id, bool hasFailed)
+void PulseServer::setSpeakerFailed(const QString& id, bool hasFailed)
 {
     const QString failed = hasFailed && m_devices.speakers.find(id) ? id : QString();
     if (m_failedSpeakerId != failed) {
@@ -75,7 +75,7 @@ void PulseSession::setSpeakerFailed(const QString& id, bool hasFailed)
     }
 }
 
-void PulseSession::takeDevices(const PulseDevices& devices)
+void PulseServer::takeDevices(const PulseDevices& devices)
 {
     m_isKnown = true;
     m_devices = devices;
@@ -85,7 +85,7 @@ void PulseSession::takeDevices(const PulseDevices& devices)
     Q_EMIT changed();
 }
 
-void PulseSession::announce()
+void PulseServer::announce()
 {
     m_mailbox.sender().post([this] { Q_EMIT changed(); });
 }
