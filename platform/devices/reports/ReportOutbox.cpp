@@ -3,13 +3,11 @@
 #include "platform/devices/reports/ReportOutbox.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/Log.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QUuid>
-
-Q_LOGGING_CATEGORY(reportLog, "engine.reports")
 
 namespace Platform {
 
@@ -49,9 +47,10 @@ ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
     }
     const QUrl url = webAddress(reportUrl);
     if (url.isEmpty()) {
-        qCWarning(reportLog).noquote() << "Reports are not posted: the report address" << reportUrl
-                                       << "is not one. Give it as http://HOST/PATH or "
-                                          "https://HOST/PATH";
+        qCWarning(Log::reports).noquote()
+            << "Reports are not posted: the report address" << reportUrl
+            << "is not one. Give it as http://HOST/PATH or "
+               "https://HOST/PATH";
         return;
     }
     startPosting(url, limits);

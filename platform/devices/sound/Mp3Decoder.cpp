@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/Mp3Decoder.h"
 
+#include "platform/backend/Log.h"
 #include "platform/devices/sound/SoundBuffer.h"
 
 #include <QFile>
-#include <QLoggingCategory>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -18,8 +18,6 @@
 namespace Platform {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcPlayer, "envcheck.devices.player", QtInfoMsg)
 
 // The first piece is short, so that the sound starts soon; the later ones spare the hand-overs.
 constexpr std::size_t FirstPieceSamples = 2304;
@@ -115,7 +113,7 @@ void Mp3Decoder::decode(const QString& path, float volume, SoundBuffer& buffer)
         problem = readSound(file.descriptor, volume, buffer);
     }
     if (!problem.isEmpty()) {
-        qCInfo(lcPlayer) << "The sound" << path << "ends early:" << problem;
+        qCInfo(Log::player) << "The sound" << path << "ends early:" << problem;
     }
     buffer.end();
 }
