@@ -12,10 +12,9 @@ namespace Platform {
 
 enum class PulseKind { Speaker, Microphone };
 
-struct PulseDevice
+// Its id is the server's name of it, which outlives a replugging.
+struct PulseDevice : DeviceInfo
 {
-    QString id; // the server's name of it, which outlives a replugging
-    QString name;
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
@@ -38,8 +37,6 @@ struct PulseSide
     QString defaultName() const; // null where there is none
     DeviceList list() const;
 };
-
-QString nameIn(const DeviceList& list, const QString& id); // empty where it isn't in it
 
 // What the sound server has, at one moment.
 struct PulseDevices
