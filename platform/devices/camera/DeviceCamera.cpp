@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/DeviceCamera.h"
 
+#include "platform/backend/Log.h"
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/camera/CameraLog.h"
 #include "platform/devices/camera/FrameSlot.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace Platform {
@@ -90,7 +89,7 @@ DeviceState DeviceCamera::state() const
     if (m_currentId.isEmpty()) {
         return DeviceState::Off;
     }
-    if (findDevice(m_currentId) == nullptr) {
+    if (!findDevice(m_devices, m_currentId)) {
         return DeviceState::Absent;
     }
     if (delivers()) {
@@ -141,7 +140,7 @@ void DeviceCamera::onListArrived(const DeviceList& devices, const QString& prefe
     if (!m_isChosen && !m_devices.empty()) {
         chooseFirst(preferredId);
     }
-    if (const DeviceInfo* device = findDevice(m_currentId)) {
+    if (const DeviceInfo* device = findDevice(m_devices, m_currentId)) {
         m_currentName = device->name;
     }
     if (isListChanged) {
@@ -158,7 +157,7 @@ void DeviceCamera::onStateChanged(int generation, DeviceState state)
         return;
     }
     m_openState = state;
-    qCInfo(CameraLog, "\"%s\" is %s", qUtf8Printable(m_currentName),
+    qCInfo(Log::camera, "\"%s\" is %s", qUtf8Printable(m_currentName),
            qUtf8Printable(toString(this->state())));
     notifyWorkState();
 }
@@ -198,7 +197,7 @@ void DeviceCamera::chooseFirst(const QString& preferredId)
     const QVariant remembered = m_settings.value(CurrentCameraKey);
     const QString id = remembered.toString();
     const bool isOff = remembered.isValid() && id.isEmpty();
-    choose(isOff || findDevice(id) != nullptr ? id : preferredId);
+    choose(isOff || findDevice(m_devices, id) ? id : preferredId);
 }
 
 void DeviceCamera::choose(const QString& id)
@@ -206,8 +205,7 @@ void DeviceCamera::choose(const QString& id)
     m_isChosen = true;
     m_didDeliver = false;
     m_currentId = id;
-    const DeviceInfo* device = findDevice(id);
-    m_currentName = device == nullptr ? QString() : device->name;
+    m_currentName = nameIn(m_devices, id);
     if (m_isStarted) {
         openCurrent();
     }
@@ -233,13 +231,6 @@ void DeviceCamera::recordMeasurement()
     figures.insert(QStringLiteral("state"), toString(state()));
     figures.insert(QStringLiteral("device"), m_currentName);
     m_report.recordMeasurement(QStringLiteral("camera"), figures);
-}
-
-const DeviceInfo* DeviceCamera::findDevice(const QString& id) const
-{
-    const auto it = std::find_if(m_devices.cbegin(), m_devices.cend(),
-                                 [&id](const DeviceInfo& device) { return device.id == id; });
-    return it == m_devices.cend() ? nullptr : &*it;
 }
 
 // By letter, as no listener is called from inside a call.

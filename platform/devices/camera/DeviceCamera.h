@@ -53,7 +53,6 @@ private:
     void choose(const QString& id);
     void openCurrent();
     void recordMeasurement();
-    const DeviceInfo* findDevice(const QString& id) const;
     void notifyCurrentChanged();
     void notifyWorkState();
 

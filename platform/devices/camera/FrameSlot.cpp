@@ -84,7 +84,7 @@ bool FrameSlot::isSilent(Clock::time_point since) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const Clock::time_point now = Clock::now();
-    return !m_rule.delivers(now) && now - since > m_rule.allowance();
+    return !m_rule.delivers(now) && now - since > m_rule.duration();
 }
 
 } // namespace Platform

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/StallTimeout.h"
 #include "platform/devices/camera/FrameStatistics.h"
-#include "platform/devices/camera/StallTimeout.h"
 
 #include <QImage>
 #include <QJsonObject>

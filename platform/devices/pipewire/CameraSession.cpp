@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/CameraSession.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 
 namespace Platform {
 
@@ -109,7 +109,7 @@ void CameraSession::streamRuns()
 void CameraSession::streamEnded(const QString& error)
 {
     if (!error.isEmpty()) {
-        qCInfo(CameraLog, "%s", qUtf8Printable(error));
+        qCInfo(Log::camera, "%s", qUtf8Printable(error));
         m_slot->interrupt(m_generation); // first, or it would pass for one that still delivers
         report(stateOf(error));
     }
@@ -143,7 +143,7 @@ void CameraSession::openStream()
     }
     m_serial = *serial;
     if (m_connection.cameras().isUnreadable(m_id)) { // nobody would say so: it would pass for hung
-        qCInfo(CameraLog, "The camera offers no format that can be shown");
+        qCInfo(Log::camera, "The camera offers no format that can be shown");
         report(DeviceState::Failed);
         return;
     }

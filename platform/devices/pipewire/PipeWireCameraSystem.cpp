@@ -3,7 +3,7 @@
 #include "platform/devices/pipewire/PipeWireCameraSystem.h"
 
 #include "platform/devices/camera/DeviceCamera.h"
-#include "platform/devices/camera/EndingThreads.h"
+#include "platform/backend/EndingThreads.h"
 #include "platform/devices/pipewire/PipeWireFeed.h"
 #include "platform/devices/pipewire/PipeWireThread.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 #include "platform/devices/pipewire/NodeProperties.h"
 
 #include <algorithm>
@@ -109,7 +109,7 @@ void PipeWireConnection::connectToServer()
         const bool isDenied = reason == EACCES || reason == EPERM;
         if (isDenied != m_isDenied) {
             m_isDenied = isDenied;
-            qCInfo(CameraLog, "The camera server refuses the connection: %s", strerror(reason));
+            qCInfo(Log::camera, "The camera server refuses the connection: %s", strerror(reason));
             announce();
         }
         if (!isDenied && !m_wasReached && !m_isMissing) {
@@ -150,7 +150,7 @@ void PipeWireConnection::disconnectFromServer()
 
 void PipeWireConnection::onServerGone()
 {
-    qCInfo(CameraLog, "The camera server is gone");
+    qCInfo(Log::camera, "The camera server is gone");
     for (Observer* observer : m_observers) {
         observer->connectionLost();
     }

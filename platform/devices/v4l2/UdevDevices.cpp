@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/UdevDevices.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 
 #include <cstring>
 #include <libudev.h>
@@ -60,7 +60,7 @@ void UdevDevices::watch()
     if (m_monitor == nullptr ||
         udev_monitor_filter_add_match_subsystem_devtype(m_monitor, Subsystem, nullptr) < 0 ||
         udev_monitor_enable_receiving(m_monitor) < 0) {
-        qCInfo(CameraLog, "udev tells no changes: cameras plugged in later aren't noticed");
+        qCInfo(Log::camera, "udev tells no changes: cameras plugged in later aren't noticed");
         return;
     }
     m_notifier =

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Feed.h"
 
-#include "platform/devices/camera/EndingThreads.h"
+#include "platform/backend/EndingThreads.h"
 #include "platform/devices/v4l2/V4l2Session.h"
 #include "platform/devices/v4l2/V4l2Thread.h"
 

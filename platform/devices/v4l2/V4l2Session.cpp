@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Session.h"
 
-#include "platform/devices/camera/CameraLog.h"
-#include "platform/devices/camera/EndingThreads.h"
+#include "platform/backend/Log.h"
+#include "platform/backend/EndingThreads.h"
 
 namespace Platform {
 
@@ -124,7 +124,7 @@ void V4l2Session::firstFrameArrived()
 
 void V4l2Session::streamEnded(DeviceState state, const QString& error)
 {
-    qCInfo(CameraLog, "%s", qUtf8Printable(error));
+    qCInfo(Log::camera, "%s", qUtf8Printable(error));
     dropStream();
     report(state);
     m_retryTimer.start();

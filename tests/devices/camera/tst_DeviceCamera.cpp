@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/DeviceCamera.h"
-#include "platform/devices/camera/EndingThreads.h"
+#include "platform/backend/EndingThreads.h"
 #include "platform/devices/camera/FrameSlot.h"
 #include "tests/support/MemoryReport.h"
 
