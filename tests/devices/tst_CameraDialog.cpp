@@ -77,7 +77,7 @@ private:
     void openCameraPage() const { m_dialog->click("label_CameraCheck"); }
     void openSystemPage() const { m_dialog->click("label_SystemCheck"); }
     void chooseInPopup(const QString& text) const;
-    bool previewShows(QRgb colour) const;
+    bool previewShows(QRgb color) const;
     QStringList entries() const;
     const QWidget* balloon() const; // null while none is visible
     void keepFrame(const char* name) const { QVERIFY(m_dialog->keepFrame(QLatin1String(name))); }
@@ -320,14 +320,14 @@ void tst_CameraDialog::chooseInPopup(const QString& text) const
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
 }
 
-bool tst_CameraDialog::previewShows(QRgb colour) const
+bool tst_CameraDialog::previewShows(QRgb color) const
 {
     const QImage picture = child<QWidget>("f_video_player")->grab().toImage();
     int hits = 0;
     constexpr int Places = 9; // over the middle, which a picture of any shape covers
     for (int i = 0; i < Places; ++i) {
         const int x = picture.width() * (Places + i) / (3 * Places);
-        hits += isNear(picture.pixel(x, picture.height() / 2), colour) ? 1 : 0;
+        hits += isNear(picture.pixel(x, picture.height() / 2), color) ? 1 : 0;
     }
     return hits > Places / 2;
 }

@@ -122,11 +122,11 @@ QByteArray CameraPattern::picture(int number) const
 }
 
 // BT.601, limited range
-CameraPattern::Yuv CameraPattern::toYuv(QRgb colour)
+CameraPattern::Yuv CameraPattern::toYuv(QRgb color)
 {
-    const double r = qRed(colour) / 255.0;
-    const double g = qGreen(colour) / 255.0;
-    const double b = qBlue(colour) / 255.0;
+    const double r = qRed(color) / 255.0;
+    const double g = qGreen(color) / 255.0;
+    const double b = qBlue(color) / 255.0;
     const double y = 0.299 * r + 0.587 * g + 0.114 * b;
     return {static_cast<uchar>(byte(16.0 + 219.0 * y)),
             static_cast<uchar>(byte(128.0 + 224.0 * (b - y) / 1.772)),
@@ -149,7 +149,7 @@ QRgb CameraPattern::pixel(int x, bool isTop, int number) const
     const int barWidth = width / BarShare;
     const int bar =
         width / BandShare + (number * width / StepShare) % (width - width / BandShare - barWidth);
-    return x >= bar && x < bar + barWidth ? Bar : m_colour.rgb();
+    return x >= bar && x < bar + barWidth ? Bar : m_color.rgb();
 }
 
 QByteArray CameraPattern::row(int number, bool isTop) const
@@ -158,11 +158,11 @@ QByteArray CameraPattern::row(int number, bool isTop) const
     QByteArray result;
     result.reserve(m_stride);
     for (int x = 0; x < width; ++x) {
-        const QRgb colour = pixel(x, isTop, number);
-        const char r = byte(qRed(colour));
-        const char g = byte(qGreen(colour));
-        const char b = byte(qBlue(colour));
-        const Yuv yuv = toYuv(colour);
+        const QRgb color = pixel(x, isTop, number);
+        const char r = byte(qRed(color));
+        const char g = byte(qGreen(color));
+        const char b = byte(qBlue(color));
+        const Yuv yuv = toYuv(color);
         const auto y = static_cast<char>(yuv.y);
         const auto chroma = static_cast<char>(x % 2 == 0 ? yuv.u : yuv.v);
         switch (m_layout) {

@@ -9,7 +9,7 @@
 
 namespace TestSupport {
 
-// The pictures of the virtual camera: one colour, a blue band at the left edge, a white bar that
+// The pictures of the virtual camera: one color, a blue band at the left edge, a white bar that
 // moves. Written without the conversions that are under test.
 class CameraPattern
 {
@@ -28,7 +28,7 @@ public:
     int maxBytes() const;
 
     void setSize(const QSize& size);
-    void setColour(const QColor& colour) { m_colour = colour; }
+    void setColor(const QColor& color) { m_color = color; }
     void setBlack() { m_isBlack = true; }
     void setNumbered(bool on) { m_isNumbered = on; }
 
@@ -40,7 +40,7 @@ private:
         uchar y, u, v;
     };
 
-    static Yuv toYuv(QRgb colour);
+    static Yuv toYuv(QRgb color);
 
     QRgb pixel(int x, bool isTop, int number) const;
     QByteArray row(int number, bool isTop) const;
@@ -52,7 +52,7 @@ private:
     QSize m_size;
     int m_rowPadding;
     int m_stride = 0;
-    QColor m_colour = QColor(200, 40, 40);
+    QColor m_color = QColor(200, 40, 40);
     bool m_isNumbered = false;
     bool m_isBlack = false;
 };

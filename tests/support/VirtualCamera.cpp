@@ -13,7 +13,7 @@ namespace TestSupport {
 namespace {
 
 const char PropertySize[] = "size ";
-const char PropertyColour[] = "color ";
+const char PropertyColor[] = "color ";
 const char PropertyError[] = "error ";
 
 uint32_t spaFormat(CameraPattern::Layout layout)
@@ -233,8 +233,8 @@ void VirtualCamera::obey(const QByteArray& line)
         m_pattern.setBlack();
     } else if (line == "quit") {
         pw_main_loop_quit(m_mainLoop);
-    } else if (!argument(PropertyColour).isEmpty()) {
-        m_pattern.setColour(QColor(QString::fromLatin1('#' + argument(PropertyColour))));
+    } else if (!argument(PropertyColor).isEmpty()) {
+        m_pattern.setColor(QColor(QString::fromLatin1('#' + argument(PropertyColor))));
     } else if (!argument(PropertySize).isEmpty()) {
         const QList<QByteArray> edges = argument(PropertySize).split('x');
         resize(QSize(edges.value(0).toInt(), edges.value(1).toInt()));

@@ -43,7 +43,7 @@ int main(int argc, char* argv[])
         return 2;
     }
     CameraPattern pattern(layout, QSize(number("width"), number("height")), number("padding"));
-    pattern.setColour(QColor(QLatin1Char('#') + text("color")));
+    pattern.setColor(QColor(QLatin1Char('#') + text("color")));
     pattern.setNumbered(isSet("numbered"));
 
     VirtualCamera::Options options;

@@ -29,7 +29,7 @@ bool CameraList::isCamera(const CameraNode& node)
     if (!node.capabilities.isEmpty() && !node.capabilities.contains(CaptureCapability)) {
         return false;
     }
-    return (node.hasColour || !node.hasFormats) && !isNamedInfrared(node.description);
+    return (node.hasColor || !node.hasFormats) && !isNamedInfrared(node.description);
 }
 
 bool CameraList::add(quint32 globalId, const CameraNode& node)
@@ -70,11 +70,12 @@ std::optional<QString> CameraList::serialOf(const QString& id) const
     return it == nodes.end() ? std::nullopt : std::make_optional(it->second->serial);
 }
 
-bool CameraList::isUnreadable(const QString& id) const
+bool CameraList::isReadable(const QString& serial) const
 {
-    const auto nodes = byId();
-    const auto it = nodes.find(id);
-    return it != nodes.end() && it->second->hasFormats && !it->second->isReadable;
+    return std::none_of(m_nodes.begin(), m_nodes.end(), [&serial](const auto& entry) {
+        const CameraNode& node = entry.second;
+        return node.serial == serial && node.hasFormats && !node.isReadable;
+    });
 }
 
 QString CameraList::preferredId() const

@@ -22,13 +22,13 @@ struct CameraNode
     std::optional<quint32> deviceId; // the server's number for its device
     int priority = 0;                // the session's preference
     bool hasFormats = false;
-    bool hasColour = false;  // one of the formats has
+    bool hasColor = false;   // one of the formats has
     bool isReadable = false; // one of the formats can be shown
 };
 
 // The cameras among the server's video sources. Hidden are: sources with another role than
 // "Camera", nodes of a device that can't capture (metadata), and infrared or depth sensors, which
-// offer grey formats alone or are named so.
+// offer gray formats alone or are named so.
 class CameraList
 {
 public:
@@ -42,8 +42,8 @@ public:
     // An id is the place, without one the name: both survive replugging.
     DeviceList devices() const; // in the order of the ids, names distinct
     bool contains(const QString& id) const { return serialOf(id).has_value(); }
-    // Whether it offers formats and none can be shown.
-    bool isUnreadable(const QString& id) const;
+    // False if the camera with this serial offers formats and none can be shown.
+    bool isReadable(const QString& serial) const;
     std::optional<QString> serialOf(const QString& id) const;
     QString preferredId() const; // empty where there is none
 

@@ -26,16 +26,16 @@ bool isReasonable(const QSize& size)
     return !size.isEmpty() && size.width() <= MaxEdge && size.height() <= MaxEdge;
 }
 
-const libyuv::YuvConstants* constantsOf(YuvColour colour)
+const libyuv::YuvConstants* constantsOf(YuvColor color)
 {
-    switch (colour) {
-    case YuvColour::Bt601:
+    switch (color) {
+    case YuvColor::Bt601:
         return &libyuv::kYuvI601Constants;
-    case YuvColour::Bt601Full:
+    case YuvColor::Bt601Full:
         return &libyuv::kYuvJPEGConstants;
-    case YuvColour::Bt709:
+    case YuvColor::Bt709:
         return &libyuv::kYuvH709Constants;
-    case YuvColour::Bt709Full:
+    case YuvColor::Bt709Full:
         return &libyuv::kYuvF709Constants;
     }
     return &libyuv::kYuvI601Constants;
@@ -200,7 +200,7 @@ bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
                        libyuv::kFilterBox);
     return libyuv::I422ToARGBMatrix(smallY, smallWidth, smallU, smallHalf, smallV, smallHalf,
                                     sized(m_argb, smallWidth * 4, rows), smallWidth * 4,
-                                    constantsOf(source.format.colour), smallWidth, rows) == 0;
+                                    constantsOf(source.format.color), smallWidth, rows) == 0;
 }
 
 bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
@@ -220,7 +220,7 @@ bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
     libyuv::NV12Scale(view.planes[0].data, yStride, view.planes[1].data, uvStride, source.width(),
                       source.height(), y, width, uv, uvWidth, width, height, libyuv::kFilterBox);
     return libyuv::NV12ToARGBMatrix(y, width, uv, uvWidth, sized(m_argb, width * 4, height),
-                                    width * 4, constantsOf(source.format.colour), width,
+                                    width * 4, constantsOf(source.format.color), width,
                                     height) == 0;
 }
 
@@ -246,7 +246,7 @@ bool FrameConverter::scaleI420(const Source& source, const QSize& size)
                       smallHalf, v, smallHalf, width, height, libyuv::kFilterBox);
     return libyuv::I420ToARGBMatrix(y, width, u, smallHalf, v, smallHalf,
                                     sized(m_argb, width * 4, height), width * 4,
-                                    constantsOf(source.format.colour), width, height) == 0;
+                                    constantsOf(source.format.color), width, height) == 0;
 }
 
 bool FrameConverter::scaleRgb(const Source& source, const QSize& size)
@@ -294,7 +294,7 @@ bool FrameConverter::scaleMjpg(const Source& source, const QSize& size)
                            height, width, height) != 0) {
         return false;
     }
-    PixelFormat format{PixelLayout::I420, YuvColour::Bt601Full, source.format.size};
+    PixelFormat format{PixelLayout::I420, YuvColor::Bt601Full, source.format.size};
     FrameView view;
     view.planeCount = 3;
     for (std::size_t i = 0; i < view.planes.size(); ++i) {

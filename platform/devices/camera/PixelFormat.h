@@ -13,13 +13,13 @@ namespace Platform {
 enum class PixelLayout { None, Yuy2, Uyvy, Nv12, I420, Bgrx, Rgbx, Xrgb, Xbgr, Rgb, Bgr, Mjpg };
 
 // What the numbers of a YUV picture mean.
-enum class YuvColour { Bt601, Bt601Full, Bt709, Bt709Full };
+enum class YuvColor { Bt601, Bt601Full, Bt709, Bt709Full };
 
 // What a camera agreed to send.
 struct PixelFormat
 {
     PixelLayout layout = PixelLayout::None;
-    YuvColour colour = YuvColour::Bt601;
+    YuvColor color = YuvColor::Bt601;
     QSize size;
 };
 

@@ -90,10 +90,10 @@ void PipeWireConnection::quit()
 
 QString PipeWireConnection::errorOf(const QString& serial) const
 {
-    const auto it = std::find_if(m_probes.cbegin(), m_probes.cend(), [&serial](const auto& entry) {
+    const auto it = std::find_if(m_nodes.cbegin(), m_nodes.cend(), [&serial](const auto& entry) {
         return entry.second->node().serial == serial;
     });
-    return it == m_probes.cend() ? QString() : it->second->error();
+    return it == m_nodes.cend() ? QString() : it->second->error();
 }
 
 void PipeWireConnection::connectToServer()
@@ -133,7 +133,7 @@ void PipeWireConnection::connectToServer()
 
 void PipeWireConnection::disconnectFromServer()
 {
-    m_probes.clear();
+    m_nodes.clear();
     m_devices.clear();
     m_links.clear();
     if (m_registry != nullptr) {
@@ -176,19 +176,19 @@ void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* 
     }
     const QString mediaClass = propertyOf(properties, PW_KEY_MEDIA_CLASS);
     if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0 && mediaClass == QLatin1String("Video/Source")) {
-        m_probes[id] = std::make_unique<NodeProbe>(m_registry, id, properties, *this);
+        m_nodes[id] = std::make_unique<NodeProxy>(m_registry, id, properties, *this);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Device) == 0 &&
                mediaClass == QLatin1String("Video/Device")) {
-        m_devices[id] = std::make_unique<DeviceProbe>(m_registry, id, *this);
+        m_devices[id] = std::make_unique<DeviceProxy>(m_registry, id, *this);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Link) == 0 &&
-               m_probes.count(propertyOf(properties, PW_KEY_LINK_OUTPUT_NODE).toUInt()) > 0) {
-        m_links[id] = std::make_unique<LinkProbe>(m_registry, id, *this);
+               m_nodes.count(propertyOf(properties, PW_KEY_LINK_OUTPUT_NODE).toUInt()) > 0) {
+        m_links[id] = std::make_unique<LinkProxy>(m_registry, id, *this);
     }
 }
 
 void PipeWireConnection::onGlobalRemoved(quint32 id)
 {
-    m_probes.erase(id);
+    m_nodes.erase(id);
     m_devices.erase(id);
     m_links.erase(id);
     if (m_cameras.remove(id)) {
@@ -210,17 +210,17 @@ void PipeWireConnection::nodeDescribed(quint32 globalId, const CameraNode& node)
 // Usually before any of its nodes is.
 void PipeWireConnection::deviceDescribed(quint32 globalId)
 {
-    for (const auto& [nodeId, probe] : m_probes) {
-        if (probe->isDone() && probe->node().deviceId == globalId) {
-            nodeDescribed(nodeId, probe->node());
+    for (const auto& [nodeId, node] : m_nodes) {
+        if (node->isDone() && node->node().deviceId == globalId) {
+            nodeDescribed(nodeId, node->node());
         }
     }
 }
 
 void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const QString& error)
 {
-    const auto it = m_probes.find(nodeId);
-    if (it == m_probes.cend()) {
+    const auto it = m_nodes.find(nodeId);
+    if (it == m_nodes.cend()) {
         return;
     }
     for (Observer* observer : m_observers) {
@@ -238,7 +238,7 @@ void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error
 // The first list is told as a whole and at once; what comes later may come in bursts.
 void PipeWireConnection::listMayBeComplete()
 {
-    const bool isPending = std::any_of(m_probes.cbegin(), m_probes.cend(),
+    const bool isPending = std::any_of(m_nodes.cbegin(), m_nodes.cend(),
                                        [](const auto& entry) { return !entry.second->isDone(); });
     if (!m_isListed && m_isRegistryRead && !isPending) {
         m_isListed = true;

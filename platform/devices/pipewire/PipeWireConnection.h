@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/devices/camera/CameraList.h"
-#include "platform/devices/pipewire/DeviceProbe.h"
-#include "platform/devices/pipewire/LinkProbe.h"
+#include "platform/devices/pipewire/DeviceProxy.h"
+#include "platform/devices/pipewire/LinkProxy.h"
 #include "platform/devices/pipewire/LoopTimer.h"
-#include "platform/devices/pipewire/NodeProbe.h"
+#include "platform/devices/pipewire/NodeProxy.h"
 
 #include <map>
 #include <memory>
@@ -17,9 +17,9 @@ namespace Platform {
 
 // The connection to the camera server: the list of cameras, kept while the server goes and comes
 // back. On the camera thread only.
-class PipeWireConnection final : public NodeProbe::Listener,
-                                 public DeviceProbe::Listener,
-                                 public LinkProbe::Listener
+class PipeWireConnection final : public NodeProxy::Listener,
+                                 public DeviceProxy::Listener,
+                                 public LinkProxy::Listener
 {
 public:
     class Observer
@@ -90,9 +90,9 @@ private:
     bool m_isListed = false;
     bool m_isDenied = false;
     CameraList m_cameras;
-    std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // one for each video source
-    std::map<quint32, std::unique_ptr<DeviceProbe>> m_devices;
-    std::map<quint32, std::unique_ptr<LinkProbe>> m_links;
+    std::map<quint32, std::unique_ptr<NodeProxy>> m_nodes; // one for each video source
+    std::map<quint32, std::unique_ptr<DeviceProxy>> m_devices;
+    std::map<quint32, std::unique_ptr<LinkProxy>> m_links;
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;

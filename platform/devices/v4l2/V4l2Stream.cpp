@@ -65,13 +65,13 @@ PixelLayout layoutOf(GstVideoFormat format)
     }
 }
 
-YuvColour colourOf(const GstVideoColorimetry& colorimetry)
+YuvColor colorOf(const GstVideoColorimetry& colorimetry)
 {
     const bool isFull = colorimetry.range == GST_VIDEO_COLOR_RANGE_0_255;
     if (colorimetry.matrix == GST_VIDEO_COLOR_MATRIX_BT709) {
-        return isFull ? YuvColour::Bt709Full : YuvColour::Bt709;
+        return isFull ? YuvColor::Bt709Full : YuvColor::Bt709;
     }
-    return isFull ? YuvColour::Bt601Full : YuvColour::Bt601;
+    return isFull ? YuvColor::Bt601Full : YuvColor::Bt601;
 }
 
 // The system's own words for a reason, in its own language.
@@ -257,7 +257,7 @@ void V4l2Stream::deliver(GstSample* sample)
     if (gst_video_info_from_caps(&info, caps) == 0) {
         return;
     }
-    PixelFormat format{PixelLayout::Mjpg, colourOf(info.colorimetry),
+    PixelFormat format{PixelLayout::Mjpg, colorOf(info.colorimetry),
                        QSize(GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info))};
     FrameView view;
     QImage picture;

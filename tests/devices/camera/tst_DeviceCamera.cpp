@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/backend/EndingThreads.h"
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/DeviceCamera.h"
-#include "platform/backend/EndingThreads.h"
 #include "platform/devices/camera/FrameSlot.h"
 #include "tests/support/MemoryReport.h"
 

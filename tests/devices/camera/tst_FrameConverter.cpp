@@ -36,9 +36,9 @@ QByteArray smallPicture()
     return result;
 }
 
-const PixelFormat SmallFormat{PixelLayout::Bgrx, YuvColour::Bt601, QSize(4, 2)};
+const PixelFormat SmallFormat{PixelLayout::Bgrx, YuvColor::Bt601, QSize(4, 2)};
 
-// The colours' first letters, row by row.
+// The colors' first letters, row by row.
 QString letters(const QImage& picture)
 {
     QString result;
@@ -67,8 +67,8 @@ private Q_SLOTS:
     void orients_data();
     void orients();
     void takesSeparatePlanes();
-    void honoursTheColourMatrix_data();
-    void honoursTheColourMatrix();
+    void honorsTheColorMatrix_data();
+    void honorsTheColorMatrix();
     void refusesShortPictures_data();
     void refusesShortPictures();
     void refusesAbsurdSizes();
@@ -132,7 +132,7 @@ void tst_FrameConverter::takesSeparatePlanes()
     const QSize size(64, 32);
     const CameraPattern pattern(CameraPattern::I420, size, 0);
     const QByteArray bytes = pattern.picture(0);
-    const PixelFormat format{PixelLayout::I420, YuvColour::Bt601, size};
+    const PixelFormat format{PixelLayout::I420, YuvColor::Bt601, size};
     const auto* const y = reinterpret_cast<const uchar*>(bytes.constData());
     FrameView view;
     view.planeCount = 3;
@@ -145,20 +145,20 @@ void tst_FrameConverter::takesSeparatePlanes()
     QCOMPARE(separate, converter.convert(format, viewOf(bytes, 64), {}, {}));
 }
 
-void tst_FrameConverter::honoursTheColourMatrix_data()
+void tst_FrameConverter::honorsTheColorMatrix_data()
 {
-    QTest::addColumn<int>("colour");
-    QTest::addColumn<int>("expected"); // grey of a luma of 235
-    QTest::newRow("601") << int(YuvColour::Bt601) << 255;
-    QTest::newRow("601 full") << int(YuvColour::Bt601Full) << 235;
-    QTest::newRow("709") << int(YuvColour::Bt709) << 255;
-    QTest::newRow("709 full") << int(YuvColour::Bt709Full) << 235;
+    QTest::addColumn<int>("color");
+    QTest::addColumn<int>("expected"); // gray of a luma of 235
+    QTest::newRow("601") << int(YuvColor::Bt601) << 255;
+    QTest::newRow("601 full") << int(YuvColor::Bt601Full) << 235;
+    QTest::newRow("709") << int(YuvColor::Bt709) << 255;
+    QTest::newRow("709 full") << int(YuvColor::Bt709Full) << 235;
 }
 
-void tst_FrameConverter::honoursTheColourMatrix()
+void tst_FrameConverter::honorsTheColorMatrix()
 {
-    QFETCH(int, colour);
-    const PixelFormat format{PixelLayout::I420, static_cast<YuvColour>(colour), QSize(4, 4)};
+    QFETCH(int, color);
+    const PixelFormat format{PixelLayout::I420, static_cast<YuvColor>(color), QSize(4, 4)};
     const QByteArray bytes = QByteArray(16, char(235)) + QByteArray(8, char(128));
     FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 4), {}, {});
@@ -187,7 +187,7 @@ void tst_FrameConverter::refusesShortPictures()
     const QSize size(33, 17);
     const CameraPattern pattern(static_cast<CameraPattern::Layout>(source), size, 0);
     const QByteArray bytes = pattern.picture(0);
-    const PixelFormat format{static_cast<PixelLayout>(layout), YuvColour::Bt601, size};
+    const PixelFormat format{static_cast<PixelLayout>(layout), YuvColor::Bt601, size};
     FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, pattern.stride()), {}, {}).isNull());
     QVERIFY(
@@ -203,7 +203,7 @@ void tst_FrameConverter::refusesAbsurdSizes()
     const QByteArray bytes = smallPicture();
     FrameConverter converter;
     for (const QSize& size : {QSize(0, 2), QSize(4, -2), QSize(9000, 1), QSize(1, 9000)}) {
-        const PixelFormat format{PixelLayout::Bgrx, YuvColour::Bt601, size};
+        const PixelFormat format{PixelLayout::Bgrx, YuvColor::Bt601, size};
         QVERIFY(converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     }
 }
@@ -212,7 +212,7 @@ void tst_FrameConverter::refusesBrokenJpegs()
 {
     const QSize size(64, 48);
     const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, size, 0).picture(0);
-    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, size};
+    const PixelFormat format{PixelLayout::Mjpg, YuvColor::Bt601, size};
     FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes.left(20), 0), {}, {}).isNull());
@@ -222,12 +222,12 @@ void tst_FrameConverter::refusesBrokenJpegs()
 void tst_FrameConverter::trustsTheJpegsOwnSize()
 {
     const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, QSize(64, 48), 0).picture(0);
-    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, QSize(1280, 720)};
+    const PixelFormat format{PixelLayout::Mjpg, YuvColor::Bt601, QSize(1280, 720)};
     FrameConverter converter;
     QCOMPARE(converter.convert(format, viewOf(bytes, 0), {}, {}).size(), QSize(64, 48));
 }
 
-// Rows and columns of black and white in turn become grey, not one or the other.
+// Rows and columns of black and white in turn become gray, not one or the other.
 void tst_FrameConverter::averagesWhatItScales()
 {
     const QSize size(64, 64);
@@ -238,7 +238,7 @@ void tst_FrameConverter::averagesWhatItScales()
             bytes.append(char(128));
         }
     }
-    const PixelFormat format{PixelLayout::Yuy2, YuvColour::Bt601, size};
+    const PixelFormat format{PixelLayout::Yuy2, YuvColor::Bt601, size};
     FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 128), {}, QSize(16, 16));
     QCOMPARE(result.size(), QSize(16, 16));

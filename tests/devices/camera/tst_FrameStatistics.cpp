@@ -10,10 +10,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-FrameStatistics::Sample sampleOf(QRgb colour)
+FrameStatistics::Sample sampleOf(QRgb color)
 {
     QImage picture(32, 16, QImage::Format_RGB32);
-    picture.fill(colour);
+    picture.fill(color);
     return FrameStatistics::sampleOf(picture);
 }
 

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+#include "platform/devices/camera/DeviceCameraSystem.h"
+#include "platform/devices/pipewire/PipeWireFeed.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
@@ -51,14 +52,14 @@ bool isNear(QRgb actual, QRgb expected)
            qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
 }
 
-// The pattern's own colour, seen at most places of the picture.
-bool shows(const QImage& picture, QRgb colour)
+// The pattern's own color, seen at most places of the picture.
+bool shows(const QImage& picture, QRgb color)
 {
     int hits = 0;
     constexpr int Places = 9;
     for (int i = 0; i < Places; ++i) {
         const int x = picture.width() * (2 * i + 1) / (2 * Places);
-        hits += isNear(picture.pixel(x, picture.height() / 2), colour) ? 1 : 0;
+        hits += isNear(picture.pixel(x, picture.height() / 2), color) ? 1 : 0;
     }
     return hits > Places / 2;
 }
@@ -154,7 +155,7 @@ private:
     MemoryReport m_report;
     Watcher m_watcher;
     std::optional<GapMeter> m_gaps;
-    std::unique_ptr<PipeWireCameraSystem> m_system;
+    std::unique_ptr<DeviceCameraSystem> m_system;
     std::unique_ptr<CameraBackend> m_backend;
 };
 
@@ -276,7 +277,7 @@ void tst_PipeWireCameras::mergesBursts()
 void tst_PipeWireCameras::hidesWhatIsNoCamera()
 {
     const Camera camera = plug(NameA, QStringLiteral("Camera"));
-    const Camera grey = plug(QStringLiteral("grey"), QStringLiteral("Sensor"),
+    const Camera gray = plug(QStringLiteral("gray"), QStringLiteral("Sensor"),
                              {QStringLiteral("--layout"), QStringLiteral("GRAY8")});
     const Camera infrared =
         plug(QStringLiteral("infrared"), QStringLiteral("Integrated IR Camera"));
@@ -786,7 +787,8 @@ tst_PipeWireCameras::Camera tst_PipeWireCameras::plug(const QString& name,
 
 void tst_PipeWireCameras::makeBackend()
 {
-    m_system = std::make_unique<PipeWireCameraSystem>(m_settings->path(), m_report);
+    m_system =
+        std::make_unique<DeviceCameraSystem>(m_settings->path(), m_report, pipeWireFeedMaker());
     m_backend = m_system->createCamera(m_watcher);
     m_backend->setOutputSize(PreviewSize);
 }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
-#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+#include "platform/devices/camera/DeviceCameraSystem.h"
+#include "platform/devices/pipewire/PipeWireFeed.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 #include "platform/devices/v4l2/VideoDevices.h"
 #include "tests/devices/ThreadCount.h"
@@ -220,7 +221,7 @@ private:
     Watcher m_watcher;
     std::unique_ptr<Sockets> m_sockets;
     std::function<GstElement*(const QString&)> m_makeSource;
-    std::unique_ptr<PipeWireCameraSystem> m_system;
+    std::unique_ptr<DeviceCameraSystem> m_system;
     std::unique_ptr<CameraBackend> m_backend;
 };
 
@@ -557,8 +558,8 @@ void tst_V4l2Cameras::makeBackend()
     V4l2Parts parts;
     parts.makeDevices = [this] { return m_sockets->makeDevices(); };
     parts.makeSource = m_makeSource;
-    m_system =
-        std::make_unique<PipeWireCameraSystem>(m_folder->path(), m_report, v4l2FeedMaker(parts));
+    m_system = std::make_unique<DeviceCameraSystem>(m_folder->path(), m_report, pipeWireFeedMaker(),
+                                                    v4l2FeedMaker(parts));
     m_backend = m_system->createCamera(m_watcher);
     m_backend->setOutputSize(PreviewSize);
 }

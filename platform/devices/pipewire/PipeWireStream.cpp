@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/CameraStream.h"
+#include "platform/devices/pipewire/PipeWireStream.h"
 
 #include "platform/devices/pipewire/StreamFormat.h"
 
@@ -50,13 +50,13 @@ const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype, const spa_
     return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
 }
 
-YuvColour colourOf(const spa_video_info_raw& info)
+YuvColor colorOf(const spa_video_info_raw& info)
 {
     const bool isFull = info.color_range == SPA_VIDEO_COLOR_RANGE_0_255;
     if (info.color_matrix == SPA_VIDEO_COLOR_MATRIX_BT709) {
-        return isFull ? YuvColour::Bt709Full : YuvColour::Bt709;
+        return isFull ? YuvColor::Bt709Full : YuvColor::Bt709;
     }
-    return isFull ? YuvColour::Bt601Full : YuvColour::Bt601;
+    return isFull ? YuvColor::Bt601Full : YuvColor::Bt601;
 }
 
 double rateOf(const spa_fraction& rate, const spa_fraction& highest)
@@ -130,26 +130,26 @@ void unmapDriverBuffers(pw_buffer* buffer)
 
 } // namespace
 
-const pw_stream_events CameraStream::Events = [] {
+const pw_stream_events PipeWireStream::Events = [] {
     pw_stream_events events{};
     events.version = PW_VERSION_STREAM_EVENTS;
     events.state_changed = [](void* data, pw_stream_state, pw_stream_state state,
                               const char* error) {
-        static_cast<CameraStream*>(data)->onStateChanged(state, error);
+        static_cast<PipeWireStream*>(data)->onStateChanged(state, error);
     };
     events.param_changed = [](void* data, uint32_t id, const spa_pod* parameter) {
         if (id == SPA_PARAM_Format && parameter != nullptr) {
-            static_cast<CameraStream*>(data)->onFormatChanged(parameter);
+            static_cast<PipeWireStream*>(data)->onFormatChanged(parameter);
         }
     };
     events.add_buffer = [](void*, pw_buffer* buffer) { mapDriverBuffers(buffer); };
     events.remove_buffer = [](void*, pw_buffer* buffer) { unmapDriverBuffers(buffer); };
-    events.process = [](void* data) { static_cast<CameraStream*>(data)->onProcess(); };
+    events.process = [](void* data) { static_cast<PipeWireStream*>(data)->onProcess(); };
     return events;
 }();
 
-CameraStream::CameraStream(pw_context* context, const QString& serial, const QSize& wishedSize,
-                           Listener& listener)
+PipeWireStream::PipeWireStream(pw_context* context, const QString& serial, const QSize& wishedSize,
+                               Listener& listener)
     : m_listener(listener), m_core(pw_context_connect(context, nullptr, 0))
 {
     if (m_core == nullptr) {
@@ -166,7 +166,7 @@ CameraStream::CameraStream(pw_context* context, const QString& serial, const QSi
     }
 }
 
-CameraStream::~CameraStream()
+PipeWireStream::~PipeWireStream()
 {
     if (m_stream != nullptr) {
         pw_stream_disconnect(m_stream); // takes the buffers back while we still listen
@@ -178,12 +178,12 @@ CameraStream::~CameraStream()
     }
 }
 
-quint32 CameraStream::nodeId() const
+quint32 PipeWireStream::nodeId() const
 {
     return m_stream == nullptr ? PW_ID_ANY : pw_stream_get_node_id(m_stream);
 }
 
-void CameraStream::connectTo(const QSize& wishedSize)
+void PipeWireStream::connectTo(const QSize& wishedSize)
 {
     uint8_t memory[2048];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
@@ -197,7 +197,7 @@ void CameraStream::connectTo(const QSize& wishedSize)
         offers, std::size(offers));
 }
 
-void CameraStream::onStateChanged(pw_stream_state state, const char* error)
+void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
 {
     switch (state) {
     case PW_STREAM_STATE_STREAMING:
@@ -218,7 +218,7 @@ void CameraStream::onStateChanged(pw_stream_state state, const char* error)
     }
 }
 
-void CameraStream::onFormatChanged(const spa_pod* format)
+void PipeWireStream::onFormatChanged(const spa_pod* format)
 {
     m_format = PixelFormat();
     spa_video_info info{};
@@ -233,7 +233,7 @@ void CameraStream::onFormatChanged(const spa_pod* format)
     } else if (info.media_subtype == SPA_MEDIA_SUBTYPE_raw) {
         spa_format_video_raw_parse(format, &info.info.raw);
         m_format.layout = layoutOf(info.info.raw.format);
-        m_format.colour = colourOf(info.info.raw);
+        m_format.color = colorOf(info.info.raw);
         m_format.size = sizeOf(info.info.raw.size);
         m_listener.rateAgreed(rateOf(info.info.raw.framerate, info.info.raw.max_framerate));
     }
@@ -255,7 +255,7 @@ void CameraStream::onFormatChanged(const spa_pod* format)
 }
 
 // Older pictures go back unseen.
-void CameraStream::onProcess()
+void PipeWireStream::onProcess()
 {
     pw_buffer* newest = nullptr;
     while (pw_buffer* const buffer = pw_stream_dequeue_buffer(m_stream)) {
@@ -270,7 +270,7 @@ void CameraStream::onProcess()
     }
 }
 
-void CameraStream::deliver(const spa_buffer& buffer)
+void PipeWireStream::deliver(const spa_buffer& buffer)
 {
     if (m_format.layout == PixelLayout::None || isCorrupted(buffer)) {
         return;

@@ -13,7 +13,7 @@ namespace Platform {
 // It has a connection to the server of its own, which ends with it: on a shared one the server's
 // late answers would still be read, and their file descriptors, which nobody takes any more, would
 // stay open.
-class CameraStream
+class PipeWireStream
 {
 public:
     // Called from inside the stream, which must not be destroyed there.
@@ -30,11 +30,11 @@ public:
         ~Listener() = default;
     };
 
-    CameraStream(pw_context* context, const QString& serial, const QSize& wishedSize,
-                 Listener& listener);
-    ~CameraStream();
-    CameraStream(const CameraStream&) = delete;
-    CameraStream& operator=(const CameraStream&) = delete;
+    PipeWireStream(pw_context* context, const QString& serial, const QSize& wishedSize,
+                   Listener& listener);
+    ~PipeWireStream();
+    PipeWireStream(const PipeWireStream&) = delete;
+    PipeWireStream& operator=(const PipeWireStream&) = delete;
 
     quint32 nodeId() const;
 
