@@ -9,9 +9,9 @@
 
 namespace Platform {
 
-// One user of the cameras: the list, the choice and the pictures. Called on the GUI thread, never
-// blocks; the listener is called on the GUI thread from the event loop, never from inside a call,
-// and never after the back end's destructor.
+// One user's session with the cameras: the list, the choice and the frames. Called on the GUI
+// thread, never blocks; the listener is called on the GUI thread from the event loop, never from
+// inside a call, and never after the back end's destructor.
 class CameraBackend
 {
 public:
@@ -30,17 +30,17 @@ public:
     virtual ~CameraBackend() = default;
 
     virtual DeviceList devices() const = 0;
-    // The chosen camera, also while it is unplugged; an empty id where none was chosen or the entry
-    // for no camera is.
+    // The chosen camera, also while it is unplugged. Empty if none was chosen yet, or the entry for
+    // no camera was.
     virtual QString currentId() const = 0;
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id turns the camera off
     virtual DeviceState state() const = 0;
-    // A picture arrived within the last five frame periods or 500 ms, whichever is longer.
+    // A frame arrived within the stall timeout (StallTimeout.h).
     virtual bool delivers() const = 0;
 
     virtual void start() = 0;
-    virtual void stop() = 0;                             // its pictures end with this call
+    virtual void stop() = 0;                             // no frame comes after this call
     virtual void setOutputSize(const QSize& pixels) = 0; // an upper bound; the aspect is kept
     virtual QImage latestFrame() const = 0;              // mirrored; null before the first
 };

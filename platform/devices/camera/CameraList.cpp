@@ -98,7 +98,7 @@ std::map<QString, const CameraNode*> CameraList::byId() const
     for (const auto& entry : m_nodes) {
         nodes.push_back(&entry.second);
     }
-    // One device's nodes keep their numbers, whichever the server found first.
+    // By name, so that the nodes of one device get the same numbers in whatever order they came.
     std::stable_sort(nodes.begin(), nodes.end(),
                      [](const CameraNode* a, const CameraNode* b) { return a->name < b->name; });
     std::map<QString, const CameraNode*> result;

@@ -8,7 +8,7 @@
 namespace Platform {
 
 // The device that a camera's node belongs to. Some properties of a camera are told for the device
-// only: where it is plugged in, and what it can do. On the camera thread only.
+// only: its bus path and its capabilities. On the camera thread only.
 class DeviceProxy
 {
 public:

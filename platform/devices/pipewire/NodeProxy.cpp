@@ -85,7 +85,7 @@ NodeProxy::NodeProxy(pw_registry* registry, quint32 globalId, const spa_dict* pr
 
 void NodeProxy::onInfo(const pw_node_info& info)
 {
-    if (info.props != nullptr) {
+    if (info.props) {
         readProperties(info.props, m_node);
     }
     if ((info.change_mask & PW_NODE_CHANGE_MASK_STATE) == 0) {
@@ -101,7 +101,7 @@ void NodeProxy::onFormat(const spa_pod* format)
 {
     uint32_t mediaType = 0;
     uint32_t mediaSubtype = 0;
-    if (format == nullptr || spa_format_parse(format, &mediaType, &mediaSubtype) < 0 ||
+    if (!format || spa_format_parse(format, &mediaType, &mediaSubtype) < 0 ||
         mediaType != SPA_MEDIA_TYPE_video) {
         return;
     }
@@ -113,7 +113,7 @@ void NodeProxy::onFormat(const spa_pod* format)
     }
     const spa_pod_prop* const property =
         spa_pod_find_prop(format, nullptr, SPA_FORMAT_VIDEO_format);
-    if (property == nullptr) {
+    if (!property) {
         return;
     }
     uint32_t count = 0;
@@ -125,7 +125,7 @@ void NodeProxy::onFormat(const spa_pod* format)
     const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
     for (uint32_t i = 0; i < count; ++i) {
         m_node.hasColor = m_node.hasColor || !isGray(ids[i]);
-        m_node.isReadable = m_node.isReadable || layoutOf(ids[i]) != PixelLayout::None;
+        m_node.isReadable = m_node.isReadable || pixelFormatOf(ids[i]) != PixelFormat::None;
     }
 }
 

@@ -97,7 +97,7 @@ void PipeWireCapture::rateAgreed(double framesPerSecond)
     m_slot->setRate(m_opening.generation(), framesPerSecond);
 }
 
-void PipeWireCapture::frameReceived(const PixelFormat& format, const FrameView& view,
+void PipeWireCapture::frameReceived(const FrameFormat& format, const FrameView& view,
                                     const FrameOrientation& orientation)
 {
     const QImage frame = m_converter.convert(format, view, orientation, m_outputSize);

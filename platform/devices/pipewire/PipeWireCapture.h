@@ -40,7 +40,7 @@ private:
     void streamRuns() override;
     void streamEnded(const QString& error) override;
     void rateAgreed(double framesPerSecond) override;
-    void frameReceived(const PixelFormat& format, const FrameView& view,
+    void frameReceived(const FrameFormat& format, const FrameView& view,
                        const FrameOrientation& orientation) override;
 
     std::optional<QString> serialOf(const QString& id) const override;

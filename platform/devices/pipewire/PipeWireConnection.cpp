@@ -28,7 +28,7 @@ const pw_core_events PipeWireConnection::CoreEvents = [] {
     };
     events.error = [](void* data, uint32_t id, int, int result, const char*) {
         if (id == PW_ID_CORE && (result == -EPIPE || result == -ECONNRESET)) {
-            // The connection can't be taken down from inside its own event.
+            // Later: a connection can't be closed from inside its own event.
             static_cast<PipeWireConnection*>(data)->m_lossTimer.startOnce({});
         }
     };
@@ -60,7 +60,7 @@ PipeWireConnection::PipeWireConnection(pw_main_loop* mainLoop)
 PipeWireConnection::~PipeWireConnection()
 {
     disconnectFromServer();
-    if (m_context != nullptr) {
+    if (m_context) {
         pw_context_destroy(m_context);
     }
 }
@@ -68,7 +68,7 @@ PipeWireConnection::~PipeWireConnection()
 void PipeWireConnection::addObserver(Observer* observer)
 {
     m_observers.push_back(observer);
-    if (m_context == nullptr) {
+    if (!m_context) {
         connectToServer();
     } else if (m_isListed || m_isDenied) {
         observer->camerasChanged();
@@ -98,13 +98,13 @@ QString PipeWireConnection::errorOf(const QString& serial) const
 
 void PipeWireConnection::connectToServer()
 {
-    if (m_context == nullptr) {
+    if (!m_context) {
         m_context = pw_context_new(m_loop, nullptr, 0);
     }
-    if (m_context != nullptr) {
+    if (m_context) {
         m_core = pw_context_connect(m_context, nullptr, 0);
     }
-    if (m_core == nullptr) {
+    if (!m_core) {
         const int reason = errno;
         const bool isDenied = reason == EACCES || reason == EPERM;
         if (isDenied != m_isDenied) {
@@ -136,12 +136,12 @@ void PipeWireConnection::disconnectFromServer()
     m_nodes.clear();
     m_devices.clear();
     m_links.clear();
-    if (m_registry != nullptr) {
+    if (m_registry) {
         spa_hook_remove(&m_registryHook);
         pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
         m_registry = nullptr;
     }
-    if (m_core != nullptr) {
+    if (m_core) {
         spa_hook_remove(&m_coreHook);
         pw_core_disconnect(m_core);
         m_core = nullptr;
@@ -171,7 +171,7 @@ void PipeWireConnection::onRoundTripDone(int sequence)
 
 void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* properties)
 {
-    if (properties == nullptr) {
+    if (!properties) {
         return;
     }
     const QString mediaClass = propertyOf(properties, PW_KEY_MEDIA_CLASS);
@@ -207,7 +207,7 @@ void PipeWireConnection::nodeDescribed(quint32 globalId, const CameraNode& node)
     listMayBeComplete();
 }
 
-// Usually before any of its nodes is.
+// Usually before its nodes are described, but not always.
 void PipeWireConnection::deviceDescribed(quint32 globalId)
 {
     for (const auto& [nodeId, node] : m_nodes) {
@@ -235,7 +235,7 @@ void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error
     }
 }
 
-// The first list is told as a whole and at once; what comes later may come in bursts.
+// The first list is announced at once, when it is complete. Later changes come in bursts.
 void PipeWireConnection::listMayBeComplete()
 {
     const bool isPending = std::any_of(m_nodes.cbegin(), m_nodes.cend(),

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/PixelFormat.h"
+#include "platform/devices/camera/FrameFormat.h"
 
 #include <QString>
 #include <pipewire/pipewire.h>
 
 namespace Platform {
 
-// The pictures of one camera, from construction to destruction. On the camera thread only.
-// It has a connection to the server of its own, which ends with it: on a shared one the server's
-// late answers would still be read, and their file descriptors, which nobody takes any more, would
-// stay open.
+// Receives the frames of one camera, from construction to destruction. On the camera thread only.
+// It has its own connection to the server. On a shared one, answers that arrive after the end would
+// still be read, and the file descriptors in them would stay open because nobody takes them.
 class PipeWireStream
 {
 public:
@@ -21,16 +20,16 @@ public:
     {
     public:
         virtual void streamRuns() = 0;
-        virtual void streamEnded(const QString& error) = 0; // no text: nobody said why
+        virtual void streamEnded(const QString& error) = 0; // empty if nobody said why
         virtual void rateAgreed(double framesPerSecond) = 0;
-        virtual void frameReceived(const PixelFormat& format, const FrameView& view,
+        virtual void frameReceived(const FrameFormat& format, const FrameView& view,
                                    const FrameOrientation& orientation) = 0;
 
     protected:
         ~Listener() = default;
     };
 
-    PipeWireStream(pw_context* context, const QString& serial, const QSize& wishedSize,
+    PipeWireStream(pw_context* context, const QString& serial, const QSize& preferredSize,
                    Listener& listener);
     ~PipeWireStream();
     PipeWireStream(const PipeWireStream&) = delete;
@@ -39,7 +38,7 @@ public:
     quint32 nodeId() const;
 
 private:
-    void connectTo(const QSize& wishedSize);
+    void connectTo(const QSize& preferredSize);
     void onStateChanged(pw_stream_state state, const char* error);
     void onFormatChanged(const spa_pod* format);
     void onProcess();
@@ -48,10 +47,10 @@ private:
     static const pw_stream_events Events;
 
     Listener& m_listener;
-    pw_core* m_core; // null where the server takes no more connections
+    pw_core* m_core; // null if the server takes no more connections
     pw_stream* m_stream = nullptr;
     spa_hook m_hook{};
-    PixelFormat m_format;
+    FrameFormat m_format;
     bool m_wasConnecting = false;
 };
 

@@ -29,7 +29,7 @@ void V4l2Thread::post(std::function<void(V4l2Capture&)> job)
 void V4l2Thread::run()
 {
     V4l2Capture capture(m_parts, std::move(m_slot), std::move(m_listener), std::move(m_ending));
-    m_capture = &capture; // jobs run from the event loop alone
+    m_capture = &capture; // before exec(), which runs the jobs
     exec();
 }
 

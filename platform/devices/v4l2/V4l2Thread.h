@@ -13,8 +13,8 @@ namespace Platform {
 
 class V4l2Capture;
 
-// The thread that lists cameras, gives orders to their streams and watches over them. Made on the
-// GUI thread; must have ended before it is destroyed.
+// The thread of a V4l2Capture: the list, and the watch over the streams. Created on the GUI thread;
+// must have ended before it is destroyed.
 class V4l2Thread final : public QThread
 {
     Q_OBJECT

@@ -9,30 +9,30 @@
 
 namespace Platform {
 
-// How the bytes of a picture are laid out. The four-byte kinds are named in memory order.
-enum class PixelLayout { None, Yuy2, Uyvy, Nv12, I420, Bgrx, Rgbx, Xrgb, Xbgr, Rgb, Bgr, Mjpg };
+// How a pixel is stored. The formats of four bytes are named in memory order.
+enum class PixelFormat { None, Yuy2, Uyvy, Nv12, I420, Bgrx, Rgbx, Xrgb, Xbgr, Rgb, Bgr, Mjpg };
 
-// What the numbers of a YUV picture mean.
+// What the numbers of a YUV frame mean.
 enum class YuvColor { Bt601, Bt601Full, Bt709, Bt709Full };
 
 // What a camera agreed to send.
-struct PixelFormat
+struct FrameFormat
 {
-    PixelLayout layout = PixelLayout::None;
+    PixelFormat pixelFormat = PixelFormat::None;
     YuvColor color = YuvColor::Bt601;
     QSize size;
 };
 
-// How a picture lies in its buffer: mirrored around its vertical axis first where it is flipped,
-// then turned counter-clockwise.
+// How a frame is stored in its buffer: if it is flipped, first mirrored left to right, then turned
+// counterclockwise.
 struct FrameOrientation
 {
     int quarterTurns = 0; // 0 to 3
     bool isFlipped = false;
 };
 
-// A picture in memory that belongs to somebody else. Planar layouts may lie in one plane, one
-// behind the other, or in a plane each.
+// A frame in memory that belongs to somebody else. The planes of a planar format are one entry
+// each, or follow each other in a single one.
 struct FrameView
 {
     struct Plane
