@@ -51,17 +51,17 @@ public:
     CameraOpening(System& system, const Rules& rules, std::shared_ptr<FrameSlot> slot,
                   std::shared_ptr<CameraFeed::Listener> listener);
 
-    // The wish
+    // From the user
     void open(int generation, const QString& id); // now, or once it is there
     void close();
     int generation() const { return m_generation; }
 
-    // The list
-    void forgetCamera();           // it is gone, and so is whatever was wrong with it
+    // From the list
+    void forgetCamera();           // it is gone, and with it what was wrong
     void forgetCameraIfReplaced(); // its id has another serial now, or none
     void openIfPresent();
 
-    // The stream
+    // From the stream
     void startBegan(); // the start timeout runs from now on
     void streamRuns();
     void frameArrived();

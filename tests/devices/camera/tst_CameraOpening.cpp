@@ -57,6 +57,13 @@ private:
     QStringList& m_states;
 };
 
+QImage frame()
+{
+    QImage result(4, 4, QImage::Format_RGB32);
+    result.fill(Qt::red);
+    return result;
+}
+
 QStringList words(const char* text)
 {
     return QString::fromLatin1(text).split(QStringLiteral(", "), Qt::SkipEmptyParts);
@@ -213,7 +220,7 @@ void tst_CameraOpening::noticesSilence()
     wake(CameraOpening::WatchPeriod);
     wake(CameraOpening::WatchPeriod);
     QCOMPARE(takeStates(), words("1 silent"));
-    m_slot->put(m_opening->generation(), QImage(4, 4, QImage::Format_RGB32), QSize(4, 4));
+    m_slot->put(m_opening->generation(), frame(), QSize(4, 4));
     wake(CameraOpening::WatchPeriod);
     QCOMPARE(takeStates(), words("1 working"));
     m_now += 501ms;
@@ -408,7 +415,7 @@ void tst_CameraOpening::run()
 
 void tst_CameraOpening::putFrame()
 {
-    m_slot->put(m_opening->generation(), QImage(4, 4, QImage::Format_RGB32), QSize(4, 4));
+    m_slot->put(m_opening->generation(), frame(), QSize(4, 4));
     m_opening->frameArrived();
 }
 

@@ -104,22 +104,4 @@ bool PipeWireCameraTest::isResponsive()
     return gap < MaxGapMs;
 }
 
-QStringList PipeWireCameraTest::ids() const
-{
-    QStringList result;
-    for (const DeviceInfo& device : m_backend->devices()) {
-        result << device.id;
-    }
-    return result;
-}
-
-QStringList PipeWireCameraTest::names() const
-{
-    QStringList result;
-    for (const DeviceInfo& device : m_backend->devices()) {
-        result << device.name;
-    }
-    return result;
-}
-
 } // namespace TestSupport

@@ -5,6 +5,7 @@
 #include "platform/devices/camera/DeviceCameraSystem.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/CameraWatcher.h"
+#include "tests/support/DeviceTexts.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/PipeWireServer.h"
@@ -48,8 +49,8 @@ protected:
     void makeBackend();
     void watch() { m_gaps.emplace(); } // the GUI thread, from now on
     bool isResponsive();               // and was since; ends the watch
-    QStringList ids() const;
-    QStringList names() const;
+    QStringList ids() const { return idsOf(m_backend->devices()); }
+    QStringList names() const { return namesOf(m_backend->devices()); }
     QJsonObject figures() const { return m_report.measurements.value(QStringLiteral("camera")); }
     QString stateName() const { return toString(m_backend->state()); }
 

@@ -109,7 +109,8 @@ void tst_PipeWireCameraFaults::reportsErrors()
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
     camera->command("error " + QByteArray::number(error));
-    QTRY_COMPARE(stateName(), QStringLiteral("silent")); // the server gives no reason while the stream runs
+    QTRY_COMPARE(stateName(),
+                 QStringLiteral("silent")); // the server gives no reason while the stream runs
     m_backend->stop();
     m_backend->start();
     QTRY_COMPARE(stateName(), expected);

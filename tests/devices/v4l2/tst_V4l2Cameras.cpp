@@ -6,9 +6,11 @@
 #include "platform/devices/v4l2/V4l2Parts.h"
 #include "platform/devices/v4l2/VideoDevices.h"
 #include "tests/devices/ThreadCount.h"
+#include "tests/devices/v4l2/TestSources.h"
 #include "tests/devices/v4l2/VirtualSockets.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/CameraWatcher.h"
+#include "tests/support/DeviceTexts.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/PipeWireServer.h"
 
@@ -16,7 +18,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <gst/gst.h>
-#include <mutex>
 
 using namespace Platform;
 using namespace TestSupport;
@@ -29,8 +30,6 @@ constexpr int ReconnectsMs = 1000; // for a few attempts to connect
 const QSize PreviewSize(306, 172);
 const QString PlaceA = QStringLiteral("pci-0000:00:14.0-usb-0:5:1.0");
 const QString PlaceB = QStringLiteral("pci-0000:00:14.0-usb-0:6:1.0");
-// White at the left, blue at the right.
-const QByteArray Bars("videotestsrc is-live=true pattern=smpte100");
 // Few and small frames, so that a busy machine can keep up.
 const QByteArray Modest(" ! capsfilter caps=video/x-raw,width=320,height=240,framerate=10/1");
 
@@ -41,44 +40,6 @@ VideoDevices::Properties device(const QString& path, const QString& place, const
             {QStringLiteral("ID_PATH"), place},
             {QStringLiteral("ID_V4L_PRODUCT"), name},
             {QStringLiteral("ID_V4L_CAPABILITIES"), capabilities}};
-}
-
-std::atomic_int sourcesAlive = 0;
-
-GstElement* makeElement(const QByteArray& description)
-{
-    GstElement* const result =
-        gst_parse_bin_from_description(description.constData(), TRUE, nullptr);
-    ++sourcesAlive;
-    g_object_weak_ref(
-        G_OBJECT(result), [](gpointer, GObject*) { --sourcesAlive; }, nullptr);
-    return result;
-}
-
-// Fails at its first frame, as a driver may.
-GstElement* makeFailingElement(GstResourceError code, const QByteArray& details)
-{
-    struct Reason
-    {
-        GstResourceError code;
-        QByteArray details;
-    };
-    GstElement* const result = makeElement(Bars);
-    GstPad* const pad = gst_element_get_static_pad(result, "src");
-    gst_pad_add_probe(
-        pad, GST_PAD_PROBE_TYPE_BUFFER,
-        [](GstPad* at, GstPadProbeInfo*, gpointer data) {
-            const auto* reason = static_cast<const Reason*>(data);
-            GstElement* const element = gst_pad_get_parent_element(at);
-            gst_element_message_full(element, GST_MESSAGE_ERROR, GST_RESOURCE_ERROR, reason->code,
-                                     nullptr, g_strdup(reason->details.constData()), __FILE__,
-                                     Q_FUNC_INFO, __LINE__);
-            gst_object_unref(element);
-            return GST_PAD_PROBE_DROP;
-        },
-        new Reason{code, details}, [](gpointer data) { delete static_cast<Reason*>(data); });
-    gst_object_unref(pad);
-    return result;
 }
 
 int threads()
@@ -140,8 +101,8 @@ private Q_SLOTS:
 
 private:
     void makeBackend();
-    QStringList ids() const;
-    QStringList names() const;
+    QStringList ids() const { return idsOf(m_backend->devices()); }
+    QStringList names() const { return namesOf(m_backend->devices()); }
     QString stateName() const { return toString(m_backend->state()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -175,7 +136,7 @@ void tst_V4l2Cameras::cleanup()
     m_system.reset();
     QTRY_COMPARE(threadCount("v4l2 cameras"), 0);
     QTRY_COMPARE(threadCount("v4l2 stream"), 0);
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     QVERIFY(FileWriter::waitForWritten(LongMs));
 }
 
@@ -314,10 +275,10 @@ void tst_V4l2Cameras::switchesCameras()
     QVERIFY(m_backend->latestFrame().isNull());
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
     QVERIFY(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0, 255, 0)));
-    QTRY_COMPARE(sourcesAlive.load(), 1);
+    QTRY_COMPARE(sourcesAlive(), 1);
     m_backend->setCurrent({});
     QCOMPARE(stateName(), QStringLiteral("off"));
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
 }
 
 void tst_V4l2Cameras::reopensReturningCamera()
@@ -329,7 +290,7 @@ void tst_V4l2Cameras::reopensReturningCamera()
     m_sockets->unplug(QStringLiteral("/dev/video0"));
     QTRY_COMPARE(stateName(), QStringLiteral("absent"));
     QVERIFY(m_backend->latestFrame().isNull());
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     m_sockets->plug(device(QStringLiteral("/dev/video3"), PlaceA, QStringLiteral("Camera")));
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
 }
@@ -460,7 +421,7 @@ void tst_V4l2Cameras::leavesHungStartAtOnce()
     QCOMPARE(threadCount("v4l2 stream"), 2);
     driver.release(2);
     QTRY_COMPARE(threadCount("v4l2 stream"), 0);
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     m_system.reset();
 }
 
@@ -472,10 +433,10 @@ void tst_V4l2Cameras::leavesNothingBehind()
     makeBackend();
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QCOMPARE(sourcesAlive.load(), 1);
+    QCOMPARE(sourcesAlive(), 1);
     QVERIFY(threads() > threadsBefore);
     m_backend->stop();
-    QTRY_COMPARE(sourcesAlive.load(), 0); // the light is out
+    QTRY_COMPARE(sourcesAlive(), 0); // the light is out
     m_backend.reset();
     QTRY_VERIFY(threads() <= threadsBefore);
     QTRY_COMPARE(openFiles(), filesBefore);
@@ -490,24 +451,6 @@ void tst_V4l2Cameras::makeBackend()
                                                     v4l2FeedMaker(parts));
     m_backend = m_system->createCamera(m_watcher);
     m_backend->setOutputSize(PreviewSize);
-}
-
-QStringList tst_V4l2Cameras::ids() const
-{
-    QStringList result;
-    for (const DeviceInfo& info : m_backend->devices()) {
-        result << info.id;
-    }
-    return result;
-}
-
-QStringList tst_V4l2Cameras::names() const
-{
-    QStringList result;
-    for (const DeviceInfo& info : m_backend->devices()) {
-        result << info.name;
-    }
-    return result;
 }
 
 QTEST_GUILESS_MAIN(tst_V4l2Cameras)
