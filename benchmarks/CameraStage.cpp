@@ -12,18 +12,18 @@
 namespace {
 
 constexpr int TimeoutMs = 10000;
-const char PicturePrefix[] = "picture ";
+const char FramePrefix[] = "frame ";
 const char BusyPrefix[] = "busy ";
 
 } // namespace
 
-std::map<int, qint64> picturesIn(const QByteArray& output)
+std::map<int, qint64> framesIn(const QByteArray& output)
 {
     std::map<int, qint64> result;
     const QList<QByteArray> lines = output.split('\n');
     for (const QByteArray& line : lines) {
         const QList<QByteArray> words = line.split(' ');
-        if (line.startsWith(PicturePrefix) && words.size() == 3) {
+        if (line.startsWith(FramePrefix) && words.size() == 3) {
             result.emplace(words[1].toInt(), words[2].toLongLong()); // the first time counts
         }
     }
@@ -55,7 +55,7 @@ qint64 Viewer::go()
 
 bool Viewer::waitForFrame()
 {
-    return waitFor(PicturePrefix);
+    return waitFor(FramePrefix);
 }
 
 double Viewer::stop()
@@ -135,7 +135,7 @@ bool CameraStage::start()
         node(), QStringLiteral("Camera"),
         QStringList{QStringLiteral("--width"), QStringLiteral("1280"), QStringLiteral("--height"),
                     QStringLiteral("720"), QStringLiteral("--rate"), QString::number(Rate),
-                    QStringLiteral("--numbered"), QStringLiteral("--told")});
+                    QStringLiteral("--numbered"), QStringLiteral("--log-frames")});
     const bool isReady =
         QTest::qWaitFor([this] { return m_camera->output().contains("paused"); }, TimeoutMs);
     if (!isReady) {

@@ -13,8 +13,8 @@
 
 class BenchmarkOptions;
 
-// The time of each picture, by its number, from what a camera or a viewer says.
-std::map<int, qint64> picturesIn(const QByteArray& output);
+// The time of each frame by its number, from the output of a camera or a viewer.
+std::map<int, qint64> framesIn(const QByteArray& output);
 
 // A running camera_viewer.
 class Viewer final : public TestSupport::TestProcess
@@ -39,7 +39,7 @@ private:
     QByteArray m_output;
 };
 
-// A server, a display and a camera with numbered pictures of 1280 x 720, 30 a second.
+// A server, a display, and a camera that sends 30 numbered frames of 1280 x 720 a second.
 class CameraStage
 {
 public:
@@ -50,7 +50,7 @@ public:
     CameraStage(const CameraStage&) = delete;
     CameraStage& operator=(const CameraStage&) = delete;
 
-    bool start(); // says why not
+    bool start(); // prints why not
     TestSupport::CameraProcess& camera() { return *m_camera; }
     QString node() const;
 
@@ -60,8 +60,8 @@ private:
     std::unique_ptr<TestSupport::CameraProcess> m_camera;
 };
 
-// The main function of a benchmark with cameras. measure says whether the bounds were kept, and
-// nothing where it couldn't measure.
+// The main function of a camera benchmark. measure returns whether the bounds were kept, or nothing
+// if it couldn't measure.
 int runCameraBenchmark(
     int argc, char** argv, int usualRounds,
     const std::function<std::optional<bool>(CameraStage&, const BenchmarkOptions&)>& measure);

@@ -13,23 +13,23 @@ public:
         show();
     }
 
-    void setPicture(const QImage& picture)
+    void setFrame(const QImage& frame)
     {
-        m_picture = picture;
+        m_frame = frame;
         update();
     }
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        if (!m_picture.isNull()) {
-            QPainter(this).drawImage(rect(), m_picture);
-            tellPainted(m_picture, false);
+        if (!m_frame.isNull()) {
+            QPainter(this).drawImage(rect(), m_frame);
+            tellPainted(m_frame, false);
         }
     }
 
 private:
-    QImage m_picture;
+    QImage m_frame;
 };
 
 std::unique_ptr<View> GStreamerView::make(const QString& kind, const QString& node)
@@ -82,7 +82,7 @@ void GStreamerView::go()
 
 void GStreamerView::stop()
 {
-    if (m_pipeline != nullptr) {
+    if (m_pipeline) {
         gst_element_set_state(m_pipeline, GST_STATE_NULL);
         gst_object_unref(m_pipeline);
         m_pipeline = nullptr;
@@ -93,21 +93,21 @@ GstFlowReturn GStreamerView::onSample(GstAppSink* sink, gpointer self)
 {
     Canvas* const canvas = static_cast<GStreamerView*>(self)->m_canvas.get();
     GstSample* const sample = gst_app_sink_pull_sample(sink);
-    if (sample == nullptr) {
+    if (!sample) {
         return GST_FLOW_EOS;
     }
-    if (canvas == nullptr) {
+    if (!canvas) {
         tellArrived();
     } else {
         GstBuffer* const buffer = gst_sample_get_buffer(sample);
         GstMapInfo map{};
         if (gst_buffer_map(buffer, &map, GST_MAP_READ) != FALSE) {
-            const QImage picture =
+            const QImage frame =
                 QImage(map.data, View::Size.width(), View::Size.height(), QImage::Format_RGB32)
                     .copy();
             gst_buffer_unmap(buffer, &map);
             QMetaObject::invokeMethod(
-                canvas, [canvas, picture] { canvas->setPicture(picture); }, Qt::QueuedConnection);
+                canvas, [canvas, frame] { canvas->setFrame(frame); }, Qt::QueuedConnection);
         }
     }
     gst_sample_unref(sample);

@@ -8,8 +8,8 @@
 #include <gst/app/gstappsink.h>
 #include <memory>
 
-// A plain pipeline from the camera into a sink. With the sink "widget" each picture is scaled and
-// converted on the way, handed to a widget and painted there.
+// A plain pipeline from the camera into a sink. With the sink "widget" each frame is scaled and
+// converted on the way, passed to a widget and painted there.
 class GStreamerView final : public View
 {
 public:

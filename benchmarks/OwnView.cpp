@@ -21,9 +21,9 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         PlayerContainer::paintEvent(event);
-        const QImage picture = m_camera.latestFrame();
-        if (!picture.isNull()) {
-            tellPainted(picture, true);
+        const QImage frame = m_camera.latestFrame();
+        if (!frame.isNull()) {
+            tellPainted(frame, true);
         }
     }
 

@@ -13,7 +13,7 @@ void tell(int number)
 {
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
-    std::printf("picture %d %lld\n", number, now.tv_sec * 1000000000LL + now.tv_nsec);
+    std::printf("frame %d %lld\n", number, now.tv_sec * 1000000000LL + now.tv_nsec);
     std::fflush(stdout);
 }
 
@@ -25,14 +25,14 @@ void View::tellReady()
     std::fflush(stdout);
 }
 
-void View::tellPainted(const QImage& picture, bool isMirrored)
+void View::tellPainted(const QImage& frame, bool isMirrored)
 {
     constexpr int Row = 4;
     constexpr int Bits = TestSupport::CameraPattern::NumberBits;
     int number = 0;
     for (int bit = 0; bit < Bits; ++bit) {
-        const int x = picture.width() * (2 * bit + 1) / (2 * Bits);
-        const QRgb pixel = picture.pixel(isMirrored ? picture.width() - 1 - x : x, Row);
+        const int x = frame.width() * (2 * bit + 1) / (2 * Bits);
+        const QRgb pixel = frame.pixel(isMirrored ? frame.width() - 1 - x : x, Row);
         number |= qGray(pixel) > 127 ? 1 << bit : 0;
     }
     tell(number);

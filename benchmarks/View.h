@@ -17,7 +17,7 @@ public:
     virtual void stop() = 0;
 
     static void tellReady();
-    // The number stands in the picture's upper edge, a block for each bit.
-    static void tellPainted(const QImage& picture, bool isMirrored);
-    static void tellArrived(); // one that isn't painted
+    // Reads the frame's number from its upper edge, a block for each bit.
+    static void tellPainted(const QImage& frame, bool isMirrored);
+    static void tellArrived(); // a frame that isn't painted
 };

@@ -7,8 +7,8 @@
 #include <QTest>
 #include <cstdio>
 
-// How old a picture is when it is painted, and how many are painted at all, against a plain loop
-// from an appsink to a widget, in turn on the same camera.
+// How old a frame is when it is painted, and how many are painted at all. The peer is a plain loop
+// from an appsink to a widget. Both take turns on the same camera.
 
 namespace {
 
@@ -18,7 +18,7 @@ constexpr int SmokeRoundMs = 1000;
 constexpr double MaxRatio = 1.5;
 constexpr double MaxP99Ms = 16.7;
 constexpr double MinPaintedShare = 29.5 / 30.0;
-constexpr int EdgePictures = 5; // at both ends of a round, of which none is counted
+constexpr int EdgeFrames = 5; // at both ends of a round; they are not counted
 
 struct Contestant
 {
@@ -42,11 +42,11 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
                 return {};
             }
             QTest::qWait(options.isSmoke() ? SmokeRoundMs : RoundMs);
-            std::map<int, qint64> painted = picturesIn(viewer.takeOutput());
+            std::map<int, qint64> painted = framesIn(viewer.takeOutput());
             viewer.stop();
-            const std::map<int, qint64> sent = picturesIn(stage.camera().output());
-            const int first = painted.begin()->first + EdgePictures;
-            const int last = painted.rbegin()->first - EdgePictures;
+            const std::map<int, qint64> sent = framesIn(stage.camera().output());
+            const int first = painted.begin()->first + EdgeFrames;
+            const int last = painted.rbegin()->first - EdgeFrames;
             std::vector<double> ages;
             for (int number = first; number <= last; ++number) {
                 const auto it = painted.find(number);

@@ -6,8 +6,8 @@
 
 #include <cstdio>
 
-// From the click to the first painted picture, against a bare GStreamer pipeline from the click to
-// the first picture in its appsink, in turn on the same camera.
+// From the click to the first painted frame. The peer is a bare GStreamer pipeline, from the click
+// to the first frame in its appsink. Both take turns on the same camera.
 
 namespace {
 
@@ -41,11 +41,11 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
             if (!viewer.waitForFrame()) {
                 return {};
             }
-            const std::map<int, qint64> pictures = picturesIn(viewer.takeOutput());
+            const std::map<int, qint64> frames = framesIn(viewer.takeOutput());
             const double busyMs = viewer.stop();
-            qint64 first = pictures.begin()->second;
-            for (const auto& picture : pictures) {
-                first = std::min(first, picture.second);
+            qint64 first = frames.begin()->second;
+            for (const auto& frame : frames) {
+                first = std::min(first, frame.second);
             }
             if (round > 0) { // the first one loads libraries
                 contestants[i].delays.push_back(static_cast<double>(first - clicked) * 1e-6);
@@ -53,7 +53,7 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
             }
         }
     }
-    std::printf("| click to first picture, ms | median |    p90 |    max | one handler at most |\n"
+    std::printf("| click to first frame, ms   | median |    p90 |    max | one handler at most |\n"
                 "|---|---|---|---|---|\n");
     for (const Contestant& contestant : contestants) {
         const Statistics delays(contestant.delays);

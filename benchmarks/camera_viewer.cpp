@@ -16,7 +16,7 @@
 // it from outside:
 //     camera_viewer own|appsink|widget|fakesink|ximagesink|mediaplayer NODE
 // Takes "go", "stop" and "quit" on the standard input. Says "ready" once it may be told to go,
-// "picture NUMBER NANOSECONDS" when one was painted, and after a stop "busy MILLISECONDS": how long
+// "frame NUMBER NANOSECONDS" when one was painted, and after a stop "busy MILLISECONDS": how long
 // the handler of one event kept the GUI thread at most.
 
 namespace {

@@ -30,18 +30,18 @@ public:
     virtual ~CameraBackend() = default;
 
     virtual DeviceList devices() const = 0;
-    // The chosen camera, also while it is unplugged. Empty if none was chosen, or if "no camera"
-    // was.
+    // The chosen camera, also while it is unplugged. Empty if none was chosen yet, or the entry for
+    // no camera was.
     virtual QString currentId() const = 0;
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id turns the camera off
     virtual DeviceState state() const = 0;
-    // A frame arrived within the last five frame periods or 500 ms, whichever is longer.
+    // A frame arrived within the stall timeout (StallTimeout.h).
     virtual bool delivers() const = 0;
 
     virtual void start() = 0;
-    virtual void stop() = 0;                             // no frame arrives after this call
-    virtual void setOutputSize(const QSize& pixels) = 0; // upper bound; keeps the aspect ratio
+    virtual void stop() = 0;                             // no frame comes after this call
+    virtual void setOutputSize(const QSize& pixels) = 0; // an upper bound; the aspect is kept
     virtual QImage latestFrame() const = 0;              // mirrored; null before the first
 };
 

@@ -33,6 +33,12 @@ QString printableName(const QString& name)
 
 } // namespace
 
+QString nameIn(const DeviceList& devices, const QString& id)
+{
+    const DeviceInfo* device = findDevice(devices, id);
+    return device ? device->name : QString();
+}
+
 bool isUsable(DeviceState state)
 {
     switch (state) {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QString>
+#include <algorithm>
 #include <vector>
 
 namespace Platform {
@@ -25,6 +26,18 @@ struct DeviceInfo
 };
 
 using DeviceList = std::vector<DeviceInfo>;
+
+// The device with this id, in a list of DeviceInfo or of a type derived from it; null if none has.
+template <typename List>
+auto findDevice(List& devices, const QString& id) -> decltype(devices.data())
+{
+    const auto it = std::find_if(devices.begin(), devices.end(),
+                                 [&id](const DeviceInfo& device) { return device.id == id; });
+    return it == devices.end() ? nullptr : &*it;
+}
+
+// The name of the device with this id; empty if the list has none.
+CLASSROOMBACKEND_EXPORT QString nameIn(const DeviceList& devices, const QString& id);
 
 // Why a chosen device works or doesn't.
 enum class DeviceState {

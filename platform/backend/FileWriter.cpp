@@ -3,17 +3,15 @@
 #include "platform/backend/FileWriter.h"
 
 #include "platform/backend/FileNames.h"
+#include "platform/backend/Log.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QLoggingCategory>
 #include <QRunnable>
 #include <QSaveFile>
 #include <QThreadPool>
-
-Q_LOGGING_CATEGORY(fileWriterLog, "engine.files")
 
 namespace Platform {
 
@@ -86,7 +84,7 @@ void FileWriter::update(const QString& path, Transform transform)
     enqueue([path, transform = std::move(transform)] {
         const QString problem = updateNow(path, transform);
         if (!problem.isEmpty()) {
-            qCWarning(fileWriterLog).noquote() << "Not written:" << path << "-" << problem;
+            qCWarning(Log::files).noquote() << "Not written:" << path << "-" << problem;
         }
     });
 }

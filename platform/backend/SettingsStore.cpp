@@ -3,14 +3,12 @@
 #include "platform/backend/SettingsStore.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/Log.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QSettings>
 #include <QTemporaryDir>
-
-Q_LOGGING_CATEGORY(settingsLog, "engine.settings")
 
 namespace Platform {
 
@@ -44,8 +42,8 @@ QByteArray edited(const QString& path, const QByteArray& present,
     }
     settings.sync();
     if (settings.status() == QSettings::FormatError) {
-        qCWarning(settingsLog).noquote()
-            << "Damaged settings:" << path << "- the readable part is kept";
+        qCWarning(Log::settings).noquote()
+            << "Damaged settings:" << path << "- what could be read of it is kept";
     }
     return settings.status() == QSettings::AccessError ? present : readFile(copy);
 }

@@ -21,8 +21,7 @@ public:
     virtual std::unique_ptr<CameraBackend> createCamera(CameraBackend::Listener& listener) = 0;
 };
 
-// Defined once, by the folder that provides the cameras of this build. What it measured of a camera
-// goes to the report.
+// Chooses the system that this machine has. What is measured of a camera goes to the report.
 std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config,
                                                  ReportSink& report);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/DeviceEngine.h"
 
+#include "platform/backend/Log.h"
 #include "platform/backend/StunServer.h"
 #include "platform/devices/CameraSystem.h"
 #include "platform/devices/SoundSystem.h"
@@ -9,10 +10,6 @@
 #include "platform/devices/network/StunProbe.h"
 #include "platform/devices/network/StunResponder.h"
 #include "platform/devices/reports/ReportOutbox.h"
-
-#include <QLoggingCategory>
-
-Q_LOGGING_CATEGORY(deviceEngineLog, "engine.devices")
 
 namespace Platform {
 
@@ -76,7 +73,7 @@ DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
       m_cameras(createCameraSystem(config, *m_reports))
 {
     if (!config.server.isEmpty() && !StunServer::fromText(config.server)) {
-        qCWarning(deviceEngineLog).noquote()
+        qCWarning(Log::devices).noquote()
             << "The network is not measured: the server" << config.server
             << "is not one. Give it as" << StunServer::Form;
     }
@@ -147,7 +144,7 @@ std::shared_ptr<StunResponder> DeviceEngine::responder()
     if (!present) {
         present = std::make_shared<StunResponder>();
         if (present->server().port == 0) {
-            qCWarning(deviceEngineLog).noquote()
+            qCWarning(Log::devices).noquote()
                 << "The built-in responder doesn't run:" << present->errorString();
         }
         m_responder = present;

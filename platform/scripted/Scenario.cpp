@@ -23,8 +23,7 @@ const QLatin1String BaseKey("base");
 // Empty on success, otherwise why the file can't be read.
 QString load(const QString& path, QByteArray* content)
 {
-    QString nameProblem =
-        path.startsWith(BundledFolder) ? QString() : FileNames::problem(path);
+    QString nameProblem = path.startsWith(BundledFolder) ? QString() : FileNames::problem(path);
     if (!nameProblem.isEmpty()) {
         return nameProblem;
     }

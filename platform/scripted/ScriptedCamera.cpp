@@ -3,18 +3,15 @@
 #include "platform/scripted/ScriptedCamera.h"
 
 #include "platform/backend/ResultDocument.h"
+#include "platform/backend/StallTimeout.h"
 #include "platform/scripted/ScriptedCameras.h"
 #include "platform/scripted/TestPattern.h"
-
-#include <algorithm>
 
 namespace Platform {
 
 namespace {
 
 constexpr int MsPerSecond = 1000;
-constexpr int RecentFramePeriods = 5;
-constexpr int RecentMs = 500;
 const QSize SampleSize(160, 160); // enough to measure the brightness
 
 } // namespace
@@ -134,7 +131,9 @@ void ScriptedCamera::onFrame()
         ++m_frame;
         m_picture = {};
     }
-    m_watchdog.start(std::max(RecentMs, RecentFramePeriods * MsPerSecond / feed.framesPerSecond));
+    StallTimeout timeout;
+    timeout.setRate(feed.framesPerSecond);
+    m_watchdog.start(std::chrono::duration_cast<std::chrono::milliseconds>(timeout.duration()));
     notifyWorkState();
     m_listener.frameArrived();
 }

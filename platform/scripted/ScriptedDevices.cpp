@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/scripted/ScriptedDevices.h"
 
-#include <algorithm>
-
 namespace Platform {
 
 ScriptedDevices::ScriptedDevices() = default;
@@ -12,11 +10,10 @@ ScriptedDevices::~ScriptedDevices() = default;
 
 void ScriptedDevices::plug(const DeviceInfo& device, DeviceState state)
 {
-    const auto present = find(device.id);
-    if (present == m_devices.end()) {
-        m_devices.push_back({device, state});
-    } else {
+    if (Device* present = findDevice(m_devices, device.id)) {
         *present = {device, state};
+    } else {
+        m_devices.push_back({device, state});
     }
     if (!m_isChoiceMade) {
         m_isChoiceMade = true;
@@ -27,20 +24,19 @@ void ScriptedDevices::plug(const DeviceInfo& device, DeviceState state)
 
 void ScriptedDevices::unplug(const QString& id)
 {
-    const auto device = find(id);
-    if (device != m_devices.end()) {
-        m_devices.erase(device);
+    if (const Device* device = findDevice(m_devices, id)) {
+        m_devices.erase(m_devices.begin() + (device - m_devices.data()));
         announceList();
     }
 }
 
 void ScriptedDevices::rename(const QString& id, const QString& name)
 {
-    const auto device = find(id);
-    if (device == m_devices.end()) {
+    Device* device = findDevice(m_devices, id);
+    if (!device) {
         return;
     }
-    device->info.name = name;
+    device->name = name;
     announceList();
     if (id == m_currentId) {
         Q_EMIT currentInfoChanged();
@@ -49,8 +45,8 @@ void ScriptedDevices::rename(const QString& id, const QString& name)
 
 void ScriptedDevices::setState(const QString& id, DeviceState state)
 {
-    const auto device = find(id);
-    if (device == m_devices.end() || device->state == state) {
+    Device* device = findDevice(m_devices, id);
+    if (!device || device->state == state) {
         return;
     }
     device->state = state;
@@ -72,11 +68,7 @@ void ScriptedDevices::choose(const QString& id)
 
 DeviceList ScriptedDevices::devices() const
 {
-    DeviceList result;
-    for (const Device& device : m_devices) {
-        result.push_back(device.info);
-    }
-    return withDistinctNames(result);
+    return withDistinctNames(DeviceList(m_devices.begin(), m_devices.end()));
 }
 
 QString ScriptedDevices::defaultName() const
@@ -90,29 +82,16 @@ DeviceState ScriptedDevices::currentState() const
     if (m_currentId.isEmpty()) {
         return m_isChoiceMade ? DeviceState::Off : DeviceState::Absent;
     }
-    const auto device = find(m_currentId);
-    return device == m_devices.end() ? DeviceState::Absent : device->state;
-}
-
-std::vector<ScriptedDevices::Device>::iterator ScriptedDevices::find(const QString& id)
-{
-    return std::find_if(m_devices.begin(), m_devices.end(),
-                        [&id](const Device& device) { return device.info.id == id; });
-}
-
-std::vector<ScriptedDevices::Device>::const_iterator ScriptedDevices::find(const QString& id) const
-{
-    return std::find_if(m_devices.begin(), m_devices.end(),
-                        [&id](const Device& device) { return device.info.id == id; });
+    const Device* device = findDevice(m_devices, m_currentId);
+    return device ? device->state : DeviceState::Absent;
 }
 
 // An unplugged device keeps its last name.
 void ScriptedDevices::refreshCurrentName()
 {
-    for (const DeviceInfo& device : devices()) {
-        if (device.id == m_currentId) {
-            m_currentName = device.name;
-        }
+    const DeviceList list = devices();
+    if (const DeviceInfo* device = findDevice(list, m_currentId)) {
+        m_currentName = device->name;
     }
 }
 

@@ -47,14 +47,11 @@ Q_SIGNALS:
     void currentInfoChanged();
 
 private:
-    struct Device
+    struct Device : DeviceInfo
     {
-        DeviceInfo info;
         DeviceState state = DeviceState::Ready;
     };
 
-    std::vector<Device>::iterator find(const QString& id);
-    std::vector<Device>::const_iterator find(const QString& id) const;
     void refreshCurrentName();
     void announceList();
 

@@ -36,7 +36,7 @@ bool isNear(QRgb actual, QRgb expected)
            qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
 }
 
-// ENVCHECK_FREEZE_MS makes it longer.
+// ENVCHECK_FREEZE_MS may make it longer.
 int freezeMs()
 {
     constexpr int Usual = 1000;
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void followsPlugsWithThePopupOpen();
     void showsEveryDeviceState_data();
     void showsEveryDeviceState();
-    void leavesAHungCameraAtOnce();
+    void leavesHungCameraAtOnce();
     void neverBlocksWhileServerIsFrozen_data();
     void neverBlocksWhileServerIsFrozen();
 
@@ -77,9 +77,9 @@ private:
     void openCameraPage() const { m_dialog->click("label_CameraCheck"); }
     void openSystemPage() const { m_dialog->click("label_SystemCheck"); }
     void chooseInPopup(const QString& text) const;
-    bool previewShows(QRgb colour) const;
+    bool previewShows(QRgb color) const;
     QStringList entries() const;
-    const QWidget* balloon() const; // null while none is visible
+    const QWidget* balloon() const; // null if none is visible
     void keepFrame(const char* name) const { QVERIFY(m_dialog->keepFrame(QLatin1String(name))); }
     void keepState();
     void keepSheet() const;
@@ -145,7 +145,7 @@ void tst_CameraDialog::followsPlugsWithThePopupOpen()
         a->kill();
         QTRY_COMPARE(box->count(), 2);
         QVERIFY(!box->view()->isVisible());
-        QTRY_COMPARE(box->currentIndex(), -1); // the chosen one is away and stays chosen
+        QTRY_COMPARE(box->currentIndex(), -1); // the unplugged camera stays chosen
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QTRY_VERIFY(previewShows(Background));
         keepFrame("camera-unplugged");
@@ -174,7 +174,7 @@ void tst_CameraDialog::showsEveryDeviceState()
         openCameraPage();
         QCOMPARE(entries(), QStringList(qtTrId("ID_Engine_NoCamera")));
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
-        QVERIFY(balloon() == nullptr);
+        QVERIFY(!balloon());
         keepState();
 
         camera = plug(NameA, QStringLiteral("Front camera"), {QStringLiteral("--stalled")});
@@ -191,7 +191,7 @@ void tst_CameraDialog::showsEveryDeviceState()
         chooseInPopup(qtTrId("ID_Engine_NoCamera"));
         QTRY_VERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QTRY_VERIFY(previewShows(Background));
-        QVERIFY(balloon() != nullptr);
+        QVERIFY(balloon());
         keepState();
 
         chooseInPopup(QStringLiteral("Front camera"));
@@ -199,13 +199,13 @@ void tst_CameraDialog::showsEveryDeviceState()
         camera->kill();
         QTRY_COMPARE(child<QComboBox>("cb_vd_name")->currentIndex(), -1);
         QTRY_VERIFY(previewShows(Background));
-        QVERIFY(balloon() == nullptr);
+        QVERIFY(!balloon());
         keepState();
     });
-    QVERIFY(balloon() == nullptr);
+    QVERIFY(!balloon());
 }
 
-void tst_CameraDialog::leavesAHungCameraAtOnce()
+void tst_CameraDialog::leavesHungCameraAtOnce()
 {
     const auto camera = plug(NameA, QStringLiteral("Front camera"));
     std::optional<GapMeter> gaps;
@@ -241,7 +241,7 @@ void tst_CameraDialog::neverBlocksWhileServerIsFrozen()
     const auto a = plug(NameA, QStringLiteral("Front camera"));
     const auto b = plug(NameB, QStringLiteral("Desk camera"),
                         {QStringLiteral("--color"), QStringLiteral("28a028")});
-    // The first page, its texts and fonts take their time whatever the cameras do.
+    // Once before: texts and fonts are loaded, which takes time whatever the cameras do.
     runDialog([this] { openCameraPage(); });
     int next = 0;
     qint64 gap = 0;
@@ -281,7 +281,7 @@ void tst_CameraDialog::neverBlocksWhileServerIsFrozen()
     if (step == 0) {
         m_server->freeze();
         runDialog([&] {
-            gaps.emplace(); // the window is there; what follows is the cameras' doing
+            gaps.emplace(); // from now on only the cameras can block
             openCameraPage();
             thawLater();
             QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
@@ -320,14 +320,14 @@ void tst_CameraDialog::chooseInPopup(const QString& text) const
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
 }
 
-bool tst_CameraDialog::previewShows(QRgb colour) const
+bool tst_CameraDialog::previewShows(QRgb color) const
 {
     const QImage picture = child<QWidget>("f_video_player")->grab().toImage();
     int hits = 0;
-    constexpr int Places = 9; // over the middle, which a picture of any shape covers
+    constexpr int Places = 9; // in the middle, which a frame of any aspect covers
     for (int i = 0; i < Places; ++i) {
         const int x = picture.width() * (Places + i) / (3 * Places);
-        hits += isNear(picture.pixel(x, picture.height() / 2), colour) ? 1 : 0;
+        hits += isNear(picture.pixel(x, picture.height() / 2), color) ? 1 : 0;
     }
     return hits > Places / 2;
 }
@@ -346,7 +346,7 @@ const QWidget* tst_CameraDialog::balloon() const
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto it = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget* window) {
-        return window->isVisible() && qobject_cast<const LumToolTip*>(window) != nullptr;
+        return window->isVisible() && qobject_cast<const LumToolTip*>(window);
     });
     return it == windows.cend() ? nullptr : *it;
 }
@@ -361,7 +361,7 @@ void tst_CameraDialog::keepState()
 void tst_CameraDialog::keepSheet() const
 {
     if (m_states.empty()) {
-        return; // only other cases were asked for
+        return; // only other cases were run
     }
     const QSize step = m_states.front().size() + QSize(StateGap, StateGap);
     const int rows = static_cast<int>(m_states.size()) / StateCount;

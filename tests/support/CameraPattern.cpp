@@ -17,7 +17,7 @@ const QRgb Band = qRgb(0, 0, 255);
 const QRgb Bar = qRgb(255, 255, 255);
 const QRgb Zero = qRgb(0, 0, 0);
 
-const char* const LayoutNames[] = {"YUY2", "UYVY", "NV12", "I420", "RGB",   "BGR",
+const char* const FormatNames[] = {"YUY2", "UYVY", "NV12", "I420", "RGB",   "BGR",
                                    "RGBx", "BGRx", "xRGB", "xBGR", "GRAY8", "MJPG"};
 
 int halfUp(int value)
@@ -37,17 +37,17 @@ void append(QByteArray& bytes, std::initializer_list<char> more)
 
 } // namespace
 
-CameraPattern::CameraPattern(Layout layout, const QSize& size, int rowPadding)
-    : m_layout(layout), m_rowPadding(rowPadding)
+CameraPattern::CameraPattern(PixelFormat pixelFormat, const QSize& size, int rowPadding)
+    : m_pixelFormat(pixelFormat), m_rowPadding(rowPadding)
 {
     setSize(size);
 }
 
-bool CameraPattern::layoutFromName(const QString& name, Layout& layout)
+bool CameraPattern::pixelFormatFromName(const QString& name, PixelFormat& pixelFormat)
 {
     for (int i = 0; i <= Mjpg; ++i) {
-        if (name == QLatin1String(LayoutNames[i])) {
-            layout = static_cast<Layout>(i);
+        if (name == QLatin1String(FormatNames[i])) {
+            pixelFormat = static_cast<PixelFormat>(i);
             return true;
         }
     }
@@ -56,14 +56,14 @@ bool CameraPattern::layoutFromName(const QString& name, Layout& layout)
 
 int CameraPattern::maxBytes() const
 {
-    return m_layout == Mjpg ? m_size.width() * m_size.height() * 3 : picture(0).size();
+    return m_pixelFormat == Mjpg ? m_size.width() * m_size.height() * 3 : frame(0).size();
 }
 
 void CameraPattern::setSize(const QSize& size)
 {
     m_size = size;
     const int width = size.width();
-    switch (m_layout) {
+    switch (m_pixelFormat) {
     case Yuy2:
     case Uyvy:
         m_stride = halfUp(width) * 4;
@@ -92,9 +92,9 @@ void CameraPattern::setSize(const QSize& size)
     m_stride += m_rowPadding;
 }
 
-QByteArray CameraPattern::picture(int number) const
+QByteArray CameraPattern::frame(int number) const
 {
-    if (m_layout == Mjpg) {
+    if (m_pixelFormat == Mjpg) {
         return jpeg(number);
     }
     const int height = m_size.height();
@@ -109,7 +109,7 @@ QByteArray CameraPattern::picture(int number) const
         return result;
     }
     for (const bool isV : {false, true}) {
-        if (m_layout == Nv12 && isV) {
+        if (m_pixelFormat == Nv12 && isV) {
             break;
         }
         const QByteArray topChroma = chromaRow(number, true, isV);
@@ -122,11 +122,11 @@ QByteArray CameraPattern::picture(int number) const
 }
 
 // BT.601, limited range
-CameraPattern::Yuv CameraPattern::toYuv(QRgb colour)
+CameraPattern::Yuv CameraPattern::toYuv(QRgb color)
 {
-    const double r = qRed(colour) / 255.0;
-    const double g = qGreen(colour) / 255.0;
-    const double b = qBlue(colour) / 255.0;
+    const double r = qRed(color) / 255.0;
+    const double g = qGreen(color) / 255.0;
+    const double b = qBlue(color) / 255.0;
     const double y = 0.299 * r + 0.587 * g + 0.114 * b;
     return {static_cast<uchar>(byte(16.0 + 219.0 * y)),
             static_cast<uchar>(byte(128.0 + 224.0 * (b - y) / 1.772)),
@@ -149,7 +149,7 @@ QRgb CameraPattern::pixel(int x, bool isTop, int number) const
     const int barWidth = width / BarShare;
     const int bar =
         width / BandShare + (number * width / StepShare) % (width - width / BandShare - barWidth);
-    return x >= bar && x < bar + barWidth ? Bar : m_colour.rgb();
+    return x >= bar && x < bar + barWidth ? Bar : m_color.rgb();
 }
 
 QByteArray CameraPattern::row(int number, bool isTop) const
@@ -158,14 +158,14 @@ QByteArray CameraPattern::row(int number, bool isTop) const
     QByteArray result;
     result.reserve(m_stride);
     for (int x = 0; x < width; ++x) {
-        const QRgb colour = pixel(x, isTop, number);
-        const char r = byte(qRed(colour));
-        const char g = byte(qGreen(colour));
-        const char b = byte(qBlue(colour));
-        const Yuv yuv = toYuv(colour);
+        const QRgb color = pixel(x, isTop, number);
+        const char r = byte(qRed(color));
+        const char g = byte(qGreen(color));
+        const char b = byte(qBlue(color));
+        const Yuv yuv = toYuv(color);
         const auto y = static_cast<char>(yuv.y);
         const auto chroma = static_cast<char>(x % 2 == 0 ? yuv.u : yuv.v);
-        switch (m_layout) {
+        switch (m_pixelFormat) {
         case Yuy2:
             append(result, {y, chroma});
             break;
@@ -207,13 +207,13 @@ QByteArray CameraPattern::chromaRow(int number, bool isTop, bool isV) const
     QByteArray result;
     for (int x = 0; x < m_size.width(); x += 2) {
         const Yuv yuv = toYuv(pixel(x, isTop, number));
-        if (m_layout == Nv12) {
+        if (m_pixelFormat == Nv12) {
             append(result, {static_cast<char>(yuv.u), static_cast<char>(yuv.v)});
         } else {
             result += static_cast<char>(isV ? yuv.v : yuv.u);
         }
     }
-    return result.leftJustified(m_layout == Nv12 ? m_stride : m_stride / 2, '\x55');
+    return result.leftJustified(m_pixelFormat == Nv12 ? m_stride : m_stride / 2, '\x55');
 }
 
 QByteArray CameraPattern::jpeg(int number) const

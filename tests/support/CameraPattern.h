@@ -9,30 +9,31 @@
 
 namespace TestSupport {
 
-// The pictures of the virtual camera: one colour, a blue band at the left edge, a white bar that
-// moves. Written without the conversions that are under test.
+// Makes the frames of a virtual camera: one color, a blue band at the left edge, a white bar that
+// moves. Uses none of the conversions that are under test.
 class CameraPattern
 {
 public:
-    enum Layout { Yuy2, Uyvy, Nv12, I420, Rgb, Bgr, Rgbx, Bgrx, Xrgb, Xbgr, Gray8, Mjpg };
+    enum PixelFormat { Yuy2, Uyvy, Nv12, I420, Rgb, Bgr, Rgbx, Bgrx, Xrgb, Xbgr, Gray8, Mjpg };
 
-    static constexpr int NumberBits = 16; // of the picture's number, as blocks along the top
+    static constexpr int NumberBits = 16; // of the frame's number, as blocks along the top edge
 
-    CameraPattern(Layout layout, const QSize& size, int rowPadding);
+    CameraPattern(PixelFormat pixelFormat, const QSize& size, int rowPadding);
 
-    static bool layoutFromName(const QString& name, Layout& layout); // false: no such layout
+    static bool pixelFormatFromName(const QString& name,
+                                    PixelFormat& pixelFormat); // false: no such format
 
-    Layout layout() const { return m_layout; }
+    PixelFormat pixelFormat() const { return m_pixelFormat; }
     QSize size() const { return m_size; }
     int stride() const { return m_stride; }
     int maxBytes() const;
 
     void setSize(const QSize& size);
-    void setColour(const QColor& colour) { m_colour = colour; }
+    void setColor(const QColor& color) { m_color = color; }
     void setBlack() { m_isBlack = true; }
     void setNumbered(bool on) { m_isNumbered = on; }
 
-    QByteArray picture(int number) const;
+    QByteArray frame(int number) const;
 
 private:
     struct Yuv
@@ -40,19 +41,19 @@ private:
         uchar y, u, v;
     };
 
-    static Yuv toYuv(QRgb colour);
+    static Yuv toYuv(QRgb color);
 
     QRgb pixel(int x, bool isTop, int number) const;
     QByteArray row(int number, bool isTop) const;
     QByteArray chromaRow(int number, bool isTop, bool isV) const;
     QByteArray jpeg(int number) const;
-    bool isPlanar() const { return m_layout == Nv12 || m_layout == I420; }
+    bool isPlanar() const { return m_pixelFormat == Nv12 || m_pixelFormat == I420; }
 
-    Layout m_layout;
+    PixelFormat m_pixelFormat;
     QSize m_size;
     int m_rowPadding;
     int m_stride = 0;
-    QColor m_colour = QColor(200, 40, 40);
+    QColor m_color = QColor(200, 40, 40);
     bool m_isNumbered = false;
     bool m_isBlack = false;
 };

@@ -17,9 +17,9 @@ public:
                            const QStringList& moreArguments = {});
     ~CameraProcess() override;
 
-    QByteArray output(); // all of it so far: the states of its stream, a line each
+    QByteArray output(); // so far: a line for each state of its stream
     void command(const QByteArray& line);
-    void kill(); // without a farewell
+    void kill(); // by SIGKILL
 
 private:
     QByteArray m_output;

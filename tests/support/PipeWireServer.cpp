@@ -23,7 +23,7 @@ const QString Bus = QStringLiteral("dbus-daemon");
 const QString Server = QStringLiteral("pipewire");
 const QString Manager = QStringLiteral("wireplumber");
 
-// None of the machine's own devices.
+// Hides the machine's own devices.
 const char ManagerConfiguration[] = "alsa_monitor.enabled = false\n"
                                     "v4l2_monitor.enabled = false\n"
                                     "libcamera_monitor.enabled = false\n";
@@ -92,7 +92,7 @@ void PipeWireServer::stop()
         m_programs.back().process->end();
         m_programs.pop_back();
     }
-    // What a killed server leaves behind would pass for a living one.
+    // The socket of a killed server would look like a running one.
     const QStringList remains =
         QDir(m_runtime).entryList(QDir::System | QDir::Files | QDir::Hidden);
     for (const QString& name : remains) {

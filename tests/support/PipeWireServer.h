@@ -13,9 +13,9 @@ namespace TestSupport {
 
 class TestProcess;
 
-// A PipeWire server of one's own: a message bus, the server and its session manager in a private
-// runtime folder, without any of the machine's devices. While there is one the environment of
-// this process points there.
+// A private PipeWire server: a message bus, the server and its session manager in a temporary
+// runtime folder, without the machine's devices. As long as it lives, the environment of this
+// process points to it.
 class PipeWireServer
 {
 public:
@@ -26,13 +26,13 @@ public:
 
     bool start(); // true once it is ready for clients
     void stop();
-    void kill();   // the server, without a farewell; the rest ends with it
+    void kill();   // the server by SIGKILL; the rest ends with it
     void freeze(); // the server stops answering
     void thaw();
     void freezeManager(); // nobody links streams to cameras any more
     void thawManager();
-    // Ends this process' connections with a stream, or those without, and no others. False where
-    // there are none.
+    // Ends the connections of this process that have a stream, or those that have none. False if
+    // there is none.
     bool cutConnections(bool withStream);
 
     bool isSocketThere() const;

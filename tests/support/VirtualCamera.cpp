@@ -13,12 +13,12 @@ namespace TestSupport {
 namespace {
 
 const char PropertySize[] = "size ";
-const char PropertyColour[] = "color ";
+const char PropertyColor[] = "color ";
 const char PropertyError[] = "error ";
 
-uint32_t spaFormat(CameraPattern::Layout layout)
+uint32_t spaFormat(CameraPattern::PixelFormat format)
 {
-    switch (layout) {
+    switch (format) {
     case CameraPattern::Yuy2:
         return SPA_VIDEO_FORMAT_YUY2;
     case CameraPattern::Uyvy:
@@ -59,7 +59,7 @@ long long nanoseconds()
     return now.tv_sec * 1000000000LL + now.tv_nsec;
 }
 
-// Plain memory under the name of a driver's: the reader has to map it itself.
+// Shared memory that is passed as a driver's buffer, which the reader must map by itself.
 void makeDriverBuffer(spa_buffer& buffer, int bytes)
 {
     spa_data& block = buffer.datas[0];
@@ -91,7 +91,7 @@ const pw_stream_events VirtualCamera::Events = [] {
         self(data)->onStateChanged(state);
     };
     events.param_changed = [](void* data, uint32_t id, const spa_pod* parameter) {
-        if (id == SPA_PARAM_Format && parameter != nullptr) {
+        if (id == SPA_PARAM_Format && parameter) {
             self(data)->onFormatChanged();
         }
     };
@@ -118,7 +118,7 @@ VirtualCamera::VirtualCamera(const Options& options, const CameraPattern& patter
 
 VirtualCamera::~VirtualCamera()
 {
-    if (m_stream != nullptr) {
+    if (m_stream) {
         pw_stream_destroy(m_stream);
     }
     m_device.reset();
@@ -170,7 +170,7 @@ bool VirtualCamera::connect()
     }
     m_stream = pw_stream_new_simple(pw_main_loop_get_loop(m_mainLoop), "virtual camera", properties,
                                     &Events, this);
-    if (m_stream == nullptr) {
+    if (!m_stream) {
         return false;
     }
     uint8_t memory[1024];
@@ -185,7 +185,7 @@ bool VirtualCamera::connect()
 
 const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t parameter) const
 {
-    const bool isRaw = m_pattern.layout() != CameraPattern::Mjpg && !m_options.isUnreadable;
+    const bool isRaw = m_pattern.pixelFormat() != CameraPattern::Mjpg && !m_options.isUnreadable;
     const auto encoding = static_cast<uint32_t>(m_options.isUnreadable ? SPA_MEDIA_SUBTYPE_h264
                                                                        : SPA_MEDIA_SUBTYPE_mjpg);
     const spa_rectangle size{static_cast<uint32_t>(m_pattern.size().width()),
@@ -198,7 +198,7 @@ const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t paramete
                         SPA_POD_Id(isRaw ? uint32_t{SPA_MEDIA_SUBTYPE_raw} : encoding), 0);
     if (isRaw) {
         spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_format,
-                            SPA_POD_Id(spaFormat(m_pattern.layout())), 0);
+                            SPA_POD_Id(spaFormat(m_pattern.pixelFormat())), 0);
     }
     spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_size, SPA_POD_Rectangle(&size),
                         SPA_FORMAT_VIDEO_framerate, SPA_POD_Fraction(&rate), 0);
@@ -233,8 +233,8 @@ void VirtualCamera::obey(const QByteArray& line)
         m_pattern.setBlack();
     } else if (line == "quit") {
         pw_main_loop_quit(m_mainLoop);
-    } else if (!argument(PropertyColour).isEmpty()) {
-        m_pattern.setColour(QColor(QString::fromLatin1('#' + argument(PropertyColour))));
+    } else if (!argument(PropertyColor).isEmpty()) {
+        m_pattern.setColor(QColor(QString::fromLatin1('#' + argument(PropertyColor))));
     } else if (!argument(PropertySize).isEmpty()) {
         const QList<QByteArray> edges = argument(PropertySize).split('x');
         resize(QSize(edges.value(0).toInt(), edges.value(1).toInt()));
@@ -282,15 +282,15 @@ void VirtualCamera::onFormatChanged()
 void VirtualCamera::onProcess()
 {
     pw_buffer* const buffer = pw_stream_dequeue_buffer(m_stream);
-    if (buffer == nullptr) {
+    if (!buffer) {
         return;
     }
     spa_data& block = buffer->buffer->datas[0];
-    const QByteArray picture = m_pattern.picture(m_number);
-    const auto bytes = static_cast<uint32_t>(picture.size());
-    if (block.data != nullptr && bytes <= block.maxsize) {
+    const QByteArray frame = m_pattern.frame(m_number);
+    const auto bytes = static_cast<uint32_t>(frame.size());
+    if (block.data && bytes <= block.maxsize) {
         const long long now = nanoseconds();
-        memcpy(block.data, picture.constData(), bytes);
+        memcpy(block.data, frame.constData(), bytes);
         block.chunk->offset = 0;
         block.chunk->size = bytes;
         block.chunk->stride = m_pattern.stride();
@@ -305,8 +305,8 @@ void VirtualCamera::onProcess()
                 buffer->buffer, SPA_META_VideoTransform, sizeof(spa_meta_videotransform)))) {
             transform->transform = m_options.transform;
         }
-        if (m_options.isTold) {
-            std::printf("picture %d %lld\n", m_number, now);
+        if (m_options.isLogged) {
+            std::printf("frame %d %lld\n", m_number, now);
             std::fflush(stdout);
         }
     }

@@ -11,9 +11,9 @@
 
 namespace TestSupport {
 
-// A camera of a PipeWire server that isn't there. Commands come on the standard input, one a line:
+// A made-up camera of a PipeWire server. Reads commands from the standard input, one a line:
 //   stall | resume | frozen | live | black | color RRGGBB | size WIDTHxHEIGHT | error NUMBER | quit
-// The end of the input quits too.
+// It also quits at the end of the input.
 class VirtualCamera
 {
 public:
@@ -22,15 +22,15 @@ public:
         QString name;
         QString description;
         QString role = QStringLiteral("Camera");
-        QString busPath;      // with one it belongs to a device that tells it
+        QString busPath;      // if there is one, the camera belongs to a device that has it
         QString capabilities; // of that device
         int rate = 30;
         uint32_t transform = 0; // a SPA_META_TRANSFORMATION value
         bool isStalled = false;
-        bool isRefusing = false;     // wants a kind of memory that nobody has
-        bool isUnreadable = false;   // offers nothing but a format that nobody takes
-        bool isDriverMemory = false; // buffers as a kernel driver hands them out
-        bool isTold = false;         // the time of every picture, on the standard output
+        bool isRefusing = false;     // wants a kind of memory that no reader has
+        bool isUnreadable = false;   // offers only a format that no reader takes
+        bool isDriverMemory = false; // DMA buffers, as of a kernel driver
+        bool isLogged = false;       // prints the time of every frame
     };
 
     VirtualCamera(const Options& options, const CameraPattern& pattern);

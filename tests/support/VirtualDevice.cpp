@@ -47,7 +47,7 @@ VirtualDevice::VirtualDevice(pw_loop* loop, const QString& busPath, const QStrin
     m_device.iface =
         SPA_INTERFACE_INIT(SPA_TYPE_INTERFACE_Device, SPA_VERSION_DEVICE, &Methods, this);
     pw_core* const core = pw_context_connect(m_context, nullptr, 0);
-    if (core == nullptr) {
+    if (!core) {
         return;
     }
     const spa_dict_item items[] = {{PW_KEY_MEDIA_CLASS, "Video/Device"},
@@ -55,20 +55,20 @@ VirtualDevice::VirtualDevice(pw_loop* loop, const QString& busPath, const QStrin
     const spa_dict properties = SPA_DICT_INIT_ARRAY(items);
     m_proxy = static_cast<pw_proxy*>(
         pw_core_export(core, SPA_TYPE_INTERFACE_Device, &properties, &m_device, 0));
-    if (m_proxy != nullptr) {
+    if (m_proxy) {
         pw_proxy_add_listener(m_proxy, &m_proxyHook, &ProxyEvents, this);
     }
 }
 
 VirtualDevice::~VirtualDevice()
 {
-    pw_context_destroy(m_context); // with its connection and all that was made over it
+    pw_context_destroy(m_context); // closes its connection, too
 }
 
 bool VirtualDevice::waitUntilKnown()
 {
     pw_loop_enter(m_loop);
-    for (int i = 0; i < WaitCount && m_proxy != nullptr && m_id == SPA_ID_INVALID; ++i) {
+    for (int i = 0; i < WaitCount && m_proxy && m_id == SPA_ID_INVALID; ++i) {
         pw_loop_iterate(m_loop, WaitMs);
     }
     pw_loop_leave(m_loop);

@@ -9,7 +9,7 @@
 
 namespace TestSupport {
 
-// The device that a virtual camera's node belongs to, as a bus driver would announce it.
+// The device that the node of a virtual camera belongs to.
 class VirtualDevice
 {
 public:
@@ -18,7 +18,7 @@ public:
     VirtualDevice(const VirtualDevice&) = delete;
     VirtualDevice& operator=(const VirtualDevice&) = delete;
 
-    bool waitUntilKnown(); // to the server
+    bool waitUntilKnown(); // by the server
     uint32_t id() const { return m_id; }
 
 private:

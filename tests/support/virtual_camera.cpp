@@ -26,10 +26,10 @@ int main(int argc, char* argv[])
     option("padding", "bytes", "0");
     option("rate", "number", "30");
     option("transform", "number", "0");
-    option("layout", "name", "YUY2");
+    option("pixel-format", "name", "YUY2");
     option("color", "RRGGBB", "c82828");
     for (const char* name :
-         {"stalled", "driver-memory", "refusing", "unreadable", "numbered", "told"}) {
+         {"stalled", "driver-memory", "refusing", "unreadable", "numbered", "log-frames"}) {
         parser.addOption({QLatin1String(name), QLatin1String(name)});
     }
     parser.process(application);
@@ -37,13 +37,14 @@ int main(int argc, char* argv[])
     const auto number = [&text](const char* name) { return text(name).toInt(); };
     const auto isSet = [&parser](const char* name) { return parser.isSet(QLatin1String(name)); };
 
-    CameraPattern::Layout layout = CameraPattern::Yuy2;
-    if (!CameraPattern::layoutFromName(text("layout"), layout)) {
-        std::fprintf(stderr, "virtual_camera: no such layout: %s\n", qPrintable(text("layout")));
+    CameraPattern::PixelFormat format = CameraPattern::Yuy2;
+    if (!CameraPattern::pixelFormatFromName(text("pixel-format"), format)) {
+        std::fprintf(stderr, "virtual_camera: no such pixel format: %s\n",
+                     qPrintable(text("pixel-format")));
         return 2;
     }
-    CameraPattern pattern(layout, QSize(number("width"), number("height")), number("padding"));
-    pattern.setColour(QColor(QLatin1Char('#') + text("color")));
+    CameraPattern pattern(format, QSize(number("width"), number("height")), number("padding"));
+    pattern.setColor(QColor(QLatin1Char('#') + text("color")));
     pattern.setNumbered(isSet("numbered"));
 
     VirtualCamera::Options options;
@@ -58,6 +59,6 @@ int main(int argc, char* argv[])
     options.capabilities = text("capabilities");
     options.isUnreadable = isSet("unreadable");
     options.isDriverMemory = isSet("driver-memory");
-    options.isTold = isSet("told");
+    options.isLogged = isSet("log-frames");
     return VirtualCamera(options, pattern).run();
 }

@@ -13,8 +13,9 @@ namespace Platform {
 class EndingThreads;
 class FrameSlot;
 
-// One camera user's line to whatever knows the cameras. Used on the GUI thread; nothing here waits,
-// and the destructor only asks its threads to end. Pictures go into the slot.
+// What one user of the cameras gets from a system: the list, and the frames of one camera, which go
+// into the slot. Used on the GUI thread; nothing here waits, and the destructor only asks its
+// threads to end.
 class CameraFeed
 {
 public:
@@ -27,7 +28,7 @@ public:
                                  bool isDenied) = 0;
         virtual void stateChanged(int generation, DeviceState state) = 0;
         virtual void frameArrived() = 0;
-        virtual void serverMissing() = 0; // this machine has nothing to feed from
+        virtual void serverMissing() = 0; // no server of this system answers
     };
 
     virtual ~CameraFeed() = default;

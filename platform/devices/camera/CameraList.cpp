@@ -29,7 +29,7 @@ bool CameraList::isCamera(const CameraNode& node)
     if (!node.capabilities.isEmpty() && !node.capabilities.contains(CaptureCapability)) {
         return false;
     }
-    return (node.hasColour || !node.hasFormats) && !isNamedInfrared(node.description);
+    return (node.hasColor || !node.hasFormats) && !isNamedInfrared(node.description);
 }
 
 bool CameraList::add(quint32 globalId, const CameraNode& node)
@@ -70,11 +70,12 @@ std::optional<QString> CameraList::serialOf(const QString& id) const
     return it == nodes.end() ? std::nullopt : std::make_optional(it->second->serial);
 }
 
-bool CameraList::isUnreadable(const QString& id) const
+bool CameraList::isReadable(const QString& serial) const
 {
-    const auto nodes = byId();
-    const auto it = nodes.find(id);
-    return it != nodes.end() && it->second->hasFormats && !it->second->isReadable;
+    return std::none_of(m_nodes.begin(), m_nodes.end(), [&serial](const auto& entry) {
+        const CameraNode& node = entry.second;
+        return node.serial == serial && node.hasFormats && !node.isReadable;
+    });
 }
 
 QString CameraList::preferredId() const
@@ -97,7 +98,7 @@ std::map<QString, const CameraNode*> CameraList::byId() const
     for (const auto& entry : m_nodes) {
         nodes.push_back(&entry.second);
     }
-    // One device's nodes keep their numbers, whichever the server found first.
+    // By name, so that the nodes of one device get the same numbers in whatever order they came.
     std::stable_sort(nodes.begin(), nodes.end(),
                      [](const CameraNode* a, const CameraNode* b) { return a->name < b->name; });
     std::map<QString, const CameraNode*> result;

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/DeviceCamera.h"
 
+#include "platform/backend/Log.h"
 #include "platform/backend/ReportSink.h"
 #include "platform/backend/SettingsStore.h"
-#include "platform/devices/camera/CameraLog.h"
 #include "platform/devices/camera/FrameSlot.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace Platform {
@@ -18,7 +17,7 @@ const QString CurrentCameraKey = QStringLiteral("camera/current");
 
 } // namespace
 
-// Carries the feed's news to the GUI thread. Late ones are dropped by the mailbox.
+// Posts the feed's calls to the GUI thread. The mailbox drops late ones.
 class DeviceCamera::Post final : public CameraFeed::Listener
 {
 public:
@@ -90,7 +89,7 @@ DeviceState DeviceCamera::state() const
     if (m_currentId.isEmpty()) {
         return DeviceState::Off;
     }
-    if (findDevice(m_currentId) == nullptr) {
+    if (!findDevice(m_devices, m_currentId)) {
         return DeviceState::Absent;
     }
     if (delivers()) {
@@ -141,11 +140,11 @@ void DeviceCamera::onListArrived(const DeviceList& devices, const QString& prefe
     if (!m_isChosen && !m_devices.empty()) {
         chooseFirst(preferredId);
     }
-    if (const DeviceInfo* device = findDevice(m_currentId)) {
+    if (const DeviceInfo* device = findDevice(m_devices, m_currentId)) {
         m_currentName = device->name;
     }
     if (isListChanged) {
-        notifyCurrentChanged(); // whoever refills its list must select anew
+        notifyCurrentChanged(); // a refilled list must select its entry again
         m_listener.cameraListChanged();
     } else {
         notifyWorkState();
@@ -158,7 +157,7 @@ void DeviceCamera::onStateChanged(int generation, DeviceState state)
         return;
     }
     m_openState = state;
-    qCInfo(CameraLog, "\"%s\" is %s", qUtf8Printable(m_currentName),
+    qCInfo(Log::camera, "\"%s\" is %s", qUtf8Printable(m_currentName),
            qUtf8Printable(toString(this->state())));
     notifyWorkState();
 }
@@ -167,16 +166,16 @@ void DeviceCamera::onFrameArrived()
 {
     m_slot->notificationArrived();
     if (m_isStarted) {
-        notifyWorkState(); // the feed's word for it may have come when the picture before was old
+        notifyWorkState(); // "Working" may have arrived when the frame before was too old
         m_listener.frameArrived();
     }
 }
 
-// By letter of the camera's own, as the feed's mailbox goes with the feed.
+// Through our own mailbox; the feed's dies with it.
 void DeviceCamera::onServerMissing()
 {
     m_mailbox.sender().post([this] {
-        if (m_makeSecondFeed) { // otherwise the server may still come
+        if (m_makeSecondFeed) { // if there is no second one, the server may still come
             useFeed(std::exchange(m_makeSecondFeed, nullptr));
             m_feed->setOutputSize(m_outputSize);
             openCurrent();
@@ -184,7 +183,7 @@ void DeviceCamera::onServerMissing()
     });
 }
 
-// Nothing arrives any more from the feed before.
+// A new mailbox, so that nothing arrives any more from the feed before.
 void DeviceCamera::useFeed(const FeedMaker& makeFeed)
 {
     m_feed.reset();
@@ -192,13 +191,13 @@ void DeviceCamera::useFeed(const FeedMaker& makeFeed)
     m_feed = makeFeed(m_slot, std::make_unique<Post>(this, m_feedMailbox->sender()), m_ending);
 }
 
-// What was chosen the last time is taken where it is there, and isn't waited for where it isn't.
+// The choice of the last time, if it is there. If not, we don't wait for it.
 void DeviceCamera::chooseFirst(const QString& preferredId)
 {
     const QVariant remembered = m_settings.value(CurrentCameraKey);
     const QString id = remembered.toString();
     const bool isOff = remembered.isValid() && id.isEmpty();
-    choose(isOff || findDevice(id) != nullptr ? id : preferredId);
+    choose(isOff || findDevice(m_devices, id) ? id : preferredId);
 }
 
 void DeviceCamera::choose(const QString& id)
@@ -206,8 +205,7 @@ void DeviceCamera::choose(const QString& id)
     m_isChosen = true;
     m_didDeliver = false;
     m_currentId = id;
-    const DeviceInfo* device = findDevice(id);
-    m_currentName = device == nullptr ? QString() : device->name;
+    m_currentName = nameIn(m_devices, id);
     if (m_isStarted) {
         openCurrent();
     }
@@ -228,26 +226,19 @@ void DeviceCamera::openCurrent()
 
 void DeviceCamera::recordMeasurement()
 {
-    // Without a camera the slot still holds what was seen of the one before.
+    // If the camera was switched off, the slot still has the figures of the one before.
     QJsonObject figures = m_currentId.isEmpty() ? QJsonObject() : m_slot->figures();
     figures.insert(QStringLiteral("state"), toString(state()));
     figures.insert(QStringLiteral("device"), m_currentName);
     m_report.recordMeasurement(QStringLiteral("camera"), figures);
 }
 
-const DeviceInfo* DeviceCamera::findDevice(const QString& id) const
-{
-    const auto it = std::find_if(m_devices.cbegin(), m_devices.cend(),
-                                 [&id](const DeviceInfo& device) { return device.id == id; });
-    return it == m_devices.cend() ? nullptr : &*it;
-}
-
-// By letter, as no listener is called from inside a call.
+// Posted, because no listener is called from inside a call.
 void DeviceCamera::notifyCurrentChanged()
 {
     m_mailbox.sender().post([this] {
         m_wasUsable = isUsable(state());
-        m_didDeliver = m_didDeliver && delivers(); // that it works is always told
+        m_didDeliver = m_didDeliver && delivers(); // so that "works" is always told
         m_listener.currentCameraChanged(m_currentId);
     });
 }

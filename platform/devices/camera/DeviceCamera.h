@@ -15,9 +15,9 @@ class FrameSlot;
 class ReportSink;
 class SettingsStore;
 
-// A user of the cameras. What waits for a server or a driver is done by the feed on its threads;
-// this side only asks it and is posted to. Where the first feed finds no server, the second one
-// takes over for good.
+// One user's session with the cameras. Whatever waits for a server or a driver is done by the feed
+// on its threads; this side posts to it and is posted to. If the first feed finds no server, the
+// second one replaces it for good.
 class DeviceCamera final : public CameraBackend
 {
 public:
@@ -53,12 +53,11 @@ private:
     void choose(const QString& id);
     void openCurrent();
     void recordMeasurement();
-    const DeviceInfo* findDevice(const QString& id) const;
     void notifyCurrentChanged();
     void notifyWorkState();
 
     Listener& m_listener;
-    FeedMaker m_makeSecondFeed; // null once it is in use
+    FeedMaker m_makeSecondFeed; // null once it is used
     std::shared_ptr<EndingThreads> m_ending;
     SettingsStore& m_settings;
     ReportSink& m_report;
@@ -67,12 +66,12 @@ private:
     DeviceList m_devices;
     QString m_currentId;
     QString m_currentName;
-    bool m_isChosen = false; // by the user, or by what was there first
+    bool m_isChosen = false; // by the user, or because it was there first
     bool m_isDenied = false;
     bool m_isStarted = false;
     int m_generation = 0;
-    DeviceState m_openState = DeviceState::Ready; // of the chosen camera while it is there
-    bool m_wasUsable = false;                     // as told last
+    DeviceState m_openState = DeviceState::Ready; // of the chosen camera while it is plugged in
+    bool m_wasUsable = false;                     // as the listener knows
     bool m_didDeliver = false;
     Mailbox m_mailbox;
     std::optional<Mailbox> m_feedMailbox; // of the feed in use

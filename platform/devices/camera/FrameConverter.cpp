@@ -8,7 +8,7 @@ namespace Platform {
 
 namespace {
 
-constexpr int MaxEdge = 8192; // no camera's picture is larger; a broken size would be
+constexpr int MaxEdge = 8192; // no camera sends more; a larger size is a broken one
 
 int halfUp(int value)
 {
@@ -26,37 +26,37 @@ bool isReasonable(const QSize& size)
     return !size.isEmpty() && size.width() <= MaxEdge && size.height() <= MaxEdge;
 }
 
-const libyuv::YuvConstants* constantsOf(YuvColour colour)
+const libyuv::YuvConstants* constantsOf(YuvColor color)
 {
-    switch (colour) {
-    case YuvColour::Bt601:
+    switch (color) {
+    case YuvColor::Bt601:
         return &libyuv::kYuvI601Constants;
-    case YuvColour::Bt601Full:
+    case YuvColor::Bt601Full:
         return &libyuv::kYuvJPEGConstants;
-    case YuvColour::Bt709:
+    case YuvColor::Bt709:
         return &libyuv::kYuvH709Constants;
-    case YuvColour::Bt709Full:
+    case YuvColor::Bt709Full:
         return &libyuv::kYuvF709Constants;
     }
     return &libyuv::kYuvI601Constants;
 }
 
-int rgbBytes(PixelLayout layout)
+int rgbBytes(PixelFormat pixelFormat)
 {
-    return layout == PixelLayout::Rgb || layout == PixelLayout::Bgr ? 3 : 4;
+    return pixelFormat == PixelFormat::Rgb || pixelFormat == PixelFormat::Bgr ? 3 : 4;
 }
 
-// The plane's stride where it holds all rows, otherwise 0.
+// The plane's stride, or 0 if the plane is too short for all rows.
 int strideOf(const FrameView::Plane& plane, int rowBytes, int rows)
 {
     const int stride = plane.stride == 0 ? rowBytes : plane.stride;
     const std::size_t needed =
         static_cast<std::size_t>(stride) * static_cast<std::size_t>(rows - 1) +
         static_cast<std::size_t>(rowBytes);
-    return plane.data != nullptr && stride >= rowBytes && plane.size >= needed ? stride : 0;
+    return plane.data && stride >= rowBytes && plane.size >= needed ? stride : 0;
 }
 
-// The plane that follows the given one in the same memory.
+// The plane that follows this one in the same memory.
 FrameView::Plane planeBehind(const FrameView::Plane& plane, int stride, int rows, int nextStride)
 {
     const std::size_t bytes = static_cast<std::size_t>(stride) * static_cast<std::size_t>(rows);
@@ -66,8 +66,8 @@ FrameView::Plane planeBehind(const FrameView::Plane& plane, int stride, int rows
     return {plane.data + bytes, plane.size - bytes, nextStride};
 }
 
-// Gives each plane of a planar layout its own entry, also where all lie in one.
-FrameView separated(const FrameView& view, const PixelFormat& format)
+// Planar formats: an entry for each plane, also if all lie in one.
+FrameView separated(const FrameView& view, const FrameFormat& format)
 {
     FrameView result = view;
     if (view.planeCount != 1) {
@@ -78,7 +78,7 @@ FrameView separated(const FrameView& view, const PixelFormat& format)
     if (luma.stride == 0) {
         luma.stride = format.size.width();
     }
-    if (format.layout == PixelLayout::Nv12) {
+    if (format.pixelFormat == PixelFormat::Nv12) {
         result.planes[1] = planeBehind(luma, luma.stride, height, (luma.stride + 1) & ~1);
     } else {
         const int stride = halfUp(luma.stride);
@@ -92,7 +92,7 @@ FrameView separated(const FrameView& view, const PixelFormat& format)
 
 struct FrameConverter::Source
 {
-    const PixelFormat& format;
+    const FrameFormat& format;
     const FrameView& view;
 
     int width() const { return format.size.width(); }
@@ -111,19 +111,18 @@ QSize FrameConverter::fittedSize(const QSize& source, const QSize& bound)
         .expandedTo(QSize(1, 1));
 }
 
-QImage FrameConverter::convert(const PixelFormat& format, const FrameView& view,
+QImage FrameConverter::convert(const FrameFormat& format, const FrameView& view,
                                const FrameOrientation& orientation, const QSize& bound)
 {
-    PixelFormat actual = format;
-    if (format.layout == PixelLayout::Mjpg) {
+    FrameFormat actual = format;
+    if (format.pixelFormat == PixelFormat::Mjpg) {
         int width = 0;
         int height = 0;
         const FrameView::Plane& plane = view.planes[0];
-        if (plane.data == nullptr ||
-            libyuv::MJPGSize(plane.data, plane.size, &width, &height) != 0) {
+        if (!plane.data || libyuv::MJPGSize(plane.data, plane.size, &width, &height) != 0) {
             return {};
         }
-        actual.size = QSize(width, height); // the picture knows better than the agreement
+        actual.size = QSize(width, height); // the JPEG is right; the agreed size may not be
     }
     if (!isReasonable(actual.size) || view.planeCount < 1 || view.planeCount > 3) {
         return {};
@@ -132,36 +131,36 @@ QImage FrameConverter::convert(const PixelFormat& format, const FrameView& view,
     const QSize size = fittedSize(actual.size, isSideways ? bound.transposed() : bound);
     const Source source{actual, view};
     bool isScaled = false;
-    switch (actual.layout) {
-    case PixelLayout::None:
+    switch (actual.pixelFormat) {
+    case PixelFormat::None:
         break;
-    case PixelLayout::Yuy2:
-    case PixelLayout::Uyvy:
+    case PixelFormat::Yuy2:
+    case PixelFormat::Uyvy:
         isScaled = scalePacked422(source, size);
         break;
-    case PixelLayout::Nv12:
+    case PixelFormat::Nv12:
         isScaled = scaleNv12(source, size);
         break;
-    case PixelLayout::I420:
+    case PixelFormat::I420:
         isScaled = scaleI420(source, size);
         break;
-    case PixelLayout::Mjpg:
+    case PixelFormat::Mjpg:
         isScaled = scaleMjpg(source, size);
         break;
-    case PixelLayout::Bgrx:
-    case PixelLayout::Rgbx:
-    case PixelLayout::Xrgb:
-    case PixelLayout::Xbgr:
-    case PixelLayout::Rgb:
-    case PixelLayout::Bgr:
+    case PixelFormat::Bgrx:
+    case PixelFormat::Rgbx:
+    case PixelFormat::Xrgb:
+    case PixelFormat::Xbgr:
+    case PixelFormat::Rgb:
+    case PixelFormat::Bgr:
         isScaled = scaleRgb(source, size);
         break;
     }
     return isScaled ? oriented(size, orientation) : QImage();
 }
 
-// Packed layouts can't be scaled sideways as they are, but each byte column can be scaled upright,
-// which leaves little to unpack.
+// A packed format can't be scaled horizontally before it is unpacked. Vertically it can, and then
+// there is less to unpack.
 void FrameConverter::scaleRows(const Source& source, int rowBytes, int rows)
 {
     const FrameView::Plane& plane = source.view.planes[0];
@@ -184,7 +183,7 @@ bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
     uchar* const u = sized(m_full[1], halfWidth, rows);
     uchar* const v = sized(m_full[2], halfWidth, rows);
     const auto unpack =
-        source.format.layout == PixelLayout::Yuy2 ? libyuv::YUY2ToI422 : libyuv::UYVYToI422;
+        source.format.pixelFormat == PixelFormat::Yuy2 ? libyuv::YUY2ToI422 : libyuv::UYVYToI422;
     unpack(m_rows.data(), rowBytes, y, width, u, halfWidth, v, halfWidth, width, rows);
 
     const int smallWidth = size.width();
@@ -200,7 +199,7 @@ bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
                        libyuv::kFilterBox);
     return libyuv::I422ToARGBMatrix(smallY, smallWidth, smallU, smallHalf, smallV, smallHalf,
                                     sized(m_argb, smallWidth * 4, rows), smallWidth * 4,
-                                    constantsOf(source.format.colour), smallWidth, rows) == 0;
+                                    constantsOf(source.format.color), smallWidth, rows) == 0;
 }
 
 bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
@@ -220,7 +219,7 @@ bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
     libyuv::NV12Scale(view.planes[0].data, yStride, view.planes[1].data, uvStride, source.width(),
                       source.height(), y, width, uv, uvWidth, width, height, libyuv::kFilterBox);
     return libyuv::NV12ToARGBMatrix(y, width, uv, uvWidth, sized(m_argb, width * 4, height),
-                                    width * 4, constantsOf(source.format.colour), width,
+                                    width * 4, constantsOf(source.format.color), width,
                                     height) == 0;
 }
 
@@ -246,33 +245,33 @@ bool FrameConverter::scaleI420(const Source& source, const QSize& size)
                       smallHalf, v, smallHalf, width, height, libyuv::kFilterBox);
     return libyuv::I420ToARGBMatrix(y, width, u, smallHalf, v, smallHalf,
                                     sized(m_argb, width * 4, height), width * 4,
-                                    constantsOf(source.format.colour), width, height) == 0;
+                                    constantsOf(source.format.color), width, height) == 0;
 }
 
 bool FrameConverter::scaleRgb(const Source& source, const QSize& size)
 {
-    const PixelLayout layout = source.format.layout;
+    const PixelFormat pixelFormat = source.format.pixelFormat;
     const int width = source.width();
-    const int rowBytes = width * rgbBytes(layout);
+    const int rowBytes = width * rgbBytes(pixelFormat);
     const int rows = size.height();
     if (strideOf(source.view.planes[0], rowBytes, source.height()) == 0) {
         return false;
     }
     scaleRows(source, rowBytes, rows);
-    // libyuv names its layouts by the word, not by the memory: its ARGB is the B, G, R, X here.
+    // libyuv names formats by the 32-bit word, not in memory order: its ARGB is our BGRX.
     uchar* const full = sized(m_full[0], width * 4, rows);
     const auto unpack = [&](auto function) {
         function(m_rows.data(), rowBytes, full, width * 4, width, rows);
     };
-    if (layout == PixelLayout::Bgrx) {
+    if (pixelFormat == PixelFormat::Bgrx) {
         unpack(libyuv::ARGBCopy);
-    } else if (layout == PixelLayout::Rgbx) {
+    } else if (pixelFormat == PixelFormat::Rgbx) {
         unpack(libyuv::ABGRToARGB);
-    } else if (layout == PixelLayout::Xrgb) {
+    } else if (pixelFormat == PixelFormat::Xrgb) {
         unpack(libyuv::BGRAToARGB);
-    } else if (layout == PixelLayout::Xbgr) {
+    } else if (pixelFormat == PixelFormat::Xbgr) {
         unpack(libyuv::RGBAToARGB);
-    } else if (layout == PixelLayout::Rgb) {
+    } else if (pixelFormat == PixelFormat::Rgb) {
         unpack(libyuv::RAWToARGB);
     } else {
         unpack(libyuv::RGB24ToARGB);
@@ -294,7 +293,7 @@ bool FrameConverter::scaleMjpg(const Source& source, const QSize& size)
                            height, width, height) != 0) {
         return false;
     }
-    PixelFormat format{PixelLayout::I420, YuvColour::Bt601Full, source.format.size};
+    FrameFormat format{PixelFormat::I420, YuvColor::Bt601Full, source.format.size};
     FrameView view;
     view.planeCount = 3;
     for (std::size_t i = 0; i < view.planes.size(); ++i) {
@@ -312,7 +311,7 @@ QImage FrameConverter::oriented(const QSize& size, const FrameOrientation& orien
     static constexpr libyuv::RotationMode Turns[] = {libyuv::kRotate0, libyuv::kRotate90,
                                                      libyuv::kRotate180, libyuv::kRotate270};
     const libyuv::RotationMode turn = Turns[orientation.quarterTurns];
-    if (orientation.isFlipped) { // undoing the flip would undo the mirror of the self-view
+    if (orientation.isFlipped) { // already mirrored, as a self-view must be
         libyuv::ARGBRotate(m_argb.data(), width * 4, result.bits(), result.bytesPerLine(), width,
                            height, turn);
         return result;

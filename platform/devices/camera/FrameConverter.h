@@ -2,24 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/camera/FrameFormat.h"
 #include "platform/devices/camera/FramePool.h"
-#include "platform/devices/camera/PixelFormat.h"
 
 #include <QImage>
 #include <vector>
 
 namespace Platform {
 
-// Makes what a camera sends into what a self-view shows: upright, mirrored, no larger than wished,
-// its aspect kept. Scales before it converts. One thread at a time.
+// Converts a camera's frame for a self-view: upright, mirrored, within the bound, aspect kept.
+// Scales first, so that there is less to convert. One thread at a time.
 class FrameConverter
 {
 public:
-    // Null where the picture can't be read: too short, broken, or of an absurd size.
-    QImage convert(const PixelFormat& format, const FrameView& view,
+    // Null if the frame can't be read: too short, broken, or of an absurd size.
+    QImage convert(const FrameFormat& format, const FrameView& view,
                    const FrameOrientation& orientation, const QSize& bound);
 
-    // The size of the result: never larger than the source. An empty bound doesn't limit.
+    // The size of the result, never larger than the source. An empty bound is no bound.
     static QSize fittedSize(const QSize& source, const QSize& bound);
 
 private:
@@ -35,8 +35,8 @@ private:
     QImage oriented(const QSize& size, const FrameOrientation& orientation);
 
     FramePool m_pool;
-    Bytes m_rows;    // the source at its full width and the wished height
-    Bytes m_full[3]; // planes at the source's width
+    Bytes m_rows;    // the full width of the source, the height of the result
+    Bytes m_full[3]; // planes of the source's width
     Bytes m_small[3];
     Bytes m_argb;
     Bytes m_turned;

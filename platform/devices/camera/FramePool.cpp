@@ -9,7 +9,7 @@ namespace Platform {
 
 namespace {
 
-// One being shown, one waiting, one being filled.
+// One is shown, one waits, one is filled.
 constexpr std::size_t MaxSpares = 3;
 
 } // namespace
@@ -17,7 +17,7 @@ constexpr std::size_t MaxSpares = 3;
 struct FramePool::Shelf
 {
     using Memory = std::vector<uchar>;
-    // What a picture hands back when it goes.
+    // What a frame gives back when it is destroyed.
     struct Loan
     {
         std::shared_ptr<Shelf> shelf;
@@ -27,7 +27,7 @@ struct FramePool::Shelf
     static void giveBack(void* loan)
     {
         const std::unique_ptr<Loan> owned(static_cast<Loan*>(loan));
-        const std::lock_guard<std::mutex> lock(owned->shelf->mutex);
+        const std::scoped_lock lock(owned->shelf->mutex);
         if (owned->shelf->spares.size() < MaxSpares) {
             owned->shelf->spares.push_back(std::move(owned->memory));
         }
@@ -48,7 +48,7 @@ QImage FramePool::take(const QSize& size)
     auto loan = std::make_unique<Shelf::Loan>();
     loan->shelf = m_shelf;
     {
-        const std::lock_guard<std::mutex> lock(m_shelf->mutex);
+        const std::scoped_lock lock(m_shelf->mutex);
         if (!m_shelf->spares.empty()) {
             loan->memory = std::move(m_shelf->spares.back());
             m_shelf->spares.pop_back();

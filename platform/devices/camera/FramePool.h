@@ -8,8 +8,8 @@
 
 namespace Platform {
 
-// Memory for pictures that is used again once nobody holds the picture any more, on whatever
-// thread that happens. Thread-safe; the pictures may outlive the pool.
+// Memory for frames. It is used again as soon as nobody holds the frame any more, whichever thread
+// let go of it. Thread-safe; the frames may outlive the pool.
 class FramePool
 {
 public:

@@ -4,87 +4,103 @@
 
 namespace Platform {
 
+FrameSlot::FrameSlot(std::function<Clock::time_point()> now) : m_now(std::move(now))
+{
+}
+
 int FrameSlot::open()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_picture = QImage();
-    m_rule = StallTimeout();
-    m_statistics.start(Clock::now());
+    const std::scoped_lock lock(m_mutex);
+    m_frame = QImage();
+    m_timeout = StallTimeout();
+    m_expectedSince.reset();
+    m_statistics.start(m_now());
     m_isOpen = true;
     return ++m_generation;
 }
 
 void FrameSlot::close()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_picture = QImage();
-    m_rule = StallTimeout();
+    const std::scoped_lock lock(m_mutex);
+    m_frame = QImage();
+    m_timeout = StallTimeout();
+    m_expectedSince.reset();
     m_isOpen = false;
     ++m_generation;
 }
 
 QImage FrameSlot::newest() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_picture;
+    const std::scoped_lock lock(m_mutex);
+    return m_frame;
 }
 
 bool FrameSlot::delivers() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_rule.delivers(Clock::now());
+    const std::scoped_lock lock(m_mutex);
+    return m_timeout.delivers(m_now());
 }
 
 QJsonObject FrameSlot::figures() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     return m_statistics.figures();
 }
 
 void FrameSlot::notificationArrived()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_isNotificationUnderWay = false;
 }
 
 void FrameSlot::setRate(int generation, double framesPerSecond)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_isOpen && generation == m_generation) {
-        m_rule.setRate(framesPerSecond);
+    const std::scoped_lock lock(m_mutex);
+    if (takes(generation)) {
+        m_timeout.setRate(framesPerSecond);
+    }
+}
+
+void FrameSlot::expectFrames(int generation)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (takes(generation)) {
+        m_expectedSince = m_now();
     }
 }
 
 void FrameSlot::interrupt(int generation)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     if (generation == m_generation) {
-        m_picture = QImage();
-        m_rule.reset();
+        m_frame = QImage();
+        m_timeout.reset();
+        m_expectedSince.reset();
     }
 }
 
-bool FrameSlot::put(int generation, const QImage& picture, const QSize& sourceSize)
+bool FrameSlot::put(int generation, const QImage& frame, const QSize& sourceSize)
 {
-    const FrameStatistics::Sample sample = FrameStatistics::sampleOf(picture);
-    const Clock::time_point now = Clock::now();
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_isOpen || generation != m_generation) {
+    const FrameStatistics::Sample sample = FrameStatistics::sampleOf(frame);
+    const std::scoped_lock lock(m_mutex);
+    if (!takes(generation)) {
         return false;
     }
-    m_picture = picture;
-    m_rule.frameArrived(now);
+    const Clock::time_point now = m_now();
+    m_frame = frame;
+    m_timeout.frameArrived(now);
     m_statistics.add(sample, sourceSize, now);
     const bool mustNotify = !m_isNotificationUnderWay;
     m_isNotificationUnderWay = true;
     return mustNotify;
 }
 
-bool FrameSlot::isSilent(Clock::time_point since) const
+bool FrameSlot::isSilent() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const Clock::time_point now = Clock::now();
-    return !m_rule.delivers(now) && now - since > m_rule.allowance();
+    const std::scoped_lock lock(m_mutex);
+    const Clock::time_point now = m_now();
+    return m_expectedSince && !m_timeout.delivers(now) &&
+           now - *m_expectedSince > m_timeout.duration();
 }
 
 } // namespace Platform

@@ -2,42 +2,51 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/StallTimeout.h"
 #include "platform/devices/camera/FrameStatistics.h"
-#include "platform/devices/camera/StallTimeout.h"
 
 #include <QImage>
 #include <QJsonObject>
+#include <functional>
 #include <mutex>
+#include <optional>
 
 namespace Platform {
 
-// Where the camera thread leaves the newest picture and the GUI thread finds it. Holds one picture;
-// the newest wins. Pictures of an earlier opening (generation) are refused. Thread-safe; nobody
+// Where the camera thread leaves the newest frame and the GUI thread finds it. Holds one frame: a
+// new one replaces it. Frames of an earlier opening (generation) are refused. Thread-safe; nobody
 // waits longer than it takes to swap a pointer.
 class FrameSlot
 {
 public:
     using Clock = StallTimeout::Clock;
 
+    explicit FrameSlot(std::function<Clock::time_point()> now = &Clock::now);
+
     // GUI thread
-    int open();   // the generation whose pictures are taken from now on
-    void close(); // takes none and has none
+    int open();   // the generation whose frames are taken from now on
+    void close(); // takes no frames and has none
     QImage newest() const;
     bool delivers() const;
     QJsonObject figures() const; // of the generation
-    void notificationArrived();  // the next picture is worth another one
+    void notificationArrived();  // the next frame may notify again
 
     // camera thread
     void setRate(int generation, double framesPerSecond);
-    void interrupt(int generation); // no picture is left to show until the next one
-    // Whether the GUI thread must be told; false while a notification is under way.
-    bool put(int generation, const QImage& picture, const QSize& sourceSize);
-    bool isSilent(Clock::time_point since) const; // neither a picture nor time for one
+    void expectFrames(int generation); // the stream runs: silence counts from now on
+    void interrupt(int generation);    // drops the frame, because the stream ended
+    // Whether the GUI thread must be notified; false while a notification is on its way.
+    bool put(int generation, const QImage& frame, const QSize& sourceSize);
+    bool isSilent() const; // frames are expected, and for the stall timeout none came
 
 private:
+    bool takes(int generation) const { return m_isOpen && generation == m_generation; }
+
+    const std::function<Clock::time_point()> m_now;
     mutable std::mutex m_mutex;
-    QImage m_picture;
-    StallTimeout m_rule;
+    QImage m_frame;
+    StallTimeout m_timeout;
+    std::optional<Clock::time_point> m_expectedSince;
     FrameStatistics m_statistics;
     int m_generation = 0;
     bool m_isOpen = false;

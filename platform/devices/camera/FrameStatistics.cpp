@@ -9,10 +9,10 @@ namespace Platform {
 namespace {
 
 constexpr int GridStep = 4;
-constexpr double BlackBrightness = 0.06; // a lens behind its cover, with the sensor's noise
+constexpr double BlackBrightness = 0.06; // a covered lens: some noise of the sensor is left
 // FNV-1a, 64 bits
-constexpr quint64 PrintBasis = 14695981039346656037U;
-constexpr quint64 PrintPrime = 1099511628211U;
+constexpr quint64 HashBasis = 14695981039346656037U;
+constexpr quint64 HashPrime = 1099511628211U;
 
 double rounded(double value)
 {
@@ -26,19 +26,19 @@ double milliseconds(FrameStatistics::Clock::duration duration)
 
 } // namespace
 
-FrameStatistics::Sample FrameStatistics::sampleOf(const QImage& picture)
+FrameStatistics::Sample FrameStatistics::sampleOf(const QImage& frame)
 {
     Sample result;
-    result.size = picture.size();
-    result.print = PrintBasis;
+    result.size = frame.size();
+    result.hash = HashBasis;
     qint64 sum = 0;
     qint64 count = 0;
-    for (int y = 0; y < picture.height(); y += GridStep) {
-        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width(); x += GridStep) {
+    for (int y = 0; y < frame.height(); y += GridStep) {
+        const auto* line = reinterpret_cast<const QRgb*>(frame.constScanLine(y));
+        for (int x = 0; x < frame.width(); x += GridStep) {
             sum += qGray(line[x]);
             ++count;
-            result.print = (result.print ^ (line[x] & RGB_MASK)) * PrintPrime;
+            result.hash = (result.hash ^ (line[x] & RGB_MASK)) * HashPrime;
         }
     }
     if (count > 0) {
@@ -55,14 +55,14 @@ void FrameStatistics::start(Clock::time_point now)
 
 void FrameStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::time_point now)
 {
-    if (m_pictures == 0) {
+    if (m_frames == 0) {
         m_first = now;
-    } else if (sample.print == m_lastPrint) {
+    } else if (sample.hash == m_lastHash) {
         ++m_frozen;
     }
-    ++m_pictures;
+    ++m_frames;
     m_last = now;
-    m_lastPrint = sample.print;
+    m_lastHash = sample.hash;
     m_size = sourceSize;
     m_brightness += sample.brightness;
     if (sample.brightness < BlackBrightness) {
@@ -72,20 +72,20 @@ void FrameStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::
 
 QJsonObject FrameStatistics::figures() const
 {
-    QJsonObject result{{QStringLiteral("pictures"), m_pictures}};
-    if (m_pictures == 0) {
+    QJsonObject result{{QStringLiteral("pictures"), m_frames}};
+    if (m_frames == 0) {
         return result;
     }
     const double span = milliseconds(m_last - m_first);
     result.insert(QStringLiteral("rate"),
-                  span > 0.0 ? rounded((m_pictures - 1) * 1000.0 / span) : 0.0);
+                  span > 0.0 ? rounded((m_frames - 1) * 1000.0 / span) : 0.0);
     result.insert(QStringLiteral("width"), m_size.width());
     result.insert(QStringLiteral("height"), m_size.height());
     result.insert(QStringLiteral("firstPictureMs"), qRound(milliseconds(m_first - m_start)));
-    result.insert(QStringLiteral("blackShare"), rounded(double(m_black) / m_pictures));
+    result.insert(QStringLiteral("blackShare"), rounded(double(m_black) / m_frames));
     result.insert(QStringLiteral("frozenShare"),
-                  m_pictures > 1 ? rounded(double(m_frozen) / (m_pictures - 1)) : 0.0);
-    result.insert(QStringLiteral("brightness"), rounded(m_brightness / m_pictures));
+                  m_frames > 1 ? rounded(double(m_frozen) / (m_frames - 1)) : 0.0);
+    result.insert(QStringLiteral("brightness"), rounded(m_brightness / m_frames));
     return result;
 }
 

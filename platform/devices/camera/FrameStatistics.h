@@ -10,27 +10,27 @@ class QImage;
 
 namespace Platform {
 
-// What a camera delivered between its start and its stop, as figures for the run's report.
+// What a camera sent between start and stop, as figures for the report.
 class FrameStatistics
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    // What is kept of one picture; taken from a grid of its pixels.
+    // What we keep of one frame; from a grid of its pixels.
     struct Sample
     {
         QSize size;
         double brightness = 0.0; // 0 to 1
-        quint64 print = 0;       // equal for equal pictures
+        quint64 hash = 0;        // to tell whether two frames are equal
     };
 
-    static Sample sampleOf(const QImage& picture);
+    static Sample sampleOf(const QImage& frame);
 
     void start(Clock::time_point now);
     void add(const Sample& sample, const QSize& sourceSize, Clock::time_point now);
-    int pictures() const { return m_pictures; }
-    // "pictures"; once there are some also "rate", "width", "height", "firstPictureMs",
-    // "blackShare", "frozenShare", "brightness".
+    int frames() const { return m_frames; }
+    // In the words of the report: "pictures"; if there are any also "rate", "width", "height",
+    // "firstPictureMs", "blackShare", "frozenShare", "brightness".
     QJsonObject figures() const;
 
 private:
@@ -38,8 +38,8 @@ private:
     Clock::time_point m_first;
     Clock::time_point m_last;
     QSize m_size;
-    quint64 m_lastPrint = 0;
-    int m_pictures = 0;
+    quint64 m_lastHash = 0;
+    int m_frames = 0;
     int m_black = 0;
     int m_frozen = 0;
     double m_brightness = 0.0;

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/DeviceEngineConfig.h"
-#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+#include "platform/devices/camera/DeviceCameraSystem.h"
+#include "platform/devices/pipewire/PipeWireFeed.h"
 #ifdef ENVCHECK_HAS_V4L2
 #include "platform/devices/v4l2/V4l2Parts.h"
 #endif
 
 namespace Platform {
 
+// PipeWire; if no PipeWire server answers, V4L2.
 std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config,
                                                  ReportSink& report)
 {
@@ -15,7 +17,8 @@ std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& confi
 #ifdef ENVCHECK_HAS_V4L2
     makeSecondFeed = v4l2FeedMaker();
 #endif
-    return std::make_unique<PipeWireCameraSystem>(config.settingsFolder, report, makeSecondFeed);
+    return std::make_unique<DeviceCameraSystem>(config.settingsFolder, report, pipeWireFeedMaker(),
+                                                makeSecondFeed);
 }
 
 } // namespace Platform

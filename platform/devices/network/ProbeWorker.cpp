@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/ProbeWorker.h"
 
+#include "platform/backend/Log.h"
+
 #include <QHostInfo>
-#include <QLoggingCategory>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QTimerEvent>
 #include <QUdpSocket>
 #include <algorithm>
-
-// What is logged here comes back every second while the way is closed.
-Q_LOGGING_CATEGORY(probeLog, "engine.network", QtInfoMsg)
 
 namespace Platform {
 
@@ -113,7 +111,7 @@ void ProbeWorker::openNext()
     m_lastSign = now();
     m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
-        qCDebug(probeLog).noquote()
+        qCDebug(Log::network).noquote()
             << "No way to" << address.toString() << "-" << m_socket->errorString();
         m_socket.reset();
     }
@@ -139,7 +137,7 @@ void ProbeWorker::takeAddresses(const QHostInfo& info)
     m_lookup = -1;
     m_addresses = info.addresses();
     if (m_addresses.isEmpty()) {
-        qCDebug(probeLog).noquote()
+        qCDebug(Log::network).noquote()
             << "No address of" << m_server.host << "-" << info.errorString();
     } else if (!m_socket) {
         tick();

@@ -10,7 +10,7 @@ namespace Platform {
 QString propertyOf(const spa_dict* properties, const char* key)
 {
     const char* const value = spa_dict_lookup(properties, key);
-    return value == nullptr ? QString() : QString::fromUtf8(value);
+    return value ? QString::fromUtf8(value) : QString();
 }
 
 QString placeOf(const spa_dict* properties)

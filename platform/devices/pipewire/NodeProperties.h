@@ -8,11 +8,11 @@ struct spa_dict;
 
 namespace Platform {
 
-// What the server tells of a device but has no name of its own for.
+// PipeWire's headers have no name for this property.
 constexpr char CapabilitiesKey[] = "device.capabilities";
 
-QString propertyOf(const spa_dict* properties, const char* key); // empty where it isn't told
-// Where the device is plugged in, otherwise its serial number: what outlives replugging.
+QString propertyOf(const spa_dict* properties, const char* key); // empty if there is none
+// The device's bus path, otherwise its serial number. Both survive replugging.
 QString placeOf(const spa_dict* properties);
 
 } // namespace Platform

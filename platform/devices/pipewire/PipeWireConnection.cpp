@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 #include "platform/devices/pipewire/NodeProperties.h"
 
 #include <algorithm>
@@ -28,7 +28,7 @@ const pw_core_events PipeWireConnection::CoreEvents = [] {
     };
     events.error = [](void* data, uint32_t id, int, int result, const char*) {
         if (id == PW_ID_CORE && (result == -EPIPE || result == -ECONNRESET)) {
-            // The connection can't be taken down from inside its own event.
+            // Later: a connection can't be closed from inside its own event.
             static_cast<PipeWireConnection*>(data)->m_lossTimer.startOnce({});
         }
     };
@@ -60,7 +60,7 @@ PipeWireConnection::PipeWireConnection(pw_main_loop* mainLoop)
 PipeWireConnection::~PipeWireConnection()
 {
     disconnectFromServer();
-    if (m_context != nullptr) {
+    if (m_context) {
         pw_context_destroy(m_context);
     }
 }
@@ -68,7 +68,7 @@ PipeWireConnection::~PipeWireConnection()
 void PipeWireConnection::addObserver(Observer* observer)
 {
     m_observers.push_back(observer);
-    if (m_context == nullptr) {
+    if (!m_context) {
         connectToServer();
     } else if (m_isListed || m_isDenied) {
         observer->camerasChanged();
@@ -90,26 +90,26 @@ void PipeWireConnection::quit()
 
 QString PipeWireConnection::errorOf(const QString& serial) const
 {
-    const auto it = std::find_if(m_probes.cbegin(), m_probes.cend(), [&serial](const auto& entry) {
+    const auto it = std::find_if(m_nodes.cbegin(), m_nodes.cend(), [&serial](const auto& entry) {
         return entry.second->node().serial == serial;
     });
-    return it == m_probes.cend() ? QString() : it->second->error();
+    return it == m_nodes.cend() ? QString() : it->second->error();
 }
 
 void PipeWireConnection::connectToServer()
 {
-    if (m_context == nullptr) {
+    if (!m_context) {
         m_context = pw_context_new(m_loop, nullptr, 0);
     }
-    if (m_context != nullptr) {
+    if (m_context) {
         m_core = pw_context_connect(m_context, nullptr, 0);
     }
-    if (m_core == nullptr) {
+    if (!m_core) {
         const int reason = errno;
         const bool isDenied = reason == EACCES || reason == EPERM;
         if (isDenied != m_isDenied) {
             m_isDenied = isDenied;
-            qCInfo(CameraLog, "The camera server refuses the connection: %s", strerror(reason));
+            qCInfo(Log::camera, "The camera server refuses the connection: %s", strerror(reason));
             announce();
         }
         if (!isDenied && !m_wasReached && !m_isMissing) {
@@ -133,15 +133,15 @@ void PipeWireConnection::connectToServer()
 
 void PipeWireConnection::disconnectFromServer()
 {
-    m_probes.clear();
+    m_nodes.clear();
     m_devices.clear();
     m_links.clear();
-    if (m_registry != nullptr) {
+    if (m_registry) {
         spa_hook_remove(&m_registryHook);
         pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
         m_registry = nullptr;
     }
-    if (m_core != nullptr) {
+    if (m_core) {
         spa_hook_remove(&m_coreHook);
         pw_core_disconnect(m_core);
         m_core = nullptr;
@@ -150,7 +150,7 @@ void PipeWireConnection::disconnectFromServer()
 
 void PipeWireConnection::onServerGone()
 {
-    qCInfo(CameraLog, "The camera server is gone");
+    qCInfo(Log::camera, "The camera server is gone");
     for (Observer* observer : m_observers) {
         observer->connectionLost();
     }
@@ -171,24 +171,24 @@ void PipeWireConnection::onRoundTripDone(int sequence)
 
 void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* properties)
 {
-    if (properties == nullptr) {
+    if (!properties) {
         return;
     }
     const QString mediaClass = propertyOf(properties, PW_KEY_MEDIA_CLASS);
     if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0 && mediaClass == QLatin1String("Video/Source")) {
-        m_probes[id] = std::make_unique<NodeProbe>(m_registry, id, properties, *this);
+        m_nodes[id] = std::make_unique<NodeProxy>(m_registry, id, properties, *this);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Device) == 0 &&
                mediaClass == QLatin1String("Video/Device")) {
-        m_devices[id] = std::make_unique<DeviceProbe>(m_registry, id, *this);
+        m_devices[id] = std::make_unique<DeviceProxy>(m_registry, id, *this);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Link) == 0 &&
-               m_probes.count(propertyOf(properties, PW_KEY_LINK_OUTPUT_NODE).toUInt()) > 0) {
-        m_links[id] = std::make_unique<LinkProbe>(m_registry, id, *this);
+               m_nodes.count(propertyOf(properties, PW_KEY_LINK_OUTPUT_NODE).toUInt()) > 0) {
+        m_links[id] = std::make_unique<LinkProxy>(m_registry, id, *this);
     }
 }
 
 void PipeWireConnection::onGlobalRemoved(quint32 id)
 {
-    m_probes.erase(id);
+    m_nodes.erase(id);
     m_devices.erase(id);
     m_links.erase(id);
     if (m_cameras.remove(id)) {
@@ -207,20 +207,20 @@ void PipeWireConnection::nodeDescribed(quint32 globalId, const CameraNode& node)
     listMayBeComplete();
 }
 
-// Usually before any of its nodes is.
+// Usually before its nodes are described, but not always.
 void PipeWireConnection::deviceDescribed(quint32 globalId)
 {
-    for (const auto& [nodeId, probe] : m_probes) {
-        if (probe->isDone() && probe->node().deviceId == globalId) {
-            nodeDescribed(nodeId, probe->node());
+    for (const auto& [nodeId, node] : m_nodes) {
+        if (node->isDone() && node->node().deviceId == globalId) {
+            nodeDescribed(nodeId, node->node());
         }
     }
 }
 
 void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const QString& error)
 {
-    const auto it = m_probes.find(nodeId);
-    if (it == m_probes.cend()) {
+    const auto it = m_nodes.find(nodeId);
+    if (it == m_nodes.cend()) {
         return;
     }
     for (Observer* observer : m_observers) {
@@ -235,10 +235,10 @@ void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error
     }
 }
 
-// The first list is told as a whole and at once; what comes later may come in bursts.
+// The first list is announced at once, when it is complete. Later changes come in bursts.
 void PipeWireConnection::listMayBeComplete()
 {
-    const bool isPending = std::any_of(m_probes.cbegin(), m_probes.cend(),
+    const bool isPending = std::any_of(m_nodes.cbegin(), m_nodes.cend(),
                                        [](const auto& entry) { return !entry.second->isDone(); });
     if (!m_isListed && m_isRegistryRead && !isPending) {
         m_isListed = true;

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/devices/camera/CameraList.h"
-#include "platform/devices/pipewire/DeviceProbe.h"
-#include "platform/devices/pipewire/LinkProbe.h"
+#include "platform/devices/pipewire/DeviceProxy.h"
+#include "platform/devices/pipewire/LinkProxy.h"
 #include "platform/devices/pipewire/LoopTimer.h"
-#include "platform/devices/pipewire/NodeProbe.h"
+#include "platform/devices/pipewire/NodeProxy.h"
 
 #include <map>
 #include <memory>
@@ -15,11 +15,11 @@
 
 namespace Platform {
 
-// The connection to the camera server: the list of cameras, kept while the server goes and comes
-// back. On the camera thread only.
-class PipeWireConnection final : public NodeProbe::Listener,
-                                 public DeviceProbe::Listener,
-                                 public LinkProbe::Listener
+// The connection to the camera server and its list of cameras. If the server goes, it connects
+// again. On the camera thread only.
+class PipeWireConnection final : public NodeProxy::Listener,
+                                 public DeviceProxy::Listener,
+                                 public LinkProxy::Listener
 {
 public:
     class Observer
@@ -29,11 +29,11 @@ public:
         virtual void camerasChanged() = 0;
         // No server answers, and none has before.
         virtual void serverMissing() = 0;
-        // A link to it failed: to that reader, which may be another program.
+        // The link from this camera to this reader failed. The reader may be another program's.
         virtual void linkFailed(const QString& serial, quint32 readerId, const QString& error) = 0;
-        // The server couldn't run the camera of this serial.
+        // The server can't run the camera with this serial.
         virtual void cameraFailed(const QString& serial, const QString& error) = 0;
-        // The server is gone, and with it everything that was opened there.
+        // The server is gone, and all streams with it.
         virtual void connectionLost() = 0;
 
     protected:
@@ -55,11 +55,11 @@ public:
     void nodeFailed(const CameraNode& node, const QString& error) override;
 
     pw_loop* loop() const { return m_loop; }
-    pw_context* context() const { return m_context; } // for connections of one's own
+    pw_context* context() const { return m_context; } // for more connections
     bool isConnected() const { return m_core != nullptr; }
     const CameraList& cameras() const { return m_cameras; }
-    QString errorOf(const QString& serial) const; // the server's last word on that camera
-    bool isListed() const { return m_isListed; }  // what the server had at first is in the list
+    QString errorOf(const QString& serial) const; // why the camera doesn't run; empty if it does
+    bool isListed() const { return m_isListed; }  // the first list is complete
     bool isDenied() const { return m_isDenied; }  // the server refuses this program
 
 private:
@@ -86,13 +86,13 @@ private:
     int m_firstRoundTrip = -1;
     bool m_isRegistryRead = false;
     bool m_wasReached = false;
-    bool m_isMissing = false; // and never was there
+    bool m_isMissing = false; // and none has ever answered
     bool m_isListed = false;
     bool m_isDenied = false;
     CameraList m_cameras;
-    std::map<quint32, std::unique_ptr<NodeProbe>> m_probes; // one for each video source
-    std::map<quint32, std::unique_ptr<DeviceProbe>> m_devices;
-    std::map<quint32, std::unique_ptr<LinkProbe>> m_links;
+    std::map<quint32, std::unique_ptr<NodeProxy>> m_nodes; // every video source
+    std::map<quint32, std::unique_ptr<DeviceProxy>> m_devices;
+    std::map<quint32, std::unique_ptr<LinkProxy>> m_links;
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;

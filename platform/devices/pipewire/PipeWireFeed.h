@@ -6,11 +6,11 @@
 
 namespace Platform {
 
-class CameraSession;
+class PipeWireCapture;
 class PipeWireThread;
 
-// The cameras of a PipeWire server. What waits for the server is done by a session on the camera
-// thread; this side only posts to it.
+// The cameras of a PipeWire server. Whatever waits for the server is done on the camera thread;
+// this side only posts to it.
 class PipeWireFeed final : public CameraFeed
 {
 public:
@@ -25,10 +25,13 @@ public:
     void setOutputSize(const QSize& pixels) override;
 
 private:
-    void post(std::function<void(CameraSession&)> job);
+    void post(std::function<void(PipeWireCapture&)> job);
 
     std::shared_ptr<PipeWireThread> m_thread;
-    std::shared_ptr<std::unique_ptr<CameraSession>> m_session; // its content: camera thread only
+    std::shared_ptr<std::unique_ptr<PipeWireCapture>> m_capture; // its content: camera thread only
 };
+
+// Its feeds share a thread and a connection, which last as long as there is a feed.
+FeedMaker pipeWireFeedMaker();
 
 } // namespace Platform

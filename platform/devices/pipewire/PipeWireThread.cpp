@@ -15,11 +15,11 @@ PipeWireThread::PipeWireThread()
 
 PipeWireThread::~PipeWireThread() = default;
 
-// The loop's own way to pass a job (pw_loop_invoke) takes one foreign thread at a time, and the
-// stream's data thread is one already.
+// Not by pw_loop_invoke: only one other thread may call that, and the stream's data thread does
+// already.
 void PipeWireThread::post(Job job)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_jobs.push_back(std::move(job));
     if (m_wake) {
         m_wake();
@@ -35,7 +35,7 @@ void PipeWireThread::run()
 {
     pw_init(nullptr, nullptr);
     pw_main_loop* const mainLoop = pw_main_loop_new(nullptr);
-    if (mainLoop != nullptr) {
+    if (mainLoop) {
         pw_loop* const loop = pw_main_loop_get_loop(mainLoop);
         PipeWireConnection connection(mainLoop);
         struct Context
@@ -49,19 +49,19 @@ void PipeWireThread::run()
         };
         spa_source* const event = pw_loop_add_event(loop, onWoken, &context);
         {
-            const std::lock_guard<std::mutex> lock(m_mutex);
+            const std::scoped_lock lock(m_mutex);
             m_wake = [loop, event] { pw_loop_signal_event(loop, event); };
             m_wake();
         }
         pw_main_loop_run(mainLoop);
         {
-            const std::lock_guard<std::mutex> lock(m_mutex);
+            const std::scoped_lock lock(m_mutex);
             m_wake = nullptr;
         }
         runJobs(connection);
         pw_loop_destroy_source(loop, event);
     }
-    if (mainLoop != nullptr) {
+    if (mainLoop) {
         pw_main_loop_destroy(mainLoop);
     }
     pw_deinit();
@@ -71,12 +71,12 @@ void PipeWireThread::runJobs(PipeWireConnection& connection)
 {
     std::deque<Job> jobs;
     {
-        const std::lock_guard<std::mutex> lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         jobs.swap(m_jobs);
     }
     for (Job& job : jobs) {
         job(connection);
-        job = nullptr; // what it holds goes on this thread
+        job = nullptr; // destroys what it holds on this thread
     }
 }
 

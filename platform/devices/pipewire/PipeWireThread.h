@@ -15,9 +15,9 @@ namespace Platform {
 
 class PipeWireConnection;
 
-// The thread that does everything with the camera server, so that no other thread waits for it.
-// Jobs run in the order they were posted. Made, asked to end and destroyed on the GUI thread;
-// must have ended before it is destroyed.
+// The only thread that talks to the camera server, so that no other waits for it. Jobs run in the
+// order they were posted. Created, asked to end and destroyed on the GUI thread; must have ended
+// before it is destroyed.
 class PipeWireThread final : public QThread
 {
     Q_OBJECT

@@ -10,21 +10,21 @@ namespace Platform {
 
 namespace {
 
-struct LayoutName
+struct Format
 {
     uint32_t spaFormat;
-    PixelLayout layout;
+    PixelFormat pixelFormat;
 };
 
-// In the order of preference: what needs the least work first.
-constexpr LayoutName LayoutNames[] = {
-    {SPA_VIDEO_FORMAT_YUY2, PixelLayout::Yuy2}, {SPA_VIDEO_FORMAT_NV12, PixelLayout::Nv12},
-    {SPA_VIDEO_FORMAT_I420, PixelLayout::I420}, {SPA_VIDEO_FORMAT_UYVY, PixelLayout::Uyvy},
-    {SPA_VIDEO_FORMAT_BGRx, PixelLayout::Bgrx}, {SPA_VIDEO_FORMAT_BGRA, PixelLayout::Bgrx},
-    {SPA_VIDEO_FORMAT_RGBx, PixelLayout::Rgbx}, {SPA_VIDEO_FORMAT_RGBA, PixelLayout::Rgbx},
-    {SPA_VIDEO_FORMAT_xRGB, PixelLayout::Xrgb}, {SPA_VIDEO_FORMAT_ARGB, PixelLayout::Xrgb},
-    {SPA_VIDEO_FORMAT_xBGR, PixelLayout::Xbgr}, {SPA_VIDEO_FORMAT_ABGR, PixelLayout::Xbgr},
-    {SPA_VIDEO_FORMAT_RGB, PixelLayout::Rgb},   {SPA_VIDEO_FORMAT_BGR, PixelLayout::Bgr},
+// The formats that need the least conversion come first.
+constexpr Format Formats[] = {
+    {SPA_VIDEO_FORMAT_YUY2, PixelFormat::Yuy2}, {SPA_VIDEO_FORMAT_NV12, PixelFormat::Nv12},
+    {SPA_VIDEO_FORMAT_I420, PixelFormat::I420}, {SPA_VIDEO_FORMAT_UYVY, PixelFormat::Uyvy},
+    {SPA_VIDEO_FORMAT_BGRx, PixelFormat::Bgrx}, {SPA_VIDEO_FORMAT_BGRA, PixelFormat::Bgrx},
+    {SPA_VIDEO_FORMAT_RGBx, PixelFormat::Rgbx}, {SPA_VIDEO_FORMAT_RGBA, PixelFormat::Rgbx},
+    {SPA_VIDEO_FORMAT_xRGB, PixelFormat::Xrgb}, {SPA_VIDEO_FORMAT_ARGB, PixelFormat::Xrgb},
+    {SPA_VIDEO_FORMAT_xBGR, PixelFormat::Xbgr}, {SPA_VIDEO_FORMAT_ABGR, PixelFormat::Xbgr},
+    {SPA_VIDEO_FORMAT_RGB, PixelFormat::Rgb},   {SPA_VIDEO_FORMAT_BGR, PixelFormat::Bgr},
 };
 
 } // namespace
@@ -33,20 +33,20 @@ const std::vector<uint32_t>& readableFormats()
 {
     static const std::vector<uint32_t> formats = [] {
         std::vector<uint32_t> result;
-        for (const LayoutName& name : LayoutNames) {
-            result.push_back(name.spaFormat);
+        for (const Format& format : Formats) {
+            result.push_back(format.spaFormat);
         }
         return result;
     }();
     return formats;
 }
 
-PixelLayout layoutOf(uint32_t spaFormat)
+PixelFormat pixelFormatOf(uint32_t spaFormat)
 {
     const auto* const it =
-        std::find_if(std::begin(LayoutNames), std::end(LayoutNames),
-                     [spaFormat](const LayoutName& name) { return name.spaFormat == spaFormat; });
-    return it == std::end(LayoutNames) ? PixelLayout::None : it->layout;
+        std::find_if(std::begin(Formats), std::end(Formats),
+                     [spaFormat](const Format& format) { return format.spaFormat == spaFormat; });
+    return it == std::end(Formats) ? PixelFormat::None : it->pixelFormat;
 }
 
 } // namespace Platform

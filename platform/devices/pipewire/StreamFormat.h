@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/PixelFormat.h"
+#include "platform/devices/camera/FrameFormat.h"
 
 #include <cstdint>
 #include <vector>
 
 namespace Platform {
 
-// The server's numbers of the raw formats that can be shown, in the order of preference.
+// The raw formats that can be shown, by the server's numbers, the preferred ones first.
 const std::vector<uint32_t>& readableFormats();
 
-PixelLayout layoutOf(uint32_t spaFormat); // None where it can't be shown
+PixelFormat pixelFormatOf(uint32_t spaFormat); // None if it can't be shown
 
 } // namespace Platform

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseDevices.h"
 
-#include <algorithm>
-
 namespace Platform {
 
 VolumeState PulseDevice::volumeState() const
@@ -13,9 +11,7 @@ VolumeState PulseDevice::volumeState() const
 
 const PulseDevice* PulseSide::find(const QString& id) const
 {
-    const auto found = std::find_if(devices.begin(), devices.end(),
-                                    [&id](const PulseDevice& device) { return device.id == id; });
-    return found == devices.end() ? nullptr : &*found;
+    return findDevice(devices, id);
 }
 
 QString PulseSide::preferredId() const
@@ -36,16 +32,9 @@ DeviceList PulseSide::list() const
 {
     DeviceList result;
     for (const PulseDevice& device : devices) {
-        result.push_back({device.id, device.name});
+        result.push_back(device);
     }
     return withDistinctNames(std::move(result));
-}
-
-QString nameIn(const DeviceList& list, const QString& id)
-{
-    const auto found = std::find_if(list.begin(), list.end(),
-                                    [&id](const DeviceInfo& device) { return device.id == id; });
-    return found == list.end() ? QString() : found->name;
 }
 
 PulseSide& PulseDevices::side(PulseKind kind)

@@ -13,10 +13,9 @@ namespace Platform {
 
 enum class PulseKind { Speaker, Microphone };
 
-struct PulseDevice
+// Its id is the server's name of it, which outlives a replugging.
+struct PulseDevice : DeviceInfo
 {
-    QString id; // the server's name for it; the same after replugging
-    QString name;
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
@@ -39,9 +38,7 @@ struct PulseSide
     DeviceList list() const;
 };
 
-QString nameIn(const DeviceList& list, const QString& id); // empty if it isn't listed
-
-// The devices of the sound server at one moment.
+// What the sound server has, at one moment.
 struct PulseDevices
 {
     bool isConnected = false;

@@ -3,17 +3,15 @@
 #include "platform/devices/reports/OutboxPoster.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/Log.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLoggingCategory>
 #include <QNetworkReply>
 #include <algorithm>
-
-Q_LOGGING_CATEGORY(outboxLog, "engine.reports")
 
 namespace Platform {
 
@@ -74,7 +72,7 @@ void OutboxPoster::readFolder()
     for (const QString& name : names) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly)) {
-            qCWarning(outboxLog).noquote()
+            qCWarning(Log::reports).noquote()
                 << "Not posted:" << file.fileName() << "-" << file.errorString();
             continue;
         }
@@ -126,8 +124,8 @@ void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
 
 void OutboxPoster::retryLater(const QString& reason)
 {
-    qCInfo(outboxLog).noquote() << "The report server at" << m_url.toDisplayString()
-                                << "took no report -" << reason;
+    qCInfo(Log::reports).noquote()
+        << "The report server at" << m_url.toDisplayString() << "took no report -" << reason;
     // Another report first next time, in case the server dislikes this one.
     std::rotate(m_reports.begin(), m_reports.begin() + 1, m_reports.end());
     m_retryTimer.start(m_retry);
@@ -159,7 +157,7 @@ void OutboxPoster::forget(const QString& fileName)
 
 void OutboxPoster::drop(const QString& fileName, const char* reason)
 {
-    qCWarning(outboxLog).noquote() << "Report" << fileName << "is dropped:" << reason;
+    qCWarning(Log::reports).noquote() << "Report" << fileName << "is dropped:" << reason;
     forget(fileName);
 }
 

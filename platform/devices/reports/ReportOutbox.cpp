@@ -3,14 +3,12 @@
 #include "platform/devices/reports/ReportOutbox.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/Log.h"
 #include "platform/backend/WebAddress.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QUuid>
-
-Q_LOGGING_CATEGORY(reportLog, "engine.reports")
 
 namespace Platform {
 
@@ -42,9 +40,10 @@ ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
     }
     const std::optional<QUrl> url = webAddress(reportUrl);
     if (!url) {
-        qCWarning(reportLog).noquote() << "Reports are not posted: the report address" << reportUrl
-                                       << "is not one. Give it as http://HOST/PATH or "
-                                          "https://HOST/PATH";
+        qCWarning(Log::reports).noquote()
+            << "Reports are not posted: the report address" << reportUrl
+            << "is not one. Give it as http://HOST/PATH or "
+               "https://HOST/PATH";
         return;
     }
     startPosting(*url, limits);

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/Mp3Decoder.h"
 
+#include "platform/backend/Log.h"
 #include "platform/devices/sound/SoundBuffer.h"
 
 #include <QFile>
-#include <QLoggingCategory>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -18,8 +18,6 @@
 namespace Platform {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcPlayer, "envcheck.devices.player", QtInfoMsg)
 
 // The first piece is short, so that playback starts soon. Later ones are long, because each wakes
 // up the sound thread.
@@ -116,7 +114,7 @@ void Mp3Decoder::decode(const QString& path, float volume, SoundBuffer& buffer)
         problem = readSound(file.descriptor, volume, buffer);
     }
     if (!problem.isEmpty()) {
-        qCInfo(lcPlayer) << "The sound" << path << "ends early:" << problem;
+        qCInfo(Log::player) << "The sound" << path << "ends early:" << problem;
     }
     buffer.end();
 }

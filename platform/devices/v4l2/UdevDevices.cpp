@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/UdevDevices.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 
 #include <cstring>
 #include <libudev.h>
@@ -12,7 +12,7 @@ namespace Platform {
 namespace {
 
 constexpr const char* Subsystem = "video4linux";
-// What the kernel itself knows, for systems whose udev has no rules for cameras.
+// If udev has no rules for cameras, we take the kernel's name.
 const QString NameProperty = QStringLiteral("ID_V4L_PRODUCT");
 
 VideoDevices::Properties propertiesOf(udev_device* device)
@@ -44,11 +44,11 @@ UdevDevices::~UdevDevices()
     udev_unref(m_udev);
 }
 
-// Watches first: a device that comes in between is told twice rather than never.
+// Watches first: a device that is plugged in meanwhile is found twice, not missed.
 void UdevDevices::start(Listener& listener)
 {
     m_listener = &listener;
-    if (m_udev != nullptr) {
+    if (m_udev) {
         watch();
         listPresent();
     }
@@ -57,10 +57,11 @@ void UdevDevices::start(Listener& listener)
 void UdevDevices::watch()
 {
     m_monitor = udev_monitor_new_from_netlink(m_udev, "udev");
-    if (m_monitor == nullptr ||
+    if (!m_monitor ||
         udev_monitor_filter_add_match_subsystem_devtype(m_monitor, Subsystem, nullptr) < 0 ||
         udev_monitor_enable_receiving(m_monitor) < 0) {
-        qCInfo(CameraLog, "udev tells no changes: cameras plugged in later aren't noticed");
+        qCInfo(Log::camera,
+               "No events from udev: cameras that are plugged in later aren't noticed");
         return;
     }
     m_notifier =
@@ -79,7 +80,7 @@ void UdevDevices::listPresent()
     {
         udev_device* const device =
             udev_device_new_from_syspath(m_udev, udev_list_entry_get_name(entry));
-        if (device != nullptr) {
+        if (device) {
             tell(device);
             udev_device_unref(device);
         }
@@ -90,7 +91,7 @@ void UdevDevices::listPresent()
 void UdevDevices::onEvent()
 {
     udev_device* const device = udev_monitor_receive_device(m_monitor);
-    if (device != nullptr) {
+    if (device) {
         tell(device);
         udev_device_unref(device);
     }
@@ -99,11 +100,11 @@ void UdevDevices::onEvent()
 void UdevDevices::tell(udev_device* device)
 {
     const char* const path = udev_device_get_devnode(device);
-    if (path == nullptr) {
+    if (!path) {
         return;
     }
-    const char* const action = udev_device_get_action(device); // none: it was there
-    if (action != nullptr && strcmp(action, "remove") == 0) {
+    const char* const action = udev_device_get_action(device); // none if it is from the list
+    if (action && strcmp(action, "remove") == 0) {
         m_listener->deviceGone(QString::fromUtf8(path));
     } else {
         m_listener->deviceFound(propertiesOf(device));

@@ -13,7 +13,7 @@ struct udev_monitor;
 
 namespace Platform {
 
-// The kernel's video devices, as udev describes them.
+// The kernel's video devices, by libudev.
 class UdevDevices final : public VideoDevices
 {
 public:

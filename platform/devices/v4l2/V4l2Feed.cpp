@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Feed.h"
 
-#include "platform/devices/camera/EndingThreads.h"
-#include "platform/devices/v4l2/V4l2Session.h"
+#include "platform/backend/EndingThreads.h"
+#include "platform/devices/v4l2/V4l2Capture.h"
 #include "platform/devices/v4l2/V4l2Thread.h"
 
 namespace Platform {
@@ -24,17 +24,17 @@ V4l2Feed::~V4l2Feed()
 
 void V4l2Feed::open(int generation, const QString& id)
 {
-    m_thread->post([generation, id](V4l2Session& session) { session.open(generation, id); });
+    m_thread->post([generation, id](V4l2Capture& capture) { capture.open(generation, id); });
 }
 
 void V4l2Feed::close()
 {
-    m_thread->post([](V4l2Session& session) { session.close(); });
+    m_thread->post([](V4l2Capture& capture) { capture.close(); });
 }
 
 void V4l2Feed::setOutputSize(const QSize& pixels)
 {
-    m_thread->post([pixels](V4l2Session& session) { session.setOutputSize(pixels); });
+    m_thread->post([pixels](V4l2Capture& capture) { capture.setOutputSize(pixels); });
 }
 
 } // namespace Platform

@@ -9,7 +9,7 @@ namespace Platform {
 struct V4l2Parts;
 class V4l2Thread;
 
-// The cameras of the kernel, on a thread of their own.
+// The kernel's cameras, by V4L2. All work is done on its own thread.
 class V4l2Feed final : public CameraFeed
 {
 public:

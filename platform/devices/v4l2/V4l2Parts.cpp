@@ -15,7 +15,7 @@ V4l2Parts systemV4l2Parts()
     result.makeDevices = [] { return std::make_unique<UdevDevices>(); };
     result.makeSource = [](const QString& path) {
         GstElement* const source = gst_element_factory_make("v4l2src", nullptr);
-        if (source != nullptr) {
+        if (source) {
             g_object_set(source, "device", path.toUtf8().constData(), nullptr);
         }
         return source;

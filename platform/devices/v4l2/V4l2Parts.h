@@ -13,12 +13,12 @@ namespace Platform {
 
 class VideoDevices;
 
-// What a V4L2 camera is made of; what stands below it can be another thing.
+// The lowest parts, which a test replaces.
 struct V4l2Parts
 {
     std::function<std::unique_ptr<VideoDevices>()> makeDevices; // on the camera thread
-    // An element that delivers the pictures of that device; null where there is none. On the
-    // stream's thread, which it may block.
+    // A GStreamer element that delivers the frames of the device; null if there is none. Called on
+    // the stream's thread, which it may block.
     std::function<GstElement*(const QString& path)> makeSource;
 };
 

@@ -16,7 +16,7 @@ namespace Platform {
 namespace {
 
 constexpr GstClockTime PollPeriod = 50 * GST_MSECOND;
-// The first is what is preferred where there is a choice: enough for a sharp preview on any screen.
+// The first caps are preferred if there is a choice: enough for a sharp preview on any screen.
 constexpr const char* ReadableCaps =
     "video/x-raw, format=(string){ YUY2, UYVY, NV12, I420, RGB, BGR, RGBx, BGRx, xRGB, xBGR }, "
     "width=640, height=480, framerate=(fraction)[ 1/1, 30/1 ]; "
@@ -37,44 +37,44 @@ struct Failure
     QString text;
 };
 
-PixelLayout layoutOf(GstVideoFormat format)
+PixelFormat pixelFormatOf(GstVideoFormat format)
 {
     switch (format) {
     case GST_VIDEO_FORMAT_YUY2:
-        return PixelLayout::Yuy2;
+        return PixelFormat::Yuy2;
     case GST_VIDEO_FORMAT_UYVY:
-        return PixelLayout::Uyvy;
+        return PixelFormat::Uyvy;
     case GST_VIDEO_FORMAT_NV12:
-        return PixelLayout::Nv12;
+        return PixelFormat::Nv12;
     case GST_VIDEO_FORMAT_I420:
-        return PixelLayout::I420;
+        return PixelFormat::I420;
     case GST_VIDEO_FORMAT_RGB:
-        return PixelLayout::Rgb;
+        return PixelFormat::Rgb;
     case GST_VIDEO_FORMAT_BGR:
-        return PixelLayout::Bgr;
+        return PixelFormat::Bgr;
     case GST_VIDEO_FORMAT_RGBx:
-        return PixelLayout::Rgbx;
+        return PixelFormat::Rgbx;
     case GST_VIDEO_FORMAT_BGRx:
-        return PixelLayout::Bgrx;
+        return PixelFormat::Bgrx;
     case GST_VIDEO_FORMAT_xRGB:
-        return PixelLayout::Xrgb;
+        return PixelFormat::Xrgb;
     case GST_VIDEO_FORMAT_xBGR:
-        return PixelLayout::Xbgr;
+        return PixelFormat::Xbgr;
     default:
-        return PixelLayout::None;
+        return PixelFormat::None;
     }
 }
 
-YuvColour colourOf(const GstVideoColorimetry& colorimetry)
+YuvColor colorOf(const GstVideoColorimetry& colorimetry)
 {
     const bool isFull = colorimetry.range == GST_VIDEO_COLOR_RANGE_0_255;
     if (colorimetry.matrix == GST_VIDEO_COLOR_MATRIX_BT709) {
-        return isFull ? YuvColour::Bt709Full : YuvColour::Bt709;
+        return isFull ? YuvColor::Bt709Full : YuvColor::Bt709;
     }
-    return isFull ? YuvColour::Bt601Full : YuvColour::Bt601;
+    return isFull ? YuvColor::Bt601Full : YuvColor::Bt601;
 }
 
-// The system's own words for a reason, in its own language.
+// GStreamer quotes the system's error text, which may be in any language.
 bool says(const QString& text, std::initializer_list<int> reasons)
 {
     return std::any_of(reasons.begin(), reasons.end(), [&text](int reason) {
@@ -100,10 +100,10 @@ std::optional<Failure> failureOn(GstBus* bus)
 {
     GstMessage* const message =
         gst_bus_pop_filtered(bus, static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS));
-    if (message == nullptr) {
+    if (!message) {
         return std::nullopt;
     }
-    Failure result{DeviceState::Failed, QStringLiteral("The camera sends no more pictures")};
+    Failure result{DeviceState::Failed, QStringLiteral("The camera sends no more frames")};
     if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR) {
         GError* error = nullptr;
         gchar* details = nullptr;
@@ -124,14 +124,15 @@ bool isGStreamerReady()
     static bool isReady = false;
     std::call_once(once, [] {
         isReady = gst_init_check(nullptr, nullptr, nullptr) != 0;
-        g_thread_pool_set_max_unused_threads(0); // they would outlive their streams for 15 s
+        g_thread_pool_set_max_unused_threads(
+            0); // unused threads would outlive their streams for 15 s
     });
     return isReady;
 }
 
 Element kept(GstElement* element)
 {
-    return Element(element == nullptr ? nullptr : GST_ELEMENT(gst_object_ref_sink(element)));
+    return Element(element ? GST_ELEMENT(gst_object_ref_sink(element)) : nullptr);
 }
 
 Element makeSink()
@@ -148,8 +149,8 @@ Element makeSink()
 
 FrameView::Plane planeOf(const GstVideoFrame& frame, guint index)
 {
-    // Without a description of the planes all are in the first mapping.
-    const GstMapInfo& map = frame.map[frame.meta == nullptr ? 0 : index];
+    // Without meta data on the planes, all planes are in the first mapping.
+    const GstMapInfo& map = frame.map[frame.meta ? index : 0];
     const auto* const data = static_cast<const uchar*>(GST_VIDEO_FRAME_PLANE_DATA(&frame, index));
     return {data, static_cast<std::size_t>(map.data + map.size - data),
             GST_VIDEO_FRAME_PLANE_STRIDE(&frame, index)};
@@ -158,13 +159,13 @@ FrameView::Plane planeOf(const GstVideoFrame& frame, guint index)
 } // namespace
 
 V4l2Stream::V4l2Stream(const V4l2Parts& parts, const QString& path, int generation,
-                       std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> user,
+                       std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> feed,
                        Mailbox::Sender sender, Listener& listener)
     : m_parts(parts),
       m_path(path),
       m_generation(generation),
       m_slot(std::move(slot)),
-      m_user(std::move(user)),
+      m_feed(std::move(feed)),
       m_sender(std::move(sender)),
       m_listener(listener),
       m_outputSize(QSize())
@@ -185,7 +186,7 @@ void V4l2Stream::run()
         tell([](Listener& listener) { listener.streamOpens(); });
         open();
     } else {
-        fail(QStringLiteral("GStreamer can't be used"));
+        fail(QStringLiteral("GStreamer can't be initialized"));
     }
 }
 
@@ -234,7 +235,7 @@ void V4l2Stream::play(GstElement* pipeline, GstElement* sink)
     tell([](Listener& listener) { listener.streamRuns(); });
     while (!isInterruptionRequested()) {
         GstSample* const sample = gst_app_sink_try_pull_sample(GST_APP_SINK(sink), PollPeriod);
-        if (sample != nullptr) {
+        if (sample) {
             deliver(sample);
             gst_sample_unref(sample);
         }
@@ -249,7 +250,7 @@ void V4l2Stream::deliver(GstSample* sample)
 {
     GstCaps* const caps = gst_sample_get_caps(sample);
     GstBuffer* const buffer = gst_sample_get_buffer(sample);
-    if (caps == nullptr || buffer == nullptr) {
+    if (!caps || !buffer) {
         return;
     }
     GstVideoInfo info;
@@ -257,31 +258,31 @@ void V4l2Stream::deliver(GstSample* sample)
     if (gst_video_info_from_caps(&info, caps) == 0) {
         return;
     }
-    PixelFormat format{PixelLayout::Mjpg, colourOf(info.colorimetry),
+    FrameFormat format{PixelFormat::Mjpg, colorOf(info.colorimetry),
                        QSize(GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info))};
     FrameView view;
-    QImage picture;
+    QImage image;
     if (GST_VIDEO_INFO_FORMAT(&info) == GST_VIDEO_FORMAT_ENCODED) {
         GstMapInfo map;
         if (gst_buffer_map(buffer, &map, GST_MAP_READ) != 0) {
             view.planeCount = 1;
             view.planes[0] = {map.data, map.size, 0};
-            picture = m_converter.convert(format, view, {}, m_outputSize);
+            image = m_converter.convert(format, view, {}, m_outputSize);
             gst_buffer_unmap(buffer, &map);
         }
     } else {
         GstVideoFrame frame;
         if (gst_video_frame_map(&frame, &info, buffer, GST_MAP_READ) != 0) {
-            format.layout = layoutOf(GST_VIDEO_INFO_FORMAT(&info));
+            format.pixelFormat = pixelFormatOf(GST_VIDEO_INFO_FORMAT(&info));
             view.planeCount = static_cast<int>(GST_VIDEO_FRAME_N_PLANES(&frame));
             for (guint i = 0; i < GST_VIDEO_FRAME_N_PLANES(&frame) && i < view.planes.size(); ++i) {
                 view.planes[i] = planeOf(frame, i);
             }
-            picture = m_converter.convert(format, view, {}, m_outputSize);
+            image = m_converter.convert(format, view, {}, m_outputSize);
             gst_video_frame_unmap(&frame);
         }
     }
-    if (picture.isNull() || isInterruptionRequested()) {
+    if (image.isNull() || isInterruptionRequested()) {
         return;
     }
     if (!m_hasFrame) {
@@ -290,8 +291,8 @@ void V4l2Stream::deliver(GstSample* sample)
         m_slot->setRate(m_generation, double(rate) / std::max(GST_VIDEO_INFO_FPS_D(&info), 1));
         tell([](Listener& listener) { listener.firstFrameArrived(); });
     }
-    if (m_slot->put(m_generation, picture, format.size)) {
-        m_user->frameArrived();
+    if (m_slot->put(m_generation, image, format.size)) {
+        m_feed->frameArrived();
     }
 }
 

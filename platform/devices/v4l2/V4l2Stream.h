@@ -13,19 +13,19 @@ typedef struct _GstSample GstSample;
 
 namespace Platform {
 
-// One opening of a camera: a thread that lives as long, as a driver may take any time to open and
-// to close. It runs a fixed pipeline, the source and an appsink, and converts the pictures.
+// One opening of a camera, on its own thread, because a driver may take any time to open and to
+// close. It runs a pipeline of a source and an appsink, and converts the frames.
 class V4l2Stream final : public QThread
 {
     Q_OBJECT
     Q_DISABLE_COPY(V4l2Stream)
 
 public:
-    // Called by letter, where the mailbox is.
+    // Called on the thread of the mailbox, through it.
     class Listener
     {
     public:
-        virtual void streamOpens() = 0; // a deadline makes sense from now on
+        virtual void streamOpens() = 0; // GStreamer is loaded, and the driver is asked
         virtual void streamRuns() = 0;
         virtual void firstFrameArrived() = 0;
         virtual void streamEnded(DeviceState state, const QString& error) = 0;
@@ -35,7 +35,7 @@ public:
     };
 
     V4l2Stream(const V4l2Parts& parts, const QString& path, int generation,
-               std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> user,
+               std::shared_ptr<FrameSlot> slot, std::shared_ptr<CameraFeed::Listener> feed,
                Mailbox::Sender sender, Listener& listener);
     ~V4l2Stream() override;
 
@@ -56,7 +56,7 @@ private:
     const QString m_path;
     const int m_generation;
     const std::shared_ptr<FrameSlot> m_slot;
-    const std::shared_ptr<CameraFeed::Listener> m_user;
+    const std::shared_ptr<CameraFeed::Listener> m_feed;
     const Mailbox::Sender m_sender;
     Listener& m_listener;
     std::atomic<QSize> m_outputSize;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Thread.h"
 
-#include "platform/devices/v4l2/V4l2Session.h"
+#include "platform/devices/v4l2/V4l2Capture.h"
 
 namespace Platform {
 
@@ -20,16 +20,16 @@ V4l2Thread::V4l2Thread(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
 
 V4l2Thread::~V4l2Thread() = default;
 
-void V4l2Thread::post(std::function<void(V4l2Session&)> job)
+void V4l2Thread::post(std::function<void(V4l2Capture&)> job)
 {
     QMetaObject::invokeMethod(
-        &m_receiver, [this, job = std::move(job)] { job(*m_session); }, Qt::QueuedConnection);
+        &m_receiver, [this, job = std::move(job)] { job(*m_capture); }, Qt::QueuedConnection);
 }
 
 void V4l2Thread::run()
 {
-    V4l2Session session(m_parts, std::move(m_slot), std::move(m_listener), std::move(m_ending));
-    m_session = &session; // jobs run from the event loop alone
+    V4l2Capture capture(m_parts, std::move(m_slot), std::move(m_listener), std::move(m_ending));
+    m_capture = &capture; // before exec(), which runs the jobs
     exec();
 }
 

@@ -11,10 +11,10 @@
 
 namespace Platform {
 
-class V4l2Session;
+class V4l2Capture;
 
-// The thread that lists cameras, gives orders to their streams and watches over them. Made on the
-// GUI thread; must have ended before it is destroyed.
+// The thread of a V4l2Capture: the list, and the watch over the streams. Created on the GUI thread;
+// must have ended before it is destroyed.
 class V4l2Thread final : public QThread
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
                std::shared_ptr<EndingThreads> ending);
     ~V4l2Thread() override;
 
-    void post(std::function<void(V4l2Session&)> job); // thread-safe; in order
+    void post(std::function<void(V4l2Capture&)> job); // thread-safe; in order
 
 protected:
     void run() override;
@@ -37,7 +37,7 @@ private:
     std::unique_ptr<CameraFeed::Listener> m_listener;
     std::shared_ptr<EndingThreads> m_ending;
     QObject m_receiver;
-    V4l2Session* m_session = nullptr; // on the thread itself only
+    V4l2Capture* m_capture = nullptr; // on the thread itself only
 };
 
 } // namespace Platform

@@ -7,7 +7,7 @@
 
 namespace Platform {
 
-// Which video devices are plugged in. On the camera thread only.
+// The video devices that are plugged in. On the camera thread only.
 class VideoDevices
 {
 public:
@@ -16,7 +16,7 @@ public:
     class Listener
     {
     public:
-        virtual void deviceFound(const Properties& properties) = 0; // or has other properties now
+        virtual void deviceFound(const Properties& properties) = 0; // or its properties changed
         virtual void deviceGone(const QString& path) = 0;
 
     protected:
@@ -25,7 +25,7 @@ public:
 
     virtual ~VideoDevices() = default;
 
-    // Tells what is there from inside the call, and what changes from the event loop.
+    // Reports present devices from inside the call, and changes from the event loop.
     virtual void start(Listener& listener) = 0;
 };
 

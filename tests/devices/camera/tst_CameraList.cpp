@@ -16,7 +16,7 @@ CameraNode node(const QString& serial, const QString& name, const QString& descr
     result.description = description;
     result.role = QStringLiteral("Camera");
     result.hasFormats = true;
-    result.hasColour = true;
+    result.hasColor = true;
     return result;
 }
 
@@ -129,7 +129,7 @@ void tst_CameraList::hidesWhatIsNoCamera_data()
     QTest::addColumn<QString>("capabilities");
     QTest::addColumn<QString>("description");
     QTest::addColumn<bool>("hasFormats");
-    QTest::addColumn<bool>("hasColour");
+    QTest::addColumn<bool>("hasColor");
     QTest::addColumn<bool>("expected");
     const QString camera = QStringLiteral("Camera");
     const QString name = QStringLiteral("HD Webcam");
@@ -140,7 +140,7 @@ void tst_CameraList::hidesWhatIsNoCamera_data()
     QTest::newRow("captures") << camera << QStringLiteral(":capture:") << name << true << true
                               << true;
     QTest::newRow("metadata") << camera << QStringLiteral(":") << name << true << true << false;
-    QTest::newRow("grey only") << camera << none << name << true << false << false;
+    QTest::newRow("gray only") << camera << none << name << true << false << false;
     QTest::newRow("formats unknown") << camera << none << name << false << false << true;
     QTest::newRow("IR") << camera << none << QStringLiteral("Integrated IR Camera") << true << true
                         << false;
@@ -156,12 +156,12 @@ void tst_CameraList::hidesWhatIsNoCamera()
     QFETCH(QString, capabilities);
     QFETCH(QString, description);
     QFETCH(bool, hasFormats);
-    QFETCH(bool, hasColour);
+    QFETCH(bool, hasColor);
     CameraNode tested = node(QStringLiteral("41"), QStringLiteral("c"), description);
     tested.role = role;
     tested.capabilities = capabilities;
     tested.hasFormats = hasFormats;
-    tested.hasColour = hasColour;
+    tested.hasColor = hasColor;
     QTEST(CameraList::isCamera(tested), "expected");
 }
 

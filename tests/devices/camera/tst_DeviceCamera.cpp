@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/backend/EndingThreads.h"
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/DeviceCamera.h"
-#include "platform/devices/camera/EndingThreads.h"
 #include "platform/devices/camera/FrameSlot.h"
 #include "tests/support/MemoryReport.h"
 
@@ -22,13 +22,13 @@ public:
     void cameraListChanged() override {}
     void currentCameraChanged(const QString&) override {}
     void cameraWorkStateChanged(const QString&, bool works) override { workStates.append(works); }
-    void frameArrived() override { ++pictures; }
+    void frameArrived() override { ++frames; }
 
     QList<bool> workStates;
-    int pictures = 0;
+    int frames = 0;
 };
 
-// Says and shows what the test wants.
+// Reports what the test wants.
 class Feed final : public CameraFeed
 {
 public:
@@ -45,9 +45,9 @@ public:
     void tell(DeviceState state) { m_listener->stateChanged(m_generation, state); }
     void show()
     {
-        QImage picture(Size, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        if (m_slot->put(m_generation, picture, Size)) {
+        QImage frame(Size, QImage::Format_RGB32);
+        frame.fill(Qt::red);
+        if (m_slot->put(m_generation, frame, Size)) {
             m_listener->frameArrived();
         }
     }
@@ -66,8 +66,8 @@ class tst_DeviceCamera : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // On a busy machine the word that the camera works may come when its only picture is old.
-    void tellsThatItWorksWhenTheWordCameLate()
+    // On a busy machine, "working" may arrive when the only frame is too old already.
+    void reportsWorkingAfterALateState()
     {
         const QTemporaryDir folder;
         SettingsStore settings(folder.filePath(QStringLiteral("devices.ini")));
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QTRY_COMPARE(watcher.workStates, QList<bool>{true});
         QVERIFY(camera.state() == DeviceState::Working);
         feed->show();
-        QTRY_COMPARE(watcher.pictures, 3);
+        QTRY_COMPARE(watcher.frames, 3);
         QCOMPARE(watcher.workStates.size(), 1);
     }
 };

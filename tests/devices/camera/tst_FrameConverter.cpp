@@ -20,7 +20,7 @@ FrameView viewOf(const QByteArray& bytes, int stride)
 }
 
 // Four pixels wide, two high: red, green, blue, white above, blue, blue, red, red below.
-QByteArray smallPicture()
+QByteArray smallFrame()
 {
     const QRgb red = qRgb(255, 0, 0);
     const QRgb green = qRgb(0, 255, 0);
@@ -36,15 +36,15 @@ QByteArray smallPicture()
     return result;
 }
 
-const PixelFormat SmallFormat{PixelLayout::Bgrx, YuvColour::Bt601, QSize(4, 2)};
+const FrameFormat SmallFormat{PixelFormat::Bgrx, YuvColor::Bt601, QSize(4, 2)};
 
-// The colours' first letters, row by row.
-QString letters(const QImage& picture)
+// The colors' first letters, row by row.
+QString letters(const QImage& frame)
 {
     QString result;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QRgb pixel = picture.pixel(x, y) & RGB_MASK;
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width(); ++x) {
+            const QRgb pixel = frame.pixel(x, y) & RGB_MASK;
             result += pixel == 0xff0000   ? QLatin1Char('r')
                       : pixel == 0x00ff00 ? QLatin1Char('g')
                       : pixel == 0x0000ff ? QLatin1Char('b')
@@ -67,10 +67,10 @@ private Q_SLOTS:
     void orients_data();
     void orients();
     void takesSeparatePlanes();
-    void honoursTheColourMatrix_data();
-    void honoursTheColourMatrix();
-    void refusesShortPictures_data();
-    void refusesShortPictures();
+    void honorsTheColorMatrix_data();
+    void honorsTheColorMatrix();
+    void refusesShortFrames_data();
+    void refusesShortFrames();
     void refusesAbsurdSizes();
     void refusesBrokenJpegs();
     void trustsTheJpegsOwnSize();
@@ -120,7 +120,7 @@ void tst_FrameConverter::orients()
 {
     QFETCH(int, quarterTurns);
     QFETCH(bool, isFlipped);
-    const QByteArray bytes = smallPicture();
+    const QByteArray bytes = smallFrame();
     FrameConverter converter;
     const QImage result =
         converter.convert(SmallFormat, viewOf(bytes, 0), {quarterTurns, isFlipped}, {});
@@ -131,8 +131,8 @@ void tst_FrameConverter::takesSeparatePlanes()
 {
     const QSize size(64, 32);
     const CameraPattern pattern(CameraPattern::I420, size, 0);
-    const QByteArray bytes = pattern.picture(0);
-    const PixelFormat format{PixelLayout::I420, YuvColour::Bt601, size};
+    const QByteArray bytes = pattern.frame(0);
+    const FrameFormat format{PixelFormat::I420, YuvColor::Bt601, size};
     const auto* const y = reinterpret_cast<const uchar*>(bytes.constData());
     FrameView view;
     view.planeCount = 3;
@@ -145,49 +145,49 @@ void tst_FrameConverter::takesSeparatePlanes()
     QCOMPARE(separate, converter.convert(format, viewOf(bytes, 64), {}, {}));
 }
 
-void tst_FrameConverter::honoursTheColourMatrix_data()
+void tst_FrameConverter::honorsTheColorMatrix_data()
 {
-    QTest::addColumn<int>("colour");
-    QTest::addColumn<int>("expected"); // grey of a luma of 235
-    QTest::newRow("601") << int(YuvColour::Bt601) << 255;
-    QTest::newRow("601 full") << int(YuvColour::Bt601Full) << 235;
-    QTest::newRow("709") << int(YuvColour::Bt709) << 255;
-    QTest::newRow("709 full") << int(YuvColour::Bt709Full) << 235;
+    QTest::addColumn<int>("color");
+    QTest::addColumn<int>("expected"); // gray of a luma of 235
+    QTest::newRow("601") << int(YuvColor::Bt601) << 255;
+    QTest::newRow("601 full") << int(YuvColor::Bt601Full) << 235;
+    QTest::newRow("709") << int(YuvColor::Bt709) << 255;
+    QTest::newRow("709 full") << int(YuvColor::Bt709Full) << 235;
 }
 
-void tst_FrameConverter::honoursTheColourMatrix()
+void tst_FrameConverter::honorsTheColorMatrix()
 {
-    QFETCH(int, colour);
-    const PixelFormat format{PixelLayout::I420, static_cast<YuvColour>(colour), QSize(4, 4)};
+    QFETCH(int, color);
+    const FrameFormat format{PixelFormat::I420, static_cast<YuvColor>(color), QSize(4, 4)};
     const QByteArray bytes = QByteArray(16, char(235)) + QByteArray(8, char(128));
     FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 4), {}, {});
     QTEST(qGreen(result.pixel(1, 1)), "expected");
 }
 
-void tst_FrameConverter::refusesShortPictures_data()
+void tst_FrameConverter::refusesShortFrames_data()
 {
     QTest::addColumn<int>("source");
-    QTest::addColumn<int>("layout");
-    const auto row = [](const char* name, CameraPattern::Layout source, PixelLayout layout) {
-        QTest::newRow(name) << int(source) << int(layout);
+    QTest::addColumn<int>("pixelFormat");
+    const auto row = [](const char* name, CameraPattern::PixelFormat source, PixelFormat format) {
+        QTest::newRow(name) << int(source) << int(format);
     };
-    row("YUY2", CameraPattern::Yuy2, PixelLayout::Yuy2);
-    row("UYVY", CameraPattern::Uyvy, PixelLayout::Uyvy);
-    row("NV12", CameraPattern::Nv12, PixelLayout::Nv12);
-    row("I420", CameraPattern::I420, PixelLayout::I420);
-    row("RGB", CameraPattern::Rgb, PixelLayout::Rgb);
-    row("BGRx", CameraPattern::Bgrx, PixelLayout::Bgrx);
+    row("YUY2", CameraPattern::Yuy2, PixelFormat::Yuy2);
+    row("UYVY", CameraPattern::Uyvy, PixelFormat::Uyvy);
+    row("NV12", CameraPattern::Nv12, PixelFormat::Nv12);
+    row("I420", CameraPattern::I420, PixelFormat::I420);
+    row("RGB", CameraPattern::Rgb, PixelFormat::Rgb);
+    row("BGRx", CameraPattern::Bgrx, PixelFormat::Bgrx);
 }
 
-void tst_FrameConverter::refusesShortPictures()
+void tst_FrameConverter::refusesShortFrames()
 {
     QFETCH(int, source);
-    QFETCH(int, layout);
+    QFETCH(int, pixelFormat);
     const QSize size(33, 17);
-    const CameraPattern pattern(static_cast<CameraPattern::Layout>(source), size, 0);
-    const QByteArray bytes = pattern.picture(0);
-    const PixelFormat format{static_cast<PixelLayout>(layout), YuvColour::Bt601, size};
+    const CameraPattern pattern(static_cast<CameraPattern::PixelFormat>(source), size, 0);
+    const QByteArray bytes = pattern.frame(0);
+    const FrameFormat format{static_cast<PixelFormat>(pixelFormat), YuvColor::Bt601, size};
     FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, pattern.stride()), {}, {}).isNull());
     QVERIFY(
@@ -200,10 +200,10 @@ void tst_FrameConverter::refusesShortPictures()
 
 void tst_FrameConverter::refusesAbsurdSizes()
 {
-    const QByteArray bytes = smallPicture();
+    const QByteArray bytes = smallFrame();
     FrameConverter converter;
     for (const QSize& size : {QSize(0, 2), QSize(4, -2), QSize(9000, 1), QSize(1, 9000)}) {
-        const PixelFormat format{PixelLayout::Bgrx, YuvColour::Bt601, size};
+        const FrameFormat format{PixelFormat::Bgrx, YuvColor::Bt601, size};
         QVERIFY(converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     }
 }
@@ -211,8 +211,8 @@ void tst_FrameConverter::refusesAbsurdSizes()
 void tst_FrameConverter::refusesBrokenJpegs()
 {
     const QSize size(64, 48);
-    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, size, 0).picture(0);
-    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, size};
+    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, size, 0).frame(0);
+    const FrameFormat format{PixelFormat::Mjpg, YuvColor::Bt601, size};
     FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes.left(20), 0), {}, {}).isNull());
@@ -221,13 +221,13 @@ void tst_FrameConverter::refusesBrokenJpegs()
 
 void tst_FrameConverter::trustsTheJpegsOwnSize()
 {
-    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, QSize(64, 48), 0).picture(0);
-    const PixelFormat format{PixelLayout::Mjpg, YuvColour::Bt601, QSize(1280, 720)};
+    const QByteArray bytes = CameraPattern(CameraPattern::Mjpg, QSize(64, 48), 0).frame(0);
+    const FrameFormat format{PixelFormat::Mjpg, YuvColor::Bt601, QSize(1280, 720)};
     FrameConverter converter;
     QCOMPARE(converter.convert(format, viewOf(bytes, 0), {}, {}).size(), QSize(64, 48));
 }
 
-// Rows and columns of black and white in turn become grey, not one or the other.
+// Rows and columns of black and white in turn become gray, not one or the other.
 void tst_FrameConverter::averagesWhatItScales()
 {
     const QSize size(64, 64);
@@ -238,7 +238,7 @@ void tst_FrameConverter::averagesWhatItScales()
             bytes.append(char(128));
         }
     }
-    const PixelFormat format{PixelLayout::Yuy2, YuvColour::Bt601, size};
+    const FrameFormat format{PixelFormat::Yuy2, YuvColor::Bt601, size};
     FrameConverter converter;
     const QImage result = converter.convert(format, viewOf(bytes, 128), {}, QSize(16, 16));
     QCOMPARE(result.size(), QSize(16, 16));

@@ -14,10 +14,10 @@ namespace {
 
 const QSize Size(32, 16);
 
-QImage picture(QRgb colour = qRgb(200, 0, 0))
+QImage frame(QRgb color = qRgb(200, 0, 0))
 {
     QImage result(Size, QImage::Format_RGB32);
-    result.fill(colour);
+    result.fill(color);
     return result;
 }
 
@@ -33,6 +33,7 @@ private Q_SLOTS:
     void refusesOtherGenerations();
     void forgetsWhenInterrupted();
     void knowsSilence();
+    void waitsLongerForSlowCameras();
     void usesMemoryAgain();
     void survivesItsPool();
     void isSafeAcrossThreads();
@@ -44,8 +45,8 @@ void tst_FrameSlot::showsTheNewest()
     const int generation = slot.open();
     QVERIFY(slot.newest().isNull());
     QVERIFY(!slot.delivers());
-    slot.put(generation, picture(qRgb(1, 2, 3)), Size);
-    slot.put(generation, picture(qRgb(4, 5, 6)), Size);
+    slot.put(generation, frame(qRgb(1, 2, 3)), Size);
+    slot.put(generation, frame(qRgb(4, 5, 6)), Size);
     QCOMPARE(slot.newest().pixel(0, 0), qRgb(4, 5, 6));
     QVERIFY(slot.delivers());
     QCOMPARE(slot.figures().value(QLatin1String("pictures")).toInt(), 2);
@@ -55,28 +56,28 @@ void tst_FrameSlot::notifiesOnceUntilHeard()
 {
     FrameSlot slot;
     const int generation = slot.open();
-    QVERIFY(slot.put(generation, picture(), Size));
-    QVERIFY(!slot.put(generation, picture(), Size));
+    QVERIFY(slot.put(generation, frame(), Size));
+    QVERIFY(!slot.put(generation, frame(), Size));
     slot.notificationArrived();
-    QVERIFY(slot.put(generation, picture(), Size));
+    QVERIFY(slot.put(generation, frame(), Size));
 }
 
 void tst_FrameSlot::refusesOtherGenerations()
 {
     FrameSlot slot;
-    QVERIFY(!slot.put(0, picture(), Size));
+    QVERIFY(!slot.put(0, frame(), Size));
     const int first = slot.open();
     const int second = slot.open();
     QVERIFY(first != second);
-    QVERIFY(!slot.put(first, picture(), Size));
+    QVERIFY(!slot.put(first, frame(), Size));
     QVERIFY(slot.newest().isNull());
-    slot.put(second, picture(), Size);
+    slot.put(second, frame(), Size);
     slot.interrupt(first);
     QVERIFY(!slot.newest().isNull());
     slot.close();
     QVERIFY(slot.newest().isNull());
     QVERIFY(!slot.delivers());
-    QVERIFY(!slot.put(second, picture(), Size));
+    QVERIFY(!slot.put(second, frame(), Size));
     QVERIFY(slot.newest().isNull());
 }
 
@@ -84,25 +85,56 @@ void tst_FrameSlot::forgetsWhenInterrupted()
 {
     FrameSlot slot;
     const int generation = slot.open();
-    slot.put(generation, picture(), Size);
+    slot.put(generation, frame(), Size);
     slot.interrupt(generation);
     QVERIFY(slot.newest().isNull());
     QVERIFY(!slot.delivers());
-    slot.put(generation, picture(), Size);
+    slot.put(generation, frame(), Size);
     QVERIFY(slot.delivers());
     QCOMPARE(slot.figures().value(QLatin1String("pictures")).toInt(), 2);
 }
 
 void tst_FrameSlot::knowsSilence()
 {
-    FrameSlot slot;
+    FrameSlot::Clock::time_point now;
+    FrameSlot slot([&now] { return now; });
     const int generation = slot.open();
     slot.setRate(generation, 30.0);
-    const auto now = FrameSlot::Clock::now();
-    QVERIFY(!slot.isSilent(now));        // it may still come
-    QVERIFY(slot.isSilent(now - 600ms)); // it should have come
-    slot.put(generation, picture(), Size);
-    QVERIFY(!slot.isSilent(now - 600ms));
+    now += 1h;
+    QVERIFY(!slot.isSilent()); // the stream doesn't run yet
+    slot.expectFrames(generation + 1);
+    now += 1h;
+    QVERIFY(!slot.isSilent()); // another stream runs
+    slot.expectFrames(generation);
+    now += 500ms;
+    QVERIFY(!slot.isSilent()); // a frame may still come
+    now += 1ms;
+    QVERIFY(slot.isSilent());
+    slot.put(generation, frame(), Size);
+    QVERIFY(!slot.isSilent());
+    now += 501ms;
+    QVERIFY(slot.isSilent());
+    slot.interrupt(generation);
+    QVERIFY(!slot.isSilent()); // the stream ended
+}
+
+void tst_FrameSlot::waitsLongerForSlowCameras()
+{
+    FrameSlot::Clock::time_point now;
+    FrameSlot slot([&now] { return now; });
+    const int first = slot.open();
+    slot.setRate(first, 2.0);
+    slot.put(first, frame(), Size);
+    now += 2500ms;
+    QVERIFY(slot.delivers());
+    now += 1ms;
+    QVERIFY(!slot.delivers());
+
+    const int second = slot.open(); // the rate of the camera before is forgotten
+    slot.setRate(first, 2.0);       // and comes too late
+    slot.put(second, frame(), Size);
+    now += 501ms;
+    QVERIFY(!slot.delivers());
 }
 
 void tst_FrameSlot::usesMemoryAgain()

@@ -10,11 +10,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
-FrameStatistics::Sample sampleOf(QRgb colour)
+FrameStatistics::Sample sampleOf(QRgb color)
 {
-    QImage picture(32, 16, QImage::Format_RGB32);
-    picture.fill(colour);
-    return FrameStatistics::sampleOf(picture);
+    QImage frame(32, 16, QImage::Format_RGB32);
+    frame.fill(color);
+    return FrameStatistics::sampleOf(frame);
 }
 
 } // namespace
@@ -24,19 +24,19 @@ class tst_FrameStatistics : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void samplesPictures();
+    void samplesFrames();
     void tellsNothingOfNothing();
     void countsAndAverages();
 };
 
-void tst_FrameStatistics::samplesPictures()
+void tst_FrameStatistics::samplesFrames()
 {
     QCOMPARE(sampleOf(qRgb(255, 255, 255)).brightness, 1.0);
     QCOMPARE(sampleOf(qRgb(0, 0, 0)).brightness, 0.0);
-    QCOMPARE(sampleOf(qRgb(9, 9, 9)).print, sampleOf(qRgb(9, 9, 9)).print);
-    QVERIFY(sampleOf(qRgb(9, 9, 9)).print != sampleOf(qRgb(9, 9, 10)).print);
+    QCOMPARE(sampleOf(qRgb(9, 9, 9)).hash, sampleOf(qRgb(9, 9, 9)).hash);
+    QVERIFY(sampleOf(qRgb(9, 9, 9)).hash != sampleOf(qRgb(9, 9, 10)).hash);
     // the unused byte of a pixel is no difference
-    QCOMPARE(sampleOf(0x00090909).print, sampleOf(0xff090909).print);
+    QCOMPARE(sampleOf(0x00090909).hash, sampleOf(0xff090909).hash);
 }
 
 void tst_FrameStatistics::tellsNothingOfNothing()
@@ -65,7 +65,7 @@ void tst_FrameStatistics::countsAndAverages()
         {QStringLiteral("frozenShare"), 0.5},   {QStringLiteral("brightness"), 0.6}};
     QCOMPARE(statistics.figures(), expected);
     statistics.start(start);
-    QCOMPARE(statistics.pictures(), 0);
+    QCOMPARE(statistics.frames(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_FrameStatistics)

@@ -116,7 +116,7 @@ QByteArray tst_UdevDevices::plug(const char* name, const char* place, const char
     const QByteArray path = QByteArray("/dev/") + name;
     gchar* attributes[] = {g_strdup("name"), g_strdup("Driver's name"), nullptr};
     QVector<gchar*> properties{g_strdup("DEVNAME"), g_strdup(path.constData())};
-    if (product != nullptr) {
+    if (product) {
         properties << g_strdup("ID_PATH") << g_strdup(place) << g_strdup("ID_V4L_PRODUCT")
                    << g_strdup(product) << g_strdup("ID_V4L_CAPABILITIES") << g_strdup(":capture:");
     }

@@ -1,11 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
-#include "platform/devices/pipewire/PipeWireCameraSystem.h"
+#include "platform/devices/camera/DeviceCameraSystem.h"
+#include "platform/devices/pipewire/PipeWireFeed.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 #include "platform/devices/v4l2/VideoDevices.h"
 #include "tests/devices/ThreadCount.h"
+#include "tests/devices/v4l2/TestSources.h"
+#include "tests/devices/v4l2/VirtualSockets.h"
 #include "tests/support/CameraProcess.h"
+#include "tests/support/CameraWatcher.h"
+#include "tests/support/DeviceTexts.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/PipeWireServer.h"
 
@@ -13,7 +18,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <gst/gst.h>
-#include <mutex>
 
 using namespace Platform;
 using namespace TestSupport;
@@ -22,27 +26,12 @@ namespace {
 
 constexpr int LongMs = 8000;
 constexpr int AtOnceMs = 100;
-constexpr int ReconnectsMs = 1000; // a few tries to reach the server that is gone
+constexpr int ReconnectsMs = 1000; // for a few attempts to connect
 const QSize PreviewSize(306, 172);
 const QString PlaceA = QStringLiteral("pci-0000:00:14.0-usb-0:5:1.0");
 const QString PlaceB = QStringLiteral("pci-0000:00:14.0-usb-0:6:1.0");
-// White at the left, blue at the right.
-const QByteArray Bars("videotestsrc is-live=true pattern=smpte100");
-// Few and small pictures: a busy machine would make this source, too, fall silent.
+// Few and small frames, so that a busy machine can keep up.
 const QByteArray Modest(" ! capsfilter caps=video/x-raw,width=320,height=240,framerate=10/1");
-
-class Watcher final : public CameraBackend::Listener
-{
-public:
-    void cameraListChanged() override { ++lists; }
-    void currentCameraChanged(const QString&) override {}
-    void cameraWorkStateChanged(const QString&, bool works) override { doesWork = works; }
-    void frameArrived() override { ++pictures; }
-
-    int lists = 0;
-    int pictures = 0;
-    bool doesWork = false;
-};
 
 VideoDevices::Properties device(const QString& path, const QString& place, const QString& name,
                                 const QString& capabilities = QStringLiteral(":capture:"))
@@ -51,105 +40,6 @@ VideoDevices::Properties device(const QString& path, const QString& place, const
             {QStringLiteral("ID_PATH"), place},
             {QStringLiteral("ID_V4L_PRODUCT"), name},
             {QStringLiteral("ID_V4L_CAPABILITIES"), capabilities}};
-}
-
-// The sockets of a machine whose cameras are plugged in and out by the test.
-class Sockets
-{
-public:
-    void plug(const VideoDevices::Properties& properties)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_present.insert(properties.value(QStringLiteral("DEVNAME")), properties);
-        post([properties](VideoDevices::Listener& listener) { listener.deviceFound(properties); });
-    }
-    void unplug(const QString& path)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_present.remove(path);
-        post([path](VideoDevices::Listener& listener) { listener.deviceGone(path); });
-    }
-    std::unique_ptr<VideoDevices> makeDevices() { return std::make_unique<Devices>(*this); }
-    int users() const { return m_users; }
-
-private:
-    class Devices final : public VideoDevices
-    {
-    public:
-        explicit Devices(Sockets& sockets) : m_sockets(sockets) { ++sockets.m_users; }
-        ~Devices() override
-        {
-            const std::lock_guard<std::mutex> lock(m_sockets.m_mutex);
-            m_sockets.m_receiver = nullptr;
-        }
-        void start(Listener& listener) override
-        {
-            const std::lock_guard<std::mutex> lock(m_sockets.m_mutex);
-            m_sockets.m_receiver = &m_receiver;
-            m_sockets.m_listener = &listener;
-            for (const Properties& properties : qAsConst(m_sockets.m_present)) {
-                listener.deviceFound(properties);
-            }
-        }
-
-    private:
-        Sockets& m_sockets;
-        QObject m_receiver;
-    };
-
-    template <typename Function>
-    void post(Function function)
-    {
-        if (m_receiver != nullptr) {
-            QMetaObject::invokeMethod(
-                m_receiver, [function, listener = m_listener] { function(*listener); },
-                Qt::QueuedConnection);
-        }
-    }
-
-    std::mutex m_mutex;
-    QMap<QString, VideoDevices::Properties> m_present;
-    QObject* m_receiver = nullptr;
-    VideoDevices::Listener* m_listener = nullptr;
-    std::atomic_int m_users = 0;
-};
-
-std::atomic_int sourcesAlive = 0;
-
-GstElement* makeElement(const QByteArray& description)
-{
-    GstElement* const result =
-        gst_parse_bin_from_description(description.constData(), TRUE, nullptr);
-    ++sourcesAlive;
-    g_object_weak_ref(
-        G_OBJECT(result), [](gpointer, GObject*) { --sourcesAlive; }, nullptr);
-    return result;
-}
-
-// Fails with its first picture, as a driver may.
-GstElement* makeFailingElement(GstResourceError code, const QByteArray& details)
-{
-    struct Reason
-    {
-        GstResourceError code;
-        QByteArray details;
-    };
-    GstElement* const result = makeElement(Bars);
-    GstPad* const pad = gst_element_get_static_pad(result, "src");
-    gst_pad_add_probe(
-        pad, GST_PAD_PROBE_TYPE_BUFFER,
-        [](GstPad* at, GstPadProbeInfo*, gpointer data) {
-            const auto* reason = static_cast<const Reason*>(data);
-            GstElement* const element = gst_pad_get_parent_element(at);
-            gst_element_message_full(element, GST_MESSAGE_ERROR, GST_RESOURCE_ERROR, reason->code,
-                                     nullptr, g_strdup(reason->details.constData()), __FILE__,
-                                     Q_FUNC_INFO, __LINE__);
-            gst_object_unref(element);
-            return GST_PAD_PROBE_DROP;
-        },
-        new Reason{code, details}, [](gpointer data) { delete static_cast<Reason*>(data); });
-    gst_object_unref(pad);
-    return result;
 }
 
 int threads()
@@ -181,8 +71,8 @@ bool isNear(QRgb actual, QRgb expected)
 
 } // namespace
 
-// The whole way from a machine without a PipeWire server to the pictures, above the kernel's
-// devices: these are played by GStreamer's test source.
+// Cameras on a machine without a PipeWire server. GStreamer's test source takes the place of the
+// kernel's devices; everything above them is real.
 class tst_V4l2Cameras : public QObject
 {
     Q_OBJECT
@@ -192,35 +82,35 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void leavesPipeWireItsCameras();
-    void listsCamerasAlone();
-    void knowsACameraByItsPlace();
-    void showsPictures_data();
-    void showsPictures();
-    void followsTheWishedSize();
+    void staysAwayIfPipeWireAnswers();
+    void listsOnlyCameras();
+    void recognizesACameraByItsPlace();
+    void showsFrames_data();
+    void showsFrames();
+    void followsTheOutputSize();
     void switchesCameras();
-    void picksUpReturningCamera();
+    void reopensReturningCamera();
     void noticesSilence();
-    void tellsFailures_data();
-    void tellsFailures();
-    void tellsMissingSource();
-    void tellsSourceThatDoesNotStart();
+    void reportsErrors_data();
+    void reportsErrors();
+    void reportsMissingSource();
+    void reportsSourceThatDoesNotStart();
     void waitsForHungStart();
     void leavesHungStartAtOnce();
     void leavesNothingBehind();
 
 private:
     void makeBackend();
-    QStringList ids() const;
-    QStringList names() const;
+    QStringList ids() const { return idsOf(m_backend->devices()); }
+    QStringList names() const { return namesOf(m_backend->devices()); }
     QString stateName() const { return toString(m_backend->state()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     MemoryReport m_report;
-    Watcher m_watcher;
-    std::unique_ptr<Sockets> m_sockets;
+    CameraWatcher m_watcher;
+    std::unique_ptr<VirtualSockets> m_sockets;
     std::function<GstElement*(const QString&)> m_makeSource;
-    std::unique_ptr<PipeWireCameraSystem> m_system;
+    std::unique_ptr<DeviceCameraSystem> m_system;
     std::unique_ptr<CameraBackend> m_backend;
 };
 
@@ -232,11 +122,11 @@ void tst_V4l2Cameras::initTestCase()
 void tst_V4l2Cameras::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_RUNTIME_DIR", m_folder->path().toUtf8()); // no server there
+    qputenv("XDG_RUNTIME_DIR", m_folder->path().toUtf8()); // where no server is
     qputenv("PIPEWIRE_RUNTIME_DIR", m_folder->path().toUtf8());
     m_report = MemoryReport();
-    m_watcher = Watcher();
-    m_sockets = std::make_unique<Sockets>();
+    m_watcher = CameraWatcher();
+    m_sockets = std::make_unique<VirtualSockets>();
     m_makeSource = [](const QString&) { return makeElement(Bars); };
 }
 
@@ -246,11 +136,11 @@ void tst_V4l2Cameras::cleanup()
     m_system.reset();
     QTRY_COMPARE(threadCount("v4l2 cameras"), 0);
     QTRY_COMPARE(threadCount("v4l2 stream"), 0);
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     QVERIFY(FileWriter::waitForWritten(LongMs));
 }
 
-void tst_V4l2Cameras::leavesPipeWireItsCameras()
+void tst_V4l2Cameras::staysAwayIfPipeWireAnswers()
 {
     PipeWireServer server;
     qunsetenv("PIPEWIRE_RUNTIME_DIR");
@@ -261,7 +151,7 @@ void tst_V4l2Cameras::leavesPipeWireItsCameras()
     QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList(QStringLiteral("Camera")), LongMs);
     QCOMPARE(m_sockets->users(), 0);
 
-    server.kill(); // it will be back
+    server.kill(); // it may come back
     QTRY_VERIFY_WITH_TIMEOUT(names().isEmpty(), LongMs);
     QTest::qWait(ReconnectsMs);
     QVERIFY(names().isEmpty());
@@ -270,7 +160,7 @@ void tst_V4l2Cameras::leavesPipeWireItsCameras()
     m_system.reset();
 }
 
-void tst_V4l2Cameras::listsCamerasAlone()
+void tst_V4l2Cameras::listsOnlyCameras()
 {
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     m_sockets->plug(device(QStringLiteral("/dev/video1"), PlaceA, QStringLiteral("Camera"),
@@ -287,17 +177,17 @@ void tst_V4l2Cameras::listsCamerasAlone()
     QCOMPARE(names(), numbered);
     QTRY_COMPARE(m_backend->currentId(), PlaceA);
     QCOMPARE(stateName(), QStringLiteral("ready"));
-    QCOMPARE(m_watcher.lists, 1);
+    QCOMPARE(m_watcher.log.count(QStringLiteral("list")), 1);
 
     m_sockets->unplug(QStringLiteral("/dev/video0"));
     m_sockets->unplug(QStringLiteral("/dev/video1"));
     m_sockets->plug(device(QStringLiteral("/dev/video5"), {}, QStringLiteral("Box")));
     const QStringList changed{QStringLiteral("/dev/video5"), PlaceB};
     QTRY_COMPARE_WITH_TIMEOUT(ids(), changed, LongMs);
-    QTRY_COMPARE(m_watcher.lists, 2); // the burst comes as one
+    QTRY_COMPARE(m_watcher.log.count(QStringLiteral("list")), 2); // the burst is announced once
 }
 
-void tst_V4l2Cameras::knowsACameraByItsPlace()
+void tst_V4l2Cameras::recognizesACameraByItsPlace()
 {
     VideoDevices::Properties properties =
         device(QStringLiteral("/dev/video0"), {}, QStringLiteral("Camera"));
@@ -316,14 +206,14 @@ void tst_V4l2Cameras::knowsACameraByItsPlace()
     QCOMPARE(m_backend->currentId(), PlaceB);
 }
 
-void tst_V4l2Cameras::showsPictures_data()
+void tst_V4l2Cameras::showsFrames_data()
 {
     QTest::addColumn<QByteArray>("caps");
     QTest::addColumn<QSize>("expected");
     const QSize fitted(229, 172);
-    for (const char* layout :
+    for (const char* format :
          {"YUY2", "UYVY", "NV12", "I420", "RGB", "BGR", "RGBx", "BGRx", "xRGB", "xBGR"}) {
-        QTest::newRow(layout) << Modest + ",format=" + layout << fitted;
+        QTest::newRow(format) << Modest + ",format=" + format << fitted;
     }
     QTest::newRow("motion JPEG") << Modest + ",format=I420 ! jpegenc quality=95" << QSize(229, 172);
     QTest::newRow("another size")
@@ -332,7 +222,7 @@ void tst_V4l2Cameras::showsPictures_data()
     QTest::newRow("what it prefers") << QByteArray() << fitted; // 640 x 480
 }
 
-void tst_V4l2Cameras::showsPictures()
+void tst_V4l2Cameras::showsFrames()
 {
     QFETCH(QByteArray, caps);
     QFETCH(QSize, expected);
@@ -340,26 +230,26 @@ void tst_V4l2Cameras::showsPictures()
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     makeBackend();
     m_backend->start();
-    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.pictures > 3, LongMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames > 3, LongMs);
     QTRY_VERIFY(m_watcher.doesWork);
     QCOMPARE(stateName(), QStringLiteral("working"));
-    const QImage picture = m_backend->latestFrame();
+    const QImage frame = m_backend->latestFrame();
     if (caps.contains("jpegenc")) {
-        QVERIFY(!picture.isNull()); // its source negotiates the smallest size
+        QVERIFY(!frame.isNull()); // jpegenc negotiates the smallest size
     } else {
-        QCOMPARE(picture.size(), expected);
+        QCOMPARE(frame.size(), expected);
     }
     // Mirrored, as self-views are.
-    const int y = picture.height() / 4;
-    QVERIFY(isNear(picture.pixel(picture.width() / 14, y), qRgb(0, 0, 255)));
-    QVERIFY(isNear(picture.pixel(picture.width() * 13 / 14, y), qRgb(255, 255, 255)));
+    const int y = frame.height() / 4;
+    QVERIFY(isNear(frame.pixel(frame.width() / 14, y), qRgb(0, 0, 255)));
+    QVERIFY(isNear(frame.pixel(frame.width() * 13 / 14, y), qRgb(255, 255, 255)));
     m_backend->stop();
     QVERIFY(m_backend->latestFrame().isNull());
     QCOMPARE(m_report.measurements.value(QStringLiteral("camera")).value(QLatin1String("state")),
              QJsonValue(QStringLiteral("working")));
 }
 
-void tst_V4l2Cameras::followsTheWishedSize()
+void tst_V4l2Cameras::followsTheOutputSize()
 {
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     makeBackend();
@@ -385,13 +275,13 @@ void tst_V4l2Cameras::switchesCameras()
     QVERIFY(m_backend->latestFrame().isNull());
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
     QVERIFY(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0, 255, 0)));
-    QTRY_COMPARE(sourcesAlive.load(), 1);
+    QTRY_COMPARE(sourcesAlive(), 1);
     m_backend->setCurrent({});
     QCOMPARE(stateName(), QStringLiteral("off"));
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
 }
 
-void tst_V4l2Cameras::picksUpReturningCamera()
+void tst_V4l2Cameras::reopensReturningCamera()
 {
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     makeBackend();
@@ -400,7 +290,7 @@ void tst_V4l2Cameras::picksUpReturningCamera()
     m_sockets->unplug(QStringLiteral("/dev/video0"));
     QTRY_COMPARE(stateName(), QStringLiteral("absent"));
     QVERIFY(m_backend->latestFrame().isNull());
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     m_sockets->plug(device(QStringLiteral("/dev/video3"), PlaceA, QStringLiteral("Camera")));
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
 }
@@ -428,7 +318,7 @@ void tst_V4l2Cameras::noticesSilence()
     gst_object_unref(valve);
 }
 
-void tst_V4l2Cameras::tellsFailures_data()
+void tst_V4l2Cameras::reportsErrors_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QByteArray>("details");
@@ -443,7 +333,7 @@ void tst_V4l2Cameras::tellsFailures_data()
     QTest::newRow("other") << open << reason(EIO) << QStringLiteral("failed");
 }
 
-void tst_V4l2Cameras::tellsFailures()
+void tst_V4l2Cameras::reportsErrors()
 {
     QFETCH(int, code);
     QFETCH(QByteArray, details);
@@ -459,11 +349,11 @@ void tst_V4l2Cameras::tellsFailures()
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), expected, LongMs);
     isRepaired = true;
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
-    m_backend.reset(); // what it uses is here
+    m_backend.reset(); // before what it uses is destroyed
     m_system.reset();
 }
 
-void tst_V4l2Cameras::tellsMissingSource()
+void tst_V4l2Cameras::reportsMissingSource()
 {
     m_makeSource = [](const QString&) { return nullptr; };
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
@@ -472,7 +362,7 @@ void tst_V4l2Cameras::tellsMissingSource()
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
 }
 
-void tst_V4l2Cameras::tellsSourceThatDoesNotStart()
+void tst_V4l2Cameras::reportsSourceThatDoesNotStart()
 {
     m_makeSource = [](const QString&) { return makeElement("filesrc location=/absent/camera"); };
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
@@ -500,7 +390,7 @@ void tst_V4l2Cameras::waitsForHungStart()
     m_system.reset();
 }
 
-// Whoever leaves doesn't wait; what the driver finishes later is dropped and freed.
+// Leaving doesn't wait for the driver. What it opens later is dropped and freed.
 void tst_V4l2Cameras::leavesHungStartAtOnce()
 {
     QSemaphore driver;
@@ -531,7 +421,7 @@ void tst_V4l2Cameras::leavesHungStartAtOnce()
     QCOMPARE(threadCount("v4l2 stream"), 2);
     driver.release(2);
     QTRY_COMPARE(threadCount("v4l2 stream"), 0);
-    QTRY_COMPARE(sourcesAlive.load(), 0);
+    QTRY_COMPARE(sourcesAlive(), 0);
     m_system.reset();
 }
 
@@ -543,10 +433,10 @@ void tst_V4l2Cameras::leavesNothingBehind()
     makeBackend();
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
-    QCOMPARE(sourcesAlive.load(), 1);
+    QCOMPARE(sourcesAlive(), 1);
     QVERIFY(threads() > threadsBefore);
     m_backend->stop();
-    QTRY_COMPARE(sourcesAlive.load(), 0); // the light is out
+    QTRY_COMPARE(sourcesAlive(), 0); // the light is out
     m_backend.reset();
     QTRY_VERIFY(threads() <= threadsBefore);
     QTRY_COMPARE(openFiles(), filesBefore);
@@ -557,28 +447,10 @@ void tst_V4l2Cameras::makeBackend()
     V4l2Parts parts;
     parts.makeDevices = [this] { return m_sockets->makeDevices(); };
     parts.makeSource = m_makeSource;
-    m_system =
-        std::make_unique<PipeWireCameraSystem>(m_folder->path(), m_report, v4l2FeedMaker(parts));
+    m_system = std::make_unique<DeviceCameraSystem>(m_folder->path(), m_report, pipeWireFeedMaker(),
+                                                    v4l2FeedMaker(parts));
     m_backend = m_system->createCamera(m_watcher);
     m_backend->setOutputSize(PreviewSize);
-}
-
-QStringList tst_V4l2Cameras::ids() const
-{
-    QStringList result;
-    for (const DeviceInfo& info : m_backend->devices()) {
-        result << info.id;
-    }
-    return result;
-}
-
-QStringList tst_V4l2Cameras::names() const
-{
-    QStringList result;
-    for (const DeviceInfo& info : m_backend->devices()) {
-        result << info.name;
-    }
-    return result;
 }
 
 QTEST_GUILESS_MAIN(tst_V4l2Cameras)

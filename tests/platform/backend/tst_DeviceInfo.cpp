@@ -37,6 +37,7 @@ private Q_SLOTS:
     void blanksControlCharacters();
     void cutsLongNames();
     void comparesIdAndName();
+    void findsById();
 };
 
 void tst_DeviceInfo::tellsUsableStates_data()
@@ -105,6 +106,23 @@ void tst_DeviceInfo::comparesIdAndName()
     QVERIFY(device == (DeviceInfo{QStringLiteral("id"), QStringLiteral("name")}));
     QVERIFY(!(device == DeviceInfo{QStringLiteral("id"), QStringLiteral("other")}));
     QVERIFY(!(device == DeviceInfo{QStringLiteral("other"), QStringLiteral("name")}));
+}
+
+void tst_DeviceInfo::findsById()
+{
+    struct Adjustable : DeviceInfo
+    {
+        int volume = 0;
+    };
+    const DeviceList plain{{"a", "Camera A"}, {"b", "Camera B"}};
+    QCOMPARE(findDevice(plain, "b"), &plain[1]);
+    QVERIFY(!findDevice(plain, "c"));
+    QCOMPARE(nameIn(plain, "b"), QStringLiteral("Camera B"));
+    QCOMPARE(nameIn(plain, "c"), QString());
+    QCOMPARE(nameIn({}, ""), QString());
+    std::vector<Adjustable> derived{{{"a", "Speaker"}, 50}};
+    findDevice(derived, "a")->volume = 60;
+    QCOMPARE(derived.front().volume, 60);
 }
 
 QTEST_GUILESS_MAIN(tst_DeviceInfo)

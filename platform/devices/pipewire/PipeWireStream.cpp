@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/CameraStream.h"
+#include "platform/devices/pipewire/PipeWireStream.h"
 
 #include "platform/devices/pipewire/StreamFormat.h"
 
@@ -27,14 +27,15 @@ void addFormats(spa_pod_builder& builder)
     spa_pod_frame choice{};
     spa_pod_builder_push_choice(&builder, &choice, SPA_CHOICE_Enum, 0);
     const std::vector<uint32_t>& formats = readableFormats();
-    spa_pod_builder_id(&builder, formats.front()); // the default comes first
+    spa_pod_builder_id(&builder, formats.front()); // a choice starts with its default
     for (const uint32_t format : formats) {
         spa_pod_builder_id(&builder, format);
     }
     spa_pod_builder_pop(&builder, &choice);
 }
 
-const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype, const spa_rectangle& wished)
+const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype,
+                     const spa_rectangle& preferred)
 {
     spa_pod_frame frame{};
     spa_pod_builder_push_object(&builder, &frame, SPA_TYPE_OBJECT_Format, SPA_PARAM_EnumFormat);
@@ -44,24 +45,24 @@ const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype, const spa_
         addFormats(builder);
     }
     spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_size,
-                        SPA_POD_CHOICE_RANGE_Rectangle(&wished, &SmallestSize, &LargestSize),
+                        SPA_POD_CHOICE_RANGE_Rectangle(&preferred, &SmallestSize, &LargestSize),
                         SPA_FORMAT_VIDEO_framerate,
                         SPA_POD_CHOICE_RANGE_Fraction(&UsualRate, &LowestRate, &HighestRate), 0);
     return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
 }
 
-YuvColour colourOf(const spa_video_info_raw& info)
+YuvColor colorOf(const spa_video_info_raw& info)
 {
     const bool isFull = info.color_range == SPA_VIDEO_COLOR_RANGE_0_255;
     if (info.color_matrix == SPA_VIDEO_COLOR_MATRIX_BT709) {
-        return isFull ? YuvColour::Bt709Full : YuvColour::Bt709;
+        return isFull ? YuvColor::Bt709Full : YuvColor::Bt709;
     }
-    return isFull ? YuvColour::Bt601Full : YuvColour::Bt601;
+    return isFull ? YuvColor::Bt601Full : YuvColor::Bt601;
 }
 
 double rateOf(const spa_fraction& rate, const spa_fraction& highest)
 {
-    const spa_fraction& agreed = rate.num > 0 ? rate : highest; // 0: a varying rate
+    const spa_fraction& agreed = rate.num > 0 ? rate : highest; // 0: the rate varies
     return agreed.denom > 0 ? double(agreed.num) / agreed.denom : 0.0;
 }
 
@@ -77,7 +78,7 @@ FrameOrientation orientationOf(const spa_buffer& buffer)
     const auto* const transform =
         static_cast<const spa_meta_videotransform*>(spa_buffer_find_meta_data(
             &buffer, SPA_META_VideoTransform, sizeof(spa_meta_videotransform)));
-    if (transform == nullptr || transform->transform > SPA_META_TRANSFORMATION_Flipped270) {
+    if (!transform || transform->transform > SPA_META_TRANSFORMATION_Flipped270) {
         return {};
     }
     return {static_cast<int>(transform->transform % 4),
@@ -88,13 +89,13 @@ bool isCorrupted(const spa_buffer& buffer)
 {
     const auto* const header = static_cast<const spa_meta_header*>(
         spa_buffer_find_meta_data(&buffer, SPA_META_Header, sizeof(spa_meta_header)));
-    return header != nullptr && (header->flags & SPA_META_HEADER_FLAG_CORRUPTED) != 0;
+    return header && (header->flags & SPA_META_HEADER_FLAG_CORRUPTED) != 0;
 }
 
-// What may be read of a block, whatever its sender claims.
+// Never more than the block holds: the sender may claim too much.
 FrameView::Plane planeOf(const spa_data& block)
 {
-    if (block.data == nullptr || block.chunk == nullptr || block.chunk->stride < 0 ||
+    if (!block.data || !block.chunk || block.chunk->stride < 0 ||
         (block.chunk->flags & SPA_CHUNK_FLAG_CORRUPTED) != 0) {
         return {};
     }
@@ -103,12 +104,12 @@ FrameView::Plane planeOf(const spa_data& block)
     return {static_cast<const uchar*>(block.data) + offset, size, block.chunk->stride};
 }
 
-// A kernel driver's buffers aren't mapped by the stream.
+// PipeWire maps shared memory, but not the DMA buffers that a driver shares.
 void mapDriverBuffers(pw_buffer* buffer)
 {
     for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
         spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && block.data == nullptr) {
+        if (block.type == SPA_DATA_DmaBuf && !block.data) {
             void* const memory =
                 mmap(nullptr, block.maxsize, PROT_READ, MAP_SHARED, static_cast<int>(block.fd),
                      static_cast<off_t>(block.mapoffset));
@@ -121,7 +122,7 @@ void unmapDriverBuffers(pw_buffer* buffer)
 {
     for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
         spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && block.data != nullptr) {
+        if (block.type == SPA_DATA_DmaBuf && block.data) {
             munmap(block.data, block.maxsize);
             block.data = nullptr;
         }
@@ -130,29 +131,29 @@ void unmapDriverBuffers(pw_buffer* buffer)
 
 } // namespace
 
-const pw_stream_events CameraStream::Events = [] {
+const pw_stream_events PipeWireStream::Events = [] {
     pw_stream_events events{};
     events.version = PW_VERSION_STREAM_EVENTS;
     events.state_changed = [](void* data, pw_stream_state, pw_stream_state state,
                               const char* error) {
-        static_cast<CameraStream*>(data)->onStateChanged(state, error);
+        static_cast<PipeWireStream*>(data)->onStateChanged(state, error);
     };
     events.param_changed = [](void* data, uint32_t id, const spa_pod* parameter) {
-        if (id == SPA_PARAM_Format && parameter != nullptr) {
-            static_cast<CameraStream*>(data)->onFormatChanged(parameter);
+        if (id == SPA_PARAM_Format && parameter) {
+            static_cast<PipeWireStream*>(data)->onFormatChanged(parameter);
         }
     };
     events.add_buffer = [](void*, pw_buffer* buffer) { mapDriverBuffers(buffer); };
     events.remove_buffer = [](void*, pw_buffer* buffer) { unmapDriverBuffers(buffer); };
-    events.process = [](void* data) { static_cast<CameraStream*>(data)->onProcess(); };
+    events.process = [](void* data) { static_cast<PipeWireStream*>(data)->onProcess(); };
     return events;
 }();
 
-CameraStream::CameraStream(pw_context* context, const QString& serial, const QSize& wishedSize,
-                           Listener& listener)
+PipeWireStream::PipeWireStream(pw_context* context, const QString& serial,
+                               const QSize& preferredSize, Listener& listener)
     : m_listener(listener), m_core(pw_context_connect(context, nullptr, 0))
 {
-    if (m_core == nullptr) {
+    if (!m_core) {
         return;
     }
     pw_properties* const properties =
@@ -160,44 +161,44 @@ CameraStream::CameraStream(pw_context* context, const QString& serial, const QSi
                           PW_KEY_MEDIA_ROLE, "Camera", PW_KEY_TARGET_OBJECT,
                           serial.toUtf8().constData(), PW_KEY_NODE_DONT_RECONNECT, "true", nullptr);
     m_stream = pw_stream_new(m_core, "camera check", properties);
-    if (m_stream != nullptr) {
+    if (m_stream) {
         pw_stream_add_listener(m_stream, &m_hook, &Events, this);
-        connectTo(wishedSize);
+        connectTo(preferredSize);
     }
 }
 
-CameraStream::~CameraStream()
+PipeWireStream::~PipeWireStream()
 {
-    if (m_stream != nullptr) {
-        pw_stream_disconnect(m_stream); // takes the buffers back while we still listen
+    if (m_stream) {
+        pw_stream_disconnect(m_stream); // calls remove_buffer, so we must still listen
         spa_hook_remove(&m_hook);
         pw_stream_destroy(m_stream);
     }
-    if (m_core != nullptr) {
-        pw_core_disconnect(m_core); // before the loop reads on
+    if (m_core) {
+        pw_core_disconnect(m_core); // now, so that the loop reads no late answers
     }
 }
 
-quint32 CameraStream::nodeId() const
+quint32 PipeWireStream::nodeId() const
 {
-    return m_stream == nullptr ? PW_ID_ANY : pw_stream_get_node_id(m_stream);
+    return m_stream ? pw_stream_get_node_id(m_stream) : PW_ID_ANY;
 }
 
-void CameraStream::connectTo(const QSize& wishedSize)
+void PipeWireStream::connectTo(const QSize& preferredSize)
 {
     uint8_t memory[2048];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    const spa_rectangle wished{static_cast<uint32_t>(wishedSize.width()),
-                               static_cast<uint32_t>(wishedSize.height())};
-    const spa_pod* offers[] = {offer(builder, SPA_MEDIA_SUBTYPE_raw, wished),
-                               offer(builder, SPA_MEDIA_SUBTYPE_mjpg, wished)};
+    const spa_rectangle preferred{static_cast<uint32_t>(preferredSize.width()),
+                                  static_cast<uint32_t>(preferredSize.height())};
+    const spa_pod* offers[] = {offer(builder, SPA_MEDIA_SUBTYPE_raw, preferred),
+                               offer(builder, SPA_MEDIA_SUBTYPE_mjpg, preferred)};
     pw_stream_connect(
         m_stream, PW_DIRECTION_INPUT, PW_ID_ANY,
         static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS),
         offers, std::size(offers));
 }
 
-void CameraStream::onStateChanged(pw_stream_state state, const char* error)
+void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
 {
     switch (state) {
     case PW_STREAM_STATE_STREAMING:
@@ -218,22 +219,22 @@ void CameraStream::onStateChanged(pw_stream_state state, const char* error)
     }
 }
 
-void CameraStream::onFormatChanged(const spa_pod* format)
+void PipeWireStream::onFormatChanged(const spa_pod* format)
 {
-    m_format = PixelFormat();
+    m_format = FrameFormat();
     spa_video_info info{};
     if (spa_format_parse(format, &info.media_type, &info.media_subtype) < 0) {
         return;
     }
     if (info.media_subtype == SPA_MEDIA_SUBTYPE_mjpg) {
         spa_format_video_mjpg_parse(format, &info.info.mjpg);
-        m_format.layout = PixelLayout::Mjpg;
+        m_format.pixelFormat = PixelFormat::Mjpg;
         m_format.size = sizeOf(info.info.mjpg.size);
         m_listener.rateAgreed(rateOf(info.info.mjpg.framerate, info.info.mjpg.max_framerate));
     } else if (info.media_subtype == SPA_MEDIA_SUBTYPE_raw) {
         spa_format_video_raw_parse(format, &info.info.raw);
-        m_format.layout = layoutOf(info.info.raw.format);
-        m_format.colour = colourOf(info.info.raw);
+        m_format.pixelFormat = pixelFormatOf(info.info.raw.format);
+        m_format.color = colorOf(info.info.raw);
         m_format.size = sizeOf(info.info.raw.size);
         m_listener.rateAgreed(rateOf(info.info.raw.framerate, info.info.raw.max_framerate));
     }
@@ -249,30 +250,30 @@ void CameraStream::onFormatChanged(const spa_pod* format)
         &builder, SPA_TYPE_OBJECT_ParamBuffers, SPA_PARAM_Buffers, SPA_PARAM_BUFFERS_buffers,
         SPA_POD_CHOICE_RANGE_Int(BufferCount, FewestBuffers, MostBuffers),
         SPA_PARAM_BUFFERS_dataType, SPA_POD_CHOICE_FLAGS_Int(Kinds)));
-    const spa_pod* wishes[] = {buffers, meta(SPA_META_Header, sizeof(spa_meta_header)),
-                               meta(SPA_META_VideoTransform, sizeof(spa_meta_videotransform))};
-    pw_stream_update_params(m_stream, wishes, std::size(wishes));
+    const spa_pod* parameters[] = {buffers, meta(SPA_META_Header, sizeof(spa_meta_header)),
+                                   meta(SPA_META_VideoTransform, sizeof(spa_meta_videotransform))};
+    pw_stream_update_params(m_stream, parameters, std::size(parameters));
 }
 
-// Older pictures go back unseen.
-void CameraStream::onProcess()
+// Takes the newest frame and gives older ones back.
+void PipeWireStream::onProcess()
 {
     pw_buffer* newest = nullptr;
     while (pw_buffer* const buffer = pw_stream_dequeue_buffer(m_stream)) {
-        if (newest != nullptr) {
+        if (newest) {
             pw_stream_queue_buffer(m_stream, newest);
         }
         newest = buffer;
     }
-    if (newest != nullptr) {
+    if (newest) {
         deliver(*newest->buffer);
         pw_stream_queue_buffer(m_stream, newest);
     }
 }
 
-void CameraStream::deliver(const spa_buffer& buffer)
+void PipeWireStream::deliver(const spa_buffer& buffer)
 {
-    if (m_format.layout == PixelLayout::None || isCorrupted(buffer)) {
+    if (m_format.pixelFormat == PixelFormat::None || isCorrupted(buffer)) {
         return;
     }
     FrameView view;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pipewire/NodeProbe.h"
+#include "platform/devices/pipewire/NodeProxy.h"
 
 #include "platform/devices/pipewire/NodeProperties.h"
 #include "platform/devices/pipewire/StreamFormat.h"
@@ -38,7 +38,7 @@ void readProperties(const spa_dict* properties, CameraNode& node)
     }
 }
 
-bool isGrey(uint32_t format)
+bool isGray(uint32_t format)
 {
     return format == SPA_VIDEO_FORMAT_GRAY8 || format == SPA_VIDEO_FORMAT_GRAY16_BE ||
            format == SPA_VIDEO_FORMAT_GRAY16_LE;
@@ -46,55 +46,46 @@ bool isGrey(uint32_t format)
 
 } // namespace
 
-const pw_node_events NodeProbe::NodeEvents = [] {
+const pw_node_events NodeProxy::NodeEvents = [] {
     pw_node_events events{};
     events.version = PW_VERSION_NODE_EVENTS;
     events.info = [](void* data, const pw_node_info* info) {
-        static_cast<NodeProbe*>(data)->onInfo(*info);
+        static_cast<NodeProxy*>(data)->onInfo(*info);
     };
     events.param = [](void* data, int, uint32_t, uint32_t, uint32_t, const spa_pod* parameter) {
-        static_cast<NodeProbe*>(data)->onFormat(parameter);
+        static_cast<NodeProxy*>(data)->onFormat(parameter);
     };
     return events;
 }();
 
-const pw_proxy_events NodeProbe::ProxyEvents = [] {
+const pw_proxy_events NodeProxy::ProxyEvents = [] {
     pw_proxy_events events{};
     events.version = PW_VERSION_PROXY_EVENTS;
-    events.done = [](void* data, int) { static_cast<NodeProbe*>(data)->onDone(); };
+    events.done = [](void* data, int) { static_cast<NodeProxy*>(data)->onDone(); };
     return events;
 }();
 
-NodeProbe::NodeProbe(pw_registry* registry, quint32 globalId, const spa_dict* properties,
+NodeProxy::NodeProxy(pw_registry* registry, quint32 globalId, const spa_dict* properties,
                      Listener& listener)
-    : m_listener(listener), m_globalId(globalId)
+    : m_listener(listener),
+      m_globalId(globalId),
+      m_proxy(registry, globalId, PW_TYPE_INTERFACE_Node, PW_VERSION_NODE)
 {
     readProperties(properties, m_node);
-    m_proxy = static_cast<pw_proxy*>(
-        pw_registry_bind(registry, globalId, PW_TYPE_INTERFACE_Node, PW_VERSION_NODE, 0));
-    if (m_proxy == nullptr) {
+    auto* node = m_proxy.get<pw_node>();
+    if (!node) {
         m_isDone = true;
         return;
     }
-    pw_proxy_add_listener(m_proxy, &m_proxyHook, &ProxyEvents, this);
-    auto* const node = reinterpret_cast<pw_node*>(m_proxy);
-    pw_node_add_listener(node, &m_nodeHook, &NodeEvents, this);
+    pw_proxy_add_listener(m_proxy.get(), m_proxy.newHook(), &ProxyEvents, this);
+    pw_node_add_listener(node, m_proxy.newHook(), &NodeEvents, this);
     pw_node_enum_params(node, 0, SPA_PARAM_EnumFormat, 0, UINT32_MAX, nullptr);
-    pw_proxy_sync(m_proxy, 0);
+    pw_proxy_sync(m_proxy.get(), 0);
 }
 
-NodeProbe::~NodeProbe()
+void NodeProxy::onInfo(const pw_node_info& info)
 {
-    if (m_proxy != nullptr) {
-        spa_hook_remove(&m_nodeHook);
-        spa_hook_remove(&m_proxyHook);
-        pw_proxy_destroy(m_proxy);
-    }
-}
-
-void NodeProbe::onInfo(const pw_node_info& info)
-{
-    if (info.props != nullptr) {
+    if (info.props) {
         readProperties(info.props, m_node);
     }
     if ((info.change_mask & PW_NODE_CHANGE_MASK_STATE) == 0) {
@@ -106,23 +97,23 @@ void NodeProbe::onInfo(const pw_node_info& info)
     }
 }
 
-void NodeProbe::onFormat(const spa_pod* format)
+void NodeProxy::onFormat(const spa_pod* format)
 {
     uint32_t mediaType = 0;
     uint32_t mediaSubtype = 0;
-    if (format == nullptr || spa_format_parse(format, &mediaType, &mediaSubtype) < 0 ||
+    if (!format || spa_format_parse(format, &mediaType, &mediaSubtype) < 0 ||
         mediaType != SPA_MEDIA_TYPE_video) {
         return;
     }
     m_node.hasFormats = true;
     if (mediaSubtype != SPA_MEDIA_SUBTYPE_raw) {
-        m_node.hasColour = true;
+        m_node.hasColor = true;
         m_node.isReadable = m_node.isReadable || mediaSubtype == SPA_MEDIA_SUBTYPE_mjpg;
         return;
     }
     const spa_pod_prop* const property =
         spa_pod_find_prop(format, nullptr, SPA_FORMAT_VIDEO_format);
-    if (property == nullptr) {
+    if (!property) {
         return;
     }
     uint32_t count = 0;
@@ -133,12 +124,12 @@ void NodeProbe::onFormat(const spa_pod* format)
     }
     const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
     for (uint32_t i = 0; i < count; ++i) {
-        m_node.hasColour = m_node.hasColour || !isGrey(ids[i]);
-        m_node.isReadable = m_node.isReadable || layoutOf(ids[i]) != PixelLayout::None;
+        m_node.hasColor = m_node.hasColor || !isGray(ids[i]);
+        m_node.isReadable = m_node.isReadable || pixelFormatOf(ids[i]) != PixelFormat::None;
     }
 }
 
-void NodeProbe::onDone()
+void NodeProxy::onDone()
 {
     m_isDone = true;
     m_listener.nodeDescribed(m_globalId, m_node);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/EndingThreads.h"
+#include "platform/backend/EndingThreads.h"
 
-#include "platform/devices/camera/CameraLog.h"
+#include "platform/backend/Log.h"
 
 #include <algorithm>
 
@@ -12,34 +12,40 @@ namespace {
 
 constexpr unsigned long EndTimeoutMs = 1000;
 
+// Qt ends the program if a running QThread is destroyed, so it is never freed.
+void abandon(std::unique_ptr<QThread> thread)
+{
+    static_cast<void>(thread.release());
+}
+
 } // namespace
 
-// What still runs can't be destroyed.
+EndingThreads::EndingThreads() = default;
+
 EndingThreads::~EndingThreads()
 {
     for (std::unique_ptr<QThread>& thread : m_threads) {
         if (!thread->isFinished()) {
-            static_cast<void>(thread.release());
+            abandon(std::move(thread));
         }
     }
 }
 
 void EndingThreads::take(std::unique_ptr<QThread> thread)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_threads.erase(std::remove_if(m_threads.begin(), m_threads.end(),
                                    [](const auto& present) { return present->isFinished(); }),
                     m_threads.end());
     m_threads.push_back(std::move(thread));
 }
 
-// A thread may hand over others while it ends.
 void EndingThreads::wait()
 {
     for (;;) {
         std::unique_ptr<QThread> thread;
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
+        { // not while waiting: an ending thread may hand over others
+            const std::scoped_lock lock(m_mutex);
             if (m_threads.empty()) {
                 return;
             }
@@ -47,9 +53,9 @@ void EndingThreads::wait()
             m_threads.pop_back();
         }
         if (!thread->wait(EndTimeoutMs)) {
-            qCWarning(CameraLog, "The thread \"%s\" doesn't end; it is left behind",
+            qCWarning(Log::devices, "The thread \"%s\" doesn't end; it is left behind",
                       qUtf8Printable(thread->objectName()));
-            static_cast<void>(thread.release());
+            abandon(std::move(thread));
         }
     }
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
 #include <QThread>
 #include <memory>
 #include <mutex>
@@ -9,17 +11,18 @@
 
 namespace Platform {
 
-// Threads that were asked to end, kept until they have. Thread-safe.
-class EndingThreads
+// The way to let go of a thread that may hang: ask it to end, hand it over, go on. It is kept until
+// it has ended. Thread-safe.
+class CLASSROOMBACKEND_EXPORT EndingThreads
 {
 public:
-    EndingThreads() = default;
-    ~EndingThreads();
+    EndingThreads();
+    ~EndingThreads(); // doesn't wait; abandons what still runs
     EndingThreads(const EndingThreads&) = delete;
     EndingThreads& operator=(const EndingThreads&) = delete;
 
     void take(std::unique_ptr<QThread> thread);
-    void wait(); // for each a second at most
+    void wait(); // at most a second for each, then abandons it
 
 private:
     std::mutex m_mutex;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/StallTimeout.h"
+#include "platform/backend/StallTimeout.h"
 
 #include <algorithm>
 
@@ -9,8 +9,8 @@ namespace Platform {
 namespace {
 
 constexpr int AllowedPeriods = 5;
-constexpr std::chrono::milliseconds LeastAllowance(500);
-constexpr std::chrono::seconds LongestPeriod(1); // slower than that is a fault, not a rate
+constexpr std::chrono::milliseconds ShortestTimeout(500);
+constexpr std::chrono::seconds LongestPeriod(1); // a lower rate is a fault
 
 } // namespace
 
@@ -43,14 +43,14 @@ void StallTimeout::reset()
 
 bool StallTimeout::delivers(Clock::time_point now) const
 {
-    return m_hasFrame && now - m_last <= allowance();
+    return m_hasFrame && now - m_last <= duration();
 }
 
-StallTimeout::Clock::duration StallTimeout::allowance() const
+StallTimeout::Clock::duration StallTimeout::duration() const
 {
     const Clock::duration period =
         m_agreedPeriod > Clock::duration::zero() ? m_agreedPeriod : m_measuredPeriod;
-    return std::max<Clock::duration>(AllowedPeriods * period, LeastAllowance);
+    return std::max<Clock::duration>(AllowedPeriods * period, ShortestTimeout);
 }
 
 } // namespace Platform

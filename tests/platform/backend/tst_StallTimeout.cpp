@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/camera/StallTimeout.h"
+#include "platform/backend/StallTimeout.h"
 
 #include <QtTest>
 
@@ -14,8 +14,8 @@ class tst_StallTimeout : public QObject
 private Q_SLOTS:
     void allowsFivePeriodsOrHalfASecond_data();
     void allowsFivePeriodsOrHalfASecond();
-    void startsWithoutAPicture();
-    void measuresWhereNoRateIsAgreed();
+    void startsWithoutAFrame();
+    void measuresIfNoRateIsAgreed();
 };
 
 void tst_StallTimeout::allowsFivePeriodsOrHalfASecond_data()
@@ -33,38 +33,38 @@ void tst_StallTimeout::allowsFivePeriodsOrHalfASecond()
 {
     QFETCH(double, rate);
     QFETCH(int, allowedMs);
-    StallTimeout rule;
-    rule.setRate(rate);
+    StallTimeout timeout;
+    timeout.setRate(rate);
     const auto start = StallTimeout::Clock::now();
-    rule.frameArrived(start);
-    QVERIFY(rule.delivers(start));
-    QVERIFY(rule.delivers(start + std::chrono::milliseconds(allowedMs)));
-    QVERIFY(!rule.delivers(start + std::chrono::milliseconds(allowedMs + 1)));
+    timeout.frameArrived(start);
+    QVERIFY(timeout.delivers(start));
+    QVERIFY(timeout.delivers(start + std::chrono::milliseconds(allowedMs)));
+    QVERIFY(!timeout.delivers(start + std::chrono::milliseconds(allowedMs + 1)));
 }
 
-void tst_StallTimeout::startsWithoutAPicture()
+void tst_StallTimeout::startsWithoutAFrame()
 {
-    StallTimeout rule;
-    rule.setRate(30.0);
+    StallTimeout timeout;
+    timeout.setRate(30.0);
     const auto start = StallTimeout::Clock::now();
-    QVERIFY(!rule.delivers(start));
-    rule.frameArrived(start);
-    QVERIFY(rule.delivers(start));
-    rule.reset();
-    QVERIFY(!rule.delivers(start));
+    QVERIFY(!timeout.delivers(start));
+    timeout.frameArrived(start);
+    QVERIFY(timeout.delivers(start));
+    timeout.reset();
+    QVERIFY(!timeout.delivers(start));
 }
 
-void tst_StallTimeout::measuresWhereNoRateIsAgreed()
+void tst_StallTimeout::measuresIfNoRateIsAgreed()
 {
-    StallTimeout rule;
-    rule.setRate(0.0);
+    StallTimeout timeout;
+    timeout.setRate(0.0);
     const auto start = StallTimeout::Clock::now();
-    rule.frameArrived(start);
-    QVERIFY(rule.allowance() == 500ms);
-    rule.frameArrived(start + 400ms);
-    QVERIFY(rule.allowance() == 2s);
-    QVERIFY(rule.delivers(start + 2400ms));
-    QVERIFY(!rule.delivers(start + 2401ms));
+    timeout.frameArrived(start);
+    QVERIFY(timeout.duration() == 500ms);
+    timeout.frameArrived(start + 400ms);
+    QVERIFY(timeout.duration() == 2s);
+    QVERIFY(timeout.delivers(start + 2400ms));
+    QVERIFY(!timeout.delivers(start + 2401ms));
 }
 
 QTEST_GUILESS_MAIN(tst_StallTimeout)

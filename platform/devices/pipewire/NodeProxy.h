@@ -3,17 +3,16 @@
 #pragma once
 
 #include "platform/devices/camera/CameraList.h"
-
-#include <pipewire/pipewire.h>
+#include "platform/devices/pipewire/PipeWireProxy.h"
 
 namespace Platform {
 
-// Asks the server for what it doesn't tell of a node unasked: its formats, and later why it can't
-// run. On the camera thread only.
-class NodeProbe
+// A video source. Asks the server for what it doesn't tell unasked: the formats, and later why the
+// node can't run. On the camera thread only.
+class NodeProxy
 {
 public:
-    // Called from inside the probe, which must not be destroyed there.
+    // Called from inside the proxy, which must not be destroyed there.
     class Listener
     {
     public:
@@ -24,15 +23,12 @@ public:
         ~Listener() = default;
     };
 
-    NodeProbe(pw_registry* registry, quint32 globalId, const spa_dict* properties,
+    NodeProxy(pw_registry* registry, quint32 globalId, const spa_dict* properties,
               Listener& listener);
-    ~NodeProbe();
-    NodeProbe(const NodeProbe&) = delete;
-    NodeProbe& operator=(const NodeProbe&) = delete;
 
     bool isDone() const { return m_isDone; }
     const CameraNode& node() const { return m_node; }
-    QString error() const { return m_error; } // of the node's last start; empty where it worked
+    QString error() const { return m_error; } // of the node's last start; empty if that worked
 
 private:
     void onInfo(const pw_node_info& info);
@@ -45,11 +41,9 @@ private:
     Listener& m_listener;
     quint32 m_globalId;
     CameraNode m_node;
-    pw_proxy* m_proxy = nullptr;
-    spa_hook m_nodeHook{};
-    spa_hook m_proxyHook{};
     QString m_error;
     bool m_isDone = false;
+    PipeWireProxy m_proxy;
 };
 
 } // namespace Platform

@@ -2,24 +2,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
 #include <chrono>
 
 namespace Platform {
 
-// Whether a camera delivers: a picture came within the last five frame periods or 500 ms,
-// whichever is longer.
-class StallTimeout
+// Whether a camera delivers: a frame came within the last five frame periods or 500 ms, whichever
+// is longer.
+class CLASSROOMBACKEND_EXPORT StallTimeout
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    // The agreed pictures per second; 0 where the camera agreed to none in particular.
+    // The agreed frames per second; 0 if none was agreed: then the last period counts.
     void setRate(double framesPerSecond);
     void frameArrived(Clock::time_point now);
-    void reset(); // no picture has come yet; the rate stays
+    void reset(); // no frame has come yet; the rate stays
 
     bool delivers(Clock::time_point now) const;
-    Clock::duration allowance() const;
+    Clock::duration duration() const;
 
 private:
     Clock::duration m_agreedPeriod{};

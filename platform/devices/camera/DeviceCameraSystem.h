@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/backend/SettingsStore.h"
+#include "platform/devices/CameraSystem.h"
+#include "platform/devices/camera/CameraFeed.h"
+
+#include <memory>
+
+namespace Platform {
+
+class ReportSink;
+
+// The cameras of this machine. GUI thread only.
+class DeviceCameraSystem final : public CameraSystem
+{
+public:
+    // If the first feed finds no server, the second one is used, if there is one.
+    DeviceCameraSystem(const QString& settingsFolder, ReportSink& report, FeedMaker makeFeed,
+                       FeedMaker makeSecondFeed = nullptr);
+    ~DeviceCameraSystem() override; // waits for each thread to end, a second at most
+    DeviceCameraSystem(const DeviceCameraSystem&) = delete;
+    DeviceCameraSystem& operator=(const DeviceCameraSystem&) = delete;
+
+    std::unique_ptr<CameraBackend> createCamera(CameraBackend::Listener& listener) override;
+
+private:
+    SettingsStore m_settings;
+    ReportSink& m_report;
+    FeedMaker m_makeFeed;
+    FeedMaker m_makeSecondFeed;
+    std::shared_ptr<EndingThreads> m_ending;
+};
+
+} // namespace Platform

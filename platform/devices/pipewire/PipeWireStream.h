@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/camera/FrameFormat.h"
+
+#include <QString>
+#include <pipewire/pipewire.h>
+
+namespace Platform {
+
+// Receives the frames of one camera, from construction to destruction. On the camera thread only.
+// It has its own connection to the server. On a shared one, answers that arrive after the end would
+// still be read, and the file descriptors in them would stay open because nobody takes them.
+class PipeWireStream
+{
+public:
+    // Called from inside the stream, which must not be destroyed there.
+    class Listener
+    {
+    public:
+        virtual void streamRuns() = 0;
+        virtual void streamEnded(const QString& error) = 0; // empty if nobody said why
+        virtual void rateAgreed(double framesPerSecond) = 0;
+        virtual void frameReceived(const FrameFormat& format, const FrameView& view,
+                                   const FrameOrientation& orientation) = 0;
+
+    protected:
+        ~Listener() = default;
+    };
+
+    PipeWireStream(pw_context* context, const QString& serial, const QSize& preferredSize,
+                   Listener& listener);
+    ~PipeWireStream();
+    PipeWireStream(const PipeWireStream&) = delete;
+    PipeWireStream& operator=(const PipeWireStream&) = delete;
+
+    quint32 nodeId() const;
+
+private:
+    void connectTo(const QSize& preferredSize);
+    void onStateChanged(pw_stream_state state, const char* error);
+    void onFormatChanged(const spa_pod* format);
+    void onProcess();
+    void deliver(const spa_buffer& buffer);
+
+    static const pw_stream_events Events;
+
+    Listener& m_listener;
+    pw_core* m_core; // null if the server takes no more connections
+    pw_stream* m_stream = nullptr;
+    spa_hook m_hook{};
+    FrameFormat m_format;
+    bool m_wasConnecting = false;
+};
+
+} // namespace Platform

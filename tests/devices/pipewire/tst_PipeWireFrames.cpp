@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/devices/pipewire/PipeWireCameraTest.h"
+
+#include <QtTest>
+
+using namespace Platform;
+using namespace TestSupport;
+
+// Frames, from virtual cameras to the preview, on a real server.
+class tst_PipeWireFrames : public PipeWireCameraTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTwoCameras();
+    void convertsEveryPixelFormat_data();
+    void convertsEveryPixelFormat();
+    void uprightsTurnedSensors_data();
+    void uprightsTurnedSensors();
+    void mapsDriverMemory();
+    void followsFormatChanges();
+    void recordsMeasurements();
+};
+
+void tst_PipeWireFrames::showsTwoCameras()
+{
+    const Camera a = plug(NameA, QStringLiteral("Camera A"));
+    const Camera b =
+        plug(NameB, QStringLiteral("Camera B"), {QStringLiteral("--color"), GreenText});
+    makeBackend();
+    const QStringList both{NameA, NameB};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), both, LongMs);
+    const QStringList expected{QStringLiteral("Camera A"), QStringLiteral("Camera B")};
+    QCOMPARE(names(), expected);
+    QTRY_COMPARE(m_backend->currentId(), NameA);
+    QCOMPARE(stateName(), QStringLiteral("ready"));
+
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QCOMPARE(stateName(), QStringLiteral("working"));
+    QVERIFY(shows(m_backend->latestFrame(), Red));
+    QCOMPARE(m_backend->latestFrame().size(), QSize(229, 172));
+
+    m_backend->setCurrent(NameB);
+    QVERIFY(!m_backend->delivers());
+    QVERIFY(m_backend->latestFrame().isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(shows(m_backend->latestFrame(), Green));
+    const int before = m_watcher.frames;
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames > before + 20, LongMs);
+    m_backend->stop();
+    QVERIFY(!m_backend->delivers());
+    QVERIFY(m_backend->latestFrame().isNull());
+}
+
+void tst_PipeWireFrames::convertsEveryPixelFormat_data()
+{
+    QTest::addColumn<QString>("pixelFormat");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("padding");
+    QTest::addColumn<QSize>("expected");
+    const QSize usual(640, 360);
+    const QSize fitted(306, 172);
+    for (const char* format :
+         {"YUY2", "UYVY", "NV12", "I420", "RGB", "BGR", "RGBx", "BGRx", "xRGB", "xBGR", "MJPG"}) {
+        QTest::newRow(format) << QString::fromLatin1(format) << usual << 0 << fitted;
+    }
+    QTest::newRow("padded rows") << QStringLiteral("YUY2") << usual << 64 << fitted;
+    QTest::newRow("padded planes") << QStringLiteral("NV12") << usual << 64 << fitted;
+    for (const char* format : {"YUY2", "NV12", "I420", "RGB", "MJPG"}) {
+        QTest::newRow(qPrintable(QStringLiteral("odd ") + QLatin1String(format)))
+            << QString::fromLatin1(format) << QSize(333, 187) << 0 << fitted;
+    }
+    QTest::newRow("smaller than the preview")
+        << QStringLiteral("YUY2") << QSize(161, 99) << 0 << QSize(161, 99);
+}
+
+void tst_PipeWireFrames::convertsEveryPixelFormat()
+{
+    QFETCH(QString, pixelFormat);
+    QFETCH(QSize, size);
+    QFETCH(int, padding);
+    QFETCH(QSize, expected);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--pixel-format"), pixelFormat,
+                                QStringLiteral("--width"), QString::number(size.width()),
+                                QStringLiteral("--height"), QString::number(size.height()),
+                                QStringLiteral("--padding"), QString::number(padding)});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    const QImage frame = m_backend->latestFrame();
+    QCOMPARE(frame.size(), expected);
+    QCOMPARE(frame.format(), QImage::Format_RGB32);
+    QVERIFY(shows(frame, Red));
+    // The blue band is at the camera's left, so at the right of a self-view.
+    QVERIFY(isNear(frame.pixel(frame.width() - 6, frame.height() / 2), Blue));
+    QVERIFY(!isNear(frame.pixel(6, frame.height() / 2), Blue));
+}
+
+void tst_PipeWireFrames::uprightsTurnedSensors_data()
+{
+    QTest::addColumn<int>("transform");
+    QTest::addColumn<QSize>("expected");
+    QTest::addColumn<QPointF>("band"); // its expected place, in shares of the frame
+    const QSize wide(306, 172);
+    const QSize tall(97, 172);
+    QTest::newRow("upright") << 0 << wide << QPointF(0.98, 0.5);
+    QTest::newRow("90") << 1 << tall << QPointF(0.5, 0.02);
+    QTest::newRow("180") << 2 << wide << QPointF(0.02, 0.5);
+    QTest::newRow("270") << 3 << tall << QPointF(0.5, 0.98);
+    QTest::newRow("flipped") << 4 << wide << QPointF(0.02, 0.5);
+    QTest::newRow("flipped 90") << 5 << tall << QPointF(0.5, 0.02);
+    QTest::newRow("flipped 180") << 6 << wide << QPointF(0.98, 0.5);
+    QTest::newRow("flipped 270") << 7 << tall << QPointF(0.5, 0.98);
+}
+
+void tst_PipeWireFrames::uprightsTurnedSensors()
+{
+    QFETCH(int, transform);
+    QFETCH(QSize, expected);
+    QFETCH(QPointF, band);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--height"), QStringLiteral("360"),
+                                QStringLiteral("--transform"), QString::number(transform)});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    const QImage frame = m_backend->latestFrame();
+    QCOMPARE(frame.size(), expected);
+    QVERIFY(
+        isNear(frame.pixel(int(band.x() * frame.width()), int(band.y() * frame.height())), Blue));
+}
+
+void tst_PipeWireFrames::mapsDriverMemory()
+{
+    const Camera camera =
+        plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--driver-memory")});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY(shows(m_backend->latestFrame(), Red));
+}
+
+void tst_PipeWireFrames::followsFormatChanges()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(229, 172), LongMs);
+    camera->command("size 320x180");
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), PreviewSize, LongMs);
+    camera->command("size 1281x721");
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(306, 172), LongMs);
+    QTRY_VERIFY(shows(m_backend->latestFrame(), Red));
+    QTRY_VERIFY(m_backend->delivers());
+    // The preview may change its size, too.
+    m_backend->setOutputSize(2 * PreviewSize);
+    QTRY_COMPARE(m_backend->latestFrame().size(), QSize(611, 344));
+}
+
+void tst_PipeWireFrames::recordsMeasurements()
+{
+    const Camera camera = plug(NameA, QStringLiteral("Camera"),
+                               {QStringLiteral("--color"), QStringLiteral("808080")});
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames >= 30, LongMs);
+    m_backend->stop();
+    QJsonObject measured = figures();
+    QCOMPARE(measured.value(QLatin1String("state")).toString(), QStringLiteral("working"));
+    QCOMPARE(measured.value(QLatin1String("device")).toString(), QStringLiteral("Camera"));
+    QCOMPARE(measured.value(QLatin1String("width")).toInt(), 640);
+    QCOMPARE(measured.value(QLatin1String("height")).toInt(), 480);
+    const double rate = measured.value(QLatin1String("rate")).toDouble();
+    QVERIFY2(rate > 25.0 && rate < 35.0, qPrintable(QString::number(rate)));
+    QVERIFY(measured.value(QLatin1String("firstPictureMs")).toInt() < 1000);
+    QCOMPARE(measured.value(QLatin1String("blackShare")).toDouble(), 0.0);
+    QCOMPARE(measured.value(QLatin1String("frozenShare")).toDouble(), 0.0);
+    QVERIFY(qAbs(measured.value(QLatin1String("brightness")).toDouble() - 0.54) < 0.08);
+
+    camera->command("frozen");
+    camera->command("black");
+    m_watcher.frames = 0;
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames >= 10, LongMs);
+    m_backend->stop();
+    measured = figures();
+    QCOMPARE(measured.value(QLatin1String("blackShare")).toDouble(), 1.0);
+    QCOMPARE(measured.value(QLatin1String("frozenShare")).toDouble(), 1.0);
+    QCOMPARE(measured.value(QLatin1String("brightness")).toDouble(), 0.0);
+
+    m_watcher.frames = 0;
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames >= 1, LongMs);
+    m_backend->setCurrent({}); // for no camera there are no figures
+    m_backend->stop();
+    QCOMPARE(figures(), (QJsonObject{{QStringLiteral("state"), QStringLiteral("off")},
+                                     {QStringLiteral("device"), QString()}}));
+}
+
+QTEST_GUILESS_MAIN(tst_PipeWireFrames)
+#include "tst_PipeWireFrames.moc"
