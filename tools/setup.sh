@@ -12,7 +12,7 @@ run_packages=(
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
 test_packages=(
-    coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
+    qtbase5-private-dev coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
     libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file

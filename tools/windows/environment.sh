@@ -4,7 +4,7 @@
 # Sourced by the scripts of this folder: where Qt for MinGW-w64 stands, and how a program that was
 # built with it is started under Wine.
 
-export ENVCHECK_WINDOWS_QT=${ENVCHECK_WINDOWS_QT:-${XDG_CACHE_HOME:-$HOME/.cache}/envcheck/qt5-mingw64}
+export ENVCHECK_WINDOWS_QT=${ENVCHECK_WINDOWS_QT:-$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/qt5-mingw64}
 
 # windows_path PATH: an absolute path as Wine's programs know it.
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
