@@ -13,7 +13,7 @@ namespace {
 
 constexpr int MaxPort = 65535;
 
-// The commands that take an option, as bits.
+// Bits for the commands that accept an option.
 enum CommandBit : unsigned {
     InCheck = 1U << 0,
     InDevices = 1U << 1,
@@ -40,7 +40,7 @@ constexpr CommandName CommandNames[] = {
     {Options::Command::Network, InNetwork, "network",
      "Measures delay and loss and prints the figures as they come."},
     {Options::Command::Serve, InServe, "serve",
-     "Answers other machines' measurements, as a small STUN server, until it is stopped."},
+     "Answers measurements of other machines, as a small STUN server, until it is stopped."},
     {Options::Command::Report, InReport, "report",
      "Shows reports of earlier runs as text, HTML or JSON, or several as one table."},
 };
@@ -49,13 +49,13 @@ struct Definition
 {
     const char* name;
     unsigned commands;
-    const char* value; // null where the option takes none
+    const char* value; // null if the option has no value
     const char* description;
 };
 
 constexpr Definition Definitions[] = {
     {"platform", InEngine, "NAME",
-     "Devices to check: devices (this machine's, as by default) or scripted."},
+     "Devices to check: devices (of this machine, the default) or scripted."},
     {"scenario", InEngine, "SCENARIO",
      "What the scripted devices play: a file, or the name of a bundled one such as all-well. "
      "Implies --platform scripted."},
@@ -68,20 +68,22 @@ constexpr Definition Definitions[] = {
     {"account", InCheck, "TEXT", "Account to show; the system's user by default."},
     {"nickname", InCheck, "TEXT", "Nickname to show; the system's user by default."},
     {"cdn", InCheck, "FIRST/SECOND", "CDN to show."},
-    {"results", InCheck, "FILE", "Also write the bare results to FILE, as JSON, while they come."},
+    {"results", InCheck, "FILE",
+     "Also write the bare results to FILE, as JSON, after each change."},
     {"report", InCheck, "FILE",
      "Write the report to FILE instead of the default place; its ending (.json, .html or .txt) "
      "is its format."},
-    {"report-url", InCheck, "URL", "Where report codes are posted to."},
+    {"report-url", InCheck, "URL", "The address to post report codes to."},
     {"tour", InCheck, "FOLDER",
-     "Walk through every step by itself and save a picture of each in FOLDER."},
+     "Walk through every step automatically and save a picture of each in FOLDER."},
     {"json", InDevices, nullptr, "Print JSON instead of a table."},
-    {"count", InNetwork, "N", "End after N figures; without it they come until it is stopped."},
+    {"count", InNetwork, "N",
+     "End after N figures; without it the command runs until it is stopped."},
     {"port", InServe, "N", "UDP port to answer on; 3478 by default, 0 takes a free one."},
     {"format", InReport, "FORMAT",
-     "text (as by default), html, json, or room: one line for each report."},
+     "text (the default), html, json, or room: one line for each report."},
     {"redact", InCheck | InReport, "LEVEL",
-     "What to leave out: none (as by default), personal (no addresses, names and accounts) or "
+     "What to leave out: none (the default), personal (no addresses, names and accounts) or "
      "hash (short hashes in their place)."},
     {"verbose", InAll, nullptr, "Also write the log to the terminal."},
 };
@@ -122,7 +124,7 @@ std::optional<int> numberIn(const QString& text, int least, int most)
                                                          : std::nullopt;
 }
 
-// Takes the options' values over, one after the other, until one is wrong.
+// Reads the values of the options in order, and stops at the first wrong one.
 class Reader
 {
 public:
@@ -327,7 +329,7 @@ QString Options::helpText(Command command)
         if (other.command != Command::Check) {
             parser.addPositionalArgument(QLatin1String(other.name),
                                          QLatin1String(other.description), syntax);
-            syntax = QStringLiteral(" "); // once is enough
+            syntax = QStringLiteral(" "); // shown once
         }
     }
     return parser.helpText() +

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-// What the command line asks for.
+// The values of the command line.
 struct Options
 {
     static constexpr const char* DefaultScenario = "all-well"; // of the scripted devices
@@ -30,14 +30,14 @@ struct Options
     bool isVerbose = false;
 
     bool isJson = false; // devices
-    int count = 0;       // network: how many figures; 0 is without end
+    int count = 0;       // network: how many figures; 0 means no limit
     quint16 port = 0;    // serve
     QStringList files;   // report
     Format format = Format::Text;
     Redaction redaction = Redaction::None;
 
     Command helpFor = Command::Check; // for Command::Help
-    QString error;                    // empty, or one line that says what is wrong and what to do
+    QString error;                    // empty, or one line with the problem and what to do
 
     // The first argument is the program's name.
     static Options parse(const QStringList& arguments);

@@ -6,10 +6,10 @@
 
 struct ReportCheck;
 
-// Where a user's answer and what was measured can't both be true.
+// Finds answers of the user that can't be true together with what was measured.
 namespace Contradictions {
 
-// More than this share of the pictures black or frozen is no picture of a user.
+// If more than this share of the frames is black or frozen, the user sees no picture.
 constexpr double BadPictureShare = 0.5;
 
 std::vector<Contradiction> of(const ReportCheck& check);

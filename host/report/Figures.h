@@ -4,7 +4,7 @@
 
 #include "host/report/ReportWords.h"
 
-// The figures that a report lists of each check, whether they were taken or not.
+// The figures that a report lists for each check, measured or not.
 namespace Figures {
 
 enum class Unit { None, Ms, Percent, Share, Pixels, PerSecond, Hertz, Decibels, Seconds };
@@ -16,8 +16,8 @@ struct Figure
 };
 
 const std::vector<Figure>& of(CheckKind check);
-const Figure* find(CheckKind check, const QString& key); // null for a figure of no list
-// A value of the figure's unit as people read it, such as "37 ms"; a share as percent.
+const Figure* find(CheckKind check, const QString& key); // null if no list has it
+// A value with the unit of the figure, such as "37 ms"; shares as percent.
 QString toText(double value, Unit unit);
 
 } // namespace Figures

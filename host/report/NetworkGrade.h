@@ -7,20 +7,20 @@
 #include <QString>
 #include <vector>
 
-// How good a network is for talking and seeing each other, by published limits. The check's own
-// verdict has fixed limits that are far wider; this stands beside it and changes nothing.
+// How good a network is for a conversation with video, by published limits. The verdict of the
+// check has its own limits, which are far wider; the grade is extra and doesn't change it.
 struct NetworkGrade
 {
     enum class Level { Good, Fair, Poor };
     enum class Figure { OneWayDelay, Loss, Jitter };
 
-    // One figure against its limits. The delay is one way: half of the round trip.
+    // One figure and its limits. The delay is one-way: half of the round trip.
     struct Line
     {
         Figure figure = Figure::OneWayDelay;
         double value = 0;
         double goodUpTo = 0;
-        double fairUpTo = 0; // as good as never reached where only one limit is published
+        double fairUpTo = 0; // practically unlimited if only one limit is published
         Level level = Level::Good;
         QString source;
     };
@@ -28,6 +28,6 @@ struct NetworkGrade
     Level level = Level::Good; // the worst of its lines
     std::vector<Line> lines;
 
-    // Something must have been measured: a negative delay has no grade, and gives no lines.
+    // Needs a measured delay: without one there are no lines and no grade.
     static NetworkGrade of(const Platform::NetworkFigures& figures);
 };

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int CodeLength = 12;
 const QLatin1String Mark("#");
-// Facts of the machine that don't tell whose it is.
+// Facts of the machine that don't identify its user.
 const QStringList PlainFacts = {QStringLiteral("operatingSystem"), QStringLiteral("processor")};
 
 bool isPlain(ChangedThing what)
@@ -34,7 +34,7 @@ Redaction::Redaction(Options::Redaction level, const QByteArray& key) : m_level(
 
 Report Redaction::redacted(const Report& report) const
 {
-    // What is left out once doesn't come back.
+    // A report that is already redacted stays so.
     const bool isDone =
         report.redaction == Options::Redaction::Personal ||
         (report.redaction == Options::Redaction::Hash && m_level == Options::Redaction::Hash);
@@ -73,7 +73,7 @@ QString Redaction::replaced(const QString& text) const
     return Mark + QString::fromLatin1(code);
 }
 
-// Numbers and yes or no say nothing of a person; what is inside a list or an object might.
+// Numbers and booleans don't identify a person; a list or an object might contain texts.
 QJsonValue Redaction::replacedValue(const QJsonValue& value) const
 {
     if (value.isDouble() || value.isBool() || value.isNull()) {

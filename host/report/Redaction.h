@@ -5,13 +5,13 @@
 #include "host/Options.h"
 #include "host/report/Report.h"
 
-// Takes out of a report what tells who and where its user is: account, nickname, addresses,
-// servers, and the names of devices, which people call by their own. Figures, versions and
-// verdicts stay.
+// Removes from a report what tells who and where its user is: account, nickname, addresses,
+// servers, and names of devices, which may contain a user's name. Figures, versions and verdicts
+// stay.
 class Redaction
 {
 public:
-    // The key turns texts into short codes: equal texts into equal codes, for who has the key.
+    // The key turns texts into short codes. Equal texts have equal codes under the same key.
     Redaction(Options::Redaction level, const QByteArray& key);
 
     Report redacted(const Report& report) const;

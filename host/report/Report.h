@@ -10,18 +10,18 @@
 #include <optional>
 #include <vector>
 
-// One figure that an engine takes of a check, or why there is none.
+// One figure that an engine measured for a check, or why it didn't.
 struct Measurement
 {
     using Status = FigureStatus;
 
-    QString key; // the word of a FigureName, or a name of the engine's own
+    QString key; // the word of a FigureName, or the engine's own name
     Status status = Status::NotMeasured;
-    QJsonValue value; // where it was measured
-    QString reason;   // where it wasn't: one of the words of docs/report-format.md, or the engine's
+    QJsonValue value; // if it was measured
+    QString reason;   // if it wasn't: a word of docs/report-format.md, or the engine's own
 };
 
-// One check of a run: what the user said and what was measured.
+// One check of a run: the answer of the user, and what was measured.
 struct ReportCheck
 {
     CheckKind kind = CheckKind::Network;
@@ -29,11 +29,11 @@ struct ReportCheck
     Answer answer = Answer::None;         // the network asks nothing
     SeenState deviceState = SeenState::Unknown;
     QString device;                            // foreign text
-    std::vector<Measurement> measurements;     // those that the verdict was made of
-    std::vector<Measurement> later;            // of those, what changed after the verdict
+    std::vector<Measurement> measurements;     // at the time of the verdict
+    std::vector<Measurement> later;            // those that changed after the verdict
     std::vector<Contradiction> contradictions; // between answer and measurements
 
-    const Measurement* measurement(const QString& key) const; // null where it isn't listed
+    const Measurement* measurement(const QString& key) const; // null if it isn't listed
     const Measurement* measurement(FigureName name) const;
 };
 
@@ -48,7 +48,7 @@ struct GradeLine
     QString source;
 };
 
-// What is different from the last good run.
+// One difference to the last good run.
 struct ReportChange
 {
     ChangeSubject subject = ChangeSubject::System;
@@ -57,8 +57,8 @@ struct ReportChange
     QString now;
 };
 
-// One run of the check, as it is kept and passed on. Texts of devices, accounts and addresses are
-// foreign. ReportJson reads and writes it.
+// One run of the check, as files keep it. Texts of devices, accounts and addresses are foreign.
+// ReportJson reads and writes it.
 struct Report
 {
     static constexpr int Version = 1;
@@ -73,14 +73,14 @@ struct Report
     Options::Redaction redaction = Options::Redaction::None;
     RunEnd outcome = RunEnd::LeftEarly;
     // "account", "nickname", "operatingSystem", "processor", "server", "clientAddress", "cdn";
-    // foreign texts, left out where they aren't known
+    // foreign texts; unknown ones are left out
     QJsonObject facts;
     std::optional<double> cacheFreeBytes;
     std::vector<ReportCheck> checks;
-    std::optional<NetworkGrade::Level> grade; // of the network; none where nothing was measured
+    std::optional<NetworkGrade::Level> grade; // of the network, if it was measured
     std::vector<GradeLine> gradeLines;
     std::optional<QDateTime> lastGoodRun;
     std::vector<ReportChange> changes;
 
-    const ReportCheck* check(CheckKind kind) const; // null where there is none
+    const ReportCheck* check(CheckKind kind) const; // null if there is none
 };

@@ -69,7 +69,7 @@ Measurement notMeasured(const QString& key, const QString& reason)
     return {key, Measurement::Status::NotMeasured, {}, reason};
 }
 
-// The engine's own state of the device, if it explains why there is no figure.
+// The state of the device, if that is why there is no figure.
 std::optional<Reason> stateIn(const QJsonObject& figures)
 {
     return ReportWords::find<Reason>(figures.value(StateKey).toString());
@@ -80,7 +80,7 @@ bool isOneOf(std::optional<Reason> state, std::initializer_list<Reason> reasons)
     return state && std::find(reasons.begin(), reasons.end(), *state) != reasons.end();
 }
 
-// Why a figure that the report lists isn't among those of the check.
+// Why the document lacks a figure that the report lists.
 Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpened)
 {
     if (figures.isEmpty() && !wasOpened) {
@@ -94,14 +94,14 @@ Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpen
     return notMeasured(key, ReportWords::of(isIdle ? *state : Reason::NotRecorded));
 }
 
-// Nobody counted the pictures of a camera that could not be opened.
+// Without an opened camera nobody counted frames.
 bool isUncounted(FigureName name, const QJsonObject& figures)
 {
     return name == FigureName::Pictures && figures.value(ReportWords::of(name)).toDouble() == 0 &&
            isOneOf(stateIn(figures), {Reason::Absent, Reason::Off, Reason::Denied, Reason::Busy});
 }
 
-// The figures that only answers of the server give.
+// Figures that need answers of the server.
 bool isOfAnswers(const QString& key)
 {
     const std::optional<FigureName> name = ReportWords::find<FigureName>(key);
@@ -112,14 +112,14 @@ bool isOfAnswers(const QString& key)
 Measurement measurementOf(const QString& key, const QJsonObject& figures)
 {
     const QJsonValue value = figures.value(key);
-    // An engine may say itself why it has no figure.
+    // An engine may say why it has no figure.
     for (const FigureStatus status : {FigureStatus::Failed, FigureStatus::NotMeasured}) {
         const QJsonValue excuse = value[ReportWords::of(status)];
         if (!excuse.isUndefined()) {
             return {key, status, {}, excuse.toString()};
         }
     }
-    // The network's way to say that nothing came back.
+    // A negative value means that no answer came.
     const QString delayKey = ReportWords::of(FigureName::Delay);
     if (isOfAnswers(key) && figures.value(delayKey).toDouble() < 0) {
         return failed(key, ReportWords::of(Reason::NoAnswer));
@@ -146,14 +146,14 @@ std::vector<Measurement> measurementsOf(CheckKind check, const QJsonObject& figu
     return result;
 }
 
-// false where there was none
+// false if there was none
 bool isSame(const Measurement& measurement, const Measurement* before)
 {
     return before && before->status == measurement.status && before->value == measurement.value &&
            before->reason == measurement.reason;
 }
 
-// Of the figures that were recorded after the verdict, those that the report lists otherwise.
+// The figures that were recorded after the verdict and differ from those in the report.
 std::vector<Measurement> laterOf(const ReportCheck& check, const QJsonObject& figures,
                                  const QJsonObject& laterFigures)
 {

@@ -9,7 +9,7 @@ namespace Platform {
 class SystemFacts;
 }
 
-// Makes the report of a run from what the run recorded.
+// Makes the report of a run from the document that the run recorded.
 namespace ReportBuilder {
 
 struct Run
@@ -21,7 +21,7 @@ struct Run
     QString scenario;
 };
 
-// document: see Platform::ResultDocument. Without changes; those come from the run history.
+// The document is a Platform::ResultDocument. RunHistory adds the changes later.
 Report build(const Run& run, const QJsonObject& document, const RunOutcome& outcome,
              const Platform::SystemFacts& facts);
 

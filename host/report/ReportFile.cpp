@@ -54,7 +54,7 @@ QString ReportFile::write(const QString& path, const QByteArray& content)
         return problem;
     }
     QSaveFile file(path);
-    // commit() takes no notice of what only comes to light when the last bytes are written.
+    // commit() doesn't report errors of the last buffered bytes; flush() does.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.flush() || !file.commit()) {
         return line(path, file.errorString() + QStringLiteral("; name another file"));

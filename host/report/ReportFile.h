@@ -4,21 +4,21 @@
 
 #include "host/report/Report.h"
 
-// Reports in files. Waits for the disk: not for a dialog.
+// Reads and writes reports. Waits for the disk, so no dialog may call it.
 namespace ReportFile {
 
-// Larger files aren't reports.
+// A larger file is no report.
 constexpr qint64 MaxBytes = 4 * 1024 * 1024;
 
-// Writes the file whole or leaves it as it was. Returns nothing, or one line that names the file,
-// what is wrong and what to do.
+// Writes the whole file, or leaves it as it was. Returns nothing, or one line with the file, the
+// problem and what to do.
 QString write(const QString& path, const QByteArray& content);
-// Whether write() may work, without writing; returns likewise.
+// Checks whether write() can work, without writing. Returns the same.
 QString problemOfWriting(const QString& path);
-// Nothing where the file isn't a report; error is one line that names it.
+// Nothing if the file is no report; error then is one line that names it.
 std::optional<Report> read(const QString& path, QString* error);
-// The secret that Redaction makes codes with: the file's, which is made at the first call. Returns
-// nothing where that fails; error is one line.
+// The key of Redaction. It is in this file, which the first call creates. Returns nothing if that
+// fails; error then is one line.
 QByteArray redactionKey(const QString& path, QString* error);
 
 } // namespace ReportFile

@@ -13,7 +13,7 @@
 
 namespace {
 
-// What is no word of the enumeration is shown as it is.
+// Unknown words are shown as they are.
 template <typename Value>
 QString textOf(const ReportTexts& texts, const QString& word)
 {

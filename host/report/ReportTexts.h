@@ -8,7 +8,7 @@
 
 struct Measurement;
 
-// The words of a report in one language, whatever language the program itself speaks.
+// The texts of a report in one language, which may differ from that of the program.
 class ReportTexts
 {
 public:
@@ -17,17 +17,17 @@ public:
     QString language() const { return m_language; }
     bool isRightToLeft() const;
     QString text(const char* id) const;
-    QString caption(const char* id) const; // without the colon that some captions end in
+    QString caption(const char* id) const; // without a colon at its end
 
-    // What people read in the place of a word of the report.
+    // The text that stands for a word of the report.
     template <typename Value>
     QString of(Value value) const
     {
         return caption(ReportWords::textId(value));
     }
-    QString reason(const QString& word) const; // the word itself where there is no text of it
+    QString reason(const QString& word) const; // the word itself if it has no text
     QString changedValue(ChangedThing what, const QString& value) const;
-    QString soundName(const QString& baseName) const; // as the speaker's answers have it
+    QString soundName(const QString& baseName) const; // as in the answers of the speaker page
     QString yesOrNo(bool isYes) const;
     QString captionOf(CheckKind check, const QString& figure) const;
     QString valueOf(CheckKind check, const Measurement& measurement) const;

@@ -24,7 +24,7 @@ constexpr FactCaption FactCaptions[] = {
     {"server", "ID_NewLogin_Server"},         {"clientAddress", "ID_NetworkPage_Client"},
 };
 
-// Makes the sections one after the other.
+// Builds the sections in their order.
 class ViewMaker
 {
 public:
@@ -59,11 +59,11 @@ private:
 
     QString timeText(const QDateTime& time) const
     {
-        // Figures and names of months differ by language; this reads the same everywhere.
+        // Dates and month names differ by language; this form is the same everywhere.
         return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss t"));
     }
 
-    template <typename Value> // a verdict, or the end of a run
+    template <typename Value> // Verdict or RunEnd
     static Mark mark(Value value)
     {
         return value == Value::Passed   ? Mark::Good
@@ -128,7 +128,7 @@ private:
     QString changedText(const ReportChange& change, const QString& value) const
     {
         const QString text = m_texts.changedValue(change.what, value);
-        return text.isEmpty() ? QStringLiteral("…") : text; // it may have been left out
+        return text.isEmpty() ? QStringLiteral("…") : text; // redacted
     }
 
     void addSystem()
@@ -169,7 +169,7 @@ private:
             add("ID_Host_Report_Contradiction", m_texts.of(flag), Mark::Notice);
         }
         addMeasurements(check);
-        // The check sees no more of a speaker than whether the sound was recognised.
+        // All that the check knows about a speaker is whether the sound was recognised.
         if (check.kind == CheckKind::Speaker) {
             add("ID_Host_Report_RightSound", m_texts.of(check.deviceState));
         }
@@ -194,7 +194,7 @@ private:
         }
     }
 
-    // Where the same is true of all figures it is said once.
+    // If all figures have the same reason, it is shown once.
     void addMeasurements(const ReportCheck& check)
     {
         const bool areAllMissing = std::all_of(
@@ -209,7 +209,7 @@ private:
         }
         for (const Measurement& measurement : check.measurements) {
             const QString value = m_texts.valueOf(check.kind, measurement);
-            // A name that was left out leaves no row behind.
+            // Shows no row for a redacted name.
             if (!value.isEmpty()) {
                 add(m_texts.captionOf(check.kind, measurement.key), value);
             }

@@ -6,8 +6,7 @@
 
 class ReportTexts;
 
-// A report as people read it, in one language. Text and HTML both show exactly this, so that what
-// is seen is what is passed on.
+// A report as people read it, in one language. Text and HTML both show exactly this.
 struct ReportView
 {
     enum class Mark { Plain, Good, Bad, Notice };
@@ -15,7 +14,7 @@ struct ReportView
     struct Row
     {
         QString caption;
-        QString value; // may hold foreign text
+        QString value; // may contain foreign text
         Mark mark = Mark::Plain;
     };
 

@@ -54,7 +54,7 @@ const std::vector<Word<Answer>>& table()
     return words;
 }
 
-// Only the speaker's is shown, which says whether the right sound was picked.
+// Shown for the speaker only, where it says whether the right sound was picked.
 template <>
 const std::vector<Word<SeenState>>& table()
 {

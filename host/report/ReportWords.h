@@ -52,7 +52,7 @@ enum class FigureName {
     Bandwidth,
 };
 
-// Why there is no figure. An engine may have words of its own for it.
+// Why there is no figure. An engine may also use its own words.
 enum class Reason {
     StepNotOpened,
     NotRecorded,
@@ -67,7 +67,7 @@ enum class Reason {
     NoAnswer,
 };
 
-// What can't be true at once.
+// Answers and measurements that can't both be true.
 enum class Contradiction {
     YesWithoutPictures,
     YesToBlackPicture,
@@ -80,12 +80,12 @@ enum class Contradiction {
     NoToGoodSound,
 };
 
-// Of what something changed, and what it was.
+// What changed between two runs.
 enum class ChangeSubject { System, Network, Camera, Speaker, Microphone };
 enum class ChangedThing { Verdict, Device, Grade, Delay, OperatingSystem, Server };
 
-// The words of a report, which its format fixes, and the texts that people read in their place.
-// There is one table for each enumeration, and nothing else spells its words.
+// The words of the report format, and the texts that people read instead. Each enumeration has one
+// table, and its words stand nowhere else.
 namespace ReportWords {
 
 template <typename Value>
@@ -153,7 +153,7 @@ const char* textId(Value value)
     return entryOf(value).textId;
 }
 
-// Nothing if it is no word of the enumeration.
+// Nothing if the enumeration has no such word.
 template <typename Value>
 std::optional<Value> find(const QString& word)
 {

@@ -16,7 +16,7 @@ namespace {
 
 const QString English = QStringLiteral("en");
 
-// The colours reach a contrast of 4.5 to 1 on white.
+// All colours have a contrast of at least 4.5 to 1 on white.
 const char* const Style =
     "body{font:14px/1.5 sans-serif;color:#232323;background:#fff;max-width:46em;margin:2em auto;"
     "padding:0 1em}h1{font-size:1.5em}h2{font-size:1.1em;margin:1.5em 0 .3em}"
@@ -30,7 +30,7 @@ const char* const Style =
 constexpr CheckKind Checks[] = {CheckKind::Network, CheckKind::Camera, CheckKind::Speaker,
                                 CheckKind::Microphone};
 
-// The language that was asked for, then English unless it is that.
+// The wanted language, then English if it is another one.
 QStringList languagesOf(const QString& language)
 {
     return language == English ? QStringList{English} : QStringList{language, English};

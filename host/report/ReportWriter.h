@@ -5,18 +5,18 @@
 #include "host/Options.h"
 #include "host/report/Report.h"
 
-// Reports as documents. Text and HTML stand in the given language, with an English twin below for
-// support where that is another one; JSON has no language.
+// Reports as documents. Text and HTML are in the given language; if that isn't English, an English
+// version for support follows.
 namespace ReportWriter {
 
 QString toText(const Report& report, const QString& language);
 QString toHtml(const std::vector<Report>& reports, const QString& language); // self-contained
 QByteArray toJson(const Report& report);
-// A line for each report; names are shown where nothing was redacted.
+// One line for each report; a redacted report has a number instead of its name.
 QString toRoomTable(const std::vector<Report>& reports, const QStringList& names,
                     const QString& language);
 
-// As the ending of a file's name says; JSON where it says nothing.
+// The format that the extension of the file name means; JSON by default.
 Options::Format formatOf(const QString& fileName);
 QByteArray toFormat(const Report& report, Options::Format format, const QString& language);
 

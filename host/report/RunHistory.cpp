@@ -33,7 +33,7 @@ ChangeSubject subjectOf(CheckKind check)
     return ChangeSubject::System;
 }
 
-// The run as its line in the file.
+// The line of a run in the file.
 QJsonObject lineOf(const Report& report, const QString& file)
 {
     QJsonObject checks;
@@ -66,7 +66,7 @@ QJsonObject lastGoodLine(const QString& path, Options::Platform platform)
         return found;
     }
     while (!file.atEnd()) {
-        // A line that can't be read isn't a good run.
+        // Skips a damaged line: it is no good run.
         const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
         if (line.value(PlatformKey) == of(platform) &&
             line.value(OutcomeKey) == of(RunEnd::Passed)) {
@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    // What wasn't known at one of the times can't have changed.
+    // A value that one of the runs doesn't know counts as unchanged.
     void addText(ChangeSubject subject, ChangedThing what, const QJsonObject& before,
                  const QJsonObject& now)
     {

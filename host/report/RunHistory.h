@@ -4,21 +4,21 @@
 
 #include "host/report/Report.h"
 
-// The runs of this user, one line of JSON each, the oldest first.
+// The runs of this user: one line of JSON for each, oldest first.
 class RunHistory
 {
 public:
-    // More runs than this aren't kept.
+    // Older runs than these are dropped.
     static constexpr int MaxRuns = 1000;
-    // A delay counts as changed when it differs by more than this and by more than half.
+    // A delay counts as changed if it differs by more than this and by more than half.
     static constexpr int NoticeableDelayMs = 50;
 
     explicit RunHistory(const QString& path);
 
-    // Says in the report what changed since the last run of the same platform in which everything
+    // Adds to the report what changed since the last run on the same platform in which every check
     // passed. Reads the file.
     void compare(Report& report) const;
-    // Adds the run's line, from another thread. file is where its report stands; it may be empty.
+    // Adds the line of this run, on another thread. file is the path of its report, or empty.
     void append(const Report& report, const QString& file) const;
 
 private:

@@ -25,7 +25,7 @@ namespace ResultKeys = Platform::ResultKeys;
 const QLatin1String DelayUnit("ms");
 const QLatin1String LossUnit("%");
 
-// The number before the unit; nothing in a text that is none, such as "N/A".
+// The number before the unit; nothing if there is none, as in "N/A".
 std::optional<int> numberIn(const QString& text, QLatin1String unit)
 {
     bool isNumber = false;
@@ -33,20 +33,20 @@ std::optional<int> numberIn(const QString& text, QLatin1String unit)
     return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
-// The step of the network is over once another one has recorded anything.
+// The user has left the network step if another step recorded anything.
 bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
 {
     const auto hasResults = [&results](CheckKind check) {
         return results.contains(ReportWords::of(check));
     };
-    // The figures of a camera are recorded when its step is left.
+    // The camera's figures are recorded when its step is left.
     return hasResults(CheckKind::Camera) || hasResults(CheckKind::Speaker) ||
            hasResults(CheckKind::Microphone) ||
            measurements.contains(ReportWords::of(CheckKind::Camera));
 }
 
-// The page writes its two texts whenever it compares its two figures, so that the last texts give
-// the verdict that it has now. Before the first figures it counts as failed, once it was left.
+// The page writes both texts each time it judges the figures, so the last texts give the verdict
+// that it shows. If it was left before the first figures, it shows "failed".
 CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
 {
     CheckOutcome check;
@@ -77,8 +77,8 @@ CheckOutcome deviceOutcome(CheckKind kind, const QJsonObject& values)
     return check;
 }
 
-// A camera or a microphone that works is there. Of the speaker the state only says that the right
-// sound was picked; that it has gone since then shows in the name alone.
+// The state of a speaker only says that the right sound was picked. If the speaker disappeared
+// after that, only its name shows it.
 CheckOutcome speakerOutcome(const QJsonObject& values)
 {
     CheckOutcome check = deviceOutcome(CheckKind::Speaker, values);

@@ -9,16 +9,15 @@
 #include <QString>
 #include <vector>
 
-// One row of the result: a check, the verdict that the dialog showed last, and what was recorded
-// of it.
+// One row of the result: a check, the verdict that the dialog showed last, and its device.
 struct CheckOutcome
 {
     CheckKind check = CheckKind::Network;
     Verdict verdict = Verdict::NotTested;
-    QString device; // the device's name, or the figures of the network; foreign text
+    QString device; // its name, or the figures of the network; foreign text
 };
 
-// What came of a run, read from the document that the run recorded.
+// The result of a run, from the document that the run recorded.
 struct RunOutcome
 {
     ExitCode exitCode = ExitCode::LeftEarly;
@@ -27,5 +26,5 @@ struct RunOutcome
     // wasPutOut: the engine ended the session.
     static RunOutcome fromDocument(const QJsonObject& document, bool wasPutOut);
 
-    QString toText() const; // a table for a terminal, ending in a line feed
+    QString toText() const; // a table for a terminal; ends with a line feed
 };
