@@ -12,7 +12,6 @@
 
 #include <QJsonArray>
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -21,17 +20,6 @@ using Platform::ReportCode;
 using Platform::StateCode;
 namespace NetworkLimits = Platform::NetworkLimits;
 namespace ResultKeys = Platform::ResultKeys;
-
-const QLatin1String DelayUnit("ms");
-const QLatin1String LossUnit("%");
-
-// The number before the unit; nothing if there is none, as in "N/A".
-std::optional<int> numberIn(const QString& text, QLatin1String unit)
-{
-    bool isNumber = false;
-    const int number = text.endsWith(unit) ? text.chopped(unit.size()).toInt(&isNumber) : 0;
-    return isNumber ? std::optional<int>(number) : std::nullopt;
-}
 
 // The user has left the network step if another step recorded anything.
 bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
@@ -45,20 +33,20 @@ bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
            measurements.contains(ReportWords::of(CheckKind::Camera));
 }
 
-// The page writes both texts each time it judges the figures, so the last texts give the verdict
-// that it shows. If it was left before the first figures, it shows "failed".
-CheckOutcome networkOutcome(const QJsonObject& values, bool wasLeft)
+// The measurements are those at the time of the texts, which the page writes each time it judges
+// the figures. So they give the verdict that it shows. If it was left before the first figures, it
+// shows "failed".
+CheckOutcome networkOutcome(const QJsonObject& texts, const QJsonObject& measurements, bool wasLeft)
 {
     CheckOutcome check;
-    const QString delay = values.value(ResultKeys::Delay).toString();
-    const QString loss = values.value(ResultKeys::Loss).toString();
+    const QString delay = texts.value(ResultKeys::Delay).toString();
     if (!delay.isEmpty()) {
-        const std::optional<int> delayMs = numberIn(delay, DelayUnit);
-        const std::optional<int> lossPercent = numberIn(loss, LossUnit);
-        const bool isGood =
-            delayMs && lossPercent && NetworkLimits::arePassed(*delayMs, *lossPercent);
+        const QJsonValue delayMs = measurements.value(ReportWords::of(FigureName::Delay));
+        const QJsonValue lossPercent = measurements.value(ReportWords::of(FigureName::Loss));
+        const bool isGood = delayMs.isDouble() && lossPercent.isDouble() &&
+                            NetworkLimits::arePassed(delayMs.toInt(), lossPercent.toInt());
         check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
-        check.device = delay + QLatin1String(", ") + loss;
+        check.device = delay + QLatin1String(", ") + texts.value(ResultKeys::Loss).toString();
     } else if (wasLeft) {
         check.verdict = Verdict::Failed;
     }
@@ -105,7 +93,9 @@ RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
     RunOutcome outcome;
     const QJsonObject measurements = document.value(ResultKeys::Measurements).toObject();
     outcome.checks = {
-        networkOutcome(values(CheckKind::Network), wasNetworkLeft(results, measurements)),
+        networkOutcome(values(CheckKind::Network),
+                       measurements.value(ReportWords::of(CheckKind::Network)).toObject(),
+                       wasNetworkLeft(results, measurements)),
         deviceOutcome(CheckKind::Camera, values(CheckKind::Camera)),
         speakerOutcome(values(CheckKind::Speaker)),
         deviceOutcome(CheckKind::Microphone, values(CheckKind::Microphone)),

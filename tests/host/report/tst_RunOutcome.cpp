@@ -3,6 +3,7 @@
 
 #include "host/Languages.h"
 #include "host/report/RunOutcome.h"
+#include "platform/backend/NetworkProbe.h"
 #include "platform/backend/ResultDocument.h"
 
 #include <QtTest>
@@ -35,6 +36,7 @@ namespace {
 QJsonObject documentWhereAllPassed()
 {
     Platform::ResultDocument document;
+    document.recordMeasurement(QStringLiteral("network"), Platform::toJson({1, 37}));
     document.recordResult(QStringLiteral("network.delay"), QStringLiteral("37ms"));
     document.recordResult(QStringLiteral("network.loss"), QStringLiteral("1%"));
     for (const char* check : {"camera", "speaker", "microphone"}) {
@@ -96,34 +98,34 @@ void tst_RunOutcome::exitCodes()
 
 void tst_RunOutcome::network_data()
 {
-    QTest::addColumn<QString>("delay");
-    QTest::addColumn<QString>("loss");
+    QTest::addColumn<QString>("delayText");
+    QTest::addColumn<QJsonObject>("figures");
     QTest::addColumn<int>("verdict");
+    const auto figures = [](int delayMs, int lossPercent) {
+        return Platform::toJson({lossPercent, delayMs});
+    };
     const int passed = static_cast<int>(Verdict::Passed);
     const int failed = static_cast<int>(Verdict::Failed);
-    QTest::newRow("499 ms") << "499ms"
-                            << "0%" << passed;
-    QTest::newRow("500 ms") << "500ms"
-                            << "0%" << failed;
-    QTest::newRow("not measured") << "N/A"
-                                  << "0%" << failed;
-    QTest::newRow("70 %") << "37ms"
-                          << "70%" << passed;
-    QTest::newRow("71 %") << "37ms"
-                          << "71%" << failed;
-    QTest::newRow("no loss known") << "37ms" << QString() << failed;
-    QTest::newRow("below 0") << "-5ms"
-                             << "-1%" << passed; // as the step compares
-    QTest::newRow("no number") << "ms"
-                               << "0%" << failed;
-    QTest::newRow("never shown") << QString() << QString() << static_cast<int>(Verdict::NotTested);
+    QTest::newRow("499 ms") << "499ms" << figures(499, 0) << passed;
+    QTest::newRow("500 ms") << "500ms" << figures(500, 0) << failed;
+    QTest::newRow("not measured") << "N/A" << figures(-1, 0) << failed;
+    QTest::newRow("70 %") << "37ms" << figures(37, 70) << passed;
+    QTest::newRow("71 %") << "37ms" << figures(37, 71) << failed;
+    QTest::newRow("no loss known")
+        << "37ms" << QJsonObject{{QStringLiteral("delayMs"), 37}} << failed;
+    QTest::newRow("below 0") << "-5ms" << figures(-5, -1) << passed; // as the step compares
+    QTest::newRow("no figures") << "N/A" << QJsonObject() << failed;
+    QTest::newRow("never shown") << QString() << figures(37, 0)
+                                 << static_cast<int>(Verdict::NotTested);
 }
 
 void tst_RunOutcome::network()
 {
-    QFETCH(QString, delay);
-    QFETCH(QString, loss);
-    const QJsonObject document = with(with({}, "network", "delay", delay), "network", "loss", loss);
+    QFETCH(QString, delayText);
+    QFETCH(QJsonObject, figures);
+    QJsonObject document = with({}, "network", "delay", delayText);
+    document.insert(QStringLiteral("measurements"),
+                    QJsonObject{{QStringLiteral("network"), figures}});
     const CheckOutcome check = RunOutcome::fromDocument(document, false).checks.at(0);
     QCOMPARE(check.check, CheckKind::Network);
     QTEST(static_cast<int>(check.verdict), "verdict");
