@@ -29,6 +29,8 @@ public:
         QObject::connect(&m_quiet, &QTimer::timeout, &m_loop, &QEventLoop::quit);
     }
 
+    virtual ~Watch() = default;
+
     void waitForLists()
     {
         QTimer::singleShot(LongestMs, &m_loop, &QEventLoop::quit);

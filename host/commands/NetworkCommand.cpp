@@ -25,6 +25,8 @@ public:
     {
     }
 
+    virtual ~FigurePrinter() = default;
+
     void networkFiguresChanged() override
     {
         m_last = m_probe->figures();

@@ -95,7 +95,7 @@ QByteArray ReportFile::redactionKey(const QString& path, QString* error)
 {
     QFile present(path);
     if (present.open(QIODevice::ReadOnly)) {
-        const QByteArray key = present.read(KeyBytes);
+        QByteArray key = present.read(KeyBytes);
         if (key.size() == KeyBytes) {
             return key;
         }

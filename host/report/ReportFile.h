@@ -8,7 +8,7 @@
 namespace ReportFile {
 
 // A larger file is no report.
-constexpr qint64 MaxBytes = 4 * 1024 * 1024;
+constexpr qint64 MaxBytes = qint64(4) * 1024 * 1024;
 
 // Writes the whole file, or leaves it as it was. Returns nothing, or one line with the file, the
 // problem and what to do.

@@ -8,24 +8,24 @@
 namespace Platform::ResultKeys {
 
 // Its sections.
-inline constexpr QLatin1String Results("results");
-inline constexpr QLatin1String Measurements("measurements");
-inline constexpr QLatin1String Later("later");
-inline constexpr QLatin1String Codes("codes");
+inline const QLatin1String Results("results");
+inline const QLatin1String Measurements("measurements");
+inline const QLatin1String Later("later");
+inline const QLatin1String Codes("codes");
 
 // The checks in a section.
-inline constexpr QLatin1String Network("network");
-inline constexpr QLatin1String Camera("camera");
-inline constexpr QLatin1String Speaker("speaker");
-inline constexpr QLatin1String Microphone("microphone");
+inline const QLatin1String Network("network");
+inline const QLatin1String Camera("camera");
+inline const QLatin1String Speaker("speaker");
+inline const QLatin1String Microphone("microphone");
 
 // The results of a device: an AnswerCode, a StateCode, a name.
-inline constexpr QLatin1String UserState("userState");
-inline constexpr QLatin1String DeviceState("deviceState");
-inline constexpr QLatin1String Device("device");
+inline const QLatin1String UserState("userState");
+inline const QLatin1String DeviceState("deviceState");
+inline const QLatin1String Device("device");
 
 // The results of the network: the texts that were shown.
-inline constexpr QLatin1String Delay("delay");
-inline constexpr QLatin1String Loss("loss");
+inline const QLatin1String Delay("delay");
+inline const QLatin1String Loss("loss");
 
 } // namespace Platform::ResultKeys
