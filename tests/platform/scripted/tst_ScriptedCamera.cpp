@@ -1,40 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "tests/platform/scripted/CameraListener.h"
 #include "tests/platform/scripted/ScriptedTest.h"
 
 #include <QtTest>
 
-#include <utility>
-
 using namespace Platform;
+using TestSupport::CameraListener;
 
 namespace {
 
 const QString First = QStringLiteral("first");
 const QString Second = QStringLiteral("second");
-
-class CameraListener : public CameraBackend::Listener
-{
-public:
-    void cameraListChanged() override { m_heard.append(QStringLiteral("list")); }
-    void currentCameraChanged(const QString& id) override
-    {
-        m_heard.append(QStringLiteral("current ") + id);
-    }
-    void cameraWorkStateChanged(const QString& id, bool works) override
-    {
-        m_heard.append(QStringLiteral("works %1 %2").arg(id).arg(works));
-    }
-    void frameArrived() override { ++m_pictures; }
-
-    QStringList heard() const { return m_heard; }
-    QStringList take() { return std::exchange(m_heard, {}); }
-    int pictures() const { return m_pictures; }
-
-private:
-    QStringList m_heard;
-    int m_pictures = 0;
-};
 
 class MicrophoneListener : public MicrophoneBackend::Listener
 {
