@@ -6,14 +6,9 @@
 
 namespace TestSupport {
 
-void SoundDialogTest::initTestCase_data()
-{
-    SoundServer::addTestRows();
-}
-
 void SoundDialogTest::init()
 {
-    m_server = SoundServer::startForTest();
+    SoundServerTest::init();
     QVERIFY(m_server);
     m_dialog = std::make_unique<DeviceDialog>(language());
 }
@@ -21,7 +16,7 @@ void SoundDialogTest::init()
 void SoundDialogTest::cleanup()
 {
     m_dialog.reset();
-    m_server.reset();
+    SoundServerTest::cleanup();
 }
 
 QString SoundDialogTest::language() const

@@ -2,19 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/SoundTest.h"
 
-#include <QTest>
-
 namespace TestSupport {
-
-void SoundTest::initTestCase_data()
-{
-    SoundServer::addTestRows();
-}
 
 void SoundTest::init()
 {
-    m_server = SoundServer::startForTest();
-    QVERIFY(m_server);
+    SoundServerTest::init();
     m_report = {};
     m_sound = std::make_unique<Platform::PulseSound>(m_report);
 }
@@ -22,7 +14,7 @@ void SoundTest::init()
 void SoundTest::cleanup()
 {
     m_sound.reset();
-    m_server.reset();
+    SoundServerTest::cleanup();
 }
 
 } // namespace TestSupport

@@ -7,20 +7,18 @@
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
 #include "tests/support/SoundRecording.h"
-#include "tests/support/SoundServer.h"
+#include "tests/support/SoundServerTest.h"
 
-#include <QObject>
 #include <memory>
 
 namespace TestSupport {
 
-// Each test case runs with both kinds of sound server, on a new one each time.
-class SoundTest : public QObject
+// The sound system of the real engine on a sound server.
+class SoundTest : public SoundServerTest
 {
     Q_OBJECT
 
 protected Q_SLOTS:
-    void initTestCase_data();
     void init();
     void cleanup();
 
@@ -29,14 +27,11 @@ protected:
     static constexpr qint64 MaxGapMs = TestSupport::MaxGapMs;
     static constexpr float Audible = TestSupport::Audible;
 
-    static QString id(const char* name) { return QString::fromLatin1(name); }
-
     QJsonObject figures(const char* device) const
     {
         return m_report.measurements.value(id(device));
     }
 
-    std::unique_ptr<SoundServer> m_server;
     MemoryReport m_report;
     NoListener m_noListener;
     std::unique_ptr<Platform::PulseSound> m_sound;
