@@ -21,7 +21,10 @@ const QString CurrentCameraKey = QStringLiteral("camera/current");
 class DeviceCamera::Post final : public CameraFeed::Listener
 {
 public:
-    Post(DeviceCamera* camera, Mailbox::Sender sender) : m_camera(camera), m_sender(sender) {}
+    Post(DeviceCamera* camera, Mailbox::Sender sender)
+        : m_camera(camera), m_sender(std::move(sender))
+    {
+    }
 
     void listArrived(const DeviceList& devices, const QString& preferredId, bool isDenied) override
     {

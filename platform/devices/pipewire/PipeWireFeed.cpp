@@ -23,7 +23,8 @@ std::shared_ptr<PipeWireThread> startThread(const std::shared_ptr<EndingThreads>
 
 } // namespace
 
-PipeWireFeed::PipeWireFeed(std::shared_ptr<PipeWireThread> thread, std::shared_ptr<FrameSlot> slot,
+PipeWireFeed::PipeWireFeed(std::shared_ptr<PipeWireThread> thread,
+                           const std::shared_ptr<FrameSlot>& slot,
                            std::unique_ptr<Listener> listener)
     : m_thread(std::move(thread)), m_capture(std::make_shared<std::unique_ptr<PipeWireCapture>>())
 {

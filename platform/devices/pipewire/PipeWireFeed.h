@@ -14,7 +14,7 @@ class PipeWireThread;
 class PipeWireFeed final : public CameraFeed
 {
 public:
-    PipeWireFeed(std::shared_ptr<PipeWireThread> thread, std::shared_ptr<FrameSlot> slot,
+    PipeWireFeed(std::shared_ptr<PipeWireThread> thread, const std::shared_ptr<FrameSlot>& slot,
                  std::unique_ptr<Listener> listener);
     ~PipeWireFeed() override;
     PipeWireFeed(const PipeWireFeed&) = delete;

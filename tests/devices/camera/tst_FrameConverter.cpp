@@ -19,7 +19,7 @@ FrameView viewOf(const QByteArray& bytes, int stride)
     return view;
 }
 
-// Four pixels wide, two high: red, green, blue, white above, blue, blue, red, red below.
+// 4 x 2 pixels: red, green, blue, white; blue, blue, red, red.
 QByteArray smallFrame()
 {
     const QRgb red = qRgb(255, 0, 0);
@@ -38,7 +38,7 @@ QByteArray smallFrame()
 
 const FrameFormat SmallFormat{PixelFormat::Bgrx, YuvColor::Bt601, QSize(4, 2)};
 
-// The colors' first letters, row by row.
+// The first letter of each pixel's color, row by row.
 QString letters(const QImage& frame)
 {
     QString result;
@@ -227,7 +227,7 @@ void tst_FrameConverter::trustsTheJpegsOwnSize()
     QCOMPARE(converter.convert(format, viewOf(bytes, 0), {}, {}).size(), QSize(64, 48));
 }
 
-// Rows and columns of black and white in turn become gray, not one or the other.
+// A checkerboard of black and white becomes gray.
 void tst_FrameConverter::averagesWhatItScales()
 {
     const QSize size(64, 64);

@@ -35,7 +35,7 @@ void tst_FrameStatistics::samplesFrames()
     QCOMPARE(sampleOf(qRgb(0, 0, 0)).brightness, 0.0);
     QCOMPARE(sampleOf(qRgb(9, 9, 9)).hash, sampleOf(qRgb(9, 9, 9)).hash);
     QVERIFY(sampleOf(qRgb(9, 9, 9)).hash != sampleOf(qRgb(9, 9, 10)).hash);
-    // the unused byte of a pixel is no difference
+    // the unused byte of a pixel doesn't count
     QCOMPARE(sampleOf(0x00090909).hash, sampleOf(0xff090909).hash);
 }
 

@@ -4,7 +4,7 @@
 
 #include <QtTest>
 
-// udev's header of mock devices comes from GLib, which names fields like Qt's keywords.
+// Last, because GLib has fields that are named like Qt's keywords.
 #include <umockdev.h>
 
 using namespace Platform;
@@ -17,12 +17,12 @@ public:
     void deviceFound(const VideoDevices::Properties& properties) override
     {
         found[properties.value(QStringLiteral("DEVNAME"))] = properties;
-        ++news;
+        ++events;
     }
     void deviceGone(const QString& path) override
     {
         found.remove(path);
-        ++news;
+        ++events;
     }
     QString valueOf(const char* path, const char* property) const
     {
@@ -30,13 +30,13 @@ public:
     }
 
     QMap<QString, VideoDevices::Properties> found;
-    int news = 0;
+    int events = 0;
 };
 
 } // namespace
 
-// In a machine whose devices are made up: the library that stands before the system's own shows
-// libudev another /sys and other news.
+// On a machine with made-up devices: umockdev's library is linked before the C library and shows
+// libudev another /sys and other events.
 class tst_UdevDevices : public QObject
 {
     Q_OBJECT
@@ -75,12 +75,12 @@ void tst_UdevDevices::listsVideoDevices()
     Collector collector;
     UdevDevices devices;
     devices.start(collector);
-    QCOMPARE(collector.news, 2);
+    QCOMPARE(collector.events, 2);
     QCOMPARE(collector.valueOf("/dev/video0", "ID_PATH"),
              QStringLiteral("pci-0000:00:14.0-usb-0:5:1.0"));
     QCOMPARE(collector.valueOf("/dev/video0", "ID_V4L_PRODUCT"), QStringLiteral("Camera"));
     QCOMPARE(collector.valueOf("/dev/video0", "ID_V4L_CAPABILITIES"), QStringLiteral(":capture:"));
-    // Without rules of udev's there is still the kernel's name.
+    // Without udev's rules there is still the name by the kernel.
     QCOMPARE(collector.valueOf("/dev/video2", "ID_V4L_PRODUCT"), QStringLiteral("Driver's name"));
 }
 
@@ -108,7 +108,7 @@ void tst_UdevDevices::isSilentWithoutDevices()
     Collector collector;
     UdevDevices devices;
     devices.start(collector);
-    QCOMPARE(collector.news, 0);
+    QCOMPARE(collector.events, 0);
 }
 
 QByteArray tst_UdevDevices::plug(const char* name, const char* place, const char* product)
