@@ -22,7 +22,7 @@ class PipeWireCapture final : public PipeWireConnection::Observer,
 public:
     PipeWireCapture(PipeWireConnection& connection, std::shared_ptr<FrameSlot> slot,
                     std::shared_ptr<CameraFeed::Listener> listener);
-    ~PipeWireCapture();
+    virtual ~PipeWireCapture();
     PipeWireCapture(const PipeWireCapture&) = delete;
     PipeWireCapture& operator=(const PipeWireCapture&) = delete;
 

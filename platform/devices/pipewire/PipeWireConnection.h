@@ -41,7 +41,7 @@ public:
     };
 
     explicit PipeWireConnection(pw_main_loop* mainLoop);
-    ~PipeWireConnection();
+    virtual ~PipeWireConnection();
     PipeWireConnection(const PipeWireConnection&) = delete;
     PipeWireConnection& operator=(const PipeWireConnection&) = delete;
 

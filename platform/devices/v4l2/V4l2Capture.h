@@ -24,7 +24,7 @@ public:
     V4l2Capture(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                 std::shared_ptr<CameraFeed::Listener> listener,
                 std::shared_ptr<EndingThreads> ending);
-    ~V4l2Capture();
+    virtual ~V4l2Capture();
     V4l2Capture(const V4l2Capture&) = delete;
     V4l2Capture& operator=(const V4l2Capture&) = delete;
 

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+// GStreamer's own names. NOLINTNEXTLINE(bugprone-reserved-identifier)
 typedef struct _GstElement GstElement;
 
 namespace Platform {

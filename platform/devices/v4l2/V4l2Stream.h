@@ -9,6 +9,7 @@
 #include <QThread>
 #include <atomic>
 
+// GStreamer's own names. NOLINTNEXTLINE(bugprone-reserved-identifier)
 typedef struct _GstSample GstSample;
 
 namespace Platform {
