@@ -13,7 +13,8 @@ namespace Platform {
 class Engine;
 }
 
-// The devices of an engine and how each of them is, without opening any. GUI thread only.
+// The devices of an engine and how each of them is. None is opened, no choice of the user is
+// changed. GUI thread only.
 struct DeviceSurvey
 {
     struct Device

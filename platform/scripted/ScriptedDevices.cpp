@@ -90,7 +90,12 @@ DeviceState ScriptedDevices::currentState() const
     if (m_currentId.isEmpty()) {
         return m_isChoiceMade ? DeviceState::Off : DeviceState::Absent;
     }
-    const auto device = find(m_currentId);
+    return stateOf(m_currentId);
+}
+
+DeviceState ScriptedDevices::stateOf(const QString& id) const
+{
+    const auto device = find(id);
     return device == m_devices.end() ? DeviceState::Absent : device->state;
 }
 

@@ -38,7 +38,8 @@ public:
     // The system's own choice: the first of the list. Null where there is none.
     QString defaultName() const;
     QString currentName() const { return m_currentName; }
-    DeviceState currentState() const; // as scripted; Absent or Off where there is none
+    DeviceState currentState() const;             // as scripted; Absent or Off where there is none
+    DeviceState stateOf(const QString& id) const; // as scripted; Absent if it isn't plugged in
 
 Q_SIGNALS:
     void listChanged();
