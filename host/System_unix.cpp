@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/System.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
-// A standard stream that is closed would lend its number to the next file, which then gets what is
+// Whoever reads the output may go: that is an error of writing and not the program's end. A
+// standard stream that is closed would lend its number to the next file, which then gets what is
 // printed.
 void System::prepareProcess()
 {
+    std::signal(SIGPIPE, SIG_IGN);
     int descriptor = STDIN_FILENO;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);
@@ -25,13 +28,6 @@ QStringList System::arguments(int argc, char* argv[])
         texts << QString::fromLocal8Bit(argv[i]);
     }
     return texts;
-}
-
-bool System::hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
 bool System::isTerminal(std::FILE* file)

@@ -3,6 +3,7 @@
 #include "host/commands/CheckCommand.h"
 
 #include "host/Console.h"
+#include "host/DisplayLoss.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
@@ -101,24 +102,36 @@ ExitCode CheckCommand::open(const QString& language)
     installed.prepare();
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
     CheckRun run;
+    bool isWritten = true;
+    const auto save = [&] {
+        facts.finished = QDateTime::currentDateTime();
+        const QJsonObject results = installed.results();
+        const RunOutcome outcome = RunOutcome::fromDocument(results, run.wasPutOut());
+        Console::print(outcome.toText());
+        isWritten =
+            write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
+        isWritten = writeResults(results) && isWritten;
+        return outcome.exitCode;
+    };
+    DisplayLoss::setSaving(save);
     run.exec();
-    facts.finished = QDateTime::currentDateTime();
-    const QJsonObject results = installed.results();
-    const RunOutcome outcome = RunOutcome::fromDocument(results, run.wasPutOut());
-    Console::print(outcome.toText());
-
-    bool isWritten =
-        write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
-    if (!m_options.resultsFile.isEmpty()) {
-        const QString problem =
-            ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
-        if (!problem.isEmpty()) {
-            Console::printError(problem);
-            isWritten = false;
-        }
-    }
-    const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
+    DisplayLoss::setSaving(nullptr);
+    const ExitCode outcome = save();
+    const ExitCode code = tour ? endTour(*tour, language, outcome) : outcome;
     return isWritten ? code : ExitCode::CannotWrite;
+}
+
+bool CheckCommand::writeResults(const QJsonObject& results) const
+{
+    if (m_options.resultsFile.isEmpty()) {
+        return true;
+    }
+    const QString problem =
+        ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+    return problem.isEmpty();
 }
 
 bool CheckCommand::write(Report report) const

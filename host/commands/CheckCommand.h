@@ -29,6 +29,7 @@ private:
     bool prepareRedaction();
     ExitCode open(const QString& language);
     bool write(Report report) const;
+    bool writeResults(const QJsonObject& results) const;
     std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null where none is wanted
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 
