@@ -17,6 +17,7 @@
 namespace {
 
 constexpr int WriteTimeoutMs = 5000;
+constexpr int LongestSavingMs = 2 * WriteTimeoutMs;
 
 // What the engine warns of is for the user, what Qt does for developers. Qt's plain warnings are
 // looked at here before they are dropped.
@@ -51,11 +52,22 @@ bool isLastWord(const QString& text)
     std::_Exit(static_cast<int>(ExitCode::Unavailable));
 }
 
+// What is saved belongs to the GUI thread. On Wayland another one reads, and would end the program
+// when this returns.
+[[noreturn]] void endFromAnyThread()
+{
+    if (QThread::currentThread() != qApp->thread()) {
+        QMetaObject::invokeMethod(qApp, &endAtOnce, Qt::QueuedConnection);
+        QThread::msleep(LongestSavingMs);
+        std::_Exit(static_cast<int>(ExitCode::Unavailable));
+    }
+    endAtOnce();
+}
+
 void handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (type == QtWarningMsg && isLastWord(text) && qApp &&
-        QThread::currentThread() == qApp->thread()) {
-        endAtOnce();
+    if (type == QtWarningMsg && isLastWord(text) && qApp) {
+        endFromAnyThread();
     }
     const bool isPlain = !context.category || qstrcmp(context.category, "default") == 0;
     if (theIsVerbose || type != QtWarningMsg || !isPlain) {

@@ -71,8 +71,9 @@ bool DisplayServer::waitFor(const std::function<bool()>& isReady)
 
 void DisplayServer::kill()
 {
-    m_server.kill();
-    m_server.waitForFinished(TimeoutMs);
+    TestProcess& lost = m_kind == Kind::X11 ? m_server : m_compositor;
+    lost.kill();
+    lost.waitForFinished(TimeoutMs);
 }
 
 QProcessEnvironment DisplayServer::serverEnvironment() const
