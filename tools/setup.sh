@@ -7,6 +7,7 @@ run_packages=(
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libnice-dev libpulse-dev libmpg123-dev libpipewire-0.3-dev libspa-0.2-dev libyuv-dev
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
+    libqt5x11extras5-dev libxcb1-dev
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
@@ -15,6 +16,7 @@ test_packages=(
     libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
+    openbox metacity xdotool x11-utils imagemagick weston qtwayland5
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
     gstreamer1.0-pipewire gstreamer1.0-x)

@@ -180,7 +180,12 @@ void LumCustomNormalDialog::putCloseButtonLast()
             others << widget;
         }
     }
-    if (m_closeButton && others.size() > 1) {
+    if (!m_closeButton || others.isEmpty()) {
+        return;
+    }
+    if (others.size() == 1) {
+        others.first()->setFocus();
+    } else {
         // Around the end of the chain the cross is behind the last one already, and Qt would leave
         // it where it is.
         setTabOrder(others.first(), m_closeButton);
