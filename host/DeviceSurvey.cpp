@@ -72,18 +72,28 @@ private:
     QTimer m_quiet;
 };
 
-// A state is told of the chosen device only, so that each one is chosen in turn. The choice is
-// this program's own and ends with it.
-template <typename Backend, typename Volume>
-DeviceSurvey::Devices survey(Backend& backend, const Platform::DeviceList& list, Watch& watch,
-                             const Volume& volumeOf)
+// The choice of a camera is remembered for the next check: none is made here.
+DeviceSurvey::Devices surveyCameras(const Platform::CameraBackend& backend)
+{
+    DeviceSurvey::Devices devices;
+    for (const Platform::DeviceInfo& info : backend.devices()) {
+        devices.push_back(
+            {info, backend.stateOf(info.id), info.id == backend.currentId(), std::nullopt});
+    }
+    return devices;
+}
+
+// State and volume are told of the chosen device only, so that each one is chosen in turn. This
+// choice is the session's own and ends with it.
+template <typename Backend>
+DeviceSurvey::Devices surveySound(Backend& backend, const Platform::DeviceList& list, Watch& watch)
 {
     const QString current = backend.currentId();
     DeviceSurvey::Devices devices;
     for (const Platform::DeviceInfo& info : list) {
         backend.setCurrent(info.id);
         watch.waitForChoice();
-        devices.push_back({info, backend.state(), info.id == current, volumeOf(backend)});
+        devices.push_back({info, backend.state(), info.id == current, backend.volume()});
     }
     return devices;
 }
@@ -129,11 +139,9 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
     const auto speaker = engine.createSpeaker(watch);
     watch.waitForLists();
     DeviceSurvey result;
-    result.cameras = survey(*camera, camera->devices(), watch,
-                            [](const Platform::CameraBackend&) { return std::optional<int>(); });
-    const auto volumeOf = [](const auto& backend) { return std::optional<int>(backend.volume()); };
-    result.microphones = survey(*microphone, microphone->devices(), watch, volumeOf);
-    result.speakers = survey(*speaker, engine.speakers(), watch, volumeOf);
+    result.cameras = surveyCameras(*camera);
+    result.microphones = surveySound(*microphone, microphone->devices(), watch);
+    result.speakers = surveySound(*speaker, engine.speakers(), watch);
     return result;
 }
 

@@ -13,7 +13,8 @@ namespace Platform {
 class Engine;
 }
 
-// The devices of an engine with their states. Opens none of them. GUI thread only.
+// The devices of an engine with their states. Opens none of them and changes no choice of the user.
+// GUI thread only.
 struct DeviceSurvey
 {
     struct Device

@@ -3,7 +3,10 @@
 #include "host/Program.h"
 
 #include "host/Console.h"
+#include "host/DisplayLoss.h"
+#include "host/DisplayTrial.h"
 #include "host/Options.h"
+#include "host/ScreenFit.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
 #include "host/commands/CheckCommand.h"
@@ -15,7 +18,6 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
-#include <QLoggingCategory>
 #include <cstdio>
 #include <memory>
 
@@ -24,17 +26,25 @@ namespace {
 // Balloons are top-level windows: they take this size and no page's.
 constexpr int FontPixelSize = 12;
 
-// Warnings of the engine are for users, those of Qt for developers.
-const char* const QuietRules =
-    "*.debug=false\n*.info=false\n*.warning=false\nengine.*.warning=true";
-
 void useLookOfCheck()
 {
+    QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));
     QFont font = QApplication::font();
     font.setPixelSize(FontPixelSize);
     QApplication::setFont(font);
+}
+
+std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[])
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    if (ScreenFit::hasLoweredFactor()) {
+        application.reset();
+        application = std::make_unique<QApplication>(argc, argv);
+    }
+    useLookOfCheck();
+    return application;
 }
 
 ExitCode runCommand(const Options& options)
@@ -69,32 +79,25 @@ ExitCode Program::run(int argc, char* argv[])
         Console::printError(options.error);
         return ExitCode::WrongUsage;
     }
-    const bool isCheck = options.command == Options::Command::Check;
-    if (isCheck && !System::hasDisplay()) {
-        Console::printError(QStringLiteral("there is no display to open the check on: start it "
-                                           "from a desktop session, or by xvfb-run"));
-        return ExitCode::Unavailable;
-    }
-    if (!options.isVerbose) {
-        QLoggingCategory::setFilterRules(QLatin1String(QuietRules));
-    }
-    QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
-    std::unique_ptr<QCoreApplication> application;
-    if (isCheck) {
-        application = std::make_unique<QApplication>(shownCount, argv);
-        QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
-        useLookOfCheck();
-    } else {
-        application = std::make_unique<QCoreApplication>(shownCount, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
+    ScreenFit::takeFactorsAsTheyAre();
+    const bool isCheck = options.command == Options::Command::Check;
+    auto trial = isCheck ? std::make_unique<DisplayTrial>(shownCount, argv) : nullptr;
+    if (trial && !trial->problem().isEmpty()) {
+        Console::printError(trial->problem());
+        return ExitCode::Unavailable;
     }
+    const DisplayLoss displayLoss(options.isVerbose);
+    const std::unique_ptr<QCoreApplication> application =
+        isCheck ? applicationWithWindows(shownCount, argv)
+                : std::make_unique<QCoreApplication>(shownCount, argv);
+    trial.reset();
     const TerminationSignals signals;
     const ExitCode code = runCommand(options);
-    if (std::ferror(stdout) != 0) {
+    if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
         return ExitCode::CannotWrite;
     }

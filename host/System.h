@@ -13,7 +13,6 @@ namespace System {
 void prepareProcess();
 
 QStringList arguments(int argc, char* argv[]); // the program's name first
-bool hasDisplay();
 bool isTerminal(std::FILE* file);
 void write(std::FILE* file, const QString& text); // UTF-8 unless it is a terminal
 

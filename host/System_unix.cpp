@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/System.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
-// If a standard stream is closed, the next opened file would get its number, and all output.
+// A reader of our output may go: that is a write error, not the end of the program. If a standard
+// stream is closed, the next opened file would get its number, and all output.
 void System::prepareProcess()
 {
+    std::signal(SIGPIPE, SIG_IGN);
     int descriptor = STDIN_FILENO;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);
@@ -24,13 +27,6 @@ QStringList System::arguments(int argc, char* argv[])
         texts << QString::fromLocal8Bit(argv[i]);
     }
     return texts;
-}
-
-bool System::hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
 bool System::isTerminal(std::FILE* file)

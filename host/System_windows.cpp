@@ -55,11 +55,6 @@ QStringList System::arguments(int, char**)
     return texts;
 }
 
-bool System::hasDisplay()
-{
-    return true;
-}
-
 bool System::isTerminal(std::FILE* file)
 {
     DWORD mode = 0;

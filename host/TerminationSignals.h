@@ -5,9 +5,9 @@
 #include <QObject>
 #include <memory>
 
-// While this object lives, the first SIGINT or SIGTERM (on Windows: Ctrl+C, or closing the console)
-// ends all event loops, so the program ends as usual. A second one ends it at once. Only one object
-// at a time; GUI thread only.
+// While this object lives, the first SIGINT, SIGTERM or SIGHUP (on Windows: Ctrl+C, or closing the
+// console) ends all event loops, so the program ends as usual. A second SIGINT or SIGTERM ends it
+// at once. Only one object at a time; GUI thread only.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
@@ -18,8 +18,10 @@ public:
     ~TerminationSignals() override;
 
     bool haveArrived() const { return m_haveArrived; }
+    bool hasTerminalClosed() const { return m_hasTerminalClosed; } // nobody reads the output
 
 private:
     std::unique_ptr<QObject> m_watch; // receives the signal, if the system needs an object for it
     bool m_haveArrived = false;
+    bool m_hasTerminalClosed = false;
 };

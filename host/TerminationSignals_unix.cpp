@@ -12,13 +12,13 @@
 
 namespace {
 
-constexpr std::array<int, 2> Signals = {SIGINT, SIGTERM};
+constexpr std::array<int, 3> Signals = {SIGINT, SIGTERM, SIGHUP};
 std::array<int, 2> thePipe = {-1, -1}; // reading end, writing end
 
 // A signal handler may do almost nothing: one byte wakes the event loop.
-void wake(int)
+void wake(int signal)
 {
-    const char byte = 0;
+    const char byte = static_cast<char>(signal);
     const auto written = write(thePipe[1], &byte, 1);
     static_cast<void>(written);
 }
@@ -38,22 +38,30 @@ TerminationSignals::TerminationSignals()
     auto notifier = std::make_unique<QSocketNotifier>(openedPipe(), QSocketNotifier::Read);
     connect(notifier.get(), &QSocketNotifier::activated, this, [this, raw = notifier.get()] {
         raw->setEnabled(false);
+        char signal = 0;
+        m_hasTerminalClosed = read(thePipe[0], &signal, 1) == 1 && signal == SIGHUP;
         m_haveArrived = true;
         QCoreApplication::quit();
     });
     m_watch = std::move(notifier);
     struct sigaction action = {};
     action.sa_handler = wake;
-    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int signal : Signals) {
-        sigaction(signal, &action, nullptr);
+        // A terminal that closes says so twice: by its shell and by the system.
+        action.sa_flags =
+            static_cast<int>(signal == SIGHUP ? SA_RESTART : SA_RESTART | SA_RESETHAND);
+        struct sigaction before = {};
+        sigaction(signal, nullptr, &before);
+        if (signal != SIGHUP || before.sa_handler != SIG_IGN) { // nohup has it ignored
+            sigaction(signal, &action, nullptr);
+        }
     }
 }
 
 TerminationSignals::~TerminationSignals()
 {
     for (const int signal : Signals) {
-        std::signal(signal, SIG_DFL);
+        std::signal(signal, signal == SIGHUP ? SIG_IGN : SIG_DFL);
     }
     m_watch.reset();
     close(thePipe[0]);

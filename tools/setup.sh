@@ -8,6 +8,7 @@ run_packages=(
     libnice-dev libpulse-dev libmpg123-dev libsamplerate0-dev libkissfft-dev
     libpipewire-0.3-dev libspa-0.2-dev libyuv-dev libutf8proc-dev
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
+    libqt5x11extras5-dev libxcb1-dev
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
@@ -16,6 +17,7 @@ test_packages=(
     libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
+    openbox metacity xdotool x11-utils imagemagick weston qtwayland5
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
     gstreamer1.0-pipewire gstreamer1.0-x)

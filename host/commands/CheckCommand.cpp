@@ -4,6 +4,7 @@
 
 #include "agent/EnvCheckAgent.h"
 #include "host/Console.h"
+#include "host/DisplayLoss.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
@@ -25,10 +26,9 @@
 
 namespace {
 
-// Returns when the dialog is closed: true if the engine ended the session.
-bool runDialog()
+// Returns when the dialog is closed. Sets wasPutOut as soon as the engine ends the session.
+void runDialog(bool& wasPutOut)
 {
-    bool wasPutOut = false;
     const QObject watcher;
     auto* core = LumEngine::CoreEngine::instance();
     const auto putOut = [&wasPutOut] { wasPutOut = true; };
@@ -36,7 +36,6 @@ bool runDialog()
     QObject::connect(core, &LumEngine::CoreEngine::signalKickout, &watcher, putOut);
     EnvCheckAgent::instance()->showEnvCheck(nullptr);
     EnvCheckAgent::release();
-    return wasPutOut;
 }
 
 } // namespace
@@ -120,24 +119,37 @@ ExitCode CheckCommand::open(const QString& language)
                              QFileInfo(m_options.scenario).completeBaseName()};
     installed.prepare();
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
-    const bool wasPutOut = runDialog();
-    facts.finished = QDateTime::currentDateTime();
-    const QJsonObject results = installed.results();
-    const RunOutcome outcome = RunOutcome::fromDocument(results, wasPutOut);
-    Console::print(outcome.toText());
-
-    bool isWritten =
-        write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
-    if (!m_options.resultsFile.isEmpty()) {
-        const QString problem =
-            ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
-        if (!problem.isEmpty()) {
-            Console::printError(problem);
-            isWritten = false;
-        }
-    }
-    const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
+    bool wasPutOut = false;
+    bool isWritten = true;
+    const auto save = [&] {
+        facts.finished = QDateTime::currentDateTime();
+        const QJsonObject results = installed.results();
+        const RunOutcome outcome = RunOutcome::fromDocument(results, wasPutOut);
+        Console::print(outcome.toText());
+        isWritten =
+            write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
+        isWritten = writeResults(results) && isWritten;
+        return outcome.exitCode;
+    };
+    DisplayLoss::setSaving(save);
+    runDialog(wasPutOut);
+    DisplayLoss::setSaving(nullptr);
+    const ExitCode outcome = save();
+    const ExitCode code = tour ? endTour(*tour, language, outcome) : outcome;
     return isWritten ? code : ExitCode::CannotWrite;
+}
+
+bool CheckCommand::writeResults(const QJsonObject& results) const
+{
+    if (m_options.resultsFile.isEmpty()) {
+        return true;
+    }
+    const QString problem =
+        ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+    return problem.isEmpty();
 }
 
 bool CheckCommand::write(Report report) const

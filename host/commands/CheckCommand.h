@@ -30,6 +30,7 @@ private:
     bool prepareRedaction();
     ExitCode open(const QString& language);
     bool write(Report report) const;
+    bool writeResults(const QJsonObject& results) const;
     std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null without --tour
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 

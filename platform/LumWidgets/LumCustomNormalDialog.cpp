@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <LumWidgets/LumCustomNormalDialog.h>
 
+#include "platform/LumWidgets/DialogPopups.h"
+
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -24,7 +26,7 @@ const char* const CloseButtonStyle =
     "QToolButton{border:none;border-radius:4px;background:transparent;color:#595959;"
     "font-size:16px;}"
     "QToolButton:hover{background:#F0F0F0;}"
-    "QToolButton:focus{background:#F0F0F0;}";
+    "QToolButton:focus{background:#F0F0F0;border:2px solid #232323;}";
 
 } // namespace
 
@@ -32,7 +34,9 @@ ICustomedTitleBar::~ICustomedTitleBar() = default;
 
 LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt::WindowFlags flags,
                                              ICustomedTitleBar* titleBar, bool /*isResizable*/)
-    : QDialog(parent, flags | Qt::Dialog | Qt::FramelessWindowHint), m_customTitleBar(titleBar)
+    : QDialog(parent, flags | Qt::Dialog | Qt::FramelessWindowHint),
+      m_customTitleBar(titleBar),
+      m_popups(std::make_unique<DialogPopups>(this))
 {
     setObjectName(QStringLiteral("LumCustomNormalDialog"));
     setStyleSheet(QStringLiteral("QDialog#LumCustomNormalDialog{background:#FFFFFF;"
@@ -123,6 +127,7 @@ void LumCustomNormalDialog::mousePressEvent(QMouseEvent* event)
 void LumCustomNormalDialog::showEvent(QShowEvent* event)
 {
     moveAboveParent();
+    putCloseButtonLast();
     QDialog::showEvent(event);
 }
 
@@ -154,11 +159,38 @@ QWidget* LumCustomNormalDialog::createTitleBar()
 void LumCustomNormalDialog::moveAboveParent()
 {
     adjustSize();
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        move(0, 0); // the compositor places it, and Qt counts its popups' places from here
+        return;
+    }
     QRect place = geometry();
     const QWidget* parent = parentWidget();
     place.moveCenter(parent ? parent->window()->frameGeometry().center()
                             : QGuiApplication::primaryScreen()->availableGeometry().center());
     move(place.topLeft());
+}
+
+// The first control of the centre widget gets the focus, not the cross above it.
+void LumCustomNormalDialog::putCloseButtonLast()
+{
+    QList<QWidget*> others;
+    for (QWidget* widget = nextInFocusChain(); widget != this;
+         widget = widget->nextInFocusChain()) {
+        if (widget != m_closeButton && widget->focusPolicy() != Qt::NoFocus) {
+            others << widget;
+        }
+    }
+    if (!m_closeButton || others.isEmpty()) {
+        return;
+    }
+    if (others.size() == 1) {
+        others.first()->setFocus();
+    } else {
+        // Around the end of the chain the cross is behind the last one already, and Qt would leave
+        // it where it is.
+        setTabOrder(others.first(), m_closeButton);
+        setTabOrder(others.last(), m_closeButton);
+    }
 }
 
 void LumCustomNormalDialog::abandon()

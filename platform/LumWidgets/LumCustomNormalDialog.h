@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <memory>
 
+class DialogPopups;
 class QFrame;
 class QLabel;
 class QToolButton;
@@ -58,6 +59,7 @@ protected:
 private:
     QWidget* createTitleBar();
     void moveAboveParent();
+    void putCloseButtonLast();
     void abandon();
     bool askCenterToClose(); // false where it refused
 
@@ -66,4 +68,5 @@ private:
     QWidget* m_titleBar = nullptr;
     QLabel* m_titleLabel = nullptr;
     QToolButton* m_closeButton = nullptr;
+    std::unique_ptr<DialogPopups> m_popups;
 };

@@ -31,6 +31,7 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
     const QList<QAbstractButton*> all = box->buttons();
     for (QAbstractButton* button : all) {
         button->setStyleSheet(ButtonStyle);
+        button->setIcon(QIcon()); // many styles put coloured balls on yes and no
     }
     box->setDefaultButton(defaultButton);
     box->exec();

@@ -6,7 +6,8 @@
 #include <QComboBox>
 
 // The client's combo box: editable, with a popup of its own width; a click on the line edit may
-// open the popup. GUI thread only.
+// open the popup. With entries and none of them chosen it says that the device isn't connected.
+// GUI thread only.
 class LUMWIDGETS_EXPORT QCustomComboBox : public QComboBox
 {
     Q_OBJECT
@@ -23,6 +24,13 @@ public:
     void showPopup() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    bool takesClick(QEvent* event);
+    bool isShowingAbsence() const;
+
     int m_popupWidth = 0;
+    bool m_isPressed = false; // the line edit, by the left button
 };

@@ -34,8 +34,11 @@ public:
     // no camera was.
     virtual QString currentId() const = 0;
     virtual QString currentName() const = 0;
-    virtual void setCurrent(const QString& id) = 0; // an empty id turns the camera off
+    // The user's choice, which may be remembered. An empty id turns the camera off.
+    virtual void setCurrent(const QString& id) = 0;
     virtual DeviceState state() const = 0;
+    // Of any camera: what is known of it without choosing or opening it.
+    virtual DeviceState stateOf(const QString& id) const = 0;
     // A frame arrived within the stall timeout (StallTimeout.h).
     virtual bool delivers() const = 0;
 

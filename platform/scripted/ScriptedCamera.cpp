@@ -54,6 +54,12 @@ DeviceList ScriptedCamera::devices() const
     return m_devices.devices();
 }
 
+DeviceState ScriptedCamera::stateOf(const QString& id) const
+{
+    m_session.query("stateOf");
+    return id == m_devices.currentId() ? currentState() : m_devices.stateOf(id);
+}
+
 bool ScriptedCamera::delivers() const
 {
     m_session.query("delivers");

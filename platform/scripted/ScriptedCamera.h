@@ -24,6 +24,7 @@ public:
     ~ScriptedCamera() override;
 
     DeviceList devices() const override;
+    DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
 
     void start() override;

@@ -82,7 +82,12 @@ DeviceState ScriptedDevices::currentState() const
     if (m_currentId.isEmpty()) {
         return m_isChoiceMade ? DeviceState::Off : DeviceState::Absent;
     }
-    const Device* device = findDevice(m_devices, m_currentId);
+    return stateOf(m_currentId);
+}
+
+DeviceState ScriptedDevices::stateOf(const QString& id) const
+{
+    const Device* device = findDevice(m_devices, id);
     return device ? device->state : DeviceState::Absent;
 }
 

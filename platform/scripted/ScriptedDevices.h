@@ -38,7 +38,8 @@ public:
     // The system's default device: the first of the list. Null if the list is empty.
     QString defaultName() const;
     QString currentName() const { return m_currentName; }
-    DeviceState currentState() const; // as scripted; Absent or Off if there is none
+    DeviceState currentState() const;             // as scripted; Absent or Off if there is none
+    DeviceState stateOf(const QString& id) const; // as scripted; Absent if it is not plugged in
 
 Q_SIGNALS:
     void listChanged();

@@ -127,6 +127,10 @@
         <source></source>
         <translation>لم يتم اختيار سماعة</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>غير متصل</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. ارفع مستوى الصوت وتأكد من أنه غير مكتوم.</translation>

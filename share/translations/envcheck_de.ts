@@ -127,6 +127,10 @@
         <source></source>
         <translation>Kein Lautsprecher gewählt</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Nicht angeschlossen</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Erhöhen Sie die Lautstärke und schalten Sie den Ton ein.</translation>

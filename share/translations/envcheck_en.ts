@@ -127,6 +127,10 @@
         <source></source>
         <translation>No speaker selected</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Not connected</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Turn the volume up, and check that the sound is not muted.</translation>

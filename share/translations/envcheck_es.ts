@@ -127,6 +127,10 @@
         <source></source>
         <translation>Ningún altavoz elegido</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>No conectado</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Suba el volumen y compruebe que no está silenciado.</translation>

@@ -127,6 +127,10 @@
         <source></source>
         <translation>Aucun haut-parleur choisi</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Non connecté</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Augmentez le volume et vérifiez que le son n'est pas coupé.</translation>

@@ -127,6 +127,10 @@
         <source></source>
         <translation>スピーカーが選ばれていません</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>接続されていません</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. 音量を上げ、ミュートになっていないか確認してください。</translation>

@@ -127,6 +127,10 @@
         <source></source>
         <translation>선택된 스피커 없음</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>연결되어 있지 않음</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. 볼륨을 높이고 음소거되지 않았는지 확인하세요.</translation>

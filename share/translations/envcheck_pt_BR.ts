@@ -127,6 +127,10 @@
         <source></source>
         <translation>Nenhum alto-falante escolhido</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Não conectado</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Aumente o volume e veja se o som não está mudo.</translation>

@@ -127,6 +127,10 @@
         <source></source>
         <translation>Динамик не выбран</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Не подключено</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Увеличьте громкость и проверьте, что звук не отключён.</translation>

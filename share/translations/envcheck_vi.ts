@@ -127,6 +127,10 @@
         <source></source>
         <translation>Chưa chọn loa</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>Chưa kết nối</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. Tăng âm lượng và kiểm tra loa không bị tắt tiếng.</translation>

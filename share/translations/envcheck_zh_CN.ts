@@ -127,6 +127,10 @@
         <source></source>
         <translation>未选择扬声器</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>未连接</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. 请调高音量，并确认没有静音。</translation>

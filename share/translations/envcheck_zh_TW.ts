@@ -127,6 +127,10 @@
         <source></source>
         <translation>未選擇喇叭</translation>
     </message>
+    <message id="ID_Engine_NotConnected">
+        <source></source>
+        <translation>未連接</translation>
+    </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
         <translation>2. 請調高音量，並確認沒有靜音。</translation>

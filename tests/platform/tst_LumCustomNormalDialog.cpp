@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include <LumWidgets/LumCustomNormalDialog.h>
+#include <LumWidgets/LumMessageBox.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QPushButton>
 #include <QToolButton>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -55,6 +59,10 @@ private Q_SLOTS:
     void parentDestroyedEndsIt();
     void titleIsShownAsQtShowsIt();
     void ownTitleBar();
+    void focusStartsInTheCentre();
+    void crossShowsItsFocus();
+    void parentlessPopupsBelongToIt();
+    void questionHasNoPictures();
 };
 
 void tst_LumCustomNormalDialog::takesTheCentreOver()
@@ -176,6 +184,71 @@ void tst_LumCustomNormalDialog::ownTitleBar()
         QVERIFY(!dialog.findChild<QLabel*>("titleLabel"));
     }
     QVERIFY(!guard);
+}
+
+// The cross comes last by the Tab key.
+void tst_LumCustomNormalDialog::focusStartsInTheCentre()
+{
+    auto* center = new Center;
+    auto* first = new QPushButton("first", center);
+    auto* last = new QPushButton("last", center);
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QCOMPARE(dialog.focusWidget(), first);
+    QTest::keyClick(first, Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), last);
+    QTest::keyClick(last, Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), dialog.findChild<QWidget*>("closeButton"));
+}
+
+void tst_LumCustomNormalDialog::crossShowsItsFocus()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center;
+    new QPushButton("first", center);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* cross = dialog.findChild<QToolButton*>("closeButton");
+    const QPoint edge = cross->mapTo(&dialog, QPoint(cross->width() / 2, 0));
+    const int before = qGray(dialog.grab().toImage().pixel(edge));
+    cross->setFocus();
+    const int focused = qGray(dialog.grab().toImage().pixel(edge));
+    QVERIFY2(before > 200 && focused < 100, qPrintable(QString::number(focused)));
+}
+
+void tst_LumCustomNormalDialog::parentlessPopupsBelongToIt()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(new Center, false);
+    dialog.show();
+    QLabel popup("balloon", nullptr, Qt::Popup | Qt::FramelessWindowHint);
+    popup.show();
+    QVERIFY(popup.windowHandle());
+    QCOMPARE(popup.windowHandle()->transientParent(), dialog.windowHandle());
+    popup.hide();
+}
+
+void tst_LumCustomNormalDialog::questionHasNoPictures()
+{
+    int buttons = 0;
+    QTimer::singleShot(0, this, [&buttons] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        for (const QAbstractButton* button : box->buttons()) {
+            QVERIFY(button->icon().isNull());
+            ++buttons;
+        }
+        box->button(QMessageBox::No)->click();
+    });
+    const QMessageBox::StandardButton answer = LumMessageBox::question(
+        nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    QCOMPARE(answer, QMessageBox::No);
+    QCOMPARE(buttons, 2);
 }
 
 QTEST_MAIN(tst_LumCustomNormalDialog)

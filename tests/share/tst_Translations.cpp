@@ -105,7 +105,8 @@ constexpr Place PLACES[] = {
      12, 370},
     {"ID_MicrophonePage_MayNoisy ID_HeadsetPage_PleaseSelectTheAnswer", 17, 360},
     // Entries of the device lists.
-    {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected",
+    {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected "
+     "ID_Engine_NotConnected",
      12, 270},
     // Dialog, question and welcome page.
     {"ID_Kestrel_SystemTesting", 17, 300},

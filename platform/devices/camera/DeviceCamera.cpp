@@ -101,6 +101,17 @@ DeviceState DeviceCamera::state() const
     return m_openState == DeviceState::Working ? DeviceState::Silent : m_openState;
 }
 
+DeviceState DeviceCamera::stateOf(const QString& id) const
+{
+    if (m_isChosen && id == m_currentId) {
+        return state();
+    }
+    if (m_isDenied) {
+        return DeviceState::Denied;
+    }
+    return findDevice(id) == nullptr ? DeviceState::Absent : DeviceState::Ready;
+}
+
 bool DeviceCamera::delivers() const
 {
     return m_slot->delivers();

@@ -33,6 +33,7 @@ public:
     QString currentName() const override { return m_currentName; }
     void setCurrent(const QString& id) override;
     DeviceState state() const override;
+    DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
 
     void start() override;

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/DisplayTrial.h"
+
+// There always is one.
+DisplayTrial::DisplayTrial(int, char*[])
+{
+}
+
+DisplayTrial::~DisplayTrial() = default;

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class QWidget;
+
+// What a dialog's popups need from the window system, also those that were made without a parent:
+// to belong to the dialog, to be mapped at the place where they are put, and to show no black
+// corners where windows aren't blended. Watches all popups while it lives. GUI thread only.
+class DialogPopups : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(DialogPopups)
+
+public:
+    explicit DialogPopups(QWidget* dialog);
+    ~DialogPopups() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void prepare(QWidget& popup, int type); // an event's type
+    void adopt(QWidget& popup);
+    void mapAnew(QWidget& popup);
+
+    QPointer<QWidget> m_dialog;
+    bool m_isMapping = false;
+};
