@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/ReportFile.h"
 
+#include "host/report/ReportJson.h"
 #include "platform/backend/FileNames.h"
 
 #include <QDir>
