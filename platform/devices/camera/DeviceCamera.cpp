@@ -109,7 +109,7 @@ DeviceState DeviceCamera::stateOf(const QString& id) const
     if (m_isDenied) {
         return DeviceState::Denied;
     }
-    return findDevice(id) == nullptr ? DeviceState::Absent : DeviceState::Ready;
+    return findDevice(m_devices, id) ? DeviceState::Ready : DeviceState::Absent;
 }
 
 bool DeviceCamera::delivers() const
