@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/report/Report.h"
+#include "host/report/ReportJson.h"
 #include "tests/window/DisplayServer.h"
 
 #include <QJsonArray>
@@ -128,7 +128,7 @@ void tst_DisplayLoss::answersAreReported()
     QVERIFY2(output.contains("envcheck: the display has gone"), output.constData());
     QVERIFY2(!output.contains("connection"), output.constData()); // Qt's own words
     QString error;
-    QVERIFY2(Report::fromJson(report(), &error), qPrintable(error));
+    QVERIFY2(ReportJson::fromJson(report(), &error), qPrintable(error));
     const QJsonArray checks = report().value(QStringLiteral("checks")).toArray();
     const QString passed = QStringLiteral("passed");
     QCOMPARE(checks.at(0).toObject().value(QStringLiteral("verdict")).toString(), passed);
@@ -170,7 +170,7 @@ void tst_DisplayLoss::closedTerminal()
     QVERIFY(WIFEXITED(status));
     QCOMPARE(WEXITSTATUS(status), 2);
     QString error;
-    QVERIFY2(Report::fromJson(report(), &error), qPrintable(error));
+    QVERIFY2(ReportJson::fromJson(report(), &error), qPrintable(error));
 }
 
 void tst_DisplayLoss::nohup()
