@@ -20,7 +20,7 @@ import kit  # noqa: E402
 import measure  # noqa: E402
 import render  # noqa: E402
 
-SHIPPED = TREE / "host" / "sounds"
+SHIPPED = TREE / "share" / "sounds"
 RECORD = pathlib.Path(__file__).with_name("recorded.json")
 
 
