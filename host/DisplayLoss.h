@@ -4,7 +4,7 @@
 
 #include <functional>
 
-// Qt ends the program at once where the display server goes away, in the middle of an event. Its
+// Qt ends the program at once if the display server goes away, in the middle of an event. Its
 // last word is a warning: while this lives, that is the moment to save what there is, and the
 // program ends with ExitCode::Unavailable. One at a time, GUI thread only.
 class DisplayLoss

@@ -4,13 +4,13 @@
 
 #include <QString>
 
-// Qt ends the program where it finds no display. So that is tried in a process of its own, before
+// Qt ends the program if it finds no display. So that is tried in a process of its own, before
 // the application object is made. Some X servers start anew when their last client leaves: the
 // trial stays connected until it is destroyed, which is after the application object is made.
 class DisplayTrial
 {
 public:
-    // Chooses the kind of display that works where the environment leaves that open.
+    // Chooses the kind of display that works, if the environment leaves that open.
     DisplayTrial(int argc, char* argv[]);
     ~DisplayTrial();
     DisplayTrial(const DisplayTrial&) = delete;
