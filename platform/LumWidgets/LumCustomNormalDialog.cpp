@@ -28,6 +28,13 @@ const char* const CloseButtonStyle =
     "QToolButton:hover{background:#F0F0F0;}"
     "QToolButton:focus{background:#F0F0F0;border:2px solid #232323;}";
 
+void destroyNativeWindow(const QWidget& widget)
+{
+    if (QWindow* window = widget.windowHandle()) {
+        window->destroy();
+    }
+}
+
 } // namespace
 
 ICustomedTitleBar::~ICustomedTitleBar() = default;
@@ -204,6 +211,12 @@ void LumCustomNormalDialog::abandon()
         question->reject();
     }
     done(Rejected);
+    // Windows destroys a native window together with its owner, and Qt warns of that. So they go
+    // first, the questions before the dialog that owns them.
+    for (const QDialog* question : questions) {
+        destroyNativeWindow(*question);
+    }
+    destroyNativeWindow(*this);
 }
 
 bool LumCustomNormalDialog::askCenterToClose()
