@@ -332,14 +332,14 @@ void HeadsetPage::onDeviceListChanged()
 
 void HeadsetPage::onCurrentDeviceChanged(const QString& deviceId)
 {
-    const int volume = m_speaker.getVolume();
-    const bool isWorking = m_speaker.isWorking();
     QCustomComboBox* combo = ui->cb_ad_output_name;
     const auto indexOf = [combo](const QString& id) {
         return combo->findData(id, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
     };
     const QString noneText =
         indexOf(deviceId) >= 0 ? QString() : LumSpeaker::getNoneDeviceText(false);
+    const int volume = m_speaker.getVolume();
+    const bool isWorking = m_speaker.isWorking();
     ignoreComboBox();
     const bool isListed = indexOf(deviceId) >= 0;
     const bool isPresent = isListed && deviceId != HardwareMgrInterface::NoneDevice;
