@@ -69,6 +69,7 @@ AudioPlayer::AudioPlayer(const QString& path, float volume)
 
 AudioPlayer::~AudioPlayer() = default;
 
+// Clients know the signature. NOLINTNEXTLINE(performance-unnecessary-value-param)
 AudioPlayer* CreateAudioPlayer(AudioPlayerType /*type*/, QString path, float volume, char* /*data*/,
                                int /*size*/, bool /*loop*/, bool /*fadeIn*/)
 {

@@ -18,7 +18,7 @@ namespace Platform {
 namespace {
 
 constexpr int IdleThreadMs = 200;
-constexpr qint64 MaxPresentBytes = 16 * 1024 * 1024;
+constexpr qint64 MaxPresentBytes = qint64(16) * 1024 * 1024;
 
 class WriterPool : public QThreadPool
 {

@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-constexpr size_t BufferSize = 64 * 1024;
+constexpr size_t BufferSize = size_t(64) * 1024;
 
 } // namespace
 

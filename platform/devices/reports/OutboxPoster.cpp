@@ -17,7 +17,7 @@ namespace Platform {
 
 namespace {
 
-constexpr qint64 MaxReportBytes = 64 * 1024;
+constexpr qint64 MaxReportBytes = qint64(64) * 1024;
 constexpr int FirstSuccess = 200;
 constexpr int FirstBeyondSuccess = 300;
 

@@ -7,7 +7,6 @@
 #include <functional>
 #include <memory>
 
-// GStreamer's own names. NOLINTNEXTLINE(bugprone-reserved-identifier)
 typedef struct _GstElement GstElement;
 
 namespace Platform {

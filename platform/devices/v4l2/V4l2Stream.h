@@ -9,7 +9,6 @@
 #include <QThread>
 #include <atomic>
 
-// GStreamer's own names. NOLINTNEXTLINE(bugprone-reserved-identifier)
 typedef struct _GstSample GstSample;
 
 namespace Platform {
