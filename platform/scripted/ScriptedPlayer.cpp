@@ -16,7 +16,7 @@ namespace {
 // The shipped sounds are encoded at a constant rate.
 constexpr qint64 BitsPerMs = 192;
 constexpr qint64 BitsPerByte = 8;
-constexpr qint64 MaxLengthMs = 60 * 1000;
+constexpr qint64 MaxLengthMs = qint64(60) * 1000;
 
 int lengthOf(const ScriptedSpeakers& speakers, const QFileInfo& file)
 {
