@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// Where the program keeps its files. None of these paths may exist yet.
+// The folders for the files of the program. They need not exist yet.
 namespace Folders {
 
 QString data();         // settings, journal, outbox

@@ -66,7 +66,7 @@ void setCaption(QCustomComboBox* combo, const QString& caption)
 }
 
 // Each is put right behind the box, the last one to begin with: Qt leaves alone what follows
-// already, even where it does so around the end of the page. A line edit that came late stands
+// already, even if that wraps around the end of the page. A line edit that was made late stands
 // elsewhere than its box, and it is what Qt puts them behind.
 void setTabOrder(QCustomComboBox* combo, std::initializer_list<QWidget*> rest)
 {

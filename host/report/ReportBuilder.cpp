@@ -94,7 +94,7 @@ Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpen
     return notMeasured(key, ReportWords::of(isIdle ? *state : Reason::NotRecorded));
 }
 
-// Without an opened camera nobody counted frames.
+// Frames are only counted while a camera is open.
 bool isUncounted(FigureName name, const QJsonObject& figures)
 {
     return name == FigureName::Pictures && figures.value(ReportWords::of(name)).toDouble() == 0 &&

@@ -54,7 +54,7 @@ const std::vector<Word<Answer>>& table()
     return words;
 }
 
-// Shown for the speaker only, where it says whether the right sound was picked.
+// Shown for the speaker only: it says whether the right sound was picked.
 template <>
 const std::vector<Word<SeenState>>& table()
 {
