@@ -25,6 +25,7 @@ private Q_SLOTS:
     void helpAndVersion();
     void wrongOnes_data();
     void wrongOnes();
+    void helpNamesEveryCommand();
     void helpNamesEveryOption_data();
     void helpNamesEveryOption();
 };
@@ -255,6 +256,16 @@ void tst_Options::wrongOnes()
     const Options options = parsed(words(qPrintable(arguments)));
     QVERIFY2(options.error.contains(named), qPrintable(options.error));
     QVERIFY(!options.error.contains(QLatin1Char('\n')));
+}
+
+void tst_Options::helpNamesEveryCommand()
+{
+    const QString help = Options::helpText(Options::Command::Check);
+    for (const char* command : {"devices", "network", "serve", "report"}) {
+        const QRegularExpression line(QStringLiteral("^  %1 +\\S").arg(command),
+                                      QRegularExpression::MultilineOption);
+        QVERIFY2(help.contains(line), command);
+    }
 }
 
 void tst_Options::helpNamesEveryOption_data()
