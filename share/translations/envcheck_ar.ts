@@ -257,7 +257,7 @@
     </message>
     <message id="ID_Host_Devices_None">
         <source></source>
-        <translation>لم يتم العثور على شيء</translation>
+        <translation>لم يتم العثور على أي جهاز</translation>
     </message>
     <message id="ID_Host_Devices_NotBuilt">
         <source></source>
@@ -281,7 +281,7 @@
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
-        <translation>نجح كل شيء</translation>
+        <translation>كل شيء سليم</translation>
     </message>
     <message id="ID_Host_Exit_BadInput">
         <source></source>
@@ -297,11 +297,11 @@
     </message>
     <message id="ID_Host_Exit_PutOut">
         <source></source>
-        <translation>أنهى الفصل الجلسة</translation>
+        <translation>أنهى الصف الجلسة</translation>
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>لم ينجح أحد الفحوص</translation>
+        <translation>أحد الفحوص غير سليم</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -317,11 +317,11 @@
     </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>المجسات المُجاب عنها</translation>
+        <translation>حزم الاختبار المُجاب عنها</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>أعلى تردد مسموع</translation>
+        <translation>أعلى تردد ملتقط</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -377,11 +377,11 @@
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
-        <translation>تذبذب التأخير</translation>
+        <translation>تذبذب التأخر</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
-        <translation>فقدان الحزم</translation>
+        <translation>فقد الحزم</translation>
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
@@ -401,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>التأخير في اتجاه واحد (نصف الذهاب والإياب)</translation>
+        <translation>التأخر في اتجاه واحد (نصف الذهاب والإياب)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -421,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>المجسات المُرسلة</translation>
+        <translation>حزم الاختبار المُرسلة</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>سُمع صوت</translation>
+        <translation>التُقط صوت</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -605,7 +605,7 @@
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>لا يوجد فحص سابق نجح فيه كل شيء.</translation>
+        <translation>لا يوجد فحص سابق كان فيه كل شيء سليمًا.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -717,15 +717,15 @@
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
-        <translation>غودر قبل النهاية</translation>
+        <translation>غادر المستخدم قبل النهاية</translation>
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>نجح كل شيء</translation>
+        <translation>كل شيء سليم</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>أنهى الفصل الجلسة</translation>
+        <translation>أنهى الصف الجلسة</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>كانت الأجهزة محاكاة وليست أجهزة هذا الحاسوب.</translation>
+        <translation>كانت الأجهزة محاكاة وليست أجهزة هذا الكمبيوتر.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -841,7 +841,7 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>الجهاز والحساب</translation>
+        <translation>الكمبيوتر والحساب</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
@@ -1129,7 +1129,7 @@
     </message>
     <message id="ID_Skip">
         <source></source>
-        <translation>تخطٍّ</translation>
+        <translation>تخطي</translation>
     </message>
     <message id="ID_Volume">
         <source></source>

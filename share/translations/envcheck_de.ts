@@ -225,19 +225,19 @@
     </message>
     <message id="ID_HeadsetPage_sound0">
         <source></source>
-        <translation>Ton 1</translation>
+        <translation>Geräusch 1</translation>
     </message>
     <message id="ID_HeadsetPage_sound1">
         <source></source>
-        <translation>Ton 2</translation>
+        <translation>Geräusch 2</translation>
     </message>
     <message id="ID_HeadsetPage_sound2">
         <source></source>
-        <translation>Ton 3</translation>
+        <translation>Geräusch 3</translation>
     </message>
     <message id="ID_HeadsetPage_sound3">
         <source></source>
-        <translation>Ton 4</translation>
+        <translation>Geräusch 4</translation>
     </message>
     <message id="ID_Host_Changes">
         <source></source>
@@ -317,11 +317,11 @@
     </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>Beantwortete Proben</translation>
+        <translation>Beantwortete Messpakete</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>Höchste gehörte Frequenz</translation>
+        <translation>Höchste aufgenommene Frequenz</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -385,7 +385,7 @@
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
-        <translation>Lautstärke vom Nutzer geändert</translation>
+        <translation>Lautstärke vom Benutzer geändert</translation>
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
@@ -421,15 +421,15 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>Gesendete Proben</translation>
+        <translation>Gesendete Messpakete</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Ton gehört</translation>
+        <translation>Ton aufgenommen</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
-        <translation>Gespielter Ton</translation>
+        <translation>Abgespieltes Geräusch</translation>
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
@@ -461,7 +461,7 @@
     </message>
     <message id="ID_Host_File_NoReport">
         <source></source>
-        <translation>%1 ist kein Bericht in JSON (%2); nennen Sie einen, den ein Lauf geschrieben hat</translation>
+        <translation>%1 ist kein Bericht in JSON (%2); nennen Sie einen, den eine Prüfung geschrieben hat</translation>
     </message>
     <message id="ID_Host_File_NoRight">
         <source></source>
@@ -473,7 +473,7 @@
     </message>
     <message id="ID_Host_File_NotRead">
         <source></source>
-        <translation>%1 lässt sich nicht lesen: %2; nennen Sie einen Bericht, den ein Lauf geschrieben hat</translation>
+        <translation>%1 lässt sich nicht lesen: %2; nennen Sie einen Bericht, den eine Prüfung geschrieben hat</translation>
     </message>
     <message id="ID_Host_File_NotWritten">
         <source></source>
@@ -485,43 +485,43 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>Nein geantwortet, aber es kamen bewegte Bilder.</translation>
+        <translation>Mit Nein geantwortet, aber es kamen bewegte Bilder.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Nein geantwortet, aber das Mikrofon hörte etwas.</translation>
+        <translation>Mit Nein geantwortet, aber das Mikrofon nahm Ton auf.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>Nein geantwortet, aber den richtigen Ton gewählt.</translation>
+        <translation>Mit Nein geantwortet, aber das richtige Geräusch gewählt.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>Ja zu einem schwarzen Bild geantwortet.</translation>
+        <translation>Mit Ja geantwortet, obwohl das Bild schwarz war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>Ja zu einem eingefrorenen Bild geantwortet.</translation>
+        <translation>Mit Ja geantwortet, obwohl das Bild eingefroren war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Ja geantwortet, obwohl der Lautsprecher stumm war.</translation>
+        <translation>Mit Ja geantwortet, obwohl der Lautsprecher stumm war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Ja geantwortet, aber das Mikrofon hörte nichts.</translation>
+        <translation>Mit Ja geantwortet, aber das Mikrofon nahm nichts auf.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>Ja geantwortet, aber nicht den richtigen Ton gewählt.</translation>
+        <translation>Mit Ja geantwortet, aber nicht das richtige Geräusch gewählt.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>Ja geantwortet, aber es kamen keine Bilder.</translation>
+        <translation>Mit Ja geantwortet, aber es kamen keine Bilder.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
-        <translation>Netzqualität</translation>
+        <translation>Netzwerkqualität</translation>
     </message>
     <message id="ID_Host_Grade_Fair">
         <source></source>
@@ -565,7 +565,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Ein Bericht, den ein Lauf geschrieben hat.</translation>
+        <translation>Ein Bericht, den eine Prüfung geschrieben hat.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Ohne Befehl öffnet sich die Prüfung. Jeder Befehl hat seine eigene --help.</translation>
+        <translation>Ohne Befehl öffnet sich die Prüfung. Jeder Befehl hat seine eigene Hilfe (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -581,11 +581,11 @@
     </message>
     <message id="ID_Host_Help_Report">
         <source></source>
-        <translation>Zeigt Berichte früherer Läufe als Text, HTML oder JSON, oder mehrere als eine Tabelle.</translation>
+        <translation>Zeigt Berichte früherer Prüfungen als Text, HTML oder JSON, oder mehrere als eine Tabelle.</translation>
     </message>
     <message id="ID_Host_Help_Serve">
         <source></source>
-        <translation>Beantwortet als kleiner STUN-Server die Messungen anderer Rechner, bis er beendet wird.</translation>
+        <translation>Beantwortet als kleiner STUN-Server die Messungen anderer Computer, bis er beendet wird.</translation>
     </message>
     <message id="ID_Host_Help_Usage">
         <source></source>
@@ -601,11 +601,11 @@
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Letzter guter Lauf</translation>
+        <translation>Letzte bestandene Prüfung</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Es gibt keinen früheren Lauf, in dem alles bestanden wurde.</translation>
+        <translation>Es gibt keine frühere Prüfung, in der alles bestanden wurde.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -613,7 +613,7 @@
     </message>
     <message id="ID_Host_Network_Ends">
         <source></source>
-        <translation>Server %1, dieser Rechner %2</translation>
+        <translation>Server %1, dieser Computer %2</translation>
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ID_Host_Option_Platform">
         <source></source>
-        <translation>Geräte, die geprüft werden: devices (die dieses Rechners, Standard) oder scripted (simulierte).</translation>
+        <translation>Geräte, die geprüft werden: devices (die dieses Computers, Standard) oder scripted (simulierte).</translation>
     </message>
     <message id="ID_Host_Option_Port">
         <source></source>
@@ -697,7 +697,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>STUN-Server, zu dem Verzögerung und Paketverlust gemessen werden, auch als stun:HOST:PORT; der Port ist sonst 3478. Ohne Server antwortet ein kleiner Testserver auf diesem Rechner, was nichts über das Netzwerk sagt.</translation>
+        <translation>STUN-Server, zu dem Verzögerung und Paketverlust gemessen werden, auch als stun:HOST:PORT; der Port ist sonst 3478. Ohne Server antwortet ein kleiner Testserver auf diesem Computer, was nichts über das Netzwerk sagt.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -733,11 +733,11 @@
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
-        <translation>kein Gerät da</translation>
+        <translation>es ist kein Gerät da</translation>
     </message>
     <message id="ID_Host_Reason_Busy">
         <source></source>
-        <translation>ein anderes Programm hält das Gerät</translation>
+        <translation>ein anderes Programm belegt das Gerät</translation>
     </message>
     <message id="ID_Host_Reason_Denied">
         <source></source>
@@ -757,7 +757,7 @@
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
-        <translation>die Engine zeichnet es nicht auf</translation>
+        <translation>die Engine zeichnet diesen Wert nicht auf</translation>
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>ein gespieltes Gerät hat diesen Wert nicht</translation>
+        <translation>ein simuliertes Gerät hat diesen Wert nicht</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -777,7 +777,7 @@
     </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
-        <translation>Adressen, Namen und Konten sind durch kurze Kürzel ersetzt.</translation>
+        <translation>Adressen, Namen und Konten sind durch kurze Codes ersetzt.</translation>
     </message>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
@@ -785,7 +785,7 @@
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
-        <translation>Der Bericht steht in %1</translation>
+        <translation>Der Bericht liegt in %1</translation>
     </message>
     <message id="ID_Host_Report_Answer">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Ergebnis</translation>
+        <translation>Gesamtergebnis</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -825,15 +825,15 @@
     </message>
     <message id="ID_Host_Report_Result">
         <source></source>
-        <translation>Befund</translation>
+        <translation>Ergebnis</translation>
     </message>
     <message id="ID_Host_Report_RightSound">
         <source></source>
-        <translation>Richtiger Ton gewählt</translation>
+        <translation>Richtiges Geräusch gewählt</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Die Geräte waren gespielt, nicht die dieses Rechners.</translation>
+        <translation>Die Geräte waren simuliert, nicht die dieses Computers.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -841,11 +841,11 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>Rechner und Konto</translation>
+        <translation>Computer und Konto</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Zeit</translation>
+        <translation>Zeitpunkt</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
@@ -853,7 +853,7 @@
     </message>
     <message id="ID_Host_Serve_Answering">
         <source></source>
-        <translation>Antwortet auf UDP-Port %1. Andere Rechner messen den Weg hierher mit --server stun:HOST:%1</translation>
+        <translation>Antwortet auf UDP-Port %1. Andere Computer messen den Weg hierher mit --server stun:HOST:%1</translation>
     </message>
     <message id="ID_Host_Serve_NoPort">
         <source></source>

@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>The devices were scripted ones, not this machine’s.</translation>
+        <translation>The devices were scripted ones, not this machine's.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>

@@ -401,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Retardo de ida (mitad de la ida y vuelta)</translation>
+        <translation>Latencia de ida (mitad de la ida y vuelta)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -553,7 +553,7 @@
     </message>
     <message id="ID_Host_Help_Commands">
         <source></source>
-        <translation>Órdenes:</translation>
+        <translation>Comandos:</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Sin ninguna orden se abre la comprobación. Cada orden tiene su propia --help.</translation>
+        <translation>Sin ningún comando se abre la comprobación. Cada comando tiene su propia ayuda (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -609,7 +609,7 @@
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
-        <translation>la medición falló: %1</translation>
+        <translation>no se pudo medir: %1</translation>
     </message>
     <message id="ID_Host_Network_Ends">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, enviados %4, respondidos %5: %6</translation>
+        <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, enviadas %4, respondidas %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>sin respuesta, pérdida %1 %, enviados %2, respondidos %3</translation>
+        <translation>sin respuesta, pérdida %1 %, enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -745,7 +745,7 @@
     </message>
     <message id="ID_Host_Reason_Failed">
         <source></source>
-        <translation>el dispositivo falló</translation>
+        <translation>el dispositivo ha fallado</translation>
     </message>
     <message id="ID_Host_Reason_Hung">
         <source></source>
@@ -761,7 +761,7 @@
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
-        <translation>el dispositivo está desactivado</translation>
+        <translation>el dispositivo está apagado</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Resultado</translation>
+        <translation>Resultado general</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -845,7 +845,7 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Fecha</translation>
+        <translation>Fecha y hora</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
@@ -961,7 +961,7 @@
     </message>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
-        <translation>orden desconocida «%1»: vea --help</translation>
+        <translation>comando desconocido «%1»: vea --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -1137,7 +1137,7 @@
     </message>
     <message id="ID_WelcomePage_StartTest">
         <source></source>
-        <translation>Empezar la prueba</translation>
+        <translation>Iniciar la comprobación</translation>
     </message>
     <message id="ID_WelcomePage_Welcome">
         <source></source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="ID_CameraPage_1">
         <source></source>
-        <translation>1. Vérifiez que l'appareil est branché et choisi dans la liste.</translation>
+        <translation>1. Vérifiez que l’appareil est branché et choisi dans la liste.</translation>
     </message>
     <message id="ID_CameraPage_2">
         <source></source>
@@ -13,7 +13,7 @@
     </message>
     <message id="ID_CameraPage_3">
         <source></source>
-        <translation>3. Ouvrez le cache de l'objectif ou allumez la caméra.</translation>
+        <translation>3. Ouvrez le cache de l’objectif ou allumez la caméra.</translation>
     </message>
     <message id="ID_CameraPage_4">
         <source></source>
@@ -21,7 +21,7 @@
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
-        <translation>5. Redémarrez l'ordinateur ou essayez un autre appareil.</translation>
+        <translation>5. Redémarrez l’ordinateur ou essayez un autre appareil.</translation>
     </message>
     <message id="ID_CameraPage_Camera">
         <source></source>
@@ -49,7 +49,7 @@
     </message>
     <message id="ID_CameraPage_NoCameraImageWasDetected">
         <source></source>
-        <translation>La caméra ne donne pas d'image</translation>
+        <translation>La caméra ne donne pas d’image</translation>
     </message>
     <message id="ID_CameraPage_NotDetected">
         <source></source>
@@ -93,7 +93,7 @@
     </message>
     <message id="ID_CheckResultPage_OK">
         <source></source>
-        <translation>Vous êtes prêt pour le cours.</translation>
+        <translation>Tout est prêt pour le cours.</translation>
     </message>
     <message id="ID_CheckResultPage_Redetect">
         <source></source>
@@ -105,7 +105,7 @@
     </message>
     <message id="ID_ContentPage_NotFinishedIfLeave">
         <source></source>
-        <translation>La vérification n'est pas terminée. Voulez-vous quitter ?</translation>
+        <translation>La vérification n’est pas terminée. Voulez-vous quitter ?</translation>
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
@@ -133,7 +133,7 @@
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
-        <translation>2. Augmentez le volume et vérifiez que le son n'est pas coupé.</translation>
+        <translation>2. Augmentez le volume et vérifiez que le son n’est pas coupé.</translation>
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
@@ -149,19 +149,19 @@
     </message>
     <message id="ID_HeadsetPage_CanHear">
         <source></source>
-        <translation>Oui, j'entends</translation>
+        <translation>Oui, j’entends</translation>
     </message>
     <message id="ID_HeadsetPage_CanNotHear">
         <source></source>
-        <translation>Je n'entends pas</translation>
+        <translation>Je n’entends pas</translation>
     </message>
     <message id="ID_HeadsetPage_ChoseWrong">
         <source></source>
-        <translation>Le bon son n'a pas été choisi</translation>
+        <translation>Le bon son n’a pas été choisi</translation>
     </message>
     <message id="ID_HeadsetPage_ClickHere">
         <source></source>
-        <translation>Vous n'entendez pas le son ? Cliquez ici</translation>
+        <translation>Vous n’entendez pas le son ? Cliquez ici</translation>
     </message>
     <message id="ID_HeadsetPage_Doorbell">
         <source></source>
@@ -217,7 +217,7 @@
     </message>
     <message id="ID_HeadsetPage_choseNo">
         <source></source>
-        <translation>Vous n'entendez pas le son</translation>
+        <translation>Vous n’entendez pas le son</translation>
     </message>
     <message id="ID_HeadsetPage_play">
         <source></source>
@@ -337,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>Périphérique par défaut après</translation>
+        <translation>Appareil par défaut après</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>Périphérique par défaut avant</translation>
+        <translation>Appareil par défaut avant</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -369,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>Fréquence du ronflement</translation>
+        <translation>Fréquence du ronflement secteur</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>Ronflement dans le bruit</translation>
+        <translation>Ronflement secteur dans le bruit</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -389,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Muet après</translation>
+        <translation>Son coupé après</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Muet avant</translation>
+        <translation>Son coupé avant</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -401,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Délai aller (moitié de l’aller-retour)</translation>
+        <translation>Latence aller (moitié de l’aller-retour)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Réponse « oui » alors que le haut-parleur était muet.</translation>
+        <translation>Réponse « oui » alors que le son du haut-parleur était coupé.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Sans commande, la vérification s’ouvre. Chaque commande a sa propre --help.</translation>
+        <translation>Sans commande, la vérification s’ouvre. Chaque commande a sa propre aide (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -601,11 +601,11 @@
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Dernier contrôle réussi</translation>
+        <translation>Dernière vérification réussie</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Aucun contrôle antérieur n’a entièrement réussi.</translation>
+        <translation>Aucune vérification antérieure n’a entièrement réussi.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>latence %1 ms, gigue %2 ms, perte %3 %, envoyés %4, réponses %5 : %6</translation>
+        <translation>latence %1 ms, gigue %2 ms, perte %3 %, sondes envoyées %4, avec réponse %5 : %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>pas de réponse, perte %1 %, envoyés %2, réponses %3</translation>
+        <translation>pas de réponse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -845,11 +845,11 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Date</translation>
+        <translation>Date et heure</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
-        <translation>Rapport du contrôle du système</translation>
+        <translation>Rapport de la vérification du système</translation>
     </message>
     <message id="ID_Host_Serve_Answering">
         <source></source>
@@ -1009,7 +1009,7 @@
     </message>
     <message id="ID_MicrophonePage_CanHearOrSee">
         <source></source>
-        <translation>J'entends et je vois</translation>
+        <translation>J’entends et je vois</translation>
     </message>
     <message id="ID_MicrophonePage_CanNotHearOrSee">
         <source></source>

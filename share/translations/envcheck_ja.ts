@@ -281,7 +281,7 @@
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
-        <translation>すべて合格</translation>
+        <translation>すべて正常</translation>
     </message>
     <message id="ID_Host_Exit_BadInput">
         <source></source>
@@ -301,7 +301,7 @@
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>不合格のチェックがある</translation>
+        <translation>異常のあるチェックがある</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -337,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>終了時の既定デバイス</translation>
+        <translation>終了時の既定の機器</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>開始時の既定デバイス</translation>
+        <translation>開始時の既定の機器</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -409,7 +409,7 @@
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>映像の枚数</translation>
+        <translation>映像のフレーム数</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
@@ -473,11 +473,11 @@
     </message>
     <message id="ID_Host_File_NotRead">
         <source></source>
-        <translation>%1 を読み込めません: %2。チェックが書き出したレポートを指定してください</translation>
+        <translation>%1 を読み込めません：%2。チェックが書き出したレポートを指定してください</translation>
     </message>
     <message id="ID_Host_File_NotWritten">
         <source></source>
-        <translation>%1 に書き込めません: %2</translation>
+        <translation>%1 に書き込めません：%2</translation>
     </message>
     <message id="ID_Host_File_TooLarge">
         <source></source>
@@ -545,7 +545,7 @@
     </message>
     <message id="ID_Host_Help_Arguments">
         <source></source>
-        <translation>引数:</translation>
+        <translation>引数：</translation>
     </message>
     <message id="ID_Host_Help_Check">
         <source></source>
@@ -553,7 +553,7 @@
     </message>
     <message id="ID_Host_Help_Commands">
         <source></source>
-        <translation>コマンド:</translation>
+        <translation>コマンド：</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
@@ -561,7 +561,7 @@
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
-        <translation>終了コード:</translation>
+        <translation>終了コード：</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
@@ -577,7 +577,7 @@
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
-        <translation>オプション:</translation>
+        <translation>オプション：</translation>
     </message>
     <message id="ID_Host_Help_Report">
         <source></source>
@@ -585,11 +585,11 @@
     </message>
     <message id="ID_Host_Help_Serve">
         <source></source>
-        <translation>小さな STUN サーバーとして、停止されるまで他の端末の測定に応答します。</translation>
+        <translation>小さな STUN サーバーとして、停止されるまでほかのパソコンの測定に応答します。</translation>
     </message>
     <message id="ID_Host_Help_Usage">
         <source></source>
-        <translation>使い方: %1</translation>
+        <translation>使い方：%1</translation>
     </message>
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
@@ -597,27 +597,27 @@
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
-        <translation>--language %1: この言語のテキストはありません。次から指定してください: %2</translation>
+        <translation>--language %1：この言語のテキストはありません。次から指定してください：%2</translation>
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>前回の正常な実行</translation>
+        <translation>前回すべて正常だったチェック</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>すべて合格した以前の実行はありません。</translation>
+        <translation>すべて正常だった以前のチェックはありません。</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
-        <translation>測定失敗: %1</translation>
+        <translation>測定失敗：%1</translation>
     </message>
     <message id="ID_Host_Network_Ends">
         <source></source>
-        <translation>サーバー %1、この端末 %2</translation>
+        <translation>サーバー %1、このパソコン %2</translation>
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>遅延 %1 ms、ジッター %2 ms、パケット損失 %3%、送信 %4、応答 %5: %6</translation>
+        <translation>遅延 %1 ms、ジッター %2 ms、パケット損失 %3%、送信 %4、応答 %5：%6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
@@ -633,7 +633,7 @@
     </message>
     <message id="ID_Host_NotMeasured">
         <source></source>
-        <translation>未測定: %1</translation>
+        <translation>未測定：%1</translation>
     </message>
     <message id="ID_Host_Option_Account">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ID_Host_Option_Platform">
         <source></source>
-        <translation>チェックする機器: devices（この端末の機器、既定）または scripted（台本による機器）。</translation>
+        <translation>チェックする機器: devices（このパソコンの機器、既定）または scripted（シミュレーション）。</translation>
     </message>
     <message id="ID_Host_Option_Port">
         <source></source>
@@ -677,7 +677,7 @@
     </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
-        <translation>省く情報: none（なし、既定）、personal（アドレス、名前、アカウント）、または hash（短い記号に置き換え）。</translation>
+        <translation>省く情報：none（なし、既定）、personal（アドレス、名前、アカウント）、または hash（短い記号に置き換え）。</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
@@ -693,11 +693,11 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>機器の台本: ファイル、または all-well など付属の台本の名前。--platform scripted も指定したことになります。</translation>
+        <translation>シミュレーションの内容: ファイル、または all-well など付属シナリオの名前。--platform scripted も指定したことになります。</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>遅延とパケット損失を測定する相手の STUN サーバー。stun:HOST:PORT とも書けます。ポートの既定は 3478。サーバーを指定しないとこの端末自身が応答するため、ネットワークの状態は分かりません。</translation>
+        <translation>遅延とパケット損失を測定する相手の STUN サーバー。stun:HOST:PORT とも書けます。ポートの既定は 3478。サーバーを指定しないとこのパソコン自身が応答するため、ネットワークの状態は分かりません。</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -705,7 +705,7 @@
     </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
-        <translation>ログを端末にも出力します。</translation>
+        <translation>ログをターミナルにも出力します。</translation>
     </message>
     <message id="ID_Host_Option_Version">
         <source></source>
@@ -721,7 +721,7 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>すべて合格</translation>
+        <translation>すべて正常</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
@@ -737,11 +737,11 @@
     </message>
     <message id="ID_Host_Reason_Busy">
         <source></source>
-        <translation>別のプログラムが使用中</translation>
+        <translation>別のプログラムが使用しています</translation>
     </message>
     <message id="ID_Host_Reason_Denied">
         <source></source>
-        <translation>システムが使用を拒否</translation>
+        <translation>システムが使用を拒否しました</translation>
     </message>
     <message id="ID_Host_Reason_Failed">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>台本による機器にこの値はありません</translation>
+        <translation>シミュレーションの機器にこの値はありません</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -785,7 +785,7 @@
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
-        <translation>レポート: %1</translation>
+        <translation>レポート：%1</translation>
     </message>
     <message id="ID_Host_Report_Answer">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>機器は台本によるもので、この端末のものではありません。</translation>
+        <translation>機器はシミュレーションで、このパソコンのものではありません。</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -841,7 +841,7 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>端末とアカウント</translation>
+        <translation>パソコンとアカウント</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
@@ -853,11 +853,11 @@
     </message>
     <message id="ID_Host_Serve_Answering">
         <source></source>
-        <translation>UDP ポート %1 で応答しています。ほかの端末からは --server stun:HOST:%1 でここまでの経路を測定できます</translation>
+        <translation>UDP ポート %1 で応答しています。ほかのパソコンからは --server stun:HOST:%1 でここまでの経路を測定できます</translation>
     </message>
     <message id="ID_Host_Serve_NoPort">
         <source></source>
-        <translation>UDP ポート %1 で応答できません: %2。--port で別のポートを選んでください</translation>
+        <translation>UDP ポート %1 で応答できません：%2。--port で別のポートを選んでください</translation>
     </message>
     <message id="ID_Host_Serve_NotBuilt">
         <source></source>
@@ -905,11 +905,11 @@
     </message>
     <message id="ID_Host_Takes_OneOf">
         <source></source>
-        <translation>次のいずれか: %1</translation>
+        <translation>次のいずれか：%1</translation>
     </message>
     <message id="ID_Host_Takes_Server">
         <source></source>
-        <translation>HOST または HOST:PORT（先頭に stun: を付けてもよい。例: stun:stun.example.org:3478）</translation>
+        <translation>HOST または HOST:PORT（先頭に stun：を付けてもよい。例：stun:stun.example.org:3478）</translation>
     </message>
     <message id="ID_Host_Takes_WebAddress">
         <source></source>
@@ -921,11 +921,11 @@
     </message>
     <message id="ID_Host_Tour_NoFolder">
         <source></source>
-        <translation>--tour %1: このフォルダーを作成できません。別のフォルダーを指定してください</translation>
+        <translation>--tour %1：このフォルダーを作成できません。別のフォルダーを指定してください</translation>
     </message>
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
-        <translation>%1: %2。別のフォルダーを指定してください</translation>
+        <translation>%1：%2。別のフォルダーを指定してください</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>
@@ -953,7 +953,7 @@
     </message>
     <message id="ID_Host_Usage_Takes">
         <source></source>
-        <translation>--%1 %2: 指定できるのは %3</translation>
+        <translation>--%1 %2：指定できるのは %3</translation>
     </message>
     <message id="ID_Host_Usage_TheCheck">
         <source></source>
@@ -993,7 +993,7 @@
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
-        <translation>2. マイクのスイッチやミュートキーで消音を解除してください。</translation>
+        <translation>2. スイッチやキーでマイクのミュートを解除してください。</translation>
     </message>
     <message id="ID_MicrophonePage_3">
         <source></source>
@@ -1053,7 +1053,7 @@
     </message>
     <message id="ID_MicrophonePage_Recording">
         <source></source>
-        <translation>話して</translation>
+        <translation>録音中</translation>
     </message>
     <message id="ID_Microphone_Check">
         <source></source>

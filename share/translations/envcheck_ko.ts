@@ -33,7 +33,7 @@
     </message>
     <message id="ID_CameraPage_CannotSee">
         <source></source>
-        <translation>보이지 않아요</translation>
+        <translation>안 보여요</translation>
     </message>
     <message id="ID_CameraPage_ClickHere">
         <source></source>
@@ -281,7 +281,7 @@
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
-        <translation>모두 통과</translation>
+        <translation>모두 정상</translation>
     </message>
     <message id="ID_Host_Exit_BadInput">
         <source></source>
@@ -297,11 +297,11 @@
     </message>
     <message id="ID_Host_Exit_PutOut">
         <source></source>
-        <translation>강의실에서 세션을 종료함</translation>
+        <translation>교실에서 세션을 종료함</translation>
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>통과하지 못한 점검이 있음</translation>
+        <translation>이상이 있는 점검 항목이 있음</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -317,15 +317,15 @@
     </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>응답된 탐침</translation>
+        <translation>응답받은 측정 패킷</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>감지된 최고 주파수</translation>
+        <translation>들어온 소리의 최고 주파수</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
-        <translation>검은 화면 비율</translation>
+        <translation>검은 영상 비율</translation>
     </message>
     <message id="ID_Host_Figure_Brightness">
         <source></source>
@@ -333,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>잘린 소리</translation>
+        <translation>클리핑(소리 깨짐)</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -357,19 +357,19 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>첫 화면까지 걸린 시간</translation>
+        <translation>첫 영상까지 걸린 시간</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
-        <translation>멈춘 화면 비율</translation>
+        <translation>멈춘 영상 비율</translation>
     </message>
     <message id="ID_Host_Figure_Height">
         <source></source>
-        <translation>화면 높이</translation>
+        <translation>영상 높이</translation>
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>전원 잡음 주파수</translation>
+        <translation>전원 험 주파수</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
@@ -385,7 +385,7 @@
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
-        <translation>사용자가 음량을 조절함</translation>
+        <translation>사용자가 볼륨을 조절함</translation>
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
@@ -405,15 +405,15 @@
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
-        <translation>최대 소리</translation>
+        <translation>가장 큰 소리</translation>
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>화면 수</translation>
+        <translation>영상 프레임 수</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
-        <translation>화면 빈도</translation>
+        <translation>영상 프레임 속도</translation>
     </message>
     <message id="ID_Host_Figure_Seconds">
         <source></source>
@@ -421,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>보낸 탐침</translation>
+        <translation>보낸 측정 패킷</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>소리 감지됨</translation>
+        <translation>소리가 들어옴</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -433,15 +433,15 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>이후 음량</translation>
+        <translation>이후 볼륨</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>이전 음량</translation>
+        <translation>이전 볼륨</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
-        <translation>화면 너비</translation>
+        <translation>영상 너비</translation>
     </message>
     <message id="ID_Host_File_IsFolder">
         <source></source>
@@ -485,7 +485,7 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>‘아니요’라고 답했지만 움직이는 화면이 들어왔습니다.</translation>
+        <translation>‘아니요’라고 답했지만 움직이는 영상이 들어왔습니다.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
@@ -497,27 +497,27 @@
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>검은 화면인데 ‘예’라고 답했습니다.</translation>
+        <translation>검은 영상인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>멈춘 화면인데 ‘예’라고 답했습니다.</translation>
+        <translation>멈춘 영상인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>스피커가 음소거인데 ‘예’라고 답했습니다.</translation>
+        <translation>스피커가 음소거인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>‘예’라고 답했지만 마이크에 아무 소리도 없었습니다.</translation>
+        <translation>‘네’라고 답했지만 마이크에 아무 소리도 들어오지 않았습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>‘예’라고 답했지만 맞는 소리를 고르지 못했습니다.</translation>
+        <translation>‘네’라고 답했지만 맞는 소리를 고르지 못했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>‘예’라고 답했지만 화면이 들어오지 않았습니다.</translation>
+        <translation>‘네’라고 답했지만 영상이 들어오지 않았습니다.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -601,11 +601,11 @@
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>마지막 정상 실행</translation>
+        <translation>마지막으로 모두 정상인 점검</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>이전에 모두 통과한 실행이 없습니다.</translation>
+        <translation>이전에 모두 정상인 점검이 없습니다.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ID_Host_Option_Platform">
         <source></source>
-        <translation>점검할 장치: devices(이 컴퓨터의 장치, 기본값) 또는 scripted(시나리오 장치).</translation>
+        <translation>점검할 장치: devices(이 컴퓨터의 장치, 기본값) 또는 scripted(시뮬레이션).</translation>
     </message>
     <message id="ID_Host_Option_Port">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>시나리오 장치의 동작: 파일 또는 all-well 같은 기본 제공 시나리오 이름. --platform scripted를 포함합니다.</translation>
+        <translation>시뮬레이션 장치의 동작: 파일 또는 all-well 같은 기본 제공 시나리오 이름. --platform scripted를 포함합니다.</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
@@ -701,7 +701,7 @@
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
-        <translation>모든 단계를 자동으로 진행하며 각 단계의 그림을 FOLDER에 저장합니다.</translation>
+        <translation>모든 단계를 자동으로 진행하며 각 단계의 스크린샷을 FOLDER에 저장합니다.</translation>
     </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
@@ -713,7 +713,7 @@
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
-        <translation>문제가 있는 채로 완료</translation>
+        <translation>문제가 있는 상태로 완료</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -721,11 +721,11 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>모두 통과</translation>
+        <translation>모두 정상</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>강의실에서 세션을 종료함</translation>
+        <translation>교실에서 세션을 종료함</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>각본에 따른 장치에는 이 값이 없음</translation>
+        <translation>시뮬레이션 장치에는 이 값이 없음</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>이 컴퓨터가 아닌 각본에 따른 장치입니다.</translation>
+        <translation>이 컴퓨터의 장치가 아니라 시뮬레이션 장치입니다.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -845,7 +845,7 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>시간</translation>
+        <translation>일시</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
@@ -917,7 +917,7 @@
     </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
-        <translation>그림 %1개를 %2에 저장했습니다. index.html에서 모두 볼 수 있습니다.</translation>
+        <translation>스크린샷 %1개를 %2에 저장했습니다. index.html에서 모두 볼 수 있습니다.</translation>
     </message>
     <message id="ID_Host_Tour_NoFolder">
         <source></source>
@@ -965,7 +965,7 @@
     </message>
     <message id="ID_Host_Yes">
         <source></source>
-        <translation>예</translation>
+        <translation>네</translation>
     </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>

@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Clique no botão de tocar, ouça e escolha o som que você ouve.</translation>
+        <translation>Clique em “Tocar”, ouça e escolha o som que você ouve.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -241,7 +241,7 @@
     </message>
     <message id="ID_Host_Changes">
         <source></source>
-        <translation>Mudanças</translation>
+        <translation>Alterações</translation>
     </message>
     <message id="ID_Host_Changes_None">
         <source></source>
@@ -281,7 +281,7 @@
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
-        <translation>tudo passou</translation>
+        <translation>tudo aprovado</translation>
     </message>
     <message id="ID_Host_Exit_BadInput">
         <source></source>
@@ -485,39 +485,39 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>A resposta foi não, mas chegavam imagens em movimento.</translation>
+        <translation>A resposta foi “não”, mas chegavam imagens em movimento.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>A resposta foi não, mas o microfone captava som.</translation>
+        <translation>A resposta foi “não”, mas o microfone captava som.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>A resposta foi não, mas o som certo foi escolhido.</translation>
+        <translation>A resposta foi “não”, mas o som certo foi escolhido.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>A resposta foi sim para uma imagem preta.</translation>
+        <translation>A resposta foi “sim” diante de uma imagem preta.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>A resposta foi sim para uma imagem congelada.</translation>
+        <translation>A resposta foi “sim” diante de uma imagem congelada.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>A resposta foi sim com o alto-falante mudo.</translation>
+        <translation>A resposta foi “sim” com o alto-falante mudo.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>A resposta foi sim, mas o microfone não captou nada.</translation>
+        <translation>A resposta foi “sim”, mas o microfone não captou nada.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>A resposta foi sim, mas o som certo não foi escolhido.</translation>
+        <translation>A resposta foi “sim”, mas o som certo não foi escolhido.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>A resposta foi sim, mas não chegavam imagens.</translation>
+        <translation>A resposta foi “sim”, mas não chegavam imagens.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Sem comando, a verificação é aberta. Cada comando tem sua própria --help.</translation>
+        <translation>Sem comando, a verificação é aberta. Cada comando tem sua própria ajuda (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -601,11 +601,11 @@
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Última verificação boa</translation>
+        <translation>Última verificação aprovada</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Não há verificação anterior em que tudo passou.</translation>
+        <translation>Não há verificação anterior em que tudo foi aprovado.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>atraso %1 ms, variação %2 ms, perda %3 %, enviados %4, respondidos %5: %6</translation>
+        <translation>atraso %1 ms, variação %2 ms, perda %3%, sondas enviadas %4, respondidas %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>sem resposta, perda %1 %, enviados %2, respondidos %3</translation>
+        <translation>sem resposta, perda %1%, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -721,7 +721,7 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>Tudo passou</translation>
+        <translation>Tudo aprovado</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Resultado</translation>
+        <translation>Resultado geral</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Os dispositivos eram simulados, não os desta máquina.</translation>
+        <translation>Os dispositivos eram simulados, não os deste computador.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -841,11 +841,11 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>Máquina e conta</translation>
+        <translation>Computador e conta</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Data</translation>
+        <translation>Data e hora</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
@@ -1137,7 +1137,7 @@
     </message>
     <message id="ID_WelcomePage_StartTest">
         <source></source>
-        <translation>Iniciar o teste</translation>
+        <translation>Iniciar a verificação</translation>
     </message>
     <message id="ID_WelcomePage_Welcome">
         <source></source>

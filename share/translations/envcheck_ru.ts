@@ -17,7 +17,7 @@
     </message>
     <message id="ID_CameraPage_4">
         <source></source>
-        <translation>4. Разрешите доступ к камере в настройках приватности.</translation>
+        <translation>4. Разрешите камеру в настройках конфиденциальности.</translation>
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
@@ -321,7 +321,7 @@
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>Наибольшая частота</translation>
+        <translation>Наибольшая уловленная частота</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -345,15 +345,15 @@
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
-        <translation>Время оборота (медиана)</translation>
+        <translation>Задержка туда и обратно (медиана)</translation>
     </message>
     <message id="ID_Host_Figure_Delay5">
         <source></source>
-        <translation>Время оборота (5-й процентиль)</translation>
+        <translation>Задержка туда и обратно (5-й процентиль)</translation>
     </message>
     <message id="ID_Host_Figure_Delay95">
         <source></source>
-        <translation>Время оборота (95-й процентиль)</translation>
+        <translation>Задержка туда и обратно (95-й процентиль)</translation>
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
@@ -389,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Без звука после</translation>
+        <translation>Звук отключён после проверки</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Без звука до</translation>
+        <translation>Звук отключён до проверки</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -401,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Задержка в одну сторону (половина оборота)</translation>
+        <translation>Задержка в одну сторону (половина задержки туда и обратно)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -409,7 +409,7 @@
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>Кадров</translation>
+        <translation>Всего кадров</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
@@ -421,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>Отправлено проб</translation>
+        <translation>Отправлено запросов</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Звук услышан</translation>
+        <translation>Звук уловлен</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -433,11 +433,11 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>Громкость после</translation>
+        <translation>Громкость после проверки</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>Громкость до</translation>
+        <translation>Громкость до проверки</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
@@ -489,7 +489,7 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Ответ «нет», но микрофон слышал звук.</translation>
+        <translation>Ответ «нет», но микрофон улавливал звук.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
@@ -505,11 +505,11 @@
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Ответ «да» при выключенном звуке.</translation>
+        <translation>Ответ «да» при отключённом звуке.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Ответ «да», но микрофон ничего не слышал.</translation>
+        <translation>Ответ «да», но микрофон ничего не улавливал.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>задержка %1 мс, джиттер %2 мс, потери %3 %, отправлено %4, ответов %5: %6</translation>
+        <translation>задержка %1 мс, джиттер %2 мс, потери %3 %, отправлено запросов %4, получено ответов %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>нет ответа, потери %1 %, отправлено %2, ответов %3</translation>
+        <translation>нет ответа, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -765,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>у сценарного устройства нет этого значения</translation>
+        <translation>у имитируемого устройства нет этого значения</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Устройства были сценарными, а не этого компьютера.</translation>
+        <translation>Проверялись имитируемые устройства, а не устройства этого компьютера.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -845,7 +845,7 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Время</translation>
+        <translation>Дата и время</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
@@ -1001,7 +1001,7 @@
     </message>
     <message id="ID_MicrophonePage_4">
         <source></source>
-        <translation>4. Разрешите доступ к микрофону в настройках приватности.</translation>
+        <translation>4. Разрешите микрофон в настройках конфиденциальности.</translation>
     </message>
     <message id="ID_MicrophonePage_Again">
         <source></source>

@@ -337,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>Thiết bị mặc định sau</translation>
+        <translation>Thiết bị mặc định sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>Thiết bị mặc định trước</translation>
+        <translation>Thiết bị mặc định trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -361,7 +361,7 @@
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
-        <translation>Hình đứng yên</translation>
+        <translation>Hình bị đứng</translation>
     </message>
     <message id="ID_Host_Figure_Height">
         <source></source>
@@ -377,7 +377,7 @@
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
-        <translation>Độ rung (jitter)</translation>
+        <translation>Độ dao động trễ (jitter)</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -389,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Tắt tiếng sau đó</translation>
+        <translation>Tắt tiếng sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Tắt tiếng trước đó</translation>
+        <translation>Tắt tiếng trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -425,7 +425,7 @@
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Có nghe thấy âm thanh</translation>
+        <translation>Thu được âm thanh</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -433,11 +433,11 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>Âm lượng sau đó</translation>
+        <translation>Âm lượng sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>Âm lượng trước đó</translation>
+        <translation>Âm lượng trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
@@ -485,39 +485,39 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>Trả lời không, nhưng hình động vẫn đến.</translation>
+        <translation>Trả lời “không”, nhưng vẫn có hình chuyển động.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Trả lời không, nhưng micrô có thu được âm thanh.</translation>
+        <translation>Trả lời “không”, nhưng micrô thu được âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>Trả lời không, nhưng đã chọn đúng âm thanh.</translation>
+        <translation>Trả lời “không”, nhưng đã chọn đúng âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>Trả lời có trước một hình đen.</translation>
+        <translation>Trả lời “có” khi hình bị đen.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>Trả lời có trước một hình đứng yên.</translation>
+        <translation>Trả lời “có” khi hình bị đứng.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Trả lời có trong khi loa bị tắt tiếng.</translation>
+        <translation>Trả lời “có” khi loa bị tắt tiếng.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Trả lời có, nhưng micrô không thu được gì.</translation>
+        <translation>Trả lời “có”, nhưng micrô không thu được gì.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>Trả lời có, nhưng không chọn đúng âm thanh.</translation>
+        <translation>Trả lời “có”, nhưng không chọn đúng âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>Trả lời có, nhưng không có hình nào đến.</translation>
+        <translation>Trả lời “có”, nhưng không có hình nào.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>độ trễ %1 ms, độ rung %2 ms, mất gói %3%, đã gửi %4, hồi đáp %5: %6</translation>
+        <translation>độ trễ %1 ms, dao động %2 ms, mất gói %3%, đã gửi %4, có hồi đáp %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>không hồi đáp, mất gói %1%, đã gửi %2, hồi đáp %3</translation>
+        <translation>không có hồi đáp, mất gói %1%, đã gửi %2, có hồi đáp %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -757,7 +757,7 @@
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
-        <translation>bộ máy không ghi lại mục này</translation>
+        <translation>hệ thống đo không ghi lại mục này</translation>
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
@@ -769,7 +769,7 @@
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
-        <translation>không có gì từ thiết bị</translation>
+        <translation>không nhận được gì từ thiết bị</translation>
     </message>
     <message id="ID_Host_Reason_StepNotOpened">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Kết quả</translation>
+        <translation>Kết quả chung</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -833,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Thiết bị là kịch bản mô phỏng, không phải của máy này.</translation>
+        <translation>Thiết bị được mô phỏng, không phải của máy này.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -1017,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>Không nghe hoặc thấy giọng mình</translation>
+        <translation>Không nghe, thanh không chạy</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>

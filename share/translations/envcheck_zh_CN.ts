@@ -293,15 +293,15 @@
     </message>
     <message id="ID_Host_Exit_LeftEarly">
         <source></source>
-        <translation>用户中途离开</translation>
+        <translation>中途离开</translation>
     </message>
     <message id="ID_Host_Exit_PutOut">
         <source></source>
-        <translation>会话被课堂终止</translation>
+        <translation>课堂结束了会话</translation>
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>有检测未通过</translation>
+        <translation>有检测异常</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -321,7 +321,7 @@
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>可听到的最高频率</translation>
+        <translation>收到的最高频率</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -333,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>削波的声音</translation>
+        <translation>削波失真</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -357,7 +357,7 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>首个画面用时</translation>
+        <translation>第一个画面所需时间</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
@@ -369,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>电源哼声频率</translation>
+        <translation>交流声频率</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>噪声中的电源哼声</translation>
+        <translation>噪声中的交流声</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -425,7 +425,7 @@
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>听到声音</translation>
+        <translation>收到声音</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -497,27 +497,27 @@
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>画面为黑屏，却回答“看得到”。</translation>
+        <translation>画面为黑屏，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>画面静止不动，却回答“看得到”。</translation>
+        <translation>画面静止不动，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>扬声器已静音，却回答“听得到”。</translation>
+        <translation>扬声器已静音，却回答“能听到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>麦克风没有收到声音，却回答“听得到”。</translation>
+        <translation>麦克风没有收到声音，却回答“能听到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>回答“听得到”，但没有选对声音。</translation>
+        <translation>回答“能听到”，但没有选对声音。</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>没有画面，却回答“看得到”。</translation>
+        <translation>没有画面，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -725,7 +725,7 @@
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>会话被课堂终止</translation>
+        <translation>课堂结束了会话</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>结果</translation>
+        <translation>总体结果</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -1017,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>您听不到或看不到自己的声音</translation>
+        <translation>听不到自己的声音，或音量条不动</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>

@@ -73,15 +73,15 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>請檢查設備後重新檢測。</translation>
+        <translation>請檢查裝置後重新檢測。</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
-        <translation>部分設備有問題</translation>
+        <translation>部分裝置有問題</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentNormal">
         <source></source>
-        <translation>設備一切正常</translation>
+        <translation>裝置一切正常</translation>
     </message>
     <message id="ID_CheckResultPage_Headphone">
         <source></source>
@@ -293,15 +293,15 @@
     </message>
     <message id="ID_Host_Exit_LeftEarly">
         <source></source>
-        <translation>使用者中途離開</translation>
+        <translation>中途離開</translation>
     </message>
     <message id="ID_Host_Exit_PutOut">
         <source></source>
-        <translation>工作階段被課堂終止</translation>
+        <translation>課堂結束了工作階段</translation>
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>有檢測未通過</translation>
+        <translation>有檢測異常</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -321,7 +321,7 @@
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>可收到的最高頻率</translation>
+        <translation>收到的最高頻率</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -333,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>削波的聲音</translation>
+        <translation>削波失真</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -357,7 +357,7 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>首個畫面所需時間</translation>
+        <translation>第一個畫面所需時間</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
@@ -369,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>電源嗡聲頻率</translation>
+        <translation>交流聲頻率</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>雜訊中的電源嗡聲</translation>
+        <translation>雜訊中的交流聲</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -417,7 +417,7 @@
     </message>
     <message id="ID_Host_Figure_Seconds">
         <source></source>
-        <translation>測量時長</translation>
+        <translation>測量時間</translation>
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
@@ -725,7 +725,7 @@
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>工作階段被課堂終止</translation>
+        <translation>課堂結束了工作階段</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -817,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>結果</translation>
+        <translation>整體結果</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -1017,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>您聽不到或看不到自己的聲音</translation>
+        <translation>聽不到自己的聲音，或音量條不動</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>
