@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>من دون أمر يُفتح الفحص. لكل أمر --help خاص به.</translation>
+        <translation>من دون أمر يُفتح الفحص. لكل أمر مساعدة خاصة به (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -845,7 +845,7 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>الوقت</translation>
+        <translation>التاريخ والوقت</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>

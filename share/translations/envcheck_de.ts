@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Drücken Sie auf Wiedergabe, hören Sie zu und wählen Sie das Geräusch, das Sie hören.</translation>
+        <translation>Drücken Sie auf „Hören“ und wählen Sie dann das Geräusch, das Sie hören.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>Was die simulierten Geräte spielen: eine Datei oder der Name eines mitgelieferten Szenarios wie all-well. Schließt --platform scripted ein.</translation>
+        <translation>Was die simulierten Geräte tun: eine Datei oder der Name eines mitgelieferten Szenarios wie all-well. Schließt --platform scripted ein.</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
@@ -701,7 +701,7 @@
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
-        <translation>Geht selbsttätig durch alle Schritte und speichert von jedem ein Bild in FOLDER.</translation>
+        <translation>Geht automatisch durch alle Schritte und speichert von jedem ein Bild in FOLDER.</translation>
     </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>

@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Pulse el botón de reproducir, escuche y elija el sonido que oye.</translation>
+        <translation>Pulse «Oír», escuche y elija el sonido que oye.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, enviadas %4, respondidas %5: %6</translation>
+        <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, sondas enviadas %4, respondidas %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>sin respuesta, pérdida %1 %, enviadas %2, respondidas %3</translation>
+        <translation>sin respuesta, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>

@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Appuyez sur le bouton de lecture, écoutez et choisissez le son que vous entendez.</translation>
+        <translation>Appuyez sur « Écouter », puis choisissez le son que vous entendez.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -289,7 +289,7 @@
     </message>
     <message id="ID_Host_Exit_CannotWrite">
         <source></source>
-        <translation>un fichier ou un dossier ne peut pas être écrit</translation>
+        <translation>impossible d’écrire un fichier ou un dossier</translation>
     </message>
     <message id="ID_Host_Exit_LeftEarly">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>Ce que jouent les appareils simulés : un fichier ou le nom d’un scénario fourni, comme all-well. Implique --platform scripted.</translation>
+        <translation>Ce que font les appareils simulés : un fichier ou le nom d’un scénario fourni, comme all-well. Implique --platform scripted.</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>

@@ -549,7 +549,7 @@
     </message>
     <message id="ID_Host_Help_Check">
         <source></source>
-        <translation>オンライン授業の前に、ネットワーク、カメラ、スピーカー、マイクを確認します。</translation>
+        <translation>オンライン授業の前に、ネットワーク、カメラ、スピーカー、マイクをチェックします。</translation>
     </message>
     <message id="ID_Host_Help_Commands">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ID_Host_Option_Platform">
         <source></source>
-        <translation>チェックする機器: devices（このパソコンの機器、既定）または scripted（シミュレーション）。</translation>
+        <translation>チェックする機器：devices（このパソコンの機器、既定）または scripted（シミュレーション）。</translation>
     </message>
     <message id="ID_Host_Option_Port">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>シミュレーションの内容: ファイル、または all-well など付属シナリオの名前。--platform scripted も指定したことになります。</translation>
+        <translation>シミュレーションの内容：ファイル、または all-well など付属シナリオの名前。--platform scripted も指定したことになります。</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
@@ -909,7 +909,7 @@
     </message>
     <message id="ID_Host_Takes_Server">
         <source></source>
-        <translation>HOST または HOST:PORT（先頭に stun：を付けてもよい。例：stun:stun.example.org:3478）</translation>
+        <translation>HOST または HOST:PORT（先頭に「stun:」を付けてもよい。例：stun:stun.example.org:3478）</translation>
     </message>
     <message id="ID_Host_Takes_WebAddress">
         <source></source>

@@ -53,7 +53,7 @@
     </message>
     <message id="ID_CameraPage_NotDetected">
         <source></source>
-        <translation>아직 응답하지 않은 항목입니다</translation>
+        <translation>아직 답하지 않은 항목입니다</translation>
     </message>
     <message id="ID_CameraPage_Yes">
         <source></source>
@@ -693,7 +693,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>시뮬레이션 장치의 동작: 파일 또는 all-well 같은 기본 제공 시나리오 이름. --platform scripted를 포함합니다.</translation>
+        <translation>시뮬레이션 장치의 동작: 파일 또는 all-well 같은 기본 제공 시나리오의 이름. --platform scripted도 지정한 것으로 봅니다.</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>

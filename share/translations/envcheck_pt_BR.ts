@@ -133,7 +133,7 @@
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
-        <translation>2. Aumente o volume e veja se o som não está mudo.</translation>
+        <translation>2. Aumente o volume e veja se o som não está silenciado.</translation>
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
@@ -389,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Mudo depois</translation>
+        <translation>Silenciado depois</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Mudo antes</translation>
+        <translation>Silenciado antes</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>A resposta foi “sim” com o alto-falante mudo.</translation>
+        <translation>A resposta foi “sim” com o alto-falante silenciado.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
@@ -993,7 +993,7 @@
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
-        <translation>2. Ative o microfone: procure um botão ou tecla de mudo.</translation>
+        <translation>2. Ative o microfone: procure um botão ou tecla de silenciar.</translation>
     </message>
     <message id="ID_MicrophonePage_3">
         <source></source>

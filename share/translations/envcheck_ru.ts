@@ -301,7 +301,7 @@
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
-        <translation>какая-то проверка не пройдена</translation>
+        <translation>одна из проверок не пройдена</translation>
     </message>
     <message id="ID_Host_Exit_TourProblems">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Без команды открывается проверка. У каждой команды своя справка --help.</translation>
+        <translation>Без команды открывается проверка. У каждой команды своя справка (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>

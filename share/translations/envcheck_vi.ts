@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Nếu không có lệnh, phần kiểm tra sẽ mở ra. Mỗi lệnh có --help riêng.</translation>
+        <translation>Nếu không có lệnh, phần kiểm tra sẽ mở ra. Mỗi lệnh có trợ giúp riêng (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -617,11 +617,11 @@
     </message>
     <message id="ID_Host_Network_Figures">
         <source></source>
-        <translation>độ trễ %1 ms, dao động %2 ms, mất gói %3%, đã gửi %4, có hồi đáp %5: %6</translation>
+        <translation>độ trễ %1 ms, dao động %2 ms, mất gói %3%, số gói đã gửi %4, có hồi đáp %5: %6</translation>
     </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
-        <translation>không có hồi đáp, mất gói %1%, đã gửi %2, có hồi đáp %3</translation>
+        <translation>không có hồi đáp, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>

@@ -281,7 +281,7 @@
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
-        <translation>全部通过</translation>
+        <translation>全部正常</translation>
     </message>
     <message id="ID_Host_Exit_BadInput">
         <source></source>
@@ -601,11 +601,11 @@
     </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>上次通过的检测</translation>
+        <translation>上次全部正常的检测</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>此前没有全部通过的检测。</translation>
+        <translation>此前没有全部正常的检测。</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
@@ -721,7 +721,7 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>全部通过</translation>
+        <translation>全部正常</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
