@@ -269,15 +269,15 @@
     </message>
     <message id="ID_Host_Display_Gone">
         <source></source>
-        <translation>the display has gone, and the check with it: the X server or the Wayland compositor has ended; start the check again</translation>
+        <translation>the display has gone, so the check has ended: the X server or the Wayland compositor was closed; start the check again</translation>
     </message>
     <message id="ID_Host_Display_None">
         <source></source>
-        <translation>there is no display to open the check on: start it from a desktop session, or by xvfb-run</translation>
+        <translation>there is no display to open the check on: start it from a desktop session, or with xvfb-run</translation>
     </message>
     <message id="ID_Host_Display_NotOpened">
         <source></source>
-        <translation>the display %1 can't be opened: start the check from a desktop session, or by xvfb-run</translation>
+        <translation>the display %1 can't be opened: start the check from a desktop session, or with xvfb-run</translation>
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
@@ -461,7 +461,7 @@
     </message>
     <message id="ID_Host_File_NoReport">
         <source></source>
-        <translation>%1 is not a report in JSON (%2); name one that a run has written</translation>
+        <translation>%1 is not a report in JSON (%2); name one that the check has written</translation>
     </message>
     <message id="ID_Host_File_NoRight">
         <source></source>
@@ -473,7 +473,7 @@
     </message>
     <message id="ID_Host_File_NotRead">
         <source></source>
-        <translation>%1 can't be read: %2; name a report that a run has written</translation>
+        <translation>%1 can't be read: %2; name a report that the check has written</translation>
     </message>
     <message id="ID_Host_File_NotWritten">
         <source></source>
@@ -565,7 +565,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>A report that a run has written.</translation>
+        <translation>A report that the check has written.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -573,7 +573,7 @@
     </message>
     <message id="ID_Host_Help_NoCommand">
         <source></source>
-        <translation>Without a command the check opens. Each command has its own --help.</translation>
+        <translation>Without a command the check opens. Each command has its own help (--help).</translation>
     </message>
     <message id="ID_Host_Help_Options">
         <source></source>
@@ -585,7 +585,7 @@
     </message>
     <message id="ID_Host_Help_Serve">
         <source></source>
-        <translation>Answers measurements of other machines, as a small STUN server, until it is stopped.</translation>
+        <translation>Answers measurements from other machines, as a small STUN server, until it is stopped.</translation>
     </message>
     <message id="ID_Host_Help_Usage">
         <source></source>
@@ -681,7 +681,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Write the report to FILE instead of the default place; its ending (.json, .html or .txt) is its format.</translation>
+        <translation>Write the report to FILE instead of the default place; the ending of its name (.json, .html or .txt) sets the format.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -689,19 +689,19 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Also write the bare results to FILE, as JSON, after each change.</translation>
+        <translation>Also write the results alone to FILE, as JSON, after each change.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>What the scripted devices play: a file, or the name of a bundled one such as all-well. Implies --platform scripted.</translation>
+        <translation>What the scripted devices do: a file, or the name of a bundled scenario such as all-well. Implies --platform scripted.</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>STUN server that delay and loss are measured to, also as stun:HOST:PORT; the port is 3478 by default. Without a server a small responder on this machine is used, which says nothing about the network.</translation>
+        <translation>STUN server to measure delay and loss with, also as stun:HOST:PORT; the port is 3478 by default. If no server is given, this machine answers itself, which says nothing about the network.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
-        <translation>Walk through every step automatically and save a picture of each in FOLDER.</translation>
+        <translation>Go through every step automatically and save a picture of each in FOLDER.</translation>
     </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
@@ -853,11 +853,11 @@
     </message>
     <message id="ID_Host_Serve_Answering">
         <source></source>
-        <translation>Answering on UDP port %1. Other machines measure the way here by --server stun:HOST:%1</translation>
+        <translation>Answering on UDP port %1. Other machines measure the way here with --server stun:HOST:%1</translation>
     </message>
     <message id="ID_Host_Serve_NoPort">
         <source></source>
-        <translation>UDP port %1 can't be answered on: %2. Choose another by --port</translation>
+        <translation>UDP port %1 can't be used: %2. Choose another with --port</translation>
     </message>
     <message id="ID_Host_Serve_NotBuilt">
         <source></source>
@@ -933,11 +933,11 @@
     </message>
     <message id="ID_Host_Usage_ExtraArgument">
         <source></source>
-        <translation>'%1' is one argument too many: see --help</translation>
+        <translation>'%1' is one argument too many: leave it out, or see --help</translation>
     </message>
     <message id="ID_Host_Usage_LeaveOneOut">
         <source></source>
-        <translation>%1 doesn't go with %2: leave one out</translation>
+        <translation>%1 can't be used with %2: leave one out</translation>
     </message>
     <message id="ID_Host_Usage_NoReport">
         <source></source>
@@ -945,7 +945,7 @@
     </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
-        <translation>--%1 doesn't go with %2: see --help</translation>
+        <translation>--%1 can't be used with %2: see --help</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>
@@ -953,7 +953,7 @@
     </message>
     <message id="ID_Host_Usage_Takes">
         <source></source>
-        <translation>--%1 %2: it takes %3</translation>
+        <translation>--%1 %2: it must be %3</translation>
     </message>
     <message id="ID_Host_Usage_TheCheck">
         <source></source>
