@@ -42,8 +42,7 @@ bool isLastWord(const QString& text)
 
 [[noreturn]] void endAtOnce()
 {
-    Console::printError(QStringLiteral("the display has gone, and the check with it: the X server "
-                                       "or the Wayland compositor has ended"));
+    Console::printError(qtTrId("ID_Host_Display_Gone"));
     const std::function<void()> save = std::exchange(theSaving, nullptr);
     if (save) {
         save();

@@ -119,9 +119,7 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
 #else
 void InstalledEngine::installDevices(const Options&, const QString&)
 {
-    fail(QStringLiteral("this program was built without the real devices (ENVCHECK_DEVICES): use "
-                        "--platform scripted"),
-         ExitCode::Unavailable);
+    fail(qtTrId("ID_Host_Devices_NotBuilt"), ExitCode::Unavailable);
 }
 #endif
 

@@ -5,7 +5,6 @@
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
-#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/report/NetworkGrade.h"
 #include "host/report/ReportWords.h"
@@ -53,18 +52,18 @@ private:
     QString line() const
     {
         if (m_last.delayMs < 0) {
-            return QStringLiteral("no answer, loss %1 %, sent %2, answered %3")
+            return qtTrId("ID_Host_Network_NoAnswer")
                 .arg(m_last.lossPercent)
                 .arg(m_last.sent)
                 .arg(m_last.answered);
         }
-        return QStringLiteral("delay %1 ms, jitter %2 ms, loss %3 %, sent %4, answered %5: %6")
+        return qtTrId("ID_Host_Network_Figures")
             .arg(m_last.delayMs)
             .arg(m_last.jitterMs)
             .arg(m_last.lossPercent)
             .arg(m_last.sent)
             .arg(m_last.answered)
-            .arg(ReportWords::of(NetworkGrade::of(m_last).level));
+            .arg(qtTrId(ReportWords::textId(NetworkGrade::of(m_last).level)));
     }
 
     const int m_count;
@@ -77,13 +76,6 @@ private:
 
 ExitCode NetworkCommand::run(const Options& options)
 {
-    // The name of the built-in responder is a text.
-    Languages languages;
-    const QString problem = languages.use(QStringLiteral("en"));
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-        return ExitCode::Unavailable;
-    }
     InstalledEngine installed(options, Folders::data());
     if (!installed.error().isEmpty()) {
         Console::printError(installed.error());
@@ -91,9 +83,10 @@ ExitCode NetworkCommand::run(const Options& options)
     }
     installed.prepare();
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
-    Console::print(QStringLiteral("server %1, this machine %2\n")
+    Console::print(qtTrId("ID_Host_Network_Ends")
                        .arg(Console::plainLine(facts.serverName()),
-                            Console::plainLine(facts.clientAddress())));
+                            Console::plainLine(facts.clientAddress())) +
+                   QLatin1Char('\n'));
     const FigurePrinter printer(installed.engine(), options.count);
     QCoreApplication::exec();
     if (options.count == 0 && Console::isTerminal()) {

@@ -5,6 +5,7 @@
 #include "host/report/ReportJson.h"
 #include "platform/backend/FileNames.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -19,7 +20,7 @@ constexpr int KeyBytes = KeyWords * static_cast<int>(sizeof(quint32));
 
 QString line(const QString& path, const QString& problem)
 {
-    return QStringLiteral("%1 can't be written: %2").arg(path, problem);
+    return qtTrId("ID_Host_File_NotWritten").arg(path, problem);
 }
 
 } // namespace
@@ -28,22 +29,21 @@ QString ReportFile::problemOfWriting(const QString& path)
 {
     const QString nameProblem = Platform::FileNames::problem(path);
     if (!nameProblem.isEmpty()) {
-        return line(path, nameProblem + QStringLiteral("; name another file"));
+        return line(path, qtTrId("ID_Host_File_NameOther").arg(nameProblem));
     }
     const QFileInfo file(path);
     const QFileInfo folder(file.absolutePath());
     if (file.isDir()) {
-        return line(path, QStringLiteral("it is a folder; name a file in it"));
+        return line(path, qtTrId("ID_Host_File_IsFolder"));
     }
     if (file.exists() && !file.isFile()) {
-        return line(path, QStringLiteral("it isn't an ordinary file; name another one"));
+        return line(path, qtTrId("ID_Host_File_NotOrdinary"));
     }
     if (!folder.isDir()) {
-        return line(path, QStringLiteral("there is no folder %1; make it, or name another file")
-                              .arg(folder.absoluteFilePath()));
+        return line(path, qtTrId("ID_Host_File_NoFolder").arg(folder.absoluteFilePath()));
     }
     if (!folder.isWritable() || (file.exists() && !file.isWritable())) {
-        return line(path, QStringLiteral("you have no right to; name another file"));
+        return line(path, qtTrId("ID_Host_File_NoRight"));
     }
     return {};
 }
@@ -58,7 +58,7 @@ QString ReportFile::write(const QString& path, const QByteArray& content)
     // commit() doesn't report errors of the last buffered bytes; flush() does.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.flush() || !file.commit()) {
-        return line(path, file.errorString() + QStringLiteral("; name another file"));
+        return line(path, qtTrId("ID_Host_File_NameOther").arg(file.errorString()));
     }
     return {};
 }
@@ -68,7 +68,7 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
     QFile file(path);
     const QString nameProblem = Platform::FileNames::problem(path);
     if (!nameProblem.isEmpty() || !file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2; name a report that a run has written")
+        *error = qtTrId("ID_Host_File_NotRead")
                      .arg(path, nameProblem.isEmpty() ? file.errorString() : nameProblem);
         return std::nullopt;
     }
@@ -76,12 +76,10 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
     QJsonParseError parsing = {};
     const QJsonDocument document = QJsonDocument::fromJson(content, &parsing);
     if (content.size() > MaxBytes || !document.isObject()) {
-        const QString why = content.size() > MaxBytes ? QStringLiteral("it is too large")
+        const QString why = content.size() > MaxBytes ? qtTrId("ID_Host_File_TooLarge")
                             : document.isNull()       ? parsing.errorString()
-                                                      : QStringLiteral("it is no object");
-        *error = QStringLiteral("%1: it isn't a report in JSON (%2); name one that a run has "
-                                "written")
-                     .arg(path, why);
+                                                      : qtTrId("ID_Host_File_NoObject");
+        *error = qtTrId("ID_Host_File_NoReport").arg(path, why);
         return std::nullopt;
     }
     QString problem;
