@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/CameraList.h"
 
-#include <QRegularExpression>
+#include "platform/devices/camera/InfraredFilter.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -12,12 +13,6 @@ namespace {
 
 const QLatin1String CameraRole("Camera");
 const QLatin1String CaptureCapability(":capture:");
-
-bool isNamedInfrared(const QString& description)
-{
-    static const QRegularExpression pattern(QStringLiteral("\\b(IR|[Ii]nfrared)\\b"));
-    return pattern.match(description).hasMatch();
-}
 
 } // namespace
 
@@ -29,7 +24,7 @@ bool CameraList::isCamera(const CameraNode& node)
     if (!node.capabilities.isEmpty() && !node.capabilities.contains(CaptureCapability)) {
         return false;
     }
-    return (node.hasColor || !node.hasFormats) && !isNamedInfrared(node.description);
+    return !InfraredFilter::isInfrared(node);
 }
 
 bool CameraList::add(quint32 globalId, const CameraNode& node)

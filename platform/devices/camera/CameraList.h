@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/DeviceInfo.h"
+#include "platform/devices/camera/CameraNode.h"
 
 #include <QString>
 #include <map>
@@ -10,25 +11,8 @@
 
 namespace Platform {
 
-// A video source as the server describes it.
-struct CameraNode
-{
-    QString serial;                  // the server's number for this appearance of the node
-    QString name;                    // node.name
-    QString place;                   // the device's bus path, otherwise its serial number
-    QString description;             // for people
-    QString role;                    // media.role
-    QString capabilities;            // device.capabilities, if the server tells them
-    std::optional<quint32> deviceId; // the server's number for its device
-    int priority = 0;                // the higher, the sooner it is preferred
-    bool hasFormats = false;
-    bool hasColor = false;   // one of the formats has
-    bool isReadable = false; // one of the formats can be shown
-};
-
 // The cameras among the server's video sources. It hides sources with another role than "Camera",
-// nodes of a device that can't capture (metadata), and infrared or depth sensors: they offer only
-// gray formats, or their name says so.
+// nodes of a device that can't capture (metadata), and infrared or depth sensors (InfraredFilter).
 class CameraList
 {
 public:
