@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Este equipo (servidor interno)</translation>
+        <translation>Sin medir: no hay servidor</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -782,6 +782,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>No se encontró ninguna cámara</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>no hay servidor</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>no se conoce el nombre del servidor</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Qué hacer</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Solo se midió este equipo porque no hay servidor: pida a su centro el nombre del servidor e indíquelo con --server o en el archivo de configuración.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>El servidor no respondió: compruebe que tiene conexión y que ningún cortafuegos bloquea UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>No se conoce el nombre del servidor: compruebe cómo está escrito y que tiene conexión.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>La conexión es lenta: use un cable o acérquese al router wifi, y detenga descargas y otras llamadas.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Se pierden demasiados datos por el camino: use un cable o acérquese al router wifi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Se dejó el paso antes de medir nada: espere allí hasta que aparezcan los valores.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>No se encontró ningún dispositivo: conecte uno o enciéndalo y repita la prueba.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>El dispositivo está desactivado en la lista: elija uno allí.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>El dispositivo aún se estaba iniciando: espere un poco más antes de responder.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Otro programa usa el dispositivo: cierre ese programa y repita la prueba.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>El sistema deniega el acceso al dispositivo: permítalo en los ajustes de privacidad.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>El dispositivo no respondió: desconéctelo y vuelva a conectarlo, o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>La cámara no envió imagen: desconéctela y vuelva a conectarla, o elija otra.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>La imagen era negra: abra la tapa de la cámara y encienda la luz.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>La imagen no se movía: desconecte la cámara y vuelva a conectarla.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>El dispositivo se desconectó durante la prueba: vuelva a conectarlo y revise el cable.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>El servicio de imagen y sonido del sistema se detuvo: cierre la sesión y vuelva a entrar, o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>El dispositivo falló: vuelva a conectarlo o pruebe con otro.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>El micrófono no grabó nada: hable más cerca, revise su interruptor o elija otro en la lista.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>El dispositivo está silenciado: active el sonido.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>El volumen es 0: súbalo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Eligió un sonido distinto del que se reprodujo: suba el volumen y escuche otra vez.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Usted no se vio aunque la cámara envió imágenes: compruebe qué cámara está elegida.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Usted no oyó nada aunque se reprodujo un sonido: suba el volumen y compruebe qué altavoz está elegido.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Usted no se oyó aunque el micrófono grabó sonido: suba el volumen y compruebe qué altavoz está elegido.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Resultado de la prueba</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Copiar</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Guardar…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Abrir informe</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>El informe está copiado. Péguelo antes de cerrar esta ventana.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>El informe se guardó en %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>No se puede escribir el informe en %1. Elija otro lugar.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Ningún programa pudo abrir el informe. Está en %1</translation>
     </message>
 </context>
 </TS>
