@@ -62,9 +62,10 @@ constexpr Definition Definitions[] = {
     {"language", InCheck | InReport, "LANGUAGE",
      "Language of the texts, such as en or zh_CN; the system's by default."},
     {"server", InCheck | InNetwork, "HOST[:PORT]",
-     "STUN server that delay and loss are measured to, also as stun:HOST:PORT; the port is 3478 by "
-     "default. Without a server a small responder on this machine is used, which says nothing "
-     "about the network."},
+     "STUN server that delay and loss are measured to, also as stun:HOST:PORT. Without a port the "
+     "DNS records of the domain are asked (_stun._udp), else the port is 3478. ENVCHECK_SERVER or "
+     "a configuration file can name it, too. Without a server the network is not measured: a "
+     "small responder on this machine answers."},
     {"account", InCheck, "TEXT", "Account to show; the system's user by default."},
     {"nickname", InCheck, "TEXT", "Nickname to show; the system's user by default."},
     {"cdn", InCheck, "FIRST/SECOND", "CDN to show."},

@@ -19,7 +19,7 @@ struct Options
     Platform platform = Platform::Devices;
     QString scenario; // a file or the name of a bundled one
     QString language; // empty: the system's
-    QString server;   // Platform::StunServer reads it; empty: the built-in responder
+    QString server;   // Platform::StunServer reads it; empty: none is named here
     QString account;
     QString nickname;
     QString cdn; // "FIRST/SECOND"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
+#include "host/Configuration.h"
 #include "host/Console.h"
 #include "host/DisplayLoss.h"
 #include "host/DisplayTrial.h"
@@ -47,6 +48,23 @@ std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[]
     return application;
 }
 
+// False, and a message, if what is set once for all runs can't be used.
+bool isConfigured(Options& options, ExitCode& code)
+{
+    const bool isUsed =
+        options.command == Options::Command::Check || options.command == Options::Command::Network;
+    if (!isUsed) {
+        return true;
+    }
+    Configuration configuration(Configuration::usualFiles());
+    configuration.complete(options);
+    if (!configuration.error().isEmpty()) {
+        Console::printError(configuration.error());
+        code = configuration.errorCode();
+    }
+    return configuration.error().isEmpty();
+}
+
 ExitCode runCommand(const Options& options)
 {
     switch (options.command) {
@@ -74,7 +92,7 @@ ExitCode runCommand(const Options& options)
 
 ExitCode Program::run(int argc, char* argv[])
 {
-    const Options options = Options::parse(System::arguments(argc, argv));
+    Options options = Options::parse(System::arguments(argc, argv));
     if (!options.error.isEmpty()) {
         Console::printError(options.error);
         return ExitCode::WrongUsage;
@@ -83,6 +101,10 @@ ExitCode Program::run(int argc, char* argv[])
     int shownCount = 1;
     QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
+    ExitCode code = ExitCode::AllPassed;
+    if (!isConfigured(options, code)) {
+        return code;
+    }
     ScreenFit::takeFactorsAsTheyAre();
     const bool isCheck = options.command == Options::Command::Check;
     auto trial = isCheck ? std::make_unique<DisplayTrial>(shownCount, argv) : nullptr;
@@ -96,7 +118,7 @@ ExitCode Program::run(int argc, char* argv[])
                 : std::make_unique<QCoreApplication>(shownCount, argv);
     trial.reset();
     const TerminationSignals signals;
-    const ExitCode code = runCommand(options);
+    code = runCommand(options);
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
         return ExitCode::CannotWrite;

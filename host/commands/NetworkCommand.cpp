@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/commands/NetworkCommand.h"
 
+#include "host/Configuration.h"
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
@@ -43,6 +44,8 @@ public:
         }
     }
 
+    bool hasServer() const { return m_last.problem != Platform::NetworkProblem::NoServer; }
+
     bool hasPassed() const
     {
         return m_printed > 0 &&
@@ -53,7 +56,9 @@ private:
     QString line() const
     {
         if (m_last.delayMs < 0) {
-            return QStringLiteral("no answer, loss %1 %, sent %2, answered %3")
+            const bool hasAddress = m_last.problem != Platform::NetworkProblem::NoSuchHost;
+            return QStringLiteral("%1, loss %2 %, sent %3, answered %4")
+                .arg(hasAddress ? QStringLiteral("no answer") : QStringLiteral("no such server"))
                 .arg(m_last.lossPercent)
                 .arg(m_last.sent)
                 .arg(m_last.answered);
@@ -64,7 +69,8 @@ private:
             .arg(m_last.lossPercent)
             .arg(m_last.sent)
             .arg(m_last.answered)
-            .arg(ReportWords::of(NetworkGrade::of(m_last).level));
+            .arg(hasServer() ? ReportWords::of(NetworkGrade::of(m_last).level)
+                             : QStringLiteral("not measured: no server"));
     }
 
     const int m_count;
@@ -98,6 +104,13 @@ ExitCode NetworkCommand::run(const Options& options)
     QCoreApplication::exec();
     if (options.count == 0 && Console::isTerminal()) {
         Console::print(QStringLiteral("\n"));
+    }
+    if (!printer.hasServer()) {
+        Console::printError(
+            QStringLiteral("not measured: no server; name one by --server, by %1, or in %2")
+                .arg(QLatin1String(Configuration::ServerVariable),
+                     Configuration::usualFiles().constFirst()));
+        return ExitCode::Unavailable;
     }
     return printer.hasPassed() ? ExitCode::AllPassed : ExitCode::SomeFailed;
 }
