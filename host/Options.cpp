@@ -86,6 +86,7 @@ constexpr Definition Definitions[] = {
     {"redact", InCheck | InReport, "LEVEL",
      "What to leave out: none (the default), personal (no addresses, names and accounts) or "
      "hash (short hashes in their place)."},
+    {"quiet", InCheck, nullptr, "Open no window with the outcome after a check that failed."},
     {"verbose", InAll, nullptr, "Also write the log to the terminal."},
 };
 
@@ -197,6 +198,7 @@ private:
         m_options.nickname = value("nickname");
         m_options.cdn = value("cdn");
         m_options.isVerbose = isSet("verbose");
+        m_options.isQuiet = isSet("quiet");
         m_options.isJson = isSet("json");
         readFile("results", m_options.resultsFile);
         readFile("report", m_options.reportFile);

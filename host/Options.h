@@ -28,6 +28,7 @@ struct Options
     QString reportUrl;
     QString tourFolder;
     bool isVerbose = false;
+    bool isQuiet = false; // no window with the outcome
 
     bool isJson = false; // devices
     int count = 0;       // network: how many figures; 0 means no limit

@@ -65,7 +65,7 @@ bool isConfigured(Options& options, ExitCode& code)
     return configuration.error().isEmpty();
 }
 
-ExitCode runCommand(const Options& options)
+ExitCode runCommand(const Options& options, const TerminationSignals& signals)
 {
     switch (options.command) {
     case Options::Command::Version:
@@ -75,7 +75,7 @@ ExitCode runCommand(const Options& options)
         Console::print(Options::helpText(options.helpFor));
         return ExitCode::AllPassed;
     case Options::Command::Check:
-        return CheckCommand(options).run();
+        return CheckCommand(options, &signals).run();
     case Options::Command::Devices:
         return DevicesCommand::run(options);
     case Options::Command::Network:
@@ -118,7 +118,7 @@ ExitCode Program::run(int argc, char* argv[])
                 : std::make_unique<QCoreApplication>(shownCount, argv);
     trial.reset();
     const TerminationSignals signals;
-    code = runCommand(options);
+    code = runCommand(options, signals);
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
         return ExitCode::CannotWrite;
