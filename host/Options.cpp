@@ -67,6 +67,7 @@ constexpr Definition Definitions[] = {
     {"port", InServe, "N", "ID_Host_Option_Port"},
     {"format", InReport, "FORMAT", "ID_Host_Option_Format"},
     {"redact", InCheck | InReport, "LEVEL", "ID_Host_Option_Redact"},
+    {"quiet", InCheck, nullptr, "ID_Host_Option_Quiet"},
     {"verbose", InAll, nullptr, "ID_Host_Option_Verbose"},
 };
 
@@ -189,6 +190,7 @@ private:
         m_options.nickname = value("nickname");
         m_options.cdn = value("cdn");
         m_options.isVerbose = isSet("verbose");
+        m_options.isQuiet = isSet("quiet");
         m_options.isJson = isSet("json");
         readFile("results", m_options.resultsFile);
         readFile("report", m_options.reportFile);

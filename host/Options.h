@@ -19,7 +19,7 @@ struct Options
     Platform platform = Platform::Devices;
     QString scenario; // a file or the name of a bundled one
     QString language; // empty: the system's
-    QString server;   // Platform::StunServer reads it; empty: the built-in responder
+    QString server;   // Platform::StunServer reads it; empty: none is named here
     QString account;
     QString nickname;
     QString cdn; // "FIRST/SECOND"
@@ -28,6 +28,7 @@ struct Options
     QString reportUrl;
     QString tourFolder;
     bool isVerbose = false;
+    bool isQuiet = false; // no window with the outcome
 
     bool isJson = false; // devices
     int count = 0;       // network: how many figures; 0 means no limit

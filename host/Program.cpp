@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Program.h"
 
+#include "host/Configuration.h"
 #include "host/Console.h"
 #include "host/DisplayLoss.h"
 #include "host/DisplayTrial.h"
@@ -49,7 +50,24 @@ std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[]
     return application;
 }
 
-ExitCode runCommand(const Options& options, const QString& language)
+// Prints a message if what is set once for all runs can't be used.
+ExitCode configure(Options& options)
+{
+    const bool isUsed =
+        options.command == Options::Command::Check || options.command == Options::Command::Network;
+    if (!isUsed) {
+        return ExitCode::AllPassed;
+    }
+    Configuration configuration(Configuration::usualFiles());
+    configuration.complete(options);
+    if (!configuration.error().isEmpty()) {
+        Console::printError(configuration.error());
+    }
+    return configuration.errorCode();
+}
+
+ExitCode runCommand(const Options& options, const QString& language,
+                    const TerminationSignals& signals)
 {
     switch (options.command) {
     case Options::Command::Version:
@@ -59,7 +77,7 @@ ExitCode runCommand(const Options& options, const QString& language)
         Console::print(Options::helpText(options.helpFor));
         return ExitCode::AllPassed;
     case Options::Command::Check:
-        return CheckCommand(options).run(language);
+        return CheckCommand(options, &signals).run(language);
     case Options::Command::Devices:
         return DevicesCommand::run(options);
     case Options::Command::Network:
@@ -88,14 +106,14 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
         Console::printError(problem);
         return ExitCode::WrongUsage;
     }
-    return ExitCode::AllPassed;
+    return configure(options);
 }
 
 ExitCode runWithTexts(const Options& options, const TerminationSignals& signals)
 {
     Languages languages;
     languages.use(options.language); // readOptions() told of problems
-    const ExitCode code = runCommand(options, languages.current());
+    const ExitCode code = runCommand(options, languages.current(), signals);
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(qtTrId("ID_Host_OutputNotWritten"));
         return ExitCode::CannotWrite;
@@ -107,6 +125,8 @@ ExitCode runWithTexts(const Options& options, const TerminationSignals& signals)
 
 ExitCode Program::run(int argc, char* argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
     Options options;
     const ExitCode readCode = readOptions(System::arguments(argc, argv), argv, options);
     if (readCode != ExitCode::AllPassed) {
@@ -114,8 +134,6 @@ ExitCode Program::run(int argc, char* argv[])
     }
     // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
-    QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
     ScreenFit::takeFactorsAsTheyAre();
     const bool isCheck = options.command == Options::Command::Check;
     auto trial = isCheck ? std::make_unique<DisplayTrial>(shownCount, argv) : nullptr;

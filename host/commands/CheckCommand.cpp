@@ -7,7 +7,10 @@
 #include "host/DisplayLoss.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
+#include "host/OutcomeWindow.h"
+#include "host/TerminationSignals.h"
 #include "host/report/Redaction.h"
+#include "host/report/Remedies.h"
 #include "host/report/ReportBuilder.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
@@ -22,6 +25,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <algorithm>
 
 namespace {
 
@@ -39,7 +43,8 @@ void runDialog(bool& wasPutOut)
 
 } // namespace
 
-CheckCommand::CheckCommand(const Options& options) : m_options(options)
+CheckCommand::CheckCommand(const Options& options, const TerminationSignals* signals)
+    : m_options(options), m_signals(signals)
 {
 }
 
@@ -113,22 +118,40 @@ ExitCode CheckCommand::open(const QString& language)
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
     bool wasPutOut = false;
     bool isWritten = true;
+    RunOutcome outcome;
+    Report shown;
     const auto save = [&] {
         facts.finished = QDateTime::currentDateTime();
         const QJsonObject results = installed.results();
-        const RunOutcome outcome = RunOutcome::fromDocument(results, wasPutOut);
-        Console::print(outcome.toText());
-        isWritten =
-            write(ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
+        outcome = RunOutcome::fromDocument(results, wasPutOut);
+        Report report =
+            ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts());
+        RunHistory(Folders::runs()).compare(report);
+        shown = Redaction(m_options.redaction, m_redactionKey).redacted(report);
+        Console::print(outcome.toText() + Remedies::toText(report));
+        isWritten = write(report, shown);
         isWritten = writeResults(results) && isWritten;
-        return outcome.exitCode;
     };
     DisplayLoss::setSaving(save);
     runDialog(wasPutOut);
     DisplayLoss::setSaving(nullptr);
-    const ExitCode outcome = save();
-    const ExitCode code = tour ? endTour(*tour, language, outcome) : outcome;
+    save();
+    const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
+    const bool isEnding = m_signals && m_signals->haveArrived();
+    if (!isEnding && opensWindow(m_options, outcome)) {
+        OutcomeWindow(shown).exec();
+    }
     return isWritten ? code : ExitCode::CannotWrite;
+}
+
+bool CheckCommand::opensWindow(const Options& options, const RunOutcome& outcome)
+{
+    const bool isOfUser = options.platform == Options::Platform::Devices && !options.isQuiet &&
+                          options.tourFolder.isEmpty();
+    const bool hasFailure =
+        std::any_of(outcome.checks.begin(), outcome.checks.end(),
+                    [](const CheckOutcome& check) { return check.verdict == Verdict::Failed; });
+    return isOfUser && hasFailure && outcome.exitCode != ExitCode::PutOut;
 }
 
 bool CheckCommand::writeResults(const QJsonObject& results) const
@@ -144,18 +167,16 @@ bool CheckCommand::writeResults(const QJsonObject& results) const
     return problem.isEmpty();
 }
 
-bool CheckCommand::write(Report report) const
+bool CheckCommand::write(const Report& report, const Report& shown) const
 {
-    const RunHistory history(Folders::runs());
-    history.compare(report);
-    const Report shown = Redaction(m_options.redaction, m_redactionKey).redacted(report);
     const QString problem = ReportFile::write(
         m_reportFile,
         ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
     // A tour is no run of a user.
     if (!isTour()) {
-        history.append(report,
-                       problem.isEmpty() ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
+        RunHistory(Folders::runs())
+            .append(report,
+                    problem.isEmpty() ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
     }
     if (!problem.isEmpty()) {
         Console::printError(problem);

@@ -8,7 +8,9 @@
 
 #include <memory>
 
+class TerminationSignals;
 class Tour;
+struct RunOutcome;
 
 namespace Platform {
 class Engine;
@@ -19,10 +21,14 @@ class Engine;
 class CheckCommand
 {
 public:
-    explicit CheckCommand(const Options& options);
+    // signals: null if nobody watches for them.
+    explicit CheckCommand(const Options& options, const TerminationSignals* signals = nullptr);
 
-    ExitCode
-    run(const QString& language); // returns when the dialog is closed and the files are written
+    // Returns when the dialog is closed, the files are written, and the user has seen the outcome.
+    ExitCode run(const QString& language);
+
+    // Whether a window with the outcome is opened after a run that ended so.
+    static bool opensWindow(const Options& options, const RunOutcome& outcome);
 
 private:
     bool isTour() const { return !m_options.tourFolder.isEmpty(); }
@@ -30,12 +36,13 @@ private:
     bool prepareTour();
     bool prepareRedaction();
     ExitCode open(const QString& language);
-    bool write(Report report) const;
+    bool write(const Report& report, const Report& shown) const;
     bool writeResults(const QJsonObject& results) const;
     std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null without --tour
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 
     Options m_options;
+    const TerminationSignals* m_signals;
     QString m_reportFile;
     QByteArray m_redactionKey;
 };

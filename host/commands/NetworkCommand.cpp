@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/commands/NetworkCommand.h"
 
+#include "host/Configuration.h"
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
@@ -42,6 +43,8 @@ public:
         }
     }
 
+    bool hasServer() const { return m_last.problem != Platform::NetworkProblem::NoServer; }
+
     bool hasPassed() const
     {
         return m_printed > 0 &&
@@ -52,7 +55,9 @@ private:
     QString line() const
     {
         if (m_last.delayMs < 0) {
-            return qtTrId("ID_Host_Network_NoAnswer")
+            const bool hasAddress = m_last.problem != Platform::NetworkProblem::NoSuchHost;
+            return (hasAddress ? qtTrId("ID_Host_Network_NoAnswer")
+                               : qtTrId("ID_Host_Network_NoSuchServer"))
                 .arg(m_last.lossPercent)
                 .arg(m_last.sent)
                 .arg(m_last.answered);
@@ -63,7 +68,9 @@ private:
             .arg(m_last.lossPercent)
             .arg(m_last.sent)
             .arg(m_last.answered)
-            .arg(qtTrId(ReportWords::textId(NetworkGrade::of(m_last).level)));
+            .arg(hasServer()
+                     ? qtTrId(ReportWords::textId(NetworkGrade::of(m_last).level))
+                     : qtTrId("ID_Host_NotMeasured").arg(qtTrId("ID_Host_Reason_NoServer")));
     }
 
     const int m_count;
@@ -91,6 +98,12 @@ ExitCode NetworkCommand::run(const Options& options)
     QCoreApplication::exec();
     if (options.count == 0 && Console::isTerminal()) {
         Console::print(QStringLiteral("\n"));
+    }
+    if (!printer.hasServer()) {
+        Console::printError(qtTrId("ID_Host_Network_NameServer")
+                                .arg(QLatin1String(Configuration::ServerVariable),
+                                     Configuration::usualFiles().constFirst()));
+        return ExitCode::Unavailable;
     }
     return printer.hasPassed() ? ExitCode::AllPassed : ExitCode::SomeFailed;
 }

@@ -27,7 +27,7 @@ NetworkGrade::Line line(NetworkGrade::Figure figure, double value, double goodUp
 
 NetworkGrade NetworkGrade::of(const Platform::NetworkFigures& figures)
 {
-    if (figures.delayMs < 0) {
+    if (figures.delayMs < 0 || figures.problem == Platform::NetworkProblem::NoServer) {
         return {};
     }
     NetworkGrade grade;

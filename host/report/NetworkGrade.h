@@ -28,6 +28,6 @@ struct NetworkGrade
     Level level = Level::Good; // the worst of its lines
     std::vector<Line> lines;
 
-    // Needs a measured delay: without one there are no lines and no grade.
+    // Needs a delay that was measured to a server: else there are no lines and no grade.
     static NetworkGrade of(const Platform::NetworkFigures& figures);
 };

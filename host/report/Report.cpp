@@ -4,6 +4,11 @@
 
 #include <algorithm>
 
+bool ReportCheck::has(Cause cause) const
+{
+    return std::find(causes.begin(), causes.end(), cause) != causes.end();
+}
+
 const Measurement* ReportCheck::measurement(const QString& key) const
 {
     const auto found =

@@ -32,7 +32,9 @@ struct ReportCheck
     std::vector<Measurement> measurements;     // at the time of the verdict
     std::vector<Measurement> later;            // those that changed after the verdict
     std::vector<Contradiction> contradictions; // between answer and measurements
+    std::vector<Cause> causes;                 // of a failure; or that no server is configured
 
+    bool has(Cause cause) const;
     const Measurement* measurement(const QString& key) const; // null if it isn't listed
     const Measurement* measurement(FigureName name) const;
 };

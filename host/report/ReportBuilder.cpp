@@ -5,6 +5,7 @@
 #include "host/report/Contradictions.h"
 #include "host/report/Figures.h"
 #include "host/report/NetworkGrade.h"
+#include "host/report/Remedies.h"
 #include "platform/backend/ResultCodes.h"
 #include "platform/backend/ResultKeys.h"
 #include "platform/backend/SystemFacts.h"
@@ -16,8 +17,6 @@
 namespace {
 
 namespace ResultKeys = Platform::ResultKeys;
-
-const QLatin1String StateKey("state");
 
 RunEnd endOf(ExitCode code)
 {
@@ -72,7 +71,7 @@ Measurement notMeasured(const QString& key, const QString& reason)
 // The state of the device, if that is why there is no figure.
 std::optional<Reason> stateIn(const QJsonObject& figures)
 {
-    return ReportWords::find<Reason>(figures.value(StateKey).toString());
+    return ReportWords::find<Reason>(figures.value(ResultKeys::State).toString());
 }
 
 bool isOneOf(std::optional<Reason> state, std::initializer_list<Reason> reasons)
@@ -119,10 +118,16 @@ Measurement measurementOf(const QString& key, const QJsonObject& figures)
             return {key, status, {}, excuse.toString()};
         }
     }
+    const std::optional<Reason> state = stateIn(figures);
+    // What comes from this machine's own responder says nothing about a network.
+    if (state == Reason::NoServer) {
+        return notMeasured(key, ReportWords::of(Reason::NoServer));
+    }
     // A negative value means that no answer came.
     const QString delayKey = ReportWords::of(FigureName::Delay);
     if (isOfAnswers(key) && figures.value(delayKey).toDouble() < 0) {
-        return failed(key, ReportWords::of(Reason::NoAnswer));
+        const bool isKnown = state == Reason::NoSuchHost;
+        return failed(key, ReportWords::of(isKnown ? *state : Reason::NoAnswer));
     }
     return {key, Measurement::Status::Measured, value, {}};
 }
@@ -137,8 +142,8 @@ std::vector<Measurement> measurementsOf(CheckKind check, const QJsonObject& figu
                                    : measurementOf(key, figures));
     }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
-        const bool isKnown = it.key() == StateKey || it.key() == ResultKeys::Device ||
-                             Figures::find(check, it.key());
+        const bool isKnown = it.key() == ResultKeys::State || it.key() == ResultKeys::Cause ||
+                             it.key() == ResultKeys::Device || Figures::find(check, it.key());
         if (!isKnown) {
             result.push_back(measurementOf(it.key(), figures));
         }
@@ -184,6 +189,7 @@ ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
     check.measurements = measurementsOf(outcome.check, figures, !values.isEmpty());
     check.later = laterOf(check, figures, laterFigures);
     check.contradictions = Contradictions::of(check);
+    check.causes = Remedies::causesOf(check, figures);
     return check;
 }
 
@@ -216,6 +222,9 @@ void addGrade(Report& report, const QJsonObject& figures)
     measured.delayMs = figures.value(ReportWords::of(FigureName::Delay)).toInt(measured.delayMs);
     measured.lossPercent = figures.value(ReportWords::of(FigureName::Loss)).toInt();
     measured.jitterMs = figures.value(ReportWords::of(FigureName::Jitter)).toInt();
+    if (stateIn(figures) == Reason::NoServer) {
+        measured.problem = Platform::NetworkProblem::NoServer;
+    }
     const NetworkGrade grade = NetworkGrade::of(measured);
     if (grade.lines.empty()) {
         return;

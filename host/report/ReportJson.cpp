@@ -23,10 +23,11 @@ QJsonArray toArray(const std::vector<Element>& elements,
     return array;
 }
 
-QJsonArray wordArray(const std::vector<Contradiction>& values)
+template <typename Value>
+QJsonArray wordArray(const std::vector<Value>& values)
 {
     QJsonArray array;
-    for (const Contradiction value : values) {
+    for (const Value value : values) {
         array.append(ReportWords::of(value));
     }
     return array;
@@ -59,6 +60,9 @@ QJsonObject checkToJson(const ReportCheck& check)
         {QStringLiteral("device"), check.device},
         {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
         {QStringLiteral("contradictions"), wordArray(check.contradictions)}};
+    if (!check.causes.empty()) {
+        object.insert(QStringLiteral("causes"), wordArray(check.causes));
+    }
     if (!check.later.empty()) {
         object.insert(QStringLiteral("later"), toArray(check.later, measurementToJson));
     }
@@ -152,6 +156,9 @@ ReportCheck readCheck(JsonFields& fields)
     fields.require("contradictions");
     for (const QString& word : fields.words("contradictions", ReportWords::all<Contradiction>())) {
         check.contradictions.push_back(*ReportWords::find<Contradiction>(word));
+    }
+    for (const QString& word : fields.words("causes", ReportWords::all<Cause>())) {
+        check.causes.push_back(*ReportWords::find<Cause>(word));
     }
     return check;
 }

@@ -3,6 +3,7 @@
 #include "host/report/ReportView.h"
 
 #include "host/report/Figures.h"
+#include "host/report/Remedies.h"
 #include "host/report/ReportTexts.h"
 
 #include <QLocale>
@@ -90,11 +91,26 @@ private:
                     m_texts.of(check.kind) + QStringLiteral(": ") + m_texts.of(flag), Mark::Notice);
             }
         }
-        if (m_report.grade) {
-            add("ID_Host_Grade", m_texts.of(*m_report.grade), mark(*m_report.grade));
+        for (const Remedies::Remedy& remedy : Remedies::of(m_report)) {
+            add("ID_Host_Remedy",
+                m_texts.of(remedy.check) + QStringLiteral(": ") + m_texts.of(remedy.cause),
+                Mark::Notice);
         }
+        addGradeLevel();
         addNotice(m_report.platform);
         addNotice(m_report.redaction);
+    }
+
+    void addGradeLevel()
+    {
+        const ReportCheck* network = m_report.check(CheckKind::Network);
+        if (m_report.grade) {
+            add("ID_Host_Grade", m_texts.of(*m_report.grade), mark(*m_report.grade));
+        } else if (network && network->has(Cause::NoServer)) {
+            add("ID_Host_Grade",
+                m_texts.of(FigureStatus::NotMeasured).arg(m_texts.of(Reason::NoServer)),
+                Mark::Notice);
+        }
     }
 
     template <typename Value>
@@ -167,6 +183,9 @@ private:
         }
         for (const Contradiction flag : check.contradictions) {
             add("ID_Host_Report_Contradiction", m_texts.of(flag), Mark::Notice);
+        }
+        for (const Cause cause : check.causes) {
+            add("ID_Host_Remedy", m_texts.of(cause), Mark::Notice);
         }
         addMeasurements(check);
         // All that the check knows about a speaker is whether the sound was recognised.

@@ -131,6 +131,41 @@ const std::vector<Word<Reason>>& table()
         {Reason::Hung, "hung", "ID_Host_Reason_Hung"},
         {Reason::Failed, "failed", "ID_Host_Reason_Failed"},
         {Reason::NoAnswer, "noAnswer", "ID_Host_Reason_NoAnswer"},
+        {Reason::NoSuchHost, "noSuchHost", "ID_Host_Reason_NoSuchHost"},
+        {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
+    };
+    return words;
+}
+
+template <>
+const std::vector<Word<Cause>>& table()
+{
+    static const std::vector<Word<Cause>> words = {
+        {Cause::NoServer, "noServer", "ID_Host_Remedy_NoServer"},
+        {Cause::NoAnswer, "noAnswer", "ID_Host_Remedy_NoAnswer"},
+        {Cause::NoSuchHost, "noSuchHost", "ID_Host_Remedy_NoSuchHost"},
+        {Cause::Slow, "slow", "ID_Host_Remedy_Slow"},
+        {Cause::Lossy, "lossy", "ID_Host_Remedy_Lossy"},
+        {Cause::LeftTooSoon, "leftTooSoon", "ID_Host_Remedy_LeftTooSoon"},
+        {Cause::Absent, "absent", "ID_Host_Remedy_Absent"},
+        {Cause::Off, "off", "ID_Host_Remedy_Off"},
+        {Cause::Starting, "starting", "ID_Host_Remedy_Starting"},
+        {Cause::Busy, "busy", "ID_Host_Remedy_Busy"},
+        {Cause::Denied, "denied", "ID_Host_Remedy_Denied"},
+        {Cause::Hung, "hung", "ID_Host_Remedy_Hung"},
+        {Cause::Stalled, "stalled", "ID_Host_Remedy_Stalled"},
+        {Cause::Black, "black", "ID_Host_Remedy_Black"},
+        {Cause::Frozen, "frozen", "ID_Host_Remedy_Frozen"},
+        {Cause::Unplugged, "unplugged", "ID_Host_Remedy_Unplugged"},
+        {Cause::ServerLost, "server-lost", "ID_Host_Remedy_ServerLost"},
+        {Cause::Failed, "failed", "ID_Host_Remedy_Failed"},
+        {Cause::Silent, "silent", "ID_Host_Remedy_Silent"},
+        {Cause::Muted, "muted", "ID_Host_Remedy_Muted"},
+        {Cause::VolumeZero, "volumeZero", "ID_Host_Remedy_VolumeZero"},
+        {Cause::WrongSound, "wrongSound", "ID_Host_Remedy_WrongSound"},
+        {Cause::NotSeen, "notSeen", "ID_Host_Remedy_NotSeen"},
+        {Cause::NotHeard, "notHeard", "ID_Host_Remedy_NotHeard"},
+        {Cause::SelfNotHeard, "selfNotHeard", "ID_Host_Remedy_SelfNotHeard"},
     };
     return words;
 }

@@ -65,6 +65,37 @@ enum class Reason {
     Hung,
     Failed,
     NoAnswer,
+    NoSuchHost,
+    NoServer, // none is configured
+};
+
+// What a user can do something about. Engines record those of devices under the same words.
+enum class Cause {
+    NoServer,
+    NoAnswer,
+    NoSuchHost,
+    Slow,
+    Lossy,
+    LeftTooSoon, // the step of the network, before its first figures
+    Absent,
+    Off,
+    Starting,
+    Busy,
+    Denied,
+    Hung,
+    Stalled,
+    Black,
+    Frozen,
+    Unplugged,
+    ServerLost, // of pictures or sound on this machine
+    Failed,
+    Silent,
+    Muted,
+    VolumeZero,
+    WrongSound,
+    NotSeen, // the answer was no, although the device seemed to work
+    NotHeard,
+    SelfNotHeard,
 };
 
 // Answers and measurements that can't both be true.
@@ -115,6 +146,8 @@ template <>
 const std::vector<Word<FigureName>>& table();
 template <>
 const std::vector<Word<Reason>>& table();
+template <>
+const std::vector<Word<Cause>>& table(); // the texts say what to do
 template <>
 const std::vector<Word<Contradiction>>& table();
 template <>

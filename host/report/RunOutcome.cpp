@@ -47,6 +47,10 @@ CheckOutcome networkOutcome(const QJsonObject& texts, const QJsonObject& measure
                             NetworkLimits::arePassed(delayMs.toInt(), lossPercent.toInt());
         check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
         check.device = delay + QLatin1String(", ") + texts.value(ResultKeys::Loss).toString();
+        if (measurements.value(ResultKeys::State).toString() == ReportWords::of(Reason::NoServer)) {
+            check.device = qtTrId(ReportWords::textId(FigureStatus::NotMeasured))
+                               .arg(qtTrId(ReportWords::textId(Reason::NoServer)));
+        }
     } else if (wasLeft) {
         check.verdict = Verdict::Failed;
     }

@@ -9,6 +9,13 @@
 
 namespace Platform {
 
+// Why the figures are not those of the way to a server.
+enum class NetworkProblem {
+    None,
+    NoServer,   // none is configured: they are those of this machine alone
+    NoSuchHost, // the server has no address, so nothing could be sent
+};
+
 // What a probe measured within its time window.
 struct NetworkFigures
 {
@@ -19,8 +26,11 @@ struct NetworkFigures
     int answered = 0;
     int delay5Ms = NetworkLimits::NotMeasured; // 5th and 95th percentile of the round trips
     int delay95Ms = NetworkLimits::NotMeasured;
+    NetworkProblem problem = NetworkProblem::None;
 };
 
+// The word of a problem in the report, under the key "state".
+CLASSROOMBACKEND_EXPORT QString wordOf(NetworkProblem problem);
 // As they stand in the report.
 CLASSROOMBACKEND_EXPORT QJsonObject toJson(const NetworkFigures& figures);
 

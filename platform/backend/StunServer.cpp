@@ -28,14 +28,27 @@ std::optional<StunServer> StunServer::fromText(const QString& text)
     if (!parsed.isValid() || !hasHost || port == 0 || hasMore || place.endsWith(QLatin1Char(':'))) {
         return {};
     }
-    return StunServer{parsed.host(), quint16(port)};
+    return StunServer{parsed.host(), quint16(port), parsed.port() >= 0};
 }
 
 QString StunServer::toString() const
 {
+    if (mayHaveRecords()) {
+        return host;
+    }
     const QString pattern =
         host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2");
     return pattern.arg(host, QString::number(port));
+}
+
+// A name without a dot is one of this network, which has no such records. An address of IPv6 has
+// colons, and the last part of an IPv4 address is a number.
+bool StunServer::mayHaveRecords() const
+{
+    bool isNumber = false;
+    host.section(QLatin1Char('.'), -1).toUInt(&isNumber);
+    return !isPortGiven && !isNumber && host.contains(QLatin1Char('.')) &&
+           !host.contains(QLatin1Char(':'));
 }
 
 } // namespace Platform

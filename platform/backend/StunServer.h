@@ -14,6 +14,7 @@ struct CLASSROOMBACKEND_EXPORT StunServer
 {
     QString host; // a name or an address, that of IPv6 without brackets
     quint16 port = 0;
+    bool isPortGiven = true; // else the domain may name servers and ports by DNS records
 
     static constexpr quint16 DefaultPort = 3478;
 
@@ -24,7 +25,9 @@ struct CLASSROOMBACKEND_EXPORT StunServer
     // Reads "HOST" or "HOST:PORT", also behind "stun:" (RFC 7064). The address of an IPv6 host
     // stands in brackets. Nothing if it isn't such a text.
     static std::optional<StunServer> fromText(const QString& text);
-    QString toString() const; // "HOST:PORT", for people
+    // "HOST:PORT" for people, or the domain alone if its records may name another server.
+    QString toString() const;
+    bool mayHaveRecords() const; // a domain without a port
 };
 
 } // namespace Platform

@@ -34,15 +34,22 @@ class DeviceEngine::EngineProbe final : public NetworkProbe, private NetworkProb
 public:
     EngineProbe(std::shared_ptr<StunResponder> responder, const StunServer& server,
                 NetworkProbe::Listener& listener, StunProbe::AddressHandler onClientAddress,
-                ReportSink* sink)
+                const QString& nameservers, ReportSink* sink)
         : m_responder(std::move(responder)),
           m_listener(listener),
           m_sink(sink),
-          m_probe(server, *this, std::move(onClientAddress))
+          m_probe(server, *this, std::move(onClientAddress), nameservers)
     {
     }
 
-    NetworkFigures figures() const override { return m_probe.figures(); }
+    NetworkFigures figures() const override
+    {
+        NetworkFigures figures = m_probe.figures();
+        if (m_responder) {
+            figures.problem = NetworkProblem::NoServer;
+        }
+        return figures;
+    }
 
 private:
     void networkFiguresChanged() override
@@ -160,11 +167,11 @@ DeviceEngine::probe(NetworkProbe::Listener& listener,
         std::shared_ptr<StunResponder> present = responder();
         const StunServer server = present->server();
         return std::make_unique<EngineProbe>(std::move(present), server, listener,
-                                             std::move(onClientAddress), sink);
+                                             std::move(onClientAddress), QString(), sink);
     }
     const StunServer server = StunServer::fromText(m_config.server).value_or(StunServer());
     return std::make_unique<EngineProbe>(nullptr, server, listener, std::move(onClientAddress),
-                                         sink);
+                                         m_config.nameservers, sink);
 }
 
 } // namespace Platform

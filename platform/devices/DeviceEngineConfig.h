@@ -11,6 +11,7 @@ struct DeviceEngineConfig
 {
     QString server;               // as StunServer::fromText() reads it; empty: the own responder
     QString builtInResponderText; // what the server line says then; empty: the usual words
+    QString nameservers;          // for its DNS records: "ADDRESS:PORT,…"; empty: the system's
     QString cdnFirstPart;
     QString cdnSecondPart;
     QString account;        // empty: the operating system's user

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>هذا الكمبيوتر (خادم اختبار)</translation>
+        <translation>لم يُقَس: لا يوجد خادم</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>لم يتغير شيء منذ ذلك الحين.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: يجب أن يكون كل سطر KEY=VALUE، مثل server=HOST، أو تعليقًا بعد فاصلة منقوطة؛ صحّحه هناك</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: المقبول هو %4؛ صحّحه هناك</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: المقبول هو %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: المفتاح %2 غير معروف؛ المفاتيح هي server وreport-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: تتعذر قراءته كملف إعدادات؛ ضع هناك ملفًا نصيًا فيه أسطر مثل server=HOST أو احذفه</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>التأخر %1 مث، التذبذب %2 مث، فقد الحزم %3%، المُرسل %4، المُجاب %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>لم يُقَس: لا يوجد خادم؛ حدّد واحدًا بالخيار --server أو بالمتغير %1 أو في %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>لا استجابة، فقد الحزم %1%، المُرسل %2، المُجاب %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>لا يوجد خادم كهذا، فقد الحزم %1%، المُرسل %2، المُجاب %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>منفذ UDP للإجابة؛ افتراضيًا 3478، و0 يأخذ منفذًا شاغرًا.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>لا تفتح نافذة النتيجة بعد فحص لم ينجح.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>ما يُحذف: none (لا شيء، الافتراضي) أو personal (العناوين والأسماء والحسابات) أو hash (رموز قصيرة بدلًا منها).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>خادم STUN الذي يُقاس إليه التأخر وفقد الحزم، ويُكتب أيضًا stun:HOST:PORT؛ والمنفذ افتراضيًا 3478. من دون خادم يجيب هذا الكمبيوتر نفسه، وذلك لا يدل على حال الشبكة.</translation>
+        <translation>خادم STUN الذي يُقاس إليه التأخر وفقد الحزم، ويُكتب أيضًا stun:HOST:PORT. من دون منفذ تُسأل سجلات DNS للنطاق (_stun._udp)، وإلا فالمنفذ 3478. ويمكن تحديده أيضًا بالمتغير ENVCHECK_SERVER أو في ملف إعدادات. من دون خادم لا تُقاس الشبكة، بل يجيب هذا الكمبيوتر نفسه.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>لم يتم العثور على كاميرا</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>لا يوجد خادم</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>اسم الخادم غير معروف</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>ما العمل</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>قيس هذا الكمبيوتر فقط لأنه لم يُحدَّد أي خادم، فاسأل مدرستك عن خادمها وحدّده بالخيار --server أو في ملف الإعدادات.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>لم يستجب الخادم، فتأكد من اتصالك بالإنترنت ومن أن جدار الحماية لا يحجب UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>اسم الخادم غير معروف، فتأكد من كتابته ومن اتصالك بالإنترنت.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>الاتصال بطيء، فاستخدم كابل الشبكة أو اقترب من جهاز التوجيه اللاسلكي، وأوقف التنزيلات والمكالمات الأخرى.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>تضيع بيانات كثيرة في الطريق، فاستخدم كابل الشبكة أو اقترب من جهاز التوجيه اللاسلكي.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>غادرت هذه الخطوة قبل قياس أي شيء، فانتظر فيها حتى تظهر القيم.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>لم يُعثر على أي جهاز، فصِل جهازًا أو شغّله ثم أعد الفحص.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>الجهاز متوقف في القائمة، فاختر جهازًا منها.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>كان الجهاز لا يزال يبدأ التشغيل، فانتظر قليلًا قبل أن تجيب.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>برنامج آخر يستخدم الجهاز، فأغلق ذلك البرنامج وأعد الفحص.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>يرفض النظام الوصول إلى الجهاز، فاسمح به في إعدادات الخصوصية.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>لم يستجب الجهاز، فافصله ثم صِله من جديد، أو أعد تشغيل الكمبيوتر.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>لم ترسل الكاميرا أي صورة، فافصلها ثم صِلها من جديد، أو اختر كاميرا أخرى.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>كانت الصورة سوداء، فافتح غطاء العدسة وشغّل الإضاءة.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>كانت الصورة ثابتة، فافصل الكاميرا ثم صِلها من جديد.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>فُصل الجهاز أثناء الفحص، فصِله من جديد وتحقق من الكابل.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>توقفت خدمة الصورة والصوت في النظام، فسجّل الخروج ثم الدخول، أو أعد تشغيل الكمبيوتر.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>تعطل الجهاز، فصِله من جديد أو جرّب جهازًا آخر.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>لم يسجل الميكروفون شيئًا، فتحدث قريبًا منه أو تحقق من مفتاحه أو اختر ميكروفونًا آخر من القائمة.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>الجهاز مكتوم، فألغِ كتمه.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>مستوى الصوت 0، فارفعه.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>اخترت صوتًا غير الذي شُغّل، فارفع مستوى الصوت واستمع مرة أخرى.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>لم ترَ نفسك مع أن الكاميرا أرسلت صورًا، فتحقق من الكاميرا المحددة.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>لم تسمع شيئًا مع أن الصوت شُغّل، فارفع مستوى الصوت وتحقق من السماعة المحددة.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>لم تسمع نفسك مع أن الميكروفون سجّل صوتًا، فارفع مستوى الصوت وتحقق من السماعة المحددة.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>نتيجة الفحص</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>نسخ</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>حفظ…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>فتح التقرير</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>إغلاق</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>نُسخ التقرير. ألصقه قبل إغلاق هذه النافذة.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>حُفظ التقرير في %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>تتعذر كتابة التقرير في %1. اختر مكانًا آخر.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>لم يستطع أي برنامج فتح التقرير. وهو في %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Dieser Computer (Testserver)</translation>
+        <translation>Nicht gemessen: kein Server</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Seither hat sich nichts geändert.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: jede Zeile muss KEY=VALUE lauten, etwa server=HOST, oder ein Kommentar nach einem Semikolon sein; bitte dort berichtigen</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: möglich ist %4; bitte dort berichtigen</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: möglich ist %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: unbekannter Schlüssel %2; es gibt server und report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: als Konfigurationsdatei nicht lesbar; legen Sie dort eine Textdatei mit Zeilen wie server=HOST ab oder entfernen Sie sie</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>Verzögerung %1 ms, Schwankung %2 ms, Paketverlust %3 %, gesendet %4, beantwortet %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>nicht gemessen: kein Server; geben Sie einen mit --server, mit %1 oder in %2 an</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>keine Antwort, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>Server nicht gefunden, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>UDP-Port, auf dem geantwortet wird; Standard ist 3478, 0 nimmt einen freien.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Nach einer Prüfung mit Fehlern kein Fenster mit dem Ergebnis öffnen.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>Was weggelassen wird: none (nichts, Standard), personal (Adressen, Namen und Konten) oder hash (kurze Codes an deren Stelle).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>STUN-Server, zu dem Verzögerung und Paketverlust gemessen werden, auch als stun:HOST:PORT; der Port ist sonst 3478. Ohne Server antwortet ein kleiner Testserver auf diesem Computer, was nichts über das Netzwerk sagt.</translation>
+        <translation>STUN-Server, zu dem Verzögerung und Paketverlust gemessen werden, auch als stun:HOST:PORT. Ohne Port werden die DNS-Einträge der Domain (_stun._udp) gefragt, sonst gilt Port 3478. Auch ENVCHECK_SERVER oder eine Konfigurationsdatei kann ihn nennen. Ohne Server wird das Netzwerk nicht gemessen: Dieser Computer antwortet selbst.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>Keine Kamera gefunden</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>kein Server</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>der Name des Servers ist unbekannt</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Was zu tun ist</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Weil kein Server eingestellt ist, wurde nur dieser Computer gemessen: Fragen Sie Ihre Schule nach dem Server und stellen Sie ihn mit --server oder in der Konfigurationsdatei ein.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>Der Server hat nicht geantwortet: Prüfen Sie, ob Sie online sind und ob eine Firewall UDP sperrt.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>Der Name des Servers ist unbekannt: Prüfen Sie die Schreibweise und ob Sie online sind.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>Die Verbindung ist langsam: Nutzen Sie ein Kabel oder gehen Sie näher an den WLAN-Router, und beenden Sie Downloads und andere Anrufe.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Unterwegs gehen zu viele Daten verloren: Nutzen Sie ein Kabel oder gehen Sie näher an den WLAN-Router.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Der Schritt wurde verlassen, bevor etwas gemessen war: Warten Sie dort, bis die Werte erscheinen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>Es wurde kein Gerät gefunden: Schließen Sie eines an oder schalten Sie es ein, und prüfen Sie erneut.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>Das Gerät ist in der Liste ausgeschaltet: Wählen Sie dort eines aus.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>Das Gerät war noch nicht bereit: Warten Sie etwas länger, bevor Sie antworten.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Ein anderes Programm nutzt das Gerät: Beenden Sie dieses Programm und prüfen Sie erneut.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>Das System verweigert den Zugriff auf das Gerät: Erlauben Sie ihn in den Datenschutzeinstellungen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>Das Gerät hat nicht geantwortet: Stecken Sie es aus und wieder ein, oder starten Sie den Computer neu.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>Die Kamera hat kein Bild geliefert: Stecken Sie sie aus und wieder ein, oder wählen Sie eine andere.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>Das Bild war schwarz: Öffnen Sie die Blende und schalten Sie das Licht ein.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>Das Bild stand still: Stecken Sie die Kamera aus und wieder ein.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>Das Gerät wurde während der Prüfung getrennt: Schließen Sie es wieder an und prüfen Sie das Kabel.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>Der Bild- und Tondienst des Systems ist ausgefallen: Melden Sie sich ab und wieder an, oder starten Sie den Computer neu.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>Das Gerät ist ausgefallen: Schließen Sie es neu an oder versuchen Sie es mit einem anderen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>Das Mikrofon hat nichts aufgenommen: Sprechen Sie näher daran, prüfen Sie seinen Schalter oder wählen Sie ein anderes in der Liste.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>Das Gerät ist stummgeschaltet: Heben Sie die Stummschaltung auf.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>Die Lautstärke ist 0: Erhöhen Sie sie.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Sie haben ein anderes Geräusch gewählt als das gespielte: Erhöhen Sie die Lautstärke und hören Sie noch einmal hin.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Sie haben sich nicht gesehen, obwohl die Kamera Bilder geliefert hat: Prüfen Sie, welche Kamera ausgewählt ist.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Sie haben nichts gehört, obwohl ein Geräusch gespielt wurde: Erhöhen Sie die Lautstärke und prüfen Sie, welcher Lautsprecher ausgewählt ist.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Sie haben sich nicht gehört, obwohl das Mikrofon aufgenommen hat: Erhöhen Sie die Lautstärke und prüfen Sie, welcher Lautsprecher ausgewählt ist.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Ergebnis der Prüfung</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Speichern…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Bericht öffnen</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>Der Bericht ist kopiert. Fügen Sie ihn ein, bevor Sie dieses Fenster schließen.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>Der Bericht ist gespeichert in %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>Der Bericht lässt sich nicht nach %1 schreiben. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Kein Programm konnte den Bericht öffnen. Er steht in %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>This computer (test responder)</translation>
+        <translation>Not measured: no server set</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Nothing has changed since then.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: every line must be KEY=VALUE, such as server=HOST, or a comment after a semicolon; put it right there</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: it takes %4; put it right there</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: it takes %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: unknown key %2; the keys are server and report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: it can't be read as a configuration file; put a text file with lines such as server=HOST there, or remove it</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>delay %1 ms, jitter %2 ms, loss %3 %, sent %4, answered %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>not measured: no server; name one with --server, with %1, or in %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>no answer, loss %1 %, sent %2, answered %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>no such server, loss %1 %, sent %2, answered %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>UDP port to answer on; 3478 by default, 0 takes a free one.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Open no window with the outcome after a check that failed.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>What to leave out: none (the default), personal (no addresses, names and accounts) or hash (short codes in their place).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>STUN server to measure delay and loss with, also as stun:HOST:PORT; the port is 3478 by default. If no server is given, this machine answers itself, which says nothing about the network.</translation>
+        <translation>STUN server to measure delay and loss with, also as stun:HOST:PORT. Without a port the DNS records of the domain (_stun._udp) are asked, otherwise the port is 3478. ENVCHECK_SERVER or a configuration file can name it, too. Without a server the network is not measured: this machine answers itself.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>No camera was found</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>no server</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>the server's name is unknown</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>What to do</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Only this computer was measured, because no server is set, so ask your school for its server and set it with --server or in the configuration file.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>The server did not answer, so check that you are online and that no firewall blocks UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>The server's name is unknown, so check how it is written and that you are online.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>The connection is slow, so use a cable or move closer to the Wi-Fi router, and stop downloads and other calls.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Too much data is lost on the way, so use a cable or move closer to the Wi-Fi router.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>The step was left before anything was measured, so wait there until the figures appear.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>No device was found, so plug one in or switch it on, then check again.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>The device is turned off in the list, so choose one there.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>The device was still starting, so wait a little longer before you answer.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Another program is using the device, so close that program and check again.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>The system refuses access to the device, so allow it in the privacy settings.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>The device did not answer, so unplug it and plug it in again, or restart the computer.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>The camera sent no picture, so unplug it and plug it in again, or choose another one.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>The picture was black, so open the lens cover and switch on the light.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>The picture did not move, so unplug the camera and plug it in again.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>The device was unplugged during the check, so plug it in again and check its cable.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>The system's service for pictures and sound stopped, so sign out and in again, or restart the computer.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>The device broke down, so plug it in again or try another one.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>The microphone recorded nothing, so speak closer to it, check its own switch, or choose another one in the list.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>The device is muted, so unmute it.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>The volume is 0, so turn it up.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>You chose another sound than the one that was played, so turn up the volume and listen again.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>You did not see yourself although the camera sent pictures, so check which camera is chosen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>You heard nothing although a sound was played, so turn up the volume and check which speaker is chosen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>You did not hear yourself although the microphone recorded sound, so turn up the volume and check which speaker is chosen.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Result of the check</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Copy</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Save…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Open report</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>The report is copied. Paste it before you close this window.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>The report is saved in %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>The report can't be written to %1. Choose another place.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>No program could open the report. It is in %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Este equipo (servidor interno)</translation>
+        <translation>Sin medir: no hay servidor</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Nada ha cambiado desde entonces.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: cada línea debe ser KEY=VALUE, como server=HOST, o un comentario tras un punto y coma; corríjalo ahí</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: admite %4; corríjalo ahí</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: admite %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: clave desconocida %2; las claves son server y report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: no se puede leer como archivo de configuración; ponga ahí un archivo de texto con líneas como server=HOST o elimínelo</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, sondas enviadas %4, respondidas %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>sin medir: sin servidor; indique uno con --server, con %1 o en %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>sin respuesta, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>no existe ese servidor, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>Puerto UDP en el que se responde; por defecto 3478, 0 elige uno libre.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>No abrir una ventana con el resultado tras una comprobación con fallos.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>Qué se omite: none (nada, por defecto), personal (direcciones, nombres y cuentas) o hash (códigos cortos en su lugar).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>Servidor STUN hasta el que se miden la latencia y la pérdida, también como stun:HOST:PORT; el puerto por defecto es 3478. Sin servidor responde este mismo equipo, lo que no dice nada de la red.</translation>
+        <translation>Servidor STUN hasta el que se miden la latencia y la pérdida, también como stun:HOST:PORT. Sin puerto se consultan los registros DNS del dominio (_stun._udp); si no los hay, el puerto es 3478. También pueden indicarlo ENVCHECK_SERVER o un archivo de configuración. Sin servidor no se mide la red: responde este mismo equipo.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>No se encontró ninguna cámara</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>no hay servidor</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>no se conoce el nombre del servidor</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Qué hacer</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Solo se midió este equipo porque no hay servidor: pida a su centro el nombre del servidor e indíquelo con --server o en el archivo de configuración.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>El servidor no respondió: compruebe que tiene conexión y que ningún cortafuegos bloquea UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>No se conoce el nombre del servidor: compruebe cómo está escrito y que tiene conexión.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>La conexión es lenta: use un cable o acérquese al router wifi, y detenga descargas y otras llamadas.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Se pierden demasiados datos por el camino: use un cable o acérquese al router wifi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Se dejó el paso antes de medir nada: espere allí hasta que aparezcan los valores.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>No se encontró ningún dispositivo: conecte uno o enciéndalo y repita la prueba.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>El dispositivo está desactivado en la lista: elija uno allí.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>El dispositivo aún se estaba iniciando: espere un poco más antes de responder.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Otro programa usa el dispositivo: cierre ese programa y repita la prueba.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>El sistema deniega el acceso al dispositivo: permítalo en los ajustes de privacidad.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>El dispositivo no respondió: desconéctelo y vuelva a conectarlo, o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>La cámara no envió imagen: desconéctela y vuelva a conectarla, o elija otra.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>La imagen era negra: abra la tapa de la cámara y encienda la luz.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>La imagen no se movía: desconecte la cámara y vuelva a conectarla.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>El dispositivo se desconectó durante la prueba: vuelva a conectarlo y revise el cable.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>El servicio de imagen y sonido del sistema se detuvo: cierre la sesión y vuelva a entrar, o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>El dispositivo falló: vuelva a conectarlo o pruebe con otro.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>El micrófono no grabó nada: hable más cerca, revise su interruptor o elija otro en la lista.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>El dispositivo está silenciado: active el sonido.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>El volumen es 0: súbalo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Eligió un sonido distinto del que se reprodujo: suba el volumen y escuche otra vez.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Usted no se vio aunque la cámara envió imágenes: compruebe qué cámara está elegida.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Usted no oyó nada aunque se reprodujo un sonido: suba el volumen y compruebe qué altavoz está elegido.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Usted no se oyó aunque el micrófono grabó sonido: suba el volumen y compruebe qué altavoz está elegido.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Resultado de la prueba</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Copiar</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Guardar…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Abrir informe</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>El informe está copiado. Péguelo antes de cerrar esta ventana.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>El informe se guardó en %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>No se puede escribir el informe en %1. Elija otro lugar.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Ningún programa pudo abrir el informe. Está en %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Cet ordinateur (test intégré)</translation>
+        <translation>Non mesuré : aucun serveur</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Rien n’a changé depuis.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1 : chaque ligne doit être KEY=VALUE, comme server=HOST, ou un commentaire après un point-virgule ; corrigez-la à cet endroit</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1 : %2=%3 : valeur attendue : %4 ; corrigez-la à cet endroit</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2 : valeur attendue : %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1 : clé inconnue %2 ; les clés sont server et report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1 : illisible comme fichier de configuration ; mettez-y un fichier texte avec des lignes comme server=HOST, ou supprimez-le</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>latence %1 ms, gigue %2 ms, perte %3 %, sondes envoyées %4, avec réponse %5 : %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>non mesuré : pas de serveur ; indiquez-en un avec --server, avec %1 ou dans %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>pas de réponse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>serveur introuvable, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>Port UDP sur lequel répondre ; 3478 par défaut, 0 prend un port libre.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Ne pas ouvrir de fenêtre avec le résultat après une vérification en échec.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>Ce qui est omis : none (rien, par défaut), personal (adresses, noms et comptes) ou hash (des codes courts à leur place).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>Serveur STUN vers lequel mesurer la latence et la perte, aussi sous la forme stun:HOST:PORT ; le port est 3478 par défaut. Sans serveur, cet ordinateur se répond à lui-même, ce qui ne dit rien du réseau.</translation>
+        <translation>Serveur STUN vers lequel mesurer la latence et la perte, aussi sous la forme stun:HOST:PORT. Sans port, les enregistrements DNS du domaine (_stun._udp) sont consultés ; à défaut, le port est 3478. ENVCHECK_SERVER ou un fichier de configuration peut aussi l’indiquer. Sans serveur, le réseau n’est pas mesuré : cet ordinateur se répond à lui-même.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>Aucune caméra trouvée</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>aucun serveur</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>le nom du serveur est inconnu</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Que faire</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Seul cet ordinateur a été mesuré, car aucun serveur n'est défini : demandez à votre école le nom du serveur et indiquez-le avec --server ou dans le fichier de configuration.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>Le serveur n'a pas répondu : vérifiez que vous êtes en ligne et qu'aucun pare-feu ne bloque UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>Le nom du serveur est inconnu : vérifiez son orthographe et que vous êtes en ligne.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>La connexion est lente : utilisez un câble ou rapprochez-vous de la box Wi-Fi, et arrêtez téléchargements et autres appels.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Trop de données se perdent en route : utilisez un câble ou rapprochez-vous de la box Wi-Fi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>L'étape a été quittée avant toute mesure : attendez-y que les valeurs s'affichent.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>Aucun appareil n'a été trouvé : branchez-en un ou allumez-le, puis recommencez.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>L'appareil est désactivé dans la liste : choisissez-en un.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>L'appareil démarrait encore : attendez un peu plus avant de répondre.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Un autre programme utilise l'appareil : fermez ce programme et recommencez.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>Le système refuse l'accès à l'appareil : autorisez-le dans les paramètres de confidentialité.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>L'appareil n'a pas répondu : débranchez-le et rebranchez-le, ou redémarrez l'ordinateur.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>La caméra n'a envoyé aucune image : débranchez-la et rebranchez-la, ou choisissez-en une autre.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>L'image était noire : ouvrez le cache de l'objectif et allumez la lumière.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>L'image était figée : débranchez la caméra et rebranchez-la.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>L'appareil a été débranché pendant le test : rebranchez-le et vérifiez son câble.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>Le service d'image et de son du système s'est arrêté : fermez la session et rouvrez-la, ou redémarrez l'ordinateur.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>L'appareil est tombé en panne : rebranchez-le ou essayez-en un autre.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>Le micro n'a rien enregistré : parlez plus près, vérifiez son interrupteur ou choisissez-en un autre dans la liste.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>Le son de l'appareil est coupé : rétablissez-le.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>Le volume est à 0 : augmentez-le.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Vous avez choisi un autre son que celui qui a été joué : augmentez le volume et réécoutez.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Vous ne vous êtes pas vu alors que la caméra envoyait des images : vérifiez quelle caméra est choisie.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Vous n'avez rien entendu alors qu'un son a été joué : augmentez le volume et vérifiez quel haut-parleur est choisi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Vous ne vous êtes pas entendu alors que le micro a enregistré du son : augmentez le volume et vérifiez quel haut-parleur est choisi.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Résultat du test</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Copier</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Ouvrir le rapport</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>Le rapport est copié. Collez-le avant de fermer cette fenêtre.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>Le rapport est enregistré dans %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>Impossible d'écrire le rapport dans %1. Choisissez un autre emplacement.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Aucun programme n'a pu ouvrir le rapport. Il se trouve dans %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>このパソコン（テスト用内蔵）</translation>
+        <translation>未測定：サーバー未設定</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>その後の変更はありません。</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1：各行は server=HOST のような KEY=VALUE か、セミコロンで始まるコメントにしてください</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1：%2=%3：指定できるのは %4。ファイルを修正してください</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2：指定できるのは %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1：不明なキー %2。使えるキーは server と report-url です</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1：設定ファイルとして読み込めません。server=HOST のような行を含むテキストファイルを置くか、削除してください</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>遅延 %1 ms、ジッター %2 ms、パケット損失 %3%、送信 %4、応答 %5：%6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>未測定：サーバーがありません。--server、%1、または %2 で指定してください</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>応答なし、パケット損失 %1%、送信 %2、応答 %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>サーバーが見つかりません、パケット損失 %1%、送信 %2、応答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>応答する UDP ポート。既定は 3478、0 なら空きポートを使います。</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>チェックで問題があっても結果のウィンドウを開きません。</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>省く情報：none（なし、既定）、personal（アドレス、名前、アカウント）、または hash（短い記号に置き換え）。</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>遅延とパケット損失を測定する相手の STUN サーバー。stun:HOST:PORT とも書けます。ポートの既定は 3478。サーバーを指定しないとこのパソコン自身が応答するため、ネットワークの状態は分かりません。</translation>
+        <translation>遅延とパケット損失を測定する相手の STUN サーバー。stun:HOST:PORT とも書けます。ポートがなければドメインの DNS レコード（_stun._udp）を調べ、なければ 3478 です。ENVCHECK_SERVER や設定ファイルでも指定できます。サーバーがなければこのパソコン自身が応答し、ネットワークは測定されません。</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>カメラが見つかりません</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>サーバー未設定</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>サーバー名が見つかりません</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>対処方法</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>サーバーが設定されていないためこのパソコンだけを測定しました。学校にサーバー名を確認し、--server または設定ファイルで指定してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>サーバーが応答しませんでした。ネットワークに接続されているか、ファイアウォールが UDP を遮断していないか確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>サーバー名が見つかりません。名前のつづりとネットワーク接続を確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>接続が遅くなっています。LAN ケーブルを使うか Wi-Fi ルーターに近づき、ダウンロードやほかの通話を止めてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>途中で失われるデータが多すぎます。LAN ケーブルを使うか、Wi-Fi ルーターに近づいてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>測定の前に次へ進みました。数値が表示されるまでお待ちください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>機器が見つかりません。接続するか電源を入れて、もう一度確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>一覧で機器がオフになっています。一覧から選んでください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>機器の準備中でした。もう少し待ってから回答してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>別のプログラムが機器を使用中です。そのプログラムを終了して、もう一度確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>システムが機器の使用を許可していません。プライバシー設定で許可してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>機器が応答しませんでした。抜き差しするか、パソコンを再起動してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>カメラから映像が届きませんでした。抜き差しするか、別のカメラを選んでください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>映像が真っ黒でした。レンズカバーを開け、照明をつけてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>映像が動きませんでした。カメラを抜き差ししてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>確認中に機器が外れました。接続し直し、ケーブルを確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>システムの映像・音声サービスが停止しました。サインインし直すか、パソコンを再起動してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>機器に障害が起きました。接続し直すか、別の機器を試してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>マイクで何も録音できませんでした。近づいて話し、マイクのスイッチを確認するか、一覧から別のマイクを選んでください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>機器がミュートになっています。ミュートを解除してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>音量が 0 です。音量を上げてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>再生した音と違う音が選ばれました。音量を上げて、もう一度聞いてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>カメラの映像は届いていましたが、ご自分が見えませんでした。どのカメラが選ばれているか確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>音は再生されましたが、聞こえませんでした。音量を上げ、どのスピーカーが選ばれているか確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>マイクは録音しましたが、ご自分の声が聞こえませんでした。音量を上げ、どのスピーカーが選ばれているか確認してください。</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>確認の結果</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>コピー</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>保存…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>レポートを開く</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>閉じる</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>レポートをコピーしました。このウィンドウを閉じる前に貼り付けてください。</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>レポートを保存しました: %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>レポートを %1 に書き込めません。別の場所を選んでください。</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>レポートを開けるプログラムがありません。場所: %1</translation>
     </message>
 </context>
 </TS>

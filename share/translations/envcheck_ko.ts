@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>이 컴퓨터(내장 테스트 서버)</translation>
+        <translation>측정 안 됨: 서버 없음</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>그 이후로 변경된 것이 없습니다.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: 각 줄은 server=HOST 같은 KEY=VALUE이거나 세미콜론 뒤의 주석이어야 합니다. 파일에서 바로잡으세요</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: 가능한 값은 %4. 파일에서 바로잡으세요</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: 가능한 값은 %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: 알 수 없는 키 %2. 키는 server와 report-url입니다</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: 설정 파일로 읽을 수 없습니다. server=HOST 같은 줄이 있는 텍스트 파일을 두거나 삭제하세요</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>지연 %1 ms, 지터 %2 ms, 패킷 손실 %3%, 보냄 %4, 응답 %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>측정 안 됨: 서버 없음. --server, %1 또는 %2에서 지정하세요</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>응답 없음, 패킷 손실 %1%, 보냄 %2, 응답 %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>서버를 찾을 수 없음, 패킷 손실 %1%, 보냄 %2, 응답 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>응답할 UDP 포트. 기본값은 3478이고 0이면 빈 포트를 사용합니다.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>점검에 실패해도 결과 창을 열지 않습니다.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>제외할 정보: none(없음, 기본값), personal(주소, 이름, 계정) 또는 hash(짧은 코드로 바꿈).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>지연과 패킷 손실을 측정할 STUN 서버. stun:HOST:PORT로도 쓸 수 있고 기본 포트는 3478입니다. 서버가 없으면 이 컴퓨터가 응답하므로 네트워크 상태를 알 수 없습니다.</translation>
+        <translation>지연과 패킷 손실을 측정할 STUN 서버. stun:HOST:PORT로도 쓸 수 있습니다. 포트가 없으면 도메인의 DNS 레코드(_stun._udp)를 묻고, 없으면 3478입니다. ENVCHECK_SERVER나 설정 파일로도 지정할 수 있습니다. 서버가 없으면 이 컴퓨터가 응답하며 네트워크는 측정되지 않습니다.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>카메라를 찾을 수 없습니다</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>서버 없음</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>서버 이름을 찾을 수 없음</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>해결 방법</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>서버가 설정되지 않아 이 컴퓨터만 측정했으니 학교에 서버를 문의해 --server 또는 설정 파일로 지정하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>서버가 응답하지 않았으니 인터넷 연결과 방화벽의 UDP 차단 여부를 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>서버 이름을 찾을 수 없으니 철자와 인터넷 연결을 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>연결이 느리니 유선 랜을 사용하거나 무선 공유기에 가까이 가고, 다운로드와 다른 통화를 중지하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>전송 중에 손실되는 데이터가 너무 많으니 유선 랜을 사용하거나 무선 공유기에 가까이 가세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>측정되기 전에 이 단계를 떠났으니 값이 나타날 때까지 기다리세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>장치를 찾을 수 없으니 장치를 연결하거나 켠 뒤 다시 점검하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>목록에서 장치가 꺼져 있으니 목록에서 장치를 선택하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>장치가 아직 시작 중이었으니 조금 더 기다린 뒤 답하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>다른 프로그램이 장치를 사용 중이니 그 프로그램을 닫고 다시 점검하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>시스템이 장치 사용을 막고 있으니 개인 정보 설정에서 허용하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>장치가 응답하지 않았으니 뺐다가 다시 연결하거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>카메라가 화면을 보내지 않았으니 뺐다가 다시 연결하거나 다른 카메라를 선택하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>화면이 검게 나왔으니 렌즈 덮개를 열고 조명을 켜세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>화면이 움직이지 않았으니 카메라를 뺐다가 다시 연결하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>점검 중에 장치가 빠졌으니 다시 연결하고 케이블을 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>시스템의 영상 및 소리 서비스가 중지되었으니 로그아웃했다가 다시 로그인하거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>장치에 문제가 생겼으니 다시 연결하거나 다른 장치를 사용해 보세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>마이크에 아무것도 녹음되지 않았으니 더 가까이에서 말하거나, 마이크 스위치를 확인하거나, 목록에서 다른 마이크를 선택하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>장치가 음소거되어 있으니 음소거를 푸세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>볼륨이 0이니 볼륨을 높이세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>재생된 소리와 다른 소리를 선택했으니 볼륨을 높이고 다시 들어 보세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>카메라가 화면을 보냈지만 내 모습이 보이지 않았으니 어떤 카메라가 선택되었는지 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>소리가 재생되었지만 들리지 않았으니 볼륨을 높이고 어떤 스피커가 선택되었는지 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>마이크에 소리가 녹음되었지만 내 목소리가 들리지 않았으니 볼륨을 높이고 어떤 스피커가 선택되었는지 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>점검 결과</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>복사</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>저장…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>보고서 열기</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>닫기</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>보고서를 복사했습니다. 이 창을 닫기 전에 붙여 넣으세요.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>보고서를 저장했습니다: %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>보고서를 %1에 쓸 수 없습니다. 다른 위치를 선택하세요.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>보고서를 열 수 있는 프로그램이 없습니다. 위치: %1</translation>
     </message>
 </context>
 </TS>

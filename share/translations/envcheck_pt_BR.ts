@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Este computador (teste interno)</translation>
+        <translation>Não medido: sem servidor</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Nada mudou desde então.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: cada linha deve ser KEY=VALUE, como server=HOST, ou um comentário após ponto e vírgula; corrija-a ali</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: o valor deve ser %4; corrija-o ali</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: o valor deve ser %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: chave desconhecida %2; as chaves são server e report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: não pode ser lido como arquivo de configuração; coloque ali um arquivo de texto com linhas como server=HOST ou remova-o</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>atraso %1 ms, variação %2 ms, perda %3%, sondas enviadas %4, respondidas %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>não medido: sem servidor; indique um com --server, com %1 ou em %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>sem resposta, perda %1%, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>servidor inexistente, perda %1%, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>Porta UDP em que responder; 3478 por padrão, 0 usa uma livre.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Não abrir uma janela com o resultado após uma verificação com falhas.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>O que omitir: none (nada, padrão), personal (endereços, nomes e contas) ou hash (códigos curtos no lugar deles).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>Servidor STUN até o qual medir o atraso e a perda, também como stun:HOST:PORT; a porta padrão é 3478. Sem servidor, este computador responde a si mesmo, o que nada diz sobre a rede.</translation>
+        <translation>Servidor STUN até o qual medir o atraso e a perda, também como stun:HOST:PORT. Sem porta, são consultados os registros DNS do domínio (_stun._udp); se não houver, a porta é 3478. ENVCHECK_SERVER ou um arquivo de configuração também pode indicá-lo. Sem servidor, a rede não é medida: este computador responde a si mesmo.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>Nenhuma câmera encontrada</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>sem servidor</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>o nome do servidor é desconhecido</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>O que fazer</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Só este computador foi medido, pois nenhum servidor está definido: peça o servidor à sua escola e defina-o com --server ou no arquivo de configuração.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>O servidor não respondeu: verifique se você está on-line e se nenhum firewall bloqueia UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>O nome do servidor é desconhecido: verifique como está escrito e se você está on-line.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>A conexão está lenta: use um cabo ou fique mais perto do roteador Wi-Fi, e pare downloads e outras chamadas.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Muitos dados se perdem no caminho: use um cabo ou fique mais perto do roteador Wi-Fi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Você saiu da etapa antes de qualquer medição: espere nela até os valores aparecerem.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>Nenhum dispositivo foi encontrado: conecte um ou ligue-o e teste de novo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>O dispositivo está desativado na lista: escolha um nela.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>O dispositivo ainda estava iniciando: espere um pouco mais antes de responder.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Outro programa usa o dispositivo: feche esse programa e teste de novo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>O sistema nega o acesso ao dispositivo: permita-o nas configurações de privacidade.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>O dispositivo não respondeu: desconecte-o e conecte-o de novo, ou reinicie o computador.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>A câmera não enviou imagem: desconecte-a e conecte-a de novo, ou escolha outra.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>A imagem estava preta: abra a tampa da lente e acenda a luz.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>A imagem não se mexia: desconecte a câmera e conecte-a de novo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>O dispositivo foi desconectado durante o teste: conecte-o de novo e verifique o cabo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>O serviço de imagem e som do sistema parou: saia da sessão e entre de novo, ou reinicie o computador.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>O dispositivo falhou: conecte-o de novo ou tente outro.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>O microfone não gravou nada: fale mais perto, verifique o botão dele ou escolha outro na lista.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>O dispositivo está mudo: ative o som.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>O volume está em 0: aumente-o.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Você escolheu um som diferente do que foi tocado: aumente o volume e ouça de novo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Você não se viu, embora a câmera tenha enviado imagens: verifique qual câmera está escolhida.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Você não ouviu nada, embora um som tenha sido tocado: aumente o volume e verifique qual alto-falante está escolhido.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Você não se ouviu, embora o microfone tenha gravado som: aumente o volume e verifique qual alto-falante está escolhido.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Resultado do teste</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Copiar</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Salvar…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Abrir relatório</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Fechar</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>O relatório foi copiado. Cole-o antes de fechar esta janela.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>O relatório foi salvo em %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>Não é possível gravar o relatório em %1. Escolha outro lugar.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Nenhum programa conseguiu abrir o relatório. Ele está em %1</translation>
     </message>
 </context>
 </TS>

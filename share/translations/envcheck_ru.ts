@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Этот компьютер (для теста)</translation>
+        <translation>Не измерено: нет сервера</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>С тех пор ничего не изменилось.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: каждая строка должна иметь вид KEY=VALUE, например server=HOST, или быть комментарием после точки с запятой; исправьте там</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: допустимо %4; исправьте там</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: допустимо %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: неизвестный ключ %2; есть ключи server и report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: не читается как файл конфигурации; поместите туда текстовый файл со строками вида server=HOST или удалите его</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>задержка %1 мс, джиттер %2 мс, потери %3 %, отправлено запросов %4, получено ответов %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>не измерено: нет сервера; укажите его через --server, через %1 или в %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>нет ответа, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>такого сервера нет, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>Порт UDP для ответов; по умолчанию 3478, 0 — любой свободный.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Не открывать окно с итогом после проверки с ошибками.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>Что опустить: none (ничего, по умолчанию), personal (адреса, имена и учётные записи) или hash (заменить их короткими кодами).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>Сервер STUN, до которого измеряются задержка и потери, также в виде stun:HOST:PORT; порт по умолчанию 3478. Без сервера отвечает сам этот компьютер, что ничего не говорит о сети.</translation>
+        <translation>Сервер STUN, до которого измеряются задержка и потери, также в виде stun:HOST:PORT. Без порта запрашиваются записи DNS домена (_stun._udp), иначе порт 3478. Его можно указать и в ENVCHECK_SERVER или в файле конфигурации. Без сервера сеть не измеряется: отвечает сам этот компьютер.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>Камера не найдена</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>нет сервера</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>имя сервера неизвестно</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Что делать</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Измерен только этот компьютер, потому что сервер не задан: узнайте сервер в своей школе и задайте его через --server или в файле настроек.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>Сервер не ответил: проверьте, что вы в сети и что брандмауэр не блокирует UDP.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>Имя сервера неизвестно: проверьте, как оно написано и есть ли подключение к сети.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>Соединение медленное: подключите кабель или подойдите ближе к роутеру Wi-Fi, остановите загрузки и другие звонки.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>По пути теряется слишком много данных: подключите кабель или подойдите ближе к роутеру Wi-Fi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Вы покинули этот шаг до начала измерений: подождите на нём, пока появятся значения.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>Устройство не найдено: подключите или включите его и повторите проверку.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>Устройство отключено в списке: выберите там другое.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>Устройство ещё запускалось: подождите немного дольше, прежде чем ответить.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Устройство занято другой программой: закройте её и повторите проверку.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>Система запрещает доступ к устройству: разрешите его в настройках приватности.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>Устройство не ответило: отключите и снова подключите его или перезагрузите компьютер.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>Камера не передавала изображение: отключите и снова подключите её или выберите другую.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>Изображение было чёрным: откройте шторку объектива и включите свет.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>Изображение застыло: отключите и снова подключите камеру.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>Устройство отключилось во время проверки: подключите его снова и проверьте кабель.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>Системная служба изображения и звука остановилась: выйдите из системы и войдите снова или перезагрузите компьютер.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>Устройство вышло из строя: подключите его заново или попробуйте другое.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>Микрофон ничего не записал: говорите ближе к нему, проверьте его переключатель или выберите другой в списке.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>Звук устройства отключён: включите его.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>Громкость равна 0: увеличьте её.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Вы выбрали не тот звук, который воспроизводился: увеличьте громкость и послушайте ещё раз.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Вы себя не увидели, хотя камера передавала изображение: проверьте, какая камера выбрана.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Вы ничего не услышали, хотя звук воспроизводился: увеличьте громкость и проверьте, какой динамик выбран.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Вы себя не услышали, хотя микрофон записал звук: увеличьте громкость и проверьте, какой динамик выбран.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Результат проверки</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Копировать</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Открыть отчёт</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>Отчёт скопирован. Вставьте его, прежде чем закрыть это окно.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>Отчёт сохранён в %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>Не удалось записать отчёт в %1. Выберите другое место.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Ни одна программа не смогла открыть отчёт. Он находится в %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>Máy tính này (bộ kiểm tra)</translation>
+        <translation>Chưa đo: chưa có máy chủ</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Không có gì thay đổi kể từ đó.</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1: mỗi dòng phải có dạng KEY=VALUE, ví dụ server=HOST, hoặc là chú thích sau dấu chấm phẩy; hãy sửa tại đó</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1: %2=%3: cần %4; hãy sửa tại đó</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2: cần %3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1: không có khóa %2; các khóa là server và report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1: không đọc được như một tệp cấu hình; hãy đặt vào đó một tệp văn bản có các dòng như server=HOST, hoặc xóa nó</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>độ trễ %1 ms, dao động %2 ms, mất gói %3%, số gói đã gửi %4, có hồi đáp %5: %6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>chưa đo: không có máy chủ; hãy chỉ định bằng --server, bằng %1 hoặc trong %2</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>không có hồi đáp, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>không có máy chủ này, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>Cổng UDP để trả lời; mặc định là 3478, 0 là chọn một cổng trống.</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>Không mở cửa sổ kết quả sau lần kiểm tra không đạt.</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>Phần bỏ đi: none (không bỏ, mặc định), personal (địa chỉ, tên và tài khoản) hoặc hash (thay bằng mã ngắn).</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>Máy chủ STUN để đo độ trễ và mất gói, cũng có thể viết stun:HOST:PORT; cổng mặc định là 3478. Nếu không có máy chủ, chính máy này trả lời, nên không nói lên điều gì về mạng.</translation>
+        <translation>Máy chủ STUN để đo độ trễ và mất gói, cũng có thể viết stun:HOST:PORT. Nếu không có cổng, bản ghi DNS của tên miền (_stun._udp) được tra, nếu không thì cổng là 3478. ENVCHECK_SERVER hoặc tệp cấu hình cũng có thể chỉ định. Không có máy chủ thì không đo mạng: chính máy này trả lời.</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>Không tìm thấy camera</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>chưa có máy chủ</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>không rõ tên máy chủ</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>Cách xử lý</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>Chỉ đo trong máy tính này vì chưa đặt máy chủ, hãy hỏi trường của bạn về máy chủ rồi đặt bằng --server hoặc trong tệp cấu hình.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>Máy chủ không phản hồi, hãy kiểm tra kết nối mạng và xem tường lửa có chặn UDP không.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>Không rõ tên máy chủ, hãy kiểm tra cách viết và kết nối mạng.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>Kết nối chậm, hãy dùng cáp mạng hoặc lại gần bộ phát Wi-Fi hơn, đồng thời dừng tải xuống và các cuộc gọi khác.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>Quá nhiều dữ liệu bị mất trên đường truyền, hãy dùng cáp mạng hoặc lại gần bộ phát Wi-Fi hơn.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>Bạn đã rời bước này trước khi đo xong, hãy chờ ở đó đến khi có kết quả.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>Không tìm thấy thiết bị nào, hãy cắm hoặc bật thiết bị rồi kiểm tra lại.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>Thiết bị đang tắt trong danh sách, hãy chọn một thiết bị ở đó.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>Thiết bị còn đang khởi động, hãy chờ thêm một chút trước khi trả lời.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>Chương trình khác đang dùng thiết bị, hãy đóng chương trình đó rồi kiểm tra lại.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>Hệ thống từ chối quyền dùng thiết bị, hãy cho phép trong cài đặt quyền riêng tư.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>Thiết bị không phản hồi, hãy rút ra rồi cắm lại hoặc khởi động lại máy tính.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>Camera không gửi hình, hãy rút ra rồi cắm lại hoặc chọn camera khác.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>Hình bị đen, hãy mở nắp che ống kính và bật đèn.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>Hình bị đứng, hãy rút camera ra rồi cắm lại.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>Thiết bị bị rút ra trong lúc kiểm tra, hãy cắm lại và kiểm tra dây cáp.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>Dịch vụ hình ảnh và âm thanh của hệ thống đã dừng, hãy đăng xuất rồi đăng nhập lại hoặc khởi động lại máy tính.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>Thiết bị bị lỗi, hãy cắm lại hoặc thử thiết bị khác.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>Micrô không thu được gì, hãy nói gần hơn, kiểm tra công tắc của nó hoặc chọn micrô khác trong danh sách.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>Thiết bị đang tắt tiếng, hãy bật tiếng lại.</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>Âm lượng là 0, hãy tăng lên.</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>Bạn đã chọn âm thanh khác với âm thanh được phát, hãy tăng âm lượng rồi nghe lại.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>Bạn không thấy mình dù camera có gửi hình, hãy kiểm tra camera nào đang được chọn.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>Bạn không nghe thấy gì dù âm thanh đã được phát, hãy tăng âm lượng và kiểm tra loa nào đang được chọn.</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>Bạn không nghe thấy mình dù micrô đã thu được âm thanh, hãy tăng âm lượng và kiểm tra loa nào đang được chọn.</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>Kết quả kiểm tra</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>Sao chép</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>Lưu…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>Mở báo cáo</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>Đóng</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>Đã sao chép báo cáo. Hãy dán trước khi đóng cửa sổ này.</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>Đã lưu báo cáo vào %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>Không thể ghi báo cáo vào %1. Hãy chọn nơi khác.</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>Không có chương trình nào mở được báo cáo. Báo cáo nằm ở %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>本机（内置测试服务）</translation>
+        <translation>未测量：未设置服务器</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>自那时起没有变化。</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1：每一行必须是 KEY=VALUE（例如 server=HOST）或以分号开头的注释；请在该文件中改正</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1：%2=%3：应为%4；请在该文件中改正</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2：应为%3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1：未知的键 %2；可用的键是 server 和 report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1：无法作为配置文件读取；请放置一个含有 server=HOST 这类行的文本文件，或将其删除</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>延迟 %1 ms，抖动 %2 ms，丢包率 %3%，已发送 %4，已应答 %5：%6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>未测量：没有服务器；请用 --server、%1 或在 %2 中指定</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>没有应答，丢包率 %1%，已发送 %2，已应答 %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>没有这个服务器，丢包率 %1%，已发送 %2，已应答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>应答所用的 UDP 端口；默认为 3478，0 表示任选空闲端口。</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>检测未通过时不打开结果窗口。</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>要去除的内容：none（不去除，默认）、personal（去除地址、名称和账号）或 hash（替换为短代码）。</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>测量延迟和丢包率所用的 STUN 服务器，也可写作 stun:HOST:PORT；默认端口为 3478。未指定服务器时由本机应答，这不能反映网络状况。</translation>
+        <translation>测量延迟和丢包率所用的 STUN 服务器，也可写作 stun:HOST:PORT。没有端口时查询该域名的 DNS 记录（_stun._udp），否则端口为 3478。也可用 ENVCHECK_SERVER 或配置文件指定。未指定服务器时不测量网络，由本机自己应答。</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>未找到摄像头</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>未设置服务器</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>找不到该服务器名称</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>解决方法</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>由于未设置服务器，只测量了本机，请向学校询问服务器，并用 --server 或在配置文件中设置。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>服务器没有响应，请确认已联网，并且防火墙没有拦截 UDP。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>找不到该服务器名称，请检查拼写，并确认已联网。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>连接速度慢，请改用网线或靠近无线路由器，并停止下载和其他通话。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>传输中丢失的数据过多，请改用网线或靠近无线路由器。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>离开这一步时还没有测到数据，请在该步骤等到数值出现。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>没有找到设备，请接好或打开设备，然后重新检测。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>设备在列表中已关闭，请在列表中选择一个设备。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>设备当时还在启动，请多等一会儿再回答。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>其他程序正在使用该设备，请关闭那个程序后重新检测。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>系统拒绝访问该设备，请在隐私设置中允许。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>设备没有响应，请重新插拔，或重启电脑。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>摄像头没有传来画面，请重新插拔，或选择其他摄像头。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>画面是黑的，请打开镜头盖并开灯。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>画面静止不动，请重新插拔摄像头。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>设备在检测过程中断开了，请重新连接并检查线缆。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>系统的视频和声音服务已停止，请注销后重新登录，或重启电脑。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>设备出现故障，请重新连接，或换一个设备。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>麦克风没有录到声音，请靠近一些说话，检查麦克风开关，或在列表中选择其他麦克风。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>设备已静音，请取消静音。</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>音量为 0，请调高音量。</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>您选择的声音与播放的不同，请调高音量后再听一次。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>摄像头传来了画面，但您没有看到自己，请确认选中的是哪个摄像头。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>声音已播放，但您没有听到，请调高音量，并确认选中的是哪个扬声器。</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>麦克风录到了声音，但您没有听到自己，请调高音量，并确认选中的是哪个扬声器。</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>检测结果</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>复制</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>保存…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>打开报告</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>关闭</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>报告已复制。请在关闭此窗口之前粘贴。</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>报告已保存到 %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>无法将报告写入 %1。请选择其他位置。</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>没有程序能打开报告。报告位于 %1</translation>
     </message>
 </context>
 </TS>

@@ -109,7 +109,7 @@
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
-        <translation>本機（內建測試服務）</translation>
+        <translation>未測量：未設定伺服器</translation>
     </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
@@ -246,6 +246,26 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>自那時起沒有變更。</translation>
+    </message>
+    <message id="ID_Host_Config_BadLine">
+        <source></source>
+        <translation>%1：每一行必須是 KEY=VALUE（例如 server=HOST）或以分號開頭的註解；請在該檔案中更正</translation>
+    </message>
+    <message id="ID_Host_Config_BadValue">
+        <source></source>
+        <translation>%1：%2=%3：應為%4；請在該檔案中更正</translation>
+    </message>
+    <message id="ID_Host_Config_BadVariable">
+        <source></source>
+        <translation>%1=%2：應為%3</translation>
+    </message>
+    <message id="ID_Host_Config_UnknownKey">
+        <source></source>
+        <translation>%1：未知的鍵 %2；可用的鍵是 server 和 report-url</translation>
+    </message>
+    <message id="ID_Host_Config_Unreadable">
+        <source></source>
+        <translation>%1：無法作為設定檔讀取；請放置一個含有 server=HOST 這類行的文字檔，或將其刪除</translation>
     </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
@@ -619,9 +639,17 @@
         <source></source>
         <translation>延遲 %1 ms，抖動 %2 ms，封包遺失率 %3%，已傳送 %4，已回應 %5：%6</translation>
     </message>
+    <message id="ID_Host_Network_NameServer">
+        <source></source>
+        <translation>未測量：沒有伺服器；請用 --server、%1 或在 %2 中指定</translation>
+    </message>
     <message id="ID_Host_Network_NoAnswer">
         <source></source>
         <translation>沒有回應，封包遺失率 %1%，已傳送 %2，已回應 %3</translation>
+    </message>
+    <message id="ID_Host_Network_NoSuchServer">
+        <source></source>
+        <translation>沒有這個伺服器，封包遺失率 %1%，已傳送 %2，已回應 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -675,6 +703,10 @@
         <source></source>
         <translation>回應所用的 UDP 連接埠；預設為 3478，0 表示任選可用的連接埠。</translation>
     </message>
+    <message id="ID_Host_Option_Quiet">
+        <source></source>
+        <translation>檢查未通過時不開啟結果視窗。</translation>
+    </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
         <translation>要移除的內容：none（不移除，預設）、personal（移除位址、名稱和帳號）或 hash（替換為短代碼）。</translation>
@@ -697,7 +729,7 @@
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
-        <translation>測量延遲和封包遺失率所用的 STUN 伺服器，也可寫成 stun:HOST:PORT；預設連接埠為 3478。未指定伺服器時由本機回應，這無法反映網路狀況。</translation>
+        <translation>測量延遲和封包遺失率所用的 STUN 伺服器，也可寫成 stun:HOST:PORT。沒有連接埠時查詢該網域的 DNS 記錄（_stun._udp），否則連接埠為 3478。也可用 ENVCHECK_SERVER 或設定檔指定。未指定伺服器時不測量網路，由本機自己回應。</translation>
     </message>
     <message id="ID_Host_Option_Tour">
         <source></source>
@@ -1150,6 +1182,154 @@
     <message id="ID_lumcamera_NoWebcamFound">
         <source></source>
         <translation>找不到攝影機</translation>
+    </message>
+    <message id="ID_Host_Reason_NoServer">
+        <source></source>
+        <translation>未設定伺服器</translation>
+    </message>
+    <message id="ID_Host_Reason_NoSuchHost">
+        <source></source>
+        <translation>找不到該伺服器名稱</translation>
+    </message>
+    <message id="ID_Host_Remedy">
+        <source></source>
+        <translation>解決方法</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoServer">
+        <source></source>
+        <translation>由於未設定伺服器，只測量了本機，請向學校詢問伺服器，並用 --server 或在設定檔中設定。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoAnswer">
+        <source></source>
+        <translation>伺服器沒有回應，請確認已連上網路，且防火牆沒有封鎖 UDP。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NoSuchHost">
+        <source></source>
+        <translation>找不到該伺服器名稱，請檢查拼寫，並確認已連上網路。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Slow">
+        <source></source>
+        <translation>連線速度慢，請改用網路線或靠近無線路由器，並停止下載和其他通話。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Lossy">
+        <source></source>
+        <translation>傳輸中遺失的資料過多，請改用網路線或靠近無線路由器。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LeftTooSoon">
+        <source></source>
+        <translation>離開這一步時還沒有測到資料，請在該步驟等到數值出現。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Absent">
+        <source></source>
+        <translation>找不到裝置，請接好或開啟裝置，然後重新檢測。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Off">
+        <source></source>
+        <translation>裝置在清單中已關閉，請在清單中選擇一個裝置。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Starting">
+        <source></source>
+        <translation>裝置當時仍在啟動，請多等一會兒再回答。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Busy">
+        <source></source>
+        <translation>其他程式正在使用該裝置，請關閉那個程式後重新檢測。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Denied">
+        <source></source>
+        <translation>系統拒絕存取該裝置，請在隱私權設定中允許。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hung">
+        <source></source>
+        <translation>裝置沒有回應，請重新插拔，或重新啟動電腦。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Stalled">
+        <source></source>
+        <translation>攝影機沒有傳來畫面，請重新插拔，或選擇其他攝影機。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Black">
+        <source></source>
+        <translation>畫面是黑的，請打開鏡頭蓋並開燈。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Frozen">
+        <source></source>
+        <translation>畫面靜止不動，請重新插拔攝影機。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unplugged">
+        <source></source>
+        <translation>裝置在檢測過程中斷開了，請重新連接並檢查線材。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerLost">
+        <source></source>
+        <translation>系統的影像和聲音服務已停止，請登出後重新登入，或重新啟動電腦。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Failed">
+        <source></source>
+        <translation>裝置發生故障，請重新連接，或換一個裝置。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Silent">
+        <source></source>
+        <translation>麥克風沒有錄到聲音，請靠近一些說話，檢查麥克風開關，或在清單中選擇其他麥克風。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Muted">
+        <source></source>
+        <translation>裝置已靜音，請解除靜音。</translation>
+    </message>
+    <message id="ID_Host_Remedy_VolumeZero">
+        <source></source>
+        <translation>音量為 0，請調高音量。</translation>
+    </message>
+    <message id="ID_Host_Remedy_WrongSound">
+        <source></source>
+        <translation>您選擇的聲音與播放的不同，請調高音量後再聽一次。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotSeen">
+        <source></source>
+        <translation>攝影機傳來了畫面，但您沒有看到自己，請確認選取的是哪個攝影機。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotHeard">
+        <source></source>
+        <translation>聲音已播放，但您沒有聽到，請調高音量，並確認選取的是哪個喇叭。</translation>
+    </message>
+    <message id="ID_Host_Remedy_SelfNotHeard">
+        <source></source>
+        <translation>麥克風錄到了聲音，但您沒有聽到自己，請調高音量，並確認選取的是哪個喇叭。</translation>
+    </message>
+    <message id="ID_Host_Window_Title">
+        <source></source>
+        <translation>檢測結果</translation>
+    </message>
+    <message id="ID_Host_Window_Copy">
+        <source></source>
+        <translation>複製</translation>
+    </message>
+    <message id="ID_Host_Window_Save">
+        <source></source>
+        <translation>儲存…</translation>
+    </message>
+    <message id="ID_Host_Window_Open">
+        <source></source>
+        <translation>開啟報告</translation>
+    </message>
+    <message id="ID_Host_Window_Close">
+        <source></source>
+        <translation>關閉</translation>
+    </message>
+    <message id="ID_Host_Window_Copied">
+        <source></source>
+        <translation>報告已複製。請在關閉此視窗之前貼上。</translation>
+    </message>
+    <message id="ID_Host_Window_Saved">
+        <source></source>
+        <translation>報告已儲存到 %1</translation>
+    </message>
+    <message id="ID_Host_Window_NotWritten">
+        <source></source>
+        <translation>無法將報告寫入 %1。請選擇其他位置。</translation>
+    </message>
+    <message id="ID_Host_Window_NotOpened">
+        <source></source>
+        <translation>沒有程式能開啟報告。報告位於 %1</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,12 @@
 
 #include <QCoreApplication>
 
-Measurement::Measurement(const Platform::StunServer& server)
+Measurement::Measurement(const Platform::StunServer& server, const QString& nameservers)
 {
     m_clock.start();
     m_probe = std::make_unique<Platform::StunProbe>(
-        server, *this, [this](const QString& address) { m_addresses.append(address); });
+        server, *this, [this](const QString& address) { m_addresses.append(address); },
+        nameservers);
 }
 
 Measurement::~Measurement() = default;

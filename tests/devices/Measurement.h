@@ -18,7 +18,7 @@ struct StunServer;
 class Measurement : public Platform::NetworkProbe::Listener
 {
 public:
-    explicit Measurement(const Platform::StunServer& server);
+    explicit Measurement(const Platform::StunServer& server, const QString& nameservers = {});
     ~Measurement();
 
     void networkFiguresChanged() override;

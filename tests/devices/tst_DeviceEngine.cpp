@@ -63,6 +63,7 @@ void tst_DeviceEngine::builtInResponder()
     QTRY_COMPARE(listener.changes, 2);
     QVERIFY(probe->figures().delayMs >= 0 && probe->figures().delayMs < AtOnceMs);
     QVERIFY(probe->figures().answered > 10);
+    QCOMPARE(probe->figures().problem, NetworkProblem::NoServer);
     std::unique_ptr<NetworkProbe> second = engine.createNetworkProbe(listener);
     QTRY_COMPARE(threadCount("StunProbe"), 2);
     QCOMPARE(threadCount("StunResponder"), 1);
@@ -99,6 +100,7 @@ void tst_DeviceEngine::ownServer()
     const std::unique_ptr<NetworkProbe> probe = engine.createNetworkProbe(listener);
     QTRY_COMPARE(listener.changes, 1);
     QVERIFY(probe->figures().answered > 4);
+    QCOMPARE(probe->figures().problem, NetworkProblem::None);
 }
 
 void tst_DeviceEngine::badServer()
@@ -147,7 +149,8 @@ void tst_DeviceEngine::figuresGoIntoTheResults()
                                    {QStringLiteral("sent"), last.sent},
                                    {QStringLiteral("answered"), last.answered},
                                    {QStringLiteral("delay5Ms"), last.delay5Ms},
-                                   {QStringLiteral("delay95Ms"), last.delay95Ms}}));
+                                   {QStringLiteral("delay95Ms"), last.delay95Ms},
+                                   {QStringLiteral("state"), QStringLiteral("noServer")}}));
 }
 
 QTEST_GUILESS_MAIN(tst_DeviceEngine)

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "host/ExitCode.h"
-#include "host/Options.h"
-#include "host/SoundNames.h"
 #include "host/Languages.h"
+#include "host/Options.h"
+#include "host/OutcomeWindow.h"
+#include "host/SoundNames.h"
 #include "host/commands/CheckCommand.h"
 #include "host/tour/DialogView.h"
 #include "platform/backend/StunServer.h"
@@ -83,6 +84,7 @@ private:
     std::unique_ptr<SoundServer> m_server;
     CoturnServer m_stun;
     std::unique_ptr<DialogView> m_view;
+    QStringList m_outcome; // what the window after the dialog said
     PictureBoard m_board;
 };
 
@@ -121,6 +123,7 @@ void tst_RealRun::everyCheckPasses()
     CameraProcess camera(id("camera"), id("Test Camera"));
     QTRY_VERIFY_WITH_TIMEOUT(camera.output().contains("paused"), LongMs);
     run(&tst_RealRun::visitWithEverything, ExitCode::AllPassed);
+    QCOMPARE(m_outcome, QStringList()); // there was none
 }
 
 void tst_RealRun::everyCheckFails()
@@ -129,6 +132,11 @@ void tst_RealRun::everyCheckFails()
         m_server->control({id("unload-module"), id(module)});
     }
     run(&tst_RealRun::visitWithNothing, ExitCode::SomeFailed);
+    Languages texts; // those of the run are gone
+    QCOMPARE(texts.use(id("en")), QString());
+    QVERIFY(m_outcome.contains(qtTrId("ID_Host_Outcome_Failed")));
+    QCOMPARE(m_outcome.count(qtTrId("ID_Host_Remedy_NoAnswer")), 1);
+    QCOMPARE(m_outcome.count(qtTrId("ID_Host_Remedy_Absent")), 3);
 }
 
 // As main() does it, but that somebody is there to look and to click.
@@ -158,6 +166,18 @@ void tst_RealRun::run(Visit visit, ExitCode expected)
         }
     });
     opening.start(10);
+    m_outcome.clear();
+    QTimer closing;
+    connect(&closing, &QTimer::timeout, this, [this] {
+        auto* const window = qobject_cast<OutcomeWindow*>(QApplication::activeModalWidget());
+        if (window && window->isVisible()) {
+            for (const auto* label : window->findChildren<QLabel*>()) {
+                m_outcome << label->text();
+            }
+            QTest::keyClick(window, Qt::Key_Escape);
+        }
+    });
+    closing.start(10);
     const ExitCode code = CheckCommand(options).run(languages.current());
     QVERIFY(isThrough);
     QCOMPARE(static_cast<int>(code), static_cast<int>(expected));

@@ -72,6 +72,7 @@ void tst_Options::nothing()
         QCOMPARE(text, QString());
     }
     QVERIFY(!options.isVerbose);
+    QVERIFY(!options.isQuiet);
     QCOMPARE(options.redaction, Options::Redaction::None);
 }
 
@@ -184,6 +185,7 @@ void tst_Options::commandOptions()
     QCOMPARE(parsed(words("serve --port 0")).port, quint16(0));
     QCOMPARE(parsed(words("serve --port 65535")).port, quint16(65535));
     QVERIFY(parsed(words("serve --verbose")).isVerbose);
+    QVERIFY(parsed(words("--quiet")).isQuiet);
     const Options report = parsed(words("report a.json b.json --format room --redact hash"));
     QCOMPARE(report.files, words("a.json b.json"));
     QCOMPARE(report.format, Options::Format::Room);
@@ -290,7 +292,7 @@ void tst_Options::helpNamesEveryOption_data()
     QTest::addColumn<QString>("options");
     QTest::newRow("check") << Options::Command::Check
                            << "platform scenario language server account nickname cdn results "
-                              "report report-url tour redact verbose help version";
+                              "report report-url tour redact quiet verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network

@@ -43,6 +43,10 @@ private Q_SLOTS:
     void redactedRun();
     void devices();
     void networkLines();
+    void networkWithoutServer();
+    void serverSetOnceForAll();
+    void brokenConfiguration_data();
+    void brokenConfiguration();
     void serveAndMeasure();
     void servedPortInUse();
     void reports();
@@ -63,6 +67,7 @@ private:
     Run checked(const QStringList& arguments, int signal = SIGTERM,
                 const QString& wrapper = QString()) const;
     QString file(const char* name) const { return m_home->filePath(QLatin1String(name)); }
+    void configure(const char* path, const QByteArray& content) const;
     QString quickEnd() const; // a scenario that soon puts the user out
     QString dataFolder() const { return file(".local/share/envcheck"); }
     static QJsonObject jsonOf(const QString& path);
@@ -106,6 +111,9 @@ std::unique_ptr<QProcess> tst_Program::started(const QStringList& arguments,
     environment.insert(QStringLiteral("HOME"), m_home->path());
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_home->path());
     environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
+    environment.insert(QStringLiteral("XDG_CONFIG_DIRS"), file("xdg"));
+    environment.remove(QStringLiteral("ENVCHECK_SERVER"));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     process->setProcessEnvironment(environment);
     const QString program = QStringLiteral(ENVCHECK_PROGRAM);
@@ -516,6 +524,76 @@ void tst_Program::networkLines()
     const Run none = run(words("network --scenario network-unmeasured --count 1"));
     QCOMPARE(none.code, 1);
     QVERIFY2(none.out.contains(QLatin1String("no answer")), qPrintable(none.out));
+}
+
+void tst_Program::networkWithoutServer()
+{
+    const Run result = run(words("network --count 1"));
+    QCOMPARE(result.code, 69);
+    QVERIFY2(result.out.contains(QLatin1String(": not measured: no server\n")),
+             qPrintable(result.out));
+    QVERIFY2(result.error.contains(QLatin1String("--server")), qPrintable(result.error));
+    QVERIFY2(result.error.contains(file(".config/envcheck/envcheck.conf")),
+             qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), 1);
+}
+
+void tst_Program::configure(const char* path, const QByteArray& content) const
+{
+    QVERIFY(QDir().mkpath(QFileInfo(file(path)).absolutePath()));
+    QFile configuration(file(path));
+    QVERIFY(configuration.open(QIODevice::WriteOnly));
+    configuration.write(content);
+}
+
+// Each one outdoes those before it: system, user, environment, option.
+void tst_Program::serverSetOnceForAll()
+{
+    const auto measured = [this](const QString& wrapper, const QStringList& options) {
+        const std::unique_ptr<QProcess> process =
+            started(words("network --count 1") + options, wrapper);
+        return finished(*process).out.section(QLatin1Char(','), 0, 0);
+    };
+    const QString plain = QStringLiteral("exec \"$0\" \"$@\"");
+    configure("xdg/envcheck/envcheck.conf", "server=127.0.0.1:1111\n");
+    QCOMPARE(measured(plain, {}), QStringLiteral("server 127.0.0.1:1111"));
+    configure(".config/envcheck/envcheck.conf", "server=127.0.0.1:2222\n");
+    QCOMPARE(measured(plain, {}), QStringLiteral("server 127.0.0.1:2222"));
+    const QString variable = QStringLiteral("ENVCHECK_SERVER=127.0.0.1:3333 ") + plain;
+    QCOMPARE(measured(variable, {}), QStringLiteral("server 127.0.0.1:3333"));
+    QCOMPARE(measured(variable, words("--server 127.0.0.1:4444")),
+             QStringLiteral("server 127.0.0.1:4444"));
+}
+
+void tst_Program::brokenConfiguration_data()
+{
+    QTest::addColumn<QString>("wrapper");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("named");
+    const QString plain = QStringLiteral("exec \"$0\" \"$@\"");
+    QTest::newRow("file, check") << plain << QByteArray("server=x:0\n") << "" << 65 << "server=x:0";
+    QTest::newRow("file, network")
+        << plain << QByteArray("sever=x\n") << "network" << 65 << "unknown key sever";
+    QTest::newRow("file, not asked")
+        << plain << QByteArray("sever=x\n") << "serve --help" << 0 << "";
+    QTest::newRow("variable") << QStringLiteral("ENVCHECK_SERVER=http://x ") + plain << QByteArray()
+                              << "network" << 64 << "ENVCHECK_SERVER=http://x";
+}
+
+void tst_Program::brokenConfiguration()
+{
+    QFETCH(QString, wrapper);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, arguments);
+    QFETCH(QString, named);
+    configure(".config/envcheck/envcheck.conf", content);
+    const std::unique_ptr<QProcess> process = started(words(qPrintable(arguments)), wrapper);
+    const Run result = finished(*process);
+    QTEST(result.code, "code");
+    QVERIFY2(result.error.contains(named), qPrintable(result.error));
+    QCOMPARE(result.error.count(QLatin1Char('\n')), named.isEmpty() ? 0 : 1);
 }
 
 void tst_Program::serveAndMeasure()

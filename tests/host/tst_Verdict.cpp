@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QJsonArray>
+#include <QLabel>
 #include <QtTest>
 
 namespace {
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void isTheDialogs_data();
     void isTheDialogs();
     void figuresAreThoseOfTheVerdict();
+    void withoutServerNothingIsMeasured();
+    void failuresSayWhatToDo();
     void speakerThatWentAwayIsNamed();
     void muteAfterTheAnswerIsNoContradiction();
 
@@ -289,6 +292,62 @@ void tst_Verdict::figuresAreThoseOfTheVerdict()
     QCOMPARE(run.report().value(id("networkGrade"))[id("level")].toString(), id("good"));
     QVERIFY2(run.terminal().first().endsWith(id("37ms, 1%")), qPrintable(run.terminal().first()));
     QVERIFY(!run.check("camera").contains(id("later")));
+}
+
+// The verdict is what the dialog shows, and nobody takes the figures for a result.
+void tst_Verdict::withoutServerNothingIsMeasured()
+{
+    DialogRun run;
+    run.run(Steps{[](DialogRun& each) {
+                      Platform::NetworkFigures figures{0, 1, 0, 50, 50};
+                      figures.problem = Platform::NetworkProblem::NoServer;
+                      each.engine().network().setFigures(figures);
+                  },
+                  [](DialogRun& each) {
+                      QTRY_COMPARE(each.view().find<QLabel>("label_ND")->text(), id("1ms"));
+                  },
+                  clicking("Btn_Next"), PassCamera, PassSpeaker, PassMicrophone, Ok});
+    QVERIFY(!QTest::currentTestFailed());
+    compareWithDialog(run, AllPassed.split(QLatin1Char(' ')));
+    QCOMPARE(run.code(), 0);
+    QVERIFY2(run.terminal().at(0).endsWith(id("not measured: no server")),
+             qPrintable(run.terminal().at(0)));
+    QCOMPARE(run.terminal().at(4), id("What to do:"));
+    QVERIFY(run.terminal().at(5).contains(qtTrId("ID_Host_Remedy_NoServer")));
+    const QJsonObject network = run.check("network");
+    QCOMPARE(network.value(id("causes")).toArray(), QJsonArray{id("noServer")});
+    const QJsonArray figures = network.value(id("measurements")).toArray();
+    QCOMPARE(figures.size(), 7);
+    for (const QJsonValue& figure : figures) {
+        QCOMPARE(figure[id("status")].toString(), id("notMeasured"));
+        QCOMPARE(figure[id("reason")].toString(), id("noServer"));
+    }
+    QVERIFY(!run.report().contains(id("networkGrade")));
+}
+
+void tst_Verdict::failuresSayWhatToDo()
+{
+    DialogRun run;
+    run.run(Steps{GetBad, clicking("Btn_Next"), clicking("Btn_Cant"), unplugSpeaker,
+                  clicking("Btn_CantListen"), PassMicrophone, Close});
+    QVERIFY(!QTest::currentTestFailed());
+    QCOMPARE(run.code(), 1);
+    const auto causes = [&run](const char* check) {
+        QStringList words;
+        for (const QJsonValue& word : run.check(check).value(id("causes")).toArray()) {
+            words << word.toString();
+        }
+        return words.join(QLatin1Char(' '));
+    };
+    QCOMPARE(causes("network"), id("slow lossy"));
+    QCOMPARE(causes("camera"), id("notSeen"));
+    QCOMPARE(causes("speaker"), id("absent"));
+    QCOMPARE(causes("microphone"), QString());
+    const QString terminal = run.terminal().join(QLatin1Char('\n'));
+    for (const char* text : {"ID_Host_Remedy_Slow", "ID_Host_Remedy_Lossy",
+                             "ID_Host_Remedy_NotSeen", "ID_Host_Remedy_Absent"}) {
+        QCOMPARE(terminal.count(qtTrId(text)), 1);
+    }
 }
 
 void tst_Verdict::speakerThatWentAwayIsNamed()

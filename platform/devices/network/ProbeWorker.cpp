@@ -3,6 +3,7 @@
 #include "platform/devices/network/ProbeWorker.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/network/ServerLookup.h"
 
 #include <QHostInfo>
 #include <QNetworkDatagram>
@@ -26,8 +27,8 @@ constexpr int MaxDatagramsAtOnce = 64; // a flood must not hold up the timers
 
 } // namespace
 
-ProbeWorker::ProbeWorker(const StunServer& server, Reports reports)
-    : m_server(server), m_reports(std::move(reports))
+ProbeWorker::ProbeWorker(const StunServer& server, const QString& nameservers, Reports reports)
+    : m_server(server), m_reports(std::move(reports)), m_nameservers(nameservers)
 {
 }
 
@@ -52,7 +53,9 @@ void ProbeWorker::timerEvent(QTimerEvent* event)
         tick();
     } else if (event->timerId() == m_verdictTimer.timerId()) {
         m_verdictTimer.start(VerdictIntervalMs, Qt::PreciseTimer, this);
-        m_reports.figures(m_window.figures(now()));
+        NetworkFigures figures = m_window.figures(now());
+        figures.problem = m_problem;
+        m_reports.figures(figures);
     }
 }
 
@@ -85,10 +88,11 @@ void ProbeWorker::forgetOverdue()
 }
 
 // A refusal alone is a lost probe: the server may be starting. It leads on to the name's next
-// address, if there is one.
+// address or server, if there is one.
 void ProbeWorker::closeWhereUseless()
 {
-    const bool isRefused = m_socket && m_isRefused && !m_addresses.isEmpty();
+    const bool hasNext = !m_addresses.isEmpty() || !m_servers.empty();
+    const bool isRefused = m_socket && m_isRefused && hasNext;
     if (isRefused || now() - m_lastSign > SilenceLimit) {
         m_socket.reset();
     }
@@ -107,7 +111,7 @@ void ProbeWorker::openNext()
     m_socket->setProxy(QNetworkProxy::NoProxy);
     connect(m_socket.get(), &QUdpSocket::readyRead, this, &ProbeWorker::readDatagrams);
     // Connected, so that the kernel drops what comes from another address or port, even a flood.
-    m_socket->connectToHost(address, m_server.port);
+    m_socket->connectToHost(address, m_port);
     m_lastSign = now();
     m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
@@ -119,26 +123,64 @@ void ProbeWorker::openNext()
 
 void ProbeWorker::lookUp()
 {
-    if (m_lookup >= 0 || now() < m_nextLookup) {
+    if (m_serverLookup || m_lookup >= 0 || now() < m_nextLookup) {
         return;
     }
     m_nextLookup = now() + LookupInterval;
-    const QHostAddress literal(m_server.host);
+    if (!m_servers.empty()) {
+        lookUpAddresses();
+    } else if (m_server.mayHaveRecords()) {
+        lookUpServers();
+    } else {
+        m_servers = {m_server};
+        lookUpAddresses();
+    }
+}
+
+void ProbeWorker::lookUpServers()
+{
+    m_serverLookup = std::make_unique<ServerLookup>(
+        m_server.host, m_nameservers,
+        [this](const std::vector<StunServer>& servers) { takeServers(servers); });
+}
+
+void ProbeWorker::takeServers(const std::vector<StunServer>& servers)
+{
+    m_serverLookup.release()->deleteLater(); // it is calling
+    m_servers.assign(servers.begin(), servers.end());
+    if (m_servers.empty()) {
+        m_problem = NetworkProblem::NoSuchHost;
+        return;
+    }
+    lookUpAddresses();
+    if (!m_socket && !m_addresses.isEmpty()) {
+        tick();
+    }
+}
+
+void ProbeWorker::lookUpAddresses()
+{
+    const StunServer server = m_servers.front();
+    m_servers.pop_front();
+    m_port = server.port;
+    const QHostAddress literal(server.host);
     if (!literal.isNull()) {
         m_addresses = {literal};
         return;
     }
     // By name: what a function object is kept in would leak with a lookup that is called off.
-    m_lookup = QHostInfo::lookupHost(m_server.host, this, SLOT(takeAddresses(QHostInfo)));
+    m_lookup = QHostInfo::lookupHost(server.host, this, SLOT(takeAddresses(QHostInfo)));
 }
 
 void ProbeWorker::takeAddresses(const QHostInfo& info)
 {
     m_lookup = -1;
     m_addresses = info.addresses();
+    m_problem =
+        info.error() == QHostInfo::HostNotFound ? NetworkProblem::NoSuchHost : NetworkProblem::None;
     if (m_addresses.isEmpty()) {
         qCDebug(Log::network).noquote()
-            << "No address of" << m_server.host << "-" << info.errorString();
+            << "No address of" << info.hostName() << "-" << info.errorString();
     } else if (!m_socket) {
         tick();
     }

@@ -17,9 +17,11 @@ class QUdpSocket;
 
 namespace Platform {
 
+class ServerLookup;
+
 // Sends the probes and reads the answers, on the thread that it was moved to. A failed lookup, a
-// refused or unreachable server and a long silence all lead to another lookup and a new socket, so
-// that a changed network is found again.
+// refused or unreachable server and a long silence all lead to the next server that the domain
+// names, then to another lookup, and a new socket, so that a changed network is found again.
 class ProbeWorker : public QObject
 {
     Q_OBJECT
@@ -33,7 +35,8 @@ public:
         std::function<void(const QHostAddress&)> clientAddress; // once
     };
 
-    ProbeWorker(const StunServer& server, Reports reports);
+    // nameservers: as of ServerLookup.
+    ProbeWorker(const StunServer& server, const QString& nameservers, Reports reports);
     ~ProbeWorker() override;
 
     void start();
@@ -56,6 +59,9 @@ private:
     void tick();
     void forgetOverdue();
     void lookUp();
+    void lookUpServers();
+    void takeServers(const std::vector<StunServer>& servers);
+    void lookUpAddresses();
     void openNext();
     void closeWhereUseless();
     void sendProbe();
@@ -68,9 +74,14 @@ private:
     QElapsedTimer m_clock;
     QBasicTimer m_probeTimer;
     QBasicTimer m_verdictTimer;
-    int m_lookup = -1; // the one under way
+    const QString m_nameservers;
+    std::unique_ptr<ServerLookup> m_serverLookup; // the one under way
+    int m_lookup = -1;                            // of addresses, the one under way
     ProbeWindow::Time m_nextLookup{0};
-    QList<QHostAddress> m_addresses; // not tried yet
+    std::deque<StunServer> m_servers; // not tried yet
+    QList<QHostAddress> m_addresses;  // of the last one taken from them, not tried yet
+    quint16 m_port = 0;               // of that one
+    NetworkProblem m_problem = NetworkProblem::None;
     std::unique_ptr<QUdpSocket> m_socket;
     ProbeWindow::Time m_lastSign{0}; // of life: an answer, or the socket's opening
     bool m_isRefused = false;

@@ -6,7 +6,8 @@
 
 namespace Platform {
 
-StunProbe::StunProbe(const StunServer& server, Listener& listener, AddressHandler onClientAddress)
+StunProbe::StunProbe(const StunServer& server, Listener& listener, AddressHandler onClientAddress,
+                     const QString& nameservers)
 {
     const Mailbox::Sender sender = m_mailbox.sender();
     ProbeWorker::Reports reports;
@@ -22,7 +23,7 @@ StunProbe::StunProbe(const StunServer& server, Listener& listener, AddressHandle
             sender.post([handler, text = address.toString()] { handler(text); });
         }
     };
-    auto* worker = new ProbeWorker(server, std::move(reports));
+    auto* worker = new ProbeWorker(server, nameservers, std::move(reports));
     worker->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::started, worker, &ProbeWorker::start);
     QObject::connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);

@@ -19,7 +19,9 @@ public:
     using AddressHandler = std::function<void(const QString&)>;
 
     // onClientAddress is called once, as the listener is, with the address that the server saw.
-    StunProbe(const StunServer& server, Listener& listener, AddressHandler onClientAddress = {});
+    // nameservers: as of ServerLookup.
+    StunProbe(const StunServer& server, Listener& listener, AddressHandler onClientAddress = {},
+              const QString& nameservers = {});
     ~StunProbe() override;
 
     NetworkFigures figures() const override { return m_figures; }

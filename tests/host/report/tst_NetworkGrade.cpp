@@ -15,6 +15,7 @@ private Q_SLOTS:
     void levels_data();
     void levels();
     void nothingMeasured();
+    void noServer();
     void linesNameTheirSource();
     void fixedLimits_data();
     void fixedLimits();
@@ -53,6 +54,15 @@ void tst_NetworkGrade::levels()
 void tst_NetworkGrade::nothingMeasured()
 {
     QVERIFY(NetworkGrade::of({100, -1, 0, 50, 0}).lines.empty());
+}
+
+// The best figures of this machine's own responder are no grade.
+void tst_NetworkGrade::noServer()
+{
+    Platform::NetworkFigures figures{0, 1, 0, 50, 50};
+    QCOMPARE(NetworkGrade::of(figures).lines.size(), std::size_t(3));
+    figures.problem = Platform::NetworkProblem::NoServer;
+    QVERIFY(NetworkGrade::of(figures).lines.empty());
 }
 
 void tst_NetworkGrade::linesNameTheirSource()

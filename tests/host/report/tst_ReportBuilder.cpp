@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
+#include "host/Languages.h"
 #include "host/report/ReportBuilder.h"
 #include "platform/backend/ResultDocument.h"
 #include "platform/scripted/CallLog.h"
@@ -13,6 +14,7 @@ class tst_ReportBuilder : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void facts();
     void answersAndStates_data();
     void answersAndStates();
@@ -20,6 +22,9 @@ private Q_SLOTS:
     void missingFigures();
     void engineSaysWhy();
     void noAnswerFromTheServer();
+    void noSuchHost();
+    void noServer();
+    void causesAreListed();
     void countsOfNoPictures_data();
     void countsOfNoPictures();
     void unknownFigures();
@@ -27,6 +32,9 @@ private Q_SLOTS:
     void laterFigures();
     void contradictions_data();
     void contradictions();
+
+private:
+    Languages m_languages;
 };
 
 namespace {
@@ -61,6 +69,11 @@ Measurement figure(const Report& report, const QString& check, const QString& ke
 }
 
 } // namespace
+
+void tst_ReportBuilder::initTestCase()
+{
+    QCOMPARE(m_languages.use(QStringLiteral("en")), QString());
+}
 
 void tst_ReportBuilder::facts()
 {
@@ -186,6 +199,53 @@ void tst_ReportBuilder::noAnswerFromTheServer()
     }
     QCOMPARE(figure(report, network, QStringLiteral("lossPercent")).value.toInt(), 100);
     QVERIFY(!report.grade);
+}
+
+void tst_ReportBuilder::noSuchHost()
+{
+    Platform::ResultDocument document;
+    Platform::NetworkFigures figures{100, -1};
+    figures.problem = Platform::NetworkProblem::NoSuchHost;
+    document.recordMeasurement(QStringLiteral("network"), Platform::toJson(figures));
+    const Measurement delay =
+        figure(built(document), QStringLiteral("network"), QStringLiteral("delayMs"));
+    QCOMPARE(delay.status, Measurement::Status::Failed);
+    QCOMPARE(delay.reason, QStringLiteral("noSuchHost"));
+}
+
+// What this machine's own responder answers is no measurement, whatever the dialog says.
+void tst_ReportBuilder::noServer()
+{
+    Platform::ResultDocument document;
+    const QString network = QStringLiteral("network");
+    Platform::NetworkFigures figures{0, 0, 0, 50, 50, 0, 1};
+    figures.problem = Platform::NetworkProblem::NoServer;
+    document.recordMeasurement(network, Platform::toJson(figures));
+    document.recordResult(QStringLiteral("network.delay"), QStringLiteral("0ms"));
+    document.recordResult(QStringLiteral("network.loss"), QStringLiteral("0%"));
+    const Report report = built(document);
+    const ReportCheck* check = report.check(CheckKind::Network);
+    QCOMPARE(check->verdict, Verdict::Passed);
+    for (const Measurement& measurement : check->measurements) {
+        QCOMPARE(measurement.status, Measurement::Status::NotMeasured);
+        QCOMPARE(measurement.reason, QStringLiteral("noServer"));
+    }
+    QCOMPARE(check->measurements.size(), std::size_t(7));
+    QVERIFY(!report.grade);
+    QVERIFY(check->has(Cause::NoServer));
+}
+
+void tst_ReportBuilder::causesAreListed()
+{
+    Platform::ResultDocument document;
+    const QString camera = QStringLiteral("camera");
+    document.recordMeasurement(camera, {{QStringLiteral("cause"), QStringLiteral("busy")}});
+    answer(document, camera, 2, 2);
+    const Report report = built(document);
+    const ReportCheck* check = report.check(CheckKind::Camera);
+    QVERIFY(check->has(Cause::Busy));
+    QVERIFY(!check->measurement(QStringLiteral("cause"))); // it is no figure
+    QVERIFY(report.check(CheckKind::Speaker)->causes.empty());
 }
 
 void tst_ReportBuilder::countsOfNoPictures_data()

@@ -17,6 +17,7 @@ class tst_ReportJson : public QObject
 private Q_SLOTS:
     void roundTrip();
     void theThreeKindsOfFigures();
+    void causes();
     void unknownFiguresAreCarriedAlong();
     void namesTheScenarioOfAScriptedRun();
     void isValidBySchema_data();
@@ -105,6 +106,18 @@ void tst_ReportJson::theThreeKindsOfFigures()
     QCOMPARE(network->later.at(0).value.toDouble(), 84.0);
 }
 
+// Reports from before there were causes have none.
+void tst_ReportJson::causes()
+{
+    Report report = sampleReport();
+    report.checks[1].causes = {Cause::ServerLost, Cause::Black};
+    QString error;
+    const std::optional<Report> read = ReportJson::fromJson(ReportJson::toJson(report), &error);
+    QVERIFY2(read, qPrintable(error));
+    QCOMPARE(read->checks.at(1).causes, report.checks.at(1).causes);
+    QVERIFY(read->checks.at(0).causes.empty());
+}
+
 void tst_ReportJson::unknownFiguresAreCarriedAlong()
 {
     QString error;
@@ -137,6 +150,14 @@ void tst_ReportJson::isValidBySchema_data()
     bare.checks.clear();
     bare.grade.reset();
     bare.lastGoodRun.reset();
+    Report explained = sampleReport();
+    for (const auto& each : ReportWords::table<Cause>()) {
+        explained.checks[0].causes.push_back(each.value);
+    }
+    QTest::newRow("every cause") << ReportJson::toJson(explained) << true;
+    QTest::newRow("an unknown cause")
+        << withCheckValue(good, QStringLiteral("causes"), QJsonArray{QStringLiteral("weather")})
+        << false;
     QTest::newRow("whole") << good << true;
     QTest::newRow("bare") << ReportJson::toJson(bare) << true;
     QTest::newRow("another version") << withValue(good, QStringLiteral("version"), 2) << false;

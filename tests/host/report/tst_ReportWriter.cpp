@@ -163,6 +163,7 @@ void tst_ReportWriter::everyWordHasAText()
     compareTexts<Contradiction>(texts);
     compareTexts<ChangedThing>(texts);
     compareTexts<Reason>(texts);
+    compareTexts<Cause>(texts);
     for (const QString& word : ReportWords::all<Reason>()) {
         QCOMPARE(texts.reason(word), texts.of(*ReportWords::find<Reason>(word)));
     }

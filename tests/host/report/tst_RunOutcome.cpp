@@ -21,6 +21,7 @@ private Q_SLOTS:
     void network_data();
     void network();
     void networkLeftUnmeasured();
+    void networkWithoutServer();
     void speakerGone_data();
     void speakerGone();
     void devices_data();
@@ -129,6 +130,20 @@ void tst_RunOutcome::network()
     const CheckOutcome check = RunOutcome::fromDocument(document, false).checks.at(0);
     QCOMPARE(check.check, CheckKind::Network);
     QTEST(static_cast<int>(check.verdict), "verdict");
+}
+
+// The verdict is the dialog's, and the figures are no result.
+void tst_RunOutcome::networkWithoutServer()
+{
+    QJsonObject document = with({}, "network", "delay", QStringLiteral("0ms"));
+    Platform::NetworkFigures figures{0, 0, 0, 50, 50};
+    figures.problem = Platform::NetworkProblem::NoServer;
+    document.insert(QStringLiteral("measurements"),
+                    QJsonObject{{QStringLiteral("network"), Platform::toJson(figures)}});
+    const RunOutcome outcome = RunOutcome::fromDocument(document, false);
+    QCOMPARE(outcome.checks.at(0).verdict, Verdict::Passed);
+    QCOMPARE(outcome.checks.at(0).device, QStringLiteral("not measured: no server"));
+    QVERIFY(!outcome.toText().contains(QStringLiteral("0ms")));
 }
 
 // The dialog counts the network as failed as soon as it says anything of it.

@@ -13,6 +13,8 @@ class tst_StunServer : public QObject
 private Q_SLOTS:
     void fromText_data();
     void fromText();
+    void records_data();
+    void records();
     void notOne_data();
     void notOne();
 };
@@ -26,7 +28,7 @@ void tst_StunServer::fromText_data()
     QTest::newRow("name") << "stun:stun.example.org:3479"
                           << "stun.example.org" << 3479 << "stun.example.org:3479";
     QTest::newRow("usual port") << "stun:stun.example.org"
-                                << "stun.example.org" << 3478 << "stun.example.org:3478";
+                                << "stun.example.org" << 3478 << "stun.example.org";
     QTest::newRow("IPv4") << "stun:192.0.2.1:1"
                           << "192.0.2.1" << 1 << "192.0.2.1:1";
     QTest::newRow("IPv6") << "stun:[2001:db8::1]:65535"
@@ -34,7 +36,7 @@ void tst_StunServer::fromText_data()
     QTest::newRow("scheme in capitals") << "STUN:localhost:5"
                                         << "localhost" << 5 << "localhost:5";
     QTest::newRow("name alone") << "stun.example.org"
-                                << "stun.example.org" << 3478 << "stun.example.org:3478";
+                                << "stun.example.org" << 3478 << "stun.example.org";
     QTest::newRow("name and port") << "localhost:3479"
                                    << "localhost" << 3479 << "localhost:3479";
     QTest::newRow("IPv4 alone") << "192.0.2.1"
@@ -57,6 +59,25 @@ void tst_StunServer::fromText()
     QTEST(server->host, "host");
     QTEST(int(server->port), "port");
     QTEST(server->toString(), "shown");
+}
+
+void tst_StunServer::records_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("mayHaveRecords");
+    QTest::newRow("domain") << "example.org" << true;
+    QTest::newRow("domain with scheme") << "stun:example.org" << true;
+    QTest::newRow("port given") << "example.org:3478" << false;
+    QTest::newRow("name without a dot") << "localhost" << false;
+    QTest::newRow("IPv4") << "192.0.2.1" << false;
+    QTest::newRow("IPv6") << "[2001:db8::1]" << false;
+    QTest::newRow("IPv4 in IPv6") << "[::ffff:192.0.2.1]" << false;
+}
+
+void tst_StunServer::records()
+{
+    QFETCH(QString, text);
+    QTEST(StunServer::fromText(text)->mayHaveRecords(), "mayHaveRecords");
 }
 
 void tst_StunServer::notOne_data()
