@@ -3,6 +3,8 @@
 #include <LumWidgets/LumCustomNormalDialog.h>
 
 #include "platform/LumWidgets/DialogPopups.h"
+#include "platform/LumWidgets/FocusRing.h"
+#include "platform/LumWidgets/LightPalette.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -25,8 +27,7 @@ const char* const TitleBarStyle = "QWidget#titleBar{background:#FFFFFF;}"
 const char* const CloseButtonStyle =
     "QToolButton{border:none;border-radius:4px;background:transparent;color:#595959;"
     "font-size:16px;}"
-    "QToolButton:hover{background:#F0F0F0;}"
-    "QToolButton:focus{background:#F0F0F0;border:2px solid #232323;}";
+    "QToolButton:hover,QToolButton:focus{background:#F0F0F0;}";
 
 void destroyNativeWindow(const QWidget& widget)
 {
@@ -48,12 +49,14 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     setObjectName(QStringLiteral("LumCustomNormalDialog"));
     setStyleSheet(QStringLiteral("QDialog#LumCustomNormalDialog{background:#FFFFFF;"
                                  "border:1px solid #D5D5D5;}"));
+    setPalette(lightPalette());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
     layout->addWidget(m_titleBar);
+    new FocusRing(this);
     if (parent) {
         connect(parent, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
     }
