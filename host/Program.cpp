@@ -28,8 +28,12 @@ namespace {
 // Balloons are top-level windows: they take this size and no page's.
 constexpr int FontPixelSize = 12;
 
+// The places on the pages are measured for this style, and other ones cut texts off.
+const QLatin1String Style("fusion");
+
 void useLookOfCheck()
 {
+    QApplication::setStyle(Style);
     QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));
