@@ -517,9 +517,9 @@ void tst_Accessibility::pagesAreReadable()
 void tst_Accessibility::rightToLeft()
 {
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
     cleanup();
     init();
-    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     const auto left = [this](const QWidget* widget) {
         return widget->mapTo(m_dialog.get(), QPoint()).x();
     };

@@ -233,9 +233,9 @@ void tst_Volume::fillsFromItsStart()
 {
     QFETCH(Qt::LayoutDirection, direction);
     QGuiApplication::setLayoutDirection(direction);
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
     Volume volume(nullptr, 25, false);
     volume.show();
-    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     auto* slider = volume.findChild<QSlider*>();
     const QImage picture = slider->grab().toImage();
     const auto greenPixels = [&picture](int from, int to) {

@@ -318,6 +318,7 @@ void tst_LumCustomNormalDialog::textsAreReadable()
     LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
     dialog.setTitleText("title");
     auto* center = new Center;
+    auto* plain = new QLabel("plain", center);
     auto* field = new QLineEdit("field", center);
     auto* button = new QPushButton("button", center);
     field->move(0, 60);
@@ -326,10 +327,10 @@ void tst_LumCustomNormalDialog::textsAreReadable()
     dialog.show();
     const QImage picture = pictureOf(&dialog);
     auto* title = dialog.findChild<QLabel*>("titleLabel");
-    for (QWidget* text : {static_cast<QWidget*>(center), static_cast<QWidget*>(field),
+    for (QWidget* text : {static_cast<QWidget*>(plain), static_cast<QWidget*>(field),
                           static_cast<QWidget*>(button), static_cast<QWidget*>(title)}) {
         const QRect place(text->mapTo(&dialog, QPoint()), text->size());
-        const double ratio = textContrast(picture, place.adjusted(4, 4, -4, -4));
+        const double ratio = textContrast(picture, place.adjusted(2, 2, -2, -2));
         QVERIFY2(ratio >= Contrast::LeastOfText,
                  qPrintable(text->metaObject()->className() + QString(" %1").arg(ratio)));
     }
@@ -345,6 +346,7 @@ void tst_LumCustomNormalDialog::questionIsReadable()
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         QVERIFY(box);
         isReached = true;
+        const auto close = qScopeGuard([box] { box->button(QMessageBox::No)->click(); });
         box->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(box));
         QWidget* yes = box->button(QMessageBox::Yes);
@@ -362,7 +364,6 @@ void tst_LumCustomNormalDialog::questionIsReadable()
                          qPrintable(QString::number(pixels)));
             }
         }
-        box->button(QMessageBox::No)->click();
     });
     LumMessageBox::question(nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No,
                             QMessageBox::Yes);
