@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QStyle>
 #include <cstdio>
 #include <memory>
 
@@ -34,6 +35,8 @@ const QLatin1String Style("fusion");
 void useLookOfCheck()
 {
     QApplication::setStyle(Style);
+    // The forms are white, and a child below a style sheet inherits no palette from the dialog.
+    QApplication::setPalette(QApplication::style()->standardPalette());
     QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));

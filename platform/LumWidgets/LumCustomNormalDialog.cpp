@@ -4,7 +4,6 @@
 
 #include "platform/LumWidgets/DialogPopups.h"
 #include "platform/LumWidgets/FocusRing.h"
-#include "platform/LumWidgets/LightPalette.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -49,7 +48,6 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     setObjectName(QStringLiteral("LumCustomNormalDialog"));
     setStyleSheet(QStringLiteral("QDialog#LumCustomNormalDialog{background:#FFFFFF;"
                                  "border:1px solid #D5D5D5;}"));
-    setPalette(lightPalette());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);

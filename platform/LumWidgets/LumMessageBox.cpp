@@ -3,7 +3,6 @@
 #include <LumWidgets/LumMessageBox.h>
 
 #include "platform/LumWidgets/FocusRing.h"
-#include "platform/LumWidgets/LightPalette.h"
 
 #include <QAbstractButton>
 #include <QPointer>
@@ -29,7 +28,6 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
     const QPointer<QMessageBox> box =
         new QMessageBox(QMessageBox::Question, title, text, buttons, parent);
     box->setStyleSheet(BoxStyle);
-    box->setPalette(lightPalette());
     // One by one: below a parent with a sheet of its own, a rule of the box's doesn't reach them.
     const QList<QAbstractButton*> all = box->buttons();
     for (QAbstractButton* button : all) {
