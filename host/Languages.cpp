@@ -6,12 +6,14 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <algorithm>
 
 namespace {
 
 const QLatin1String FilePrefix("envcheck_");
 const QLatin1String FileSuffix(".qm");
 const QLatin1String Fallback("en");
+constexpr QChar Digits = u'0'; // the first of them
 
 QString folder()
 {
@@ -39,6 +41,22 @@ QString nearest(const QStringList& wanted, const QStringList& available)
         }
     }
     return {};
+}
+
+// One kind of digits: the pages write most numbers with 0 to 9, whatever the language, and only
+// some as the locale wants it. So of the language's countries one that writes all of them so.
+QLocale localeOf(const QString& language)
+{
+    const QLocale locale(language);
+    if (locale.zeroDigit() == Digits) {
+        return locale;
+    }
+    const QList<QLocale> others =
+        QLocale::matchingLocales(locale.language(), locale.script(), QLocale::AnyCountry);
+    const auto found = std::find_if(others.begin(), others.end(), [](const QLocale& other) {
+        return other.zeroDigit() == Digits;
+    });
+    return found == others.end() ? QLocale::c() : *found;
 }
 
 } // namespace
@@ -90,7 +108,7 @@ QString Languages::use(const QString& language)
 
 QString Languages::install(const QString& language)
 {
-    QLocale::setDefault(QLocale(language));
+    QLocale::setDefault(localeOf(language));
     const QString qtTexts = QStringLiteral("qtbase_") + language;
     if (m_qtTexts.load(qtTexts, QLibraryInfo::location(QLibraryInfo::TranslationsPath)) ||
         m_qtTexts.load(qtTexts, folder())) {

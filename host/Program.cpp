@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QStyle>
 #include <cstdio>
 #include <memory>
 
@@ -29,8 +30,14 @@ namespace {
 // Balloons are top-level windows: they take this size and no page's.
 constexpr int FontPixelSize = 12;
 
+// The places on the pages are measured for this style, and other ones cut texts off.
+const QLatin1String Style("fusion");
+
 void useLookOfCheck()
 {
+    QApplication::setStyle(Style);
+    // The forms are white, and a child below a style sheet inherits no palette from the dialog.
+    QApplication::setPalette(QApplication::style()->standardPalette());
     QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));

@@ -6,6 +6,7 @@
 
 #include <LumUtility/LumColor.h>
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -81,6 +82,8 @@ void CheckResultPage::setupTable()
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);
+    // The page itself isn't mirrored, but within the table's place the columns can be.
+    table->setLayoutDirection(QGuiApplication::layoutDirection());
     table->horizontalScrollBar()->hide();
     table->verticalScrollBar()->hide();
     table->setColumnWidth(ItemColumn, ItemWidth);

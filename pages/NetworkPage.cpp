@@ -144,6 +144,9 @@ void NetworkPage::setCaptions()
     ui->label_7->setText(qtTrId("ID_NetworkPage_LostRate"));
     ui->label_8->setText(qtTrId("ID_NewLogin_Server"));
     ui->label_9->setText(qtTrId("ID_NetworkPage_Client"));
+    if (ui->label_0->text().isRightToLeft()) {
+        ui->label_10->setAlignment(Qt::AlignRight | Qt::AlignVCenter); // as the others' letters do
+    }
     // The values stand in another column; a screen reader has to be told what they are.
     const std::pair<const QLabel*, QLabel*> rows[] = {
         {ui->label_0, ui->label_Account}, {ui->label_2, ui->label_Name},

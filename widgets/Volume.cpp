@@ -66,6 +66,8 @@ Volume::Volume(QWidget* parent, int initialValue, bool extendedRange)
       m_valueLabel(new QLabel(this)),
       m_maximum(extendedRange ? ExtendedMaximumPercent : MaximumPercent)
 {
+    // Below a style sheet Qt fills the left part of a slider in every direction.
+    setLayoutDirection(Qt::LeftToRight);
     const QSize handle = QImage(HandleImage).size();
     const int grooveWidth = QImage(GrooveImage).width();
     setStyleSheet(QStringLiteral("QWidget {height:%1px}").arg(handle.height()));

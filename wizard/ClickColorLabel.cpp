@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/ClickColorLabel.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 constexpr QRgb PassedColor = 0x009265;
@@ -26,4 +28,20 @@ void ClickColorLabel::setResultColor(bool passed)
 void ClickColorLabel::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
     Q_EMIT clicked();
+}
+
+void ClickColorLabel::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat()) {
+            Q_EMIT clicked();
+        }
+        break;
+    default:
+        QLabel::keyPressEvent(event);
+    }
 }

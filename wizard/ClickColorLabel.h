@@ -21,6 +21,7 @@ Q_SIGNALS:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override; // as a button, if it may have the focus
 
 private:
     bool m_resultShown = false;

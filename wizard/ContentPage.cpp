@@ -49,6 +49,24 @@ void showVerdict(ClickColorLabel* label, bool passed)
                                            : qtTrId("ID_CheckResultPage_Abnormal"));
 }
 
+bool isReachedByTab(const QWidget* widget, const QWidget* page)
+{
+    return page->isAncestorOf(widget) && widget->window() == page->window() &&
+           (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy() &&
+           widget->isEnabled() && widget->isVisibleTo(page);
+}
+
+void focusFirstControl(QWidget* page)
+{
+    for (QWidget* widget = page->nextInFocusChain(); widget != page;
+         widget = widget->nextInFocusChain()) {
+        if (isReachedByTab(widget, page)) {
+            widget->setFocus();
+            return;
+        }
+    }
+}
+
 } // namespace
 
 ContentPage::ContentPage(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::ContentPage>())
@@ -63,8 +81,13 @@ ContentPage::ContentPage(QWidget* parent) : QWidget(parent), ui(std::make_unique
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_DeleteOnClose, true);
 
+    // The forms fix the places. In a language that is written from right to left they can't be
+    // mirrored, so nothing on the pages is; the texts themselves run as their letters do.
+    setLayoutDirection(Qt::LeftToRight);
+
     setupStepLabels();
     connectSteps();
+    setupKeyboard();
     ui->resultPage->setPages(ui->networkPage, ui->cameraPage, ui->headsetPage, ui->microphonePage);
     connect(ui->resultPage, &CheckPage::complete, this, &ContentPage::onResultDone);
     ui->stackedWidget->setCurrentWidget(ui->networkPage);
@@ -84,22 +107,22 @@ void ContentPage::selectStep(QWidget* stepLabel)
     }
     if (stepLabel == ui->label_SystemCheck) {
         showPlain(ui->label_SystemCheck, CurrentStepStyle);
-        ui->stackedWidget->setCurrentWidget(ui->networkPage);
+        showStepPage(ui->networkPage);
     } else if (stepLabel == ui->label_CameraCheck) {
         showPlain(ui->label_CameraCheck, CurrentStepStyle);
-        ui->stackedWidget->setCurrentWidget(ui->cameraPage);
+        showStepPage(ui->cameraPage);
         showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->networkPage->saveResult();
     } else if (stepLabel == ui->label_SoundCheck) {
         showPlain(ui->label_SoundCheck, CurrentStepStyle);
-        ui->stackedWidget->setCurrentWidget(ui->headsetPage);
+        showStepPage(ui->headsetPage);
         showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->networkPage->saveResult();
         showVerdict(ui->label_CameraCheck, ui->cameraPage->isPassed());
         ui->cameraPage->saveResult();
     } else if (stepLabel == ui->label_MicCheck) {
         showPlain(ui->label_MicCheck, CurrentStepStyle);
-        ui->stackedWidget->setCurrentWidget(ui->microphonePage);
+        showStepPage(ui->microphonePage);
         ui->networkPage->saveResult();
         showVerdict(ui->label_SystemCheck, ui->networkPage->isPassed());
         ui->cameraPage->saveResult();
@@ -112,6 +135,7 @@ void ContentPage::selectStep(QWidget* stepLabel)
 void ContentPage::showResult()
 {
     ui->checkArea->setCurrentWidget(ui->resultPage);
+    focusFirstControl(ui->resultPage);
     ui->microphonePage->saveResult();
     showVerdict(ui->label_MicCheck, ui->microphonePage->isPassed());
 }
@@ -120,6 +144,7 @@ void ContentPage::onResultDone()
 {
     if (ui->resultPage->isRedetect()) {
         ui->checkArea->setCurrentWidget(ui->checkPage);
+        focusFirstControl(ui->stackedWidget->currentWidget());
     } else {
         close();
     }
@@ -166,6 +191,26 @@ void ContentPage::connectSteps()
     connect(ui->cameraPage, &CheckPage::complete, ui->label_SoundCheck, &ClickColorLabel::clicked);
     connect(ui->headsetPage, &CheckPage::complete, ui->label_MicCheck, &ClickColorLabel::clicked);
     connect(ui->microphonePage, &CheckPage::complete, this, &ContentPage::showResult);
+}
+
+// The step labels come after the page's own controls.
+void ContentPage::setupKeyboard()
+{
+    QWidget* previous = nullptr;
+    for (ClickColorLabel* label :
+         {ui->label_SystemCheck, ui->label_CameraCheck, ui->label_SoundCheck, ui->label_MicCheck}) {
+        label->setFocusPolicy(Qt::TabFocus);
+        if (previous) {
+            setTabOrder(previous, label);
+        }
+        previous = label;
+    }
+}
+
+void ContentPage::showStepPage(QWidget* page)
+{
+    ui->stackedWidget->setCurrentWidget(page);
+    focusFirstControl(page);
 }
 
 void ContentPage::forceClose()

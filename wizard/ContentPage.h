@@ -42,6 +42,8 @@ protected:
 private:
     void setupStepLabels();
     void connectSteps();
+    void setupKeyboard();
+    void showStepPage(QWidget* page);
     void forceClose();
     bool mayClose(const QString& managerName);
     bool isEveryPageTested() const;

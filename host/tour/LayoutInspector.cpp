@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/tour/LayoutInspector.h"
 
+#include "host/tour/Contrast.h"
+
 #include <QAbstractButton>
 #include <QImage>
 #include <QLabel>
@@ -11,7 +13,6 @@
 #include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <vector>
 
@@ -123,24 +124,6 @@ QString nameOf(const ShownText& text)
              QString(text.text).replace(QLatin1Char('\n'), QLatin1Char('|')).left(40));
 }
 
-// Relative luminance and contrast ratio as WCAG 2.1 defines them.
-double luminance(QRgb color)
-{
-    const auto linear = [](int channel) {
-        const double c = channel / 255.0;
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
-           0.0722 * linear(qBlue(color));
-}
-
-double contrast(QRgb a, QRgb b)
-{
-    const double la = luminance(a);
-    const double lb = luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-
 // The background is the most frequent colour; the letters have the colour that differs most from
 // it.
 double paintedContrast(const ShownText& text, const QWidget* window, const QImage& picture)
@@ -160,7 +143,7 @@ double paintedContrast(const ShownText& text, const QWidget* window, const QImag
                          [](const auto& a, const auto& b) { return a.second < b.second; });
     double most = 1.0;
     for (const auto& [color, count] : counts) {
-        most = std::max(most, contrast(color, ground->first));
+        most = std::max(most, Contrast::ratio(color, ground->first));
     }
     return most;
 }
@@ -195,8 +178,9 @@ QStringList LayoutInspector::inspect(const QWidget* window)
     for (const ShownText& text : texts) {
         for (const char* name : OwnColorNames) {
             const bool isOwn = text.widget->objectName() == QLatin1String(name);
-            const double ratio = isOwn ? paintedContrast(text, window, picture) : MinContrast;
-            if (ratio < MinContrast) {
+            const double ratio =
+                isOwn ? paintedContrast(text, window, picture) : Contrast::LeastOfText;
+            if (ratio < Contrast::LeastOfText) {
                 problems << QStringLiteral("faint: %1 has a contrast of %2:1")
                                 .arg(nameOf(text))
                                 .arg(ratio, 0, 'f', 2);

@@ -12,9 +12,6 @@ class QWidget;
 class LayoutInspector
 {
 public:
-    // Least contrast of such a text, WCAG 2.1 success criterion 1.4.3.
-    static constexpr double MinContrast = 4.5;
-
     // One line per problem in the visible texts of the window.
     static QStringList inspect(const QWidget* window);
 };

@@ -8,6 +8,7 @@
 #include <QBitmap>
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
@@ -53,7 +54,7 @@ bool DialogPopups::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     const bool isPlacing = type == QEvent::Show || type == QEvent::Move || type == QEvent::Resize;
-    if (isPlacing && !m_isMapping && m_dialog && watched->isWidgetType()) {
+    if (isPlacing && !m_isBusy && m_dialog && watched->isWidgetType()) {
         auto* widget = static_cast<QWidget*>(watched);
         if (isParentlessPopup(*widget)) {
             prepare(*widget, type);
@@ -64,6 +65,9 @@ bool DialogPopups::eventFilter(QObject* watched, QEvent* event)
 
 void DialogPopups::prepare(QWidget& popup, int type)
 {
+    if (!isPlacedByCompositor()) {
+        keepOnScreen(popup);
+    }
     if (type == QEvent::Show) {
         adopt(popup);
     } else if (type == QEvent::Move && popup.isVisible() && isPlacedByCompositor()) {
@@ -92,10 +96,23 @@ void DialogPopups::adopt(QWidget& popup)
     }
 }
 
+// On the dialog's, whatever is beside it. A balloon that is too large shows its beginning.
+void DialogPopups::keepOnScreen(QWidget& popup)
+{
+    const QRect room = m_dialog->screen()->availableGeometry();
+    const QRect place = popup.geometry();
+    const QPoint corner(qMax(room.left(), qMin(place.left(), room.right() - place.width() + 1)),
+                        qMax(room.top(), qMin(place.top(), room.bottom() - place.height() + 1)));
+    if (corner != place.topLeft()) {
+        const QScopedValueRollback<bool> rollback(m_isBusy, true);
+        popup.move(corner);
+    }
+}
+
 // Only when it is mapped a popup tells the compositor its place.
 void DialogPopups::mapAnew(QWidget& popup)
 {
-    const QScopedValueRollback<bool> rollback(m_isMapping, true);
+    const QScopedValueRollback<bool> rollback(m_isBusy, true);
     popup.hide();
     popup.show();
 }

@@ -8,8 +8,9 @@
 class QWidget;
 
 // What a dialog's popups need from the window system, also those that were made without a parent:
-// to belong to the dialog, to be mapped at the place where they are put, and to show no black
-// corners where windows aren't blended. Watches all popups while it lives. GUI thread only.
+// to belong to the dialog, to be mapped at the place where they are put, to stay on the screen, and
+// to show no black corners where windows aren't blended. Watches all popups while it lives. GUI
+// thread only.
 class DialogPopups : public QObject
 {
     Q_OBJECT
@@ -23,9 +24,10 @@ public:
 
 private:
     void prepare(QWidget& popup, int type); // an event's type
+    void keepOnScreen(QWidget& popup);
     void adopt(QWidget& popup);
     void mapAnew(QWidget& popup);
 
     QPointer<QWidget> m_dialog;
-    bool m_isMapping = false;
+    bool m_isBusy = false;
 };

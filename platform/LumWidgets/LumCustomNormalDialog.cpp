@@ -3,6 +3,7 @@
 #include <LumWidgets/LumCustomNormalDialog.h>
 
 #include "platform/LumWidgets/DialogPopups.h"
+#include "platform/LumWidgets/FocusRing.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -25,8 +26,7 @@ const char* const TitleBarStyle = "QWidget#titleBar{background:#FFFFFF;}"
 const char* const CloseButtonStyle =
     "QToolButton{border:none;border-radius:4px;background:transparent;color:#595959;"
     "font-size:16px;}"
-    "QToolButton:hover{background:#F0F0F0;}"
-    "QToolButton:focus{background:#F0F0F0;border:2px solid #232323;}";
+    "QToolButton:hover,QToolButton:focus{background:#F0F0F0;}";
 
 void destroyNativeWindow(const QWidget& widget)
 {
@@ -54,6 +54,7 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     layout->setSizeConstraint(QLayout::SetFixedSize);
     m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
     layout->addWidget(m_titleBar);
+    new FocusRing(this);
     if (parent) {
         connect(parent, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
     }

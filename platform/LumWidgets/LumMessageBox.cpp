@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include <LumWidgets/LumMessageBox.h>
 
+#include "platform/LumWidgets/FocusRing.h"
+
 #include <QAbstractButton>
 #include <QPointer>
 
@@ -13,8 +15,7 @@ const QLatin1String ButtonStyle(
     "QPushButton{border:1px solid #D5D5D5;border-radius:4px;background:#FFFFFF;color:#232323;"
     "font-size:14px;min-width:86px;min-height:28px;}"
     "QPushButton:hover{background:#F7F7F7;}"
-    "QPushButton:default{border:none;background:#00835A;color:#FFFFFF;}"
-    "QPushButton:focus{border:1px solid #232323;}");
+    "QPushButton:default{border:none;background:#00835A;color:#FFFFFF;}");
 
 } // namespace
 
@@ -34,6 +35,7 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
         button->setIcon(QIcon()); // many styles put coloured balls on yes and no
     }
     box->setDefaultButton(defaultButton);
+    new FocusRing(box);
     box->exec();
     if (!box) {
         return QMessageBox::NoButton;

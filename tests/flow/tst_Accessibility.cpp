@@ -3,7 +3,9 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/DesktopPalettes.h"
 #include "tests/support/PageTools.h"
+#include "tests/support/PaintedContrast.h"
 #include "tests/support/TimerTools.h"
 #include "widgets/Volume.h"
 #include "wizard/CheckPage.h"
@@ -75,6 +77,15 @@ private Q_SLOTS:
     void deviceIsChosenByKeyboard();
     void tipsOpenAndCloseByKeyboard();
     void wholeRunByKeyboard();
+    void stepStartsAtItsFirstControl_data();
+    void stepStartsAtItsFirstControl();
+    void resultStartsAtItsButton();
+    void stepsAreChosenByKeyboard();
+    void focusIsSeen_data();
+    void focusIsSeen();
+    void pagesAreReadable_data();
+    void pagesAreReadable();
+    void rightToLeft();
 
 private:
     template <typename T>
@@ -365,6 +376,166 @@ void tst_Accessibility::wholeRunByKeyboard()
     press("okButton");
     QTRY_VERIFY(!m_dialog->isVisible());
     QTRY_VERIFY(!m_frame);
+}
+
+void tst_Accessibility::stepStartsAtItsFirstControl_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("network") << "label_SystemCheck"
+                             << "Btn_Next";
+    QTest::newRow("camera") << "label_CameraCheck"
+                            << "cb_vd_name";
+    QTest::newRow("speaker") << "label_SoundCheck"
+                             << "cb_ad_output_name";
+    QTest::newRow("microphone") << "label_MicCheck"
+                                << "cb_ad_input_name";
+}
+
+// Wherever the focus was before.
+void tst_Accessibility::stepStartsAtItsFirstControl()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, first);
+    QCOMPARE(m_dialog->focusWidget()->objectName(), QString("Btn_Next"));
+    auto* cross = m_dialog->findChild<QWidget*>("closeButton");
+    for (QWidget* before : {cross, child<QWidget>("label_MicCheck")}) {
+        before->setFocus();
+        QTest::mouseClick(child<QWidget>(qPrintable(label)), Qt::LeftButton);
+        QCOMPARE(m_dialog->focusWidget()->objectName(), first);
+    }
+    type(Qt::Key_Tab);
+    QVERIFY(m_dialog->focusWidget()->objectName() != first);
+    QTest::mouseClick(child<QWidget>("label_SystemCheck"), Qt::LeftButton);
+    QTest::mouseClick(child<QWidget>(qPrintable(label)), Qt::LeftButton);
+    QCOMPARE(m_dialog->focusWidget()->objectName(), first);
+}
+
+void tst_Accessibility::resultStartsAtItsButton()
+{
+    m_dialog->findChild<QWidget*>("closeButton")->setFocus();
+    m_frame->showResult();
+    QCOMPARE(m_dialog->focusWidget()->objectName(), QString("redetectButton"));
+    type(Qt::Key_Space);
+    QCOMPARE(m_dialog->focusWidget()->objectName(), QString("Btn_Next"));
+}
+
+// They come after the page's controls, in the order of the steps.
+void tst_Accessibility::stepsAreChosenByKeyboard()
+{
+    QVERIFY(tabTo(child<QWidget>("label_SystemCheck")));
+    for (const char* next : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+        type(Qt::Key_Tab);
+        QCOMPARE(m_dialog->focusWidget()->objectName(), QString(next));
+    }
+    type(Qt::Key_Tab);
+    QCOMPARE(m_dialog->focusWidget()->objectName(), QString("closeButton"));
+    const std::pair<const char*, Qt::Key> steps[] = {{"label_CameraCheck", Qt::Key_Space},
+                                                     {"label_MicCheck", Qt::Key_Return},
+                                                     {"label_SoundCheck", Qt::Key_Enter}};
+    for (const auto& [label, key] : steps) {
+        QVERIFY2(tabTo(child<QWidget>(label)), label);
+        type(key);
+        QVERIFY(shownPage()->isAncestorOf(m_dialog->focusWidget()));
+    }
+    QCOMPARE(shownPageName(), QString("headsetPage"));
+}
+
+void tst_Accessibility::focusIsSeen_data()
+{
+    QTest::addColumn<QString>("palette");
+    QTest::addColumn<QString>("label");
+    for (const QString& name : TestSupport::desktopPalettes()) {
+        for (const char* label :
+             {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+            QTest::addRow("%s, %s", qPrintable(name), label) << name << label;
+        }
+    }
+}
+
+// Every stop of the Tab key, on every page.
+void tst_Accessibility::focusIsSeen()
+{
+    QFETCH(QString, palette);
+    QFETCH(QString, label);
+    const TestSupport::DesktopPalette desktop(palette);
+    showStep(qPrintable(label));
+    const QWidget* first = m_dialog->focusWidget();
+    int stops = 0;
+    do {
+        QWidget* stop = m_dialog->focusWidget();
+        const QRect place(stop->mapTo(m_dialog.get(), QPoint()), stop->size());
+        QTest::keyClick(stop, Qt::Key_Shift); // as a key, it shows the ring
+        const QImage with = TestSupport::pictureOf(m_dialog.get());
+        stop->clearFocus();
+        const QImage without = TestSupport::pictureOf(m_dialog.get());
+        stop->setFocus(Qt::TabFocusReason);
+        const int pixels = TestSupport::focusPixels(with, without, place.adjusted(-4, -4, 4, 4));
+        QVERIFY2(pixels >= 2 * (place.width() + place.height()),
+                 qPrintable(nameOfStop(stop) + QString(": %1 pixels").arg(pixels)));
+        ++stops;
+        type(Qt::Key_Tab);
+    } while (m_dialog->focusWidget() != first && stops < MostTabs);
+    QVERIFY(stops >= 6);
+    QVERIFY(stops < MostTabs);
+}
+
+void tst_Accessibility::pagesAreReadable_data()
+{
+    QTest::addColumn<QString>("palette");
+    for (const QString& name : TestSupport::desktopPalettes()) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+// The desktop's colours change nothing: a list that is open has those of the pages, too.
+void tst_Accessibility::pagesAreReadable()
+{
+    QFETCH(QString, palette);
+    const TestSupport::DesktopPalette desktop(palette);
+    for (const char* label : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+        showStep(label);
+        auto* combo = shownPage()->findChild<QCustomComboBox*>();
+        QTRY_VERIFY(combo->count() > 1);
+        combo->showPopup();
+        QTRY_VERIFY(combo->view()->isVisible());
+        QWidget* list = combo->view()->window();
+        const QImage picture = TestSupport::pictureOf(list);
+        for (int row = 0; row < combo->count(); ++row) {
+            const QRect item = combo->view()->visualRect(combo->model()->index(row, 0));
+            const QPoint corner = combo->view()->viewport()->mapTo(list, item.topLeft());
+            const double ratio = TestSupport::textContrast(
+                picture, QRect(corner, item.size()).adjusted(3, 3, -3, -3));
+            QVERIFY2(ratio >= Contrast::LeastOfText,
+                     qPrintable(QString("%1 row %2: %3").arg(label).arg(row).arg(ratio)));
+        }
+        combo->hidePopup();
+    }
+}
+
+// The places are fixed, so captions stay beside what they belong to; the table mirrors its columns.
+void tst_Accessibility::rightToLeft()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    cleanup();
+    init();
+    const auto left = [this](const QWidget* widget) {
+        return widget->mapTo(m_dialog.get(), QPoint()).x();
+    };
+    QVERIFY(left(child<QLabel>("label_0")) < left(child<QLabel>("label_Account")));
+    showStep("label_MicCheck");
+    const auto* page = shownPage();
+    auto* volume = page->findChild<Volume*>();
+    QVERIFY(left(page->findChild<QLabel*>("label")) < left(volume));
+    QVERIFY(left(page->findChild<QLabel*>("label_select_mic")) <
+            left(child<QWidget>("cb_ad_input_name")));
+    auto* table = child<QTableWidget>("tableWidget");
+    QVERIFY(table->columnViewportPosition(0) > table->columnViewportPosition(2));
+    showStep("label_CameraCheck");
+    QTest::keyClick(child<QWidget>("cb_vd_name"), Qt::Key_F4);
+    QVERIFY(child<QCustomComboBox>("cb_vd_name")->view()->isVisible());
+    child<QCustomComboBox>("cb_vd_name")->hidePopup();
 }
 
 QTEST_MAIN(tst_Accessibility)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/Configuration.h"
+#include "host/Languages.h"
 #include "host/Options.h"
 
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@ class tst_Configuration : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void nothing();
@@ -33,6 +35,7 @@ private:
     QString written(const char* name, const QByteArray& content) const;
     Configuration configured(Options& options) const;
 
+    Languages m_languages;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
@@ -44,6 +47,11 @@ QString id(const char* text)
 }
 
 } // namespace
+
+void tst_Configuration::initTestCase()
+{
+    QCOMPARE(m_languages.use(id("en")), QString());
+}
 
 void tst_Configuration::init()
 {

@@ -4,6 +4,7 @@
 #include "host/Languages.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QtTest>
 
 class tst_Languages : public QObject
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void systemLanguage();
     void textsGoWithTheObject();
     void qtSpeaksTheLanguageToo();
+    void digitsAreTheSameInEveryLanguage();
 };
 
 void tst_Languages::available()
@@ -103,6 +105,18 @@ void tst_Languages::qtSpeaksTheLanguageToo()
     for (const char* language : {"de", "vi"}) {
         QCOMPARE(languages.use(QLatin1String(language)), QString());
         QVERIFY(QCoreApplication::translate("QPlatformTheme", "&Yes") != QLatin1String("&Yes"));
+    }
+}
+
+void tst_Languages::digitsAreTheSameInEveryLanguage()
+{
+    for (const QString& language : Languages::available()) {
+        Languages languages;
+        QCOMPARE(languages.use(language), QString());
+        QString text = QLocale().toString(1234567890);
+        text.remove(QRegularExpression(QStringLiteral("[^0-9]")));
+        QVERIFY2(text == QLatin1String("1234567890"), qPrintable(language));
+        QCOMPARE(QLocale().language(), QLocale(language).language());
     }
 }
 

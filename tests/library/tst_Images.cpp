@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "host/tour/Contrast.h"
 #include "tools/images/Pictures.h"
 
 #include <QBitmap>
@@ -14,7 +15,7 @@
 #include <QtTest>
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 
 namespace {
 
@@ -23,7 +24,6 @@ const QRgb PageGrey = qRgb(242, 242, 242);
 const QRgb Green = qRgb(0, 146, 101);
 const QRgb Red = qRgb(255, 74, 39);
 constexpr int PictureCount = 44;
-constexpr double ReadableContrast = 4.5;
 
 const QString Root = QStringLiteral(ENVCHECK_SOURCE_DIR);
 const QString LibraryPrefix = QStringLiteral(":/Kestrel/Images/");
@@ -104,20 +104,6 @@ double shareOfColour(const QImage& picture, QRgb colour)
     });
 }
 
-double linear(int channel)
-{
-    const double value = channel / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-// WCAG 2: relative luminances, each with 0.05 of stray light.
-double contrastToWhite(QRgb pixel)
-{
-    const double luminance = 0.2126 * linear(qRed(pixel)) + 0.7152 * linear(qGreen(pixel)) +
-                             0.0722 * linear(qBlue(pixel));
-    return 1.05 / (luminance + 0.05);
-}
-
 QRect inkedRect(const QImage& picture)
 {
     return QRegion(QBitmap::fromImage(picture.createAlphaMask())).boundingRect();
@@ -142,6 +128,8 @@ private Q_SLOTS:
     void bitmapIsRenderedFromItsSource();
     void isStoredUncompressed_data();
     void isStoredUncompressed();
+    void sharpPictureIsRenderedFromItsSource_data();
+    void sharpPictureIsRenderedFromItsSource();
     void verdictHasItsColour_data();
     void verdictHasItsColour();
     void statesDiffer_data();
@@ -286,6 +274,40 @@ void tst_Images::isStoredUncompressed()
     QVERIFY(m_libraryContent.contains(file));
 }
 
+void tst_Images::sharpPictureIsRenderedFromItsSource_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("factor");
+    for (const Picture& picture : sharpPictures()) {
+        for (const int factor : SharpFactors) {
+            QTest::newRow(qPrintable(sharpName(picture.file, factor)))
+                << picture.file << picture.size << factor;
+        }
+    }
+}
+
+void tst_Images::sharpPictureIsRenderedFromItsSource()
+{
+    QFETCH(QString, file);
+    QFETCH(QSize, size);
+    QFETCH(int, factor);
+    const QString name = sharpName(file, factor);
+    const QString path = Root + QLatin1String("/host/resources/sharp/") + name;
+    const QByteArray list = contentOf(Root + QLatin1String("/host/resources/sharp.qrc"));
+    QVERIFY(list.contains("<file alias=\"" + name.toUtf8() + "\">"));
+    if (isVector(file)) {
+        const QSvgRenderer renderer(path);
+        QCOMPARE(renderer.defaultSize(), size * factor);
+        const QImage drawn = renderVector(LibraryPrefix + file, size, factor);
+        QVERIFY(samePixels(renderVector(path, size, factor), drawn));
+        return;
+    }
+    QImage image;
+    QVERIFY(image.loadFromData(contentOf(path)));
+    QVERIFY(samePixels(image, renderBitmap(Root, {file, size}, factor)));
+}
+
 void tst_Images::verdictHasItsColour_data()
 {
     QTest::addColumn<QString>("file");
@@ -364,7 +386,9 @@ void tst_Images::handGrowsInThePulse()
 void tst_Images::whiteTextIsReadableOnTheBackground()
 {
     const QImage back = shown(QStringLiteral("back.png"));
-    const auto unreadable = [](QRgb pixel) { return contrastToWhite(pixel) < ReadableContrast; };
+    const auto unreadable = [](QRgb pixel) {
+        return Contrast::ratio(pixel, White) < Contrast::LeastOfText;
+    };
     const QImage upper = back.copy(0, 0, back.width(), back.height() * 7 / 10);
     QCOMPARE(shareOfPixels(upper, unreadable), 0.0);
     constexpr double fewWindows = 0.005;

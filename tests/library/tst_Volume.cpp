@@ -54,6 +54,8 @@ private Q_SLOTS:
     void setVolumeInsideTheHandlerDoesNotLoop();
     void draggingAnnouncesEveryValue();
     void disablingDisablesBoth();
+    void fillsFromItsStart_data();
+    void fillsFromItsStart();
 };
 
 void tst_Volume::styleSheets()
@@ -216,6 +218,44 @@ void tst_Volume::disablingDisablesBoth()
     QVERIFY(!volume.findChild<QLabel*>()->isEnabled());
     volume.setEnabled(true);
     QVERIFY(volume.findChild<QSlider*>()->isEnabled());
+}
+
+void tst_Volume::fillsFromItsStart_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+// In a language that is written from right to left, too, the filled part ends at the handle, and
+// the number stands at the right.
+void tst_Volume::fillsFromItsStart()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QGuiApplication::setLayoutDirection(direction);
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    Volume volume(nullptr, 25, false);
+    volume.show();
+    auto* slider = volume.findChild<QSlider*>();
+    const QImage picture = slider->grab().toImage();
+    const auto greenPixels = [&picture](int from, int to) {
+        int count = 0;
+        for (int x = from; x < to; ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                const QColor color = picture.pixelColor(x, y);
+                count += color.green() > color.red() + 100 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    constexpr int Quarter = HandleAtStart + (HandleAtEnd - HandleAtStart) / 4;
+    constexpr int HandleWidth = 22;
+    QVERIFY(greenPixels(Quarter - HandleWidth / 2, Quarter + HandleWidth / 2) > 20);
+    QVERIFY(greenPixels(HandleAtStart, Quarter - HandleWidth) > 50);
+    QCOMPARE(greenPixels(Quarter + HandleWidth, picture.width()), 0);
+    QVERIFY(volume.findChild<QLabel*>()->x() > slider->geometry().right());
+    QTest::keyClick(slider, Qt::Key_Right);
+    QCOMPARE(slider->value(), 26);
 }
 
 QTEST_MAIN(tst_Volume)

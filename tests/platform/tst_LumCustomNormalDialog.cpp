@@ -1,16 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "tests/support/DesktopPalettes.h"
+#include "tests/support/PaintedContrast.h"
+
 #include <LumWidgets/LumCustomNormalDialog.h>
 #include <LumWidgets/LumMessageBox.h>
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QSlider>
 #include <QToolButton>
 #include <QWindow>
 #include <QtTest>
+
+using namespace TestSupport;
 
 namespace {
 
@@ -60,10 +68,29 @@ private Q_SLOTS:
     void titleIsShownAsQtShowsIt();
     void ownTitleBar();
     void focusStartsInTheCentre();
-    void crossShowsItsFocus();
+    void focusIsSeen_data() { addPalettes(); }
+    void focusIsSeen();
+    void ringFollowsItsControl();
+    void clickHidesTheRing();
+    void textsAreReadable_data() { addPalettes(); }
+    void textsAreReadable();
+    void questionIsReadable_data() { addPalettes(); }
+    void questionIsReadable();
+    void popupStaysOnTheScreen();
     void parentlessPopupsBelongToIt();
     void questionHasNoPictures();
+
+private:
+    static void addPalettes();
 };
+
+void tst_LumCustomNormalDialog::addPalettes()
+{
+    QTest::addColumn<QString>("palette");
+    for (const QString& name : desktopPalettes()) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
 
 void tst_LumCustomNormalDialog::takesTheCentreOver()
 {
@@ -204,21 +231,159 @@ void tst_LumCustomNormalDialog::focusStartsInTheCentre()
     QCOMPARE(dialog.focusWidget(), dialog.findChild<QWidget*>("closeButton"));
 }
 
-void tst_LumCustomNormalDialog::crossShowsItsFocus()
+// The colours of the controls are those of the pages.
+void tst_LumCustomNormalDialog::focusIsSeen()
 {
+    QFETCH(QString, palette);
+    const DesktopPalette desktop(palette);
     LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
     auto* center = new Center;
-    new QPushButton("first", center);
+    auto* next = new QPushButton("Next", center);
+    next->setStyleSheet("QPushButton{border-radius:3px;background-color:#009265;color:white;}");
+    next->setGeometry(10, 10, 138, 30);
+    auto* slider = new QSlider(Qt::Horizontal, center);
+    slider->setStyleSheet("QSlider::groove:horizontal{height:2px;background:#CCCCCC;}");
+    slider->setGeometry(10, 60, 138, 22);
     dialog.setCenterWidget(center, false);
     dialog.show();
     dialog.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     auto* cross = dialog.findChild<QToolButton*>("closeButton");
-    const QPoint edge = cross->mapTo(&dialog, QPoint(cross->width() / 2, 0));
-    const int before = qGray(dialog.grab().toImage().pixel(edge));
-    cross->setFocus();
-    const int focused = qGray(dialog.grab().toImage().pixel(edge));
-    QVERIFY2(before > 200 && focused < 100, qPrintable(QString::number(focused)));
+    for (QWidget* control : {static_cast<QWidget*>(next), static_cast<QWidget*>(slider),
+                             static_cast<QWidget*>(cross)}) {
+        control->clearFocus();
+        const QImage without = pictureOf(&dialog);
+        control->setFocus(Qt::TabFocusReason);
+        const QRect place(control->mapTo(&dialog, QPoint()), control->size());
+        const int pixels = focusPixels(pictureOf(&dialog), without, place.adjusted(-4, -4, 4, 4));
+        QVERIFY2(pixels >= 2 * (place.width() + place.height()),
+                 qPrintable(control->metaObject()->className() + QString(" %1").arg(pixels)));
+    }
+}
+
+void tst_LumCustomNormalDialog::ringFollowsItsControl()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center;
+    auto* first = new QPushButton("first", center);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* ring = dialog.findChild<QWidget*>("focusRing");
+    const auto isAround = [&] {
+        const QRect place(first->mapTo(&dialog, QPoint()), first->size());
+        return ring->isVisible() && ring->geometry() == place.adjusted(-4, -4, 4, 4);
+    };
+    QVERIFY(isAround());
+    first->move(30, 40);
+    QVERIFY(isAround());
+    first->resize(90, 20);
+    QVERIFY(isAround());
+    first->hide();
+    QVERIFY(!ring->isVisible() || !isAround());
+    first->show();
+    first->setFocus();
+    QVERIFY(isAround());
+    delete first;
+    QVERIFY(!ring->isVisible() || ring->geometry().top() < center->y());
+}
+
+void tst_LumCustomNormalDialog::clickHidesTheRing()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new Center;
+    auto* first = new QPushButton("first", center);
+    auto* second = new QPushButton("second", center);
+    second->move(0, 50);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const auto* ring = dialog.findChild<QWidget*>("focusRing");
+    QVERIFY(ring->isVisible());
+    QTest::mouseClick(first, Qt::LeftButton);
+    QVERIFY(!ring->isVisible());
+    QTest::keyClick(first, Qt::Key_Tab);
+    QCOMPARE(dialog.focusWidget(), second);
+    QVERIFY(ring->isVisible());
+    QVERIFY(ring->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+void tst_LumCustomNormalDialog::textsAreReadable()
+{
+    QFETCH(QString, palette);
+    const DesktopPalette desktop(palette);
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setTitleText("title");
+    auto* center = new Center;
+    auto* field = new QLineEdit("field", center);
+    auto* button = new QPushButton("button", center);
+    field->move(0, 60);
+    button->move(100, 0);
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    const QImage picture = pictureOf(&dialog);
+    auto* title = dialog.findChild<QLabel*>("titleLabel");
+    for (QWidget* text : {static_cast<QWidget*>(field), static_cast<QWidget*>(button),
+                          static_cast<QWidget*>(title)}) {
+        const QRect place(text->mapTo(&dialog, QPoint()), text->size());
+        const double ratio = textContrast(picture, place.adjusted(2, 2, -2, -2));
+        QVERIFY2(ratio >= Contrast::LeastOfText,
+                 qPrintable(text->metaObject()->className() + QString(" %1").arg(ratio)));
+    }
+    QVERIFY(qGray(picture.pixel(center->mapTo(&dialog, QPoint(150, 90)))) > 250);
+}
+
+void tst_LumCustomNormalDialog::questionIsReadable()
+{
+    QFETCH(QString, palette);
+    const DesktopPalette desktop(palette);
+    bool isReached = false;
+    QTimer::singleShot(0, this, [&isReached] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        isReached = true;
+        const auto close = qScopeGuard([box] { box->button(QMessageBox::No)->click(); });
+        box->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QWidget* yes = box->button(QMessageBox::Yes);
+        QWidget* no = box->button(QMessageBox::No);
+        no->setFocus(Qt::TabFocusReason);
+        const QImage atNo = pictureOf(box);
+        yes->setFocus(Qt::TabFocusReason);
+        const QImage atYes = pictureOf(box);
+        for (QWidget* part : {yes, no, box->findChild<QWidget*>("qt_msgbox_label")}) {
+            const QRect place(part->mapTo(box, QPoint()), part->size());
+            QVERIFY(textContrast(atYes, place.adjusted(6, 4, -6, -4)) >= Contrast::LeastOfText);
+            if (part == yes || part == no) {
+                const int pixels = focusPixels(atYes, atNo, place.adjusted(-4, -4, 4, 4));
+                QVERIFY2(pixels >= 2 * (place.width() + place.height()),
+                         qPrintable(QString::number(pixels)));
+            }
+        }
+    });
+    LumMessageBox::question(nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No,
+                            QMessageBox::Yes);
+    QVERIFY(isReached);
+}
+
+void tst_LumCustomNormalDialog::popupStaysOnTheScreen()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    dialog.setCenterWidget(new Center, false);
+    dialog.show();
+    const QRect screen = dialog.screen()->availableGeometry();
+    QLabel popup("balloon", nullptr, Qt::Popup | Qt::FramelessWindowHint);
+    popup.setFixedSize(100, 40);
+    popup.show();
+    for (const QPoint corner : {screen.bottomRight(), screen.topLeft() - QPoint(30, 30)}) {
+        popup.move(corner);
+        QVERIFY(screen.contains(popup.geometry()));
+    }
+    popup.move(50, 60);
+    QCOMPARE(popup.pos(), QPoint(50, 60));
+    popup.hide();
 }
 
 void tst_LumCustomNormalDialog::parentlessPopupsBelongToIt()

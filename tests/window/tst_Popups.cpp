@@ -39,6 +39,8 @@ private Q_SLOTS:
     void balloonIsAboveItsAnchor();
     void balloonThatIsPlacedLate_data() { addManagers(); }
     void balloonThatIsPlacedLate();
+    void balloonStaysOnTheScreen_data() { addManagers(); }
+    void balloonStaysOnTheScreen();
     void clickOpensTheListAndClosesIt_data() { addManagers(); }
     void clickOpensTheListAndClosesIt();
 
@@ -71,6 +73,8 @@ void tst_Popups::init()
     m_scene = std::make_unique<PopupScene>();
     m_scene->dialog().show();
     QVERIFY(QTest::qWaitForWindowExposed(&m_scene->dialog()));
+    // Without the ring around the control with the focus, which lies below the balloon.
+    QTest::mouseClick(m_scene->combo().parentWidget(), Qt::LeftButton);
     QTRY_VERIFY(!PopupScene::comboIn(m_server.picture()).isEmpty());
 }
 
@@ -112,6 +116,21 @@ void tst_Popups::balloonThatIsPlacedLate()
     m_scene->balloon().raise();
     compareBalloon();
     QVERIFY(m_scene->balloon().isVisible());
+}
+
+// Where its owner puts it may be beside the screen. A Wayland compositor tells nobody where its
+// windows are.
+void tst_Popups::balloonStaysOnTheScreen()
+{
+    m_scene->balloon().show();
+    if (m_isWayland) {
+        m_scene->placeBalloon();
+    } else {
+        m_scene->balloon().move(ScreenSize.width() - 40, ScreenSize.height() - 20);
+    }
+    const QSize size = m_scene->balloon().size();
+    QTRY_COMPARE(PopupScene::balloonIn(m_server.picture()).width(), size.width());
+    QVERIFY(PopupScene::balloonIn(m_server.picture()).height() > size.height() / 2);
 }
 
 // However long the button is held.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/images/Pictures.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -57,6 +58,36 @@ const QVector<Picture>& libraryPictures()
     return pictures;
 }
 
+const QVector<Picture>& sharpPictures()
+{
+    static const QVector<Picture> pictures = {
+        {QStringLiteral("MicN.svg"), {50, 50}},      {QStringLiteral("MinS.svg"), {50, 50}},
+        {QStringLiteral("drop_down.png"), {14, 15}}, {QStringLiteral("no_headset.png"), {36, 38}},
+        {QStringLiteral("chunk_back.png"), {4, 14}}, {QStringLiteral("chunk_front.png"), {4, 14}},
+    };
+    return pictures;
+}
+
+QString sharpName(const QString& file, int factor)
+{
+    const QFileInfo info(file);
+    return QStringLiteral("%1@%2x.%3").arg(info.completeBaseName()).arg(factor).arg(info.suffix());
+}
+
+QByteArray enlargedVector(const QString& path, const QSize& size, int factor)
+{
+    const auto attributes = [](const QSize& value) {
+        return QStringLiteral("width=\"%1\" height=\"%2\"").arg(value.width()).arg(value.height());
+    };
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QString::fromUtf8(file.readAll())
+        .replace(attributes(size), attributes(size * factor))
+        .toUtf8();
+}
+
 const QVector<Picture>& hostPictures()
 {
     static const QVector<Picture> pictures = {
@@ -95,9 +126,9 @@ QImage renderVector(const QString& path, const QSize& size, qreal scale)
     return image;
 }
 
-QImage renderBitmap(const QString& root, const Picture& picture)
+QImage renderBitmap(const QString& root, const Picture& picture, qreal scale)
 {
-    return renderVector(sourceOfBitmap(root, picture.file), picture.size);
+    return renderVector(sourceOfBitmap(root, picture.file), picture.size, scale);
 }
 
 bool samePixels(const QImage& left, const QImage& right)

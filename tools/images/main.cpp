@@ -19,39 +19,80 @@ void complain(const QString& message)
     QTextStream(stderr) << "render_images: " << message << '\n';
 }
 
-bool savePng(const QImage& image, const QString& path)
+bool saveBytes(const QByteArray& bytes, const QString& path)
 {
-    // Straight alpha is what the file holds; an opaque picture needs none.
-    const bool opaque = !image.hasAlphaChannel() || image.pixelFormat().alphaSize() == 0;
-    const QImage stored =
-        image.convertToFormat(opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     QSaveFile file(path);
-    constexpr int smallest = 0;
-    if (!file.open(QIODevice::WriteOnly) || !stored.save(&file, "PNG", smallest) ||
-        !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
         complain(QStringLiteral("cannot write %1: %2").arg(path, file.errorString()));
         return false;
     }
     return true;
 }
 
-bool handleBitmap(const QString& root, const Picture& picture, bool check)
+bool savePng(const QImage& image, const QString& path)
 {
-    const QImage image = renderBitmap(root, picture);
-    if (image.isNull()) {
-        complain(QStringLiteral("%1 is missing or not a vector picture; restore it")
-                     .arg(sourceOfBitmap(root, picture.file)));
-        return false;
-    }
-    const QString path = root + QLatin1String("/resources/images/") + picture.file;
-    if (!check) {
-        return savePng(image, path);
-    }
-    if (!samePixels(image, QImage(path))) {
+    // Straight alpha is what the file holds; an opaque picture needs none.
+    const bool opaque = !image.hasAlphaChannel() || image.pixelFormat().alphaSize() == 0;
+    const QImage stored =
+        image.convertToFormat(opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+    constexpr int smallest = 0;
+    QBuffer buffer;
+    return stored.save(&buffer, "PNG", smallest) && saveBytes(buffer.data(), path);
+}
+
+bool isSame(bool same, const QString& path)
+{
+    if (!same) {
         complain(QStringLiteral("%1 differs from its source; run render_images again").arg(path));
+    }
+    return same;
+}
+
+bool isReadable(bool readable, const QString& source)
+{
+    if (!readable) {
+        complain(QStringLiteral("%1 is missing or not a vector picture; restore it").arg(source));
+    }
+    return readable;
+}
+
+bool handleBitmap(const QString& root, const Picture& picture, const QString& path, int factor,
+                  bool check)
+{
+    const QImage image = renderBitmap(root, picture, factor);
+    if (!isReadable(!image.isNull(), sourceOfBitmap(root, picture.file))) {
         return false;
     }
-    return true;
+    return check ? isSame(samePixels(image, QImage(path)), path) : savePng(image, path);
+}
+
+bool handleVector(const QString& root, const Picture& picture, const QString& path, int factor,
+                  bool check)
+{
+    const QString source = root + QLatin1String("/resources/images/") + picture.file;
+    const QByteArray vector = enlargedVector(source, picture.size, factor);
+    if (!isReadable(!vector.isEmpty(), source)) {
+        return false;
+    }
+    if (check) {
+        QFile file(path);
+        return isSame(file.open(QIODevice::ReadOnly) && file.readAll() == vector, path);
+    }
+    return saveBytes(vector, path);
+}
+
+bool handleSharpPictures(const QString& root, bool check)
+{
+    bool good = true;
+    for (const Picture& picture : sharpPictures()) {
+        const auto handle = isVector(picture.file) ? handleVector : handleBitmap;
+        for (const int factor : SharpFactors) {
+            const QString path =
+                root + QLatin1String("/host/resources/sharp/") + sharpName(picture.file, factor);
+            good = handle(root, picture, path, factor, check) && good;
+        }
+    }
+    return good;
 }
 
 int handleBitmaps(const QString& root, bool check)
@@ -59,9 +100,11 @@ int handleBitmaps(const QString& root, bool check)
     bool good = true;
     for (const Picture& picture : libraryPictures()) {
         if (!isVector(picture.file)) {
-            good = handleBitmap(root, picture, check) && good;
+            const QString path = root + QLatin1String("/resources/images/") + picture.file;
+            good = handleBitmap(root, picture, path, 1, check) && good;
         }
     }
+    good = handleSharpPictures(root, check) && good;
     return good ? Success : Failure;
 }
 
