@@ -86,11 +86,23 @@ void findOverlap(const ShownPart& part, const ShownPart& other, QStringList& pro
     }
 }
 
+bool isUnderBalloon(const ShownPart& part, const QRect& place)
+{
+    const QWidget& window = *part.widget->window();
+    const QList<QWidget*> widgets = window.findChildren<QWidget*>();
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        return widget->inherits("LumToolTip") && widget->isVisible() &&
+               !widget->isAncestorOf(part.widget) &&
+               QRect(widget->mapTo(&window, QPoint()), widget->size()).intersects(place);
+    });
+}
+
 // What is disabled may be faint.
 void findFaint(const ShownPart& part, const QWidget& window, QStringList& problems)
 {
     const QRect place = part.painted & part.room;
-    if (part.text.isEmpty() || !part.widget->isEnabled() || place.isEmpty()) {
+    if (part.text.isEmpty() || !part.widget->isEnabled() || place.isEmpty() ||
+        isUnderBalloon(part, place)) {
         return;
     }
     const Contrast::Colors colors = Contrast::ofText(sharpPicture(window, place));
