@@ -18,7 +18,8 @@ namespace {
 
 constexpr int TickMs = 40;
 constexpr int SettleTicks = 3; // a widget that becomes ready is painted a moment later
-constexpr qint64 StopDeadlineMs = 15000;
+constexpr int StopDeadlineMs = 15000;
+constexpr int DeadlineTicks = StopDeadlineMs / TickMs; // a machine that stands still doesn't count
 
 // The dialog of the check, also while a question is open.
 QWidget* openDialog()
@@ -90,14 +91,15 @@ void Tour::step()
         return;
     }
     const TourStop& stop = m_stops[m_next];
-    if (!m_sinceAct.isValid()) {
+    if (m_ticks == 0) {
         stop.act(view);
-        m_sinceAct.start();
+        m_ticks = 1;
         m_readyTicks = 0;
         return;
     }
+    ++m_ticks;
     m_readyTicks = stop.isReady(view) ? m_readyTicks + 1 : 0;
-    const bool isLate = m_sinceAct.elapsed() > StopDeadlineMs;
+    const bool isLate = m_ticks > DeadlineTicks;
     if (m_readyTicks < SettleTicks && !isLate) {
         return;
     }
@@ -123,7 +125,7 @@ void Tour::step()
 
 void Tour::goOn()
 {
-    m_sinceAct.invalidate();
+    m_ticks = 0;
     ++m_next;
 }
 

@@ -6,7 +6,6 @@
 #include "host/tour/ScreenCamera.h"
 #include "host/tour/TourScript.h"
 
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QObject>
 #include <QStringList>
@@ -48,8 +47,8 @@ private:
     ContactSheet m_sheet;
     ScreenCamera m_camera;
     QTimer m_timer;
-    QElapsedTimer m_sinceAct;
     size_t m_next = 0;
+    int m_ticks = 0; // since the act; 0 before it
     int m_readyTicks = 0;
     int m_pictureCount = 0;
     QStringList m_problems;
