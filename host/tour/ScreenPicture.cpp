@@ -10,6 +10,7 @@ namespace {
 
 constexpr int GridStep = 9;      // pixels between two samples
 constexpr int EdgeGridStep = 3;  // where a sample is kept only at an edge
+constexpr int SmallPart = 8192;  // pixels, of which all are samples
 constexpr int EdgeStrength = 60; // of grey between neighbours
 constexpr int Tolerance = 48;    // of grey: balloons let through what is below them
 constexpr int LeastAlpha = 200;  // more transparent parts aren't looked at
@@ -25,12 +26,14 @@ struct Sample
 std::vector<Sample> samplesOf(const QImage& part)
 {
     std::vector<Sample> samples;
-    for (int y = 1; y < part.height() - 1; y += EdgeGridStep) {
-        for (int x = 1; x < part.width() - 1; x += EdgeGridStep) {
+    const bool isSmall = part.width() * part.height() <= SmallPart;
+    const int step = isSmall ? 1 : EdgeGridStep;
+    for (int y = 1; y < part.height() - 1; y += step) {
+        for (int x = 1; x < part.width() - 1; x += step) {
             const int grey = qGray(part.pixel(x, y));
             const bool isEdge = std::abs(grey - qGray(part.pixel(x + 1, y))) > EdgeStrength ||
                                 std::abs(grey - qGray(part.pixel(x, y + 1))) > EdgeStrength;
-            const bool isOnGrid = x % GridStep == 1 && y % GridStep == 1;
+            const bool isOnGrid = isSmall || (x % GridStep == 1 && y % GridStep == 1);
             const bool isSeen = qAlpha(part.pixel(x, y)) >= LeastAlpha;
             if (isSeen && (isEdge || isOnGrid)) {
                 samples.push_back({{x, y}, grey});
