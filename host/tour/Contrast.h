@@ -2,26 +2,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QImage>
+#include <QColor>
+#include <algorithm>
+#include <cmath>
 
-// Contrast as WCAG 2.1 defines it, from 1 (the same colour) to 21 (black on white).
+// Relative luminance and contrast ratio as WCAG 2.1 defines them.
 namespace Contrast {
 
-double ratio(QRgb a, QRgb b);
+constexpr double LeastOfText = 4.5;  // success criterion 1.4.3
+constexpr double LeastOfFocus = 3.0; // success criterion 1.4.11
 
-struct Colors
+inline double luminance(QRgb color)
 {
-    QRgb ground;
-    QRgb ink;
-    double ratio() const { return Contrast::ratio(ground, ink); }
-};
+    const auto linear = [](int channel) {
+        const double c = channel / 255.0;
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
+           0.0722 * linear(qBlue(color));
+}
 
-// Of a painted text: the ground is the most frequent colour, the letters have the colour that
-// differs most from it.
-Colors ofText(const QImage& picture);
-
-// The strongest change from one picture to the other, of equal size, that shows in this many
-// pixels at least.
-double ofChange(const QImage& before, const QImage& after, int leastPixels);
+inline double ratio(QRgb a, QRgb b)
+{
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
 
 } // namespace Contrast

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/tour/LayoutInspector.h"
 
-#include "host/tour/Contrast.h"
+#include "host/tour/PixelContrast.h"
 #include "host/tour/ShownParts.h"
 
 #include <LumUtility/LumColor.h>
@@ -26,9 +26,9 @@ constexpr int Sharpness = 3;
 constexpr int LeastFocusPixels = 12;
 
 // Colours of texts that the pages fix, ground and ink: these texts are as faint everywhere.
-bool isFixed(const Contrast::Colors& colors)
+bool isFixed(const PixelContrast::Colors& colors)
 {
-    const Contrast::Colors fixed[] = {
+    const PixelContrast::Colors fixed[] = {
         {0xFFFFFFFF, 0xFF009265}, {0xFF009265, 0xFFFFFFFF},          {0xFFFFFFFF, 0xFF999999},
         {0xFFFFFFFF, 0xFF808080}, {0xFFF7F7F7, 0xFF808080},          {0xFFFFFFFF, 0xFF7B7B7B},
         {0xFFFFFFFF, 0xFFB4B4B4}, {0xFFFFFFFF, LumColor::Red.rgb()}, {0xFF27A37D, 0xFFFFFFFF},
@@ -38,7 +38,7 @@ bool isFixed(const Contrast::Colors& colors)
         return std::abs(qRed(a) - qRed(b)) <= 1 && std::abs(qGreen(a) - qGreen(b)) <= 1 &&
                std::abs(qBlue(a) - qBlue(b)) <= 1;
     };
-    return std::any_of(std::begin(fixed), std::end(fixed), [&](const Contrast::Colors& pair) {
+    return std::any_of(std::begin(fixed), std::end(fixed), [&](const PixelContrast::Colors& pair) {
         return isNear(pair.ground, colors.ground) && isNear(pair.ink, colors.ink);
     });
 }
@@ -105,8 +105,8 @@ void findFaint(const ShownPart& part, const QWidget& window, QStringList& proble
         isUnderBalloon(part, place)) {
         return;
     }
-    const Contrast::Colors colors = Contrast::ofText(sharpPicture(window, place));
-    if (colors.ratio() < LayoutInspector::MinContrast && !isFixed(colors)) {
+    const PixelContrast::Colors colors = PixelContrast::ofText(sharpPicture(window, place));
+    if (colors.ratio() < Contrast::LeastOfText && !isFixed(colors)) {
         problems << QStringLiteral("faint: %1 has a contrast of %2:1, %3 on %4")
                         .arg(part.name())
                         .arg(colors.ratio(), 0, 'f', 2)
@@ -169,8 +169,8 @@ QStringList LayoutInspector::inspectFocus(QWidget* window)
         const QImage with = sharpPicture(*window, window->rect());
         widget->clearFocus();
         const QImage without = sharpPicture(*window, window->rect());
-        const double ratio = Contrast::ofChange(without, with, LeastFocusPixels * Sharpness);
-        if (ratio < MinFocusContrast) {
+        const double ratio = PixelContrast::ofChange(without, with, LeastFocusPixels * Sharpness);
+        if (ratio < Contrast::LeastOfFocus) {
             problems << QStringLiteral("faint focus: %1 shows it with a contrast of %2:1")
                             .arg(ShownPart{widget, {}, {}, {}, {}}.name())
                             .arg(ratio, 0, 'f', 2);

@@ -12,10 +12,6 @@ class QWidget;
 class LayoutInspector
 {
 public:
-    // Least contrast of texts, WCAG 2.1 success criterion 1.4.3, and of what shows the
-    // focus, 1.4.11.
-    static constexpr double MinContrast = 4.5;
-    static constexpr double MinFocusContrast = 3.0;
     static constexpr int MaxPopupGap = 12; // pixels at a scale of 100 %
 
     // "cut off", "overlap", "faint" and "too large".

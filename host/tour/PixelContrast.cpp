@@ -1,36 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/tour/Contrast.h"
+#include "host/tour/PixelContrast.h"
 
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <map>
 #include <vector>
 
-namespace {
-
-// Relative luminance.
-double luminance(QRgb color)
-{
-    const auto linear = [](int channel) {
-        const double c = channel / 255.0;
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
-           0.0722 * linear(qBlue(color));
-}
-
-} // namespace
-
-double Contrast::ratio(QRgb a, QRgb b)
-{
-    const double la = luminance(a);
-    const double lb = luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-
-Contrast::Colors Contrast::ofText(const QImage& picture)
+PixelContrast::Colors PixelContrast::ofText(const QImage& picture)
 {
     const QImage colors = picture.convertToFormat(QImage::Format_RGB32);
     std::map<QRgb, int> counts;
@@ -50,7 +27,7 @@ Contrast::Colors Contrast::ofText(const QImage& picture)
     return {ground, ink};
 }
 
-double Contrast::ofChange(const QImage& before, const QImage& after, int leastPixels)
+double PixelContrast::ofChange(const QImage& before, const QImage& after, int leastPixels)
 {
     const QImage first = before.convertToFormat(QImage::Format_RGB32);
     const QImage second = after.convertToFormat(QImage::Format_RGB32);
@@ -58,7 +35,7 @@ double Contrast::ofChange(const QImage& before, const QImage& after, int leastPi
     for (int y = 0; y < first.height(); ++y) {
         for (int x = 0; x < first.width(); ++x) {
             if (first.pixel(x, y) != second.pixel(x, y)) {
-                changes.push_back(ratio(first.pixel(x, y), second.pixel(x, y)));
+                changes.push_back(Contrast::ratio(first.pixel(x, y), second.pixel(x, y)));
             }
         }
     }

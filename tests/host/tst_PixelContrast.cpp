@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "host/tour/Contrast.h"
+#include "host/tour/PixelContrast.h"
 
 #include <QtTest>
 
-class tst_Contrast : public QObject
+class tst_PixelContrast : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private Q_SLOTS:
 };
 
 // The figures are those of WCAG's own examples and calculators.
-void tst_Contrast::ratio_data()
+void tst_PixelContrast::ratio_data()
 {
     QTest::addColumn<QRgb>("a");
     QTest::addColumn<QRgb>("b");
@@ -28,7 +28,7 @@ void tst_Contrast::ratio_data()
     QTest::newRow("blue on white") << qRgb(0, 0, 255) << qRgb(255, 255, 255) << 8.59;
 }
 
-void tst_Contrast::ratio()
+void tst_PixelContrast::ratio()
 {
     QFETCH(QRgb, a);
     QFETCH(QRgb, b);
@@ -37,31 +37,31 @@ void tst_Contrast::ratio()
     QCOMPARE(Contrast::ratio(a, b), Contrast::ratio(b, a));
 }
 
-void tst_Contrast::textHasTheColourThatDiffersMost()
+void tst_PixelContrast::textHasTheColourThatDiffersMost()
 {
     QImage picture(10, 10, QImage::Format_RGB32);
     picture.fill(Qt::white);
     picture.setPixel(3, 3, qRgb(200, 200, 200));
     picture.setPixel(4, 3, qRgb(50, 50, 50));
-    const Contrast::Colors colors = Contrast::ofText(picture);
+    const PixelContrast::Colors colors = PixelContrast::ofText(picture);
     QCOMPARE(colors.ground, qRgb(255, 255, 255));
     QCOMPARE(colors.ink, qRgb(50, 50, 50));
 }
 
-void tst_Contrast::changeNeedsEnoughPixels()
+void tst_PixelContrast::changeNeedsEnoughPixels()
 {
     QImage before(10, 10, QImage::Format_RGB32);
     before.fill(Qt::white);
     QImage after = before;
-    QCOMPARE(Contrast::ofChange(before, after, 1), 1.0);
+    QCOMPARE(PixelContrast::ofChange(before, after, 1), 1.0);
     for (int x = 0; x < 3; ++x) {
         after.setPixel(x, 0, qRgb(0, 0, 0));
     }
     after.setPixel(4, 4, qRgb(200, 200, 200));
-    QVERIFY(Contrast::ofChange(before, after, 3) > 20);
-    QVERIFY(Contrast::ofChange(before, after, 4) < 2);
-    QCOMPARE(Contrast::ofChange(before, after, 5), 1.0);
+    QVERIFY(PixelContrast::ofChange(before, after, 3) > 20);
+    QVERIFY(PixelContrast::ofChange(before, after, 4) < 2);
+    QCOMPARE(PixelContrast::ofChange(before, after, 5), 1.0);
 }
 
-QTEST_APPLESS_MAIN(tst_Contrast)
-#include "tst_Contrast.moc"
+QTEST_APPLESS_MAIN(tst_PixelContrast)
+#include "tst_PixelContrast.moc"
