@@ -10,7 +10,7 @@ namespace {
 
 constexpr int GridStep = 9;      // pixels between two samples
 constexpr int EdgeGridStep = 3;  // where a sample is kept only at an edge
-constexpr int SmallPart = 8192;  // pixels, of which all are samples
+constexpr int SmallPart = 2048;  // pixels, of which all are samples
 constexpr int EdgeStrength = 60; // of grey between neighbours
 constexpr int Tolerance = 48;    // of grey: balloons let through what is below them
 constexpr int LeastAlpha = 200;  // more transparent parts aren't looked at
