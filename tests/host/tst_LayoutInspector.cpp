@@ -189,8 +189,11 @@ void tst_LayoutInspector::disabledTextMayBeFaint()
 void tst_LayoutInspector::windowLargerThanItsScreen()
 {
     QCOMPARE(inspect(), QStringList());
-    m_window->resize(m_window->screen()->size() + QSize(0, 1));
-    QCOMPARE(inspect().filter("too large").size(), 1);
+    const QSize screen = m_window->screen()->size();
+    for (const QSize size : {QSize(screen.width() + 1, 200), QSize(300, screen.height() + 1)}) {
+        m_window->resize(size);
+        QCOMPARE(inspect().filter("too large").size(), 1);
+    }
 }
 
 void tst_LayoutInspector::focusThatShows()
