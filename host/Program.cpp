@@ -53,6 +53,8 @@ std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[]
         application.reset();
         application = std::make_unique<QApplication>(argc, argv);
     }
+    // Themes of some desktops, such as qt5ct, set their font by a posted event.
+    QCoreApplication::sendPostedEvents();
     useLookOfCheck();
     return application;
 }

@@ -17,7 +17,7 @@ test_packages=(
     libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
-    openbox metacity xdotool x11-utils imagemagick weston qtwayland5
+    openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
     gstreamer1.0-pipewire gstreamer1.0-x)

@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "host/tour/LayoutInspector.h"
 
-#include "host/tour/Contrast.h"
+#include "host/tour/PixelContrast.h"
+#include "host/tour/ShownParts.h"
 
-#include <QAbstractButton>
+#include <LumUtility/LumColor.h>
+
+#include <QApplication>
 #include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QStyle>
-#include <QStyleOption>
+#include <QKeyEvent>
+#include <QScreen>
 #include <QWidget>
 #include <algorithm>
-#include <map>
-#include <vector>
 
 namespace {
 
@@ -22,130 +20,120 @@ namespace {
 constexpr int TolerancePx = 2;
 // Letters aren't exactly in the middle of their line.
 constexpr int OverlapTolerancePx = 4;
-// Object names of texts whose colour the frame sets.
-const char* const OwnColorNames[] = {"titleLabel", "closeButton"};
+// Thin strokes have their colour only on a sharp picture.
+constexpr int Sharpness = 3;
+// A line of this length shows the focus.
+constexpr int LeastFocusPixels = 12;
 
-struct ShownText
+// Colours of texts that the pages fix, ground and ink: these texts are as faint everywhere.
+bool isFixed(const PixelContrast::Colors& colors)
 {
-    const QWidget* widget;
-    QString text;
-    QSize needed; // of the painted text
-    QRect room;   // where it may be painted, in coordinates of the window
-    Qt::Alignment alignment;
+    const PixelContrast::Colors fixed[] = {
+        {0xFFFFFFFF, 0xFF009265}, {0xFF009265, 0xFFFFFFFF},          {0xFFFFFFFF, 0xFF999999},
+        {0xFFFFFFFF, 0xFF808080}, {0xFFF7F7F7, 0xFF808080},          {0xFFFFFFFF, 0xFF7B7B7B},
+        {0xFFFFFFFF, 0xFFB4B4B4}, {0xFFFFFFFF, LumColor::Red.rgb()}, {0xFF27A37D, 0xFFFFFFFF},
+        {0xFFFF6648, 0xFFFFFFFF}, // balloons, on white
+    };
+    const auto isNear = [](QRgb a, QRgb b) {
+        return std::abs(qRed(a) - qRed(b)) <= 1 && std::abs(qGreen(a) - qGreen(b)) <= 1 &&
+               std::abs(qBlue(a) - qBlue(b)) <= 1;
+    };
+    return std::any_of(std::begin(fixed), std::end(fixed), [&](const PixelContrast::Colors& pair) {
+        return isNear(pair.ground, colors.ground) && isNear(pair.ink, colors.ink);
+    });
+}
 
-    QRect painted(const QWidget* window) const
-    {
-        return QStyle::alignedRect(window->layoutDirection(), alignment, needed, room);
+QImage sharpPicture(const QWidget& window, const QRect& place)
+{
+    QImage image(place.size() * Sharpness, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(Sharpness);
+    image.fill(Qt::white); // below a balloon there is the page
+    const_cast<QWidget&>(window).render(&image, QPoint(), place);
+    return image;
+}
+
+void findCutOff(const ShownPart& part, QStringList& problems)
+{
+    const bool isCut = part.needed.width() > part.room.width() + TolerancePx ||
+                       part.needed.height() > part.room.height() + TolerancePx;
+    if (isCut && !part.mayBeCut) {
+        problems << QStringLiteral("cut off: %1 needs %2x%3, has %4x%5")
+                        .arg(part.name())
+                        .arg(part.needed.width())
+                        .arg(part.needed.height())
+                        .arg(part.room.width())
+                        .arg(part.room.height());
     }
-};
-
-QString plain(const QString& text)
-{
-    return QString(text).remove(QLatin1Char('&'));
 }
 
-QRect inWindow(const QWidget* widget, const QRect& rect, const QWidget* window)
+// A balloon may cover other parts.
+bool isOnBalloon(const QWidget& widget)
 {
-    return {widget->mapTo(const_cast<QWidget*>(window), rect.topLeft()), rect.size()};
+    return widget.inherits("LumToolTip") || widget.parentWidget()->inherits("LumToolTip");
 }
 
-// The box of a line is higher than its letters, above all in fonts for many scripts. So the box may
-// be cut off a little at its edges.
-int inkHeight(const QFontMetrics& metrics, const QString& text, int boxHeight)
+void findOverlap(const ShownPart& part, const ShownPart& other, QStringList& problems)
 {
-    QString line = text;
-    line.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return boxHeight - metrics.height() + metrics.tightBoundingRect(line).height();
-}
-
-ShownText textOf(const QLabel* label, const QWidget* window)
-{
-    const int margin = label->margin();
-    const QRect room = label->contentsRect().adjusted(margin, margin, -margin, -margin);
-    const int flags = int(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
-    QSize needed = label->fontMetrics()
-                       .boundingRect(QRect(QPoint(), room.size()), flags, label->text())
-                       .size();
-    needed.setHeight(inkHeight(label->fontMetrics(), label->text(), needed.height()));
-    return {label, label->text(), needed, inWindow(label, room, window), label->alignment()};
-}
-
-ShownText textOf(const QAbstractButton* button, const QWidget* window)
-{
-    QRect room = button->rect();
-    Qt::Alignment alignment = Qt::AlignCenter;
-    if (qobject_cast<const QRadioButton*>(button)) {
-        QStyleOptionButton option;
-        option.initFrom(button);
-        room = button->style()->subElementRect(QStyle::SE_RadioButtonContents, &option, button);
-        alignment = Qt::AlignLeft | Qt::AlignVCenter;
-    } else if (!button->icon().isNull()) {
-        room.setLeft(button->iconSize().width());
+    // A meter is drawn by a bar on another one.
+    const bool isMeter = part.widget->inherits("QProgressBar") && part.painted == other.painted;
+    const bool isInside = isMeter || part.widget == other.widget ||
+                          part.widget->isAncestorOf(other.widget) ||
+                          other.widget->isAncestorOf(part.widget);
+    const QRect both = part.painted & other.painted;
+    if (!isInside && !isOnBalloon(*part.widget) && !isOnBalloon(*other.widget) &&
+        both.width() > TolerancePx && both.height() > OverlapTolerancePx) {
+        problems << QStringLiteral("overlap: %1 and %2").arg(part.name(), other.name());
     }
-    const QString text = plain(button->text());
-    const QFontMetrics metrics = button->fontMetrics();
-    const QSize needed(metrics.horizontalAdvance(text), inkHeight(metrics, text, metrics.height()));
-    return {button, text, needed, inWindow(button, room, window), alignment};
 }
 
-std::vector<ShownText> textsOf(const QWidget* window)
+bool isUnderBalloon(const ShownPart& part, const QRect& place)
 {
-    std::vector<ShownText> texts;
-    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
-    for (const QWidget* widget : widgets) {
-        if (!widget->isVisible() || widget->window() != window ||
-            widget->visibleRegion().isEmpty()) {
-            continue;
-        }
-        if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-            if (!label->text().isEmpty()) {
-                texts.push_back(textOf(label, window));
-            }
-        } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-            if (!button->text().isEmpty()) {
-                texts.push_back(textOf(button, window));
-            }
-        }
+    const QWidget& window = *part.widget->window();
+    const QList<QWidget*> widgets = window.findChildren<QWidget*>();
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        return widget->inherits("LumToolTip") && widget->isVisible() &&
+               !widget->isAncestorOf(part.widget) &&
+               QRect(widget->mapTo(&window, QPoint()), widget->size()).intersects(place);
+    });
+}
+
+// What is disabled may be faint.
+void findFaint(const ShownPart& part, const QWidget& window, QStringList& problems)
+{
+    const QRect place = part.painted & part.room;
+    if (part.text.isEmpty() || !part.widget->isEnabled() || place.isEmpty() ||
+        isUnderBalloon(part, place)) {
+        return;
     }
-    return texts;
-}
-
-// A balloon may cover other texts.
-bool isBalloon(const QWidget* widget)
-{
-    return widget->parentWidget()->inherits("LumToolTip");
-}
-
-QString nameOf(const ShownText& text)
-{
-    const QString name = text.widget->objectName();
-    return QStringLiteral("%1 \"%2\"")
-        .arg(name.isEmpty() ? QString::fromLatin1(text.widget->metaObject()->className()) : name,
-             QString(text.text).replace(QLatin1Char('\n'), QLatin1Char('|')).left(40));
-}
-
-// The background is the most frequent colour; the letters have the colour that differs most from
-// it.
-double paintedContrast(const ShownText& text, const QWidget* window, const QImage& picture)
-{
-    const qreal ratio = picture.devicePixelRatio();
-    const QRect area = text.painted(window) & text.room;
-    const QImage part = picture.copy(QRectF(area.topLeft() * ratio, area.size() * ratio).toRect())
-                            .convertToFormat(QImage::Format_RGB32);
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < part.height(); ++y) {
-        for (int x = 0; x < part.width(); ++x) {
-            ++counts[part.pixel(x, y)];
-        }
+    const PixelContrast::Colors colors = PixelContrast::ofText(sharpPicture(window, place));
+    if (colors.ratio() < Contrast::LeastOfText && !isFixed(colors)) {
+        problems << QStringLiteral("faint: %1 has a contrast of %2:1, %3 on %4")
+                        .arg(part.name())
+                        .arg(colors.ratio(), 0, 'f', 2)
+                        .arg(QColor(colors.ink).name(), QColor(colors.ground).name());
     }
-    const auto ground =
-        std::max_element(counts.begin(), counts.end(),
-                         [](const auto& a, const auto& b) { return a.second < b.second; });
-    double most = 1.0;
-    for (const auto& [color, count] : counts) {
-        most = std::max(most, Contrast::ratio(color, ground->first));
+}
+
+// As somebody at the keyboard does, whom alone the focus is shown to.
+void pressKey(QWidget* window)
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Shift, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(window, &event);
     }
-    return most;
+}
+
+void findTooLarge(const QWidget& window, QStringList& problems)
+{
+    const QSize size = window.frameGeometry().size();
+    const QSize room = window.screen()->size();
+    if (size.width() > room.width() || size.height() > room.height()) {
+        problems << QStringLiteral("too large: the window has %1x%2, the screen %3x%4")
+                        .arg(size.width())
+                        .arg(size.height())
+                        .arg(room.width())
+                        .arg(room.height());
+    }
 }
 
 } // namespace
@@ -153,39 +141,54 @@ double paintedContrast(const ShownText& text, const QWidget* window, const QImag
 QStringList LayoutInspector::inspect(const QWidget* window)
 {
     QStringList problems;
-    const std::vector<ShownText> texts = textsOf(window);
-    for (auto text = texts.begin(); text != texts.end(); ++text) {
-        if (text->needed.width() > text->room.width() + TolerancePx ||
-            text->needed.height() > text->room.height() + TolerancePx) {
-            problems << QStringLiteral("cut off: %1 needs %2x%3, has %4x%5")
-                            .arg(nameOf(*text))
-                            .arg(text->needed.width())
-                            .arg(text->needed.height())
-                            .arg(text->room.width())
-                            .arg(text->room.height());
+    const std::vector<ShownPart> parts = ShownPart::of(*window);
+    for (auto part = parts.begin(); part != parts.end(); ++part) {
+        findCutOff(*part, problems);
+        for (auto other = parts.begin(); other != part; ++other) {
+            findOverlap(*part, *other, problems);
         }
-        for (auto other = texts.begin(); other != text; ++other) {
-            const bool isInside = text->widget->isAncestorOf(other->widget) ||
-                                  other->widget->isAncestorOf(text->widget);
-            const QRect both = text->painted(window) & other->painted(window);
-            if (!isInside && !isBalloon(text->widget) && !isBalloon(other->widget) &&
-                both.width() > TolerancePx && both.height() > OverlapTolerancePx) {
-                problems << QStringLiteral("overlap: %1 and %2").arg(nameOf(*text), nameOf(*other));
-            }
+        findFaint(*part, *window, problems);
+    }
+    findTooLarge(*window, problems);
+    return problems;
+}
+
+QStringList LayoutInspector::inspectFocus(QWidget* window)
+{
+    QStringList problems;
+    QApplication::setActiveWindow(window); // no window manager may have done so
+    QWidget* const owner = window->focusWidget();
+    pressKey(window);
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (!widget->isVisible() || !widget->isEnabled() || widget->window() != window ||
+            !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy()) {
+            continue;
+        }
+        widget->setFocus(Qt::TabFocusReason);
+        const QImage with = sharpPicture(*window, window->rect());
+        widget->clearFocus();
+        const QImage without = sharpPicture(*window, window->rect());
+        const double ratio = PixelContrast::ofChange(without, with, LeastFocusPixels * Sharpness);
+        if (ratio < Contrast::LeastOfFocus) {
+            problems << QStringLiteral("faint focus: %1 shows it with a contrast of %2:1")
+                            .arg(ShownPart{widget, {}, {}, {}, {}}.name())
+                            .arg(ratio, 0, 'f', 2);
         }
     }
-    const QImage picture = const_cast<QWidget*>(window)->grab().toImage();
-    for (const ShownText& text : texts) {
-        for (const char* name : OwnColorNames) {
-            const bool isOwn = text.widget->objectName() == QLatin1String(name);
-            const double ratio =
-                isOwn ? paintedContrast(text, window, picture) : Contrast::LeastOfText;
-            if (ratio < Contrast::LeastOfText) {
-                problems << QStringLiteral("faint: %1 has a contrast of %2:1")
-                                .arg(nameOf(text))
-                                .arg(ratio, 0, 'f', 2);
-            }
-        }
+    if (owner) {
+        owner->setFocus();
     }
     return problems;
+}
+
+QStringList LayoutInspector::inspectPopup(const QRect& popup, const QRect& anchor, double scale)
+{
+    const int right = std::max(popup.left() - anchor.right(), anchor.left() - popup.right());
+    const int below = std::max(popup.top() - anchor.bottom(), anchor.top() - popup.bottom());
+    const double gap = std::max({right, below, 0}) / scale;
+    if (gap <= MaxPopupGap) {
+        return {};
+    }
+    return {QStringLiteral("far: the popup is %1 pixels from what it belongs to").arg(gap)};
 }

@@ -4,14 +4,20 @@
 
 #include <QStringList>
 
+class QRect;
 class QWidget;
 
-// Looks for texts that a user can't read: cut off, on top of one another, or with too little
-// contrast. It checks the contrast only of texts whose colour the client's frame sets. GUI thread
-// only.
+// Looks for what a user can't read, see or reach. Each problem is one line that begins with its
+// rule and a colon. GUI thread only.
 class LayoutInspector
 {
 public:
-    // One line per problem in the visible texts of the window.
+    static constexpr int MaxPopupGap = 12; // pixels at a scale of 100 %
+
+    // "cut off", "overlap", "faint" and "too large".
     static QStringList inspect(const QWidget* window);
+    // "faint focus": gives the focus to each control in turn, and then back.
+    static QStringList inspectFocus(QWidget* window);
+    // "far": of a popup and what it belongs to.
+    static QStringList inspectPopup(const QRect& popup, const QRect& anchor, double scale);
 };

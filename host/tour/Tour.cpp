@@ -3,17 +3,23 @@
 #include "host/tour/Tour.h"
 
 #include "host/tour/LayoutInspector.h"
+#include "host/tour/WindowPlaces.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMessageBox>
+#include <QSaveFile>
+#include <QStyle>
 
 namespace {
 
 constexpr int TickMs = 40;
 constexpr int SettleTicks = 3; // a widget that becomes ready is painted a moment later
-constexpr qint64 StopDeadlineMs = 15000;
+constexpr int StopDeadlineMs = 15000;
+constexpr int DeadlineTicks = StopDeadlineMs / TickMs; // a machine that stands still doesn't count
 
 // The dialog of the check, also while a question is open.
 QWidget* openDialog()
@@ -50,13 +56,33 @@ bool Tour::finish(const QString& title, QString* error)
             m_problems << QStringLiteral("%1: not reached").arg(m_stops[m_next].name);
         }
     }
-    return m_sheet.write(title, error);
+    return m_sheet.write(title, error) && writeFindings(title, error);
+}
+
+bool Tour::writeFindings(const QString& title, QString* error) const
+{
+    const QJsonObject all{
+        {QStringLiteral("title"), title},
+        {QStringLiteral("platform"), QGuiApplication::platformName()},
+        {QStringLiteral("style"), QApplication::style()->objectName()},
+        {QStringLiteral("pictures"), m_findings},
+        {QStringLiteral("problems"), QJsonArray::fromStringList(m_problems)},
+    };
+    QSaveFile file(m_folder + QLatin1String("/findings.json"));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(QJsonDocument(all).toJson());
+    }
+    if (!file.commit()) {
+        *error = file.errorString();
+        return false;
+    }
+    return true;
 }
 
 void Tour::step()
 {
     QWidget* dialog = openDialog();
-    if (!dialog) {
+    if (!dialog || m_camera.isBusy()) {
         return;
     }
     const DialogView view(dialog);
@@ -65,14 +91,15 @@ void Tour::step()
         return;
     }
     const TourStop& stop = m_stops[m_next];
-    if (!m_sinceAct.isValid()) {
+    if (m_ticks == 0) {
         stop.act(view);
-        m_sinceAct.start();
+        m_ticks = 1;
         m_readyTicks = 0;
         return;
     }
+    ++m_ticks;
     m_readyTicks = stop.isReady(view) ? m_readyTicks + 1 : 0;
-    const bool isLate = m_sinceAct.elapsed() > StopDeadlineMs;
+    const bool isLate = m_ticks > DeadlineTicks;
     if (m_readyTicks < SettleTicks && !isLate) {
         return;
     }
@@ -83,27 +110,71 @@ void Tour::step()
                           .arg(StopDeadlineMs / 1000)
                           .arg(view.windows().size());
     }
-    if (!stop.name.isEmpty()) {
-        takePicture(view, stop);
+    if (stop.name.isEmpty()) {
+        goOn();
+    } else if (ScreenCamera::isThere()) {
+        m_camera.take([this](const QImage& screen) {
+            if (QWidget* shown = openDialog()) {
+                inspect(DialogView(shown), m_stops[m_next], screen);
+            }
+        });
+    } else {
+        inspect(view, stop, {});
     }
-    m_sinceAct.invalidate();
+}
+
+void Tour::goOn()
+{
+    m_ticks = 0;
     ++m_next;
 }
 
-void Tour::takePicture(const DialogView& view, const TourStop& stop)
+void Tour::inspect(const DialogView& view, const TourStop& stop, const QImage& screen)
 {
     QStringList problems;
-    for (const QWidget* window : view.windows()) {
+    const QWidgetList windows = view.windows();
+    for (const QWidget* window : windows) {
         problems += LayoutInspector::inspect(window);
     }
+    const bool isWithScreen = ScreenCamera::isThere();
+    const WindowPlaces places =
+        isWithScreen ? WindowPlaces::onScreen(view, screen) : WindowPlaces::asToldByQt(view);
+    const QWidget* anchor = stop.anchor ? stop.anchor(view) : nullptr;
+    QJsonObject place;
+    if (isWithScreen && places.dialog.isEmpty()) {
+        problems << QStringLiteral("far: the dialog isn't on the picture of the screen");
+    } else if (stop.anchor && (!anchor || places.popup.isEmpty())) {
+        problems << QStringLiteral("far: the popup isn't there");
+    } else if (anchor) {
+        problems += LayoutInspector::inspectPopup(places.popup, places.of(*anchor), places.scale);
+        const QPointF offset = QPointF(places.popup.topLeft() - places.dialog.topLeft());
+        place = {{QStringLiteral("x"), offset.x() / places.scale},
+                 {QStringLiteral("y"), offset.y() / places.scale}};
+    }
+    const QPixmap picture =
+        isWithScreen ? QPixmap::fromImage(places.cutOut(screen)) : view.picture();
+    if (!QApplication::activePopupWidget()) {
+        problems += LayoutInspector::inspectFocus(windows.last());
+    }
+    save(stop, picture, problems, place);
+    goOn();
+}
+
+void Tour::save(const TourStop& stop, const QPixmap& picture, QStringList problems,
+                const QJsonObject& place)
+{
     const QString file = stop.name + QLatin1String(".png");
-    if (!view.picture().save(m_folder + QLatin1Char('/') + file, "PNG")) {
+    if (!picture.save(m_folder + QLatin1Char('/') + file, "PNG")) {
         problems << QStringLiteral("the picture can't be written to %1").arg(m_folder);
     } else {
         ++m_pictureCount;
     }
     m_sheet.add(file, stop.name, problems);
-    for (const QString& problem : problems) {
+    m_findings.append(
+        QJsonObject{{QStringLiteral("picture"), file},
+                    {QStringLiteral("problems"), QJsonArray::fromStringList(problems)},
+                    {QStringLiteral("popup"), place}});
+    for (const QString& problem : qAsConst(problems)) {
         m_problems << QStringLiteral("%1: %2").arg(stop.name, problem);
     }
 }

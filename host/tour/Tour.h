@@ -3,15 +3,17 @@
 #pragma once
 
 #include "host/tour/ContactSheet.h"
+#include "host/tour/ScreenCamera.h"
 #include "host/tour/TourScript.h"
 
-#include <QElapsedTimer>
+#include <QJsonArray>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
 
-// Walks through the check by itself, saves a picture of each stop and looks for unreadable texts.
-// Start it before the dialog opens; it works in the event loop of the dialog. GUI thread only.
+// Walks through the check by itself, saves a picture of each stop and inspects the layout. The
+// pictures are of the screen if there is a ScreenCamera, else of the program's windows. Start it
+// before the dialog opens; it works in the event loop of the dialog. GUI thread only.
 class Tour : public QObject
 {
     Q_OBJECT
@@ -23,25 +25,32 @@ public:
     ~Tour() override;
 
     void start();
-    // Call it when the dialog is closed: writes the contact sheet. False with an error if it fails.
+    // Call it when the dialog is closed: writes the contact sheet and findings.json. False with an
+    // error if it fails.
     bool finish(const QString& title, QString* error);
 
-    // Unreadable texts, stops that weren't reached and pictures that weren't written.
+    // Faults of the layout, stops that weren't reached and pictures that weren't written.
     QStringList problems() const { return m_problems; }
     int pictureCount() const { return m_pictureCount; }
 
 private:
     void step();
-    void takePicture(const DialogView& view, const TourStop& stop);
+    void inspect(const DialogView& view, const TourStop& stop, const QImage& screen);
+    void save(const TourStop& stop, const QPixmap& picture, QStringList problems,
+              const QJsonObject& place);
+    void goOn();
+    bool writeFindings(const QString& title, QString* error) const;
     void leave(const DialogView& view);
 
     QString m_folder;
     std::vector<TourStop> m_stops;
     ContactSheet m_sheet;
+    ScreenCamera m_camera;
     QTimer m_timer;
-    QElapsedTimer m_sinceAct;
     size_t m_next = 0;
+    int m_ticks = 0; // since the act; 0 before it
     int m_readyTicks = 0;
     int m_pictureCount = 0;
     QStringList m_problems;
+    QJsonArray m_findings; // per picture
 };

@@ -25,6 +25,7 @@ namespace {
 
 using Act = std::function<void(const DialogView&)>;
 using Ready = std::function<bool(const DialogView&)>;
+using Anchor = std::function<const QWidget*(const DialogView&)>;
 using Stops = std::vector<TourStop>;
 
 constexpr int LitPercent = 30;
@@ -54,6 +55,11 @@ Ready shown(const char* widget)
     return [widget](const DialogView& view) { return view.find<QWidget>(widget) != nullptr; };
 }
 
+Anchor at(const char* widget)
+{
+    return [widget](const DialogView& view) { return view.find<QWidget>(widget); };
+}
+
 // Windows above the dialog are balloons, popups and questions.
 Ready windowsAbove(int count)
 {
@@ -61,23 +67,29 @@ Ready windowsAbove(int count)
 }
 
 // The tips button has no object name, so find it by its text.
-void pressTips(const DialogView& view, const QString& text)
+QPushButton* tipsButton(const DialogView& view, const QString& text)
 {
     const QList<QPushButton*> buttons = view.dialog()->findChildren<QPushButton*>();
-    for (QPushButton* button : buttons) {
-        if (button->isVisible() && button->text() == QLatin1Char(' ') + text) {
-            // Move the pointer first, as a user does: the balloon closes when the pointer leaves
-            // it.
-            QCursor::setPos(button->mapToGlobal(button->rect().center()));
-            QTimer::singleShot(PointerMs, button, &QAbstractButton::click);
-        }
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [&text](const auto* button) {
+        return button->isVisible() && button->text() == QLatin1Char(' ') + text;
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+void pressTips(const DialogView& view, const QString& text)
+{
+    if (QPushButton* button = tipsButton(view, text)) {
+        // Move the pointer first, as a user does: the balloon closes when the pointer leaves it.
+        QCursor::setPos(button->mapToGlobal(button->rect().center()));
+        QTimer::singleShot(PointerMs, button, &QAbstractButton::click);
     }
 }
 
 Stops tips(const char* name, const QString& text)
 {
     const Act press = [text](const DialogView& view) { pressTips(view, text); };
-    return {{QLatin1String(name), press, windowsAbove(1)}, {{}, press, windowsAbove(0)}};
+    const Anchor button = [text](const DialogView& view) { return tipsButton(view, text); };
+    return {{QLatin1String(name), press, windowsAbove(1), button}, {{}, press, windowsAbove(0)}};
 }
 
 Stops deviceList(const char* name, const char* combo)
@@ -88,7 +100,7 @@ Stops deviceList(const char* name, const char* combo)
                      box->showPopup();
                  }
              },
-             windowsAbove(1)},
+             windowsAbove(1), at(combo)},
             {{},
              [combo](const DialogView& view) {
                  if (auto* box = view.find<QComboBox>(combo)) {
@@ -173,7 +185,7 @@ Stops networkStates(ScriptedEngine& engine)
               [](const DialogView& view) {
                   QMetaObject::invokeMethod(view.dialog(), &QWidget::close, Qt::QueuedConnection);
               },
-              windowsAbove(1), true};
+              windowsAbove(1)};
     stops += {{},
               [](const DialogView& view) {
                   for (QWidget* window : view.windows()) {
@@ -210,7 +222,7 @@ Stops cameraStates(ScriptedEngine& engine)
               }};
     stops += {"camera-disabled",
               [&cameras, id](const DialogView&) { cameras.setState(id, DeviceState::Denied); },
-              windowsAbove(1)};
+              windowsAbove(1), at("cb_vd_name")};
     stops += {"camera-none",
               [&cameras](const DialogView& view) {
                   for (QWidget* window : view.windows()) {
@@ -306,7 +318,7 @@ Stops microphoneStates(ScriptedEngine& engine)
     stops +=
         {"microphone-disabled",
          [&microphones, id](const DialogView&) { microphones.setState(id, DeviceState::Denied); },
-         windowsAbove(1)};
+         windowsAbove(1), at("cb_ad_input_name")};
     stops += {"microphone-none",
               [&microphones](const DialogView& view) {
                   for (QWidget* window : view.windows()) {

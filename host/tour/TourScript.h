@@ -18,7 +18,8 @@ struct TourStop
     QString name; // also the file name of the picture; if empty, there is no picture
     std::function<void(const DialogView&)> act;
     std::function<bool(const DialogView&)> isReady;
-    bool isQuestion = false; // the picture shows a question above the dialog
+    // What the balloon or the list belongs to that is open then; none by default.
+    std::function<const QWidget*(const DialogView&)> anchor = {};
 };
 
 // The stops of a tour, in order. walk() goes through the steps as a user does, on any devices.
