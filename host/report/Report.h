@@ -29,6 +29,7 @@ struct ReportCheck
     Answer answer = Answer::None;         // the network asks nothing
     SeenState deviceState = SeenState::Unknown;
     QString device;                            // foreign text
+    QString cause;                             // of a camera without a picture: a word
     std::vector<Measurement> measurements;     // at the time of the verdict
     std::vector<Measurement> later;            // those that changed after the verdict
     std::vector<Contradiction> contradictions; // between answer and measurements

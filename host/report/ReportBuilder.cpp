@@ -138,7 +138,7 @@ std::vector<Measurement> measurementsOf(CheckKind check, const QJsonObject& figu
     }
     for (auto it = figures.begin(); it != figures.end(); ++it) {
         const bool isKnown = it.key() == StateKey || it.key() == ResultKeys::Device ||
-                             Figures::find(check, it.key());
+                             it.key() == ResultKeys::Cause || Figures::find(check, it.key());
         if (!isKnown) {
             result.push_back(measurementOf(it.key(), figures));
         }
@@ -181,6 +181,7 @@ ReportCheck checkOf(const CheckOutcome& outcome, const QJsonObject& values,
     check.answer = answerOf(values.value(ResultKeys::UserState).toInt());
     check.deviceState = stateOf(values.value(ResultKeys::DeviceState).toInt());
     check.device = outcome.check == CheckKind::Network ? QString() : outcome.device;
+    check.cause = figures.value(ResultKeys::Cause).toString();
     check.measurements = measurementsOf(outcome.check, figures, !values.isEmpty());
     check.later = laterOf(check, figures, laterFigures);
     check.contradictions = Contradictions::of(check);

@@ -3,6 +3,7 @@
 #include "host/report/ReportJson.h"
 
 #include "platform/backend/JsonFields.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <QJsonArray>
 
@@ -59,6 +60,9 @@ QJsonObject checkToJson(const ReportCheck& check)
         {QStringLiteral("device"), check.device},
         {QStringLiteral("measurements"), toArray(check.measurements, measurementToJson)},
         {QStringLiteral("contradictions"), wordArray(check.contradictions)}};
+    if (!check.cause.isEmpty()) {
+        object.insert(Platform::ResultKeys::Cause, check.cause);
+    }
     if (!check.later.empty()) {
         object.insert(QStringLiteral("later"), toArray(check.later, measurementToJson));
     }
@@ -146,6 +150,9 @@ ReportCheck readCheck(JsonFields& fields)
     check.deviceState = readWord<SeenState>(fields, "deviceState");
     check.device = readText(fields, "device");
     check.measurements = readList(fields, "measurements", readMeasurement);
+    if (fields.contains("cause")) {
+        check.cause = readText(fields, "cause");
+    }
     if (fields.contains("later")) {
         check.later = readList(fields, "later", readMeasurement);
     }

@@ -24,6 +24,9 @@ inline const QLatin1String UserState("userState");
 inline const QLatin1String DeviceState("deviceState");
 inline const QLatin1String Device("device");
 
+// Why the camera showed no picture, among its figures: the word of a CameraCause.
+inline const QLatin1String Cause("cause");
+
 // The results of the network: the texts that were shown.
 inline const QLatin1String Delay("delay");
 inline const QLatin1String Loss("loss");

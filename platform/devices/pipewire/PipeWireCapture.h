@@ -37,6 +37,9 @@ public:
     void connectionLost() override;
 
 private:
+    void streamBlocked(const QString& error, DeviceState otherwise);
+    QString userOf(const QString& serial, DeviceState state) const;
+
     void streamRuns() override;
     void streamEnded(const QString& error) override;
     void rateAgreed(double framesPerSecond) override;

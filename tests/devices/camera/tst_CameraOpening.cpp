@@ -45,10 +45,11 @@ class Listener final : public CameraFeed::Listener
 public:
     explicit Listener(QStringList& states) : m_states(states) {}
 
-    void listArrived(const DeviceList&, const QString&, bool) override {}
-    void stateChanged(int generation, DeviceState state) override
+    void listArrived(const DeviceList&, const QString&, CameraServer) override {}
+    void stateChanged(int generation, DeviceState state, const QString& program) override
     {
-        m_states << QString::number(generation) + QLatin1Char(' ') + toString(state);
+        const QString by = program.isEmpty() ? QString() : QStringLiteral(" by ") + program;
+        m_states << QString::number(generation) + QLatin1Char(' ') + toString(state) + by;
     }
     void frameArrived() override {}
     void serverMissing() override {}

@@ -46,6 +46,7 @@ Report sampleReport()
     network.later = {measured("lossPercent", 84), measured("lens", QStringLiteral("Robin's net"))};
     ReportCheck camera =
         check(CheckKind::Camera, Answer::Yes, "Robin's <script>alert(1)</script> & \"camera\"");
+    camera.cause = QStringLiteral("black");
     camera.measurements = {
         measured("rate", 29.97),
         measured("blackShare", 0.75),

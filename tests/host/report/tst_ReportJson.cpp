@@ -100,6 +100,7 @@ void tst_ReportJson::theThreeKindsOfFigures()
     QCOMPARE(camera->measurement(QStringLiteral("width"))->status, Measurement::Status::Failed);
     QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
     QVERIFY(!camera->measurement(FigureName::Height));
+    QCOMPARE(camera->cause, QStringLiteral("black"));
     const ReportCheck* network = read->check(CheckKind::Network);
     QCOMPARE(network->measurement(FigureName::Loss)->value.toDouble(), 2.0);
     QCOMPARE(network->later.at(0).value.toDouble(), 84.0);
