@@ -82,13 +82,17 @@ void PipeWireCapture::connectionLost()
 
 void PipeWireCapture::streamRuns()
 {
+    m_didRun = true;
     m_opening.streamRuns();
 }
 
 void PipeWireCapture::streamEnded(const QString& error)
 {
     if (error.isEmpty()) {
-        m_opening.streamEnded(std::nullopt);
+        // If another program has the camera for itself, the session manager ends a new stream.
+        const QString reader = m_didRun ? QString() : m_connection.programReading(m_serial);
+        m_opening.streamEnded(
+            reader.isEmpty() ? std::nullopt : std::make_optional(DeviceState::Busy), reader);
         return;
     }
     const DeviceState state = stateOf(error);
@@ -146,6 +150,7 @@ bool PipeWireCapture::openStream(const QString& serial)
         return false;
     }
     m_serial = serial;
+    m_didRun = false;
     m_stream = std::make_unique<PipeWireStream>(m_connection.context(), serial, PreferredSize,
                                                 *static_cast<PipeWireStream::Listener*>(this));
     m_opening.startBegan();

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void retriesWithoutAReason();
     void endsTheStreamFromOutside();
     void keepsTheReason();
+    void tellsWhoUsesTheCamera();
     void forgetsTheReasonAtTheNextOpening();
     void reportsWhatCannotBeOpened();
     void forgetsTheCameraThatLeft();
@@ -294,6 +295,17 @@ void tst_CameraOpening::keepsTheReason()
     m_now += 1s;
     wake(CameraOpening::WatchPeriod);
     QCOMPARE(takeStates(), words("1 working, 1 silent"));
+}
+
+void tst_CameraOpening::tellsWhoUsesTheCamera()
+{
+    open();
+    m_opening->startBegan();
+    m_opening->streamEnded(DeviceState::Busy, QStringLiteral("meeting"));
+    m_opening->setReason(DeviceState::Busy, QStringLiteral("meeting"));
+    m_opening->setReason(DeviceState::Busy, QStringLiteral("recorder"));
+    m_opening->setReason(DeviceState::Failed);
+    QCOMPARE(takeStates(), words("1 busy by meeting, 1 busy by recorder, 1 failed"));
 }
 
 void tst_CameraOpening::forgetsTheReasonAtTheNextOpening()

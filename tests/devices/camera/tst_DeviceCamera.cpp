@@ -42,7 +42,10 @@ public:
     void close() override {}
     void setOutputSize(const QSize&) override {}
 
-    void plug() { m_listener->listArrived({{"camera", "Camera"}}, "camera", CameraServer::Answers); }
+    void plug()
+    {
+        m_listener->listArrived({{"camera", "Camera"}}, "camera", CameraServer::Answers);
+    }
     void tell(DeviceState state) { m_listener->stateChanged(m_generation, state, {}); }
     void show()
     {
