@@ -305,7 +305,10 @@ void tst_Scenario::namesFileLineAndField_data()
         "2: network[0].answered: must be a whole number from 0 to 5");
     row("event", "{\"timeline\": [{ \"atMs\": 1,\n\"event\": \"explode\" }]}",
         "2: timeline[0].event: must be one of plug, unplug, rename, state, choose, volume, "
-        "pictures, levels, network, report, userInfo, breakdown, kickOut");
+        "mute, pictures, cameraServer, levels, network, report, userInfo, breakdown, kickOut");
+    row("mute of a camera",
+        "{\"timeline\": [{ \"atMs\": 1,\n\"event\": \"mute\", \"kind\": \"camera\" }]}",
+        "2: timeline[0].kind: a camera has no volume");
     row("early event", "{\"timeline\": [{ \"atMs\": -1, \"event\": \"kickOut\" }]}",
         "1: timeline[0].atMs: must be a whole number from 0 to 86400000");
     row("unknown device",
