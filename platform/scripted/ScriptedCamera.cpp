@@ -72,9 +72,9 @@ bool ScriptedCamera::delivers() const
     return isDelivering();
 }
 
+// Not in the log of calls: the preview asks, no page does.
 CameraCause ScriptedCamera::cause() const
 {
-    m_session.query("cause");
     return currentCause();
 }
 
