@@ -48,6 +48,7 @@ public:
     void cameraListChanged() override { stir(); }
     void currentCameraChanged(const QString&) override { stir(); }
     void cameraWorkStateChanged(const QString&, bool) override { stir(); }
+    void cameraCauseChanged() override {}
     void frameArrived() override {}
     void microphoneListChanged() override { stir(); }
     void currentMicrophoneChanged(const QString&) override { stir(); }

@@ -3,6 +3,7 @@
 #include "host/report/ReportJson.h"
 
 #include "platform/backend/JsonFields.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <QJsonArray>
 

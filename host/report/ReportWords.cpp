@@ -157,7 +157,7 @@ const std::vector<Word<Cause>>& table()
         {Cause::Black, "black", "ID_Host_Remedy_Black"},
         {Cause::Frozen, "frozen", "ID_Host_Remedy_Frozen"},
         {Cause::Unplugged, "unplugged", "ID_Host_Remedy_Unplugged"},
-        {Cause::ServerLost, "server-lost", "ID_Host_Remedy_ServerLost"},
+        {Cause::ServerLost, "serverLost", "ID_Host_Remedy_ServerLost"},
         {Cause::Failed, "failed", "ID_Host_Remedy_Failed"},
         {Cause::Silent, "silent", "ID_Host_Remedy_Silent"},
         {Cause::Muted, "muted", "ID_Host_Remedy_Muted"},

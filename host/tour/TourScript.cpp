@@ -220,6 +220,18 @@ Stops cameraStates(ScriptedEngine& engine)
                   const auto* button = view.find<QAbstractButton>("Btn_CanSee");
                   return button && button->text().contains(QLatin1String("(2)"));
               }};
+    stops +=
+        {"camera-in-use",
+         [&cameras, id](const DialogView&) {
+             ScriptedCameras::Feed feed = cameras.feed(id);
+             feed.program = QStringLiteral("Video meeting");
+             cameras.setFeed(id, feed);
+             cameras.setState(id, DeviceState::Busy);
+         },
+         [](const DialogView& view) {
+             const auto* preview = view.find<QWidget>("f_video_player");
+             return preview && preview->accessibleDescription().contains(QLatin1String("meeting"));
+         }};
     stops += {"camera-disabled",
               [&cameras, id](const DialogView&) { cameras.setState(id, DeviceState::Denied); },
               windowsAbove(1), at("cb_vd_name")};

@@ -26,6 +26,7 @@ public:
     {
         Q_EMIT m_camera.workStateChanged(NoneDevice::toFacade(id), works);
     }
+    void cameraCauseChanged() override { Q_EMIT m_camera.causeChanged(); }
     void frameArrived() override { Q_EMIT m_camera.frameArrived(); }
 
 private:
@@ -99,6 +100,11 @@ QImage LumCamera::latestFrame() const
 {
     // Clear the preview: a still frame would look like a working camera.
     return workWell() ? m_bridge->backend().latestFrame() : QImage();
+}
+
+Platform::CameraCause LumCamera::cause() const
+{
+    return m_bridge->backend().cause();
 }
 
 void LumCamera::setPreviewPixelRatio(qreal ratio)

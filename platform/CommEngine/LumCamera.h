@@ -32,6 +32,7 @@ public:
     virtual void setOutputSize(const QSize& size); // device-independent pixels
 
     QImage latestFrame() const override;
+    Platform::CameraCause cause() const override;
     void setPreviewPixelRatio(qreal ratio) override;
 
 Q_SIGNALS:

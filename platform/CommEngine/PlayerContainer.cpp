@@ -3,12 +3,17 @@
 #include <CommEngine/PlayerContainer.h>
 
 #include <CommEngine/LumCameraBase.h>
+#include <CommEngine/PreviewNotice.h>
+
+#include "platform/backend/CameraCause.h"
 
 #include <QPainter>
+#include <QTimerEvent>
 
 namespace {
 
 constexpr int RoundingPixels = 1; // two ways to fit a size may differ by this
+constexpr int SpinnerStepMs = 80;
 
 } // namespace
 
@@ -27,7 +32,10 @@ void PlayerContainer::attachCamera(LumCameraBase* camera)
     m_camera = camera;
     if (m_camera) {
         connect(m_camera, &LumCameraBase::frameArrived, this, &PlayerContainer::onFrameArrived);
+        connect(m_camera, &LumCameraBase::causeChanged, this, &PlayerContainer::refreshNotice);
+        connect(m_camera, &QObject::destroyed, this, &PlayerContainer::refreshNotice);
     }
+    refreshNotice();
     update();
 }
 
@@ -37,12 +45,14 @@ void PlayerContainer::play()
     if (m_camera) {
         m_camera->setPreviewPixelRatio(devicePixelRatioF());
     }
+    refreshNotice();
     update();
 }
 
 void PlayerContainer::stop()
 {
     m_isPlaying = false;
+    refreshNotice();
     update();
 }
 
@@ -53,16 +63,81 @@ void PlayerContainer::onFrameArrived()
     }
 }
 
+void PlayerContainer::refreshNotice()
+{
+    const Platform::CameraCause cause = m_camera ? m_camera->cause() : Platform::CameraCause();
+    m_isStarting = cause.kind == Platform::CameraCause::Kind::Starting;
+    m_notice = PreviewNotice::textOf(cause, noticeFont(), contentsRect().width());
+    setAccessibleDescription(m_notice);
+    runSpinner();
+    update();
+}
+
+void PlayerContainer::runSpinner()
+{
+    const bool mustRun = m_isStarting && isVisible();
+    if (mustRun && !m_spinner.isActive()) {
+        m_spinner.start(SpinnerStepMs, this);
+    } else if (!mustRun) {
+        m_spinner.stop();
+    }
+}
+
+QFont PlayerContainer::noticeFont() const
+{
+    QFont result = font();
+    result.setPixelSize(PreviewNotice::FontPixels);
+    return result;
+}
+
+void PlayerContainer::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_spinner.timerId()) {
+        m_spinnerStep = (m_spinnerStep + 1) % PreviewNotice::SpinnerSteps;
+        update();
+    } else {
+        QFrame::timerEvent(event);
+    }
+}
+
+void PlayerContainer::showEvent(QShowEvent* event)
+{
+    QFrame::showEvent(event);
+    refreshNotice();
+}
+
+void PlayerContainer::hideEvent(QHideEvent* event)
+{
+    QFrame::hideEvent(event);
+    m_spinner.stop();
+}
+
 void PlayerContainer::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);
-    if (!m_isPlaying || !m_camera) {
+    const bool hasPicture = paintPicture();
+    if (m_notice.isEmpty()) {
         return;
+    }
+    QPainter painter(this);
+    painter.setFont(noticeFont());
+    if (m_isStarting) {
+        PreviewNotice::paintStarting(painter, contentsRect(), m_notice, m_spinnerStep);
+    } else {
+        PreviewNotice::paintText(painter, contentsRect(), m_notice, hasPicture);
+    }
+}
+
+// False if there is none.
+bool PlayerContainer::paintPicture()
+{
+    if (!m_isPlaying || !m_camera) {
+        return false;
     }
     m_camera->setPreviewPixelRatio(devicePixelRatioF()); // the window may be on another screen now
     const QImage picture = m_camera->latestFrame();
     if (picture.isNull()) {
-        return;
+        return false;
     }
     // Paint in device pixels: a frame of the right size is then neither scaled nor smoothed.
     QPainter painter(this);
@@ -78,4 +153,5 @@ void PlayerContainer::paintEvent(QPaintEvent* event)
     const QPoint corner((area.center() - QRectF(QPointF(), size).center()).toPoint());
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !isMadeToFit);
     painter.drawImage(QRect(corner, size), picture);
+    return true;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <CommEngine/CommEngineExport.h>
+#include <QBasicTimer>
 #include <QFrame>
 #include <QPointer>
 
@@ -10,7 +11,8 @@ class LumCameraBase;
 
 enum enumPlayerType : int {};
 
-// Shows the frames of a camera, scaled to fit with the aspect ratio kept. GUI thread only.
+// Shows the frames of a camera, scaled to fit with the aspect ratio kept. If there is nothing to
+// see, it says why. GUI thread only.
 class COMMENGINE_EXPORT PlayerContainer : public QFrame
 {
     Q_OBJECT
@@ -24,14 +26,25 @@ public:
 
     void attachCamera(LumCameraBase* camera); // not owned; null detaches
     void play();
-    void stop(); // shows nothing
+    void stop(); // shows no frames
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void onFrameArrived();
+    void refreshNotice();
+    void runSpinner();
+    bool paintPicture();
+    QFont noticeFont() const;
 
     QPointer<LumCameraBase> m_camera;
     bool m_isPlaying = false;
+    QString m_notice; // empty if there is a picture
+    bool m_isStarting = false;
+    QBasicTimer m_spinner;
+    int m_spinnerStep = 0;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/CameraCause.h"
 #include "platform/backend/DeviceInfo.h"
 
 #include <QImage>
@@ -21,6 +22,7 @@ public:
         virtual void cameraListChanged() = 0;
         virtual void currentCameraChanged(const QString& id) = 0;
         virtual void cameraWorkStateChanged(const QString& id, bool works) = 0;
+        virtual void cameraCauseChanged() = 0;
         virtual void frameArrived() = 0; // no second one is posted before the first is handled
 
     protected:
@@ -41,6 +43,8 @@ public:
     virtual DeviceState stateOf(const QString& id) const = 0;
     // A frame arrived within the stall timeout (StallTimeout.h).
     virtual bool delivers() const = 0;
+    // Why the started camera shows no picture; none while it is stopped.
+    virtual CameraCause cause() const = 0;
 
     virtual void start() = 0;
     virtual void stop() = 0;                             // no frame comes after this call

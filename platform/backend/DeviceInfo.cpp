@@ -12,25 +12,6 @@ namespace {
 
 constexpr int MaxNameLength = 200;
 
-QString printableName(const QString& name)
-{
-    QString result;
-    for (const QChar c : name.left(MaxNameLength + 1)) {
-        result += c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-                          c == QChar::ParagraphSeparator
-                      ? QChar(' ')
-                      : c;
-    }
-    if (result.size() > MaxNameLength) {
-        result.truncate(MaxNameLength - 1);
-        if (result.at(result.size() - 1).isHighSurrogate()) {
-            result.chop(1);
-        }
-        result += QChar(0x2026);
-    }
-    return result.trimmed();
-}
-
 } // namespace
 
 QString nameIn(const DeviceList& devices, const QString& id)
@@ -60,6 +41,25 @@ bool isUsable(DeviceState state)
 QString toString(DeviceState state)
 {
     return EnumWords::word(state);
+}
+
+QString printableName(const QString& name)
+{
+    QString result;
+    for (const QChar c : name.left(MaxNameLength + 1)) {
+        result += c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+                          c == QChar::ParagraphSeparator
+                      ? QChar(' ')
+                      : c;
+    }
+    if (result.size() > MaxNameLength) {
+        result.truncate(MaxNameLength - 1);
+        if (result.at(result.size() - 1).isHighSurrogate()) {
+            result.chop(1);
+        }
+        result += QChar(0x2026);
+    }
+    return result.trimmed();
 }
 
 DeviceList withDistinctNames(DeviceList devices)

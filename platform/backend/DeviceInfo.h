@@ -59,8 +59,10 @@ CLASSROOMBACKEND_EXPORT bool isUsable(DeviceState state);
 // The word of a state in logs and reports, such as "working".
 CLASSROOMBACKEND_EXPORT QString toString(DeviceState state);
 
-// Makes equal names distinct: the second "Camera" becomes "Camera (2)". Control characters become
-// blanks, and a name longer than 200 characters is cut with an ellipsis.
+// Control characters become blanks, and a name longer than 200 characters is cut with an ellipsis.
+CLASSROOMBACKEND_EXPORT QString printableName(const QString& name);
+
+// Makes names printable and equal ones distinct: the second "Camera" becomes "Camera (2)".
 CLASSROOMBACKEND_EXPORT DeviceList withDistinctNames(DeviceList devices);
 
 } // namespace Platform

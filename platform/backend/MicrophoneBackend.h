@@ -40,8 +40,8 @@ public:
     virtual void setListening(bool on) = 0;
 
     virtual bool isVolumeAdjustable() const = 0;
-    virtual int volume() const = 0; // percent, 0 to 150
-    virtual void setVolume(int percent) = 0;
+    virtual int volume() const = 0;          // percent, 0 to 150; 0 while it is muted
+    virtual void setVolume(int percent) = 0; // also unmutes
 };
 
 } // namespace Platform

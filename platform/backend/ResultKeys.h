@@ -29,7 +29,7 @@ inline const QLatin1String Delay("delay");
 inline const QLatin1String Loss("loss");
 
 // Among the measurements of a check: a word for what state the device or the network was in, and
-// why there was no good picture or sound.
+// why there was no good picture or sound (of a camera: the word of a CameraCause).
 inline const QLatin1String State("state");
 inline const QLatin1String Cause("cause");
 

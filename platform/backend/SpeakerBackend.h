@@ -16,8 +16,8 @@ public:
     public:
         virtual void speakerListChanged() = 0;
         virtual void currentSpeakerChanged(const QString& id) = 0;
-        virtual void
-        speakerVolumeChanged(int percent) = 0; // by another program, not by setVolume()
+        // Volume or mute, by another program, not by setVolume()
+        virtual void speakerVolumeChanged(int percent) = 0;
         virtual void speakerWorkStateChanged(bool works) = 0;
 
     protected:
@@ -30,8 +30,8 @@ public:
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0;
     virtual DeviceState state() const = 0;
-    virtual int volume() const = 0; // percent, 0 to 100
-    virtual void setVolume(int percent) = 0;
+    virtual int volume() const = 0;          // percent, 0 to 100; 0 while it is muted
+    virtual void setVolume(int percent) = 0; // also unmutes
 };
 
 } // namespace Platform

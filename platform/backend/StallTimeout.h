@@ -20,6 +20,7 @@ public:
     void frameArrived(Clock::time_point now);
     void reset(); // no frame has come yet; the rate stays
 
+    bool hasFrame() const { return m_hasFrame; }
     bool delivers(Clock::time_point now) const;
     Clock::duration duration() const;
 

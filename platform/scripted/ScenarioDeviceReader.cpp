@@ -18,6 +18,7 @@ using Kind = ScenarioDeviceReader::Kind;
 constexpr int MaxDevices = 1000;
 constexpr int MaxPictureSide = 8192;
 constexpr int MaxFramesPerSecond = 240;
+constexpr int MaxStartMs = 60 * 1000;
 constexpr std::array<Kind, 3> Kinds = {Kind::Camera, Kind::Microphone, Kind::Speaker};
 
 // Absent and Off follow from "unplug" and "choose"; no scenario sets them.
@@ -46,6 +47,8 @@ Scenario::Action readCamera(JsonFields& fields)
                       integer(fields, "height", 1, MaxPictureSide, feed.size.height()));
     feed.framesPerSecond =
         integer(fields, "framesPerSecond", 1, MaxFramesPerSecond, feed.framesPerSecond);
+    feed.startMs = integer(fields, "startMs", 0, MaxStartMs, feed.startMs);
+    feed.program = fields.text("program", MaxTextLength, {});
     const QString id = fields.text("id", MaxIdLength);
     return [id, feed](ScriptedEngine& engine) { engine.cameras().setFeed(id, feed); };
 }

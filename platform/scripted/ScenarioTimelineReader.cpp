@@ -38,6 +38,29 @@ Scenario::Action readVolume(JsonFields& fields)
     };
 }
 
+Scenario::Action readMute(JsonFields& fields)
+{
+    using Kind = ScenarioDeviceReader::Kind;
+    const Kind kind = readKind(fields);
+    if (kind == Kind::Camera) {
+        fields.problem().set(fields.path("kind"), QStringLiteral("a camera has no volume"));
+    }
+    const bool isMuted = fields.flag("muted", true);
+    return [kind, isMuted](ScriptedEngine& engine) {
+        if (kind == Kind::Speaker) {
+            engine.scriptedSpeakers().setMuted(engine.scriptedSpeakers().currentId(), isMuted);
+        } else {
+            engine.microphones().setMuted(engine.microphones().currentId(), isMuted);
+        }
+    };
+}
+
+Scenario::Action readCameraServer(JsonFields& fields)
+{
+    const bool isRunning = fields.flag("running", false);
+    return [isRunning](ScriptedEngine& engine) { engine.cameras().setServerRunning(isRunning); };
+}
+
 Scenario::Action readSeries(JsonFields& fields)
 {
     const ScriptedNetwork::Series series = readNetwork(fields);
@@ -104,6 +127,10 @@ Scenario::Action ScenarioTimelineReader::readEvent(JsonFields& fields)
         return readChoose(fields);
     case Event::Volume:
         return readVolume(fields);
+    case Event::Mute:
+        return readMute(fields);
+    case Event::CameraServer:
+        return readCameraServer(fields);
     case Event::Pictures:
         return readPictures(fields);
     case Event::Levels:

@@ -3,6 +3,7 @@
 #include "platform/scripted/ScriptedCamera.h"
 
 #include "platform/backend/ResultDocument.h"
+#include "platform/backend/ResultKeys.h"
 #include "platform/backend/StallTimeout.h"
 #include "platform/scripted/ScriptedCameras.h"
 #include "platform/scripted/TestPattern.h"
@@ -12,6 +13,8 @@ namespace Platform {
 namespace {
 
 constexpr int MsPerSecond = 1000;
+constexpr int BlackMs = 2000;
+constexpr int PatienceMs = 4000;
 const QSize SampleSize(160, 160); // enough to measure the brightness
 
 } // namespace
@@ -24,6 +27,9 @@ ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDoc
     m_watchdog.setSingleShot(true);
     connect(&m_frameTimer, &QTimer::timeout, this, &ScriptedCamera::onFrame);
     connect(&m_watchdog, &QTimer::timeout, this, &ScriptedCamera::notifyWorkState);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(PatienceMs);
+    connect(&m_patience, &QTimer::timeout, this, &ScriptedCamera::notifyCause);
 
     connect(
         &m_devices, &ScriptedCameras::listChanged, this, [this] { m_listener.cameraListChanged(); },
@@ -66,13 +72,22 @@ bool ScriptedCamera::delivers() const
     return isDelivering();
 }
 
+// Not in the log of calls: the preview asks, no page does.
+CameraCause ScriptedCamera::cause() const
+{
+    return currentCause();
+}
+
 void ScriptedCamera::start()
 {
     m_session.call("start");
     m_isStarted = true;
     m_startClock.start();
+    m_patience.start();
+    m_hasFrame = false;
     runFrames();
     takeWorkState();
+    m_knownCause = currentCause();
 }
 
 // The caller knows what its own call changes, so the listener isn't told.
@@ -84,8 +99,11 @@ void ScriptedCamera::stop()
     }
     m_isStarted = false;
     m_watchdog.stop();
+    m_patience.stop();
+    m_blackClock.invalidate();
     runFrames();
     takeWorkState();
+    m_knownCause = {};
 }
 
 void ScriptedCamera::setOutputSize(const QSize& pixels)
@@ -113,7 +131,12 @@ QImage ScriptedCamera::latestFrame() const
 void ScriptedCamera::onCurrentChanged()
 {
     m_watchdog.stop();
+    m_blackClock.invalidate();
+    m_hasFrame = false;
     m_startClock.start();
+    if (m_isStarted) {
+        m_patience.start();
+    }
     m_frame = 0;
     m_pictures = 0;
     m_blackFrames = 0;
@@ -121,6 +144,7 @@ void ScriptedCamera::onCurrentChanged()
     m_picture = {};
     runFrames();
     takeWorkState();
+    notifyCause();
 }
 
 void ScriptedCamera::onFrame()
@@ -131,12 +155,19 @@ void ScriptedCamera::onFrame()
         m_firstFrameMs = m_startClock.elapsed();
     }
     ++m_pictures;
+    m_hasFrame = true;
     m_blackFrames += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
     m_frozenFrames += isFrozen ? 1 : 0;
     if (!isFrozen) {
         ++m_frame;
         m_picture = {};
     }
+    if (feed.pictures != ScriptedCameras::Pictures::Black) {
+        m_blackClock.invalidate();
+    } else if (!m_blackClock.isValid()) {
+        m_blackClock.start();
+    }
+    m_frameTimer.setInterval(MsPerSecond / feed.framesPerSecond);
     StallTimeout timeout;
     timeout.setRate(feed.framesPerSecond);
     m_watchdog.start(std::chrono::duration_cast<std::chrono::milliseconds>(timeout.duration()));
@@ -169,12 +200,52 @@ DeviceState ScriptedCamera::currentState() const
     return m_isStarted ? DeviceState::Silent : DeviceState::Ready;
 }
 
+CameraCause ScriptedCamera::currentCause() const
+{
+    const CameraCause::Kind kind = m_isStarted ? causeKind() : CameraCause::Kind::None;
+    return {kind, kind == CameraCause::Kind::Busy
+                      ? printableName(m_devices.feed(m_devices.currentId()).program)
+                      : QString()};
+}
+
+CameraCause::Kind ScriptedCamera::causeKind() const
+{
+    using Kind = CameraCause::Kind;
+    if (m_devices.isServerLost()) {
+        return Kind::ServerLost;
+    }
+    switch (currentState()) {
+    case DeviceState::Absent:
+        return m_devices.currentId().isEmpty() ? Kind::Absent : Kind::Unplugged;
+    case DeviceState::Off:
+        return Kind::None;
+    case DeviceState::Denied:
+        return Kind::Denied;
+    case DeviceState::Failed:
+        return Kind::Failed;
+    case DeviceState::Busy:
+        return Kind::Busy;
+    case DeviceState::Hung:
+        return Kind::Hung;
+    case DeviceState::Working:
+        return m_blackClock.isValid() && m_blackClock.hasExpired(BlackMs) ? Kind::Black
+                                                                          : Kind::None;
+    case DeviceState::Silent:
+    case DeviceState::Ready:
+        break;
+    }
+    const bool mayStillCome =
+        !m_hasFrame && m_patience.isActive() && m_devices.currentState() != DeviceState::Silent;
+    return mayStillCome ? Kind::Starting : Kind::Stalled;
+}
+
 // As with a real camera, the watchdog notices a stall. A scripted state counts at once.
 void ScriptedCamera::runFrames()
 {
     if (m_isStarted && canDeliver()) {
-        const int rate = m_devices.feed(m_devices.currentId()).framesPerSecond;
-        m_frameTimer.start(MsPerSecond / rate);
+        const ScriptedCameras::Feed feed = m_devices.feed(m_devices.currentId());
+        const int startMs = m_hasFrame ? 0 : feed.startMs;
+        m_frameTimer.start(startMs + MsPerSecond / feed.framesPerSecond);
         return;
     }
     m_frameTimer.stop();
@@ -190,6 +261,9 @@ void ScriptedCamera::recordMeasurement()
     QJsonObject figures{{QStringLiteral("device"), m_devices.currentName()},
                         {QStringLiteral("state"), toString(currentState())},
                         {QStringLiteral("pictures"), m_pictures}};
+    const QString word = toString(currentCause().kind);
+    // Also if there is none: the one of the time before must not stay.
+    figures.insert(ResultKeys::Cause, word.isEmpty() ? QJsonValue() : word);
     if (m_pictures > 0) {
         const double pictures = m_pictures;
         figures.insert(QStringLiteral("rate"), feed.framesPerSecond);
@@ -206,8 +280,19 @@ void ScriptedCamera::recordMeasurement()
     m_document.recordMeasurement(QStringLiteral("camera"), figures);
 }
 
+void ScriptedCamera::notifyCause()
+{
+    const CameraCause now = currentCause();
+    if (now != m_knownCause) {
+        m_knownCause = now;
+        QMetaObject::invokeMethod(
+            this, [this] { m_listener.cameraCauseChanged(); }, Qt::QueuedConnection);
+    }
+}
+
 void ScriptedCamera::notifyWorkState()
 {
+    notifyCause();
     if (!takeWorkState()) {
         return;
     }

@@ -26,6 +26,7 @@ public:
     DeviceList devices() const override;
     DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
+    CameraCause cause() const override;
 
     void start() override;
     void stop() override;
@@ -37,9 +38,12 @@ private:
     void onFrame();
     bool canDeliver() const;
     bool isDelivering() const;
+    CameraCause::Kind causeKind() const;
+    CameraCause currentCause() const;
     DeviceState currentState() const override;
     void runFrames();
     void notifyWorkState();
+    void notifyCause();
     void recordMeasurement();
 
     QTimer m_frameTimer;
@@ -48,6 +52,10 @@ private:
     bool m_isStarted = false;
     QElapsedTimer m_startClock;
     qint64 m_firstFrameMs = 0; // this and the next three: of the current camera
+    QTimer m_patience;         // runs while a first frame may still come
+    bool m_hasFrame = false;   // since it was started or chosen
+    CameraCause m_knownCause;
+    QElapsedTimer m_blackClock; // since the first of the black frames
     int m_frame = 0;
     int m_pictures = 0;
     int m_blackFrames = 0;

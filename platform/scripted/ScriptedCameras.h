@@ -29,6 +29,8 @@ public:
         Pictures pictures = Pictures::Moving;
         QSize size = QSize(1280, 720);
         int framesPerSecond = 30;
+        int startMs = 0;      // until the first frame, in addition to the frame's own time
+        QString program = {}; // that uses the camera while it is busy
     };
 
     ScriptedCameras();
@@ -38,11 +40,17 @@ public:
     void setPictures(const QString& id, Pictures pictures);
     Feed feed(const QString& id) const { return m_feeds.value(id); }
 
+    // Without its server no camera is in the list.
+    void setServerRunning(bool isRunning);
+    bool isServerLost() const { return m_isServerLost; }
+
 Q_SIGNALS:
     void currentFeedChanged();
 
 private:
     QMap<QString, Feed> m_feeds;
+    std::vector<std::pair<DeviceInfo, DeviceState>> m_away; // until the server is back
+    bool m_isServerLost = false;
 };
 
 } // namespace Platform

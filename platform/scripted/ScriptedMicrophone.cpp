@@ -100,7 +100,7 @@ bool ScriptedMicrophone::isVolumeAdjustable() const
 int ScriptedMicrophone::volume() const
 {
     m_session.query("volume");
-    return m_devices.volume();
+    return m_devices.isMuted() ? 0 : m_devices.volume();
 }
 
 void ScriptedMicrophone::setVolume(int percent)
@@ -133,7 +133,10 @@ void ScriptedMicrophone::connectModel()
         [this](int percent) { m_listener.microphoneVolumeChanged(percent); }, Qt::QueuedConnection);
     connect(
         &m_devices, &Model::volumeMovedFromOutside, this,
-        [this](float percent) { m_listener.systemVolumeChanged(percent); }, Qt::QueuedConnection);
+        [this](float percent) {
+            m_listener.systemVolumeChanged(m_devices.isMuted() ? 0.0F : percent);
+        },
+        Qt::QueuedConnection);
 }
 
 // One call tells the listener about the other microphone and its state.

@@ -40,7 +40,7 @@ ScriptedSpeaker::~ScriptedSpeaker()
 int ScriptedSpeaker::volume() const
 {
     m_session.query("volume");
-    return m_devices.volume();
+    return m_devices.audibleVolume();
 }
 
 void ScriptedSpeaker::setVolume(int percent)

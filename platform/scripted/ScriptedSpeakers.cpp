@@ -22,12 +22,15 @@ void ScriptedSpeakers::setMuted(const QString& id, bool isMuted)
     } else {
         m_muted.remove(id);
     }
+    if (id == currentId()) {
+        Q_EMIT volumeMovedFromOutside(audibleVolume());
+    }
 }
 
 void ScriptedSpeakers::moveVolumeFromOutside(int percent)
 {
     setVolume(currentId(), percent);
-    Q_EMIT volumeMovedFromOutside(volume());
+    Q_EMIT volumeMovedFromOutside(audibleVolume());
 }
 
 void ScriptedSpeakers::finishPlayback()
@@ -40,6 +43,11 @@ int ScriptedSpeakers::volume() const
     return m_volumes.value(currentId(), DefaultVolume);
 }
 
+int ScriptedSpeakers::audibleVolume() const
+{
+    return isMuted() ? 0 : volume();
+}
+
 bool ScriptedSpeakers::isMuted() const
 {
     return m_muted.contains(currentId());
@@ -48,7 +56,7 @@ bool ScriptedSpeakers::isMuted() const
 void ScriptedSpeakers::setVolumeByUser(int percent)
 {
     setVolume(currentId(), percent);
-    setMuted(currentId(), false);
+    m_muted.remove(currentId());
 }
 
 int ScriptedSpeakers::soundLength(const QString& fileName) const

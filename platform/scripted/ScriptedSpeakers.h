@@ -24,7 +24,7 @@ public:
     ~ScriptedSpeakers() override;
 
     void setVolume(const QString& id, int percent); // kept while the speaker is unplugged
-    void setMuted(const QString& id, bool isMuted);
+    void setMuted(const QString& id, bool isMuted); // by another program
     // Another program moves the volume of the current speaker.
     void moveVolumeFromOutside(int percent);
 
@@ -37,7 +37,8 @@ public:
     // Full paths of all sounds that were started.
     QStringList playedFiles() const { return m_playedFiles; }
 
-    int volume() const; // of the current speaker
+    int volume() const;        // of the current speaker
+    int audibleVolume() const; // 0 while it is muted
     bool isMuted() const;
     void setVolumeByUser(int percent); // also unmutes
     bool playerFails() const { return m_playerFails; }

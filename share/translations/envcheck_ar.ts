@@ -111,6 +111,60 @@
         <source></source>
         <translation>لم يُقَس: لا يوجد خادم</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>لم يتم العثور على كاميرا.
+صِل كاميرا بهذا الكمبيوتر.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>الصورة سوداء.
+افتح غطاء العدسة أو أشعل الضوء.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>برنامج آخر يستخدم الكاميرا.
+أغلق ذلك البرنامج.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>يستخدم %1 الكاميرا.
+أغلق هذا البرنامج.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>النظام يرفض الوصول إلى الكاميرا.
+اسمح به في إعدادات الخصوصية للنظام.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>الكاميرا لا تعمل.
+افصلها ثم صِلها من جديد، أو اختر كاميرا أخرى.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>الكاميرا لا تستجيب.
+افصلها ثم صِلها من جديد، أو أعد تشغيل الكمبيوتر.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>خدمة الكاميرا في هذا الكمبيوتر لا تعمل.
+انتظر قليلًا أو أعد تشغيل الكمبيوتر.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>الكاميرا لا ترسل صورًا.
+افصلها ثم صِلها من جديد، أو اختر كاميرا أخرى.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>الكاميرا قيد التشغيل…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>تم فصل الكاميرا.
+صِلها من جديد أو اختر كاميرا أخرى.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>لا توجد كاميرا</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>غير متصل</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (جودة الهاتف)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

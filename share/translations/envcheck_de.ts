@@ -111,6 +111,60 @@
         <source></source>
         <translation>Nicht gemessen: kein Server</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>Keine Kamera gefunden.
+Schließen Sie eine an diesen Computer an.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>Das Bild ist schwarz.
+Öffnen Sie die Blende oder machen Sie Licht an.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Ein anderes Programm nutzt die Kamera.
+Schließen Sie dieses Programm.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 nutzt die Kamera.
+Schließen Sie dieses Programm.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>Das System verweigert den Zugriff auf die Kamera.
+Erlauben Sie ihn in den Datenschutzeinstellungen des Systems.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>Die Kamera funktioniert nicht.
+Stecken Sie sie neu ein oder wählen Sie eine andere.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>Die Kamera antwortet nicht.
+Stecken Sie sie neu ein oder starten Sie den Computer neu.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>Der Kameradienst dieses Computers läuft nicht.
+Warten Sie einen Moment oder starten Sie den Computer neu.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>Die Kamera liefert keine Bilder.
+Stecken Sie sie neu ein oder wählen Sie eine andere.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>Die Kamera startet…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>Die Kamera wurde abgezogen.
+Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Keine Kamera</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Nicht angeschlossen</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (Telefonqualität)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>Not measured: no server set</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>No camera was found.
+Connect one to this computer.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>The picture is black.
+Open the cover of the lens, or turn on a light.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Another program is using the camera.
+Close that program.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 is using the camera.
+Close that program.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>The system denies access to the camera.
+Allow it in the privacy settings of the system.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>The camera does not work.
+Unplug it and plug it in again, or choose another one.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>The camera does not answer.
+Unplug it and plug it in again, or restart the computer.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>The camera service of this computer is not running.
+Wait a moment, or restart the computer.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>The camera sends no pictures.
+Unplug it and plug it in again, or choose another one.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>The camera is starting…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>The camera was unplugged.
+Plug it in again, or choose another one.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>No camera</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Not connected</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (telephone quality)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>Sin medir: no hay servidor</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>No se encontró ninguna cámara.
+Conecte una a este equipo.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>La imagen está negra.
+Abra la tapa de la cámara o encienda una luz.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Otro programa está usando la cámara.
+Cierre ese programa.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 está usando la cámara.
+Cierre ese programa.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>El sistema deniega el acceso a la cámara.
+Permítalo en los ajustes de privacidad del sistema.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>La cámara no funciona.
+Desconéctela y vuelva a conectarla, o elija otra.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>La cámara no responde.
+Desconéctela y vuelva a conectarla, o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>El servicio de cámara de este equipo no está en marcha.
+Espere un momento o reinicie el equipo.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>La cámara no envía imágenes.
+Desconéctela y vuelva a conectarla, o elija otra.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>La cámara se está iniciando…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>La cámara se ha desconectado.
+Vuelva a conectarla o elija otra.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Sin cámara</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>No conectado</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (calidad telefónica)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

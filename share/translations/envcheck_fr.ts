@@ -111,6 +111,60 @@
         <source></source>
         <translation>Non mesuré : aucun serveur</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>Aucune caméra trouvée.
+Branchez-en une à cet ordinateur.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>L'image est noire.
+Ouvrez le cache de l'objectif ou allumez une lumière.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Un autre programme utilise la caméra.
+Fermez ce programme.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 utilise la caméra.
+Fermez ce programme.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>Le système refuse l'accès à la caméra.
+Autorisez-le dans les paramètres de confidentialité du système.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>La caméra ne fonctionne pas.
+Débranchez-la puis rebranchez-la, ou choisissez-en une autre.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>La caméra ne répond pas.
+Débranchez-la puis rebranchez-la, ou redémarrez l'ordinateur.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>Le service de caméra de cet ordinateur est arrêté.
+Attendez un instant ou redémarrez l'ordinateur.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>La caméra n'envoie pas d'images.
+Débranchez-la puis rebranchez-la, ou choisissez-en une autre.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>La caméra démarre…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>La caméra a été débranchée.
+Rebranchez-la ou choisissez-en une autre.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Aucune caméra</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Non connecté</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (qualité téléphonique)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>未測定：サーバー未設定</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>カメラが見つかりません。
+このパソコンにカメラを接続してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>映像が真っ暗です。
+レンズカバーを開けるか、明かりをつけてください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>別のプログラムがカメラを使用中です。
+そのプログラムを終了してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 がカメラを使用中です。
+このプログラムを終了してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>システムがカメラの使用を拒否しています。
+システムのプライバシー設定で許可してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>カメラが動作しません。
+接続し直すか、別のカメラを選んでください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>カメラが応答しません。
+接続し直すか、パソコンを再起動してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>このパソコンのカメラサービスが動いていません。
+しばらく待つか、パソコンを再起動してください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>カメラの映像が届きません。
+接続し直すか、別のカメラを選んでください。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>カメラを起動しています…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>カメラが取り外されました。
+もう一度接続するか、別のカメラを選んでください。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>カメラなし</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>接続されていません</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1（電話品質）</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

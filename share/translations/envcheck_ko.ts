@@ -111,6 +111,60 @@
         <source></source>
         <translation>측정 안 됨: 서버 없음</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>카메라를 찾을 수 없습니다.
+이 컴퓨터에 카메라를 연결하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>영상이 검게 나옵니다.
+렌즈 덮개를 열거나 불을 켜세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>다른 프로그램이 카메라를 사용 중입니다.
+그 프로그램을 닫으세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>카메라를 사용 중인 프로그램: %1
+이 프로그램을 닫으세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>시스템이 카메라 접근을 거부했습니다.
+시스템의 개인 정보 설정에서 허용하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>카메라가 작동하지 않습니다.
+다시 연결하거나 다른 카메라를 선택하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>카메라가 응답하지 않습니다.
+다시 연결하거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>이 컴퓨터의 카메라 서비스가 실행되고 있지 않습니다.
+잠시 기다리거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>카메라 영상이 없습니다.
+다시 연결하거나 다른 카메라를 선택하세요.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>카메라를 시작하는 중…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>카메라 연결이 끊어졌습니다.
+다시 연결하거나 다른 카메라를 선택하세요.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>카메라 없음</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>연결되어 있지 않음</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1(전화 음질)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>Não medido: sem servidor</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>Nenhuma câmera encontrada.
+Conecte uma a este computador.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>A imagem está preta.
+Abra a tampa da lente ou acenda uma luz.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Outro programa está usando a câmera.
+Feche esse programa.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 está usando a câmera.
+Feche esse programa.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>O sistema nega o acesso à câmera.
+Permita-o nas configurações de privacidade do sistema.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>A câmera não funciona.
+Desconecte-a e conecte-a de novo, ou escolha outra.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>A câmera não responde.
+Desconecte-a e conecte-a de novo, ou reinicie o computador.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>O serviço de câmera deste computador não está em execução.
+Aguarde um momento ou reinicie o computador.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>A câmera não envia imagens.
+Desconecte-a e conecte-a de novo, ou escolha outra.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>A câmera está iniciando…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>A câmera foi desconectada.
+Conecte-a de novo ou escolha outra.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Nenhuma câmera</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Não conectado</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (qualidade de telefone)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

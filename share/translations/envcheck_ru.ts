@@ -111,6 +111,60 @@
         <source></source>
         <translation>Не измерено: нет сервера</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>Камера не найдена.
+Подключите камеру к этому компьютеру.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>Изображение чёрное.
+Откройте шторку объектива или включите свет.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Камеру использует другая программа.
+Закройте эту программу.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>Камеру использует программа %1.
+Закройте её.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>Система запрещает доступ к камере.
+Разрешите его в настройках приватности системы.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>Камера не работает.
+Подключите её заново или выберите другую.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>Камера не отвечает.
+Подключите её заново или перезагрузите компьютер.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>Служба камер этого компьютера не работает.
+Подождите немного или перезагрузите компьютер.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>Камера не даёт изображения.
+Подключите её заново или выберите другую.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>Камера запускается…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>Камера отключена.
+Подключите её снова или выберите другую.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Нет камеры</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Не подключено</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (телефонное качество)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>Chưa đo: chưa có máy chủ</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>Không tìm thấy camera.
+Hãy cắm camera vào máy tính này.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>Hình bị đen.
+Hãy mở nắp che ống kính hoặc bật đèn.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>Chương trình khác đang dùng camera.
+Hãy đóng chương trình đó.</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 đang dùng camera.
+Hãy đóng chương trình này.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>Hệ thống từ chối truy cập camera.
+Hãy cho phép trong cài đặt quyền riêng tư của hệ thống.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>Camera không hoạt động.
+Hãy rút ra rồi cắm lại, hoặc chọn camera khác.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>Camera không phản hồi.
+Hãy rút ra rồi cắm lại, hoặc khởi động lại máy tính.</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>Dịch vụ camera của máy tính này không chạy.
+Hãy đợi một lát hoặc khởi động lại máy tính.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>Camera không gửi hình.
+Hãy rút ra rồi cắm lại, hoặc chọn camera khác.</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>Camera đang khởi động…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>Camera đã bị rút ra.
+Hãy cắm lại hoặc chọn camera khác.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Không có camera</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Chưa kết nối</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1 (chất lượng điện thoại)</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -111,6 +111,60 @@
         <source></source>
         <translation>未测量：未设置服务器</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>未找到摄像头。
+请将摄像头连接到这台电脑。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>画面是黑的。
+请打开镜头盖，或开灯。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>其他程序正在使用摄像头。
+请关闭该程序。</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 正在使用摄像头。
+请关闭该程序。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>系统拒绝访问摄像头。
+请在系统的隐私设置中允许使用。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>摄像头无法工作。
+请拔下后重新插上，或选择其他摄像头。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>摄像头没有响应。
+请拔下后重新插上，或重启电脑。</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>这台电脑的摄像头服务没有运行。
+请稍候，或重启电脑。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>摄像头没有画面。
+请拔下后重新插上，或选择其他摄像头。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>摄像头正在启动…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>摄像头已拔下。
+请重新插上，或选择其他摄像头。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>无摄像头</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>未连接</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1（电话音质）</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

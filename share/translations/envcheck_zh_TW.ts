@@ -111,6 +111,60 @@
         <source></source>
         <translation>未測量：未設定伺服器</translation>
     </message>
+    <message id="ID_Engine_Camera_Absent">
+        <source></source>
+        <translation>找不到攝影機。
+請將攝影機接上這台電腦。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Black">
+        <source></source>
+        <translation>畫面是黑的。
+請打開鏡頭蓋，或開燈。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Busy">
+        <source></source>
+        <translation>其他程式正在使用攝影機。
+請關閉該程式。</translation>
+    </message>
+    <message id="ID_Engine_Camera_BusyBy">
+        <source></source>
+        <translation>%1 正在使用攝影機。
+請關閉該程式。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Denied">
+        <source></source>
+        <translation>系統拒絕存取攝影機。
+請在系統的隱私權設定中允許使用。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Failed">
+        <source></source>
+        <translation>攝影機無法運作。
+請拔除後重新接上，或選擇其他攝影機。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Hung">
+        <source></source>
+        <translation>攝影機沒有回應。
+請拔除後重新接上，或重新啟動電腦。</translation>
+    </message>
+    <message id="ID_Engine_Camera_ServerLost">
+        <source></source>
+        <translation>這台電腦的攝影機服務沒有執行。
+請稍候，或重新啟動電腦。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Stalled">
+        <source></source>
+        <translation>攝影機沒有畫面。
+請拔除後重新接上，或選擇其他攝影機。</translation>
+    </message>
+    <message id="ID_Engine_Camera_Starting">
+        <source></source>
+        <translation>攝影機正在啟動…</translation>
+    </message>
+    <message id="ID_Engine_Camera_Unplugged">
+        <source></source>
+        <translation>攝影機已拔除。
+請重新接上，或選擇其他攝影機。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>無攝影機</translation>
@@ -130,6 +184,10 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>未連接</translation>
+    </message>
+    <message id="ID_Engine_TelephoneQuality">
+        <source></source>
+        <translation>%1（電話音質）</translation>
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>

@@ -174,6 +174,11 @@ void tst_SpeakerDialog::unmutesIfTheSliderMoves()
         openSpeakerPage();
         QTRY_COMPARE(chosen(), id("speaker_a"));
         QVERIFY(slider()->isEnabled()); // a muted device works
+        QCOMPARE(slider()->value(), 0); // and this is how loud it is
+        m_server->control({id("set-sink-mute"), id("speaker_a"), id("0")});
+        QTRY_COMPARE(slider()->value(), 100);
+        m_server->control({id("set-sink-mute"), id("speaker_a"), id("1")});
+        QTRY_COMPARE(slider()->value(), 0);
         m_dialog->click("tb_play_test_sound");
         QTRY_VERIFY(!m_server->control({id("list"), id("short"), id("sink-inputs")}).isEmpty());
         QVERIFY(recording.peak() < Audible);

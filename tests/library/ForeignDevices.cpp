@@ -8,6 +8,8 @@
 #include <CommEngine/LumSpeaker.h>
 #include <LumWidgets/QCustomComboBox.h>
 
+#include "platform/backend/CameraCause.h"
+
 #include <QImage>
 #include <QLineEdit>
 
@@ -175,6 +177,11 @@ void LumCamera::setOutputSize(const QSize& /*size*/)
 }
 
 QImage LumCamera::latestFrame() const
+{
+    return {};
+}
+
+Platform::CameraCause LumCamera::cause() const
 {
     return {};
 }

@@ -108,6 +108,7 @@ private Q_SLOTS:
 
     void volumeOfTheUser();
     void volumeFromOutside();
+    void mutedSpeakerIsAtZero();
     void volumeFollowsTheWorkState();
     void volumeFollowsTheSpeaker();
 
@@ -573,6 +574,28 @@ void tst_HeadsetPage::volumeFromOutside()
     QCOMPARE(m_page->findChild<QSlider*>()->value(), 23);
     QCOMPARE(m_volume->findChild<QLabel*>()->text(), QString("23"));
     QCOMPARE(m_engine->commands(), QStringList());
+}
+
+void tst_HeadsetPage::mutedSpeakerIsAtZero()
+{
+    auto& speakers = m_engine->scriptedSpeakers();
+    makeShownPage();
+    const int before = m_page->findChild<QSlider*>()->value();
+    QVERIFY(before > 0);
+    m_engine->clearCalls();
+    speakers.setMuted(speakers.currentId(), true);
+    turn();
+    QCOMPARE(m_page->findChild<QSlider*>()->value(), 0);
+    QCOMPARE(m_volume->findChild<QLabel*>()->text(), QString("0"));
+    speakers.setMuted(speakers.currentId(), false);
+    turn();
+    QCOMPARE(m_page->findChild<QSlider*>()->value(), before);
+    QCOMPARE(m_engine->commands(), QStringList());
+    speakers.setMuted(speakers.currentId(), true);
+    turn();
+    m_page->findChild<QSlider*>()->setValue(12);
+    QCOMPARE(m_engine->commands(), QStringList{"speaker.setVolume(12)"});
+    QVERIFY(!speakers.isMuted());
 }
 
 void tst_HeadsetPage::volumeFollowsTheWorkState()

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void level();
     void userVolume();
     void volumeFollowsTheMicrophone();
+    void mutedMicrophoneIsAtZero();
     void systemVolumeMovesTheSliderAndNothingElse_data();
     void systemVolumeMovesTheSliderAndNothingElse();
     void noisyTip_data();
@@ -590,6 +591,28 @@ void tst_MicrophonePage::volumeFollowsTheMicrophone()
     QCOMPARE(m_engine->calls(),
              (QStringList{"microphone.isVolumeAdjustable()", "microphone.volume()"}));
     QVERIFY(noisyBalloon()->isVisible());
+}
+
+void tst_MicrophonePage::mutedMicrophoneIsAtZero()
+{
+    m_engine->microphones().setVolume("a", 120);
+    makeShownPage(Mic::Works);
+    QVERIFY(noisyBalloon()->isVisible());
+    m_engine->clearCalls();
+    m_engine->microphones().setMuted("a", true);
+    turn();
+    QCOMPARE(sliderValue(), 0);
+    QVERIFY(!noisyBalloon()->isVisible());
+    m_engine->microphones().setMuted("a", false);
+    turn();
+    QCOMPARE(sliderValue(), 120);
+    QVERIFY(noisyBalloon()->isVisible());
+    QCOMPARE(m_engine->commands(), QStringList());
+    m_engine->microphones().setMuted("a", true);
+    turn();
+    m_page->findChild<QSlider*>()->setValue(12);
+    QCOMPARE(m_engine->commands(), QStringList{"microphone.setVolume(12)"});
+    QVERIFY(!m_engine->microphones().isMuted());
 }
 
 void tst_MicrophonePage::systemVolumeMovesTheSliderAndNothingElse_data()

@@ -104,6 +104,14 @@ constexpr Place PLACES[] = {
      "ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable",
      12, 370},
     {"ID_MicrophonePage_MayNoisy ID_HeadsetPage_PleaseSelectTheAnswer", 17, 360},
+    // In the place of the camera's picture, also below the ring of the start.
+    {"ID_Engine_Camera_Absent ID_Engine_Camera_Black ID_Engine_Camera_Busy ID_Engine_Camera_BusyBy "
+     "ID_Engine_Camera_Denied ID_Engine_Camera_Failed ID_Engine_Camera_Hung "
+     "ID_Engine_Camera_ServerLost ID_Engine_Camera_Stalled ID_Engine_Camera_Unplugged",
+     13, 274, 130},
+    {"ID_Engine_Camera_Starting", 13, 274},
+    // Behind the name of a headset, which may be cut.
+    {"ID_Engine_TelephoneQuality", 12, 200},
     // Entries of the device lists.
     {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected "
      "ID_Engine_NotConnected",

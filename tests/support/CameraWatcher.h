@@ -22,10 +22,12 @@ public:
         doesWork = works;
         log << (works ? QStringLiteral("works") : QStringLiteral("fails"));
     }
+    void cameraCauseChanged() override { ++causes; }
     void frameArrived() override { ++frames; }
 
     QStringList log;
     int frames = 0;
+    int causes = 0;
     bool doesWork = false;
 };
 

@@ -13,6 +13,8 @@ namespace Platform {
 class EndingThreads;
 class FrameSlot;
 
+enum class CameraServer { Answers, Denies, Lost };
+
 // What one user of the cameras gets from a system: the list, and the frames of one camera, which go
 // into the slot. Used on the GUI thread; nothing here waits, and the destructor only asks its
 // threads to end.
@@ -25,8 +27,9 @@ public:
     public:
         virtual ~Listener() = default;
         virtual void listArrived(const DeviceList& devices, const QString& preferredId,
-                                 bool isDenied) = 0;
-        virtual void stateChanged(int generation, DeviceState state) = 0;
+                                 CameraServer server) = 0;
+        // The program is the one that uses a busy camera, if it is known.
+        virtual void stateChanged(int generation, DeviceState state, const QString& program) = 0;
         virtual void frameArrived() = 0;
         virtual void serverMissing() = 0; // no server of this system answers
     };

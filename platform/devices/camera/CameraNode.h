@@ -16,6 +16,7 @@ struct CameraNode
     QString place;                   // the device's bus path, otherwise its serial number
     QString description;             // for people
     QString role;                    // media.role
+    QString file;                    // of the device, if the server tells it
     QString capabilities;            // device.capabilities, if the server tells them
     std::optional<quint32> deviceId; // the server's number for its device
     int priority = 0;                // the higher, the sooner it is preferred

@@ -18,6 +18,7 @@ void CameraOpening::open(int generation, const QString& id)
     m_generation = generation;
     m_id = id;
     m_state = DeviceState::Ready;
+    m_program.clear();
     m_isExplained = false;
     openIfPresent();
 }
@@ -80,19 +81,19 @@ void CameraOpening::frameArrived()
     report(DeviceState::Working);
 }
 
-void CameraOpening::setReason(DeviceState state)
+void CameraOpening::setReason(DeviceState state, const QString& program)
 {
-    report(state);
+    report(state, program);
 }
 
-void CameraOpening::streamEnded(std::optional<DeviceState> why)
+void CameraOpening::streamEnded(std::optional<DeviceState> why, const QString& program)
 {
     if (m_phase == Phase::Idle || m_phase == Phase::Retrying) {
         return;
     }
     if (why) {
         m_slot->interrupt(m_generation); // before the report: it must not count as delivering
-        report(*why);
+        report(*why, program);
     }
     wakeIn(Phase::Ending, std::chrono::milliseconds(0)); // a stream can't be closed from inside
 }
@@ -153,15 +154,16 @@ void CameraOpening::reportUnlessExplained(DeviceState state)
     }
 }
 
-void CameraOpening::report(DeviceState state)
+void CameraOpening::report(DeviceState state, const QString& program)
 {
     if (m_id.isEmpty()) {
         return;
     }
     m_isExplained = !isUsable(state) || state == DeviceState::Busy;
-    if (m_state != state) {
+    if (m_state != state || m_program != program) {
         m_state = state;
-        m_listener->stateChanged(m_generation, state);
+        m_program = program;
+        m_listener->stateChanged(m_generation, state, program);
     }
 }
 

@@ -65,8 +65,10 @@ public:
     void startBegan(); // the start timeout runs from now on
     void streamRuns();
     void frameArrived();
-    void setReason(DeviceState state);                // why there are no frames
-    void streamEnded(std::optional<DeviceState> why); // may be called from inside the stream
+    // Why there are no frames, and which program uses a busy camera.
+    void setReason(DeviceState state, const QString& program = {});
+    // May be called from inside the stream.
+    void streamEnded(std::optional<DeviceState> why, const QString& program = {});
 
     void wake();
 
@@ -76,7 +78,7 @@ private:
     void wakeIn(Phase phase, std::chrono::milliseconds delay);
     void dropStream();
     void reportUnlessExplained(DeviceState state);
-    void report(DeviceState state);
+    void report(DeviceState state, const QString& program = {});
 
     System& m_system;
     const Rules m_rules;
@@ -87,6 +89,7 @@ private:
     QString m_serial; // of the camera that was opened last
     Phase m_phase = Phase::Idle;
     DeviceState m_state = DeviceState::Ready;
+    QString m_program; // that uses the camera while it is busy
     bool m_isExplained = false;
 };
 

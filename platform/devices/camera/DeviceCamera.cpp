@@ -4,6 +4,7 @@
 
 #include "platform/backend/Log.h"
 #include "platform/backend/ReportSink.h"
+#include "platform/backend/ResultKeys.h"
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/FrameSlot.h"
 
@@ -13,6 +14,9 @@ namespace Platform {
 
 namespace {
 
+// For a camera without an answer or a frame. Longer than CameraOpening::StartTimeout, which knows
+// more.
+constexpr std::chrono::milliseconds Patience(4000);
 const QString CurrentCameraKey = QStringLiteral("camera/current");
 
 } // namespace
@@ -26,16 +30,18 @@ public:
     {
     }
 
-    void listArrived(const DeviceList& devices, const QString& preferredId, bool isDenied) override
+    void listArrived(const DeviceList& devices, const QString& preferredId,
+                     CameraServer server) override
     {
-        m_sender.post([camera = m_camera, devices, preferredId, isDenied] {
-            camera->onListArrived(devices, preferredId, isDenied);
+        m_sender.post([camera = m_camera, devices, preferredId, server] {
+            camera->onListArrived(devices, preferredId, server);
         });
     }
-    void stateChanged(int generation, DeviceState state) override
+    void stateChanged(int generation, DeviceState state, const QString& program) override
     {
-        m_sender.post(
-            [camera = m_camera, generation, state] { camera->onStateChanged(generation, state); });
+        m_sender.post([camera = m_camera, generation, state, program] {
+            camera->onStateChanged(generation, state, program);
+        });
     }
     void frameArrived() override
     {
@@ -61,6 +67,12 @@ DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMa
       m_report(report),
       m_slot(std::make_shared<FrameSlot>())
 {
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(Patience);
+    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] {
+        m_isOverdue = true;
+        notifyCause();
+    });
     useFeed(makeFeed);
 }
 
@@ -83,7 +95,7 @@ void DeviceCamera::setCurrent(const QString& id)
 
 DeviceState DeviceCamera::state() const
 {
-    if (m_isDenied) {
+    if (m_server == CameraServer::Denies) {
         return DeviceState::Denied;
     }
     if (!m_isChosen) {
@@ -106,7 +118,7 @@ DeviceState DeviceCamera::stateOf(const QString& id) const
     if (m_isChosen && id == m_currentId) {
         return state();
     }
-    if (m_isDenied) {
+    if (m_server == CameraServer::Denies) {
         return DeviceState::Denied;
     }
     return findDevice(m_devices, id) ? DeviceState::Ready : DeviceState::Absent;
@@ -115,6 +127,19 @@ DeviceState DeviceCamera::stateOf(const QString& id) const
 bool DeviceCamera::delivers() const
 {
     return m_slot->delivers();
+}
+
+CameraCause DeviceCamera::cause() const
+{
+    using Kind = CameraCause::Kind;
+    if (!m_isStarted) {
+        return {};
+    }
+    const Kind kind = expectedCause();
+    if (kind == Kind::Starting && m_isOverdue) {
+        return {overdueCause(), {}};
+    }
+    return {kind, kind == Kind::Busy ? m_program : QString()};
 }
 
 void DeviceCamera::start()
@@ -146,11 +171,12 @@ QImage DeviceCamera::latestFrame() const
 }
 
 void DeviceCamera::onListArrived(const DeviceList& devices, const QString& preferredId,
-                                 bool isDenied)
+                                 CameraServer server)
 {
     const bool isListChanged = devices != m_devices;
     m_devices = devices;
-    m_isDenied = isDenied;
+    m_server = server;
+    m_isListed = true;
     if (!m_isChosen && !m_devices.empty()) {
         chooseFirst(preferredId);
     }
@@ -163,17 +189,20 @@ void DeviceCamera::onListArrived(const DeviceList& devices, const QString& prefe
     } else {
         notifyWorkState();
     }
+    notifyCause();
 }
 
-void DeviceCamera::onStateChanged(int generation, DeviceState state)
+void DeviceCamera::onStateChanged(int generation, DeviceState state, const QString& program)
 {
     if (generation != m_generation) {
         return;
     }
     m_openState = state;
+    m_program = printableName(program);
     qCInfo(Log::camera, "\"%s\" is %s", qUtf8Printable(m_currentName),
            qUtf8Printable(toString(this->state())));
     notifyWorkState();
+    notifyCause();
 }
 
 void DeviceCamera::onFrameArrived()
@@ -182,6 +211,7 @@ void DeviceCamera::onFrameArrived()
     if (m_isStarted) {
         notifyWorkState(); // "Working" may have arrived when the frame before was too old
         m_listener.frameArrived();
+        notifyCause();
     }
 }
 
@@ -193,6 +223,9 @@ void DeviceCamera::onServerMissing()
             useFeed(std::exchange(m_makeSecondFeed, nullptr));
             m_feed->setOutputSize(m_outputSize);
             openCurrent();
+        } else {
+            m_server = CameraServer::Lost;
+            notifyCause();
         }
     });
 }
@@ -228,6 +261,9 @@ void DeviceCamera::choose(const QString& id)
 void DeviceCamera::openCurrent()
 {
     m_openState = DeviceState::Ready;
+    m_isOverdue = false;
+    m_patience.stop();
+    m_mailbox.sender().post([this] { notifyCause(); });
     if (m_isStarted && !m_currentId.isEmpty()) {
         m_generation = m_slot->open();
         m_feed->open(m_generation, m_currentId);
@@ -244,6 +280,9 @@ void DeviceCamera::recordMeasurement()
     QJsonObject figures = m_currentId.isEmpty() ? QJsonObject() : m_slot->figures();
     figures.insert(QStringLiteral("state"), toString(state()));
     figures.insert(QStringLiteral("device"), m_currentName);
+    const QString word = toString(cause().kind);
+    // Also if there is none: the one of the time before must not stay.
+    figures.insert(ResultKeys::Cause, word.isEmpty() ? QJsonValue() : word);
     m_report.recordMeasurement(QStringLiteral("camera"), figures);
 }
 
@@ -265,6 +304,67 @@ void DeviceCamera::notifyWorkState()
         m_wasUsable = usable;
         m_didDeliver = works;
         m_listener.cameraWorkStateChanged(m_currentId, works);
+    }
+}
+
+// A frame may need some time even if nothing is wrong.
+CameraCause::Kind DeviceCamera::expectedCause() const
+{
+    using Kind = CameraCause::Kind;
+    if (m_server != CameraServer::Answers) {
+        return m_server == CameraServer::Denies ? Kind::Denied : Kind::ServerLost;
+    }
+    if (!m_isListed) {
+        return Kind::Starting;
+    }
+    if (!m_isChosen) {
+        return Kind::Absent;
+    }
+    if (m_currentId.isEmpty()) {
+        return Kind::None;
+    }
+    if (!findDevice(m_devices, m_currentId)) {
+        return Kind::Unplugged;
+    }
+    if (delivers()) {
+        return m_slot->isBlack() ? Kind::Black : Kind::None;
+    }
+    switch (m_openState) {
+    case DeviceState::Busy:
+        return Kind::Busy;
+    case DeviceState::Denied:
+        return Kind::Denied;
+    case DeviceState::Failed:
+        return Kind::Failed;
+    case DeviceState::Hung:
+        return Kind::Hung;
+    default:
+        return m_slot->hasStalled() ? Kind::Stalled : Kind::Starting;
+    }
+}
+
+CameraCause::Kind DeviceCamera::overdueCause() const
+{
+    if (!m_isListed) {
+        return CameraCause::Kind::ServerLost;
+    }
+    return m_openState == DeviceState::Silent ? CameraCause::Kind::Stalled
+                                              : CameraCause::Kind::Hung;
+}
+
+// From the event loop only.
+void DeviceCamera::notifyCause()
+{
+    if (!m_isStarted || expectedCause() != CameraCause::Kind::Starting) {
+        m_isOverdue = false;
+        m_patience.stop();
+    } else if (!m_isOverdue && !m_patience.isActive()) {
+        m_patience.start();
+    }
+    const CameraCause now = cause();
+    if (m_knownCause != now) {
+        m_knownCause = now;
+        m_listener.cameraCauseChanged();
     }
 }
 

@@ -6,6 +6,7 @@
 #include "platform/backend/Mailbox.h"
 #include "platform/devices/camera/CameraFeed.h"
 
+#include <QTimer>
 #include <memory>
 #include <optional>
 
@@ -35,6 +36,7 @@ public:
     DeviceState state() const override;
     DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
+    CameraCause cause() const override;
 
     void start() override;
     void stop() override;
@@ -44,8 +46,8 @@ public:
 private:
     class Post;
 
-    void onListArrived(const DeviceList& devices, const QString& preferredId, bool isDenied);
-    void onStateChanged(int generation, DeviceState state);
+    void onListArrived(const DeviceList& devices, const QString& preferredId, CameraServer server);
+    void onStateChanged(int generation, DeviceState state, const QString& program);
     void onFrameArrived();
     void onServerMissing();
 
@@ -56,6 +58,9 @@ private:
     void recordMeasurement();
     void notifyCurrentChanged();
     void notifyWorkState();
+    CameraCause::Kind expectedCause() const;
+    CameraCause::Kind overdueCause() const;
+    void notifyCause();
 
     Listener& m_listener;
     FeedMaker m_makeSecondFeed; // null once it is used
@@ -68,11 +73,16 @@ private:
     QString m_currentId;
     QString m_currentName;
     bool m_isChosen = false; // by the user, or because it was there first
-    bool m_isDenied = false;
+    CameraServer m_server = CameraServer::Answers;
+    bool m_isListed = false; // the first list has arrived
     bool m_isStarted = false;
     int m_generation = 0;
     DeviceState m_openState = DeviceState::Ready; // of the chosen camera while it is plugged in
-    bool m_wasUsable = false;                     // as the listener knows
+    QString m_program;                            // that uses the camera while it is busy
+    QTimer m_patience;                            // runs while the camera is starting
+    bool m_isOverdue = false;
+    CameraCause m_knownCause; // as the listener knows, like the next two
+    bool m_wasUsable = false; // as the listener knows
     bool m_didDeliver = false;
     Mailbox m_mailbox;
     std::optional<Mailbox> m_feedMailbox; // of the feed in use

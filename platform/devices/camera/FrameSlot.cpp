@@ -11,9 +11,8 @@ FrameSlot::FrameSlot(std::function<Clock::time_point()> now) : m_now(std::move(n
 int FrameSlot::open()
 {
     const std::scoped_lock lock(m_mutex);
-    m_frame = QImage();
     m_timeout = StallTimeout();
-    m_expectedSince.reset();
+    forgetFrames();
     m_statistics.start(m_now());
     m_isOpen = true;
     return ++m_generation;
@@ -22,9 +21,8 @@ int FrameSlot::open()
 void FrameSlot::close()
 {
     const std::scoped_lock lock(m_mutex);
-    m_frame = QImage();
     m_timeout = StallTimeout();
-    m_expectedSince.reset();
+    forgetFrames();
     m_isOpen = false;
     ++m_generation;
 }
@@ -39,6 +37,18 @@ bool FrameSlot::delivers() const
 {
     const std::scoped_lock lock(m_mutex);
     return m_timeout.delivers(m_now());
+}
+
+bool FrameSlot::hasStalled() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_timeout.hasFrame() && !m_timeout.delivers(m_now());
+}
+
+bool FrameSlot::isBlack() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_isBlack;
 }
 
 QJsonObject FrameSlot::figures() const
@@ -73,9 +83,7 @@ void FrameSlot::interrupt(int generation)
 {
     const std::scoped_lock lock(m_mutex);
     if (generation == m_generation) {
-        m_frame = QImage();
-        m_timeout.reset();
-        m_expectedSince.reset();
+        forgetFrames();
     }
 }
 
@@ -90,6 +98,12 @@ bool FrameSlot::put(int generation, const QImage& frame, const QSize& sourceSize
     m_frame = frame;
     m_timeout.frameArrived(now);
     m_statistics.add(sample, sourceSize, now);
+    if (!sample.isBlack) {
+        m_blackSince.reset();
+    } else if (!m_blackSince) {
+        m_blackSince = now;
+    }
+    m_isBlack = m_blackSince && now - *m_blackSince >= BlackTime;
     const bool mustNotify = !m_isNotificationUnderWay;
     m_isNotificationUnderWay = true;
     return mustNotify;
@@ -101,6 +115,15 @@ bool FrameSlot::isSilent() const
     const Clock::time_point now = m_now();
     return m_expectedSince && !m_timeout.delivers(now) &&
            now - *m_expectedSince > m_timeout.duration();
+}
+
+void FrameSlot::forgetFrames()
+{
+    m_frame = QImage();
+    m_timeout.reset();
+    m_expectedSince.reset();
+    m_blackSince.reset();
+    m_isBlack = false;
 }
 
 } // namespace Platform

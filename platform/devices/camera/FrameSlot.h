@@ -21,6 +21,8 @@ class FrameSlot
 public:
     using Clock = StallTimeout::Clock;
 
+    static constexpr std::chrono::seconds BlackTime{2};
+
     explicit FrameSlot(std::function<Clock::time_point()> now = &Clock::now);
 
     // GUI thread
@@ -28,6 +30,8 @@ public:
     void close(); // takes no frames and has none
     QImage newest() const;
     bool delivers() const;
+    bool hasStalled() const;     // this stream sent frames, and sends none any more
+    bool isBlack() const;        // all frames have been black for some time
     QJsonObject figures() const; // of the generation
     void notificationArrived();  // the next frame may notify again
 
@@ -40,6 +44,7 @@ public:
     bool isSilent() const; // frames are expected, and for the stall timeout none came
 
 private:
+    void forgetFrames();
     bool takes(int generation) const { return m_isOpen && generation == m_generation; }
 
     const std::function<Clock::time_point()> m_now;
@@ -47,6 +52,8 @@ private:
     QImage m_frame;
     StallTimeout m_timeout;
     std::optional<Clock::time_point> m_expectedSince;
+    std::optional<Clock::time_point> m_blackSince;
+    bool m_isBlack = false;
     FrameStatistics m_statistics;
     int m_generation = 0;
     bool m_isOpen = false;

@@ -43,6 +43,7 @@ FrameStatistics::Sample FrameStatistics::sampleOf(const QImage& frame)
     }
     if (count > 0) {
         result.brightness = double(sum) / double(count) / 255.0;
+        result.isBlack = result.brightness < BlackBrightness;
     }
     return result;
 }
@@ -65,7 +66,7 @@ void FrameStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::
     m_lastHash = sample.hash;
     m_size = sourceSize;
     m_brightness += sample.brightness;
-    if (sample.brightness < BlackBrightness) {
+    if (sample.isBlack) {
         ++m_black;
     }
 }

@@ -21,6 +21,7 @@ public:
     {
         QSize size;
         double brightness = 0.0; // 0 to 1
+        bool isBlack = false;    // covered or in the dark
         quint64 hash = 0;        // to tell whether two frames are equal
     };
 

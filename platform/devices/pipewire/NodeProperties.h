@@ -8,8 +8,10 @@ struct spa_dict;
 
 namespace Platform {
 
-// PipeWire's headers have no name for this property.
+// PipeWire's headers have no names for these properties.
 constexpr char CapabilitiesKey[] = "device.capabilities";
+
+constexpr char DeviceFileKey[] = "api.v4l2.path";
 
 QString propertyOf(const spa_dict* properties, const char* key); // empty if there is none
 // The device's bus path, otherwise its serial number. Both survive replugging.

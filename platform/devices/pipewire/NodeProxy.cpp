@@ -23,6 +23,7 @@ void readProperties(const spa_dict* properties, CameraNode& node)
     read(node.name, PW_KEY_NODE_NAME);
     read(node.description, PW_KEY_NODE_DESCRIPTION);
     read(node.role, PW_KEY_MEDIA_ROLE);
+    read(node.file, DeviceFileKey);
     read(node.capabilities, CapabilitiesKey);
     const QString place = placeOf(properties);
     if (!place.isEmpty()) {

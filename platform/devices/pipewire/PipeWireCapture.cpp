@@ -49,7 +49,7 @@ void PipeWireCapture::camerasChanged()
 {
     const CameraList& cameras = m_connection.cameras();
     m_opening.forgetCameraIfReplaced();
-    m_listener->listArrived(cameras.devices(), cameras.preferredId(), m_connection.isDenied());
+    m_listener->listArrived(cameras.devices(), cameras.preferredId(), m_connection.server());
     m_opening.openIfPresent();
 }
 
@@ -61,7 +61,10 @@ void PipeWireCapture::serverMissing()
 void PipeWireCapture::linkFailed(const QString& serial, quint32 readerId, const QString& error)
 {
     if (m_stream && serial == m_serial && readerId == m_stream->nodeId()) {
-        streamEnded(error.isEmpty() ? QStringLiteral("The link to the camera failed") : error);
+        const QString text =
+            error.isEmpty() ? QStringLiteral("The link to the camera failed") : error;
+        // What another program agreed on with the camera binds all who read from it.
+        streamBlocked(text, stateOf(text));
     }
 }
 
@@ -79,17 +82,40 @@ void PipeWireCapture::connectionLost()
 
 void PipeWireCapture::streamRuns()
 {
+    m_didRun = true;
     m_opening.streamRuns();
 }
 
 void PipeWireCapture::streamEnded(const QString& error)
 {
     if (error.isEmpty()) {
-        m_opening.streamEnded(std::nullopt);
+        // If another program has the camera for itself, the session manager ends a new stream.
+        const QString reader = m_didRun ? QString() : m_connection.programReading(m_serial);
+        m_opening.streamEnded(
+            reader.isEmpty() ? std::nullopt : std::make_optional(DeviceState::Busy), reader);
+        return;
+    }
+    const DeviceState state = stateOf(error);
+    if (state == DeviceState::Ready) {
+        streamBlocked(error, state); // the session manager found no camera that it may give us
         return;
     }
     qCInfo(Log::camera, "%s", qUtf8Printable(error));
-    m_opening.streamEnded(stateOf(error));
+    m_opening.streamEnded(state, userOf(m_serial, state));
+}
+
+// Blames the program that reads from the camera, if there is one.
+void PipeWireCapture::streamBlocked(const QString& error, DeviceState otherwise)
+{
+    qCInfo(Log::camera, "%s", qUtf8Printable(error));
+    const QString reader = m_connection.programReading(m_serial);
+    const DeviceState state = reader.isEmpty() ? otherwise : DeviceState::Busy;
+    m_opening.streamEnded(state, reader.isEmpty() ? userOf(m_serial, state) : reader);
+}
+
+QString PipeWireCapture::userOf(const QString& serial, DeviceState state) const
+{
+    return state == DeviceState::Busy ? m_connection.programUsing(serial) : QString();
 }
 
 void PipeWireCapture::rateAgreed(double framesPerSecond)
@@ -124,12 +150,14 @@ bool PipeWireCapture::openStream(const QString& serial)
         return false;
     }
     m_serial = serial;
+    m_didRun = false;
     m_stream = std::make_unique<PipeWireStream>(m_connection.context(), serial, PreferredSize,
                                                 *static_cast<PipeWireStream::Listener*>(this));
     m_opening.startBegan();
     const QString error = m_connection.errorOf(serial);
     if (!error.isEmpty()) {
-        m_opening.setReason(stateOf(error));
+        const DeviceState state = stateOf(error);
+        m_opening.setReason(state, userOf(serial, state));
     }
     return true;
 }

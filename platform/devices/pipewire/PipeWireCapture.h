@@ -37,6 +37,9 @@ public:
     void connectionLost() override;
 
 private:
+    void streamBlocked(const QString& error, DeviceState otherwise);
+    QString userOf(const QString& serial, DeviceState state) const;
+
     void streamRuns() override;
     void streamEnded(const QString& error) override;
     void rateAgreed(double framesPerSecond) override;
@@ -54,7 +57,8 @@ private:
     std::shared_ptr<CameraFeed::Listener> m_listener;
     FrameConverter m_converter;
     QSize m_outputSize;
-    QString m_serial; // of the camera that the stream is for
+    QString m_serial;      // of the camera that the stream is for
+    bool m_didRun = false; // the stream
     std::unique_ptr<PipeWireStream> m_stream;
     CameraOpening m_opening;
     LoopTimer m_timer;

@@ -3,6 +3,7 @@
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/camera/DeviceFileUser.h"
 #include "platform/devices/pipewire/NodeProperties.h"
 
 #include <algorithm>
@@ -15,6 +16,8 @@ namespace {
 
 constexpr std::chrono::milliseconds ReconnectDelay(300);
 constexpr std::chrono::milliseconds BurstWindow(50);
+// They have the file open for those who read through them.
+const QStringList ServerPrograms = {QStringLiteral("pipewire"), QStringLiteral("wireplumber")};
 
 } // namespace
 
@@ -90,10 +93,39 @@ void PipeWireConnection::quit()
 
 QString PipeWireConnection::errorOf(const QString& serial) const
 {
-    const auto it = std::find_if(m_nodes.cbegin(), m_nodes.cend(), [&serial](const auto& entry) {
+    const auto it = nodeWith(serial);
+    return it == m_nodes.cend() ? QString() : it->second->error();
+}
+
+CameraServer PipeWireConnection::server() const
+{
+    if (m_isDenied) {
+        return CameraServer::Denies;
+    }
+    return m_wasReached && !m_core ? CameraServer::Lost : CameraServer::Answers;
+}
+
+QString PipeWireConnection::programReading(const QString& serial) const
+{
+    const auto it = nodeWith(serial);
+    return it == m_nodes.cend() ? QString() : m_readers.programReading(it->first);
+}
+
+QString PipeWireConnection::programUsing(const QString& serial) const
+{
+    const QString reader = programReading(serial);
+    const auto it = nodeWith(serial);
+    return reader.isEmpty() && it != m_nodes.cend()
+               ? DeviceFileUser::nameOf(it->second->node().file, ServerPrograms)
+               : reader;
+}
+
+std::map<quint32, std::unique_ptr<NodeProxy>>::const_iterator
+PipeWireConnection::nodeWith(const QString& serial) const
+{
+    return std::find_if(m_nodes.cbegin(), m_nodes.cend(), [&serial](const auto& entry) {
         return entry.second->node().serial == serial;
     });
-    return it == m_nodes.cend() ? QString() : it->second->error();
 }
 
 void PipeWireConnection::connectToServer()
@@ -136,6 +168,7 @@ void PipeWireConnection::disconnectFromServer()
     m_nodes.clear();
     m_devices.clear();
     m_links.clear();
+    m_readers.clear();
     if (m_registry) {
         spa_hook_remove(&m_registryHook);
         pw_proxy_destroy(reinterpret_cast<pw_proxy*>(m_registry));
@@ -174,6 +207,13 @@ void PipeWireConnection::onGlobal(quint32 id, const char* type, const spa_dict* 
     if (!properties) {
         return;
     }
+    if (strcmp(type, PW_TYPE_INTERFACE_Client) == 0) {
+        m_readers.addClient(id, properties);
+    } else if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0) {
+        m_readers.addNode(id, properties);
+    } else if (strcmp(type, PW_TYPE_INTERFACE_Link) == 0) {
+        m_readers.addLink(id, properties);
+    }
     const QString mediaClass = propertyOf(properties, PW_KEY_MEDIA_CLASS);
     if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0 && mediaClass == QLatin1String("Video/Source")) {
         m_nodes[id] = std::make_unique<NodeProxy>(m_registry, id, properties, *this);
@@ -191,6 +231,7 @@ void PipeWireConnection::onGlobalRemoved(quint32 id)
     m_nodes.erase(id);
     m_devices.erase(id);
     m_links.erase(id);
+    m_readers.remove(id);
     if (m_cameras.remove(id)) {
         announceSoon();
     }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/camera/CameraFeed.h"
 #include "platform/devices/camera/CameraList.h"
+#include "platform/devices/pipewire/CameraReaders.h"
 #include "platform/devices/pipewire/DeviceProxy.h"
 #include "platform/devices/pipewire/LinkProxy.h"
 #include "platform/devices/pipewire/LoopTimer.h"
@@ -60,9 +62,16 @@ public:
     const CameraList& cameras() const { return m_cameras; }
     QString errorOf(const QString& serial) const; // why the camera doesn't run; empty if it does
     bool isListed() const { return m_isListed; }  // the first list is complete
-    bool isDenied() const { return m_isDenied; }  // the server refuses this program
+    CameraServer server() const;
+    // Another program that reads from this camera by the server. Foreign text; empty if there is
+    // none.
+    QString programReading(const QString& serial) const;
+    // The same, also if it has the device file open past the server. May take some milliseconds.
+    QString programUsing(const QString& serial) const;
 
 private:
+    std::map<quint32, std::unique_ptr<NodeProxy>>::const_iterator
+    nodeWith(const QString& serial) const;
     void connectToServer();
     void disconnectFromServer();
     void onServerGone();
@@ -93,6 +102,7 @@ private:
     std::map<quint32, std::unique_ptr<NodeProxy>> m_nodes; // every video source
     std::map<quint32, std::unique_ptr<DeviceProxy>> m_devices;
     std::map<quint32, std::unique_ptr<LinkProxy>> m_links;
+    CameraReaders m_readers;
     std::vector<Observer*> m_observers;
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;

@@ -54,6 +54,20 @@ bool isAdjustable(const pa_source_info& source)
     return (source.flags & (PA_SOURCE_HW_VOLUME_CTRL | PA_SOURCE_DECIBEL_VOLUME)) != 0;
 }
 
+// PulseAudio names the profile in the first property, PipeWire in the second.
+bool isTelephone(const pa_proplist* properties)
+{
+    for (const char* key : {"bluetooth.protocol", "api.bluez5.profile"}) {
+        const QString profile = QString::fromUtf8(pa_proplist_gets(properties, key))
+                                    .replace(QLatin1Char('_'), QLatin1Char('-'));
+        if (profile.startsWith(QLatin1String("headset-")) ||
+            profile.startsWith(QLatin1String("handsfree-"))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 PulseConnection::PulseConnection(Publish publish)
@@ -235,6 +249,7 @@ void PulseConnection::takeDevice(PulseKind kind, const Info& info)
     device.volume = info.volume;
     device.isMuted = info.mute != 0;
     device.isAdjustable = isAdjustable(info);
+    device.isTelephone = isTelephone(info.proplist);
     m_arriving.side(kind).devices.push_back(std::move(device));
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseDevices.h"
 
+#include <QCoreApplication>
+
 namespace Platform {
 
 VolumeState PulseDevice::volumeState() const
@@ -33,6 +35,9 @@ DeviceList PulseSide::list() const
     DeviceList result;
     for (const PulseDevice& device : devices) {
         result.push_back(device);
+        if (device.isTelephone) {
+            result.back().name = qtTrId("ID_Engine_TelephoneQuality").arg(device.name);
+        }
     }
     return withDistinctNames(std::move(result));
 }
@@ -50,7 +55,8 @@ const PulseSide& PulseDevices::side(PulseKind kind) const
 bool operator==(const PulseDevice& a, const PulseDevice& b)
 {
     return a.id == b.id && a.name == b.name && pa_cvolume_equal(&a.volume, &b.volume) != 0 &&
-           a.isMuted == b.isMuted && a.isAdjustable == b.isAdjustable;
+           a.isMuted == b.isMuted && a.isAdjustable == b.isAdjustable &&
+           a.isTelephone == b.isTelephone;
 }
 
 bool operator==(const PulseSide& a, const PulseSide& b)

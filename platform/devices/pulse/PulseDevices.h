@@ -19,6 +19,8 @@ struct PulseDevice : DeviceInfo
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
+    bool isTelephone =
+        false; // a Bluetooth headset while it can also hear: it sounds like a telephone
 
     VolumeState volumeState() const;
 };
@@ -35,7 +37,7 @@ struct PulseSide
     // For users who chose nothing: the default device, or the first if there is no default.
     QString preferredId() const;
     QString defaultName() const; // null without a default
-    DeviceList list() const;
+    DeviceList list() const;     // for display
 };
 
 // What the sound server has, at one moment.

@@ -162,7 +162,8 @@ void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
     }
     if (current && !isArrival &&
         m_volume.take(current->volumeState(), m_server->devices().microphones.settledOrder)) {
-        const auto percent = static_cast<float>(current->volumeState().percent);
+        const auto percent =
+            static_cast<float>(current->isMuted ? 0.0 : current->volumeState().percent);
         m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
     }
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace Platform {
 
@@ -38,9 +37,10 @@ bool DeviceVolume::take(const VolumeState& state, quint64 settledOrder)
     if (settledOrder < m_awaitedOrder) {
         return false;
     }
+    const int before = percent();
+    m_percent = limited(state.percent);
     m_isMuted = state.isMuted;
-    const int percent = limited(state.percent);
-    return std::exchange(m_percent, percent) != percent;
+    return percent() != before;
 }
 
 void DeviceVolume::addTo(QJsonObject& figures) const

@@ -21,11 +21,11 @@ class DeviceVolume
 public:
     explicit DeviceVolume(int maximum);
 
-    int percent() const { return m_percent; }
+    int percent() const { return m_isMuted ? 0 : m_percent; } // as loud as it is: 0 while muted
     void reset(const VolumeState& state); // another device became the current one
     int set(int percent);                 // by the user; returns the value within the limits
     void await(quint64 order);            // the order that carries out set()
-    // Takes a report. True if somebody else changed the volume.
+    // Takes a report. True if somebody else changed the volume or the mute.
     bool take(const VolumeState& state, quint64 settledOrder);
 
     // For the report: volume and mute as they were found and as they are left.

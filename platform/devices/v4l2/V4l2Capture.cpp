@@ -98,10 +98,10 @@ void V4l2Capture::firstFrameArrived()
     m_opening.frameArrived();
 }
 
-void V4l2Capture::streamEnded(DeviceState state, const QString& error)
+void V4l2Capture::streamEnded(DeviceState state, const QString& error, const QString& program)
 {
     qCInfo(Log::camera, "%s", qUtf8Printable(error));
-    m_opening.streamEnded(state);
+    m_opening.streamEnded(state, program);
 }
 
 std::optional<QString> V4l2Capture::serialOf(const QString& id) const
@@ -132,7 +132,7 @@ void V4l2Capture::closeStream()
 void V4l2Capture::announce()
 {
     m_announceTimer.stop();
-    m_listener->listArrived(m_cameras.devices(), m_cameras.preferredId(), false);
+    m_listener->listArrived(m_cameras.devices(), m_cameras.preferredId(), CameraServer::Answers);
     m_opening.openIfPresent();
 }
 

@@ -39,7 +39,7 @@ private:
     void streamOpens() override;
     void streamRuns() override;
     void firstFrameArrived() override;
-    void streamEnded(DeviceState state, const QString& error) override;
+    void streamEnded(DeviceState state, const QString& error, const QString& program) override;
 
     std::optional<QString> serialOf(const QString& id) const override;
     bool openStream(const QString& path) override;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Stream.h"
 
+#include "platform/devices/camera/DeviceFileUser.h"
 #include "platform/devices/camera/FrameSlot.h"
 
 #include <cerrno>
@@ -211,7 +212,9 @@ void V4l2Stream::open()
 
 void V4l2Stream::fail(const QString& text, DeviceState state)
 {
-    tell([text, state](Listener& listener) { listener.streamEnded(state, text); });
+    const QString program = state == DeviceState::Busy ? DeviceFileUser::nameOf(m_path) : QString();
+    tell(
+        [text, state, program](Listener& listener) { listener.streamEnded(state, text, program); });
 }
 
 template <typename Function>

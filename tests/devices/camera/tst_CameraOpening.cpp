@@ -45,10 +45,11 @@ class Listener final : public CameraFeed::Listener
 public:
     explicit Listener(QStringList& states) : m_states(states) {}
 
-    void listArrived(const DeviceList&, const QString&, bool) override {}
-    void stateChanged(int generation, DeviceState state) override
+    void listArrived(const DeviceList&, const QString&, CameraServer) override {}
+    void stateChanged(int generation, DeviceState state, const QString& program) override
     {
-        m_states << QString::number(generation) + QLatin1Char(' ') + toString(state);
+        const QString by = program.isEmpty() ? QString() : QStringLiteral(" by ") + program;
+        m_states << QString::number(generation) + QLatin1Char(' ') + toString(state) + by;
     }
     void frameArrived() override {}
     void serverMissing() override {}
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void retriesWithoutAReason();
     void endsTheStreamFromOutside();
     void keepsTheReason();
+    void tellsWhoUsesTheCamera();
     void forgetsTheReasonAtTheNextOpening();
     void reportsWhatCannotBeOpened();
     void forgetsTheCameraThatLeft();
@@ -293,6 +295,17 @@ void tst_CameraOpening::keepsTheReason()
     m_now += 1s;
     wake(CameraOpening::WatchPeriod);
     QCOMPARE(takeStates(), words("1 working, 1 silent"));
+}
+
+void tst_CameraOpening::tellsWhoUsesTheCamera()
+{
+    open();
+    m_opening->startBegan();
+    m_opening->streamEnded(DeviceState::Busy, QStringLiteral("meeting"));
+    m_opening->setReason(DeviceState::Busy, QStringLiteral("meeting"));
+    m_opening->setReason(DeviceState::Busy, QStringLiteral("recorder"));
+    m_opening->setReason(DeviceState::Failed);
+    QCOMPARE(takeStates(), words("1 busy by meeting, 1 busy by recorder, 1 failed"));
 }
 
 void tst_CameraOpening::forgetsTheReasonAtTheNextOpening()

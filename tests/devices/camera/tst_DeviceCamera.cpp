@@ -20,6 +20,7 @@ class Watcher final : public CameraBackend::Listener
 {
 public:
     void cameraListChanged() override {}
+    void cameraCauseChanged() override {}
     void currentCameraChanged(const QString&) override {}
     void cameraWorkStateChanged(const QString&, bool works) override { workStates.append(works); }
     void frameArrived() override { ++frames; }
@@ -41,8 +42,11 @@ public:
     void close() override {}
     void setOutputSize(const QSize&) override {}
 
-    void plug() { m_listener->listArrived({{"camera", "Camera"}}, "camera", false); }
-    void tell(DeviceState state) { m_listener->stateChanged(m_generation, state); }
+    void plug()
+    {
+        m_listener->listArrived({{"camera", "Camera"}}, "camera", CameraServer::Answers);
+    }
+    void tell(DeviceState state) { m_listener->stateChanged(m_generation, state, {}); }
     void show()
     {
         QImage frame(Size, QImage::Format_RGB32);

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void forgetsWhenInterrupted();
     void knowsSilence();
     void waitsLongerForSlowCameras();
+    void knowsAStallFromALateStart();
+    void knowsBlackness();
     void usesMemoryAgain();
     void survivesItsPool();
     void isSafeAcrossThreads();
@@ -135,6 +137,44 @@ void tst_FrameSlot::waitsLongerForSlowCameras()
     slot.put(second, frame(), Size);
     now += 501ms;
     QVERIFY(!slot.delivers());
+}
+
+void tst_FrameSlot::knowsAStallFromALateStart()
+{
+    FrameSlot::Clock::time_point now;
+    FrameSlot slot([&now] { return now; });
+    const int generation = slot.open();
+    slot.expectFrames(generation);
+    now += 3s;
+    QVERIFY(slot.isSilent());
+    QVERIFY(!slot.hasStalled()); // the first frame may still come
+    slot.put(generation, frame(), Size);
+    QVERIFY(!slot.hasStalled());
+    now += 3s;
+    QVERIFY(slot.hasStalled());
+    slot.interrupt(generation);
+    QVERIFY(!slot.hasStalled());
+}
+
+void tst_FrameSlot::knowsBlackness()
+{
+    FrameSlot::Clock::time_point now;
+    FrameSlot slot([&now] { return now; });
+    const int generation = slot.open();
+    const auto put = [&](QRgb color, std::chrono::milliseconds after) {
+        now += after;
+        slot.put(generation, frame(color), Size);
+        return slot.isBlack();
+    };
+    const QRgb noise = qRgb(9, 9, 9);
+    QVERIFY(!put(noise, 0ms));
+    QVERIFY(!put(noise, 1999ms));
+    QVERIFY(put(noise, 1ms));
+    QVERIFY(!put(qRgb(90, 90, 90), 10ms));
+    QVERIFY(!put(noise, 3000ms)); // black from now on
+    QVERIFY(put(noise, 2000ms));
+    slot.interrupt(generation);
+    QVERIFY(!slot.isBlack());
 }
 
 void tst_FrameSlot::usesMemoryAgain()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "tests/devices/pipewire/PipeWireCameraTest.h"
+#include "tests/support/TestProcess.h"
 
 #include <QtTest>
 #include <cerrno>
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void reportsErrors();
     void reportsRefusal_data();
     void reportsRefusal();
+    void namesTheProgramThatHasTheCamera();
+    void noticesACoveredLens();
     void survivesServerRestart();
     void survivesLostConnections_data();
     void survivesLostConnections();
@@ -57,6 +60,7 @@ void tst_PipeWireCameraFaults::noticesSilence()
     QVERIFY(sinceStall.elapsed() >= 400);
     QCOMPARE(stateName(), QStringLiteral("silent"));
     QVERIFY(!m_backend->latestFrame().isNull()); // the last frame stays
+    QTRY_VERIFY(m_backend->cause().kind == CameraCause::Kind::Stalled);
     m_backend->stop();
     QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("silent"));
 }
@@ -71,6 +75,7 @@ void tst_PipeWireCameraFaults::retriesHungStart()
     watch();
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("hung"), LongMs);
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::Hung);
     QVERIFY(isUsable(m_backend->state()));
 
     QElapsedTimer duration;
@@ -114,6 +119,7 @@ void tst_PipeWireCameraFaults::reportsErrors()
     m_backend->stop();
     m_backend->start();
     QTRY_COMPARE(stateName(), expected);
+    QCOMPARE(toString(m_backend->cause().kind), expected);
     QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("fails")));
     camera.reset();
     camera = plug(NameA, QStringLiteral("Camera"));
@@ -145,6 +151,54 @@ void tst_PipeWireCameraFaults::reportsRefusal()
     QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("failed"));
 }
 
+// A real second client that asks the session manager for the camera alone.
+void tst_PipeWireCameraFaults::namesTheProgramThatHasTheCamera()
+{
+    using Kind = CameraCause::Kind;
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    auto reader = std::make_unique<TestProcess>();
+    reader->start(QCoreApplication::applicationDirPath() + QStringLiteral("/camera_reader"),
+                  {NameA, QStringLiteral("Video <b>Meeting</b>")});
+    QTRY_VERIFY_WITH_TIMEOUT(camera->output().contains("streaming"), LongMs);
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    watch();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("busy"), LongMs);
+    QVERIFY(m_backend->cause().kind == Kind::Busy);
+    QCOMPARE(m_backend->cause().program, QStringLiteral("Video <b>Meeting</b>"));
+    QVERIFY(isResponsive());
+    m_backend->stop();
+    QCOMPARE(figures().value(QLatin1String("cause")).toString(), QStringLiteral("busy"));
+
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->cause().kind == Kind::Busy, LongMs);
+    reader->kill();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    QVERIFY(m_backend->cause().kind == Kind::None);
+    m_backend->stop();
+    QVERIFY(figures().value(QLatin1String("cause")).isNull());
+}
+
+void tst_PipeWireCameraFaults::noticesACoveredLens()
+{
+    using Kind = CameraCause::Kind;
+    const Camera camera = plug(NameA, QStringLiteral("Camera"));
+    makeBackend();
+    m_backend->start();
+    QVERIFY(m_backend->cause().kind == Kind::Starting);
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    QTRY_VERIFY(m_backend->cause().kind == Kind::None);
+    const int causes = m_watcher.causes;
+    camera->command("black");
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->cause().kind == Kind::Black, LongMs);
+    QTRY_COMPARE(m_watcher.causes, causes + 1);
+    QCOMPARE(stateName(), QStringLiteral("working"));
+    m_backend->stop();
+    QCOMPARE(figures().value(QLatin1String("cause")).toString(), QStringLiteral("black"));
+    QVERIFY(m_backend->cause().kind == Kind::None);
+}
+
 void tst_PipeWireCameraFaults::survivesServerRestart()
 {
     Camera camera = plug(NameA, QStringLiteral("Camera"));
@@ -156,6 +210,7 @@ void tst_PipeWireCameraFaults::survivesServerRestart()
     watch();
     QTest::qWait(ReconnectsMs);
     QCOMPARE(stateName(), QStringLiteral("absent"));
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::ServerLost);
     QCOMPARE(m_backend->currentId(), NameA);
     QVERIFY(isResponsive());
 

@@ -114,6 +114,7 @@ void tst_PipeWireCameraList::reopensReturningCamera()
     QVERIFY(isResponsive());
     QVERIFY(!m_backend->delivers());
     QVERIFY(m_backend->latestFrame().isNull());
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::Unplugged);
     QCOMPARE(m_backend->currentId(), NameA);
     QCOMPARE(m_backend->currentName(), QStringLiteral("Camera"));
     QCOMPARE(ids(), QStringList(NameB));

@@ -144,6 +144,31 @@ private Q_SLOTS:
         QTRY_COMPARE(m_listener->infos, infos + 1);
     }
 
+    void muteIsVolumeZero()
+    {
+        m_server->control({id("set-source-volume"), id("microphone_a"), id("80%")});
+        QTRY_COMPARE(m_microphone->volume(), 80);
+        const int infos = m_listener->infos;
+        m_server->control({id("set-source-mute"), id("microphone_a"), id("1")});
+        QTRY_COMPARE(m_microphone->volume(), 0);
+        QTRY_VERIFY(m_listener->infos > infos); // the page reads the volume again
+        QTRY_VERIFY(m_listener->systemVolumes.last() == 0.0F);
+        QVERIFY(sourceVolume().contains(" 80%"));
+        QVERIFY(m_listener->ownVolumes.isEmpty());
+
+        m_server->control({id("set-source-mute"), id("microphone_a"), id("0")});
+        QTRY_COMPARE(m_microphone->volume(), 80);
+        QTRY_VERIFY(std::abs(m_listener->systemVolumes.last() - 80.0F) < 0.1F);
+
+        m_server->control({id("set-source-mute"), id("microphone_a"), id("1")});
+        QTRY_COMPARE(m_microphone->volume(), 0);
+        m_microphone->setVolume(60);
+        QCOMPARE(m_microphone->volume(), 60);
+        QTRY_COMPARE(m_server->control({id("get-source-mute"), id("microphone_a")}),
+                     QByteArray("Mute: no"));
+        QTRY_VERIFY(sourceVolume().contains(" 60%"));
+    }
+
     void closesAtOnce()
     {
         m_microphone->open();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseDevices.h"
 #include "tests/devices/SoundTest.h"
+#include "tests/support/Dictionary.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/PlugStorm.h"
 
@@ -161,6 +162,60 @@ private Q_SLOTS:
         m_speaker->setVolume(40);
         QTRY_VERIFY(sinkVolumes().contains(" 20%"));
         QVERIFY(sinkVolumes().contains(" 40%"));
+    }
+
+    // As loud as it is. Showing it changes nothing on the server.
+    void muteIsVolumeZero()
+    {
+        m_speaker->setVolume(70);
+        QTRY_VERIFY(sinkVolumes().contains(" 70%"));
+        m_server->control({id("set-sink-mute"), id("speaker_a"), id("1")});
+        QTRY_COMPARE(m_listener->volumes, QList<int>{0});
+        QCOMPARE(m_speaker->volume(), 0);
+        QVERIFY(isUsable(m_speaker->state()));
+        QCOMPARE(m_server->control({id("get-sink-mute"), id("speaker_a")}),
+                 QByteArray("Mute: yes"));
+        QVERIFY(sinkVolumes().contains(" 70%"));
+        QCOMPARE(figures("speaker").value(id("volumeAfter")).toInt(), 70);
+        QCOMPARE(figures("speaker").value(id("mutedAfter")).toBool(), true);
+
+        const QList<int> unmuted{0, 70};
+        m_server->control({id("set-sink-mute"), id("speaker_a"), id("0")});
+        QTRY_COMPARE(m_listener->volumes, unmuted);
+        QCOMPARE(m_speaker->volume(), 70);
+
+        m_server->control({id("set-sink-mute"), id("speaker_a"), id("1")});
+        QTRY_COMPARE(m_speaker->volume(), 0);
+        m_speaker->setVolume(30);
+        QCOMPARE(m_speaker->volume(), 30);
+        QTRY_COMPARE(m_server->control({id("get-sink-mute"), id("speaker_a")}),
+                     QByteArray("Mute: no"));
+        QTRY_VERIFY(sinkVolumes().contains(" 30%"));
+    }
+
+    void tellsATelephoneFromAHeadset_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<bool>("isTelephone");
+        QTest::newRow("PulseAudio") << id("bluetooth.protocol=headset_head_unit") << true;
+        QTest::newRow("PulseAudio, hands-free")
+            << id("bluetooth.protocol=handsfree_head_unit") << true;
+        QTest::newRow("PipeWire") << id("api.bluez5.profile=headset-head-unit") << true;
+        QTest::newRow("music") << id("bluetooth.protocol=a2dp_sink") << false;
+    }
+
+    void tellsATelephoneFromAHeadset()
+    {
+        QFETCH(QString, property);
+        QFETCH(bool, isTelephone);
+        const Dictionary texts({{id("ID_Engine_TelephoneQuality"), id("%1 (telephone)")}});
+        m_server->control(
+            {id("load-module"), id("module-null-sink"), id("norewinds=1"), id("sink_name=headset"),
+             id("sink_properties='device.description=\"Head %1 set\" ") + property + id("'")});
+        const QString name = isTelephone ? id("Head %1 set (telephone)") : id("Head %1 set");
+        QTRY_COMPARE(nameIn(m_sound->speakers(), id("headset")), name);
+        m_speaker->setCurrent(id("headset"));
+        QTRY_COMPARE(m_speaker->currentName(), name);
     }
 
     void settingTheVolumeUnmutes()

@@ -13,6 +13,7 @@
 #include "tests/support/DeviceTexts.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/PipeWireServer.h"
+#include "tests/support/TestProcess.h"
 
 #include <QSemaphore>
 #include <QTemporaryDir>
@@ -93,6 +94,7 @@ private Q_SLOTS:
     void noticesSilence();
     void reportsErrors_data();
     void reportsErrors();
+    void namesTheProgramThatHasTheDeviceFile();
     void reportsMissingSource();
     void reportsSourceThatDoesNotStart();
     void waitsForHungStart();
@@ -351,6 +353,28 @@ void tst_V4l2Cameras::reportsErrors()
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
     m_backend.reset(); // before what it uses is destroyed
     m_system.reset();
+}
+
+// A file of ours takes the place of the device file; another program has it open.
+void tst_V4l2Cameras::namesTheProgramThatHasTheDeviceFile()
+{
+    QFile file(m_folder->filePath(QStringLiteral("video0")));
+    QVERIFY(file.open(QIODevice::WriteOnly)); // this process doesn't count
+    m_makeSource = [](const QString&) {
+        return makeFailingElement(GST_RESOURCE_ERROR_BUSY, "Device is in use");
+    };
+    m_sockets->plug(device(file.fileName(), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("busy"), LongMs);
+    QVERIFY(m_backend->cause() == (CameraCause{CameraCause::Kind::Busy, {}}));
+
+    TestProcess reader;
+    reader.start(QStringLiteral("tail"), {QStringLiteral("-f"), file.fileName()});
+    const CameraCause named{CameraCause::Kind::Busy, QStringLiteral("tail")};
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->cause() == named, LongMs);
+    reader.end();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->cause().program.isEmpty(), LongMs);
 }
 
 void tst_V4l2Cameras::reportsMissingSource()

@@ -22,15 +22,18 @@ public:
     {
         m_heard.append(QStringLiteral("works %1 %2").arg(id).arg(works));
     }
+    void cameraCauseChanged() override { ++m_causes; }
     void frameArrived() override { ++m_pictures; }
 
     QStringList heard() const { return m_heard; }
     QStringList take() { return std::exchange(m_heard, {}); }
     int pictures() const { return m_pictures; }
+    int causes() const { return m_causes; }
 
 private:
     QStringList m_heard;
     int m_pictures = 0;
+    int m_causes = 0;
 };
 
 } // namespace TestSupport

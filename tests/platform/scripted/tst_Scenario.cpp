@@ -95,7 +95,8 @@ void tst_Scenario::setsUpDevices()
 {
     const auto scenario = read(R"({
         "cameras": [
-            { "id": "c1", "name": "Twin", "state": "busy" },
+            { "id": "c1", "name": "Twin", "state": "busy", "program": "meeting",
+              "startMs": 700 },
             { "id": "c2", "name": "Twin", "pictures": "black", "width": 320, "height": 240,
               "framesPerSecond": 5 }
         ],
@@ -116,6 +117,8 @@ void tst_Scenario::setsUpDevices()
     QCOMPARE(engine.cameras().currentName(), QStringLiteral("Twin (2)"));
     QCOMPARE(engine.cameras().feed(QStringLiteral("c2")).size, QSize(320, 240));
     QCOMPARE(engine.cameras().feed(QStringLiteral("c2")).framesPerSecond, 5);
+    QCOMPARE(engine.cameras().feed(QStringLiteral("c1")).program, QStringLiteral("meeting"));
+    QCOMPARE(engine.cameras().feed(QStringLiteral("c1")).startMs, 700);
     engine.cameras().choose(QStringLiteral("c1"));
     QVERIFY(engine.cameras().currentState() == Platform::DeviceState::Busy);
 
@@ -223,6 +226,9 @@ void tst_Scenario::playsTheTimelineInOrder()
             { "atMs": 50, "event": "pictures", "id": "c2", "pictures": "none" },
             { "atMs": 50, "event": "levels", "id": "m1", "levels": [[0, 0.7]] },
             { "atMs": 50, "event": "volume", "kind": "microphone", "percent": 77 },
+            { "atMs": 50, "event": "mute", "kind": "microphone", "muted": true },
+            { "atMs": 50, "event": "cameraServer", "running": false },
+            { "atMs": 50, "event": "cameraServer", "running": true },
             { "atMs": 50, "event": "network", "network": [ { "delayMs": 9 } ] },
             { "atMs": 50, "event": "report", "outcome": "unreachable" },
             { "atMs": 50, "event": "userInfo", "name": "late", "nickname": "L" }
@@ -238,6 +244,9 @@ void tst_Scenario::playsTheTimelineInOrder()
     QVERIFY(engine.cameras().currentState() == Platform::DeviceState::Hung);
     QVERIFY(engine.cameras().feed(QStringLiteral("c2")).pictures ==
             Platform::ScriptedCameras::Pictures::None);
+    QVERIFY(engine.microphones().isMuted());
+    QVERIFY(!engine.cameras().isServerLost());
+    engine.microphones().setMuted(engine.microphones().currentId(), false);
     QCOMPARE(engine.microphones().levelAt(1234), 0.7);
     QCOMPARE(engine.microphones().volume(), 77);
     QCOMPARE(engine.network().series().front().delayMs, 9);
@@ -296,7 +305,10 @@ void tst_Scenario::namesFileLineAndField_data()
         "2: network[0].answered: must be a whole number from 0 to 5");
     row("event", "{\"timeline\": [{ \"atMs\": 1,\n\"event\": \"explode\" }]}",
         "2: timeline[0].event: must be one of plug, unplug, rename, state, choose, volume, "
-        "pictures, levels, network, report, userInfo, breakdown, kickOut");
+        "mute, pictures, cameraServer, levels, network, report, userInfo, breakdown, kickOut");
+    row("mute of a camera",
+        "{\"timeline\": [{ \"atMs\": 1,\n\"event\": \"mute\", \"kind\": \"camera\" }]}",
+        "2: timeline[0].kind: a camera has no volume");
     row("early event", "{\"timeline\": [{ \"atMs\": -1, \"event\": \"kickOut\" }]}",
         "1: timeline[0].atMs: must be a whole number from 0 to 86400000");
     row("unknown device",

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void listsAndChoosesCameras();
     void tellsCameraStates_data();
     void tellsCameraStates();
+    void saysWhyThereIsNoPicture();
     void deliversFramesWhileStarted();
     void noticesAStall();
     void worksAtOnceWhenSaid();
@@ -127,6 +128,51 @@ void tst_ScriptedCamera::tellsCameraStates()
     QCOMPARE(int(camera->state()), scripted);
     camera->start();
     QCOMPARE(int(camera->state()), started);
+}
+
+void tst_ScriptedCamera::saysWhyThereIsNoPicture()
+{
+    using Kind = CameraCause::Kind;
+    ScriptedCameras& cameras = m_engine->cameras();
+    CameraListener listener;
+    const auto camera = m_engine->createCamera(listener);
+    camera->start();
+    QVERIFY(camera->cause().kind == Kind::Absent);
+    ScriptedCameras::Feed feed;
+    feed.startMs = 60000;
+    feed.program = QStringLiteral("meeting\n");
+    cameras.setFeed(First, feed);
+    cameras.plug({First, QStringLiteral("A")});
+    QVERIFY(camera->cause().kind == Kind::Starting);
+    QTRY_COMPARE(listener.causes(), 1);
+
+    cameras.setState(First, DeviceState::Busy);
+    QVERIFY(camera->cause() == (CameraCause{Kind::Busy, QStringLiteral("meeting")}));
+    for (const auto& [state, kind] :
+         {std::pair(DeviceState::Denied, Kind::Denied),
+          std::pair(DeviceState::Failed, Kind::Failed), std::pair(DeviceState::Hung, Kind::Hung),
+          std::pair(DeviceState::Silent, Kind::Stalled)}) {
+        cameras.setState(First, state);
+        QVERIFY(camera->cause().kind == kind);
+    }
+    cameras.setFeed(First, {});
+    cameras.setState(First, DeviceState::Ready);
+    QTRY_VERIFY(camera->cause().kind == Kind::None);
+    cameras.setPictures(First, ScriptedCameras::Pictures::None);
+    QTRY_VERIFY(camera->cause().kind == Kind::Stalled);
+    cameras.setPictures(First, ScriptedCameras::Pictures::Black);
+    QTRY_VERIFY(camera->cause().kind == Kind::Black);
+    cameras.setServerRunning(false);
+    QVERIFY(camera->cause().kind == Kind::ServerLost);
+    QVERIFY(camera->devices().empty());
+    cameras.setServerRunning(true);
+    QCOMPARE(camera->devices().front().name, QStringLiteral("A"));
+    cameras.unplug(First);
+    QVERIFY(camera->cause().kind == Kind::Unplugged);
+    camera->setCurrent({});
+    QVERIFY(camera->cause().kind == Kind::None);
+    camera->stop();
+    QVERIFY(camera->cause().kind == Kind::None);
 }
 
 void tst_ScriptedCamera::deliversFramesWhileStarted()

@@ -61,6 +61,7 @@ void tst_ScriptedReports::recordsWhatItMeasured()
     struct Listener final : TestSupport::NoListener, CameraBackend::Listener, NetworkProbe::Listener
     {
         void cameraListChanged() override {}
+        void cameraCauseChanged() override {}
         void currentCameraChanged(const QString&) override {}
         void cameraWorkStateChanged(const QString&, bool) override {}
         void frameArrived() override { ++pictures; }

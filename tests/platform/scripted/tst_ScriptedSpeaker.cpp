@@ -64,6 +64,19 @@ void tst_ScriptedSpeaker::tellsSpeakerChanges()
     QCoreApplication::processEvents();
     QCOMPARE(listener.take(), QStringList{QStringLiteral("volume 70")});
 
+    m_engine->scriptedSpeakers().setMuted(First, true);
+    QCOMPARE(speaker->volume(), 0);
+    m_engine->scriptedSpeakers().setMuted(First, false);
+    QCOMPARE(speaker->volume(), 70);
+    m_engine->scriptedSpeakers().setMuted(First, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(listener.take(), (QStringList{QStringLiteral("volume 0"), QStringLiteral("volume 70"),
+                                           QStringLiteral("volume 0")}));
+    speaker->setVolume(40);
+    QCOMPARE(speaker->volume(), 40);
+    QCoreApplication::processEvents();
+    QVERIFY(listener.take().isEmpty());
+
     m_engine->scriptedSpeakers().setState(First, DeviceState::Failed);
     m_engine->scriptedSpeakers().setState(First, DeviceState::Ready);
     QCoreApplication::processEvents();

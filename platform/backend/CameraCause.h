@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <QString>
+
+namespace Platform {
+
+// Why a started camera shows no picture that is worth looking at.
+struct CameraCause
+{
+    enum class Kind {
+        None,       // there is a picture, or nobody asked for one
+        Starting,   // it was opened just now
+        Absent,     // there is no camera at all
+        Busy,       // another program uses it
+        Denied,     // the system refuses it
+        Hung,       // it was opened and doesn't answer
+        Stalled,    // it runs and sends no frames
+        Black,      // for two seconds, so it is covered or in the dark
+        Unplugged,  // it was there before
+        ServerLost, // the service that brings the pictures doesn't run
+        Failed,     // it broke
+    };
+
+    Kind kind = Kind::None;
+    QString program; // that uses a busy camera, if the system tells; foreign text
+
+    friend bool operator==(const CameraCause& a, const CameraCause& b)
+    {
+        return a.kind == b.kind && a.program == b.program;
+    }
+    friend bool operator!=(const CameraCause& a, const CameraCause& b) { return !(a == b); }
+};
+
+// The word in reports, such as "serverLost"; empty for None.
+CLASSROOMBACKEND_EXPORT QString toString(CameraCause::Kind kind);
+
+} // namespace Platform
