@@ -3,6 +3,7 @@
 #include "host/InstalledEngine.h"
 
 #include "host/Options.h"
+#include "host/ProgramEnd.h"
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
@@ -13,9 +14,9 @@
 
 #include <QEventLoop>
 
-namespace {
+#include <algorithm>
 
-constexpr int WriteTimeoutMs = 5000;
+namespace {
 
 QString cdnFirstPart(const Options& options)
 {
@@ -57,10 +58,14 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 
 InstalledEngine::~InstalledEngine()
 {
+    ProgramEnd::begin();
     // Write first: the scripted engine removes the folder of its settings.
-    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
+    Platform::FileWriter::waitForWritten(ProgramEnd::remainingMs());
+    if (Platform::EngineRegistry::isInstalled()) {
+        const int deliveryMs = std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs());
+        engine().deliver(std::chrono::milliseconds(deliveryMs));
+    }
     Platform::EngineRegistry::uninstall();
-    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
 }
 
 void InstalledEngine::prepare()

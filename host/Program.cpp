@@ -6,6 +6,7 @@
 #include "host/DisplayLoss.h"
 #include "host/DisplayTrial.h"
 #include "host/Options.h"
+#include "host/ProgramEnd.h"
 #include "host/ScreenFit.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
@@ -99,7 +100,7 @@ ExitCode Program::run(int argc, char* argv[])
     const ExitCode code = runCommand(options);
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
-        return ExitCode::CannotWrite;
+        ProgramEnd::leave(ExitCode::CannotWrite);
     }
-    return code;
+    ProgramEnd::leave(code);
 }

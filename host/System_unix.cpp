@@ -3,8 +3,13 @@
 #include "host/System.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
+
+// Only the address sanitizer has it: it looks for leaks at an end that runs destructors.
+extern "C" void __lsan_do_leak_check()
+    __attribute__((weak)); // NOLINT(bugprone-reserved-identifier)
 
 // A reader of our output may go: that is a write error, not the end of the program. If a standard
 // stream is closed, the next opened file would get its number, and all output.
@@ -39,4 +44,13 @@ void System::write(std::FILE* file, const QString& text)
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
     std::fflush(file);
+}
+
+void System::leave(ExitCode code)
+{
+    if (__lsan_do_leak_check) {
+        __lsan_do_leak_check();
+    }
+    std::fflush(nullptr);
+    std::_Exit(static_cast<int>(code));
 }

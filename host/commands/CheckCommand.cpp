@@ -8,6 +8,7 @@
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Languages.h"
+#include "host/ProgramEnd.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportBuilder.h"
 #include "host/report/ReportFile.h"
@@ -122,6 +123,7 @@ ExitCode CheckCommand::open(const QString& language)
     bool wasPutOut = false;
     bool isWritten = true;
     const auto save = [&] {
+        ProgramEnd::begin();
         facts.finished = QDateTime::currentDateTime();
         const QJsonObject results = installed.results();
         const RunOutcome outcome = RunOutcome::fromDocument(results, wasPutOut);
@@ -144,8 +146,8 @@ bool CheckCommand::writeResults(const QJsonObject& results) const
     if (m_options.resultsFile.isEmpty()) {
         return true;
     }
-    const QString problem =
-        ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
+    const QString problem = ReportFile::write(
+        m_options.resultsFile, QJsonDocument(results).toJson(), ProgramEnd::remainingMs());
     if (!problem.isEmpty()) {
         Console::printError(problem);
     }
@@ -159,7 +161,8 @@ bool CheckCommand::write(Report report) const
     const Report shown = Redaction(m_options.redaction, m_redactionKey).redacted(report);
     const QString problem = ReportFile::write(
         m_reportFile,
-        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
+        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language),
+        ProgramEnd::remainingMs());
     // A tour is no run of a user.
     if (!isTour()) {
         history.append(report,

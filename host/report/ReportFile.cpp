@@ -4,12 +4,12 @@
 
 #include "host/report/ReportJson.h"
 #include "platform/backend/FileNames.h"
+#include "platform/backend/FileWriter.h"
+#include "platform/backend/WholeFile.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRandomGenerator>
-#include <QSaveFile>
 #include <array>
 
 namespace {
@@ -35,8 +35,9 @@ QString ReportFile::problemOfWriting(const QString& path)
     if (file.isDir()) {
         return line(path, QStringLiteral("it is a folder; name a file in it"));
     }
-    if (file.exists() && !file.isFile()) {
-        return line(path, QStringLiteral("it isn't an ordinary file; name another one"));
+    const QString wrong = Platform::WholeFile::problem(path);
+    if (!wrong.isEmpty()) {
+        return line(path, wrong + QStringLiteral("; name another file"));
     }
     if (!folder.isDir()) {
         return line(path, QStringLiteral("there is no folder %1; make it, or name another file")
@@ -48,37 +49,37 @@ QString ReportFile::problemOfWriting(const QString& path)
     return {};
 }
 
-QString ReportFile::write(const QString& path, const QByteArray& content)
+QString ReportFile::write(const QString& path, const QByteArray& content, int timeoutMs)
 {
     QString problem = problemOfWriting(path);
     if (!problem.isEmpty()) {
         return problem;
     }
-    QSaveFile file(path);
-    // commit() doesn't report errors of the last buffered bytes; flush() does.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.flush() || !file.commit()) {
-        return line(path, file.errorString() + QStringLiteral("; name another file"));
-    }
-    return {};
+    problem = Platform::FileWriter::replaceNow(path, content, timeoutMs);
+    return problem.isEmpty() ? QString()
+                             : line(path, problem + QStringLiteral("; name another file"));
 }
 
 std::optional<Report> ReportFile::read(const QString& path, QString* error)
 {
-    QFile file(path);
-    const QString nameProblem = Platform::FileNames::problem(path);
-    if (!nameProblem.isEmpty() || !file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2; name a report that a run has written")
-                     .arg(path, nameProblem.isEmpty() ? file.errorString() : nameProblem);
+    QByteArray content;
+    QString unreadable = Platform::FileNames::problem(path);
+    if (unreadable.isEmpty() && !QFileInfo::exists(path)) {
+        unreadable = QStringLiteral("there is no such file");
+    }
+    if (unreadable.isEmpty()) {
+        unreadable = Platform::WholeFile::read(path, &content, MaxBytes);
+    }
+    if (!unreadable.isEmpty()) {
+        *error =
+            QStringLiteral("%1: %2; name a report that a run has written").arg(path, unreadable);
         return std::nullopt;
     }
-    const QByteArray content = file.read(MaxBytes + 1);
     QJsonParseError parsing = {};
     const QJsonDocument document = QJsonDocument::fromJson(content, &parsing);
-    if (content.size() > MaxBytes || !document.isObject()) {
-        const QString why = content.size() > MaxBytes ? QStringLiteral("it is too large")
-                            : document.isNull()       ? parsing.errorString()
-                                                      : QStringLiteral("it is no object");
+    if (!document.isObject()) {
+        const QString why =
+            document.isNull() ? parsing.errorString() : QStringLiteral("it is no object");
         *error = QStringLiteral("%1: it isn't a report in JSON (%2); name one that a run has "
                                 "written")
                      .arg(path, why);
@@ -94,18 +95,19 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
 
 QByteArray ReportFile::redactionKey(const QString& path, QString* error)
 {
-    QFile present(path);
-    if (present.open(QIODevice::ReadOnly)) {
-        QByteArray key = present.read(KeyBytes);
-        if (key.size() == KeyBytes) {
-            return key;
-        }
+    QByteArray present;
+    const QString unreadable = Platform::WholeFile::read(path, &present);
+    if (!unreadable.isEmpty()) {
+        *error = line(path, unreadable);
+        return {};
+    }
+    if (present.size() >= KeyBytes) {
+        return present.left(KeyBytes);
     }
     std::array<quint32, KeyWords> words = {};
     QRandomGenerator::system()->fillRange(words.data(), KeyWords);
     const QByteArray key(reinterpret_cast<const char*>(words.data()), KeyBytes);
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    Platform::WholeFile::makeFolder(QFileInfo(path).absolutePath());
     *error = write(path, key);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     return error->isEmpty() ? key : QByteArray();
 }

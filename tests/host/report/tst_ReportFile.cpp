@@ -61,7 +61,7 @@ void tst_ReportFile::wrongPlacesAreNamed_data()
 #ifdef Q_OS_UNIX
     const QString root = QStringLiteral("/");
     QTest::newRow("a device") << "/dev/null"
-                              << "isn't an ordinary file";
+                              << "it is not a regular file";
 #else
     const QString root = QStringLiteral("C:/");
     QTest::newRow("a device") << "NUL"
@@ -115,7 +115,7 @@ void tst_ReportFile::unreadableOnesAreNamed_data()
     QTest::newRow("another object") << QByteArray("{\"a\": 1}") << "format: ";
     QTest::newRow("cut off") << ReportWriter::toJson(sampleReport()).chopped(20)
                              << "isn't a report in JSON";
-    QTest::newRow("huge") << QByteArray(int(ReportFile::MaxBytes) + 1, ' ') << "too large";
+    QTest::newRow("huge") << QByteArray(int(ReportFile::MaxBytes) + 1, ' ') << "larger than 4 MiB";
 }
 
 void tst_ReportFile::unreadableOnesAreNamed()
