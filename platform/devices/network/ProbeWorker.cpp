@@ -4,7 +4,6 @@
 
 #include "platform/backend/Log.h"
 
-#include <QHostInfo>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QTimerEvent>
@@ -31,12 +30,7 @@ ProbeWorker::ProbeWorker(const StunServer& server, Reports reports)
 {
 }
 
-ProbeWorker::~ProbeWorker()
-{
-    if (m_lookup >= 0) {
-        QHostInfo::abortHostLookup(m_lookup);
-    }
-}
+ProbeWorker::~ProbeWorker() = default;
 
 void ProbeWorker::start()
 {
@@ -119,7 +113,7 @@ void ProbeWorker::openNext()
 
 void ProbeWorker::lookUp()
 {
-    if (m_lookup >= 0 || now() < m_nextLookup) {
+    if (m_isLookingUp || now() < m_nextLookup) {
         return;
     }
     m_nextLookup = now() + LookupInterval;
@@ -128,17 +122,17 @@ void ProbeWorker::lookUp()
         m_addresses = {literal};
         return;
     }
-    // By name: what a function object is kept in would leak with a lookup that is called off.
-    m_lookup = QHostInfo::lookupHost(m_server.host, this, SLOT(takeAddresses(QHostInfo)));
+    m_isLookingUp = true;
+    m_lookup = std::make_unique<HostLookup>(
+        m_server.host, [this](const HostLookup::Answer& answer) { takeAddresses(answer); });
 }
 
-void ProbeWorker::takeAddresses(const QHostInfo& info)
+void ProbeWorker::takeAddresses(const HostLookup::Answer& answer)
 {
-    m_lookup = -1;
-    m_addresses = info.addresses();
+    m_isLookingUp = false;
+    m_addresses = answer.addresses;
     if (m_addresses.isEmpty()) {
-        qCDebug(Log::network).noquote()
-            << "No address of" << m_server.host << "-" << info.errorString();
+        qCDebug(Log::network).noquote() << "No address of" << m_server.host << "-" << answer.error;
     } else if (!m_socket) {
         tick();
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/StunServer.h"
+#include "platform/devices/network/HostLookup.h"
 #include "platform/devices/network/ProbeWindow.h"
 #include "platform/devices/network/StunClient.h"
 
@@ -11,8 +12,8 @@
 #include <QObject>
 #include <deque>
 #include <functional>
+#include <memory>
 
-class QHostInfo;
 class QUdpSocket;
 
 namespace Platform {
@@ -41,9 +42,6 @@ public:
 protected:
     void timerEvent(QTimerEvent* event) override;
 
-private Q_SLOTS:
-    void takeAddresses(const QHostInfo& info);
-
 private:
     struct OpenProbe
     {
@@ -56,6 +54,7 @@ private:
     void tick();
     void forgetOverdue();
     void lookUp();
+    void takeAddresses(const HostLookup::Answer& answer);
     void openNext();
     void closeWhereUseless();
     void sendProbe();
@@ -68,7 +67,8 @@ private:
     QElapsedTimer m_clock;
     QBasicTimer m_probeTimer;
     QBasicTimer m_verdictTimer;
-    int m_lookup = -1; // the one under way
+    std::unique_ptr<HostLookup> m_lookup; // the last one
+    bool m_isLookingUp = false;
     ProbeWindow::Time m_nextLookup{0};
     QList<QHostAddress> m_addresses; // not tried yet
     std::unique_ptr<QUdpSocket> m_socket;
