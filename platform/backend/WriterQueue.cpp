@@ -72,7 +72,7 @@ QString write(const WriterQueue::Order& order)
     }
     const std::optional<QByteArray> made = changed(std::move(content), order.changes);
     return made ? WholeFile::write(order.path, *made)
-                : QStringLiteral("its new content can't be made");
+                : QStringLiteral("its new content can't be made; is the disk full?");
 }
 
 } // namespace

@@ -317,7 +317,7 @@ void tst_FileWriter::tellsWhoAsked()
     FileWriter::update(
         path(), [](const QByteArray&) { return std::nullopt; }, take);
     QVERIFY(FileWriter::waitForWritten(WaitMs));
-    QCOMPARE(told, QStringLiteral("its new content can't be made"));
+    QCOMPARE(told, QStringLiteral("its new content can't be made; is the disk full?"));
     QVERIFY(!QFileInfo::exists(path()));
 
     expectComplaint(path("file/below"), QStringLiteral("its folder can't be created$"));
