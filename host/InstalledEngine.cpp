@@ -15,6 +15,7 @@
 #include <QEventLoop>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -68,13 +69,24 @@ InstalledEngine::~InstalledEngine()
     Platform::EngineRegistry::uninstall();
 }
 
-void InstalledEngine::prepare()
+bool InstalledEngine::prepare()
 {
-    if (m_prepare) {
-        QEventLoop loop;
-        m_prepare([&loop] { loop.quit(); });
-        loop.exec();
+    if (!m_prepare) {
+        return true;
     }
+    // Shared: if the program is asked to end, the loop ends before the facts are there.
+    struct Wait
+    {
+        QEventLoop loop;
+        bool isDone = false;
+    };
+    const auto wait = std::make_shared<Wait>();
+    m_prepare([wait] {
+        wait->isDone = true;
+        wait->loop.quit();
+    });
+    wait->loop.exec();
+    return wait->isDone;
 }
 
 Platform::Engine& InstalledEngine::engine() const

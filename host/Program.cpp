@@ -80,6 +80,11 @@ ExitCode Program::run(int argc, char* argv[])
         Console::printError(options.error);
         return ExitCode::WrongUsage;
     }
+    const QString limits = System::problemOfLimits();
+    if (!limits.isEmpty()) {
+        Console::printError(limits);
+        return ExitCode::Unavailable;
+    }
     // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
     QCoreApplication::setApplicationName(QStringLiteral("envcheck"));

@@ -18,6 +18,9 @@ QStringList arguments(int argc, char* argv[]); // the program's name first
 bool isTerminal(std::FILE* file);
 void write(std::FILE* file, const QString& text); // UTF-8 unless it is a terminal
 
+// Empty, or one line: the system lets the program open too few files.
+QString problemOfLimits();
+
 // Ends the process at once, without destructors and without waiting for threads.
 [[noreturn]] void leave(ExitCode code);
 

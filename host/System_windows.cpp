@@ -75,6 +75,11 @@ void System::write(std::FILE* file, const QString& text)
     std::fflush(file);
 }
 
+QString System::problemOfLimits()
+{
+    return {};
+}
+
 void System::leave(ExitCode code)
 {
     std::fflush(nullptr);

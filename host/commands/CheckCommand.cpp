@@ -17,6 +17,7 @@
 #include "host/report/RunOutcome.h"
 #include "host/tour/Tour.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/WholeFile.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <CoreEngine/CoreEngine.h>
@@ -88,9 +89,17 @@ bool CheckCommand::prepareFiles()
         const QString name =
             QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss-zzz"));
         m_reportFile = QStringLiteral("%1/%2.json").arg(Folders::reports(), name);
-        QDir().mkpath(Folders::reports());
     }
-    return true;
+    if (isTour()) {
+        return true;
+    }
+    Folders::makeReports();
+    const QString wrong = Platform::WholeFile::problem(Folders::runs());
+    if (!wrong.isEmpty()) {
+        Console::printError(
+            QStringLiteral("%1 can't be written: %2; move it away").arg(Folders::runs(), wrong));
+    }
+    return wrong.isEmpty();
 }
 
 bool CheckCommand::prepareRedaction()
@@ -118,7 +127,9 @@ ExitCode CheckCommand::open(const QString& language)
                              language,
                              m_options.platform,
                              QFileInfo(m_options.scenario).completeBaseName()};
-    installed.prepare();
+    if (!installed.prepare()) {
+        return ExitCode::LeftEarly;
+    }
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
     bool wasPutOut = false;
     bool isWritten = true;

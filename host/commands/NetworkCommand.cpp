@@ -13,8 +13,12 @@
 #include "platform/backend/NetworkLimits.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace {
+
+// A probe tells its figures every second, also if nobody answers.
+constexpr int FirstFigureMs = 5000;
 
 // Prints what a probe measures: a terminal gets one line that changes, a file a line per figure.
 class FigurePrinter final : public Platform::NetworkProbe::Listener
@@ -43,6 +47,7 @@ public:
         }
     }
 
+    bool hasPrinted() const { return m_printed > 0; }
     bool hasPassed() const
     {
         return m_printed > 0 &&
@@ -89,13 +94,27 @@ ExitCode NetworkCommand::run(const Options& options)
         Console::printError(installed.error());
         return installed.errorCode();
     }
-    installed.prepare();
+    if (!installed.prepare()) {
+        return ExitCode::SomeFailed;
+    }
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
     Console::print(QStringLiteral("server %1, this machine %2\n")
                        .arg(Console::plainLine(facts.serverName()),
                             Console::plainLine(facts.clientAddress())));
     const FigurePrinter printer(installed.engine(), options.count);
+    bool isUnmeasured = false;
+    QTimer::singleShot(FirstFigureMs, QCoreApplication::instance(), [&printer, &isUnmeasured] {
+        isUnmeasured = !printer.hasPrinted();
+        if (isUnmeasured) {
+            QCoreApplication::quit();
+        }
+    });
     QCoreApplication::exec();
+    if (isUnmeasured) {
+        Console::printError(QStringLiteral("nothing is measured: the system may refuse more "
+                                           "threads; end other programs, or raise the limit"));
+        return ExitCode::Unavailable;
+    }
     if (options.count == 0 && Console::isTerminal()) {
         Console::print(QStringLiteral("\n"));
     }
