@@ -60,12 +60,12 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 InstalledEngine::~InstalledEngine()
 {
     ProgramEnd::begin();
-    // Write first: the scripted engine removes the folder of its settings.
-    Platform::FileWriter::waitForWritten(ProgramEnd::remainingMs());
     if (Platform::EngineRegistry::isInstalled()) {
         const int deliveryMs = std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs());
         engine().deliver(std::chrono::milliseconds(deliveryMs));
     }
+    // Write first: the scripted engine removes the folder of its settings.
+    Platform::FileWriter::waitForWritten(ProgramEnd::remainingMs());
     Platform::EngineRegistry::uninstall();
 }
 

@@ -99,7 +99,11 @@ bool ProgramRun::hasPrinted(const QByteArray& text)
 void ProgramRun::signal(int number)
 {
     m_startedAtMs = nowMs();
-    ::kill(static_cast<pid_t>(m_process.processId()), number);
+    // Zero would be everybody in the group of the test.
+    const auto process = static_cast<pid_t>(m_process.processId());
+    if (process > 0) {
+        ::kill(process, number);
+    }
 }
 
 ProgramRun::Result ProgramRun::finish(int timeoutMs)
