@@ -14,8 +14,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <future>
-
 using namespace Platform;
 using namespace std::chrono_literals;
 
@@ -45,12 +43,6 @@ private Q_SLOTS:
     void oldReportsAreDropped();
     void outboxIsBounded();
     void nobodyWaits();
-    void deliversWhatIsUnderWay();
-    void deliversNoLongerThanAsked();
-    void deliveryEndsWithAFailure();
-    void answerIsAllThatIsRead();
-    void endlessHeadersAreCutOff();
-    void repeatedPostIsKnown();
 
 private:
     QString file(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
@@ -396,78 +388,6 @@ void tst_ReportOutbox::nobodyWaits()
     QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
     QVERIFY(FileWriter::waitForWritten(5000));
     QTRY_COMPARE(threadCount("ReportOutbox"), 0);
-}
-
-// As at the end of the program, which waits on the main thread. Here the server runs on that.
-void tst_ReportOutbox::deliversWhatIsUnderWay()
-{
-    m_server->setBehaviour(HttpServer::Behaviour::TakeLate);
-    {
-        ReportOutbox reports({}, m_folder->path(), m_server->url());
-        reports.postCode(QStringLiteral("manager"), 3);
-        reports.postCode(QStringLiteral("manager"), 7);
-        const std::future<void> delivery =
-            std::async(std::launch::async, [&reports] { reports.deliver(5s); });
-        QTRY_VERIFY(delivery.wait_for(0s) == std::future_status::ready);
-    }
-    QCOMPARE(codesOf(m_server->requests()), QList<int>({3, 7}));
-    QVERIFY(outbox().isEmpty());
-}
-
-void tst_ReportOutbox::deliversNoLongerThanAsked()
-{
-    m_server->setBehaviour(HttpServer::Behaviour::Hang);
-    ReportOutbox reports({}, m_folder->path(), m_server->url());
-    reports.postCode(QStringLiteral("manager"), 7);
-    QElapsedTimer clock;
-    clock.start();
-    reports.deliver(100ms);
-    QVERIFY(clock.elapsed() >= 90);
-    QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
-    QCOMPARE(outbox().size(), 1);
-    ReportOutbox({}, m_folder->path(), {}).deliver(1h); // nothing to wait for
-}
-
-void tst_ReportOutbox::deliveryEndsWithAFailure()
-{
-    m_server->refuse();
-    ReportOutbox reports({}, m_folder->path(), m_server->url());
-    reports.postCode(QStringLiteral("manager"), 7);
-    reports.deliver(1h);
-    QCOMPARE(outbox().size(), 1);
-}
-
-// A body at a byte every now and then takes no time: the status says all.
-void tst_ReportOutbox::answerIsAllThatIsRead()
-{
-    m_server->setBehaviour(HttpServer::Behaviour::SlowBody);
-    ReportOutbox reports({}, m_folder->path(), m_server->url());
-    reports.postCode(QStringLiteral("manager"), 3);
-    reports.postCode(QStringLiteral("manager"), 7);
-    QTRY_COMPARE(m_server->requests().size(), 2);
-    QTRY_VERIFY(outbox().isEmpty());
-}
-
-void tst_ReportOutbox::endlessHeadersAreCutOff()
-{
-    m_server->setBehaviour(HttpServer::Behaviour::EndlessHeaders);
-    ReportOutbox reports({}, m_folder->path(), m_server->url(), quickLimits());
-    reports.postCode(QStringLiteral("manager"), 7);
-    QTRY_VERIFY(m_server->requests().size() >= 2); // given up, and tried again
-    QCOMPARE(outbox().size(), 1);
-}
-
-void tst_ReportOutbox::repeatedPostIsKnown()
-{
-    m_server->setBehaviour(HttpServer::Behaviour::HangUp);
-    ReportOutbox reports({}, m_folder->path(), m_server->url(), quickLimits());
-    reports.postCode(QStringLiteral("manager"), 7);
-    QTRY_VERIFY(m_server->requests().size() >= 2);
-    for (const HttpServer::Request& request : m_server->requests()) {
-        const QByteArray id = bodyOf(request).value(QLatin1String("id")).toString().toUtf8();
-        QVERIFY(!id.isEmpty());
-        QVERIFY2(request.head.contains("Idempotency-Key: " + id), request.head);
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_ReportOutbox)
