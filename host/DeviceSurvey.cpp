@@ -8,6 +8,7 @@
 
 #include <QEventLoop>
 #include <QJsonArray>
+#include <QMap>
 #include <QTimer>
 
 namespace {
@@ -114,18 +115,30 @@ QJsonArray toArray(const DeviceSurvey::Devices& devices)
     return array;
 }
 
+QString textOf(Platform::DeviceState state)
+{
+    using State = Platform::DeviceState;
+    static const QMap<State, const char*> ids = {
+        {State::Absent, "ID_Host_State_Absent"},   {State::Off, "ID_Host_State_Off"},
+        {State::Denied, "ID_Host_State_Denied"},   {State::Failed, "ID_Host_State_Failed"},
+        {State::Busy, "ID_Host_State_Busy"},       {State::Hung, "ID_Host_State_Hung"},
+        {State::Silent, "ID_Host_State_Silent"},   {State::Ready, "ID_Host_State_Ready"},
+        {State::Working, "ID_Host_State_Working"},
+    };
+    return qtTrId(ids.value(state));
+}
+
 void addTo(TextTable& table, const QString& title, const DeviceSurvey::Devices& devices)
 {
     table.addHeading(title);
     if (devices.empty()) {
-        table.addHeading(QStringLiteral("    none found"));
+        table.addHeading(QStringLiteral("    ") + qtTrId("ID_Host_Devices_None"));
     }
     for (const DeviceSurvey::Device& device : devices) {
         const QString mark = device.isCurrent ? QStringLiteral("  * ") : QStringLiteral("    ");
         const QString volume =
             device.volume ? QStringLiteral("%1 %").arg(*device.volume) : QStringLiteral("-");
-        table.addRow({mark + Platform::toString(device.state), volume,
-                      Console::plainLine(device.info.name)});
+        table.addRow({mark + textOf(device.state), volume, Console::plainLine(device.info.name)});
     }
 }
 
@@ -148,9 +161,9 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
 QString DeviceSurvey::toText() const
 {
     TextTable table;
-    addTo(table, QStringLiteral("Cameras"), cameras);
-    addTo(table, QStringLiteral("Microphones"), microphones);
-    addTo(table, QStringLiteral("Speakers"), speakers);
+    addTo(table, qtTrId("ID_Host_Devices_Cameras"), cameras);
+    addTo(table, qtTrId("ID_Host_Devices_Microphones"), microphones);
+    addTo(table, qtTrId("ID_Host_Devices_Speakers"), speakers);
     return table.toText();
 }
 

@@ -41,8 +41,7 @@ bool isLastWord(const QString& text)
 
 [[noreturn]] void endAtOnce()
 {
-    Console::printError(QStringLiteral("the display has gone, and the check with it: the X server "
-                                       "or the Wayland compositor has ended"));
+    Console::printError(qtTrId("ID_Host_Display_Gone"));
     ProgramEnd::begin();
     const std::function<void()> save = std::exchange(theSaving, nullptr);
     if (save) {

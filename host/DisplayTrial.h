@@ -16,13 +16,15 @@ public:
     DisplayTrial(const DisplayTrial&) = delete;
     DisplayTrial& operator=(const DisplayTrial&) = delete;
 
-    QString problem() const { return m_problem; } // one line, or empty
+    bool hasFailed() const { return m_hasFailed; }
+    QString problem() const; // one line; needs the texts of a language
 
 private:
     bool opens(int argc, char* argv[]);
     void end();
 
-    QString m_problem;
+    bool m_hasFailed = false;
+    QString m_tried; // the displays, if there are any
     int m_link = -1; // to the process; it ends when this is closed
     int m_process = -1;
 };

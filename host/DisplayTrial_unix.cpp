@@ -51,12 +51,11 @@ void endAtFatalMessage(QtMsgType type, const QMessageLogContext&, const QString&
 
 DisplayTrial::DisplayTrial(int argc, char* argv[])
 {
-    const QString advice = QStringLiteral("start it from a desktop session, or by xvfb-run");
     const QString kind = qEnvironmentVariable(KindVariable);
     const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     const QString x11 = qEnvironmentVariable("DISPLAY");
     if (kind.isEmpty() && wayland.isEmpty() && x11.isEmpty()) {
-        m_problem = QStringLiteral("there is no display to open the check on: %1").arg(advice);
+        m_hasFailed = true;
         return;
     }
     if (opens(argc, argv)) {
@@ -73,13 +72,19 @@ DisplayTrial::DisplayTrial(int argc, char* argv[])
     }
     QStringList tried{x11, wayland, kind};
     tried.removeAll(QString());
-    m_problem = QStringLiteral("the display %1 can't be opened: %2")
-                    .arg(tried.join(QStringLiteral(", ")), advice);
+    m_tried = tried.join(QStringLiteral(", "));
+    m_hasFailed = true;
 }
 
 DisplayTrial::~DisplayTrial()
 {
     end();
+}
+
+QString DisplayTrial::problem() const
+{
+    return m_tried.isEmpty() ? qtTrId("ID_Host_Display_None")
+                             : qtTrId("ID_Host_Display_NotOpened").arg(m_tried);
 }
 
 bool DisplayTrial::opens(int argc, char* argv[])

@@ -8,3 +8,8 @@ DisplayTrial::DisplayTrial(int, char*[])
 }
 
 DisplayTrial::~DisplayTrial() = default;
+
+QString DisplayTrial::problem() const
+{
+    return m_tried;
+}

@@ -60,7 +60,7 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 InstalledEngine::~InstalledEngine()
 {
     ProgramEnd::begin();
-    if (Platform::EngineRegistry::isInstalled()) {
+    if (m_results) { // an engine is installed
         const int deliveryMs = std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs());
         engine().deliver(std::chrono::milliseconds(deliveryMs));
     }
@@ -136,9 +136,7 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
 #else
 void InstalledEngine::installDevices(const Options&, const QString&)
 {
-    fail(QStringLiteral("this program was built without the real devices (ENVCHECK_DEVICES): use "
-                        "--platform scripted"),
-         ExitCode::Unavailable);
+    fail(qtTrId("ID_Host_Devices_NotBuilt"), ExitCode::Unavailable);
 }
 #endif
 

@@ -74,26 +74,35 @@ QString Languages::use(const QString& language)
         return QStringLiteral("there are no texts in %1: install or build the program again")
             .arg(folder());
     }
-    m_current = nearest(
-        language.isEmpty() ? QLocale::system().uiLanguages() : QStringList{language}, languages);
-    if (m_current.isEmpty() && !language.isEmpty()) {
-        return QStringLiteral("--language %1: there are texts in %2")
-            .arg(language, languages.join(QLatin1String(", ")));
+    const QString asked =
+        language.isEmpty() ? QString() : nearest(QStringList{language}, languages);
+    QString taken = asked.isEmpty() ? nearest(QLocale::system().uiLanguages(), languages) : asked;
+    if (taken.isEmpty()) {
+        taken = Fallback;
     }
-    if (m_current.isEmpty()) {
-        m_current = Fallback;
+    QString problem = install(taken);
+    if (problem.isEmpty() && asked.isEmpty() && !language.isEmpty()) {
+        problem =
+            qtTrId("ID_Host_Language_Unknown").arg(language, languages.join(QLatin1String(", ")));
     }
-    QLocale::setDefault(QLocale(m_current));
-    const QString qtTexts = QStringLiteral("qtbase_") + m_current;
+    return problem;
+}
+
+QString Languages::install(const QString& language)
+{
+    QLocale::setDefault(QLocale(language));
+    const QString qtTexts = QStringLiteral("qtbase_") + language;
     if (m_qtTexts.load(qtTexts, QLibraryInfo::location(QLibraryInfo::TranslationsPath)) ||
         m_qtTexts.load(qtTexts, folder())) {
         QCoreApplication::installTranslator(&m_qtTexts);
     }
     // Qt asks the translator that was installed last first.
-    if (!load(m_texts, m_current)) {
-        return QStringLiteral("the texts %1 in %2 can't be read: install or build the program anew")
-            .arg(FilePrefix + m_current + FileSuffix, folder());
+    if (!load(m_texts, language)) {
+        return QStringLiteral(
+                   "the texts %1 in %2 can't be read: install or build the program again")
+            .arg(FilePrefix + language + FileSuffix, folder());
     }
     QCoreApplication::installTranslator(&m_texts);
+    m_current = language;
     return {};
 }

@@ -21,11 +21,14 @@ public:
     static bool load(QTranslator& translator, const QString& language);
 
     // Uses the given language, or if none is given the one nearest to the system's, or English.
-    // Returns nothing, or one line that says why it failed.
+    // Returns nothing, or one line that says why it failed. If there is no such language, the
+    // system's is used.
     QString use(const QString& language);
-    QString current() const { return m_current; }
+    QString current() const { return m_current; } // empty if no texts are used
 
 private:
+    QString install(const QString& language);
+
     QString m_current;
     QTranslator m_texts;
     QTranslator m_qtTexts;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/Options.h"
 
+#include "host/ExitCode.h"
+#include "host/HelpLayout.h"
 #include "host/report/ReportWords.h"
 #include "platform/backend/StunServer.h"
 #include "platform/backend/WebAddress.h"
@@ -28,64 +30,44 @@ struct CommandName
 {
     Options::Command command;
     CommandBit bit;
-    const char* name; // empty for the check
-    const char* description;
+    const char* name;   // empty for the check
+    const char* textId; // what it does
 };
 
 constexpr CommandName CommandNames[] = {
-    {Options::Command::Check, InCheck, "",
-     "Checks the network, the camera, the speaker and the microphone before an online class."},
-    {Options::Command::Devices, InDevices, "devices",
-     "Lists the cameras, microphones and speakers with their states."},
-    {Options::Command::Network, InNetwork, "network",
-     "Measures delay and loss and prints the figures as they come."},
-    {Options::Command::Serve, InServe, "serve",
-     "Answers measurements of other machines, as a small STUN server, until it is stopped."},
-    {Options::Command::Report, InReport, "report",
-     "Shows reports of earlier runs as text, HTML or JSON, or several as one table."},
+    {Options::Command::Check, InCheck, "", "ID_Host_Help_Check"},
+    {Options::Command::Devices, InDevices, "devices", "ID_Host_Help_Devices"},
+    {Options::Command::Network, InNetwork, "network", "ID_Host_Help_Network"},
+    {Options::Command::Serve, InServe, "serve", "ID_Host_Help_Serve"},
+    {Options::Command::Report, InReport, "report", "ID_Host_Help_Report"},
 };
 
 struct Definition
 {
     const char* name;
     unsigned commands;
-    const char* value; // null if the option has no value
-    const char* description;
+    const char* value;  // null if the option has no value
+    const char* textId; // what it does
 };
 
 constexpr Definition Definitions[] = {
-    {"platform", InEngine, "NAME",
-     "Devices to check: devices (of this machine, the default) or scripted."},
-    {"scenario", InEngine, "SCENARIO",
-     "What the scripted devices play: a file, or the name of a bundled one such as all-well. "
-     "Implies --platform scripted."},
-    {"language", InCheck | InReport, "LANGUAGE",
-     "Language of the texts, such as en or zh_CN; the system's by default."},
-    {"server", InCheck | InNetwork, "HOST[:PORT]",
-     "STUN server that delay and loss are measured to, also as stun:HOST:PORT; the port is 3478 by "
-     "default. Without a server a small responder on this machine is used, which says nothing "
-     "about the network."},
-    {"account", InCheck, "TEXT", "Account to show; the system's user by default."},
-    {"nickname", InCheck, "TEXT", "Nickname to show; the system's user by default."},
-    {"cdn", InCheck, "FIRST/SECOND", "CDN to show."},
-    {"results", InCheck, "FILE",
-     "Also write the bare results to FILE, as JSON, after each change."},
-    {"report", InCheck, "FILE",
-     "Write the report to FILE instead of the default place; its ending (.json, .html or .txt) "
-     "is its format."},
-    {"report-url", InCheck, "URL", "The address to post report codes to."},
-    {"tour", InCheck, "FOLDER",
-     "Walk through every step automatically and save a picture of each in FOLDER."},
-    {"json", InDevices, nullptr, "Print JSON instead of a table."},
-    {"count", InNetwork, "N",
-     "End after N figures; without it the command runs until it is stopped."},
-    {"port", InServe, "N", "UDP port to answer on; 3478 by default, 0 takes a free one."},
-    {"format", InReport, "FORMAT",
-     "text (the default), html, json, or room: one line for each report."},
-    {"redact", InCheck | InReport, "LEVEL",
-     "What to leave out: none (the default), personal (no addresses, names and accounts) or "
-     "hash (short hashes in their place)."},
-    {"verbose", InAll, nullptr, "Also write the log to the terminal."},
+    {"platform", InEngine, "NAME", "ID_Host_Option_Platform"},
+    {"scenario", InEngine, "SCENARIO", "ID_Host_Option_Scenario"},
+    {"language", InAll, "LANGUAGE", "ID_Host_Option_Language"},
+    {"server", InCheck | InNetwork, "HOST[:PORT]", "ID_Host_Option_Server"},
+    {"account", InCheck, "TEXT", "ID_Host_Option_Account"},
+    {"nickname", InCheck, "TEXT", "ID_Host_Option_Nickname"},
+    {"cdn", InCheck, "FIRST/SECOND", "ID_Host_Option_Cdn"},
+    {"results", InCheck, "FILE", "ID_Host_Option_Results"},
+    {"report", InCheck, "FILE", "ID_Host_Option_Report"},
+    {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
+    {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
+    {"json", InDevices, nullptr, "ID_Host_Option_Json"},
+    {"count", InNetwork, "N", "ID_Host_Option_Count"},
+    {"port", InServe, "N", "ID_Host_Option_Port"},
+    {"format", InReport, "FORMAT", "ID_Host_Option_Format"},
+    {"redact", InCheck | InReport, "LEVEL", "ID_Host_Option_Redact"},
+    {"verbose", InAll, nullptr, "ID_Host_Option_Verbose"},
 };
 
 const CommandName& nameOf(Options::Command command)
@@ -103,17 +85,13 @@ QString option(const char* name)
     return QLatin1String(name);
 }
 
-void addOptions(QCommandLineParser& parser, unsigned commands)
+void addOptions(QCommandLineParser& parser)
 {
     for (const Definition& definition : Definitions) {
-        if ((definition.commands & commands) != 0) {
-            parser.addOption({option(definition.name), QLatin1String(definition.description),
-                              QLatin1String(definition.value)});
-        }
+        parser.addOption({option(definition.name), {}, QLatin1String(definition.value)});
     }
-    parser.addOptions(
-        {{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
-         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")}});
+    parser.addOptions({{{QStringLiteral("h"), QStringLiteral("help")}, {}},
+                       {{QStringLiteral("v"), QStringLiteral("version")}, {}}});
 }
 
 std::optional<int> numberIn(const QString& text, int least, int most)
@@ -122,6 +100,16 @@ std::optional<int> numberIn(const QString& text, int least, int most)
     const int number = text.toInt(&isNumber);
     return isNumber && number >= least && number <= most ? std::optional<int>(number)
                                                          : std::nullopt;
+}
+
+QString oneOf(const char* words)
+{
+    return qtTrId("ID_Host_Takes_OneOf").arg(QLatin1String(words));
+}
+
+QString numberBetween(int least, int most)
+{
+    return qtTrId("ID_Host_Takes_Number").arg(QString::number(least), QString::number(most));
 }
 
 // Reads the values of the options in order, and stops at the first wrong one.
@@ -156,7 +144,12 @@ private:
 
     void failAt(const char* name, const QString& whatItTakes)
     {
-        fail(QStringLiteral("--%1 %2: it takes %3").arg(option(name), value(name), whatItTakes));
+        fail(qtTrId("ID_Host_Usage_Takes").arg(option(name), value(name), whatItTakes));
+    }
+
+    void failAtBoth(const char* one, const char* other)
+    {
+        fail(qtTrId("ID_Host_Usage_LeaveOneOut").arg(option(one), option(other)));
     }
 
     void readCommand()
@@ -167,7 +160,7 @@ private:
                 std::begin(CommandNames) + 1, std::end(CommandNames),
                 [&texts](const CommandName& c) { return texts.first() == QLatin1String(c.name); });
             if (found == std::end(CommandNames)) {
-                fail(QStringLiteral("unknown command '%1': see --help").arg(texts.first()));
+                fail(qtTrId("ID_Host_Usage_UnknownCommand").arg(texts.first()));
                 return;
             }
             m_options.command = found->command;
@@ -176,14 +169,14 @@ private:
         if (m_options.command == Options::Command::Report) {
             m_options.files = texts;
         } else if (!texts.isEmpty()) {
-            fail(QStringLiteral("'%1' is one argument too many: see --help").arg(texts.first()));
+            fail(qtTrId("ID_Host_Usage_ExtraArgument").arg(texts.first()));
         }
         const CommandName& command = nameOf(m_options.command);
         for (const Definition& definition : Definitions) {
             if ((definition.commands & command.bit) == 0 && isSet(definition.name)) {
-                fail(QStringLiteral("--%1 doesn't go with %2: see --help")
+                fail(qtTrId("ID_Host_Usage_OtherCommand")
                          .arg(option(definition.name), command.bit == InCheck
-                                                           ? QStringLiteral("the check")
+                                                           ? qtTrId("ID_Host_Usage_TheCheck")
                                                            : QLatin1String(command.name)));
             }
         }
@@ -207,7 +200,7 @@ private:
     {
         result = value(name);
         if (isSet(name) && result.isEmpty()) {
-            fail(QStringLiteral("--%1 needs a name that isn't empty").arg(option(name)));
+            fail(qtTrId("ID_Host_Usage_EmptyName").arg(option(name)));
         }
     }
 
@@ -215,10 +208,10 @@ private:
     {
         const auto platform = ReportWords::find<Options::Platform>(value("platform"));
         if (isSet("platform") && !platform) {
-            failAt("platform", QStringLiteral("devices or scripted"));
+            failAt("platform", oneOf("devices, scripted"));
         }
         if (platform == Options::Platform::Devices && isSet("scenario")) {
-            fail(QStringLiteral("--scenario doesn't go with --platform devices: leave one out"));
+            failAtBoth("--scenario", "--platform devices");
         }
         if (platform == Options::Platform::Scripted || isSet("scenario")) {
             m_options.platform = Options::Platform::Scripted;
@@ -226,7 +219,7 @@ private:
                 m_options.scenario = QLatin1String(Options::DefaultScenario);
             }
             if (isSet("server")) {
-                fail(QStringLiteral("--server doesn't go with scripted devices: leave one out"));
+                failAtBoth("--server", isSet("scenario") ? "--scenario" : "--platform scripted");
             }
         }
     }
@@ -235,11 +228,11 @@ private:
     {
         m_options.server = value("server");
         if (isSet("server") && !Platform::StunServer::fromText(m_options.server)) {
-            failAt("server", QLatin1String(Platform::StunServer::Form));
+            failAt("server", qtTrId("ID_Host_Takes_Server"));
         }
         m_options.reportUrl = value("report-url");
         if (isSet("report-url") && !Platform::webAddress(m_options.reportUrl)) {
-            failAt("report-url", QStringLiteral("an http or https address"));
+            failAt("report-url", qtTrId("ID_Host_Takes_WebAddress"));
         }
     }
 
@@ -249,7 +242,7 @@ private:
         if (isSet("port")) {
             const std::optional<int> port = numberIn(value("port"), 0, MaxPort);
             if (!port) {
-                failAt("port", QStringLiteral("a number from 0 to %1").arg(MaxPort));
+                failAt("port", numberBetween(0, MaxPort));
             }
             m_options.port = static_cast<quint16>(port.value_or(0));
         }
@@ -257,7 +250,7 @@ private:
             constexpr int MaxCount = 1000000;
             const std::optional<int> count = numberIn(value("count"), 1, MaxCount);
             if (!count) {
-                failAt("count", QStringLiteral("a number from 1 to %1").arg(MaxCount));
+                failAt("count", numberBetween(1, MaxCount));
             }
             m_options.count = count.value_or(0);
         }
@@ -269,16 +262,16 @@ private:
                                      QStringLiteral("json"), QStringLiteral("room")};
         const int format = static_cast<int>(formats.indexOf(value("format")));
         if (isSet("format") && format < 0) {
-            failAt("format", QStringLiteral("text, html, json or room"));
+            failAt("format", oneOf("text, html, json, room"));
         }
         m_options.format = static_cast<Options::Format>(std::max(0, format));
         const auto level = ReportWords::find<Options::Redaction>(value("redact"));
         if (isSet("redact") && !level) {
-            failAt("redact", QStringLiteral("none, personal or hash"));
+            failAt("redact", oneOf("none, personal, hash"));
         }
         m_options.redaction = level.value_or(Options::Redaction::None);
         if (m_options.command == Options::Command::Report && m_options.files.isEmpty()) {
-            fail(QStringLiteral("report needs the FILE of a report: see report --help"));
+            fail(qtTrId("ID_Host_Usage_NoReport"));
         }
     }
 
@@ -286,15 +279,78 @@ private:
     Options& m_options;
 };
 
+QString usageOf(const CommandName& command)
+{
+    QString usage = QStringLiteral("envcheck ");
+    if (command.command != Options::Command::Check) {
+        usage += QLatin1String(command.name) + QLatin1Char(' ');
+    }
+    usage += qtTrId("ID_Host_Help_UsageOptions");
+    if (command.command == Options::Command::Check) {
+        usage += QStringLiteral(" [devices|network|serve|report]");
+    } else if (command.command == Options::Command::Report) {
+        usage += QStringLiteral(" FILE...");
+    }
+    return usage;
+}
+
+HelpLayout::Rows optionRows(unsigned commands)
+{
+    HelpLayout::Rows rows;
+    for (const Definition& definition : Definitions) {
+        if ((definition.commands & commands) != 0) {
+            QString name = QStringLiteral("--") + option(definition.name);
+            if (definition.value) {
+                name += QStringLiteral(" <%1>").arg(QLatin1String(definition.value));
+            }
+            rows.emplace_back(name, qtTrId(definition.textId));
+        }
+    }
+    rows.emplace_back(QStringLiteral("-h, --help"), qtTrId("ID_Host_Option_Help"));
+    rows.emplace_back(QStringLiteral("-v, --version"), qtTrId("ID_Host_Option_Version"));
+    return rows;
+}
+
+HelpLayout::Rows commandRows()
+{
+    HelpLayout::Rows rows;
+    for (const CommandName& command : CommandNames) {
+        if (command.command != Options::Command::Check) {
+            rows.emplace_back(QLatin1String(command.name), qtTrId(command.textId));
+        }
+    }
+    return rows;
+}
+
+HelpLayout::Rows exitCodeRows()
+{
+    static const std::pair<ExitCode, const char*> codes[] = {
+        {ExitCode::AllPassed, "ID_Host_Exit_AllPassed"},
+        {ExitCode::SomeFailed, "ID_Host_Exit_SomeFailed"},
+        {ExitCode::LeftEarly, "ID_Host_Exit_LeftEarly"},
+        {ExitCode::PutOut, "ID_Host_Exit_PutOut"},
+        {ExitCode::TourProblems, "ID_Host_Exit_TourProblems"},
+        {ExitCode::WrongUsage, "ID_Host_Exit_WrongUsage"},
+        {ExitCode::BadInput, "ID_Host_Exit_BadInput"},
+        {ExitCode::Unavailable, "ID_Host_Exit_Unavailable"},
+        {ExitCode::CannotWrite, "ID_Host_Exit_CannotWrite"},
+    };
+    HelpLayout::Rows rows;
+    for (const auto& [code, textId] : codes) {
+        rows.emplace_back(QString::number(static_cast<int>(code)), qtTrId(textId));
+    }
+    return rows;
+}
+
 } // namespace
 
 Options Options::parse(const QStringList& arguments)
 {
     Options options;
     QCommandLineParser parser;
-    addOptions(parser, InAll);
+    addOptions(parser);
     if (!parser.parse(arguments)) {
-        options.error = QStringLiteral("%1 See --help.").arg(parser.errorText());
+        options.error = qtTrId("ID_Host_Usage_SeeHelp").arg(parser.errorText());
         return options;
     }
     Reader(parser, options).readAll();
@@ -309,33 +365,29 @@ Options Options::parse(const QStringList& arguments)
     return options;
 }
 
+QString Options::languageIn(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.parse(arguments); // whether it succeeds is looked at by parse()
+    return parser.value(option("language"));
+}
+
 QString Options::helpText(Command command)
 {
     const CommandName& name = nameOf(command);
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QLatin1String(name.description));
-    addOptions(parser, name.bit);
-    if (command != Command::Check) {
-        parser.addPositionalArgument(QLatin1String(name.name), QString(), QLatin1String(name.name));
-        if (command == Command::Report) {
-            parser.addPositionalArgument(QStringLiteral("FILE"),
-                                         QStringLiteral("A report that a run has written."),
-                                         QStringLiteral("FILE..."));
-        }
-        return parser.helpText();
+    HelpLayout help;
+    help.addParagraph(qtTrId("ID_Host_Help_Usage").arg(usageOf(name)));
+    help.addParagraph(qtTrId(name.textId));
+    help.addList(qtTrId("ID_Host_Help_Options"), optionRows(name.bit));
+    if (command == Command::Report) {
+        help.addList(qtTrId("ID_Host_Help_Arguments"),
+                     {{QStringLiteral("FILE"), qtTrId("ID_Host_Help_File")}});
     }
-    QString syntax = QStringLiteral("[devices|network|serve|report]");
-    for (const CommandName& other : CommandNames) {
-        if (other.command != Command::Check) {
-            parser.addPositionalArgument(QLatin1String(other.name),
-                                         QLatin1String(other.description), syntax);
-            syntax = QStringLiteral(" "); // shown once
-        }
+    if (command == Command::Check) {
+        help.addList(qtTrId("ID_Host_Help_Commands"), commandRows());
+        help.addParagraph(qtTrId("ID_Host_Help_NoCommand"));
+        help.addList(qtTrId("ID_Host_Help_ExitCodes"), exitCodeRows());
     }
-    return parser.helpText() +
-           QStringLiteral("\nWithout a command the check opens. Each command has its own --help."
-                          "\n\nExit codes: 0 all passed, 1 finished with failures, 2 left early, "
-                          "3 put out by the engine,\n4 the tour found a fault, 64 wrong usage, 65 "
-                          "a named file can't be "
-                          "used, 69 something needed isn't there,\n73 a file can't be written.\n");
+    return help.toText();
 }

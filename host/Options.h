@@ -39,8 +39,8 @@ struct Options
     Command helpFor = Command::Check; // for Command::Help
     QString error;                    // empty, or one line with the problem and what to do
 
-    // The first argument is the program's name.
+    // The first argument is the program's name. Messages and help need the texts of a language.
     static Options parse(const QStringList& arguments);
-    // What --help prints. Needs an application object.
-    static QString helpText(Command command);
+    static QString languageIn(const QStringList& arguments); // as given, also with wrong options
+    static QString helpText(Command command);                // what --help prints
 };

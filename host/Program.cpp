@@ -5,6 +5,8 @@
 #include "host/Console.h"
 #include "host/DisplayLoss.h"
 #include "host/DisplayTrial.h"
+#include "host/EarlyTexts.h"
+#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/ProgramEnd.h"
 #include "host/ScreenFit.h"
@@ -48,7 +50,7 @@ std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[]
     return application;
 }
 
-ExitCode runCommand(const Options& options)
+ExitCode runCommand(const Options& options, const QString& language)
 {
     switch (options.command) {
     case Options::Command::Version:
@@ -58,7 +60,7 @@ ExitCode runCommand(const Options& options)
         Console::print(Options::helpText(options.helpFor));
         return ExitCode::AllPassed;
     case Options::Command::Check:
-        return CheckCommand(options).run();
+        return CheckCommand(options).run(language);
     case Options::Command::Devices:
         return DevicesCommand::run(options);
     case Options::Command::Network:
@@ -66,24 +68,57 @@ ExitCode runCommand(const Options& options)
     case Options::Command::Serve:
         return ServeCommand::run(options);
     case Options::Command::Report:
-        return ReportCommand::run(options);
+        return ReportCommand::run(options, language);
     }
     return ExitCode::WrongUsage;
+}
+
+// Reads the options before the application object is made, which depends on them.
+ExitCode readOptions(const QStringList& arguments, char* argv[], Options& options)
+{
+    const EarlyTexts texts(argv, Options::languageIn(arguments));
+    if (texts.areMissing()) {
+        Console::printError(texts.problem());
+        return ExitCode::Unavailable;
+    }
+    options = Options::parse(arguments);
+    const bool isHelp =
+        options.command == Options::Command::Help || options.command == Options::Command::Version;
+    const QString problem = options.error.isEmpty() && !isHelp ? texts.problem() : options.error;
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        return ExitCode::WrongUsage;
+    }
+    return ExitCode::AllPassed;
+}
+
+// Ends the process while the texts are there.
+[[noreturn]] void runWithTexts(const Options& options, const TerminationSignals& signals)
+{
+    Languages languages;
+    languages.use(options.language); // readOptions() told of problems
+    const ExitCode code = runCommand(options, languages.current());
+    if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
+        Console::printError(qtTrId("ID_Host_OutputNotWritten"));
+        ProgramEnd::leave(ExitCode::CannotWrite);
+    }
+    ProgramEnd::leave(code);
 }
 
 } // namespace
 
 ExitCode Program::run(int argc, char* argv[])
 {
-    const Options options = Options::parse(System::arguments(argc, argv));
-    if (!options.error.isEmpty()) {
-        Console::printError(options.error);
-        return ExitCode::WrongUsage;
-    }
+    // Texts need an application, which may need more files than there are: English it is.
     const QString limits = System::problemOfLimits();
     if (!limits.isEmpty()) {
         Console::printError(limits);
         return ExitCode::Unavailable;
+    }
+    Options options;
+    const ExitCode readCode = readOptions(System::arguments(argc, argv), argv, options);
+    if (readCode != ExitCode::AllPassed) {
+        return readCode;
     }
     // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
@@ -92,7 +127,8 @@ ExitCode Program::run(int argc, char* argv[])
     ScreenFit::takeFactorsAsTheyAre();
     const bool isCheck = options.command == Options::Command::Check;
     auto trial = isCheck ? std::make_unique<DisplayTrial>(shownCount, argv) : nullptr;
-    if (trial && !trial->problem().isEmpty()) {
+    if (trial && trial->hasFailed()) {
+        const EarlyTexts texts(argv, options.language);
         Console::printError(trial->problem());
         return ExitCode::Unavailable;
     }
@@ -102,10 +138,5 @@ ExitCode Program::run(int argc, char* argv[])
                 : std::make_unique<QCoreApplication>(shownCount, argv);
     trial.reset();
     const TerminationSignals signals;
-    const ExitCode code = runCommand(options);
-    if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
-        Console::printError(QStringLiteral("the output can't be written; is the disk full?"));
-        ProgramEnd::leave(ExitCode::CannotWrite);
-    }
-    ProgramEnd::leave(code);
+    runWithTexts(options, signals);
 }

@@ -6,6 +6,7 @@
 #include "host/System.h"
 #include "platform/backend/FileWriter.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 
 #include <algorithm>
@@ -41,7 +42,7 @@ void ProgramEnd::leave(ExitCode code)
     const Platform::FileWriter::Outcome files = Platform::FileWriter::outcome();
     for (const QString& path : files.waiting) {
         Console::printError(
-            QStringLiteral("%1 isn't written: the disk doesn't answer; is it in order?").arg(path));
+            qtTrId("ID_Host_File_NotWritten").arg(path, QStringLiteral("the disk doesn't answer")));
     }
     const bool isComplete = files.waiting.isEmpty() && files.failed.isEmpty();
     System::leave(isComplete || isWrongEnd(code) ? code : ExitCode::CannotWrite);

@@ -7,7 +7,6 @@
 #include "host/DisplayLoss.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
-#include "host/Languages.h"
 #include "host/ProgramEnd.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportBuilder.h"
@@ -46,18 +45,12 @@ CheckCommand::CheckCommand(const Options& options) : m_options(options)
 {
 }
 
-ExitCode CheckCommand::run()
+ExitCode CheckCommand::run(const QString& language)
 {
-    Languages languages;
-    const QString languageProblem = languages.use(m_options.language);
-    if (!languageProblem.isEmpty()) {
-        Console::printError(languageProblem);
-        return m_options.language.isEmpty() ? ExitCode::Unavailable : ExitCode::WrongUsage;
-    }
     if (!prepareTour() || !prepareFiles() || !prepareRedaction()) {
         return ExitCode::CannotWrite;
     }
-    return open(languages.current());
+    return open(language);
 }
 
 bool CheckCommand::prepareTour()
@@ -66,8 +59,7 @@ bool CheckCommand::prepareTour()
     if (folder.isEmpty() || QDir().mkpath(folder)) {
         return true;
     }
-    Console::printError(
-        QStringLiteral("--tour %1: this folder can't be made; name another one").arg(folder));
+    Console::printError(qtTrId("ID_Host_Tour_NoFolder").arg(folder));
     return false;
 }
 
@@ -96,8 +88,7 @@ bool CheckCommand::prepareFiles()
     Folders::makeReports();
     const QString wrong = Platform::WholeFile::problem(Folders::runs());
     if (!wrong.isEmpty()) {
-        Console::printError(
-            QStringLiteral("%1 can't be written: %2; move it away").arg(Folders::runs(), wrong));
+        Console::printError(qtTrId("ID_Host_File_NotWritten").arg(Folders::runs(), wrong));
     }
     return wrong.isEmpty();
 }
@@ -207,11 +198,11 @@ ExitCode CheckCommand::endTour(Tour& tour, const QString& language, ExitCode out
     const QString folder = QDir(m_options.tourFolder).absolutePath();
     QString error;
     if (!tour.finish(QStringLiteral("envcheck (%1)").arg(language), &error)) {
-        Console::printError(QStringLiteral("%1: %2; name another folder").arg(folder, error));
+        Console::printError(qtTrId("ID_Host_Tour_NotWritten").arg(folder, error));
         return ExitCode::CannotWrite;
     }
-    Console::print(QStringLiteral("%1 pictures stand in %2; index.html shows them all.\n")
-                       .arg(QString::number(tour.pictureCount()), folder));
+    Console::print(qtTrId("ID_Host_Tour_Done").arg(QString::number(tour.pictureCount()), folder) +
+                   QLatin1Char('\n'));
     for (const QString& problem : tour.problems()) {
         Console::printError(problem);
     }

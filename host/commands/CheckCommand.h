@@ -21,7 +21,8 @@ class CheckCommand
 public:
     explicit CheckCommand(const Options& options);
 
-    ExitCode run(); // returns when the dialog is closed and the files are written
+    ExitCode
+    run(const QString& language); // returns when the dialog is closed and the files are written
 
 private:
     bool isTour() const { return !m_options.tourFolder.isEmpty(); }

@@ -5,11 +5,11 @@
 #include "host/Console.h"
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
-#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/report/NetworkGrade.h"
 #include "host/report/ReportWords.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/Log.h"
 #include "platform/backend/NetworkLimits.h"
 
 #include <QCoreApplication>
@@ -58,18 +58,18 @@ private:
     QString line() const
     {
         if (m_last.delayMs < 0) {
-            return QStringLiteral("no answer, loss %1 %, sent %2, answered %3")
+            return qtTrId("ID_Host_Network_NoAnswer")
                 .arg(m_last.lossPercent)
                 .arg(m_last.sent)
                 .arg(m_last.answered);
         }
-        return QStringLiteral("delay %1 ms, jitter %2 ms, loss %3 %, sent %4, answered %5: %6")
+        return qtTrId("ID_Host_Network_Figures")
             .arg(m_last.delayMs)
             .arg(m_last.jitterMs)
             .arg(m_last.lossPercent)
             .arg(m_last.sent)
             .arg(m_last.answered)
-            .arg(ReportWords::of(NetworkGrade::of(m_last).level));
+            .arg(qtTrId(ReportWords::textId(NetworkGrade::of(m_last).level)));
     }
 
     const int m_count;
@@ -82,13 +82,6 @@ private:
 
 ExitCode NetworkCommand::run(const Options& options)
 {
-    // The name of the built-in responder is a text.
-    Languages languages;
-    const QString problem = languages.use(QStringLiteral("en"));
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-        return ExitCode::Unavailable;
-    }
     InstalledEngine installed(options, Folders::data());
     if (!installed.error().isEmpty()) {
         Console::printError(installed.error());
@@ -98,9 +91,10 @@ ExitCode NetworkCommand::run(const Options& options)
         return ExitCode::SomeFailed;
     }
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
-    Console::print(QStringLiteral("server %1, this machine %2\n")
+    Console::print(qtTrId("ID_Host_Network_Ends")
                        .arg(Console::plainLine(facts.serverName()),
-                            Console::plainLine(facts.clientAddress())));
+                            Console::plainLine(facts.clientAddress())) +
+                   QLatin1Char('\n'));
     const FigurePrinter printer(installed.engine(), options.count);
     bool isUnmeasured = false;
     QTimer::singleShot(FirstFigureMs, QCoreApplication::instance(), [&printer, &isUnmeasured] {
@@ -111,8 +105,9 @@ ExitCode NetworkCommand::run(const Options& options)
     });
     QCoreApplication::exec();
     if (isUnmeasured) {
-        Console::printError(QStringLiteral("nothing is measured: the system may refuse more "
-                                           "threads; end other programs, or raise the limit"));
+        // A fault of the system as rare as this has no text in every language.
+        qCWarning(Platform::Log::network, "Nothing is measured: the system may refuse more "
+                                          "threads. End other programs, or raise the limit");
         return ExitCode::Unavailable;
     }
     if (options.count == 0 && Console::isTerminal()) {

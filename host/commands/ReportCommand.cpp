@@ -4,7 +4,6 @@
 
 #include "host/Console.h"
 #include "host/Folders.h"
-#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportFile.h"
@@ -47,14 +46,9 @@ QString shown(const std::vector<Report>& reports, const QStringList& names, Opti
 
 } // namespace
 
-ExitCode ReportCommand::run(const Options& options)
+ExitCode ReportCommand::run(const Options& options, const QString& language)
 {
-    Languages languages;
-    QString problem = languages.use(options.language);
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-        return options.language.isEmpty() ? ExitCode::Unavailable : ExitCode::WrongUsage;
-    }
+    QString problem;
     QByteArray key;
     if (options.redaction == Options::Redaction::Hash) {
         key = ReportFile::redactionKey(Folders::redactionKey(), &problem);
@@ -75,6 +69,6 @@ ExitCode ReportCommand::run(const Options& options)
         reports.push_back(redaction.redacted(*report));
         names << QFileInfo(file).completeBaseName();
     }
-    Console::print(shown(reports, names, options.format, languages.current()));
+    Console::print(shown(reports, names, options.format, language));
     return ExitCode::AllPassed;
 }

@@ -4,11 +4,12 @@
 
 #include "host/ExitCode.h"
 
+class QString;
 struct Options;
 
 // The command "report": shows reports of earlier runs. GUI thread only.
 namespace ReportCommand {
 
-ExitCode run(const Options& options);
+ExitCode run(const Options& options, const QString& language);
 
 } // namespace ReportCommand

@@ -16,23 +16,18 @@ ExitCode ServeCommand::run(const Options& options)
     const Platform::StunResponder responder(QHostAddress::Any, options.port);
     const quint16 port = responder.server().port;
     if (port == 0) {
-        Console::printError(QStringLiteral("UDP port %1 can't be answered on: %2. Choose another "
-                                           "by --port")
-                                .arg(options.port)
-                                .arg(responder.errorString()));
+        Console::printError(
+            qtTrId("ID_Host_Serve_NoPort").arg(options.port).arg(responder.errorString()));
         return ExitCode::Unavailable;
     }
-    Console::print(QStringLiteral("Answering on UDP port %1. Other machines measure the way here "
-                                  "by --server stun:HOST:%1\n")
-                       .arg(port));
+    Console::print(qtTrId("ID_Host_Serve_Answering").arg(port) + QLatin1Char('\n'));
     QCoreApplication::exec();
     return ExitCode::AllPassed;
 }
 #else
 ExitCode ServeCommand::run(const Options&)
 {
-    Console::printError(QStringLiteral("serve needs a program that was built with the real devices "
-                                       "(ENVCHECK_DEVICES)"));
+    Console::printError(qtTrId("ID_Host_Serve_NotBuilt"));
     return ExitCode::Unavailable;
 }
 #endif

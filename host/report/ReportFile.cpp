@@ -7,10 +7,12 @@
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <array>
+#include <cerrno>
 
 namespace {
 
@@ -19,7 +21,7 @@ constexpr int KeyBytes = KeyWords * static_cast<int>(sizeof(quint32));
 
 QString line(const QString& path, const QString& problem)
 {
-    return QStringLiteral("%1 can't be written: %2").arg(path, problem);
+    return qtTrId("ID_Host_File_NotWritten").arg(path, problem);
 }
 
 } // namespace
@@ -28,23 +30,25 @@ QString ReportFile::problemOfWriting(const QString& path)
 {
     const QString nameProblem = Platform::FileNames::problem(path);
     if (!nameProblem.isEmpty()) {
-        return line(path, nameProblem + QStringLiteral("; name another file"));
+        return line(path, qtTrId("ID_Host_File_NameOther").arg(nameProblem));
     }
     const QFileInfo file(path);
     const QFileInfo folder(file.absolutePath());
     if (file.isDir()) {
-        return line(path, QStringLiteral("it is a folder; name a file in it"));
+        return line(path, qtTrId("ID_Host_File_IsFolder"));
+    }
+    if (file.exists() && !file.isFile()) {
+        return line(path, qtTrId("ID_Host_File_NotOrdinary"));
     }
     const QString wrong = Platform::WholeFile::problem(path);
     if (!wrong.isEmpty()) {
-        return line(path, wrong + QStringLiteral("; name another file"));
+        return line(path, qtTrId("ID_Host_File_NameOther").arg(wrong));
     }
     if (!folder.isDir()) {
-        return line(path, QStringLiteral("there is no folder %1; make it, or name another file")
-                              .arg(folder.absoluteFilePath()));
+        return line(path, qtTrId("ID_Host_File_NoFolder").arg(folder.absoluteFilePath()));
     }
     if (!folder.isWritable() || (file.exists() && !file.isWritable())) {
-        return line(path, QStringLiteral("you have no right to; name another file"));
+        return line(path, qtTrId("ID_Host_File_NoRight"));
     }
     return {};
 }
@@ -57,32 +61,33 @@ QString ReportFile::write(const QString& path, const QByteArray& content, int ti
     }
     problem = Platform::FileWriter::replaceNow(path, content, timeoutMs);
     return problem.isEmpty() ? QString()
-                             : line(path, problem + QStringLiteral("; name another file"));
+                             : line(path, qtTrId("ID_Host_File_NameOther").arg(problem));
 }
 
 std::optional<Report> ReportFile::read(const QString& path, QString* error)
 {
+    if (QFileInfo(path).size() > MaxBytes) {
+        *error = qtTrId("ID_Host_File_NoReport").arg(path, qtTrId("ID_Host_File_TooLarge"));
+        return std::nullopt;
+    }
     QByteArray content;
     QString unreadable = Platform::FileNames::problem(path);
     if (unreadable.isEmpty() && !QFileInfo::exists(path)) {
-        unreadable = QStringLiteral("there is no such file");
+        unreadable = qt_error_string(ENOENT);
     }
     if (unreadable.isEmpty()) {
         unreadable = Platform::WholeFile::read(path, &content, MaxBytes);
     }
     if (!unreadable.isEmpty()) {
-        *error =
-            QStringLiteral("%1: %2; name a report that a run has written").arg(path, unreadable);
+        *error = qtTrId("ID_Host_File_NotRead").arg(path, unreadable);
         return std::nullopt;
     }
     QJsonParseError parsing = {};
     const QJsonDocument document = QJsonDocument::fromJson(content, &parsing);
     if (!document.isObject()) {
         const QString why =
-            document.isNull() ? parsing.errorString() : QStringLiteral("it is no object");
-        *error = QStringLiteral("%1: it isn't a report in JSON (%2); name one that a run has "
-                                "written")
-                     .arg(path, why);
+            document.isNull() ? parsing.errorString() : qtTrId("ID_Host_File_NoObject");
+        *error = qtTrId("ID_Host_File_NoReport").arg(path, why);
         return std::nullopt;
     }
     QString problem;

@@ -35,11 +35,6 @@ void EngineRegistry::uninstall()
     slot().engine.reset();
 }
 
-bool EngineRegistry::isInstalled()
-{
-    return slot().engine != nullptr;
-}
-
 Engine& EngineRegistry::engine()
 {
     if (!slot().engine) {

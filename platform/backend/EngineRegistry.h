@@ -16,7 +16,6 @@ namespace EngineRegistry {
 
 CLASSROOMBACKEND_EXPORT void install(std::unique_ptr<Engine> engine);
 CLASSROOMBACKEND_EXPORT void uninstall();
-CLASSROOMBACKEND_EXPORT bool isInstalled();
 CLASSROOMBACKEND_EXPORT Engine& engine(); // one must be installed
 // Increases with every install(): shows whether a cached reference is stale.
 CLASSROOMBACKEND_EXPORT int generation();

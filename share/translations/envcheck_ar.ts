@@ -247,13 +247,81 @@
         <source></source>
         <translation>لم يتغير شيء منذ ذلك الحين.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>الكاميرات</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>الميكروفونات</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>لم يتم العثور على أي جهاز</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>بُني هذا البرنامج من دون الأجهزة الحقيقية (ENVCHECK_DEVICES): استخدم --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>السماعات</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>انقطعت الشاشة وانتهى الفحص معها: توقف خادم X أو مركّب Wayland؛ ابدأ الفحص من جديد</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>لا توجد شاشة لفتح الفحص عليها: شغّله من جلسة سطح مكتب أو باستخدام xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>تعذّر فتح الشاشة %1: شغّل الفحص من جلسة سطح مكتب أو باستخدام xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>كل شيء سليم</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>لا يمكن استخدام ملف مذكور</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>تعذّرت الكتابة في ملف أو مجلد</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>غادر المستخدم قبل النهاية</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>أنهى الصف الجلسة</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>أحد الفحوص غير سليم</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>وجدت الجولة خطأ</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>لا توجد شاشة أو منفذ أو خادم</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>استخدام غير صحيح: تذكر الرسالة الخيار</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>المجسات المُجاب عنها</translation>
+        <translation>حزم الاختبار المُجاب عنها</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>أعلى تردد مسموع</translation>
+        <translation>أعلى تردد ملتقط</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -309,11 +377,11 @@
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
-        <translation>تذبذب التأخير</translation>
+        <translation>تذبذب التأخر</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
-        <translation>فقدان الحزم</translation>
+        <translation>فقد الحزم</translation>
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
@@ -333,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>التأخير في اتجاه واحد (نصف الذهاب والإياب)</translation>
+        <translation>التأخر في اتجاه واحد (نصف الذهاب والإياب)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -353,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>المجسات المُرسلة</translation>
+        <translation>حزم الاختبار المُرسلة</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>سُمع صوت</translation>
+        <translation>التُقط صوت</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -374,6 +442,46 @@
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>عرض الصورة</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>هذا مجلد؛ اذكر ملفًا داخله</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1؛ اذكر ملفًا آخر</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>المجلد %1 غير موجود؛ أنشئه أو اذكر ملفًا آخر</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>المستند ليس كائنًا</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 ليس تقريرًا بصيغة JSON (%2)؛ اذكر تقريرًا كتبه أحد الفحوص</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>لا تملك صلاحية الكتابة هناك؛ اذكر ملفًا آخر</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>هذا ليس ملفًا عاديًا؛ اذكر ملفًا آخر</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>تعذّرت قراءة %1: %2؛ اذكر تقريرًا كتبه أحد الفحوص</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>تعذّرت كتابة %1: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>الملف كبير جدًا</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>ضعيفة</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>المعاملات:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>يفحص الشبكة والكاميرا والسماعة والميكروفون قبل الدرس عبر الإنترنت.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>الأوامر:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>يعرض الكاميرات والميكروفونات والسماعات وحالاتها.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>رموز الخروج:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>تقرير كتبه أحد الفحوص.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>يقيس تأخر الشبكة وفقد الحزم ويعرض القيم أولًا بأول.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>من دون أمر يُفتح الفحص. لكل أمر مساعدة خاصة به (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>الخيارات:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>يعرض تقارير الفحوص السابقة نصًا أو HTML أو JSON، أو عدة تقارير في جدول واحد.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>يجيب عن قياسات الأجهزة الأخرى كخادم STUN صغير حتى يُوقَف.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>الاستخدام: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[الخيارات]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: لا توجد نصوص بهذه اللغة؛ اذكر إحدى هذه اللغات: %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
         <translation>آخر فحص سليم</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>لا يوجد فحص سابق نجح فيه كل شيء.</translation>
+        <translation>لا يوجد فحص سابق كان فيه كل شيء سليمًا.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>فشل القياس: %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>الخادم %1، هذا الكمبيوتر %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>التأخر %1 مث، التذبذب %2 مث، فقد الحزم %3%، المُرسل %4، المُجاب %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>لا استجابة، فقد الحزم %1%، المُرسل %2، المُجاب %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -459,21 +635,101 @@
         <source></source>
         <translation>لم يُقس: %1</translation>
     </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>الحساب المعروض؛ وهو افتراضيًا مستخدم النظام.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>شبكة CDN المعروضة.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>الانتهاء بعد N قيم؛ ومن دونه يستمر الأمر حتى يُوقَف.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (الافتراضي) أو html أو json أو room: سطر لكل تقرير.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>عرض هذه المساعدة.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>عرض JSON بدلًا من جدول.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>لغة النصوص، مثل en أو zh_CN؛ وهي افتراضيًا لغة النظام.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>الاسم المستعار المعروض؛ وهو افتراضيًا مستخدم النظام.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>الأجهزة المراد فحصها: devices (أجهزة هذا الكمبيوتر، الافتراضي) أو scripted (محاكاة).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>منفذ UDP للإجابة؛ افتراضيًا 3478، و0 يأخذ منفذًا شاغرًا.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>ما يُحذف: none (لا شيء، الافتراضي) أو personal (العناوين والأسماء والحسابات) أو hash (رموز قصيرة بدلًا منها).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>كتابة التقرير في FILE بدلًا من المكان الافتراضي؛ وامتداده (.json أو .html أو .txt) يحدد صيغته.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>العنوان الذي تُرسل إليه رموز التقرير.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>كتابة النتائج وحدها أيضًا في FILE بصيغة JSON بعد كل تغيير.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>ما تفعله الأجهزة المحاكاة: ملف أو اسم سيناريو مرفق مثل all-well. يتضمن --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>خادم STUN الذي يُقاس إليه التأخر وفقد الحزم، ويُكتب أيضًا stun:HOST:PORT؛ والمنفذ افتراضيًا 3478. من دون خادم يجيب هذا الكمبيوتر نفسه، وذلك لا يدل على حال الشبكة.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>المرور بكل الخطوات تلقائيًا وحفظ صورة لكل منها في FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>كتابة السجل في الطرفية أيضًا.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>عرض الإصدار.</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>اكتمل مع مشكلات</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
-        <translation>غودر قبل النهاية</translation>
+        <translation>غادر المستخدم قبل النهاية</translation>
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>نجح كل شيء</translation>
+        <translation>كل شيء سليم</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>أنهى الفصل الجلسة</translation>
+        <translation>أنهى الصف الجلسة</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>تعذّرت كتابة المخرجات؛ تأكد من أن القرص غير ممتلئ</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>كانت الأجهزة محاكاة وليست أجهزة هذا الحاسوب.</translation>
+        <translation>كانت الأجهزة محاكاة وليست أجهزة هذا الكمبيوتر.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -585,15 +841,127 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>الجهاز والحساب</translation>
+        <translation>الكمبيوتر والحساب</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>الوقت</translation>
+        <translation>التاريخ والوقت</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>تقرير فحص النظام</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>الإجابة على منفذ UDP %1. تقيس الأجهزة الأخرى الطريق إلى هنا باستخدام --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>تعذّرت الإجابة على منفذ UDP %1: %2. اختر منفذًا آخر باستخدام --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>يحتاج serve إلى برنامج بُني مع الأجهزة الحقيقية (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>غير متصل</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>مشغول</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>الوصول مرفوض</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>معطّل</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>لا يستجيب</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>متوقف</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>جاهز</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>بلا إشارة</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>يعمل</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>رقم من %1 إلى %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>إحدى هذه القيم: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST أو HOST:PORT، مع stun: قبله أو من دونه، مثل stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>عنوان http أو https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>عدد الصور %1 في %2؛ ويعرضها index.html كلها.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: تعذّر إنشاء هذا المجلد؛ اذكر مجلدًا آخر</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2؛ اذكر مجلدًا آخر</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>يحتاج --%1 إلى اسم غير فارغ</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>المعامل «%1» زائد: انظر --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>لا يُستخدم %1 مع %2: احذف أحدهما</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>يحتاج report إلى ملف تقرير (FILE): انظر report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>لا يُستخدم --%1 مع %2: انظر --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 انظر --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: القيمة المطلوبة %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>الفحص</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>أمر غير معروف «%1»: انظر --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -761,7 +1129,7 @@
     </message>
     <message id="ID_Skip">
         <source></source>
-        <translation>تخطٍّ</translation>
+        <translation>تخطي</translation>
     </message>
     <message id="ID_Volume">
         <source></source>

@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Drücken Sie auf Wiedergabe, hören Sie zu und wählen Sie das Geräusch, das Sie hören.</translation>
+        <translation>Drücken Sie auf „Hören“ und wählen Sie dann das Geräusch, das Sie hören.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -225,19 +225,19 @@
     </message>
     <message id="ID_HeadsetPage_sound0">
         <source></source>
-        <translation>Ton 1</translation>
+        <translation>Geräusch 1</translation>
     </message>
     <message id="ID_HeadsetPage_sound1">
         <source></source>
-        <translation>Ton 2</translation>
+        <translation>Geräusch 2</translation>
     </message>
     <message id="ID_HeadsetPage_sound2">
         <source></source>
-        <translation>Ton 3</translation>
+        <translation>Geräusch 3</translation>
     </message>
     <message id="ID_HeadsetPage_sound3">
         <source></source>
-        <translation>Ton 4</translation>
+        <translation>Geräusch 4</translation>
     </message>
     <message id="ID_Host_Changes">
         <source></source>
@@ -247,13 +247,81 @@
         <source></source>
         <translation>Seither hat sich nichts geändert.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Kameras</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Mikrofone</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>keine gefunden</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>dieses Programm wurde ohne die echten Geräte gebaut (ENVCHECK_DEVICES): nehmen Sie --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Lautsprecher</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>die Anzeige ist weg und damit die Prüfung: Der X-Server oder der Wayland-Compositor wurde beendet; starten Sie die Prüfung neu</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>es gibt keine Anzeige für die Prüfung: starten Sie sie in einer Desktop-Sitzung oder mit xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>die Anzeige %1 lässt sich nicht öffnen: starten Sie die Prüfung in einer Desktop-Sitzung oder mit xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>alles bestanden</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>eine angegebene Datei ist unbrauchbar</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>eine Datei oder ein Ordner lässt sich nicht schreiben</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>vorzeitig verlassen</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>die Sitzung wurde vom Klassenzimmer beendet</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>eine Prüfung ist fehlgeschlagen</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>der Rundgang hat einen Fehler gefunden</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>eine Anzeige, ein Port oder ein Server fehlt</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>falscher Aufruf: die Meldung nennt die Option</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>Beantwortete Proben</translation>
+        <translation>Beantwortete Messpakete</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>Höchste gehörte Frequenz</translation>
+        <translation>Höchste aufgenommene Frequenz</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -317,7 +385,7 @@
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
-        <translation>Lautstärke vom Nutzer geändert</translation>
+        <translation>Lautstärke vom Benutzer geändert</translation>
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
@@ -353,15 +421,15 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>Gesendete Proben</translation>
+        <translation>Gesendete Messpakete</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Ton gehört</translation>
+        <translation>Ton aufgenommen</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
-        <translation>Gespielter Ton</translation>
+        <translation>Abgespieltes Geräusch</translation>
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
@@ -375,45 +443,85 @@
         <source></source>
         <translation>Bildbreite</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>das ist ein Ordner; nennen Sie eine Datei darin</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; nennen Sie eine andere Datei</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>den Ordner %1 gibt es nicht; legen Sie ihn an oder nennen Sie eine andere Datei</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>das Dokument ist kein Objekt</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 ist kein Bericht in JSON (%2); nennen Sie einen, den eine Prüfung geschrieben hat</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>Sie dürfen dort nicht schreiben; nennen Sie eine andere Datei</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>das ist keine gewöhnliche Datei; nennen Sie eine andere</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>%1 lässt sich nicht lesen: %2; nennen Sie einen Bericht, den eine Prüfung geschrieben hat</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>Nein geantwortet, aber es kamen bewegte Bilder.</translation>
+        <translation>Mit Nein geantwortet, aber es kamen bewegte Bilder.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Nein geantwortet, aber das Mikrofon hörte etwas.</translation>
+        <translation>Mit Nein geantwortet, aber das Mikrofon nahm Ton auf.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>Nein geantwortet, aber den richtigen Ton gewählt.</translation>
+        <translation>Mit Nein geantwortet, aber das richtige Geräusch gewählt.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>Ja zu einem schwarzen Bild geantwortet.</translation>
+        <translation>Mit Ja geantwortet, obwohl das Bild schwarz war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>Ja zu einem eingefrorenen Bild geantwortet.</translation>
+        <translation>Mit Ja geantwortet, obwohl das Bild eingefroren war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Ja geantwortet, obwohl der Lautsprecher stumm war.</translation>
+        <translation>Mit Ja geantwortet, obwohl der Lautsprecher stumm war.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Ja geantwortet, aber das Mikrofon hörte nichts.</translation>
+        <translation>Mit Ja geantwortet, aber das Mikrofon nahm nichts auf.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>Ja geantwortet, aber nicht den richtigen Ton gewählt.</translation>
+        <translation>Mit Ja geantwortet, aber nicht das richtige Geräusch gewählt.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>Ja geantwortet, aber es kamen keine Bilder.</translation>
+        <translation>Mit Ja geantwortet, aber es kamen keine Bilder.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
-        <translation>Netzqualität</translation>
+        <translation>Netzwerkqualität</translation>
     </message>
     <message id="ID_Host_Grade_Fair">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>schlecht</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Argumente:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Prüft vor dem Online-Unterricht Netzwerk, Kamera, Lautsprecher und Mikrofon.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Befehle:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Listet Kameras, Mikrofone und Lautsprecher mit ihrem Zustand auf.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Rückgabewerte:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Ein Bericht, den eine Prüfung geschrieben hat.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Misst Verzögerung und Paketverlust und gibt die Werte laufend aus.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Ohne Befehl öffnet sich die Prüfung. Jeder Befehl hat seine eigene Hilfe (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Optionen:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Zeigt Berichte früherer Prüfungen als Text, HTML oder JSON, oder mehrere als eine Tabelle.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Beantwortet als kleiner STUN-Server die Messungen anderer Computer, bis er beendet wird.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: in dieser Sprache gibt es keine Texte; nennen Sie eine von %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Letzter guter Lauf</translation>
+        <translation>Letzte bestandene Prüfung</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Es gibt keinen früheren Lauf, in dem alles bestanden wurde.</translation>
+        <translation>Es gibt keine frühere Prüfung, in der alles bestanden wurde.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>Messung gescheitert: %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>Server %1, dieser Computer %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>Verzögerung %1 ms, Schwankung %2 ms, Paketverlust %3 %, gesendet %4, beantwortet %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>keine Antwort, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -458,6 +634,82 @@
     <message id="ID_Host_NotMeasured">
         <source></source>
         <translation>nicht gemessen: %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Konto, das angezeigt wird; sonst der Benutzer des Systems.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN, das angezeigt wird.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>Endet nach N Messwerten; sonst läuft der Befehl, bis er beendet wird.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (Standard), html, json oder room: eine Zeile je Bericht.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Gibt JSON statt einer Tabelle aus.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Sprache der Texte, etwa en oder zh_CN; sonst die des Systems.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Anzeigename; sonst der Benutzer des Systems.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Geräte, die geprüft werden: devices (die dieses Computers, Standard) oder scripted (simulierte).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>UDP-Port, auf dem geantwortet wird; Standard ist 3478, 0 nimmt einen freien.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>Was weggelassen wird: none (nichts, Standard), personal (Adressen, Namen und Konten) oder hash (kurze Codes an deren Stelle).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Adresse, an die Berichtscodes gesendet werden.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Schreibt nach jeder Änderung auch die bloßen Ergebnisse als JSON in FILE.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>Was die simulierten Geräte tun: eine Datei oder der Name eines mitgelieferten Szenarios wie all-well. Schließt --platform scripted ein.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>STUN-Server, zu dem Verzögerung und Paketverlust gemessen werden, auch als stun:HOST:PORT; der Port ist sonst 3478. Ohne Server antwortet ein kleiner Testserver auf diesem Computer, was nichts über das Netzwerk sagt.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Geht automatisch durch alle Schritte und speichert von jedem ein Bild in FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Schreibt auch das Protokoll ins Terminal.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Zeigt die Version.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -475,13 +727,17 @@
         <source></source>
         <translation>Die Sitzung wurde vom Klassenzimmer beendet</translation>
     </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>die Ausgabe lässt sich nicht schreiben; prüfen Sie, ob der Datenträger voll ist</translation>
+    </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
-        <translation>kein Gerät da</translation>
+        <translation>es ist kein Gerät da</translation>
     </message>
     <message id="ID_Host_Reason_Busy">
         <source></source>
-        <translation>ein anderes Programm hält das Gerät</translation>
+        <translation>ein anderes Programm belegt das Gerät</translation>
     </message>
     <message id="ID_Host_Reason_Denied">
         <source></source>
@@ -501,7 +757,7 @@
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
-        <translation>die Engine zeichnet es nicht auf</translation>
+        <translation>die Engine zeichnet diesen Wert nicht auf</translation>
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
@@ -509,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>ein gespieltes Gerät hat diesen Wert nicht</translation>
+        <translation>ein simuliertes Gerät hat diesen Wert nicht</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -521,7 +777,7 @@
     </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
-        <translation>Adressen, Namen und Konten sind durch kurze Kürzel ersetzt.</translation>
+        <translation>Adressen, Namen und Konten sind durch kurze Codes ersetzt.</translation>
     </message>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
@@ -529,7 +785,7 @@
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
-        <translation>Der Bericht steht in %1</translation>
+        <translation>Der Bericht liegt in %1</translation>
     </message>
     <message id="ID_Host_Report_Answer">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Ergebnis</translation>
+        <translation>Gesamtergebnis</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -569,15 +825,15 @@
     </message>
     <message id="ID_Host_Report_Result">
         <source></source>
-        <translation>Befund</translation>
+        <translation>Ergebnis</translation>
     </message>
     <message id="ID_Host_Report_RightSound">
         <source></source>
-        <translation>Richtiger Ton gewählt</translation>
+        <translation>Richtiges Geräusch gewählt</translation>
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Die Geräte waren gespielt, nicht die dieses Rechners.</translation>
+        <translation>Die Geräte waren simuliert, nicht die dieses Computers.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -585,15 +841,127 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>Rechner und Konto</translation>
+        <translation>Computer und Konto</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Zeit</translation>
+        <translation>Zeitpunkt</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>Bericht der Systemprüfung</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Antwortet auf UDP-Port %1. Andere Computer messen den Weg hierher mit --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>auf UDP-Port %1 kann nicht geantwortet werden: %2. Wählen Sie mit --port einen anderen</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve braucht ein Programm, das mit den echten Geräten gebaut wurde (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>nicht angeschlossen</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>belegt</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>ausgefallen</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>antwortet nicht</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>bereit</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>liefert nichts</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>funktioniert</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>eines von: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST oder HOST:PORT, auch mit stun: davor, etwa stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>eine Adresse mit http oder https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>%1 Bilder liegen in %2; index.html zeigt sie alle.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: dieser Ordner lässt sich nicht anlegen; nennen Sie einen anderen</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; nennen Sie einen anderen Ordner</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 braucht einen Namen, der nicht leer ist</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>„%1“ ist ein Argument zu viel: siehe --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 passt nicht zu %2: lassen Sie eines weg</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report braucht die Datei (FILE) eines Berichts: siehe report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 passt nicht zu %2: siehe --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 Siehe --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: erwartet wird %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>der Prüfung</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>unbekannter Befehl „%1“: siehe --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

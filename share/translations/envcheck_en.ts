@@ -247,6 +247,74 @@
         <source></source>
         <translation>Nothing has changed since then.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Cameras</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Microphones</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>none found</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>this program was built without the real devices (ENVCHECK_DEVICES): use --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Speakers</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>the display has gone, so the check has ended: the X server or the Wayland compositor was closed; start the check again</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>there is no display to open the check on: start it from a desktop session, or with xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>the display %1 can't be opened: start the check from a desktop session, or with xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>every check passed</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>a named file can't be used</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>a file or folder can't be written</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>the user left early</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>the session was ended by the classroom</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>a check failed</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>the tour found a fault</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>a display, port or server is missing</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>wrong usage: the message names the option</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>Probes answered</translation>
@@ -375,6 +443,46 @@
         <source></source>
         <translation>Picture width</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>it is a folder; name a file in it</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; name another file</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>there is no folder %1; make it, or name another file</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>the document is not an object</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 is not a report in JSON (%2); name one that the check has written</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>you have no right to write there; name another file</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>it is not an ordinary file; name another one</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>%1 can't be read: %2; name a report that the check has written</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>%1 can't be written: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>it is too large</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
         <translation>Answered no, but moving pictures came.</translation>
@@ -435,6 +543,62 @@
         <source></source>
         <translation>poor</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Arguments:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Checks the network, the camera, the speaker and the microphone before an online class.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Commands:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Lists the cameras, microphones and speakers with their states.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Exit codes:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>A report that the check has written.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Measures delay and loss and prints the figures as they come.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Without a command the check opens. Each command has its own help (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Options:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Shows reports of earlier runs as text, HTML or JSON, or several as one table.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Answers measurements from other machines, as a small STUN server, until it is stopped.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Usage: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[options]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: there are no texts in this language; name one of %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
         <translation>Last good run</translation>
@@ -447,6 +611,18 @@
         <source></source>
         <translation>measuring failed: %1</translation>
     </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>server %1, this machine %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>delay %1 ms, jitter %2 ms, loss %3 %, sent %4, answered %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>no answer, loss %1 %, sent %2, answered %3</translation>
+    </message>
     <message id="ID_Host_No">
         <source></source>
         <translation>No</translation>
@@ -458,6 +634,82 @@
     <message id="ID_Host_NotMeasured">
         <source></source>
         <translation>not measured: %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Account to show; the system's user by default.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN to show.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>End after N figures; without it the command runs until it is stopped.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (the default), html, json, or room: one line for each report.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Show this help.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Print JSON instead of a table.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Language of the texts, such as en or zh_CN; the system's by default.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Nickname to show; the system's user by default.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Devices to check: devices (of this machine, the default) or scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>UDP port to answer on; 3478 by default, 0 takes a free one.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>What to leave out: none (the default), personal (no addresses, names and accounts) or hash (short codes in their place).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Write the report to FILE instead of the default place; the ending of its name (.json, .html or .txt) sets the format.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>The address to post report codes to.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Also write the results alone to FILE, as JSON, after each change.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>What the scripted devices do: a file, or the name of a bundled scenario such as all-well. Implies --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>STUN server to measure delay and loss with, also as stun:HOST:PORT; the port is 3478 by default. If no server is given, this machine answers itself, which says nothing about the network.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Go through every step automatically and save a picture of each in FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Also write the log to the terminal.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Show the version.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -474,6 +726,10 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>The session was ended by the classroom</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>the output can't be written; check whether the disk is full</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>The devices were scripted ones, not this machine’s.</translation>
+        <translation>The devices were scripted ones, not this machine's.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -594,6 +850,118 @@
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>System check report</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Answering on UDP port %1. Other machines measure the way here with --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>UDP port %1 can't be used: %2. Choose another with --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve needs a program that was built with the real devices (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>not connected</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>in use</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>access denied</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>failed</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>does not answer</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>off</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>ready</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>silent</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>works</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>a number from %1 to %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>one of these: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST or HOST:PORT, with or without stun: before it, such as stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>an http or https address</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>%1 pictures are in %2; index.html shows them all.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: this folder can't be made; name another one</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; name another folder</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 needs a name that isn't empty</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>'%1' is one argument too many: leave it out, or see --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 can't be used with %2: leave one out</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report needs the FILE of a report: see report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 can't be used with %2: see --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 See --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: it must be %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>the check</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>unknown command '%1': see --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Pulse el botón de reproducir, escuche y elija el sonido que oye.</translation>
+        <translation>Pulse «Oír», escuche y elija el sonido que oye.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -246,6 +246,74 @@
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Nada ha cambiado desde entonces.</translation>
+    </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Cámaras</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Micrófonos</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>no se encontró ninguno</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>este programa se compiló sin los dispositivos reales (ENVCHECK_DEVICES): use --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Altavoces</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>la pantalla ha desaparecido y con ella la comprobación: terminó el servidor X o el compositor de Wayland; inicie la comprobación de nuevo</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>no hay pantalla en la que abrir la comprobación: iníciela desde una sesión de escritorio o con xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>no se puede abrir la pantalla %1: inicie la comprobación desde una sesión de escritorio o con xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>todo correcto</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>un archivo indicado no se puede usar</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>no se puede escribir un archivo o una carpeta</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>el usuario salió antes del final</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>el aula cerró la sesión</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>falló alguna prueba</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>el recorrido encontró un fallo</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>falta una pantalla, un puerto o un servidor</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>uso incorrecto: el mensaje indica la opción</translation>
     </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
@@ -333,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Retardo de ida (mitad de la ida y vuelta)</translation>
+        <translation>Latencia de ida (mitad de la ida y vuelta)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -374,6 +442,46 @@
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>Ancho de la imagen</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>es una carpeta; indique un archivo dentro de ella</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; indique otro archivo</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>no existe la carpeta %1; créela o indique otro archivo</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>el documento no es un objeto</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 no es un informe en JSON (%2); indique uno escrito por una comprobación</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>no tiene permiso para escribir ahí; indique otro archivo</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>no es un archivo normal; indique otro</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>no se puede leer %1: %2; indique un informe escrito por una comprobación</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>no se puede escribir %1: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>es demasiado grande</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
@@ -435,6 +543,62 @@
         <source></source>
         <translation>mala</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Comprueba la red, la cámara, el altavoz y el micrófono antes de una clase en línea.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Comandos:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Muestra las cámaras, los micrófonos y los altavoces con su estado.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Códigos de salida:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Un informe escrito por una comprobación.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Mide la latencia y la pérdida de paquetes y muestra los valores según llegan.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Sin ningún comando se abre la comprobación. Cada comando tiene su propia ayuda (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Opciones:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Muestra informes de comprobaciones anteriores como texto, HTML o JSON, o varios en una tabla.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Responde a las mediciones de otros equipos, como pequeño servidor STUN, hasta que se detiene.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[opciones]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: no hay textos en este idioma; indique uno de estos: %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
         <translation>Última comprobación correcta</translation>
@@ -445,7 +609,19 @@
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
-        <translation>la medición falló: %1</translation>
+        <translation>no se pudo medir: %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>servidor %1, este equipo %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>latencia %1 ms, fluctuación %2 ms, pérdida %3 %, sondas enviadas %4, respondidas %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>sin respuesta, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -458,6 +634,82 @@
     <message id="ID_Host_NotMeasured">
         <source></source>
         <translation>no medido: %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Cuenta que se muestra; por defecto, el usuario del sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN que se muestra.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>Termina después de N valores; sin esta opción sigue hasta que se detiene.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (por defecto), html, json o room: una línea por informe.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Muestra esta ayuda.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Muestra JSON en lugar de una tabla.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Idioma de los textos, como en o zh_CN; por defecto, el del sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Apodo que se muestra; por defecto, el usuario del sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Dispositivos que se comprueban: devices (los de este equipo, por defecto) o scripted (simulados).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>Puerto UDP en el que se responde; por defecto 3478, 0 elige uno libre.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>Qué se omite: none (nada, por defecto), personal (direcciones, nombres y cuentas) o hash (códigos cortos en su lugar).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Escribe el informe en FILE en lugar del sitio habitual; la extensión (.json, .html o .txt) indica el formato.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Dirección a la que se envían los códigos de informe.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Escribe además los resultados en FILE, como JSON, después de cada cambio.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>Lo que hacen los dispositivos simulados: un archivo o el nombre de un escenario incluido, como all-well. Implica --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>Servidor STUN hasta el que se miden la latencia y la pérdida, también como stun:HOST:PORT; el puerto por defecto es 3478. Sin servidor responde este mismo equipo, lo que no dice nada de la red.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Recorre todos los pasos automáticamente y guarda una imagen de cada uno en FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Escribe también el registro en el terminal.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Muestra la versión.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -475,6 +727,10 @@
         <source></source>
         <translation>El aula cerró la sesión</translation>
     </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>no se puede escribir la salida; compruebe si el disco está lleno</translation>
+    </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
         <translation>no hay dispositivo</translation>
@@ -489,7 +745,7 @@
     </message>
     <message id="ID_Host_Reason_Failed">
         <source></source>
-        <translation>el dispositivo falló</translation>
+        <translation>el dispositivo ha fallado</translation>
     </message>
     <message id="ID_Host_Reason_Hung">
         <source></source>
@@ -505,7 +761,7 @@
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
-        <translation>el dispositivo está desactivado</translation>
+        <translation>el dispositivo está apagado</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Resultado</translation>
+        <translation>Resultado general</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -589,11 +845,123 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Fecha</translation>
+        <translation>Fecha y hora</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>Informe de la comprobación del sistema</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Respondiendo en el puerto UDP %1. Otros equipos miden el camino hasta aquí con --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>no se puede responder en el puerto UDP %1: %2. Elija otro con --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve necesita un programa compilado con los dispositivos reales (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>no conectado</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>en uso</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>acceso denegado</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>con fallos</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>no responde</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>apagado</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>listo</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>sin señal</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>funciona</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>un número del %1 al %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>uno de estos valores: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST o HOST:PORT, con o sin stun: delante, como stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>una dirección http o https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>%1 imágenes guardadas en %2; index.html las muestra todas.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: no se puede crear esta carpeta; indique otra</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; indique otra carpeta</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 necesita un nombre que no esté vacío</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>sobra el argumento «%1»: vea --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 no se puede usar con %2: quite una de las dos</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report necesita el archivo (FILE) de un informe: vea report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 no se puede usar con %2: vea --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 Vea --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: se espera %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>la comprobación</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>comando desconocido «%1»: vea --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -769,7 +1137,7 @@
     </message>
     <message id="ID_WelcomePage_StartTest">
         <source></source>
-        <translation>Empezar la prueba</translation>
+        <translation>Iniciar la comprobación</translation>
     </message>
     <message id="ID_WelcomePage_Welcome">
         <source></source>

@@ -5,7 +5,7 @@
     <name></name>
     <message id="ID_CameraPage_1">
         <source></source>
-        <translation>1. Vérifiez que l'appareil est branché et choisi dans la liste.</translation>
+        <translation>1. Vérifiez que l’appareil est branché et choisi dans la liste.</translation>
     </message>
     <message id="ID_CameraPage_2">
         <source></source>
@@ -13,7 +13,7 @@
     </message>
     <message id="ID_CameraPage_3">
         <source></source>
-        <translation>3. Ouvrez le cache de l'objectif ou allumez la caméra.</translation>
+        <translation>3. Ouvrez le cache de l’objectif ou allumez la caméra.</translation>
     </message>
     <message id="ID_CameraPage_4">
         <source></source>
@@ -21,7 +21,7 @@
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
-        <translation>5. Redémarrez l'ordinateur ou essayez un autre appareil.</translation>
+        <translation>5. Redémarrez l’ordinateur ou essayez un autre appareil.</translation>
     </message>
     <message id="ID_CameraPage_Camera">
         <source></source>
@@ -49,7 +49,7 @@
     </message>
     <message id="ID_CameraPage_NoCameraImageWasDetected">
         <source></source>
-        <translation>La caméra ne donne pas d'image</translation>
+        <translation>La caméra ne donne pas d’image</translation>
     </message>
     <message id="ID_CameraPage_NotDetected">
         <source></source>
@@ -93,7 +93,7 @@
     </message>
     <message id="ID_CheckResultPage_OK">
         <source></source>
-        <translation>Vous êtes prêt pour le cours.</translation>
+        <translation>Tout est prêt pour le cours.</translation>
     </message>
     <message id="ID_CheckResultPage_Redetect">
         <source></source>
@@ -105,7 +105,7 @@
     </message>
     <message id="ID_ContentPage_NotFinishedIfLeave">
         <source></source>
-        <translation>La vérification n'est pas terminée. Voulez-vous quitter ?</translation>
+        <translation>La vérification n’est pas terminée. Voulez-vous quitter ?</translation>
     </message>
     <message id="ID_Engine_BuiltInResponder">
         <source></source>
@@ -133,7 +133,7 @@
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
-        <translation>2. Augmentez le volume et vérifiez que le son n'est pas coupé.</translation>
+        <translation>2. Augmentez le volume et vérifiez que le son n’est pas coupé.</translation>
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
@@ -149,19 +149,19 @@
     </message>
     <message id="ID_HeadsetPage_CanHear">
         <source></source>
-        <translation>Oui, j'entends</translation>
+        <translation>Oui, j’entends</translation>
     </message>
     <message id="ID_HeadsetPage_CanNotHear">
         <source></source>
-        <translation>Je n'entends pas</translation>
+        <translation>Je n’entends pas</translation>
     </message>
     <message id="ID_HeadsetPage_ChoseWrong">
         <source></source>
-        <translation>Le bon son n'a pas été choisi</translation>
+        <translation>Le bon son n’a pas été choisi</translation>
     </message>
     <message id="ID_HeadsetPage_ClickHere">
         <source></source>
-        <translation>Vous n'entendez pas le son ? Cliquez ici</translation>
+        <translation>Vous n’entendez pas le son ? Cliquez ici</translation>
     </message>
     <message id="ID_HeadsetPage_Doorbell">
         <source></source>
@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Appuyez sur le bouton de lecture, écoutez et choisissez le son que vous entendez.</translation>
+        <translation>Appuyez sur « Écouter », puis choisissez le son que vous entendez.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -217,7 +217,7 @@
     </message>
     <message id="ID_HeadsetPage_choseNo">
         <source></source>
-        <translation>Vous n'entendez pas le son</translation>
+        <translation>Vous n’entendez pas le son</translation>
     </message>
     <message id="ID_HeadsetPage_play">
         <source></source>
@@ -247,6 +247,74 @@
         <source></source>
         <translation>Rien n’a changé depuis.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Caméras</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Micros</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>rien trouvé</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>ce programme a été compilé sans les appareils réels (ENVCHECK_DEVICES) : utilisez --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Haut-parleurs</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>l’affichage a disparu, et la vérification avec lui : le serveur X ou le compositeur Wayland s’est arrêté ; relancez la vérification</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>il n’y a pas d’affichage où ouvrir la vérification : lancez-la depuis une session de bureau ou avec xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>impossible d’ouvrir l’affichage %1 : lancez la vérification depuis une session de bureau ou avec xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>tout est réussi</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>un fichier indiqué est inutilisable</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>impossible d’écrire un fichier ou un dossier</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>l’utilisateur a quitté avant la fin</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>la session a été fermée par la classe</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>un test a échoué</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>la visite a trouvé un défaut</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>il manque un affichage, un port ou un serveur</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>mauvaise utilisation : le message nomme l’option</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>Sondes avec réponse</translation>
@@ -269,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>Périphérique par défaut après</translation>
+        <translation>Appareil par défaut après</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>Périphérique par défaut avant</translation>
+        <translation>Appareil par défaut avant</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -301,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>Fréquence du ronflement</translation>
+        <translation>Fréquence du ronflement secteur</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>Ronflement dans le bruit</translation>
+        <translation>Ronflement secteur dans le bruit</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -321,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Muet après</translation>
+        <translation>Son coupé après</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Muet avant</translation>
+        <translation>Son coupé avant</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -333,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Délai aller (moitié de l’aller-retour)</translation>
+        <translation>Latence aller (moitié de l’aller-retour)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -375,41 +443,81 @@
         <source></source>
         <translation>Largeur de l’image</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>c’est un dossier ; indiquez un fichier qui s’y trouve</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1 ; indiquez un autre fichier</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>le dossier %1 n’existe pas ; créez-le ou indiquez un autre fichier</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>le document n’est pas un objet</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 n’est pas un rapport en JSON (%2) ; indiquez-en un qu’une vérification a écrit</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>vous n’avez pas le droit d’y écrire ; indiquez un autre fichier</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>ce n’est pas un fichier ordinaire ; indiquez-en un autre</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>impossible de lire %1 : %2 ; indiquez un rapport qu’une vérification a écrit</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>impossible d’écrire %1 : %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>il est trop volumineux</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>Réponse « non », mais des images animées arrivaient.</translation>
+        <translation>Réponse « non », mais des images animées arrivaient.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Réponse « non », mais le micro captait du son.</translation>
+        <translation>Réponse « non », mais le micro captait du son.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>Réponse « non », mais le bon son a été choisi.</translation>
+        <translation>Réponse « non », mais le bon son a été choisi.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>Réponse « oui » devant une image noire.</translation>
+        <translation>Réponse « oui » devant une image noire.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>Réponse « oui » devant une image figée.</translation>
+        <translation>Réponse « oui » devant une image figée.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Réponse « oui » alors que le haut-parleur était muet.</translation>
+        <translation>Réponse « oui » alors que le son du haut-parleur était coupé.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Réponse « oui », mais le micro ne captait rien.</translation>
+        <translation>Réponse « oui », mais le micro ne captait rien.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>Réponse « oui », mais le bon son n’a pas été choisi.</translation>
+        <translation>Réponse « oui », mais le bon son n’a pas été choisi.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>Réponse « oui », mais aucune image n’arrivait.</translation>
+        <translation>Réponse « oui », mais aucune image n’arrivait.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>mauvaise</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Arguments :</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Vérifie le réseau, la caméra, le haut-parleur et le micro avant un cours en ligne.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Commandes :</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Affiche les caméras, les micros et les haut-parleurs avec leur état.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Codes de sortie :</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Un rapport écrit par une vérification.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Mesure la latence et la perte de paquets et affiche les valeurs au fur et à mesure.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Sans commande, la vérification s’ouvre. Chaque commande a sa propre aide (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Options :</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Affiche les rapports de vérifications antérieures en texte, HTML ou JSON, ou plusieurs en un tableau.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Répond aux mesures d’autres ordinateurs, comme petit serveur STUN, jusqu’à son arrêt.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[options]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1 : il n’y a pas de textes dans cette langue ; indiquez l’une de celles-ci : %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Dernier contrôle réussi</translation>
+        <translation>Dernière vérification réussie</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Aucun contrôle antérieur n’a entièrement réussi.</translation>
+        <translation>Aucune vérification antérieure n’a entièrement réussi.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
-        <translation>échec de la mesure : %1</translation>
+        <translation>échec de la mesure : %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>serveur %1, cet ordinateur %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>latence %1 ms, gigue %2 ms, perte %3 %, sondes envoyées %4, avec réponse %5 : %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>pas de réponse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -457,7 +633,83 @@
     </message>
     <message id="ID_Host_NotMeasured">
         <source></source>
-        <translation>non mesuré : %1</translation>
+        <translation>non mesuré : %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Compte à afficher ; par défaut, l’utilisateur du système.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN à afficher.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>S’arrête après N valeurs ; sans cette option, continue jusqu’à l’arrêt.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (par défaut), html, json ou room : une ligne par rapport.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Affiche du JSON au lieu d’un tableau.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Langue des textes, comme en ou zh_CN ; par défaut, celle du système.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Pseudo à afficher ; par défaut, l’utilisateur du système.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Appareils à vérifier : devices (ceux de cet ordinateur, par défaut) ou scripted (simulés).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>Port UDP sur lequel répondre ; 3478 par défaut, 0 prend un port libre.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>Ce qui est omis : none (rien, par défaut), personal (adresses, noms et comptes) ou hash (des codes courts à leur place).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Adresse à laquelle envoyer les codes de rapport.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Écrit aussi les résultats bruts dans FILE, en JSON, après chaque changement.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>Ce que font les appareils simulés : un fichier ou le nom d’un scénario fourni, comme all-well. Implique --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>Serveur STUN vers lequel mesurer la latence et la perte, aussi sous la forme stun:HOST:PORT ; le port est 3478 par défaut. Sans serveur, cet ordinateur se répond à lui-même, ce qui ne dit rien du réseau.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Parcourt toutes les étapes automatiquement et enregistre une image de chacune dans FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Écrit aussi le journal dans le terminal.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Affiche la version.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -474,6 +726,10 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>La session a été fermée par la classe</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>impossible d’écrire la sortie ; vérifiez si le disque est plein</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -589,11 +845,123 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Date</translation>
+        <translation>Date et heure</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
-        <translation>Rapport du contrôle du système</translation>
+        <translation>Rapport de la vérification du système</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Réponses sur le port UDP %1. D’autres ordinateurs mesurent le trajet jusqu’ici avec --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>impossible de répondre sur le port UDP %1 : %2. Choisissez-en un autre avec --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve demande un programme compilé avec les appareils réels (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>non connecté</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>déjà utilisé</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>accès refusé</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>en panne</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>ne répond pas</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>désactivé</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>prêt</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>aucun signal</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>fonctionne</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>un nombre de %1 à %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>l’une de ces valeurs : %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST ou HOST:PORT, avec ou sans stun: devant, comme stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>une adresse http ou https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>%1 images se trouvent dans %2 ; index.html les montre toutes.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1 : impossible de créer ce dossier ; indiquez-en un autre</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1 : %2 ; indiquez un autre dossier</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 demande un nom qui n’est pas vide</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>l’argument « %1 » est en trop : voir --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 ne va pas avec %2 : supprimez l’une des deux</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report demande le fichier (FILE) d’un rapport : voir report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 ne va pas avec %2 : voir --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 Voir --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2 : valeur attendue : %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>la vérification</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>commande inconnue « %1 » : voir --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -625,7 +993,7 @@
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
-        <translation>2. Réactivez le micro : cherchez un bouton ou une touche.</translation>
+        <translation>2. Réactivez le micro : cherchez un bouton ou une touche.</translation>
     </message>
     <message id="ID_MicrophonePage_3">
         <source></source>
@@ -641,7 +1009,7 @@
     </message>
     <message id="ID_MicrophonePage_CanHearOrSee">
         <source></source>
-        <translation>J'entends et je vois</translation>
+        <translation>J’entends et je vois</translation>
     </message>
     <message id="ID_MicrophonePage_CanNotHearOrSee">
         <source></source>

@@ -247,6 +247,74 @@
         <source></source>
         <translation>その後の変更はありません。</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>カメラ</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>マイク</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>見つかりません</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>このプログラムは実機なしでビルドされています（ENVCHECK_DEVICES）。--platform scripted を指定してください</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>スピーカー</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>画面との接続が切れ、チェックも終了しました。X サーバーまたは Wayland コンポジターが終了しています。チェックを開始し直してください</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>チェックを開く画面がありません。デスクトップから、または xvfb-run で起動してください</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>画面 %1 を開けません。デスクトップから、または xvfb-run でチェックを起動してください</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>すべて正常</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>指定されたファイルを使えない</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>ファイルまたはフォルダーに書き込めない</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>途中で終了</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>教室側がセッションを終了</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>異常のあるチェックがある</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>ツアーで不具合が見つかった</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>画面、ポート、サーバーのいずれかがない</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>使い方の誤り（メッセージがオプションを示す）</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>応答のあったプローブ</translation>
@@ -269,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>終了時の既定デバイス</translation>
+        <translation>終了時の既定の機器</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>開始時の既定デバイス</translation>
+        <translation>開始時の既定の機器</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -341,7 +409,7 @@
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>映像の枚数</translation>
+        <translation>映像のフレーム数</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
@@ -374,6 +442,46 @@
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>映像の幅</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>フォルダーです。その中のファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1。別のファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>フォルダー %1 がありません。作成するか、別のファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>文書がオブジェクトではありません</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 は JSON のレポートではありません（%2）。チェックが書き出したレポートを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>書き込む権限がありません。別のファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>通常のファイルではありません。別のファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>%1 を読み込めません：%2。チェックが書き出したレポートを指定してください</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>%1 に書き込めません：%2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>大きすぎます</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>不良</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>引数：</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>オンライン授業の前に、ネットワーク、カメラ、スピーカー、マイクをチェックします。</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>コマンド：</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>カメラ、マイク、スピーカーとその状態を一覧表示します。</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>終了コード：</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>チェックが書き出したレポート。</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>遅延とパケット損失を測定し、値を順次表示します。</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>コマンドを付けないとチェックが開きます。各コマンドにも --help があります。</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>オプション：</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>以前のチェックのレポートをテキスト、HTML、JSON で、または複数をまとめて 1 つの表で表示します。</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>小さな STUN サーバーとして、停止されるまでほかのパソコンの測定に応答します。</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>使い方：%1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[オプション]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1：この言語のテキストはありません。次から指定してください：%2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>前回の正常な実行</translation>
+        <translation>前回すべて正常だったチェック</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>すべて合格した以前の実行はありません。</translation>
+        <translation>すべて正常だった以前のチェックはありません。</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
-        <translation>測定失敗: %1</translation>
+        <translation>測定失敗：%1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>サーバー %1、このパソコン %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>遅延 %1 ms、ジッター %2 ms、パケット損失 %3%、送信 %4、応答 %5：%6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>応答なし、パケット損失 %1%、送信 %2、応答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -457,7 +633,83 @@
     </message>
     <message id="ID_Host_NotMeasured">
         <source></source>
-        <translation>未測定: %1</translation>
+        <translation>未測定：%1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>表示するアカウント。既定はシステムのユーザー。</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>表示する CDN。</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>N 個の値を表示したら終了します。指定しないと停止されるまで続けます。</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text（既定）、html、json、または room（レポートごとに 1 行）。</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>このヘルプを表示します。</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>表の代わりに JSON を出力します。</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>テキストの言語（en、zh_CN など）。既定はシステムの言語。</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>表示するニックネーム。既定はシステムのユーザー。</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>チェックする機器：devices（このパソコンの機器、既定）または scripted（シミュレーション）。</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>応答する UDP ポート。既定は 3478、0 なら空きポートを使います。</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>省く情報：none（なし、既定）、personal（アドレス、名前、アカウント）、または hash（短い記号に置き換え）。</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>レポートを既定の場所ではなく FILE に書き込みます。拡張子（.json、.html、.txt）で形式が決まります。</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>レポートコードの送信先アドレス。</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>変更のたびに、結果だけを JSON で FILE にも書き込みます。</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>シミュレーションの内容：ファイル、または all-well など付属シナリオの名前。--platform scripted も指定したことになります。</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>遅延とパケット損失を測定する相手の STUN サーバー。stun:HOST:PORT とも書けます。ポートの既定は 3478。サーバーを指定しないとこのパソコン自身が応答するため、ネットワークの状態は分かりません。</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>すべての手順を自動で進め、それぞれの画像を FOLDER に保存します。</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>ログをターミナルにも出力します。</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>バージョンを表示します。</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -469,11 +721,15 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>すべて合格</translation>
+        <translation>すべて正常</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>教室側がセッションを終了</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>出力を書き込めません。ディスクの空き容量を確認してください</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -481,11 +737,11 @@
     </message>
     <message id="ID_Host_Reason_Busy">
         <source></source>
-        <translation>別のプログラムが使用中</translation>
+        <translation>別のプログラムが使用しています</translation>
     </message>
     <message id="ID_Host_Reason_Denied">
         <source></source>
-        <translation>システムが使用を拒否</translation>
+        <translation>システムが使用を拒否しました</translation>
     </message>
     <message id="ID_Host_Reason_Failed">
         <source></source>
@@ -509,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>台本による機器にこの値はありません</translation>
+        <translation>シミュレーションの機器にこの値はありません</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -529,7 +785,7 @@
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
-        <translation>レポート: %1</translation>
+        <translation>レポート：%1</translation>
     </message>
     <message id="ID_Host_Report_Answer">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>機器は台本によるもので、この端末のものではありません。</translation>
+        <translation>機器はシミュレーションで、このパソコンのものではありません。</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -585,7 +841,7 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>端末とアカウント</translation>
+        <translation>パソコンとアカウント</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
@@ -594,6 +850,118 @@
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>システムチェックのレポート</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>UDP ポート %1 で応答しています。ほかのパソコンからは --server stun:HOST:%1 でここまでの経路を測定できます</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>UDP ポート %1 で応答できません：%2。--port で別のポートを選んでください</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve には、実機ありでビルドしたプログラムが必要です（ENVCHECK_DEVICES）</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>未接続</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>使用中</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>使用を拒否</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>故障</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>応答なし</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>オフ</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>準備完了</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>信号なし</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>正常</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>%1 から %2 までの数</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>次のいずれか：%1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST または HOST:PORT（先頭に「stun:」を付けてもよい。例：stun:stun.example.org:3478）</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>http または https のアドレス</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>画像 %1 枚を %2 に保存しました。index.html ですべて見られます。</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1：このフォルダーを作成できません。別のフォルダーを指定してください</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1：%2。別のフォルダーを指定してください</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 には空でない名前が必要です</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>引数「%1」は余分です。--help を参照してください</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 は %2 と一緒に使えません。どちらかを外してください</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report にはレポートのファイル（FILE）が必要です。report --help を参照してください</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 は %2 では使えません。--help を参照してください</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 --help を参照してください。</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2：指定できるのは %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>チェック</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>不明なコマンド「%1」。--help を参照してください</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -625,7 +993,7 @@
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
-        <translation>2. マイクのスイッチやミュートキーで消音を解除してください。</translation>
+        <translation>2. スイッチやキーでマイクのミュートを解除してください。</translation>
     </message>
     <message id="ID_MicrophonePage_3">
         <source></source>
@@ -685,7 +1053,7 @@
     </message>
     <message id="ID_MicrophonePage_Recording">
         <source></source>
-        <translation>話して</translation>
+        <translation>録音中</translation>
     </message>
     <message id="ID_Microphone_Check">
         <source></source>

@@ -33,7 +33,7 @@
     </message>
     <message id="ID_CameraPage_CannotSee">
         <source></source>
-        <translation>보이지 않아요</translation>
+        <translation>안 보여요</translation>
     </message>
     <message id="ID_CameraPage_ClickHere">
         <source></source>
@@ -53,7 +53,7 @@
     </message>
     <message id="ID_CameraPage_NotDetected">
         <source></source>
-        <translation>아직 응답하지 않은 항목입니다</translation>
+        <translation>아직 답하지 않은 항목입니다</translation>
     </message>
     <message id="ID_CameraPage_Yes">
         <source></source>
@@ -247,17 +247,85 @@
         <source></source>
         <translation>그 이후로 변경된 것이 없습니다.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>카메라</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>마이크</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>찾을 수 없음</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>이 프로그램은 실제 장치 없이 빌드되었습니다(ENVCHECK_DEVICES). --platform scripted를 사용하세요</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>스피커</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>디스플레이 연결이 끊겨 점검이 끝났습니다. X 서버나 Wayland 컴포지터가 종료되었습니다. 점검을 다시 시작하세요</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>점검을 열 디스플레이가 없습니다. 데스크톱 세션이나 xvfb-run으로 시작하세요</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>디스플레이 %1을(를) 열 수 없습니다. 데스크톱 세션이나 xvfb-run으로 점검을 시작하세요</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>모두 정상</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>지정한 파일을 사용할 수 없음</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>파일이나 폴더에 쓸 수 없음</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>사용자가 중간에 나감</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>교실에서 세션을 종료함</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>이상이 있는 점검 항목이 있음</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>둘러보기에서 문제를 발견함</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>디스플레이, 포트 또는 서버가 없음</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>잘못된 사용법: 메시지에 옵션이 표시됨</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
-        <translation>응답된 탐침</translation>
+        <translation>응답받은 측정 패킷</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>감지된 최고 주파수</translation>
+        <translation>들어온 소리의 최고 주파수</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
-        <translation>검은 화면 비율</translation>
+        <translation>검은 영상 비율</translation>
     </message>
     <message id="ID_Host_Figure_Brightness">
         <source></source>
@@ -265,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>잘린 소리</translation>
+        <translation>클리핑(소리 깨짐)</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -289,19 +357,19 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>첫 화면까지 걸린 시간</translation>
+        <translation>첫 영상까지 걸린 시간</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
-        <translation>멈춘 화면 비율</translation>
+        <translation>멈춘 영상 비율</translation>
     </message>
     <message id="ID_Host_Figure_Height">
         <source></source>
-        <translation>화면 높이</translation>
+        <translation>영상 높이</translation>
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>전원 잡음 주파수</translation>
+        <translation>전원 험 주파수</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
@@ -317,7 +385,7 @@
     </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
-        <translation>사용자가 음량을 조절함</translation>
+        <translation>사용자가 볼륨을 조절함</translation>
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
@@ -337,15 +405,15 @@
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
-        <translation>최대 소리</translation>
+        <translation>가장 큰 소리</translation>
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>화면 수</translation>
+        <translation>영상 프레임 수</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
-        <translation>화면 빈도</translation>
+        <translation>영상 프레임 속도</translation>
     </message>
     <message id="ID_Host_Figure_Seconds">
         <source></source>
@@ -353,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>보낸 탐침</translation>
+        <translation>보낸 측정 패킷</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>소리 감지됨</translation>
+        <translation>소리가 들어옴</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -365,19 +433,59 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>이후 음량</translation>
+        <translation>이후 볼륨</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>이전 음량</translation>
+        <translation>이전 볼륨</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
-        <translation>화면 너비</translation>
+        <translation>영상 너비</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>폴더입니다. 그 안의 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1. 다른 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>%1 폴더가 없습니다. 폴더를 만들거나 다른 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>문서가 객체가 아닙니다</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1: JSON 보고서가 아닙니다(%2). 점검에서 만든 보고서를 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>쓰기 권한이 없습니다. 다른 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>일반 파일이 아닙니다. 다른 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>%1: 읽을 수 없습니다(%2). 점검에서 만든 보고서를 지정하세요</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>%1: 쓸 수 없습니다. %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>파일이 너무 큽니다</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>‘아니요’라고 답했지만 움직이는 화면이 들어왔습니다.</translation>
+        <translation>‘아니요’라고 답했지만 움직이는 영상이 들어왔습니다.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
@@ -389,27 +497,27 @@
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>검은 화면인데 ‘예’라고 답했습니다.</translation>
+        <translation>검은 영상인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>멈춘 화면인데 ‘예’라고 답했습니다.</translation>
+        <translation>멈춘 영상인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>스피커가 음소거인데 ‘예’라고 답했습니다.</translation>
+        <translation>스피커가 음소거인데 ‘네’라고 답했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>‘예’라고 답했지만 마이크에 아무 소리도 없었습니다.</translation>
+        <translation>‘네’라고 답했지만 마이크에 아무 소리도 들어오지 않았습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>‘예’라고 답했지만 맞는 소리를 고르지 못했습니다.</translation>
+        <translation>‘네’라고 답했지만 맞는 소리를 고르지 못했습니다.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>‘예’라고 답했지만 화면이 들어오지 않았습니다.</translation>
+        <translation>‘네’라고 답했지만 영상이 들어오지 않았습니다.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>나쁨</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>인수:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>온라인 수업 전에 네트워크, 카메라, 스피커, 마이크를 점검합니다.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>명령:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>카메라, 마이크, 스피커와 그 상태를 나열합니다.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>종료 코드:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>점검에서 만든 보고서.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>지연과 패킷 손실을 측정하여 값을 바로 출력합니다.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>명령이 없으면 점검이 열립니다. 명령마다 --help가 있습니다.</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>옵션:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>이전 점검의 보고서를 텍스트, HTML, JSON으로 또는 여러 개를 하나의 표로 보여 줍니다.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>작은 STUN 서버로서 중지될 때까지 다른 컴퓨터의 측정에 응답합니다.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>사용법: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[옵션]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: 이 언어의 텍스트가 없습니다. 다음 중 하나를 지정하세요: %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>마지막 정상 실행</translation>
+        <translation>마지막으로 모두 정상인 점검</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>이전에 모두 통과한 실행이 없습니다.</translation>
+        <translation>이전에 모두 정상인 점검이 없습니다.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>측정 실패: %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>서버 %1, 이 컴퓨터 %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>지연 %1 ms, 지터 %2 ms, 패킷 손실 %3%, 보냄 %4, 응답 %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>응답 없음, 패킷 손실 %1%, 보냄 %2, 응답 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -459,9 +635,85 @@
         <source></source>
         <translation>측정하지 않음: %1</translation>
     </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>표시할 계정. 기본값은 시스템 사용자입니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>표시할 CDN.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>값 N개를 출력한 뒤 끝냅니다. 없으면 중지될 때까지 실행합니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text(기본값), html, json 또는 room(보고서마다 한 줄).</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>이 도움말을 표시합니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>표 대신 JSON을 출력합니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>en, zh_CN 같은 텍스트 언어. 기본값은 시스템 언어입니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>표시할 닉네임. 기본값은 시스템 사용자입니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>점검할 장치: devices(이 컴퓨터의 장치, 기본값) 또는 scripted(시뮬레이션).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>응답할 UDP 포트. 기본값은 3478이고 0이면 빈 포트를 사용합니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>제외할 정보: none(없음, 기본값), personal(주소, 이름, 계정) 또는 hash(짧은 코드로 바꿈).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>보고서를 기본 위치 대신 FILE에 씁니다. 확장자(.json, .html, .txt)로 형식이 정해집니다.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>보고서 코드를 보낼 주소.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>변경될 때마다 결과만 JSON으로 FILE에도 씁니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>시뮬레이션 장치의 동작: 파일 또는 all-well 같은 기본 제공 시나리오의 이름. --platform scripted도 지정한 것으로 봅니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>지연과 패킷 손실을 측정할 STUN 서버. stun:HOST:PORT로도 쓸 수 있고 기본 포트는 3478입니다. 서버가 없으면 이 컴퓨터가 응답하므로 네트워크 상태를 알 수 없습니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>모든 단계를 자동으로 진행하며 각 단계의 스크린샷을 FOLDER에 저장합니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>로그를 터미널에도 씁니다.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>버전을 표시합니다.</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
-        <translation>문제가 있는 채로 완료</translation>
+        <translation>문제가 있는 상태로 완료</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -469,11 +721,15 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>모두 통과</translation>
+        <translation>모두 정상</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>강의실에서 세션을 종료함</translation>
+        <translation>교실에서 세션을 종료함</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>출력을 쓸 수 없습니다. 디스크가 가득 찼는지 확인하세요</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -509,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>각본에 따른 장치에는 이 값이 없음</translation>
+        <translation>시뮬레이션 장치에는 이 값이 없음</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>이 컴퓨터가 아닌 각본에 따른 장치입니다.</translation>
+        <translation>이 컴퓨터의 장치가 아니라 시뮬레이션 장치입니다.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -589,15 +845,127 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>시간</translation>
+        <translation>일시</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>시스템 점검 보고서</translation>
     </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>UDP 포트 %1에서 응답 중입니다. 다른 컴퓨터에서 --server stun:HOST:%1로 여기까지의 경로를 측정할 수 있습니다</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>UDP 포트 %1에서 응답할 수 없습니다(%2). --port로 다른 포트를 선택하세요</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve에는 실제 장치와 함께 빌드된 프로그램이 필요합니다(ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>연결 안 됨</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>사용 중</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>접근 거부됨</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>오류</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>응답 없음</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>꺼짐</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>준비됨</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>신호 없음</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>정상</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>%1부터 %2까지의 숫자</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>다음 중 하나: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST 또는 HOST:PORT(앞에 stun:을 붙여도 됨. 예: stun:stun.example.org:3478)</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>http 또는 https 주소</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>스크린샷 %1개를 %2에 저장했습니다. index.html에서 모두 볼 수 있습니다.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: 이 폴더를 만들 수 없습니다. 다른 폴더를 지정하세요</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2. 다른 폴더를 지정하세요</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1에는 비어 있지 않은 이름이 필요합니다</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>‘%1’은(는) 필요 없는 인수입니다. --help를 참고하세요</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1과(와) %2은(는) 함께 쓸 수 없습니다. 하나를 빼세요</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report에는 보고서 파일(FILE)이 필요합니다. report --help를 참고하세요</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1은(는) %2에 쓸 수 없습니다. --help를 참고하세요</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 --help를 참고하세요.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: 사용할 수 있는 값은 %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>점검</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>알 수 없는 명령 ‘%1’. --help를 참고하세요</translation>
+    </message>
     <message id="ID_Host_Yes">
         <source></source>
-        <translation>예</translation>
+        <translation>네</translation>
     </message>
     <message id="ID_Kestrel_SystemTesting">
         <source></source>

@@ -133,7 +133,7 @@
     </message>
     <message id="ID_HeadsetPage_2">
         <source></source>
-        <translation>2. Aumente o volume e veja se o som não está mudo.</translation>
+        <translation>2. Aumente o volume e veja se o som não está silenciado.</translation>
     </message>
     <message id="ID_HeadsetPage_3">
         <source></source>
@@ -209,7 +209,7 @@
     </message>
     <message id="ID_HeadsetPage_Tip">
         <source></source>
-        <translation>Clique no botão de tocar, ouça e escolha o som que você ouve.</translation>
+        <translation>Clique em “Tocar”, ouça e escolha o som que você ouve.</translation>
     </message>
     <message id="ID_HeadsetPage_Typing">
         <source></source>
@@ -241,11 +241,79 @@
     </message>
     <message id="ID_Host_Changes">
         <source></source>
-        <translation>Mudanças</translation>
+        <translation>Alterações</translation>
     </message>
     <message id="ID_Host_Changes_None">
         <source></source>
         <translation>Nada mudou desde então.</translation>
+    </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Câmeras</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Microfones</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>nada encontrado</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>este programa foi compilado sem os dispositivos reais (ENVCHECK_DEVICES): use --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Alto-falantes</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>a tela desapareceu, e a verificação com ela: o servidor X ou o compositor Wayland terminou; inicie a verificação de novo</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>não há tela em que abrir a verificação: inicie-a em uma sessão da área de trabalho ou com xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>não é possível abrir a tela %1: inicie a verificação em uma sessão da área de trabalho ou com xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>tudo aprovado</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>um arquivo indicado não pode ser usado</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>não é possível gravar um arquivo ou uma pasta</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>o usuário saiu antes do fim</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>a sala encerrou a sessão</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>algum teste falhou</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>o percurso encontrou um defeito</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>falta uma tela, uma porta ou um servidor</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>uso incorreto: a mensagem indica a opção</translation>
     </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
@@ -321,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Mudo depois</translation>
+        <translation>Silenciado depois</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Mudo antes</translation>
+        <translation>Silenciado antes</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -375,41 +443,81 @@
         <source></source>
         <translation>Largura da imagem</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>é uma pasta; indique um arquivo dentro dela</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; indique outro arquivo</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>a pasta %1 não existe; crie-a ou indique outro arquivo</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>o documento não é um objeto</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 não é um relatório em JSON (%2); indique um que uma verificação gravou</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>você não tem permissão para gravar ali; indique outro arquivo</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>não é um arquivo comum; indique outro</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>não é possível ler %1: %2; indique um relatório que uma verificação gravou</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>não é possível gravar %1: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>é grande demais</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>A resposta foi não, mas chegavam imagens em movimento.</translation>
+        <translation>A resposta foi “não”, mas chegavam imagens em movimento.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>A resposta foi não, mas o microfone captava som.</translation>
+        <translation>A resposta foi “não”, mas o microfone captava som.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>A resposta foi não, mas o som certo foi escolhido.</translation>
+        <translation>A resposta foi “não”, mas o som certo foi escolhido.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>A resposta foi sim para uma imagem preta.</translation>
+        <translation>A resposta foi “sim” diante de uma imagem preta.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>A resposta foi sim para uma imagem congelada.</translation>
+        <translation>A resposta foi “sim” diante de uma imagem congelada.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>A resposta foi sim com o alto-falante mudo.</translation>
+        <translation>A resposta foi “sim” com o alto-falante silenciado.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>A resposta foi sim, mas o microfone não captou nada.</translation>
+        <translation>A resposta foi “sim”, mas o microfone não captou nada.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>A resposta foi sim, mas o som certo não foi escolhido.</translation>
+        <translation>A resposta foi “sim”, mas o som certo não foi escolhido.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>A resposta foi sim, mas não chegavam imagens.</translation>
+        <translation>A resposta foi “sim”, mas não chegavam imagens.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>ruim</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Verifica a rede, a câmera, o alto-falante e o microfone antes de uma aula on-line.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Comandos:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Lista as câmeras, os microfones e os alto-falantes com seu estado.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Códigos de saída:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Um relatório que uma verificação gravou.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Mede o atraso e a perda de pacotes e mostra os valores à medida que chegam.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Sem comando, a verificação é aberta. Cada comando tem sua própria ajuda (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Opções:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Mostra relatórios de verificações anteriores como texto, HTML ou JSON, ou vários em uma tabela.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Responde às medições de outros computadores, como um pequeno servidor STUN, até ser interrompido.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[opções]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: não há textos neste idioma; indique um destes: %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>Última verificação boa</translation>
+        <translation>Última verificação aprovada</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>Não há verificação anterior em que tudo passou.</translation>
+        <translation>Não há verificação anterior em que tudo foi aprovado.</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>a medição falhou: %1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>servidor %1, este computador %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>atraso %1 ms, variação %2 ms, perda %3%, sondas enviadas %4, respondidas %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>sem resposta, perda %1%, sondas enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -459,6 +635,82 @@
         <source></source>
         <translation>não medido: %1</translation>
     </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Conta a mostrar; por padrão, o usuário do sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN a mostrar.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>Termina depois de N valores; sem esta opção, continua até ser interrompido.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (padrão), html, json ou room: uma linha por relatório.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Mostra esta ajuda.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Mostra JSON em vez de uma tabela.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Idioma dos textos, como en ou zh_CN; por padrão, o do sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Apelido a mostrar; por padrão, o usuário do sistema.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Dispositivos a verificar: devices (os deste computador, padrão) ou scripted (simulados).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>Porta UDP em que responder; 3478 por padrão, 0 usa uma livre.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>O que omitir: none (nada, padrão), personal (endereços, nomes e contas) ou hash (códigos curtos no lugar deles).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Grava o relatório em FILE em vez do lugar padrão; a extensão (.json, .html ou .txt) define o formato.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Endereço para o qual enviar os códigos de relatório.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Grava também os resultados em FILE, como JSON, após cada mudança.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>O que os dispositivos simulados fazem: um arquivo ou o nome de um cenário incluído, como all-well. Implica --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>Servidor STUN até o qual medir o atraso e a perda, também como stun:HOST:PORT; a porta padrão é 3478. Sem servidor, este computador responde a si mesmo, o que nada diz sobre a rede.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Percorre todas as etapas automaticamente e salva uma imagem de cada uma em FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Grava também o log no terminal.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Mostra a versão.</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Concluída com problemas</translation>
@@ -469,11 +721,15 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>Tudo passou</translation>
+        <translation>Tudo aprovado</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>A sala encerrou a sessão</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>não é possível gravar a saída; veja se o disco está cheio</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Resultado</translation>
+        <translation>Resultado geral</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Os dispositivos eram simulados, não os desta máquina.</translation>
+        <translation>Os dispositivos eram simulados, não os deste computador.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -585,15 +841,127 @@
     </message>
     <message id="ID_Host_Report_System">
         <source></source>
-        <translation>Máquina e conta</translation>
+        <translation>Computador e conta</translation>
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Data</translation>
+        <translation>Data e hora</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>Relatório da verificação do sistema</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Respondendo na porta UDP %1. Outros computadores medem o caminho até aqui com --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>não é possível responder na porta UDP %1: %2. Escolha outra com --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve precisa de um programa compilado com os dispositivos reais (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>não conectado</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>em uso</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>acesso negado</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>com falha</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>não responde</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>desligado</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>pronto</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>sem sinal</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>funciona</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>um número de %1 a %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>um destes valores: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST ou HOST:PORT, com ou sem stun: na frente, como stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>um endereço http ou https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>%1 imagens estão em %2; index.html mostra todas.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: não é possível criar esta pasta; indique outra</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; indique outra pasta</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 precisa de um nome que não seja vazio</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>o argumento “%1” está sobrando: veja --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 não combina com %2: retire uma das duas</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report precisa do arquivo (FILE) de um relatório: veja report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 não combina com %2: veja --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 Veja --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: espera-se %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>a verificação</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>comando desconhecido “%1”: veja --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -625,7 +993,7 @@
     </message>
     <message id="ID_MicrophonePage_2">
         <source></source>
-        <translation>2. Ative o microfone: procure um botão ou tecla de mudo.</translation>
+        <translation>2. Ative o microfone: procure um botão ou tecla de silenciar.</translation>
     </message>
     <message id="ID_MicrophonePage_3">
         <source></source>
@@ -769,7 +1137,7 @@
     </message>
     <message id="ID_WelcomePage_StartTest">
         <source></source>
-        <translation>Iniciar o teste</translation>
+        <translation>Iniciar a verificação</translation>
     </message>
     <message id="ID_WelcomePage_Welcome">
         <source></source>

@@ -17,7 +17,7 @@
     </message>
     <message id="ID_CameraPage_4">
         <source></source>
-        <translation>4. Разрешите доступ к камере в настройках приватности.</translation>
+        <translation>4. Разрешите камеру в настройках конфиденциальности.</translation>
     </message>
     <message id="ID_CameraPage_5">
         <source></source>
@@ -247,13 +247,81 @@
         <source></source>
         <translation>С тех пор ничего не изменилось.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Камеры</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Микрофоны</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>ничего не найдено</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>программа собрана без настоящих устройств (ENVCHECK_DEVICES): укажите --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Динамики</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>дисплей пропал, и проверка вместе с ним: завершился X-сервер или композитор Wayland; запустите проверку снова</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>нет дисплея, на котором открыть проверку: запустите её из сеанса рабочего стола или через xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>не удаётся открыть дисплей %1: запустите проверку из сеанса рабочего стола или через xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>всё пройдено</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>указанный файл непригоден</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>не удаётся записать файл или папку</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>прервано пользователем</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>сеанс завершён классом</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>одна из проверок не пройдена</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>обход нашёл ошибку</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>нет дисплея, порта или сервера</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>неверный вызов: параметр назван в сообщении</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>Получено ответов</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>Наибольшая частота</translation>
+        <translation>Наибольшая уловленная частота</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -277,15 +345,15 @@
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
-        <translation>Время оборота (медиана)</translation>
+        <translation>Задержка туда и обратно (медиана)</translation>
     </message>
     <message id="ID_Host_Figure_Delay5">
         <source></source>
-        <translation>Время оборота (5-й процентиль)</translation>
+        <translation>Задержка туда и обратно (5-й процентиль)</translation>
     </message>
     <message id="ID_Host_Figure_Delay95">
         <source></source>
-        <translation>Время оборота (95-й процентиль)</translation>
+        <translation>Задержка туда и обратно (95-й процентиль)</translation>
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
@@ -321,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Без звука после</translation>
+        <translation>Звук отключён после проверки</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Без звука до</translation>
+        <translation>Звук отключён до проверки</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -333,7 +401,7 @@
     </message>
     <message id="ID_Host_Figure_OneWayDelay">
         <source></source>
-        <translation>Задержка в одну сторону (половина оборота)</translation>
+        <translation>Задержка в одну сторону (половина задержки туда и обратно)</translation>
     </message>
     <message id="ID_Host_Figure_Peak">
         <source></source>
@@ -341,7 +409,7 @@
     </message>
     <message id="ID_Host_Figure_Pictures">
         <source></source>
-        <translation>Кадров</translation>
+        <translation>Всего кадров</translation>
     </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
@@ -353,11 +421,11 @@
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
-        <translation>Отправлено проб</translation>
+        <translation>Отправлено запросов</translation>
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Звук услышан</translation>
+        <translation>Звук уловлен</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -365,15 +433,55 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>Громкость после</translation>
+        <translation>Громкость после проверки</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>Громкость до</translation>
+        <translation>Громкость до проверки</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>Ширина кадра</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>это папка; укажите файл в ней</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; укажите другой файл</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>нет папки %1; создайте её или укажите другой файл</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>документ не является объектом</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 — не отчёт в формате JSON (%2); укажите отчёт, записанный проверкой</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>у вас нет права записи туда; укажите другой файл</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>это не обычный файл; укажите другой</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>не удаётся прочитать %1: %2; укажите отчёт, записанный проверкой</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>не удаётся записать %1: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>он слишком большой</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
@@ -381,7 +489,7 @@
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Ответ «нет», но микрофон слышал звук.</translation>
+        <translation>Ответ «нет», но микрофон улавливал звук.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
@@ -397,11 +505,11 @@
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Ответ «да» при выключенном звуке.</translation>
+        <translation>Ответ «да» при отключённом звуке.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Ответ «да», но микрофон ничего не слышал.</translation>
+        <translation>Ответ «да», но микрофон ничего не улавливал.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
@@ -435,6 +543,62 @@
         <source></source>
         <translation>плохо</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Аргументы:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Проверяет сеть, камеру, динамик и микрофон перед онлайн-уроком.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Команды:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Показывает камеры, микрофоны и динамики и их состояние.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Коды завершения:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Отчёт, записанный проверкой.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Измеряет задержку и потери пакетов и сразу выводит значения.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Без команды открывается проверка. У каждой команды своя справка (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Параметры:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Показывает отчёты прежних проверок как текст, HTML или JSON либо несколько в одной таблице.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Отвечает на измерения других компьютеров как небольшой сервер STUN, пока его не остановят.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[параметры]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: на этом языке текстов нет; укажите один из этих: %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
         <translation>Последняя успешная проверка</translation>
@@ -447,6 +611,18 @@
         <source></source>
         <translation>измерить не удалось: %1</translation>
     </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>сервер %1, этот компьютер %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>задержка %1 мс, джиттер %2 мс, потери %3 %, отправлено запросов %4, получено ответов %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>нет ответа, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
+    </message>
     <message id="ID_Host_No">
         <source></source>
         <translation>Нет</translation>
@@ -458,6 +634,82 @@
     <message id="ID_Host_NotMeasured">
         <source></source>
         <translation>не измерено: %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Показываемая учётная запись; по умолчанию пользователь системы.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>Показываемая сеть CDN.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>Завершить после N значений; иначе команда работает, пока её не остановят.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (по умолчанию), html, json или room: одна строка на отчёт.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Показать эту справку.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>Вывести JSON вместо таблицы.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Язык текстов, например en или zh_CN; по умолчанию язык системы.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Показываемый псевдоним; по умолчанию пользователь системы.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Проверяемые устройства: devices (этого компьютера, по умолчанию) или scripted (имитируемые).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>Порт UDP для ответов; по умолчанию 3478, 0 — любой свободный.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>Что опустить: none (ничего, по умолчанию), personal (адреса, имена и учётные записи) или hash (заменить их короткими кодами).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Записать отчёт в FILE вместо обычного места; расширение (.json, .html или .txt) задаёт формат.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Адрес, на который отправляются коды отчёта.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Записывать также сами результаты в FILE как JSON после каждого изменения.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>Что делают имитируемые устройства: файл или имя готового сценария, например all-well. Подразумевает --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>Сервер STUN, до которого измеряются задержка и потери, также в виде stun:HOST:PORT; порт по умолчанию 3478. Без сервера отвечает сам этот компьютер, что ничего не говорит о сети.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Автоматически пройти все шаги и сохранить снимок каждого в FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Выводить журнал и в терминал.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Показать версию.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -474,6 +726,10 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>Сеанс завершён классом</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>не удаётся записать вывод; проверьте, не заполнен ли диск</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -509,7 +765,7 @@
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
-        <translation>у сценарного устройства нет этого значения</translation>
+        <translation>у имитируемого устройства нет этого значения</translation>
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Устройства были сценарными, а не этого компьютера.</translation>
+        <translation>Проверялись имитируемые устройства, а не устройства этого компьютера.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -589,11 +845,123 @@
     </message>
     <message id="ID_Host_Report_Time">
         <source></source>
-        <translation>Время</translation>
+        <translation>Дата и время</translation>
     </message>
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>Отчёт о проверке системы</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Ответы на порту UDP %1. Другие компьютеры измеряют путь сюда с помощью --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>не удаётся отвечать на порту UDP %1: %2. Выберите другой с помощью --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>для serve нужна программа, собранная с настоящими устройствами (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>не подключено</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>занято</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>нет доступа</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>сбой</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>не отвечает</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>выключено</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>готово</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>нет сигнала</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>работает</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>число от %1 до %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>одно из значений: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST или HOST:PORT, с stun: впереди или без, например stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>адрес http или https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>Снимков: %1, папка %2; все они показаны в index.html.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: не удаётся создать эту папку; укажите другую</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; укажите другую папку</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>для --%1 нужно непустое имя</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>лишний аргумент «%1»: см. --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 не сочетается с %2: уберите одно из них</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>для report нужен файл отчёта (FILE): см. report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 не сочетается с %2: см. --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 См. --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: допускается %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>проверкой</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>неизвестная команда «%1»: см. --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -633,7 +1001,7 @@
     </message>
     <message id="ID_MicrophonePage_4">
         <source></source>
-        <translation>4. Разрешите доступ к микрофону в настройках приватности.</translation>
+        <translation>4. Разрешите микрофон в настройках конфиденциальности.</translation>
     </message>
     <message id="ID_MicrophonePage_Again">
         <source></source>

@@ -247,6 +247,74 @@
         <source></source>
         <translation>Không có gì thay đổi kể từ đó.</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>Camera</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>Micrô</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>không tìm thấy</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>chương trình này được dựng không có thiết bị thật (ENVCHECK_DEVICES): hãy dùng --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>Loa</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>màn hình đã mất kết nối nên việc kiểm tra cũng dừng: máy chủ X hoặc trình tổng hợp Wayland đã kết thúc; hãy bắt đầu kiểm tra lại</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>không có màn hình để mở phần kiểm tra: hãy khởi động từ phiên màn hình nền hoặc bằng xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>không mở được màn hình %1: hãy khởi động phần kiểm tra từ phiên màn hình nền hoặc bằng xvfb-run</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>đạt toàn bộ</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>không dùng được tệp đã nêu</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>không ghi được tệp hoặc thư mục</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>người dùng rời đi trước khi xong</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>lớp học đã kết thúc phiên</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>có mục kiểm tra không đạt</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>phần dạo qua các bước phát hiện lỗi</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>thiếu màn hình, cổng hoặc máy chủ</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>dùng sai: thông báo nêu rõ tùy chọn</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>Số gói có hồi đáp</translation>
@@ -269,11 +337,11 @@
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
-        <translation>Thiết bị mặc định sau</translation>
+        <translation>Thiết bị mặc định sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_DefaultBefore">
         <source></source>
-        <translation>Thiết bị mặc định trước</translation>
+        <translation>Thiết bị mặc định trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_Delay">
         <source></source>
@@ -293,7 +361,7 @@
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
-        <translation>Hình đứng yên</translation>
+        <translation>Hình bị đứng</translation>
     </message>
     <message id="ID_Host_Figure_Height">
         <source></source>
@@ -309,7 +377,7 @@
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
-        <translation>Độ rung (jitter)</translation>
+        <translation>Độ dao động trễ (jitter)</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -321,11 +389,11 @@
     </message>
     <message id="ID_Host_Figure_MutedAfter">
         <source></source>
-        <translation>Tắt tiếng sau đó</translation>
+        <translation>Tắt tiếng sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_MutedBefore">
         <source></source>
-        <translation>Tắt tiếng trước đó</translation>
+        <translation>Tắt tiếng trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_NoiseFloor">
         <source></source>
@@ -357,7 +425,7 @@
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>Có nghe thấy âm thanh</translation>
+        <translation>Thu được âm thanh</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -365,51 +433,91 @@
     </message>
     <message id="ID_Host_Figure_VolumeAfter">
         <source></source>
-        <translation>Âm lượng sau đó</translation>
+        <translation>Âm lượng sau khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_VolumeBefore">
         <source></source>
-        <translation>Âm lượng trước đó</translation>
+        <translation>Âm lượng trước khi kiểm tra</translation>
     </message>
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>Chiều rộng hình</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>đây là thư mục; hãy nêu một tệp trong đó</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1; hãy nêu tệp khác</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>không có thư mục %1; hãy tạo thư mục hoặc nêu tệp khác</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>tài liệu không phải là đối tượng</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 không phải báo cáo JSON (%2); hãy nêu báo cáo do một lần kiểm tra ghi ra</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>bạn không có quyền ghi ở đó; hãy nêu tệp khác</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>đây không phải tệp thường; hãy nêu tệp khác</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>không đọc được %1: %2; hãy nêu báo cáo do một lần kiểm tra ghi ra</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>không ghi được %1: %2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>tệp quá lớn</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
-        <translation>Trả lời không, nhưng hình động vẫn đến.</translation>
+        <translation>Trả lời “không”, nhưng vẫn có hình chuyển động.</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodSound">
         <source></source>
-        <translation>Trả lời không, nhưng micrô có thu được âm thanh.</translation>
+        <translation>Trả lời “không”, nhưng micrô thu được âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_NoToRightSound">
         <source></source>
-        <translation>Trả lời không, nhưng đã chọn đúng âm thanh.</translation>
+        <translation>Trả lời “không”, nhưng đã chọn đúng âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>Trả lời có trước một hình đen.</translation>
+        <translation>Trả lời “có” khi hình bị đen.</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>Trả lời có trước một hình đứng yên.</translation>
+        <translation>Trả lời “có” khi hình bị đứng.</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>Trả lời có trong khi loa bị tắt tiếng.</translation>
+        <translation>Trả lời “có” khi loa bị tắt tiếng.</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>Trả lời có, nhưng micrô không thu được gì.</translation>
+        <translation>Trả lời “có”, nhưng micrô không thu được gì.</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>Trả lời có, nhưng không chọn đúng âm thanh.</translation>
+        <translation>Trả lời “có”, nhưng không chọn đúng âm thanh.</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>Trả lời có, nhưng không có hình nào đến.</translation>
+        <translation>Trả lời “có”, nhưng không có hình nào.</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -435,6 +543,62 @@
         <source></source>
         <translation>kém</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>Đối số:</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>Kiểm tra mạng, camera, loa và micrô trước giờ học trực tuyến.</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>Lệnh:</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>Liệt kê camera, micrô và loa cùng trạng thái.</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>Mã thoát:</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>Báo cáo do một lần kiểm tra ghi ra.</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>Đo độ trễ và tỷ lệ mất gói, in ra từng số đo.</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>Nếu không có lệnh, phần kiểm tra sẽ mở ra. Mỗi lệnh có trợ giúp riêng (--help).</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>Tùy chọn:</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>Hiển thị báo cáo của các lần kiểm tra trước dưới dạng văn bản, HTML hoặc JSON, hoặc gộp nhiều báo cáo thành một bảng.</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>Trả lời phép đo của các máy khác như một máy chủ STUN nhỏ, cho đến khi bị dừng.</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>Cách dùng: %1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[tùy chọn]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1: không có văn bản trong ngôn ngữ này; hãy chọn một trong %2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
         <translation>Lần kiểm tra đạt gần nhất</translation>
@@ -447,6 +611,18 @@
         <source></source>
         <translation>đo thất bại: %1</translation>
     </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>máy chủ %1, máy này %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>độ trễ %1 ms, dao động %2 ms, mất gói %3%, số gói đã gửi %4, có hồi đáp %5: %6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>không có hồi đáp, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
+    </message>
     <message id="ID_Host_No">
         <source></source>
         <translation>Không</translation>
@@ -458,6 +634,82 @@
     <message id="ID_Host_NotMeasured">
         <source></source>
         <translation>không đo: %1</translation>
+    </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>Tài khoản hiển thị; mặc định là người dùng của hệ thống.</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>CDN hiển thị.</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>Kết thúc sau N số đo; nếu không, lệnh chạy cho đến khi bị dừng.</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text (mặc định), html, json hoặc room: mỗi báo cáo một dòng.</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>Hiển thị trợ giúp này.</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>In JSON thay cho bảng.</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>Ngôn ngữ của văn bản, ví dụ en hoặc zh_CN; mặc định là ngôn ngữ của hệ thống.</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>Biệt danh hiển thị; mặc định là người dùng của hệ thống.</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>Thiết bị cần kiểm tra: devices (của máy này, mặc định) hoặc scripted (mô phỏng).</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>Cổng UDP để trả lời; mặc định là 3478, 0 là chọn một cổng trống.</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>Phần bỏ đi: none (không bỏ, mặc định), personal (địa chỉ, tên và tài khoản) hoặc hash (thay bằng mã ngắn).</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng.</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>Địa chỉ để gửi mã báo cáo.</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>Ghi thêm kết quả vào FILE dưới dạng JSON sau mỗi thay đổi.</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>Kịch bản của thiết bị mô phỏng: một tệp, hoặc tên kịch bản có sẵn như all-well. Bao hàm --platform scripted.</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>Máy chủ STUN để đo độ trễ và mất gói, cũng có thể viết stun:HOST:PORT; cổng mặc định là 3478. Nếu không có máy chủ, chính máy này trả lời, nên không nói lên điều gì về mạng.</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>Tự động đi qua mọi bước và lưu hình của từng bước vào FOLDER.</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>Ghi cả nhật ký ra cửa sổ dòng lệnh.</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>Hiển thị phiên bản.</translation>
     </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
@@ -474,6 +726,10 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>Lớp học đã kết thúc phiên</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>không ghi được đầu ra; hãy kiểm tra xem đĩa có bị đầy không</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -501,7 +757,7 @@
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
-        <translation>bộ máy không ghi lại mục này</translation>
+        <translation>hệ thống đo không ghi lại mục này</translation>
     </message>
     <message id="ID_Host_Reason_Off">
         <source></source>
@@ -513,7 +769,7 @@
     </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
-        <translation>không có gì từ thiết bị</translation>
+        <translation>không nhận được gì từ thiết bị</translation>
     </message>
     <message id="ID_Host_Reason_StepNotOpened">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>Kết quả</translation>
+        <translation>Kết quả chung</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -577,7 +833,7 @@
     </message>
     <message id="ID_Host_Report_Scripted">
         <source></source>
-        <translation>Thiết bị là kịch bản mô phỏng, không phải của máy này.</translation>
+        <translation>Thiết bị được mô phỏng, không phải của máy này.</translation>
     </message>
     <message id="ID_Host_Report_Summary">
         <source></source>
@@ -594,6 +850,118 @@
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>Báo cáo kiểm tra hệ thống</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>Đang trả lời trên cổng UDP %1. Máy khác đo đường đến đây bằng --server stun:HOST:%1</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>không trả lời được trên cổng UDP %1: %2. Hãy chọn cổng khác bằng --port</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve cần chương trình được dựng có thiết bị thật (ENVCHECK_DEVICES)</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>chưa kết nối</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>đang được dùng</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>bị từ chối</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>gặp sự cố</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>không phản hồi</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>đang tắt</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>sẵn sàng</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>không có tín hiệu</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>hoạt động</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>một số từ %1 đến %2</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>một trong các giá trị: %1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST hoặc HOST:PORT, có hoặc không có stun: ở trước, ví dụ stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>một địa chỉ http hoặc https</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>Đã lưu %1 hình vào %2; index.html hiển thị tất cả.</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1: không tạo được thư mục này; hãy nêu thư mục khác</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1: %2; hãy nêu thư mục khác</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 cần một tên không trống</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>thừa đối số “%1”: xem --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 không đi cùng %2: hãy bỏ một trong hai</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report cần tệp (FILE) của một báo cáo: xem report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 không dùng được với %2: xem --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1 Xem --help.</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2: cần %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>phần kiểm tra</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>không có lệnh “%1”: xem --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -649,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>Không nghe hoặc thấy giọng mình</translation>
+        <translation>Không nghe, thanh không chạy</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>

@@ -247,13 +247,81 @@
         <source></source>
         <translation>自那时起没有变化。</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>摄像头</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>麦克风</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>未找到</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>此程序构建时未包含真实设备（ENVCHECK_DEVICES）：请使用 --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>扬声器</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>显示已断开，检测随之结束：X 服务器或 Wayland 合成器已退出；请重新开始检测</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>没有可用于打开检测的显示：请在桌面会话中启动，或通过 xvfb-run 启动</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>无法打开显示 %1：请在桌面会话中启动检测，或通过 xvfb-run 启动</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>全部正常</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>指定的文件无法使用</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>无法写入文件或文件夹</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>中途离开</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>课堂结束了会话</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>有检测异常</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>自动演示发现问题</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>缺少显示、端口或服务器</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>用法错误：消息会指出相关选项</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>已应答的探测包</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>可听到的最高频率</translation>
+        <translation>收到的最高频率</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -265,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>削波的声音</translation>
+        <translation>削波失真</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -289,7 +357,7 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>首个画面用时</translation>
+        <translation>第一个画面所需时间</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
@@ -301,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>电源哼声频率</translation>
+        <translation>交流声频率</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>噪声中的电源哼声</translation>
+        <translation>噪声中的交流声</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -357,7 +425,7 @@
     </message>
     <message id="ID_Host_Figure_SoundHeard">
         <source></source>
-        <translation>听到声音</translation>
+        <translation>收到声音</translation>
     </message>
     <message id="ID_Host_Figure_SoundPlayed">
         <source></source>
@@ -375,6 +443,46 @@
         <source></source>
         <translation>画面宽度</translation>
     </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>这是文件夹；请指定其中的文件</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1；请指定其他文件</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>文件夹 %1 不存在；请创建它，或指定其他文件</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>文档不是对象</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 不是 JSON 格式的报告（%2）；请指定由检测生成的报告</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>您没有该位置的写入权限；请指定其他文件</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>这不是普通文件；请指定其他文件</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>无法读取 %1：%2；请指定由检测生成的报告</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>文件过大</translation>
+    </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
         <translation>回答“看不到”，但有动态画面。</translation>
@@ -389,27 +497,27 @@
     </message>
     <message id="ID_Host_Flag_YesToBlackPicture">
         <source></source>
-        <translation>画面为黑屏，却回答“看得到”。</translation>
+        <translation>画面为黑屏，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToFrozenPicture">
         <source></source>
-        <translation>画面静止不动，却回答“看得到”。</translation>
+        <translation>画面静止不动，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToMutedSpeaker">
         <source></source>
-        <translation>扬声器已静音，却回答“听得到”。</translation>
+        <translation>扬声器已静音，却回答“能听到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToSilence">
         <source></source>
-        <translation>麦克风没有收到声音，却回答“听得到”。</translation>
+        <translation>麦克风没有收到声音，却回答“能听到”。</translation>
     </message>
     <message id="ID_Host_Flag_YesToWrongSound">
         <source></source>
-        <translation>回答“听得到”，但没有选对声音。</translation>
+        <translation>回答“能听到”，但没有选对声音。</translation>
     </message>
     <message id="ID_Host_Flag_YesWithoutPictures">
         <source></source>
-        <translation>没有画面，却回答“看得到”。</translation>
+        <translation>没有画面，却回答“能看到”。</translation>
     </message>
     <message id="ID_Host_Grade">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>较差</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>参数：</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>在线上课前检测网络、摄像头、扬声器和麦克风。</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>命令：</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>列出摄像头、麦克风和扬声器及其状态。</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>退出码：</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>由检测生成的报告。</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>测量延迟和丢包率，并实时输出数值。</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>不带命令时打开检测。每个命令都有各自的 --help。</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>选项：</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>以文本、HTML 或 JSON 显示以往检测的报告，或将多份报告汇总成一张表。</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>作为小型 STUN 服务器应答其他电脑的测量，直到被停止。</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>用法：%1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[选项]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1：没有这种语言的文本；请从以下语言中选择：%2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>上次通过的检测</translation>
+        <translation>上次全部正常的检测</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>此前没有全部通过的检测。</translation>
+        <translation>此前没有全部正常的检测。</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>测量失败：%1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>服务器 %1，本机 %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>延迟 %1 ms，抖动 %2 ms，丢包率 %3%，已发送 %4，已应答 %5：%6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>没有应答，丢包率 %1%，已发送 %2，已应答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -459,6 +635,82 @@
         <source></source>
         <translation>未测量：%1</translation>
     </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>要显示的账号；默认为系统用户。</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>要显示的 CDN。</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>得到 N 个数值后结束；否则命令一直运行，直到被停止。</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text（默认）、html、json 或 room：每份报告一行。</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>输出 JSON 而不是表格。</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>文本的语言，例如 en 或 zh_CN；默认为系统语言。</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>要显示的昵称；默认为系统用户。</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>要检测的设备：devices（本机设备，默认）或 scripted（脚本模拟）。</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>应答所用的 UDP 端口；默认为 3478，0 表示任选空闲端口。</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>要去除的内容：none（不去除，默认）、personal（去除地址、名称和账号）或 hash（替换为短代码）。</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>将报告写入 FILE 而不是默认位置；扩展名（.json、.html 或 .txt）决定格式。</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>发送报告代码的地址。</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>每次变化后，另将原始结果以 JSON 写入 FILE。</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>模拟设备所用的脚本：一个文件，或内置脚本的名称，例如 all-well。隐含 --platform scripted。</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>测量延迟和丢包率所用的 STUN 服务器，也可写作 stun:HOST:PORT；默认端口为 3478。未指定服务器时由本机应答，这不能反映网络状况。</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>自动走完所有步骤，并把每一步的画面保存到 FOLDER。</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>同时将日志写到终端。</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>显示版本。</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>已完成，但有问题</translation>
@@ -469,11 +721,15 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>全部通过</translation>
+        <translation>全部正常</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>会话被课堂终止</translation>
+        <translation>课堂结束了会话</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>无法写入输出；请检查磁盘是否已满</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>结果</translation>
+        <translation>总体结果</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -594,6 +850,118 @@
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>系统检测报告</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>正在 UDP 端口 %1 上应答。其他电脑可用 --server stun:HOST:%1 测量到本机的网络</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>无法在 UDP 端口 %1 上应答：%2。请用 --port 选择其他端口</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve 需要构建时包含真实设备的程序（ENVCHECK_DEVICES）</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>未连接</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>被占用</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>访问被拒绝</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>故障</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>没有响应</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>已关闭</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>就绪</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>没有输出</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>正常</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>%1 到 %2 之间的数字</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>以下之一：%1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST 或 HOST:PORT，前面可加 stun:，例如 stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>http 或 https 地址</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>已将 %1 张画面保存到 %2；可在 index.html 中查看全部。</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1：无法创建此文件夹；请指定其他文件夹</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1：%2；请指定其他文件夹</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 的名称不能为空</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>多余的参数“%1”：请参阅 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 不能与 %2 同时使用：请去掉其中一个</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report 需要指定报告文件（FILE）：请参阅 report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 不能用于 %2：请参阅 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1请参阅 --help。</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2：应为 %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>检测</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>未知命令“%1”：请参阅 --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -649,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>您听不到或看不到自己的声音</translation>
+        <translation>听不到自己的声音，或音量条不动</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>

@@ -73,15 +73,15 @@
     </message>
     <message id="ID_CheckResultPage_CheckEquipmentAndRetest">
         <source></source>
-        <translation>請檢查設備後重新檢測。</translation>
+        <translation>請檢查裝置後重新檢測。</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentAbnormal">
         <source></source>
-        <translation>部分設備有問題</translation>
+        <translation>部分裝置有問題</translation>
     </message>
     <message id="ID_CheckResultPage_EquipmentNormal">
         <source></source>
-        <translation>設備一切正常</translation>
+        <translation>裝置一切正常</translation>
     </message>
     <message id="ID_CheckResultPage_Headphone">
         <source></source>
@@ -247,13 +247,81 @@
         <source></source>
         <translation>自那時起沒有變更。</translation>
     </message>
+    <message id="ID_Host_Devices_Cameras">
+        <source></source>
+        <translation>攝影機</translation>
+    </message>
+    <message id="ID_Host_Devices_Microphones">
+        <source></source>
+        <translation>麥克風</translation>
+    </message>
+    <message id="ID_Host_Devices_None">
+        <source></source>
+        <translation>找不到</translation>
+    </message>
+    <message id="ID_Host_Devices_NotBuilt">
+        <source></source>
+        <translation>此程式建置時未包含真實裝置（ENVCHECK_DEVICES）：請使用 --platform scripted</translation>
+    </message>
+    <message id="ID_Host_Devices_Speakers">
+        <source></source>
+        <translation>喇叭</translation>
+    </message>
+    <message id="ID_Host_Display_Gone">
+        <source></source>
+        <translation>顯示已中斷，檢測隨之結束：X 伺服器或 Wayland 合成器已結束；請重新開始檢測</translation>
+    </message>
+    <message id="ID_Host_Display_None">
+        <source></source>
+        <translation>沒有可用來開啟檢測的顯示：請在桌面工作階段中啟動，或透過 xvfb-run 啟動</translation>
+    </message>
+    <message id="ID_Host_Display_NotOpened">
+        <source></source>
+        <translation>無法開啟顯示 %1：請在桌面工作階段中啟動檢測，或透過 xvfb-run 啟動</translation>
+    </message>
+    <message id="ID_Host_Exit_AllPassed">
+        <source></source>
+        <translation>全部正常</translation>
+    </message>
+    <message id="ID_Host_Exit_BadInput">
+        <source></source>
+        <translation>指定的檔案無法使用</translation>
+    </message>
+    <message id="ID_Host_Exit_CannotWrite">
+        <source></source>
+        <translation>無法寫入檔案或資料夾</translation>
+    </message>
+    <message id="ID_Host_Exit_LeftEarly">
+        <source></source>
+        <translation>中途離開</translation>
+    </message>
+    <message id="ID_Host_Exit_PutOut">
+        <source></source>
+        <translation>課堂結束了工作階段</translation>
+    </message>
+    <message id="ID_Host_Exit_SomeFailed">
+        <source></source>
+        <translation>有檢測異常</translation>
+    </message>
+    <message id="ID_Host_Exit_TourProblems">
+        <source></source>
+        <translation>自動導覽發現問題</translation>
+    </message>
+    <message id="ID_Host_Exit_Unavailable">
+        <source></source>
+        <translation>缺少顯示、連接埠或伺服器</translation>
+    </message>
+    <message id="ID_Host_Exit_WrongUsage">
+        <source></source>
+        <translation>用法錯誤：訊息會指出相關選項</translation>
+    </message>
     <message id="ID_Host_Figure_Answered">
         <source></source>
         <translation>已回應的探測封包</translation>
     </message>
     <message id="ID_Host_Figure_Bandwidth">
         <source></source>
-        <translation>可收到的最高頻率</translation>
+        <translation>收到的最高頻率</translation>
     </message>
     <message id="ID_Host_Figure_Black">
         <source></source>
@@ -265,7 +333,7 @@
     </message>
     <message id="ID_Host_Figure_Clipped">
         <source></source>
-        <translation>削波的聲音</translation>
+        <translation>削波失真</translation>
     </message>
     <message id="ID_Host_Figure_DefaultAfter">
         <source></source>
@@ -289,7 +357,7 @@
     </message>
     <message id="ID_Host_Figure_FirstPicture">
         <source></source>
-        <translation>首個畫面所需時間</translation>
+        <translation>第一個畫面所需時間</translation>
     </message>
     <message id="ID_Host_Figure_Frozen">
         <source></source>
@@ -301,11 +369,11 @@
     </message>
     <message id="ID_Host_Figure_HumFrequency">
         <source></source>
-        <translation>電源嗡聲頻率</translation>
+        <translation>交流聲頻率</translation>
     </message>
     <message id="ID_Host_Figure_HumShare">
         <source></source>
-        <translation>雜訊中的電源嗡聲</translation>
+        <translation>雜訊中的交流聲</translation>
     </message>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
@@ -349,7 +417,7 @@
     </message>
     <message id="ID_Host_Figure_Seconds">
         <source></source>
-        <translation>測量時長</translation>
+        <translation>測量時間</translation>
     </message>
     <message id="ID_Host_Figure_Sent">
         <source></source>
@@ -374,6 +442,46 @@
     <message id="ID_Host_Figure_Width">
         <source></source>
         <translation>畫面寬度</translation>
+    </message>
+    <message id="ID_Host_File_IsFolder">
+        <source></source>
+        <translation>這是資料夾；請指定其中的檔案</translation>
+    </message>
+    <message id="ID_Host_File_NameOther">
+        <source></source>
+        <translation>%1；請指定其他檔案</translation>
+    </message>
+    <message id="ID_Host_File_NoFolder">
+        <source></source>
+        <translation>資料夾 %1 不存在；請建立它，或指定其他檔案</translation>
+    </message>
+    <message id="ID_Host_File_NoObject">
+        <source></source>
+        <translation>文件不是物件</translation>
+    </message>
+    <message id="ID_Host_File_NoReport">
+        <source></source>
+        <translation>%1 不是 JSON 格式的報告（%2）；請指定由檢測產生的報告</translation>
+    </message>
+    <message id="ID_Host_File_NoRight">
+        <source></source>
+        <translation>您沒有該位置的寫入權限；請指定其他檔案</translation>
+    </message>
+    <message id="ID_Host_File_NotOrdinary">
+        <source></source>
+        <translation>這不是一般檔案；請指定其他檔案</translation>
+    </message>
+    <message id="ID_Host_File_NotRead">
+        <source></source>
+        <translation>無法讀取 %1：%2；請指定由檢測產生的報告</translation>
+    </message>
+    <message id="ID_Host_File_NotWritten">
+        <source></source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
+    <message id="ID_Host_File_TooLarge">
+        <source></source>
+        <translation>檔案過大</translation>
     </message>
     <message id="ID_Host_Flag_NoToGoodPicture">
         <source></source>
@@ -435,17 +543,85 @@
         <source></source>
         <translation>不佳</translation>
     </message>
+    <message id="ID_Host_Help_Arguments">
+        <source></source>
+        <translation>引數：</translation>
+    </message>
+    <message id="ID_Host_Help_Check">
+        <source></source>
+        <translation>在線上上課前檢測網路、攝影機、喇叭和麥克風。</translation>
+    </message>
+    <message id="ID_Host_Help_Commands">
+        <source></source>
+        <translation>指令：</translation>
+    </message>
+    <message id="ID_Host_Help_Devices">
+        <source></source>
+        <translation>列出攝影機、麥克風和喇叭及其狀態。</translation>
+    </message>
+    <message id="ID_Host_Help_ExitCodes">
+        <source></source>
+        <translation>結束代碼：</translation>
+    </message>
+    <message id="ID_Host_Help_File">
+        <source></source>
+        <translation>由檢測產生的報告。</translation>
+    </message>
+    <message id="ID_Host_Help_Network">
+        <source></source>
+        <translation>測量延遲和封包遺失率，並即時輸出數值。</translation>
+    </message>
+    <message id="ID_Host_Help_NoCommand">
+        <source></source>
+        <translation>不帶指令時會開啟檢測。每個指令都有各自的 --help。</translation>
+    </message>
+    <message id="ID_Host_Help_Options">
+        <source></source>
+        <translation>選項：</translation>
+    </message>
+    <message id="ID_Host_Help_Report">
+        <source></source>
+        <translation>以文字、HTML 或 JSON 顯示以往檢測的報告，或將多份報告彙整成一張表。</translation>
+    </message>
+    <message id="ID_Host_Help_Serve">
+        <source></source>
+        <translation>作為小型 STUN 伺服器回應其他電腦的測量，直到被停止。</translation>
+    </message>
+    <message id="ID_Host_Help_Usage">
+        <source></source>
+        <translation>用法：%1</translation>
+    </message>
+    <message id="ID_Host_Help_UsageOptions">
+        <source></source>
+        <translation>[選項]</translation>
+    </message>
+    <message id="ID_Host_Language_Unknown">
+        <source></source>
+        <translation>--language %1：沒有這種語言的文字；請從以下語言中選擇：%2</translation>
+    </message>
     <message id="ID_Host_LastGoodRun">
         <source></source>
-        <translation>上次通過的檢測</translation>
+        <translation>上次全部正常的檢測</translation>
     </message>
     <message id="ID_Host_LastGoodRun_None">
         <source></source>
-        <translation>先前沒有全部通過的檢測。</translation>
+        <translation>先前沒有全部正常的檢測。</translation>
     </message>
     <message id="ID_Host_MeasuringFailed">
         <source></source>
         <translation>測量失敗：%1</translation>
+    </message>
+    <message id="ID_Host_Network_Ends">
+        <source></source>
+        <translation>伺服器 %1，本機 %2</translation>
+    </message>
+    <message id="ID_Host_Network_Figures">
+        <source></source>
+        <translation>延遲 %1 ms，抖動 %2 ms，封包遺失率 %3%，已傳送 %4，已回應 %5：%6</translation>
+    </message>
+    <message id="ID_Host_Network_NoAnswer">
+        <source></source>
+        <translation>沒有回應，封包遺失率 %1%，已傳送 %2，已回應 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -459,6 +635,82 @@
         <source></source>
         <translation>未測量：%1</translation>
     </message>
+    <message id="ID_Host_Option_Account">
+        <source></source>
+        <translation>要顯示的帳號；預設為系統使用者。</translation>
+    </message>
+    <message id="ID_Host_Option_Cdn">
+        <source></source>
+        <translation>要顯示的 CDN。</translation>
+    </message>
+    <message id="ID_Host_Option_Count">
+        <source></source>
+        <translation>得到 N 個數值後結束；否則指令會一直執行，直到被停止。</translation>
+    </message>
+    <message id="ID_Host_Option_Format">
+        <source></source>
+        <translation>text（預設）、html、json 或 room：每份報告一行。</translation>
+    </message>
+    <message id="ID_Host_Option_Help">
+        <source></source>
+        <translation>顯示此說明。</translation>
+    </message>
+    <message id="ID_Host_Option_Json">
+        <source></source>
+        <translation>輸出 JSON 而不是表格。</translation>
+    </message>
+    <message id="ID_Host_Option_Language">
+        <source></source>
+        <translation>文字的語言，例如 en 或 zh_CN；預設為系統語言。</translation>
+    </message>
+    <message id="ID_Host_Option_Nickname">
+        <source></source>
+        <translation>要顯示的暱稱；預設為系統使用者。</translation>
+    </message>
+    <message id="ID_Host_Option_Platform">
+        <source></source>
+        <translation>要檢測的裝置：devices（本機裝置，預設）或 scripted（腳本模擬）。</translation>
+    </message>
+    <message id="ID_Host_Option_Port">
+        <source></source>
+        <translation>回應所用的 UDP 連接埠；預設為 3478，0 表示任選可用的連接埠。</translation>
+    </message>
+    <message id="ID_Host_Option_Redact">
+        <source></source>
+        <translation>要移除的內容：none（不移除，預設）、personal（移除位址、名稱和帳號）或 hash（替換為短代碼）。</translation>
+    </message>
+    <message id="ID_Host_Option_Report">
+        <source></source>
+        <translation>將報告寫入 FILE 而不是預設位置；副檔名（.json、.html 或 .txt）決定格式。</translation>
+    </message>
+    <message id="ID_Host_Option_ReportUrl">
+        <source></source>
+        <translation>傳送報告代碼的網址。</translation>
+    </message>
+    <message id="ID_Host_Option_Results">
+        <source></source>
+        <translation>每次變更後，另將原始結果以 JSON 寫入 FILE。</translation>
+    </message>
+    <message id="ID_Host_Option_Scenario">
+        <source></source>
+        <translation>模擬裝置所用的腳本：一個檔案，或內建腳本的名稱，例如 all-well。隱含 --platform scripted。</translation>
+    </message>
+    <message id="ID_Host_Option_Server">
+        <source></source>
+        <translation>測量延遲和封包遺失率所用的 STUN 伺服器，也可寫成 stun:HOST:PORT；預設連接埠為 3478。未指定伺服器時由本機回應，這無法反映網路狀況。</translation>
+    </message>
+    <message id="ID_Host_Option_Tour">
+        <source></source>
+        <translation>自動走完所有步驟，並把每一步的畫面儲存到 FOLDER。</translation>
+    </message>
+    <message id="ID_Host_Option_Verbose">
+        <source></source>
+        <translation>同時將記錄寫到終端機。</translation>
+    </message>
+    <message id="ID_Host_Option_Version">
+        <source></source>
+        <translation>顯示版本。</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>已完成，但有問題</translation>
@@ -469,11 +721,15 @@
     </message>
     <message id="ID_Host_Outcome_Passed">
         <source></source>
-        <translation>全部通過</translation>
+        <translation>全部正常</translation>
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>工作階段被課堂終止</translation>
+        <translation>課堂結束了工作階段</translation>
+    </message>
+    <message id="ID_Host_OutputNotWritten">
+        <source></source>
+        <translation>無法寫入輸出；請檢查磁碟是否已滿</translation>
     </message>
     <message id="ID_Host_Reason_Absent">
         <source></source>
@@ -561,7 +817,7 @@
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>
-        <translation>結果</translation>
+        <translation>整體結果</translation>
     </message>
     <message id="ID_Host_Report_Program">
         <source></source>
@@ -594,6 +850,118 @@
     <message id="ID_Host_Report_Title">
         <source></source>
         <translation>系統檢測報告</translation>
+    </message>
+    <message id="ID_Host_Serve_Answering">
+        <source></source>
+        <translation>正在 UDP 連接埠 %1 上回應。其他電腦可用 --server stun:HOST:%1 測量到本機的網路</translation>
+    </message>
+    <message id="ID_Host_Serve_NoPort">
+        <source></source>
+        <translation>無法在 UDP 連接埠 %1 上回應：%2。請用 --port 選擇其他連接埠</translation>
+    </message>
+    <message id="ID_Host_Serve_NotBuilt">
+        <source></source>
+        <translation>serve 需要建置時包含真實裝置的程式（ENVCHECK_DEVICES）</translation>
+    </message>
+    <message id="ID_Host_State_Absent">
+        <source></source>
+        <translation>未連接</translation>
+    </message>
+    <message id="ID_Host_State_Busy">
+        <source></source>
+        <translation>被佔用</translation>
+    </message>
+    <message id="ID_Host_State_Denied">
+        <source></source>
+        <translation>存取被拒</translation>
+    </message>
+    <message id="ID_Host_State_Failed">
+        <source></source>
+        <translation>故障</translation>
+    </message>
+    <message id="ID_Host_State_Hung">
+        <source></source>
+        <translation>沒有回應</translation>
+    </message>
+    <message id="ID_Host_State_Off">
+        <source></source>
+        <translation>已關閉</translation>
+    </message>
+    <message id="ID_Host_State_Ready">
+        <source></source>
+        <translation>就緒</translation>
+    </message>
+    <message id="ID_Host_State_Silent">
+        <source></source>
+        <translation>沒有輸出</translation>
+    </message>
+    <message id="ID_Host_State_Working">
+        <source></source>
+        <translation>正常</translation>
+    </message>
+    <message id="ID_Host_Takes_Number">
+        <source></source>
+        <translation>%1 到 %2 之間的數字</translation>
+    </message>
+    <message id="ID_Host_Takes_OneOf">
+        <source></source>
+        <translation>以下其中之一：%1</translation>
+    </message>
+    <message id="ID_Host_Takes_Server">
+        <source></source>
+        <translation>HOST 或 HOST:PORT，前面可加 stun:，例如 stun:stun.example.org:3478</translation>
+    </message>
+    <message id="ID_Host_Takes_WebAddress">
+        <source></source>
+        <translation>http 或 https 網址</translation>
+    </message>
+    <message id="ID_Host_Tour_Done">
+        <source></source>
+        <translation>已將 %1 張畫面儲存到 %2；可在 index.html 中檢視全部。</translation>
+    </message>
+    <message id="ID_Host_Tour_NoFolder">
+        <source></source>
+        <translation>--tour %1：無法建立此資料夾；請指定其他資料夾</translation>
+    </message>
+    <message id="ID_Host_Tour_NotWritten">
+        <source></source>
+        <translation>%1：%2；請指定其他資料夾</translation>
+    </message>
+    <message id="ID_Host_Usage_EmptyName">
+        <source></source>
+        <translation>--%1 的名稱不能是空的</translation>
+    </message>
+    <message id="ID_Host_Usage_ExtraArgument">
+        <source></source>
+        <translation>多餘的引數「%1」：請參閱 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_LeaveOneOut">
+        <source></source>
+        <translation>%1 不能與 %2 同時使用：請去掉其中一個</translation>
+    </message>
+    <message id="ID_Host_Usage_NoReport">
+        <source></source>
+        <translation>report 需要指定報告檔案（FILE）：請參閱 report --help</translation>
+    </message>
+    <message id="ID_Host_Usage_OtherCommand">
+        <source></source>
+        <translation>--%1 不能用於 %2：請參閱 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SeeHelp">
+        <source></source>
+        <translation>%1請參閱 --help。</translation>
+    </message>
+    <message id="ID_Host_Usage_Takes">
+        <source></source>
+        <translation>--%1 %2：應為 %3</translation>
+    </message>
+    <message id="ID_Host_Usage_TheCheck">
+        <source></source>
+        <translation>檢測</translation>
+    </message>
+    <message id="ID_Host_Usage_UnknownCommand">
+        <source></source>
+        <translation>未知的指令「%1」：請參閱 --help</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
@@ -649,7 +1017,7 @@
     </message>
     <message id="ID_MicrophonePage_ChoseNo">
         <source></source>
-        <translation>您聽不到或看不到自己的聲音</translation>
+        <translation>聽不到自己的聲音，或音量條不動</translation>
     </message>
     <message id="ID_MicrophonePage_ClickHere">
         <source></source>

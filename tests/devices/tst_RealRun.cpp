@@ -3,6 +3,7 @@
 #include "host/ExitCode.h"
 #include "host/Options.h"
 #include "host/SoundNames.h"
+#include "host/Languages.h"
 #include "host/commands/CheckCommand.h"
 #include "host/tour/DialogView.h"
 #include "platform/backend/StunServer.h"
@@ -133,8 +134,9 @@ void tst_RealRun::everyCheckFails()
 // As main() does it, but that somebody is there to look and to click.
 void tst_RealRun::run(Visit visit, ExitCode expected)
 {
+    Languages languages;
+    QCOMPARE(languages.use(id("en")), QString());
     Options options;
-    options.language = id("en");
     options.account = id("m.curie");
     options.nickname = id("Marie");
     options.cdn = id("Campus/North");
@@ -156,7 +158,7 @@ void tst_RealRun::run(Visit visit, ExitCode expected)
         }
     });
     opening.start(10);
-    const ExitCode code = CheckCommand(options).run();
+    const ExitCode code = CheckCommand(options).run(languages.current());
     QVERIFY(isThrough);
     QCOMPARE(static_cast<int>(code), static_cast<int>(expected));
 

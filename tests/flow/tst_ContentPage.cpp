@@ -129,6 +129,7 @@ private Q_SLOTS:
     void breakdownWinsOverTheQuestion_data();
     void breakdownWinsOverTheQuestion();
     void breakdownWinsOverCanClose();
+    void breakdownWhileTheQuestionIsLogged();
     void breakdownTwiceInARow();
     void breakdownWhileClosing();
     void breakdownAfterAVeto();
@@ -687,6 +688,28 @@ void tst_ContentPage::breakdownWinsOverCanClose()
     QCOMPARE(question.count(), 1);
     QCOMPARE(closeDialog.count(), 1);
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(postedCodes(), QVector<int>());
+}
+
+// The host's log may be what tells the engine to end.
+void tst_ContentPage::breakdownWhileTheQuestionIsLogged()
+{
+    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
+    QSignalSpy destroyed(m_frame, &QObject::destroyed);
+    static Platform::ScriptedEngine* engine = nullptr;
+    engine = m_engine;
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            if (text.contains(QStringLiteral("NotFinishedIfLeave"))) {
+                engine->facts().breakDown();
+            }
+        });
+    QuestionAnswerer question([](QMessageBox*) {});
+    m_frame->close();
+    qInstallMessageHandler(previous);
+    QVERIFY(destroyed.count() == 1 || destroyed.wait());
+    QCOMPARE(question.count(), 0);
+    QCOMPARE(closeDialog.count(), 1);
     QCOMPARE(postedCodes(), QVector<int>());
 }
 

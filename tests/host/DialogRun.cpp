@@ -128,7 +128,6 @@ void DialogRun::run(const Steps& steps)
     Options options;
     options.platform = Options::Platform::Scripted;
     options.scenario = scenario.fileName();
-    options.language = id("en");
     options.reportFile = m_home.filePath(id("report.json"));
     bool isThrough = false;
     QTimer opening;
@@ -146,7 +145,7 @@ void DialogRun::run(const Steps& steps)
     });
     opening.start(5);
     CapturedOutput output(m_home.filePath(id("terminal.txt")));
-    m_code = static_cast<int>(CheckCommand(options).run());
+    m_code = static_cast<int>(CheckCommand(options).run(id("en")));
     const QString printed = output.text();
     QVERIFY2(isThrough, qPrintable(printed));
     // Behind what this test itself says.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/DeviceSurvey.h"
+#include "host/Languages.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <QJsonArray>
@@ -12,11 +13,20 @@ class tst_DeviceSurvey : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void noDevices();
     void everyDeviceHasItsState();
     void foreignNames();
     void nothingIsOpenedOrMoved();
+
+private:
+    Languages m_languages;
 };
+
+void tst_DeviceSurvey::initTestCase()
+{
+    QCOMPARE(m_languages.use(QStringLiteral("en")), QString());
+}
 
 void tst_DeviceSurvey::noDevices()
 {
@@ -40,12 +50,21 @@ void tst_DeviceSurvey::everyDeviceHasItsState()
     engine.scriptedSpeakers().setVolume(QStringLiteral("s"), 40);
     const DeviceSurvey survey = DeviceSurvey::of(engine);
     QCOMPARE(survey.toText(), QStringLiteral("Cameras\n"
-                                             "  * denied  -      One\n"
-                                             "    ready   -      Two\n"
+                                             "  * access denied  -      One\n"
+                                             "    ready          -      Two\n"
                                              "Microphones\n"
-                                             "  * busy    120 %  Mic\n"
+                                             "  * in use         120 %  Mic\n"
                                              "Speakers\n"
-                                             "  * ready   40 %   Speaker\n"));
+                                             "  * ready          40 %   Speaker\n"));
+    Languages languages;
+    QCOMPARE(languages.use(QStringLiteral("zh_CN")), QString());
+    QCOMPARE(survey.toText(), QString::fromUtf8("摄像头\n"
+                                                "  * 访问被拒绝  -      One\n"
+                                                "    就绪        -      Two\n"
+                                                "麦克风\n"
+                                                "  * 被占用      120 %  Mic\n"
+                                                "扬声器\n"
+                                                "  * 就绪        40 %   Speaker\n"));
     const QJsonObject camera =
         survey.toJson().value(QStringLiteral("cameras")).toArray().at(0).toObject();
     QCOMPARE(camera, (QJsonObject{{QStringLiteral("id"), QStringLiteral("c1")},

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
+#include "host/Console.h"
+#include "host/HelpLayout.h"
+#include "host/Languages.h"
 #include "host/Options.h"
 
 #include <QtTest>
@@ -12,6 +15,7 @@ class tst_Options : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void nothing();
     void textOptions_data();
     void textOptions();
@@ -25,8 +29,16 @@ private Q_SLOTS:
     void helpAndVersion();
     void wrongOnes_data();
     void wrongOnes();
+    void helpNamesEveryCommand();
     void helpNamesEveryOption_data();
     void helpNamesEveryOption();
+    void languageIsFoundBesideErrors_data();
+    void languageIsFoundBesideErrors();
+    void helpFitsInEveryLanguage_data();
+    void helpFitsInEveryLanguage();
+
+private:
+    Languages m_languages;
 };
 
 namespace {
@@ -42,6 +54,11 @@ QStringList words(const char* text)
 }
 
 } // namespace
+
+void tst_Options::initTestCase()
+{
+    QCOMPARE(m_languages.use(QStringLiteral("en")), QString());
+}
 
 void tst_Options::nothing()
 {
@@ -257,6 +274,16 @@ void tst_Options::wrongOnes()
     QVERIFY(!options.error.contains(QLatin1Char('\n')));
 }
 
+void tst_Options::helpNamesEveryCommand()
+{
+    const QString help = Options::helpText(Options::Command::Check);
+    for (const char* command : {"devices", "network", "serve", "report"}) {
+        const QRegularExpression line(QStringLiteral("^  %1 +\\S").arg(command),
+                                      QRegularExpression::MultilineOption);
+        QVERIFY2(help.contains(line), command);
+    }
+}
+
 void tst_Options::helpNamesEveryOption_data()
 {
     QTest::addColumn<Options::Command>("command");
@@ -265,10 +292,10 @@ void tst_Options::helpNamesEveryOption_data()
                            << "platform scenario language server account nickname cdn results "
                               "report report-url tour redact verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
-                             << "platform scenario json verbose help version";
+                             << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network
-                             << "platform scenario server count verbose help version";
-    QTest::newRow("serve") << Options::Command::Serve << "port verbose help version";
+                             << "platform scenario language server count verbose help version";
+    QTest::newRow("serve") << Options::Command::Serve << "language port verbose help version";
     QTest::newRow("report") << Options::Command::Report
                             << "language format redact verbose help version";
 }
@@ -288,6 +315,54 @@ void tst_Options::helpNamesEveryOption()
     found.sort();
     expected.sort();
     QCOMPARE(found, expected);
+}
+
+void tst_Options::languageIsFoundBesideErrors_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::newRow("alone") << "--language fr";
+    QTest::newRow("with =") << "devices --language=fr --json";
+    QTest::newRow("after an unknown option") << "--nothing --language fr";
+    QTest::newRow("before a missing value") << "--language fr --server";
+    QTest::newRow("with help") << "serve --help --language fr";
+}
+
+void tst_Options::languageIsFoundBesideErrors()
+{
+    QFETCH(QString, arguments);
+    QCOMPARE(
+        Options::languageIn(QStringList{QStringLiteral("envcheck")} + words(qPrintable(arguments))),
+        QStringLiteral("fr"));
+}
+
+void tst_Options::helpFitsInEveryLanguage_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& language : Languages::available()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+void tst_Options::helpFitsInEveryLanguage()
+{
+    QFETCH(QString, language);
+    Languages languages;
+    QCOMPARE(languages.use(language), QString());
+    using Command = Options::Command;
+    for (const Command command :
+         {Command::Check, Command::Devices, Command::Network, Command::Serve, Command::Report}) {
+        const QString help = Options::helpText(command);
+        QVERIFY(help.contains(QLatin1String("envcheck ")));
+        QVERIFY2(!help.contains(QLatin1String("ID_")), qPrintable(help));
+        for (const QString& line : help.split(QLatin1Char('\n'))) {
+            QVERIFY2(Console::columns(line) <= HelpLayout::MaxColumns, qPrintable(line));
+        }
+    }
+    for (const char* wrong :
+         {"--nothing", "--server", "walk", "--platform moon", "serve --cdn x"}) {
+        const QString error = parsed(words(wrong)).error;
+        QVERIFY2(!error.isEmpty() && !error.contains(QLatin1String("ID_")), qPrintable(error));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Options)

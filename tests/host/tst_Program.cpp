@@ -22,6 +22,8 @@ private Q_SLOTS:
     void init();
     void versionAndHelp();
     void manPageNamesEveryOption();
+    void everyCommandSpeaksTheLanguage_data();
+    void everyCommandSpeaksTheLanguage();
     void wrongUsage_data();
     void wrongUsage();
     void badInput_data();
@@ -210,6 +212,44 @@ void tst_Program::manPageNamesEveryOption()
     for (const char* code : {"0", "1", "2", "3", "4", "64", "65", "69", "73"}) {
         QVERIFY2(text.contains(QStringLiteral(".B %1\n").arg(QLatin1String(code))), code);
     }
+}
+
+void tst_Program::everyCommandSpeaksTheLanguage_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("help") << "--help"
+                          << "Aufruf: envcheck [Optionen]";
+    QTest::newRow("wrong option") << "--nothing"
+                                  << "Siehe --help.";
+    QTest::newRow("wrong value") << "--platform moon"
+                                 << "--platform moon: erwartet wird";
+    QTest::newRow("missing report") << "report not-there.json"
+                                    << "lässt sich nicht lesen";
+    QTest::newRow("unwritable report") << "--scenario all-well --report /"
+                                       << "das ist ein Ordner";
+    QTest::newRow("devices") << "devices --scenario all-well"
+                             << "Lautsprecher";
+    QTest::newRow("network") << "network --scenario all-well --count 1"
+                             << "Verzögerung";
+    QTest::newRow("serve") << "serve --port x"
+                           << "eine Zahl von 0 bis 65535";
+}
+
+// The language comes from the option, or from the system.
+void tst_Program::everyCommandSpeaksTheLanguage()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, text);
+    const QStringList all = words(qPrintable(arguments));
+    const Run byOption = run(all + words("--language de"));
+    QVERIFY2((byOption.out + byOption.error).contains(text),
+             qPrintable(byOption.out + byOption.error));
+    const Run bySystem =
+        finished(*started(all, QStringLiteral("exec env LC_ALL=de_DE.UTF-8 \"$0\" \"$@\"")));
+    QCOMPARE(bySystem.code, byOption.code);
+    QCOMPARE(bySystem.out, byOption.out);
+    QCOMPARE(bySystem.error, byOption.error);
 }
 
 void tst_Program::wrongUsage_data()

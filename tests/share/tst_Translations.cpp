@@ -187,6 +187,7 @@ private Q_SLOTS:
     void languages();
     void everyUsedIdIsThere();
     void noIdIsLeftOver();
+    void messagesOfTheProgramAreTexts();
     void languagesHaveTheSameIds();
     void placeholdersAgree();
     void soundNamesAreDistinct();
@@ -321,6 +322,24 @@ void tst_Translations::everyUsedIdIsThere()
 void tst_Translations::noIdIsLeftOver()
 {
     QCOMPARE(sorted(keysOf(textsOfRow()) - usedIds()), QString());
+}
+
+// What the program says of itself comes by id: a literal would be English in every language.
+void tst_Translations::messagesOfTheProgramAreTexts()
+{
+    static const QRegularExpression literal(
+        QStringLiteral("(?:printError|fail|failAt)\\(\\s*(?:\"\\w+\",\\s*)?QStringLiteral\\("));
+    QDirIterator files(sourceFile(QStringLiteral("host")), {QStringLiteral("*.cpp")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    QStringList found;
+    while (files.hasNext()) {
+        QFile file(files.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        if (literal.match(QString::fromUtf8(file.readAll())).hasMatch()) {
+            found << file.fileName();
+        }
+    }
+    QCOMPARE(found.join(QLatin1Char(' ')), QString());
 }
 
 void tst_Translations::languagesHaveTheSameIds()

@@ -68,6 +68,19 @@ private Q_SLOTS:
         QCOMPARE(limiter.pass(0.1F), 0.1F);
     }
 
+    // A step would be heard as a click.
+    void ducksGradually()
+    {
+        FeedbackLimiter limiter(Rate);
+        while (!limiter.isDucking()) {
+            limiter.pass(0.4F);
+        }
+        const float first = limiter.pass(0.4F);
+        const float second = limiter.pass(0.4F);
+        QVERIFY2(first > 0.3F && second > 0.3F, qPrintable(QString::number(double(first))));
+        QVERIFY(second < first);
+    }
+
     // The microphone records the speaker with a delay of 20 ms, louder than it was played.
     void stopsFeedback_data()
     {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
+#include "host/Languages.h"
 #include "host/report/ReportFile.h"
 #include "host/report/ReportJson.h"
 #include "host/report/ReportWriter.h"
@@ -15,6 +16,7 @@ class tst_ReportFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void writtenAndRead();
     void writtenAndReadBelowALongPath();
     void wrongPlacesAreNamed_data();
@@ -23,7 +25,15 @@ private Q_SLOTS:
     void unreadableOnesAreNamed_data();
     void unreadableOnesAreNamed();
     void keyIsMadeOnce();
+
+private:
+    Languages m_languages;
 };
+
+void tst_ReportFile::initTestCase()
+{
+    QCOMPARE(m_languages.use(QStringLiteral("en")), QString());
+}
 
 void tst_ReportFile::writtenAndRead()
 {
@@ -61,7 +71,7 @@ void tst_ReportFile::wrongPlacesAreNamed_data()
 #ifdef Q_OS_UNIX
     const QString root = QStringLiteral("/");
     QTest::newRow("a device") << "/dev/null"
-                              << "it is not a regular file";
+                              << "not an ordinary file";
 #else
     const QString root = QStringLiteral("C:/");
     QTest::newRow("a device") << "NUL"
@@ -109,13 +119,13 @@ void tst_ReportFile::unreadableOnesAreNamed_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("empty") << QByteArray() << "isn't a report in JSON";
-    QTest::newRow("not JSON") << QByteArray("hello") << "isn't a report in JSON";
-    QTest::newRow("a list") << QByteArray("[]") << "isn't a report in JSON";
+    QTest::newRow("empty") << QByteArray() << "not a report in JSON";
+    QTest::newRow("not JSON") << QByteArray("hello") << "not a report in JSON";
+    QTest::newRow("a list") << QByteArray("[]") << "not a report in JSON";
     QTest::newRow("another object") << QByteArray("{\"a\": 1}") << "format: ";
     QTest::newRow("cut off") << ReportWriter::toJson(sampleReport()).chopped(20)
-                             << "isn't a report in JSON";
-    QTest::newRow("huge") << QByteArray(int(ReportFile::MaxBytes) + 1, ' ') << "larger than 4 MiB";
+                             << "not a report in JSON";
+    QTest::newRow("huge") << QByteArray(int(ReportFile::MaxBytes) + 1, ' ') << "too large";
 }
 
 void tst_ReportFile::unreadableOnesAreNamed()

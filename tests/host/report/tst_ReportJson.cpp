@@ -18,6 +18,7 @@ private Q_SLOTS:
     void roundTrip();
     void theThreeKindsOfFigures();
     void unknownFiguresAreCarriedAlong();
+    void namesTheScenarioOfAScriptedRun();
     void isValidBySchema_data();
     void isValidBySchema();
     void brokenOnesAreNamed_data();
@@ -113,6 +114,16 @@ void tst_ReportJson::unknownFiguresAreCarriedAlong()
     const ReportCheck* camera = read->check(CheckKind::Camera);
     QCOMPARE(camera->measurement(QStringLiteral("lens"))->value.toString(),
              QStringLiteral("Robin's lens"));
+}
+
+void tst_ReportJson::namesTheScenarioOfAScriptedRun()
+{
+    Report report = sampleReport();
+    report.scenario.clear();
+    QVERIFY(!ReportJson::toJson(report).contains(QStringLiteral("scenario")));
+    report.scenario = QStringLiteral("no-microphone");
+    QCOMPARE(ReportJson::toJson(report).value(QStringLiteral("scenario")).toString(),
+             report.scenario);
 }
 
 void tst_ReportJson::isValidBySchema_data()

@@ -192,11 +192,11 @@ void tst_ReportWriter::soundPlayedAndPicked_data()
     QTest::addColumn<SeenState>("deviceState");
     QTest::addColumn<QString>("germanRow");
     QTest::addColumn<QString>("englishRow");
-    QTest::newRow("right") << SeenState::Works << "Richtiger Ton gewählt Ja"
+    QTest::newRow("right") << SeenState::Works << "Richtiges Geräusch gewählt Ja"
                            << "Right sound picked Yes";
-    QTest::newRow("wrong") << SeenState::Fails << "Richtiger Ton gewählt Nein"
+    QTest::newRow("wrong") << SeenState::Fails << "Richtiges Geräusch gewählt Nein"
                            << "Right sound picked No";
-    QTest::newRow("not asked") << SeenState::Unknown << "Richtiger Ton gewählt Keine Antwort"
+    QTest::newRow("not asked") << SeenState::Unknown << "Richtiges Geräusch gewählt Keine Antwort"
                                << "Right sound picked No answer";
 }
 
@@ -210,7 +210,7 @@ void tst_ReportWriter::soundPlayedAndPicked()
     const QString german = QStringLiteral("de");
     for (const QString& shown : {ReportWriter::toText(report, german).simplified(),
                                  visibleText(ReportWriter::toHtml({report}, german))}) {
-        QVERIFY(shown.contains(QLatin1String("Gespielter Ton Donner ") + germanRow));
+        QVERIFY(shown.contains(QString::fromUtf8("Abgespieltes Geräusch Donner ") + germanRow));
         QVERIFY(shown.contains(QLatin1String("Sound played Thunder ") + englishRow));
         QCOMPARE(shown.count(QLatin1String("Right sound picked")), 1); // of the speaker alone
     }

@@ -58,6 +58,8 @@ private Q_SLOTS:
     void setsMicrophoneVolumes();
     void dropsToZeroWhenUnplugged();
     void mutedMicrophoneHearsNothing();
+    void tellsOnlyOfItsOwnMicrophone();
+    void tellsAStateOnce();
 };
 
 void tst_ScriptedMicrophone::hearsSoundWhileOpen()
@@ -177,6 +179,33 @@ void tst_ScriptedMicrophone::mutedMicrophoneHearsNothing()
     QCOMPARE(microphones.levelAt(0), 0.0);
     microphones.setVolumeByUser(80);
     QCOMPARE(microphones.levelAt(0), 0.5);
+}
+
+void tst_ScriptedMicrophone::tellsOnlyOfItsOwnMicrophone()
+{
+    ScriptedMicrophones& microphones = m_engine->microphones();
+    microphones.plug({First, QStringLiteral("A")});
+    microphones.plug({QStringLiteral("other"), QStringLiteral("B")});
+    microphones.choose(First);
+    MicrophoneListener listener;
+    const auto microphone = m_engine->createMicrophone(listener);
+    microphones.setMuted(QStringLiteral("other"), true);
+    QCoreApplication::processEvents();
+    QCOMPARE(listener.take(), QStringList());
+    microphones.setMuted(First, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(listener.take(), QStringList{QStringLiteral("info")});
+}
+
+void tst_ScriptedMicrophone::tellsAStateOnce()
+{
+    ScriptedMicrophones& microphones = m_engine->microphones();
+    microphones.plug({First, QStringLiteral("A")});
+    QSignalSpy changed(&microphones, &Platform::ScriptedDevices::currentStateChanged);
+    microphones.setState(First, DeviceState::Silent);
+    microphones.setState(First, DeviceState::Silent);
+    microphones.setState(QStringLiteral("unplugged"), DeviceState::Silent);
+    QCOMPARE(changed.count(), 1);
 }
 
 QTEST_MAIN(tst_ScriptedMicrophone)
