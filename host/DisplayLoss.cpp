@@ -4,7 +4,7 @@
 
 #include "host/Console.h"
 #include "host/ExitCode.h"
-#include "platform/backend/FileWriter.h"
+#include "host/ProgramEnd.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -16,8 +16,7 @@
 
 namespace {
 
-constexpr int WriteTimeoutMs = 5000;
-constexpr int LongestSavingMs = 2 * WriteTimeoutMs;
+constexpr int LongestSavingMs = 2 * ProgramEnd::BudgetMs;
 
 // What the engine warns of is for the user, what Qt does for developers. Qt's plain warnings are
 // looked at here before they are dropped.
@@ -43,12 +42,12 @@ bool isLastWord(const QString& text)
 [[noreturn]] void endAtOnce()
 {
     Console::printError(qtTrId("ID_Host_Display_Gone"));
+    ProgramEnd::begin();
     const std::function<void()> save = std::exchange(theSaving, nullptr);
     if (save) {
         save();
     }
-    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
-    std::_Exit(static_cast<int>(ExitCode::Unavailable));
+    ProgramEnd::leave(ExitCode::Unavailable);
 }
 
 // What is saved belongs to the GUI thread. On Wayland another one reads, and would end the program

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/Folders.h"
 
+#include "platform/backend/WholeFile.h"
+
+#include <QFile>
 #include <QStandardPaths>
 
 QString Folders::data()
@@ -22,4 +25,12 @@ QString Folders::runs()
 QString Folders::redactionKey()
 {
     return data() + QStringLiteral("/redaction.key");
+}
+
+void Folders::makeReports()
+{
+    Platform::WholeFile::makeFolder(reports());
+    // Earlier versions let everybody in.
+    QFile::setPermissions(data(),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }

@@ -3,6 +3,7 @@
 #include "host/InstalledEngine.h"
 
 #include "host/Options.h"
+#include "host/ProgramEnd.h"
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
@@ -13,9 +14,10 @@
 
 #include <QEventLoop>
 
-namespace {
+#include <algorithm>
+#include <memory>
 
-constexpr int WriteTimeoutMs = 5000;
+namespace {
 
 QString cdnFirstPart(const Options& options)
 {
@@ -57,19 +59,34 @@ InstalledEngine::InstalledEngine(const Options& options, const QString& dataFold
 
 InstalledEngine::~InstalledEngine()
 {
+    ProgramEnd::begin();
+    if (m_results) { // an engine is installed
+        const int deliveryMs = std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs());
+        engine().deliver(std::chrono::milliseconds(deliveryMs));
+    }
     // Write first: the scripted engine removes the folder of its settings.
-    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
+    Platform::FileWriter::waitForWritten(ProgramEnd::remainingMs());
     Platform::EngineRegistry::uninstall();
-    Platform::FileWriter::waitForWritten(WriteTimeoutMs);
 }
 
-void InstalledEngine::prepare()
+bool InstalledEngine::prepare()
 {
-    if (m_prepare) {
-        QEventLoop loop;
-        m_prepare([&loop] { loop.quit(); });
-        loop.exec();
+    if (!m_prepare) {
+        return true;
     }
+    // Shared: if the program is asked to end, the loop ends before the facts are there.
+    struct Wait
+    {
+        QEventLoop loop;
+        bool isDone = false;
+    };
+    const auto wait = std::make_shared<Wait>();
+    m_prepare([wait] {
+        wait->isDone = true;
+        wait->loop.quit();
+    });
+    wait->loop.exec();
+    return wait->isDone;
 }
 
 Platform::Engine& InstalledEngine::engine() const

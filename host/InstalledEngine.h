@@ -29,8 +29,9 @@ public:
     QString error() const { return m_error; }
     ExitCode errorCode() const { return m_errorCode; }
 
-    // Collects the slow facts; runs the event loop for a second at most.
-    void prepare();
+    // Collects the slow facts; runs the event loop for a second at most. False if the program was
+    // asked to end meanwhile.
+    bool prepare();
     Platform::Engine& engine() const;
     QJsonObject results() const; // of the run so far
 

@@ -9,6 +9,7 @@
 #include "host/EarlyTexts.h"
 #include "host/Languages.h"
 #include "host/Options.h"
+#include "host/ProgramEnd.h"
 #include "host/ScreenFit.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
@@ -118,16 +119,17 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
     return configure(options);
 }
 
-ExitCode runWithTexts(const Options& options, const TerminationSignals& signals)
+// Ends the process while the texts are there.
+[[noreturn]] void runWithTexts(const Options& options, const TerminationSignals& signals)
 {
     Languages languages;
     languages.use(options.language); // readOptions() told of problems
     const ExitCode code = runCommand(options, languages.current(), signals);
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(qtTrId("ID_Host_OutputNotWritten"));
-        return ExitCode::CannotWrite;
+        ProgramEnd::leave(ExitCode::CannotWrite);
     }
-    return code;
+    ProgramEnd::leave(code);
 }
 
 } // namespace
@@ -136,6 +138,12 @@ ExitCode Program::run(int argc, char* argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("envcheck"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ENVCHECK_VERSION));
+    // Texts need an application, which may need more files than there are: English it is.
+    const QString limits = System::problemOfLimits();
+    if (!limits.isEmpty()) {
+        Console::printError(limits);
+        return ExitCode::Unavailable;
+    }
     Options options;
     const ExitCode readCode = readOptions(System::arguments(argc, argv), argv, options);
     if (readCode != ExitCode::AllPassed) {
@@ -157,5 +165,5 @@ ExitCode Program::run(int argc, char* argv[])
                 : std::make_unique<QCoreApplication>(shownCount, argv);
     trial.reset();
     const TerminationSignals signals;
-    return runWithTexts(options, signals);
+    runWithTexts(options, signals);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/ExitCode.h"
+
 #include <QStringList>
 
 #include <cstdio>
@@ -15,5 +17,11 @@ void prepareProcess();
 QStringList arguments(int argc, char* argv[]); // the program's name first
 bool isTerminal(std::FILE* file);
 void write(std::FILE* file, const QString& text); // UTF-8 unless it is a terminal
+
+// Empty, or one line: the system lets the program open too few files.
+QString problemOfLimits();
+
+// Ends the process at once, without destructors and without waiting for threads.
+[[noreturn]] void leave(ExitCode code);
 
 } // namespace System

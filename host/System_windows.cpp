@@ -3,6 +3,7 @@
 #include "host/System.h"
 
 #include <array>
+#include <cstdlib>
 #include <io.h>
 #include <memory>
 #include <windows.h>
@@ -72,4 +73,15 @@ void System::write(std::FILE* file, const QString& text)
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
     std::fflush(file);
+}
+
+QString System::problemOfLimits()
+{
+    return {};
+}
+
+void System::leave(ExitCode code)
+{
+    std::fflush(nullptr);
+    std::_Exit(static_cast<int>(code));
 }

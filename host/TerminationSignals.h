@@ -17,11 +17,11 @@ public:
     TerminationSignals();
     ~TerminationSignals() override;
 
-    bool haveArrived() const { return m_haveArrived; }
+    static bool haveArrived() { return s_haveArrived; }
     bool hasTerminalClosed() const { return m_hasTerminalClosed; } // nobody reads the output
 
 private:
     std::unique_ptr<QObject> m_watch; // receives the signal, if the system needs an object for it
-    bool m_haveArrived = false;
+    inline static bool s_haveArrived = false;
     bool m_hasTerminalClosed = false;
 };

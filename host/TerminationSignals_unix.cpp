@@ -40,7 +40,7 @@ TerminationSignals::TerminationSignals()
         raw->setEnabled(false);
         char signal = 0;
         m_hasTerminalClosed = read(thePipe[0], &signal, 1) == 1 && signal == SIGHUP;
-        m_haveArrived = true;
+        s_haveArrived = true;
         QCoreApplication::quit();
     });
     m_watch = std::move(notifier);

@@ -40,7 +40,7 @@ TerminationSignals::TerminationSignals()
         QMetaObject::invokeMethod(
             this,
             [this] {
-                m_haveArrived = true;
+                s_haveArrived = true;
                 QCoreApplication::quit();
             },
             Qt::QueuedConnection);

@@ -8,6 +8,7 @@
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/OutcomeWindow.h"
+#include "host/ProgramEnd.h"
 #include "host/TerminationSignals.h"
 #include "host/report/Redaction.h"
 #include "host/report/Remedies.h"
@@ -18,6 +19,7 @@
 #include "host/report/RunOutcome.h"
 #include "host/tour/Tour.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/WholeFile.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <CoreEngine/CoreEngine.h>
@@ -84,9 +86,16 @@ bool CheckCommand::prepareFiles()
         const QString name =
             QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss-zzz"));
         m_reportFile = QStringLiteral("%1/%2.json").arg(Folders::reports(), name);
-        QDir().mkpath(Folders::reports());
     }
-    return true;
+    if (isTour()) {
+        return true;
+    }
+    Folders::makeReports();
+    const QString wrong = Platform::WholeFile::problem(Folders::runs());
+    if (!wrong.isEmpty()) {
+        Console::printError(qtTrId("ID_Host_File_NotWritten").arg(Folders::runs(), wrong));
+    }
+    return wrong.isEmpty();
 }
 
 bool CheckCommand::prepareRedaction()
@@ -114,13 +123,16 @@ ExitCode CheckCommand::open(const QString& language)
                              language,
                              m_options.platform,
                              QFileInfo(m_options.scenario).completeBaseName()};
-    installed.prepare();
+    if (!installed.prepare()) {
+        return ExitCode::LeftEarly;
+    }
     const std::unique_ptr<Tour> tour = startTour(installed.engine());
     bool wasPutOut = false;
     bool isWritten = true;
     RunOutcome outcome;
     Report shown;
     const auto save = [&] {
+        ProgramEnd::begin();
         facts.finished = QDateTime::currentDateTime();
         const QJsonObject results = installed.results();
         outcome = RunOutcome::fromDocument(results, wasPutOut);
@@ -140,6 +152,7 @@ ExitCode CheckCommand::open(const QString& language)
     const bool isEnding = m_signals && m_signals->haveArrived();
     if (!isEnding && opensWindow(m_options, outcome)) {
         OutcomeWindow(shown).exec();
+        ProgramEnd::beginAgain();
     }
     return isWritten ? code : ExitCode::CannotWrite;
 }
@@ -159,8 +172,8 @@ bool CheckCommand::writeResults(const QJsonObject& results) const
     if (m_options.resultsFile.isEmpty()) {
         return true;
     }
-    const QString problem =
-        ReportFile::write(m_options.resultsFile, QJsonDocument(results).toJson());
+    const QString problem = ReportFile::write(
+        m_options.resultsFile, QJsonDocument(results).toJson(), ProgramEnd::remainingMs());
     if (!problem.isEmpty()) {
         Console::printError(problem);
     }
@@ -171,7 +184,8 @@ bool CheckCommand::write(const Report& report, const Report& shown) const
 {
     const QString problem = ReportFile::write(
         m_reportFile,
-        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language));
+        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language),
+        ProgramEnd::remainingMs());
     // A tour is no run of a user.
     if (!isTour()) {
         RunHistory(Folders::runs())

@@ -7,6 +7,7 @@
 #include "host/Folders.h"
 #include "host/InstalledEngine.h"
 #include "host/Options.h"
+#include "host/TerminationSignals.h"
 
 #include <QJsonDocument>
 
@@ -18,6 +19,9 @@ ExitCode DevicesCommand::run(const Options& options)
         return installed.errorCode();
     }
     const DeviceSurvey survey = DeviceSurvey::of(installed.engine());
+    if (TerminationSignals::haveArrived()) {
+        return ExitCode::LeftEarly; // half a list would look like all of it
+    }
     Console::print(options.isJson ? QString::fromUtf8(QJsonDocument(survey.toJson()).toJson())
                                   : survey.toText());
     return ExitCode::AllPassed;

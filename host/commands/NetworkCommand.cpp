@@ -10,11 +10,16 @@
 #include "host/report/NetworkGrade.h"
 #include "host/report/ReportWords.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/Log.h"
 #include "platform/backend/NetworkLimits.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace {
+
+// A probe tells its figures every second, also if nobody answers.
+constexpr int FirstFigureMs = 5000;
 
 // Prints what a probe measures: a terminal gets one line that changes, a file a line per figure.
 class FigurePrinter final : public Platform::NetworkProbe::Listener
@@ -44,7 +49,7 @@ public:
     }
 
     bool hasServer() const { return m_last.problem != Platform::NetworkProblem::NoServer; }
-
+    bool hasPrinted() const { return m_printed > 0; }
     bool hasPassed() const
     {
         return m_printed > 0 &&
@@ -88,14 +93,29 @@ ExitCode NetworkCommand::run(const Options& options)
         Console::printError(installed.error());
         return installed.errorCode();
     }
-    installed.prepare();
+    if (!installed.prepare()) {
+        return ExitCode::SomeFailed;
+    }
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
     Console::print(qtTrId("ID_Host_Network_Ends")
                        .arg(Console::plainLine(facts.serverName()),
                             Console::plainLine(facts.clientAddress())) +
                    QLatin1Char('\n'));
     const FigurePrinter printer(installed.engine(), options.count);
+    bool isUnmeasured = false;
+    QTimer::singleShot(FirstFigureMs, QCoreApplication::instance(), [&printer, &isUnmeasured] {
+        isUnmeasured = !printer.hasPrinted();
+        if (isUnmeasured) {
+            QCoreApplication::quit();
+        }
+    });
     QCoreApplication::exec();
+    if (isUnmeasured) {
+        // A fault of the system as rare as this has no text in every language.
+        qCWarning(Platform::Log::network, "Nothing is measured: the system may refuse more "
+                                          "threads. End other programs, or raise the limit");
+        return ExitCode::Unavailable;
+    }
     if (options.count == 0 && Console::isTerminal()) {
         Console::print(QStringLiteral("\n"));
     }

@@ -4,14 +4,15 @@
 
 #include "host/report/ReportJson.h"
 #include "platform/backend/FileNames.h"
+#include "platform/backend/FileWriter.h"
+#include "platform/backend/WholeFile.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRandomGenerator>
-#include <QSaveFile>
 #include <array>
+#include <cerrno>
 
 namespace {
 
@@ -39,6 +40,10 @@ QString ReportFile::problemOfWriting(const QString& path)
     if (file.exists() && !file.isFile()) {
         return line(path, qtTrId("ID_Host_File_NotOrdinary"));
     }
+    const QString wrong = Platform::WholeFile::problem(path);
+    if (!wrong.isEmpty()) {
+        return line(path, qtTrId("ID_Host_File_NameOther").arg(wrong));
+    }
     if (!folder.isDir()) {
         return line(path, qtTrId("ID_Host_File_NoFolder").arg(folder.absoluteFilePath()));
     }
@@ -48,37 +53,40 @@ QString ReportFile::problemOfWriting(const QString& path)
     return {};
 }
 
-QString ReportFile::write(const QString& path, const QByteArray& content)
+QString ReportFile::write(const QString& path, const QByteArray& content, int timeoutMs)
 {
     QString problem = problemOfWriting(path);
     if (!problem.isEmpty()) {
         return problem;
     }
-    QSaveFile file(path);
-    // commit() doesn't report errors of the last buffered bytes; flush() does.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.flush() || !file.commit()) {
-        return line(path, qtTrId("ID_Host_File_NameOther").arg(file.errorString()));
-    }
-    return {};
+    problem = Platform::FileWriter::replaceNow(path, content, timeoutMs);
+    return problem.isEmpty() ? QString()
+                             : line(path, qtTrId("ID_Host_File_NameOther").arg(problem));
 }
 
 std::optional<Report> ReportFile::read(const QString& path, QString* error)
 {
-    QFile file(path);
-    const QString nameProblem = Platform::FileNames::problem(path);
-    if (!nameProblem.isEmpty() || !file.open(QIODevice::ReadOnly)) {
-        *error = qtTrId("ID_Host_File_NotRead")
-                     .arg(path, nameProblem.isEmpty() ? file.errorString() : nameProblem);
+    if (QFileInfo(path).size() > MaxBytes) {
+        *error = qtTrId("ID_Host_File_NoReport").arg(path, qtTrId("ID_Host_File_TooLarge"));
         return std::nullopt;
     }
-    const QByteArray content = file.read(MaxBytes + 1);
+    QByteArray content;
+    QString unreadable = Platform::FileNames::problem(path);
+    if (unreadable.isEmpty() && !QFileInfo::exists(path)) {
+        unreadable = qt_error_string(ENOENT);
+    }
+    if (unreadable.isEmpty()) {
+        unreadable = Platform::WholeFile::read(path, &content, MaxBytes);
+    }
+    if (!unreadable.isEmpty()) {
+        *error = qtTrId("ID_Host_File_NotRead").arg(path, unreadable);
+        return std::nullopt;
+    }
     QJsonParseError parsing = {};
     const QJsonDocument document = QJsonDocument::fromJson(content, &parsing);
-    if (content.size() > MaxBytes || !document.isObject()) {
-        const QString why = content.size() > MaxBytes ? qtTrId("ID_Host_File_TooLarge")
-                            : document.isNull()       ? parsing.errorString()
-                                                      : qtTrId("ID_Host_File_NoObject");
+    if (!document.isObject()) {
+        const QString why =
+            document.isNull() ? parsing.errorString() : qtTrId("ID_Host_File_NoObject");
         *error = qtTrId("ID_Host_File_NoReport").arg(path, why);
         return std::nullopt;
     }
@@ -92,18 +100,19 @@ std::optional<Report> ReportFile::read(const QString& path, QString* error)
 
 QByteArray ReportFile::redactionKey(const QString& path, QString* error)
 {
-    QFile present(path);
-    if (present.open(QIODevice::ReadOnly)) {
-        QByteArray key = present.read(KeyBytes);
-        if (key.size() == KeyBytes) {
-            return key;
-        }
+    QByteArray present;
+    const QString unreadable = Platform::WholeFile::read(path, &present);
+    if (!unreadable.isEmpty()) {
+        *error = line(path, unreadable);
+        return {};
+    }
+    if (present.size() >= KeyBytes) {
+        return present.left(KeyBytes);
     }
     std::array<quint32, KeyWords> words = {};
     QRandomGenerator::system()->fillRange(words.data(), KeyWords);
     const QByteArray key(reinterpret_cast<const char*>(words.data()), KeyBytes);
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    Platform::WholeFile::makeFolder(QFileInfo(path).absolutePath());
     *error = write(path, key);
-    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     return error->isEmpty() ? key : QByteArray();
 }

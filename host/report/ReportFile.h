@@ -10,9 +10,11 @@ namespace ReportFile {
 // A larger file is no report.
 constexpr qint64 MaxBytes = qint64(4) * 1024 * 1024;
 
+constexpr int WriteTimeoutMs = 5000;
+
 // Writes the whole file, or leaves it as it was. Returns nothing, or one line with the file, the
-// problem and what to do.
-QString write(const QString& path, const QByteArray& content);
+// problem and what to do. A disk that takes longer than the timeout may still write it.
+QString write(const QString& path, const QByteArray& content, int timeoutMs = WriteTimeoutMs);
 // Checks whether write() can work, without writing. Returns the same.
 QString problemOfWriting(const QString& path);
 // Nothing if the file is no report; error then is one line that names it.

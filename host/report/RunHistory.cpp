@@ -3,8 +3,8 @@
 #include "host/report/RunHistory.h"
 
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/WholeFile.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <algorithm>
 #include <cmath>
@@ -60,14 +60,13 @@ QJsonObject lineOf(const Report& report, const QString& file)
 
 QJsonObject lastGoodLine(const QString& path, Options::Platform platform)
 {
-    QFile file(path);
+    QByteArray runs;
     QJsonObject found;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return found;
-    }
-    while (!file.atEnd()) {
+    // The check goes on without a history that can't be read; to append to it says why.
+    Platform::WholeFile::read(path, &runs);
+    for (const QByteArray& each : runs.split('\n')) {
         // Skips a damaged line: it is no good run.
-        const QJsonObject line = QJsonDocument::fromJson(file.readLine()).object();
+        const QJsonObject line = QJsonDocument::fromJson(each).object();
         if (line.value(PlatformKey) == of(platform) &&
             line.value(OutcomeKey) == of(RunEnd::Passed)) {
             found = line;

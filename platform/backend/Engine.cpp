@@ -6,4 +6,8 @@ namespace Platform {
 
 Engine::~Engine() = default;
 
+void Engine::deliver(std::chrono::milliseconds /*limit*/)
+{
+}
+
 } // namespace Platform

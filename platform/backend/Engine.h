@@ -11,6 +11,7 @@
 #include "platform/backend/SpeakerBackend.h"
 #include "platform/backend/SystemFacts.h"
 
+#include <chrono>
 #include <memory>
 
 namespace Platform {
@@ -36,6 +37,10 @@ public:
     virtual ReportSink& reportSink() = 0;
     // The folder of the settings stores. It may not exist yet.
     virtual QString settingsFolder() const = 0;
+
+    // The program ends: waits until what is on its way to a server has arrived or failed, at most
+    // for the limit. Does nothing unless an engine has something to deliver.
+    virtual void deliver(std::chrono::milliseconds limit);
 };
 
 } // namespace Platform

@@ -2,106 +2,90 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 
-#include "platform/backend/FileNames.h"
-#include "platform/backend/Log.h"
+#include "platform/backend/WriterQueue.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
-#include <QRunnable>
-#include <QSaveFile>
-#include <QThreadPool>
+#include <chrono>
+#include <future>
+#include <memory>
 
 namespace Platform {
 
 namespace {
 
-constexpr int IdleThreadMs = 200;
-constexpr qint64 MaxPresentBytes = qint64(16) * 1024 * 1024;
+using Order = WriterQueue::Order;
 
-class WriterPool : public QThreadPool
+// Never destroyed: that would wait for a disk that doesn't answer.
+WriterQueue& queue()
 {
-public:
-    WriterPool()
-    {
-        setMaxThreadCount(1); // keeps the order
-        setExpiryTimeout(IdleThreadMs);
-    }
-};
-
-QThreadPool& pool()
-{
-    static WriterPool thePool;
-    return thePool;
+    static auto* const theQueue = new WriterQueue;
+    return *theQueue;
 }
 
-// Empty on success, otherwise what went wrong.
-QString updateNow(const QString& path, const FileWriter::Transform& transform)
+Order orderFor(const QString& path, FileWriter::Done done)
 {
-    const QString problem = FileNames::problem(path);
-    if (!problem.isEmpty()) {
-        return problem;
+    Order order;
+    order.path = path;
+    order.isUnheard = !done;
+    if (done) {
+        order.listeners.push_back(std::move(done));
     }
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
-        return QStringLiteral("it is not a regular file");
-    }
-    if (!QDir().mkpath(info.absolutePath())) {
-        return QStringLiteral("its folder can't be created");
-    }
-    QLockFile lock(path + QStringLiteral(".lock"));
-    if (!lock.tryLock(FileWriter::LockTimeoutMs)) {
-        return lock.error() == QLockFile::LockFailedError
-                   ? QStringLiteral("another program holds its lock file %1.lock").arg(path)
-                   : QStringLiteral("its lock file can't be created");
-    }
-    QByteArray present;
-    if (info.exists()) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly)) {
-            return file.errorString();
-        }
-        present = file.read(MaxPresentBytes + 1);
-        if (present.size() > MaxPresentBytes) {
-            return QStringLiteral("it is larger than %1 MiB").arg(MaxPresentBytes / 1024 / 1024);
-        }
-    }
-    const QByteArray content = transform(present);
-    QSaveFile file(path);
-    // commit() doesn't report errors of the last buffered bytes; flush() does.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.flush() || !file.commit()) {
-        return file.errorString();
-    }
-    return {};
+    return order;
 }
 
 } // namespace
 
-void FileWriter::update(const QString& path, Transform transform)
+void FileWriter::update(const QString& path, Transform transform, Done done)
 {
-    enqueue([path, transform = std::move(transform)] {
-        const QString problem = updateNow(path, transform);
-        if (!problem.isEmpty()) {
-            qCWarning(Log::files).noquote() << "Not written:" << path << "-" << problem;
-        }
-    });
+    Order order = orderFor(path, std::move(done));
+    order.changes.push_back(std::move(transform));
+    queue().add(std::move(order));
 }
 
-void FileWriter::replace(const QString& path, const QByteArray& content)
+void FileWriter::replace(const QString& path, const QByteArray& content, Done done)
 {
-    update(path, [content](const QByteArray&) { return content; });
+    Order order = orderFor(path, std::move(done));
+    order.content = content;
+    queue().add(std::move(order));
+}
+
+void FileWriter::remove(const QString& path)
+{
+    Order order = orderFor(path, {});
+    order.kind = Order::Kind::Remove;
+    queue().add(std::move(order));
 }
 
 void FileWriter::enqueue(std::function<void()> job)
 {
-    pool().start(QRunnable::create(std::move(job)));
+    Order order;
+    order.kind = Order::Kind::Job;
+    order.job = std::move(job);
+    queue().add(std::move(order));
+}
+
+QString FileWriter::replaceNow(const QString& path, const QByteArray& content, int timeoutMs)
+{
+    const auto outcome = std::make_shared<std::promise<QString>>();
+    std::future<QString> told = outcome->get_future();
+    Order order =
+        orderFor(path, [outcome](const QString& problem) { outcome->set_value(problem); });
+    order.content = content;
+    queue().add(std::move(order), true);
+    queue().startOrRun();
+    if (told.wait_for(std::chrono::milliseconds(timeoutMs)) != std::future_status::ready) {
+        return QStringLiteral("the disk doesn't answer");
+    }
+    return told.get();
 }
 
 bool FileWriter::waitForWritten(int timeoutMs)
 {
-    return pool().waitForDone(timeoutMs);
+    return queue().wait(timeoutMs);
+}
+
+FileWriter::Outcome FileWriter::outcome()
+{
+    return queue().outcome();
 }
 
 } // namespace Platform

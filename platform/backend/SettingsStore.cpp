@@ -7,8 +7,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <algorithm>
+#include <utility>
 
 namespace Platform {
 
@@ -23,18 +27,33 @@ QByteArray readFile(const QString& path)
 bool writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    // Closing doesn't report errors of the last buffered bytes; flush() does.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+}
+
+// QSettings doesn't notice if the disk is full. It keeps what it wrote to a file of this name in
+// mind, and wouldn't read it again.
+bool isWhole(const QString& file, const QSettings& settings)
+{
+    const QSettings written(file, QSettings::IniFormat);
+    const QStringList keys = settings.allKeys();
+    return std::all_of(keys.begin(), keys.end(), [&](const QString& key) {
+        return key.isEmpty() || (written.contains(key) &&
+                                 written.value(key).toString() == settings.value(key).toString());
+    });
 }
 
 // QSettings waits without limit while another program holds the lock. So it edits a private copy,
-// and the FileWriter replaces the file, with a limited wait.
-QByteArray edited(const QString& path, const QByteArray& present,
-                  const QMap<QString, QVariant>& changes)
+// and the FileWriter replaces the file, with a limited wait. Nothing if the copy isn't whole.
+std::optional<QByteArray> edited(const QString& path, const QByteArray& present,
+                                 const QMap<QString, QVariant>& changes)
 {
-    const QTemporaryDir folder;
+    // Beside the file: if this disk is full, nothing can be written anyway.
+    const QTemporaryDir folder(QFileInfo(path).absolutePath() +
+                               QStringLiteral("/.envcheck-XXXXXX"));
     const QString copy = folder.filePath(QStringLiteral("copy.ini"));
     if (!folder.isValid() || !writeFile(copy, present)) {
-        return present;
+        return std::nullopt;
     }
     QSettings settings(copy, QSettings::IniFormat);
     for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
@@ -45,12 +64,26 @@ QByteArray edited(const QString& path, const QByteArray& present,
         qCWarning(Log::settings).noquote()
             << "Damaged settings:" << path << "- what could be read of it is kept";
     }
-    return settings.status() == QSettings::AccessError ? present : readFile(copy);
+    const QString written = folder.filePath(QStringLiteral("written.ini"));
+    if (settings.status() == QSettings::AccessError || !QFile::rename(copy, written) ||
+        !isWhole(written, settings)) {
+        return std::nullopt;
+    }
+    return readFile(written);
 }
 
 } // namespace
 
-SettingsStore::SettingsStore(const QString& path) : m_path(path)
+// All values that were set, also those that are written: the next write makes up for a failed one.
+struct SettingsStore::Changes
+{
+    QMutex mutex;
+    QMap<QString, QVariant> values;
+    bool areNew = false; // something was set since the last write began
+};
+
+SettingsStore::SettingsStore(const QString& path)
+    : m_path(path), m_changes(std::make_shared<Changes>())
 {
 }
 
@@ -63,9 +96,22 @@ QVariant SettingsStore::value(const QString& key, const QVariant& fallback) cons
 void SettingsStore::setValue(const QString& key, const QVariant& value)
 {
     m_values.insert(key, value);
-    m_written.insert(key, value);
-    FileWriter::update(m_path, [path = m_path, changes = m_written](const QByteArray& present) {
-        return edited(path, present, changes);
+    {
+        const QMutexLocker lock(&m_changes->mutex);
+        m_changes->values.insert(key, value);
+        m_changes->areNew = true;
+    }
+    // If several wait for the disk, the first one writes the values of all.
+    FileWriter::update(m_path, [path = m_path, changes = m_changes](const QByteArray& present) {
+        QMap<QString, QVariant> values;
+        {
+            const QMutexLocker lock(&changes->mutex);
+            if (!std::exchange(changes->areNew, false)) {
+                return std::optional(present);
+            }
+            values = changes->values;
+        }
+        return edited(path, present, values);
     });
 }
 

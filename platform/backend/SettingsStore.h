@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QString>
 #include <QVariant>
+#include <memory>
 
 namespace Platform {
 
@@ -24,12 +25,14 @@ public:
     void setValue(const QString& key, const QVariant& value);
 
 private:
+    struct Changes;
+
     void load() const;
 
     QString m_path;
     mutable bool m_isLoaded = false;
     mutable QMap<QString, QVariant> m_values;
-    QMap<QString, QVariant> m_written;
+    std::shared_ptr<Changes> m_changes; // shared with the thread that writes
 };
 
 } // namespace Platform

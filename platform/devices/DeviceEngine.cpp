@@ -140,6 +140,11 @@ QString DeviceEngine::settingsFolder() const
     return m_config.settingsFolder;
 }
 
+void DeviceEngine::deliver(std::chrono::milliseconds limit)
+{
+    m_reports->deliver(limit);
+}
+
 QJsonObject DeviceEngine::results() const
 {
     return m_reports->results().toJson();

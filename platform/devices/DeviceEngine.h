@@ -40,6 +40,7 @@ public:
     SystemFacts& systemFacts() override;
     ReportSink& reportSink() override;
     QString settingsFolder() const override;
+    void deliver(std::chrono::milliseconds limit) override;
 
     QJsonObject results() const; // of the run so far, see ResultDocument
 

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <QTcpSocket>
+#include <QTimer>
 
 HttpServer::HttpServer()
 {
@@ -80,6 +81,19 @@ void HttpServer::answer(QTcpSocket* socket)
     case Behaviour::Take:
         socket->write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok");
         break;
+    case Behaviour::TakeLate:
+        QTimer::singleShot(LateMs, socket, [socket] {
+            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n");
+        });
+        break;
+    case Behaviour::SlowBody:
+        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n");
+        writeEvery(socket, 20, "x");
+        break;
+    case Behaviour::EndlessHeaders:
+        socket->write("HTTP/1.1 200 OK\r\n");
+        writeEvery(socket, 1, "X-Name: value\r\n");
+        break;
     case Behaviour::Fail:
         socket->write("HTTP/1.1 500 Out of order\r\nContent-Length: 0\r\n\r\n");
         break;
@@ -93,4 +107,11 @@ void HttpServer::answer(QTcpSocket* socket)
         socket->abort();
         break;
     }
+}
+
+void HttpServer::writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text)
+{
+    auto* timer = new QTimer(socket);
+    QObject::connect(timer, &QTimer::timeout, socket, [socket, text] { socket->write(text); });
+    timer->start(intervalMs);
 }

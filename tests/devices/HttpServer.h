@@ -13,7 +13,9 @@ class QTcpSocket;
 class HttpServer
 {
 public:
-    enum class Behaviour { Take, Fail, Redirect, Hang, HangUp };
+    static constexpr int LateMs = 300;
+
+    enum class Behaviour { Take, TakeLate, SlowBody, EndlessHeaders, Fail, Redirect, Hang, HangUp };
 
     HttpServer();
     ~HttpServer();
@@ -34,6 +36,7 @@ private:
     void takeConnection();
     void read(QTcpSocket* socket);
     void answer(QTcpSocket* socket);
+    static void writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text);
 
     QTcpServer m_server;
     quint16 m_port = 0;

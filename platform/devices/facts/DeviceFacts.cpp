@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/facts/DeviceFacts.h"
 
+#include "platform/backend/DetachedThread.h"
 #include "platform/backend/MachineFacts.h"
 #include "platform/devices/facts/LocalAddress.h"
 
-#include <thread>
 #include <utility>
 
 namespace Platform {
@@ -14,14 +14,12 @@ namespace {
 
 constexpr int SlowFacts = 3;
 
-// A thread that nobody waits for: one that hangs in a dead file system can't be ended, and must
-// hold up neither the dialog nor the end of the program.
+// If there is no thread for it, the fact stays unknown.
 template <typename Gather, typename Take>
 void gatherElsewhere(const Mailbox::Sender& sender, Gather gather, Take take)
 {
-    std::thread([sender, gather, take] {
-        sender.post([take, value = gather()] { take(value); });
-    }).detach();
+    DetachedThread::run(
+        [sender, gather, take] { sender.post([take, value = gather()] { take(value); }); });
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "platform/backend/Log.h"
 #include "platform/devices/network/ServerLookup.h"
 
-#include <QHostInfo>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QTimerEvent>
@@ -32,12 +31,7 @@ ProbeWorker::ProbeWorker(const StunServer& server, const QString& nameservers, R
 {
 }
 
-ProbeWorker::~ProbeWorker()
-{
-    if (m_lookup >= 0) {
-        QHostInfo::abortHostLookup(m_lookup);
-    }
-}
+ProbeWorker::~ProbeWorker() = default;
 
 void ProbeWorker::start()
 {
@@ -123,7 +117,7 @@ void ProbeWorker::openNext()
 
 void ProbeWorker::lookUp()
 {
-    if (m_serverLookup || m_lookup >= 0 || now() < m_nextLookup) {
+    if (m_serverLookup || m_isLookingUp || now() < m_nextLookup) {
         return;
     }
     m_nextLookup = now() + LookupInterval;
@@ -168,19 +162,18 @@ void ProbeWorker::lookUpAddresses()
         m_addresses = {literal};
         return;
     }
-    // By name: what a function object is kept in would leak with a lookup that is called off.
-    m_lookup = QHostInfo::lookupHost(server.host, this, SLOT(takeAddresses(QHostInfo)));
+    m_isLookingUp = true;
+    m_lookup = std::make_unique<HostLookup>(
+        server.host, [this](const HostLookup::Answer& answer) { takeAddresses(answer); });
 }
 
-void ProbeWorker::takeAddresses(const QHostInfo& info)
+void ProbeWorker::takeAddresses(const HostLookup::Answer& answer)
 {
-    m_lookup = -1;
-    m_addresses = info.addresses();
-    m_problem =
-        info.error() == QHostInfo::HostNotFound ? NetworkProblem::NoSuchHost : NetworkProblem::None;
+    m_isLookingUp = false;
+    m_addresses = answer.addresses;
+    m_problem = answer.isUnknownName ? NetworkProblem::NoSuchHost : NetworkProblem::None;
     if (m_addresses.isEmpty()) {
-        qCDebug(Log::network).noquote()
-            << "No address of" << info.hostName() << "-" << info.errorString();
+        qCDebug(Log::network).noquote() << "No address of" << m_server.host << "-" << answer.error;
     } else if (!m_socket) {
         tick();
     }

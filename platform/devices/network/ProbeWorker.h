@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/StunServer.h"
+#include "platform/devices/network/HostLookup.h"
 #include "platform/devices/network/ProbeWindow.h"
 #include "platform/devices/network/StunClient.h"
 
@@ -11,8 +12,8 @@
 #include <QObject>
 #include <deque>
 #include <functional>
+#include <memory>
 
-class QHostInfo;
 class QUdpSocket;
 
 namespace Platform {
@@ -44,9 +45,6 @@ public:
 protected:
     void timerEvent(QTimerEvent* event) override;
 
-private Q_SLOTS:
-    void takeAddresses(const QHostInfo& info);
-
 private:
     struct OpenProbe
     {
@@ -62,6 +60,7 @@ private:
     void lookUpServers();
     void takeServers(const std::vector<StunServer>& servers);
     void lookUpAddresses();
+    void takeAddresses(const HostLookup::Answer& answer);
     void openNext();
     void closeWhereUseless();
     void sendProbe();
@@ -76,7 +75,8 @@ private:
     QBasicTimer m_verdictTimer;
     const QString m_nameservers;
     std::unique_ptr<ServerLookup> m_serverLookup; // the one under way
-    int m_lookup = -1;                            // of addresses, the one under way
+    std::unique_ptr<HostLookup> m_lookup;         // the last one
+    bool m_isLookingUp = false;
     ProbeWindow::Time m_nextLookup{0};
     std::deque<StunServer> m_servers; // not tried yet
     QList<QHostAddress> m_addresses;  // of the last one taken from them, not tried yet

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QJsonObject>
 #include <chrono>
+#include <system_error>
 #include <utility>
 
 namespace Platform {
@@ -49,6 +50,9 @@ PulsePlayer::~PulsePlayer()
         playback->stop();
         connection.remove(playback);
     });
+    if (!m_reader.joinable()) {
+        return;
+    }
     if (m_readerEnd.wait_for(ReaderPatience) == std::future_status::ready) {
         m_reader.join();
     } else {
@@ -82,7 +86,11 @@ void PulsePlayer::startReading(const QString& path, float volume)
     std::packaged_task<void()> reading(
         [path, volume, sound = m_sound] { Mp3Decoder::decode(path, volume, *sound); });
     m_readerEnd = reading.get_future();
-    m_reader = std::thread(std::move(reading));
+    try {
+        m_reader = std::thread(std::move(reading));
+    } catch (const std::system_error&) { // no thread can be made
+        sender.post([this] { fail(toString(DeviceState::Failed)); });
+    }
 }
 
 void PulsePlayer::followSpeaker()

@@ -2,11 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseServer.h"
 
+#include "platform/backend/DetachedThread.h"
+
+#include <chrono>
 #include <mutex>
 #include <optional>
 #include <utility>
 
 namespace Platform {
+
+namespace {
+
+constexpr std::chrono::milliseconds EndTimeout(1000);
+constexpr std::chrono::milliseconds EndTimeoutOfUnconnected(50);
+
+} // namespace
 
 // The newest list on its way to the GUI thread. It replaces a list that was not fetched yet, so
 // that many changes at once don't fill the event loop.
@@ -40,7 +50,12 @@ PulseServer::PulseServer() : m_arrival(std::make_shared<Arrival>())
         });
 }
 
-PulseServer::~PulseServer() = default;
+// libpulse looks up the server's name on a thread, and waits for it at the end.
+PulseServer::~PulseServer()
+{
+    const auto limit = m_devices.isConnected ? EndTimeout : EndTimeoutOfUnconnected;
+    DetachedThread::runWithin(limit, [connection = m_connection.release()] { delete connection; });
+}
 
 quint64 PulseServer::setVolume(PulseKind kind, const QString& id, int percent)
 {

@@ -4,14 +4,15 @@
 
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/Log.h"
+#include "platform/backend/WholeFile.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkReply>
 #include <algorithm>
+#include <utility>
 
 namespace Platform {
 
@@ -64,20 +65,40 @@ void OutboxPoster::add(const QString& fileName, const QByteArray& report)
     }
 }
 
+void OutboxPoster::whenSettled(std::function<void()> settled)
+{
+    m_settled.push_back(std::move(settled));
+    tellSettled();
+}
+
+bool OutboxPoster::isSettled() const
+{
+    return !m_reply && (m_reports.empty() || m_retryTimer.isActive());
+}
+
+void OutboxPoster::tellSettled()
+{
+    if (isSettled()) {
+        for (const std::function<void()>& settled : std::exchange(m_settled, {})) {
+            settled();
+        }
+    }
+}
+
 void OutboxPoster::readFolder()
 {
     const QDir folder(m_folder);
     const QStringList names =
         folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString& name : names) {
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::ReadOnly)) {
+        QByteArray content;
+        const QString problem = WholeFile::read(folder.filePath(name), &content);
+        if (!problem.isEmpty()) {
             qCWarning(Log::reports).noquote()
-                << "Not posted:" << file.fileName() << "-" << file.errorString();
+                << "Not posted:" << folder.filePath(name) << "-" << problem;
             continue;
         }
-        const QByteArray content = file.read(MaxReportBytes);
-        if (!timeOf(content).isValid()) {
+        if (content.size() > MaxReportBytes || !timeOf(content).isValid()) {
             drop(name, "it isn't a report");
             continue;
         }
@@ -88,38 +109,54 @@ void OutboxPoster::readFolder()
 
 void OutboxPoster::postNext()
 {
-    while (!m_isPosting && !m_reports.empty() && isOutdated(m_reports.front())) {
+    while (!m_reply && !m_reports.empty() && isOutdated(m_reports.front())) {
         drop(m_reports.front().fileName, "it is too old");
         m_reports.pop_front();
     }
-    if (m_isPosting || m_reports.empty()) {
+    if (m_reply || m_reports.empty()) {
+        tellSettled();
         return;
     }
-    m_isPosting = true;
+    QNetworkReply* reply = m_network.post(request(m_reports.front()), m_reports.front().content);
+    m_reply = reply;
+    const auto end = [this, reply, name = m_reports.front().fileName] { finish(reply, name); };
+    // Qt's own timeout starts anew with every byte.
+    QTimer::singleShot(m_limits.postTimeout, Qt::CoarseTimer, reply, end);
+    // The status is all that counts: what else the server has to say isn't read.
+    reply->setReadBufferSize(1);
+    connect(reply, &QNetworkReply::metaDataChanged, reply, end);
+    connect(reply, &QNetworkReply::finished, reply, end);
+}
+
+QNetworkRequest OutboxPoster::request(const Report& report) const
+{
     QNetworkRequest request(m_url);
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    request.setTransferTimeout(int(m_limits.transferTimeout.count()));
-    QNetworkReply* reply = m_network.post(request, m_reports.front().content);
-    // What the server has to say isn't kept, however much it is.
-    connect(reply, &QNetworkReply::readyRead, reply, [reply] { reply->readAll(); });
-    connect(reply, &QNetworkReply::finished, this,
-            [this, reply, name = m_reports.front().fileName] { finish(reply, name); });
+    // A report whose answer got lost is posted again; by this the server knows it.
+    const QJsonObject content = QJsonDocument::fromJson(report.content).object();
+    request.setRawHeader("Idempotency-Key", content.value(QLatin1String("id")).toString().toUtf8());
+    return request;
 }
 
 void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
 {
-    reply->deleteLater();
-    m_isPosting = false;
+    if (m_reply != reply) {
+        return; // it has ended already
+    }
+    m_reply = nullptr;
+    reply->deleteLater(); // ends the connection
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply->error() == QNetworkReply::NoError && status >= FirstSuccess &&
-        status < FirstBeyondSuccess) {
+    if (status >= FirstSuccess && status < FirstBeyondSuccess) {
         forget(fileName);
         m_reports.pop_front();
         m_retry = m_limits.firstRetry;
         postNext();
         return;
     }
-    retryLater(status > 0 ? QStringLiteral("status %1").arg(status) : reply->errorString());
+    const bool hasError = reply->error() != QNetworkReply::NoError;
+    retryLater(status > 0 ? QStringLiteral("status %1").arg(status)
+               : hasError ? reply->errorString()
+                          : QStringLiteral("no answer in time"));
 }
 
 void OutboxPoster::retryLater(const QString& reason)
@@ -130,12 +167,13 @@ void OutboxPoster::retryLater(const QString& reason)
     std::rotate(m_reports.begin(), m_reports.begin() + 1, m_reports.end());
     m_retryTimer.start(m_retry);
     m_retry = std::min(m_retry * 2, m_limits.longestRetry);
+    tellSettled();
 }
 
 // The one that is being posted stays at the front.
 void OutboxPoster::dropSurplus()
 {
-    const auto first = m_isPosting ? 1 : 0;
+    const auto first = m_reply ? 1 : 0;
     while (int(m_reports.size()) > m_limits.maxReports && int(m_reports.size()) > first) {
         const auto surplus = m_reports.begin() + first;
         drop(surplus->fileName, "the outbox is full");
@@ -149,10 +187,9 @@ bool OutboxPoster::isOutdated(const Report& report) const
            m_limits.maxAge.count();
 }
 
-// Behind the writing of the file, which may not have happened yet.
 void OutboxPoster::forget(const QString& fileName)
 {
-    FileWriter::enqueue([path = QDir(m_folder).filePath(fileName)] { QFile::remove(path); });
+    FileWriter::remove(QDir(m_folder).filePath(fileName));
 }
 
 void OutboxPoster::drop(const QString& fileName, const char* reason)

@@ -8,6 +8,8 @@
 #include <QUrl>
 #include <chrono>
 #include <deque>
+#include <functional>
+#include <vector>
 
 class QNetworkReply;
 
@@ -20,7 +22,8 @@ struct OutboxLimits
     std::chrono::milliseconds maxAge = std::chrono::hours(14 * 24);
     std::chrono::milliseconds firstRetry = std::chrono::seconds(5);
     std::chrono::milliseconds longestRetry = std::chrono::hours(1);
-    std::chrono::milliseconds transferTimeout = std::chrono::seconds(15);
+    std::chrono::milliseconds postTimeout =
+        std::chrono::seconds(15); // from the connection to the answer
 };
 
 // Posts the reports of an outbox folder, one after the other, and removes each one that the server
@@ -36,6 +39,8 @@ public:
 
     void start(); // with what earlier runs left
     void add(const QString& fileName, const QByteArray& report);
+    // Calls settled as soon as no post is under way, nor one to come before the next retry.
+    void whenSettled(std::function<void()> settled);
 
 private:
     struct Report
@@ -46,7 +51,10 @@ private:
 
     void readFolder();
     void postNext();
+    QNetworkRequest request(const Report& report) const;
     void finish(QNetworkReply* reply, const QString& fileName);
+    bool isSettled() const;
+    void tellSettled();
     void retryLater(const QString& reason);
     void dropSurplus();
     bool isOutdated(const Report& report) const;
@@ -58,8 +66,9 @@ private:
     const OutboxLimits m_limits;
     std::deque<Report> m_reports; // the oldest first
     std::chrono::milliseconds m_retry;
-    bool m_isPosting = false;
+    QNetworkReply* m_reply = nullptr; // of the post under way
     QTimer m_retryTimer;
+    std::vector<std::function<void()>> m_settled;
     QNetworkAccessManager m_network;
 };
 

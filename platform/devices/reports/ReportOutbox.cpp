@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/reports/ReportOutbox.h"
 
+#include "platform/backend/EndingThreads.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/Log.h"
 #include "platform/backend/WebAddress.h"
@@ -9,6 +10,8 @@
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QUuid>
+
+#include <future>
 
 namespace Platform {
 
@@ -51,8 +54,12 @@ ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
 
 ReportOutbox::~ReportOutbox()
 {
-    m_thread.quit();
-    m_thread.wait();
+    if (m_thread) {
+        m_thread->quit();
+        EndingThreads threads;
+        threads.take(std::move(m_thread));
+        threads.wait();
+    }
 }
 
 void ReportOutbox::recordResult(const QString& key, const QJsonValue& value)
@@ -93,14 +100,28 @@ void ReportOutbox::postCode(const QString& managerName, int code)
         m_poster, [poster = m_poster, fileName, report] { poster->add(fileName, report); });
 }
 
+void ReportOutbox::deliver(std::chrono::milliseconds limit)
+{
+    if (!m_poster) {
+        return;
+    }
+    const auto settled = std::make_shared<std::promise<void>>();
+    const std::future<void> isSettled = settled->get_future();
+    QMetaObject::invokeMethod(m_poster, [poster = m_poster, settled] {
+        poster->whenSettled([settled] { settled->set_value(); });
+    });
+    isSettled.wait_for(limit);
+}
+
 void ReportOutbox::startPosting(const QUrl& url, const OutboxLimits& limits)
 {
     m_poster = new OutboxPoster(url, m_folder + OutboxName, limits);
-    m_poster->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::started, m_poster, &OutboxPoster::start);
-    QObject::connect(&m_thread, &QThread::finished, m_poster, &QObject::deleteLater);
-    m_thread.setObjectName(QStringLiteral("ReportOutbox"));
-    m_thread.start();
+    m_thread = std::make_unique<QThread>();
+    m_poster->moveToThread(m_thread.get());
+    QObject::connect(m_thread.get(), &QThread::started, m_poster, &OutboxPoster::start);
+    QObject::connect(m_thread.get(), &QThread::finished, m_poster, &QObject::deleteLater);
+    m_thread->setObjectName(QStringLiteral("ReportOutbox"));
+    m_thread->start();
 }
 
 } // namespace Platform

@@ -8,6 +8,7 @@
 #include "platform/devices/reports/OutboxPoster.h"
 
 #include <QThread>
+#include <memory>
 
 namespace Platform {
 
@@ -25,6 +26,10 @@ public:
     void recordMeasurement(const QString& check, const QJsonObject& figures) override;
     void postCode(const QString& managerName, int code) override;
 
+    // Waits until the reports on their way have arrived or failed, at most for the limit. For the
+    // end of the program.
+    void deliver(std::chrono::milliseconds limit);
+
     const ResultDocument& results() const { return m_results; }
 
 private:
@@ -32,8 +37,8 @@ private:
 
     ResultDocument m_results;
     const QString m_folder;
-    OutboxPoster* m_poster = nullptr; // dies with its thread; null where nothing is posted
-    QThread m_thread;
+    OutboxPoster* m_poster = nullptr;  // dies with its thread; null where nothing is posted
+    std::unique_ptr<QThread> m_thread; // null where nothing is posted
 };
 
 } // namespace Platform

@@ -61,7 +61,7 @@ OutboxLimits quickLimits()
     OutboxLimits limits;
     limits.firstRetry = 20ms;
     limits.longestRetry = 80ms;
-    limits.transferTimeout = 200ms;
+    limits.postTimeout = 200ms;
     return limits;
 }
 

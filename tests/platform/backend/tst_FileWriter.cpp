@@ -12,6 +12,8 @@
 #include <QThread>
 #include <QtTest>
 
+#include <atomic>
+
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
@@ -56,6 +58,12 @@ private Q_SLOTS:
     void refusesAFolderThatCannotBe();
     void refusesAnAbsurdlyLargeFile();
     void leavesTheFileWhereItCannotBeWritten();
+    void newestContentWins();
+    void changesOfOnePathAreOneWrite();
+    void changesThatWaitAreBounded();
+    void tellsWhoAsked();
+    void writesAtOnceBeforeTheRest();
+    void removesWhatWaits();
 
 private:
     QString path(const char* name = "file") const
@@ -162,7 +170,8 @@ void tst_FileWriter::leavesALockedFileAlone()
     expectComplaint(path(), QStringLiteral("another program holds its lock file .*file\\.lock$"));
     QElapsedTimer clock;
     clock.start();
-    FileWriter::replace(path(), "after");
+    const auto after = [](const QByteArray&) { return QByteArray("after"); };
+    FileWriter::update(path(), after);
     QVERIFY(clock.elapsed() < AtOnceMs);
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QVERIFY(clock.elapsed() >= FileWriter::LockTimeoutMs);
@@ -170,7 +179,7 @@ void tst_FileWriter::leavesALockedFileAlone()
     QCOMPARE(contentOf(path()), QByteArray("before"));
 
     foreign.unlock();
-    FileWriter::replace(path(), "after");
+    FileWriter::update(path(), after);
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QCOMPARE(contentOf(path()), QByteArray("after"));
 }
@@ -217,7 +226,7 @@ void tst_FileWriter::refusesAnAbsurdlyLargeFile()
     QVERIFY(file.resize(OneTooMany));
     file.close();
     expectComplaint(path(), QStringLiteral("it is larger than 16 MiB$"));
-    FileWriter::replace(path(), "content");
+    FileWriter::update(path(), [](const QByteArray& present) { return present; });
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QCOMPARE(QFileInfo(path()).size(), OneTooMany);
 }
@@ -235,6 +244,133 @@ void tst_FileWriter::leavesTheFileWhereItCannotBeWritten()
         QVERIFY(FileWriter::waitForWritten(WaitMs));
     }
     QCOMPARE(contentOf(path()), QByteArray("old"));
+}
+
+// A disk that takes its time: the contents in between are never written, and nobody keeps them.
+void tst_FileWriter::newestContentWins()
+{
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&mayEnd] { mayEnd.acquire(); });
+    std::atomic<int> told{0};
+    for (int i = 0; i < 100; ++i) {
+        FileWriter::replace(path(), QByteArray::number(i), [&told](const QString& problem) {
+            told += problem.isEmpty() ? 1 : 1000;
+        });
+    }
+    std::atomic<int> seen{0};
+    FileWriter::update(path(), [&seen](const QByteArray& present) {
+        ++seen;
+        return present + " and more";
+    });
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(contentOf(path()), QByteArray("99 and more"));
+    QCOMPARE(told.load(), 100);
+    QCOMPARE(seen.load(), 1);
+}
+
+void tst_FileWriter::changesOfOnePathAreOneWrite()
+{
+    FileWriter::replace(path(), "0");
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&mayEnd] { mayEnd.acquire(); });
+    QByteArrayList inFile;
+    for (int i = 1; i <= 3; ++i) {
+        FileWriter::update(path(), [&inFile, i, this](const QByteArray& present) {
+            inFile << contentOf(path());
+            return present + QByteArray::number(i);
+        });
+    }
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(inFile, QByteArrayList({"0", "0", "0"}));
+    QCOMPARE(contentOf(path()), QByteArray("0123"));
+}
+
+void tst_FileWriter::changesThatWaitAreBounded()
+{
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&mayEnd] { mayEnd.acquire(); });
+    const auto longer = [](const QByteArray& present) { return present + 'x'; };
+    for (int i = 0; i < FileWriter::MaxChanges; ++i) {
+        FileWriter::update(path(), longer);
+    }
+    expectComplaint(path(), QStringLiteral("too many changes wait for the disk$"));
+    FileWriter::update(path(), longer);
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(contentOf(path()).size(), FileWriter::MaxChanges);
+}
+
+// Whoever listens gets the reason and no warning; the others get both.
+void tst_FileWriter::tellsWhoAsked()
+{
+    QString told;
+    const FileWriter::Done take = [&told](const QString& problem) { told = problem; };
+    FileWriter::replace(m_folder->path(), "content", take);
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(told, QStringLiteral("it is not a regular file"));
+    QVERIFY(!FileWriter::outcome().failed.contains(m_folder->path()));
+    QCOMPARE(FileWriter::replaceNow(m_folder->path(), "content", WaitMs), told);
+
+    FileWriter::update(
+        path(), [](const QByteArray&) { return std::nullopt; }, take);
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(told, QStringLiteral("its new content can't be made; is the disk full?"));
+    QVERIFY(!QFileInfo::exists(path()));
+
+    expectComplaint(path("file/below"), QStringLiteral("its folder can't be created$"));
+    FileWriter::replace(path(), "content");
+    FileWriter::replace(path("file/below"), "content"); // one warning for both
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    FileWriter::replace(path("file/below"), "content");
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(FileWriter::outcome().failed.contains(path("file/below")));
+    QVERIFY(QFile::remove(path()));
+    FileWriter::replace(path("file/below"), "content");
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(!FileWriter::outcome().failed.contains(path("file/below")));
+}
+
+void tst_FileWriter::writesAtOnceBeforeTheRest()
+{
+    QSemaphore hasBegun;
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&hasBegun, &mayEnd] {
+        hasBegun.release();
+        mayEnd.acquire();
+    });
+    hasBegun.acquire();
+    bool wasThere = false;
+    FileWriter::update(path("other"), [&wasThere, this](const QByteArray& present) {
+        wasThere = QFileInfo::exists(path());
+        return present;
+    });
+    FileWriter::replace(path(), "old");
+    QCOMPARE(FileWriter::replaceNow(path(), "new", AtOnceMs),
+             QStringLiteral("the disk doesn't answer"));
+    QCOMPARE(FileWriter::outcome().waiting, QStringList{path("other")});
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(contentOf(path()), QByteArray("new"));
+    QVERIFY(wasThere);
+    QVERIFY(FileWriter::outcome().waiting.isEmpty());
+}
+
+void tst_FileWriter::removesWhatWaits()
+{
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&mayEnd] { mayEnd.acquire(); });
+    FileWriter::replace(path(), "content");
+    FileWriter::remove(path());
+    FileWriter::replace(path("other"), "old");
+    FileWriter::remove(path("other"));
+    FileWriter::update(path("other"), [](const QByteArray& present) { return present + "new"; });
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QVERIFY(!QFileInfo::exists(path()));
+    QCOMPARE(contentOf(path("other")), QByteArray("new"));
 }
 
 QTEST_GUILESS_MAIN(tst_FileWriter)

@@ -3,9 +3,11 @@
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/SettingsStore.h"
 #include "tests/support/AtOnce.h"
+#include "tests/support/WriteObstacle.h"
 
 #include <QLockFile>
 #include <QRegularExpression>
+#include <QSemaphore>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void catchesUpAfterALock();
     void survivesAFolderInItsPlace();
     void readsOverGarbage();
+    void keepsWhatIsThereOnAFullDisk();
+    void waitingValuesAreOneWrite();
 
 private:
     QVariant inFile(const QString& key) const
@@ -167,6 +171,58 @@ void tst_SettingsStore::readsOverGarbage()
     QVERIFY(FileWriter::waitForWritten(WaitMs));
     QCOMPARE(SettingsStore(m_path).value(Key, true).toBool(), false);
     QCOMPARE(inFile(QStringLiteral("kept")).toInt(), 1);
+}
+
+// No file may grow above the limit: neither the copy that is edited nor the store itself.
+void tst_SettingsStore::keepsWhatIsThereOnAFullDisk()
+{
+    constexpr int Limit = 1000;
+    const QString text(2 * Limit, QLatin1Char('x'));
+    writeForeign(800);
+    SettingsStore store(m_path);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Not written: ")));
+    {
+        const WriteObstacle obstacle(m_path, Limit);
+        store.setValue(QStringLiteral("text"), text);
+        QVERIFY(FileWriter::waitForWritten(WaitMs));
+    }
+    QCOMPARE(QSettings(m_path, QSettings::IniFormat).allKeys(), QStringList{Foreign});
+    QCOMPARE(
+        QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList{QStringLiteral("store.ini")});
+    store.setValue(Key, false); // there is room again: nothing is lost
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(inFile(QStringLiteral("text")).toString(), text);
+    QCOMPARE(inFile(Foreign).toInt(), 800);
+
+#ifdef Q_OS_UNIX
+    const QString path = m_folder->filePath(QStringLiteral("new.ini"));
+    SettingsStore newOne(path);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Not written: ")));
+    {
+        const WriteObstacle obstacle(path, Limit);
+        newOne.setValue(QStringLiteral("text"), text);
+        QVERIFY(FileWriter::waitForWritten(WaitMs));
+    }
+    QVERIFY(!QFileInfo::exists(path));
+#endif
+}
+
+void tst_SettingsStore::waitingValuesAreOneWrite()
+{
+    QSemaphore mayEnd;
+    FileWriter::enqueue([&mayEnd] { mayEnd.acquire(); });
+    {
+        SettingsStore store(m_path);
+        for (int i = 0; i <= 100; ++i) {
+            store.setValue(QStringLiteral("number"), i);
+            store.setValue(QStringLiteral("key%1").arg(i), i);
+        }
+    }
+    mayEnd.release();
+    QVERIFY(FileWriter::waitForWritten(WaitMs));
+    QCOMPARE(inFile(QStringLiteral("number")).toInt(), 100);
+    QCOMPARE(QSettings(m_path, QSettings::IniFormat).allKeys().size(), 102);
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsStore)

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/ExitCode.h"
+
+// The one end of the program: deliver what is under way, write what waits, leave. All of it shares
+// one budget. What can't end by then is left behind: nobody waits for a thread that hangs in a disk
+// or a name server. GUI thread only.
+namespace ProgramEnd {
+
+constexpr int BudgetMs = 5000;
+constexpr int DeliveryMs = 2000; // of the budget, for reports on their way to a server
+
+void begin();      // starts the clock; the first call counts
+void beginAgain(); // after the user kept the program open
+int remainingMs(); // the whole budget before begin()
+
+// Writes what waits, says what was not written, and ends the process. That turns success into
+// ExitCode::CannotWrite. No destructor runs, not even the application's: Qt's waits for name
+// servers.
+[[noreturn]] void leave(ExitCode code);
+
+} // namespace ProgramEnd

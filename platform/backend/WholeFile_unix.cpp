@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/WholeFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace Platform {
+
+namespace {
+
+constexpr mode_t OwnersFolder = 0700;
+
+// An open file, closed at the end of its scope.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return m_number; }
+    bool isOpen() const { return m_number >= 0; }
+    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
+
+private:
+    int m_number;
+};
+
+QString lastError()
+{
+    return qt_error_string(errno);
+}
+
+bool writeAll(int file, const QByteArray& content)
+{
+    int done = 0;
+    while (done < content.size()) {
+        const ssize_t written =
+            ::write(file, content.constData() + done, static_cast<size_t>(content.size() - done));
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        done += static_cast<int>(std::max<ssize_t>(written, 0));
+    }
+    return true;
+}
+
+// The file itself, behind links.
+QString targetOf(const QString& path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? QFileInfo(path).absoluteFilePath() : target;
+}
+
+} // namespace
+
+QString WholeFile::problem(const QString& path)
+{
+    struct stat link = {};
+    if (::lstat(QFile::encodeName(path).constData(), &link) != 0) {
+        return errno == ENOENT || errno == ENOTDIR ? QString() : lastError();
+    }
+    if (S_ISLNK(link.st_mode) && link.st_uid != geteuid() && link.st_uid != 0) {
+        return QStringLiteral("it is a link that belongs to another user");
+    }
+    struct stat file = {};
+    if (::stat(QFile::encodeName(path).constData(), &file) != 0) {
+        return errno == ENOENT ? QStringLiteral("it is a link that leads nowhere") : lastError();
+    }
+    return S_ISREG(file.st_mode) ? QString() : QStringLiteral("it is not a regular file");
+}
+
+QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxBytes)
+{
+    content->clear();
+    const QString wrong = problem(path);
+    if (!wrong.isEmpty()) {
+        return wrong;
+    }
+    // Doesn't wait for the writer of a pipe that has come in between.
+    const Descriptor opened(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!opened.isOpen()) {
+        return errno == ENOENT || errno == ENOTDIR ? QString() : lastError();
+    }
+    QFile file;
+    if (!file.open(opened.number(), QIODevice::ReadOnly)) {
+        return file.errorString();
+    }
+    *content = file.read(maxBytes + 1);
+    if (content->size() > maxBytes) {
+        content->clear();
+        return QStringLiteral("it is larger than %1 MiB").arg(maxBytes / 1024 / 1024);
+    }
+    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
+}
+
+QString WholeFile::write(const QString& path, const QByteArray& content)
+{
+    const QString wrong = problem(path);
+    if (!wrong.isEmpty()) {
+        return wrong;
+    }
+    const QString target = targetOf(path);
+    // The name is new (O_EXCL), so it is no link that somebody has put there; its mode is 0600.
+    QByteArray name =
+        QFile::encodeName(QFileInfo(target).absolutePath() + QStringLiteral("/.envcheck-XXXXXX"));
+    Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
+    if (!file.isOpen()) {
+        return lastError();
+    }
+    const bool isWritten =
+        writeAll(file.number(), content) && ::fdatasync(file.number()) == 0 && file.close() &&
+        std::rename(name.constData(), QFile::encodeName(target).constData()) == 0;
+    if (isWritten) {
+        return {};
+    }
+    const QString reason = lastError();
+    ::unlink(name.constData());
+    return reason;
+}
+
+bool WholeFile::makeFolder(const QString& path)
+{
+    if (QFileInfo(path).isDir()) {
+        return true;
+    }
+    const QString above = QFileInfo(path).absolutePath();
+    if (above == path || !makeFolder(above)) {
+        return false;
+    }
+    return ::mkdir(QFile::encodeName(path).constData(), OwnersFolder) == 0 ||
+           QFileInfo(path).isDir(); // another program may have made it meanwhile
+}
+
+} // namespace Platform

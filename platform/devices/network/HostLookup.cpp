@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/network/HostLookup.h"
+
+#include "platform/backend/DetachedThread.h"
+
+#include <QUrl>
+
+#include <memory>
+#include <netdb.h>
+#include <sys/socket.h>
+
+namespace Platform {
+
+namespace {
+
+HostLookup::Answer lookUp(const QByteArray& name)
+{
+    addrinfo hints = {};
+    hints.ai_socktype = SOCK_DGRAM; // else every address comes once for each kind
+    hints.ai_flags = AI_ADDRCONFIG;
+    addrinfo* found = nullptr;
+    const int failure = ::getaddrinfo(name.constData(), nullptr, &hints, &found);
+    if (failure != 0) {
+        const bool isUnknown = failure == EAI_NONAME || failure == EAI_NODATA;
+        return {{}, QString::fromLocal8Bit(::gai_strerror(failure)), isUnknown};
+    }
+    const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> list(found, &::freeaddrinfo);
+    HostLookup::Answer answer;
+    for (const addrinfo* each = list.get(); each; each = each->ai_next) {
+        answer.addresses.append(QHostAddress(each->ai_addr));
+    }
+    return answer;
+}
+
+} // namespace
+
+HostLookup::HostLookup(const QString& name, Found found)
+{
+    const Mailbox::Sender sender = m_mailbox.sender();
+    const bool hasBegun = DetachedThread::run([sender, found, encoded = QUrl::toAce(name)] {
+        sender.post([found, answer = lookUp(encoded)] { found(answer); });
+    });
+    if (!hasBegun) {
+        sender.post([found] { found({{}, QStringLiteral("no thread can be made"), false}); });
+    }
+}
+
+} // namespace Platform
