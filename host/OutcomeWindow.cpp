@@ -3,15 +3,14 @@
 #include "host/OutcomeWindow.h"
 
 #include "host/Console.h"
-#include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
 #include "platform/backend/FileWriter.h"
+#include "platform/backend/WholeFile.h"
 #include "ui_OutcomeWindow.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -33,11 +32,8 @@ QString writePage(const QByteArray& content, QString* problem)
 {
     QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/envcheck-XXXXXX"));
     const QString page = folder.filePath(QStringLiteral("report.html"));
-    *problem = folder.isValid() ? ReportFile::write(page, content) : folder.errorString();
-    if (problem->isEmpty()) {
-        QFile::setPermissions(page, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-        folder.setAutoRemove(false);
-    }
+    *problem = folder.isValid() ? Platform::WholeFile::write(page, content) : folder.errorString();
+    folder.setAutoRemove(!problem->isEmpty());
     return page;
 }
 
@@ -132,9 +128,8 @@ void OutcomeWindow::save(const QString& path)
     const QByteArray content =
         ReportWriter::toFormat(m_report, ReportWriter::formatOf(path), m_report.language);
     const Platform::Mailbox::Sender sender = m_mailbox.sender();
-    Platform::FileWriter::enqueue([this, sender, path, content] {
-        const bool isWritten = ReportFile::write(path, content).isEmpty();
-        sender.post([this, path, isWritten] {
+    Platform::FileWriter::replace(path, content, [this, sender, path](const QString& problem) {
+        sender.post([this, path, isWritten = problem.isEmpty()] {
             tell(isWritten ? "ID_Host_Window_Saved" : "ID_Host_Window_NotWritten", path);
         });
     });

@@ -29,9 +29,9 @@ void ProgramEnd::begin()
     }
 }
 
-void ProgramEnd::beginAgain()
+void ProgramEnd::cancel()
 {
-    theClock.start();
+    theClock.invalidate();
 }
 
 int ProgramEnd::remainingMs()

@@ -13,7 +13,7 @@ constexpr int BudgetMs = 5000;
 constexpr int DeliveryMs = 2000; // of the budget, for reports on their way to a server
 
 void begin();      // starts the clock; the first call counts
-void beginAgain(); // after the user kept the program open
+void cancel();     // the program goes on: the whole budget again
 int remainingMs(); // the whole budget before begin()
 
 // Writes what waits, says what was not written, and ends the process. That turns success into

@@ -113,6 +113,7 @@ bool CheckCommand::prepareRedaction()
 
 ExitCode CheckCommand::open(const QString& language)
 {
+    ProgramEnd::cancel();
     InstalledEngine installed(m_options, Folders::data());
     if (!installed.error().isEmpty()) {
         Console::printError(installed.error());
@@ -151,8 +152,8 @@ ExitCode CheckCommand::open(const QString& language)
     const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
     const bool isEnding = m_signals && m_signals->haveArrived();
     if (!isEnding && opensWindow(m_options, outcome)) {
+        ProgramEnd::cancel();
         OutcomeWindow(shown).exec();
-        ProgramEnd::beginAgain();
     }
     return isWritten ? code : ExitCode::CannotWrite;
 }

@@ -6,6 +6,7 @@
 #include "host/SoundNames.h"
 #include "host/commands/CheckCommand.h"
 #include "platform/backend/EngineRegistry.h"
+#include "platform/backend/FileWriter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -146,6 +147,7 @@ void DialogRun::run(const Steps& steps)
     opening.start(5);
     CapturedOutput output(m_home.filePath(id("terminal.txt")));
     m_code = static_cast<int>(CheckCommand(options).run(id("en")));
+    QVERIFY(Platform::FileWriter::waitForWritten(5000));
     const QString printed = output.text();
     QVERIFY2(isThrough, qPrintable(printed));
     // Behind what this test itself says.

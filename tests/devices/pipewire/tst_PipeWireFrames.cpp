@@ -198,6 +198,7 @@ void tst_PipeWireFrames::recordsMeasurements()
     m_backend->setCurrent({}); // for no camera there are no figures
     m_backend->stop();
     QCOMPARE(figures(), (QJsonObject{{QStringLiteral("state"), QStringLiteral("off")},
+                                     {QStringLiteral("cause"), QJsonValue()},
                                      {QStringLiteral("device"), QString()}}));
 }
 
