@@ -22,6 +22,7 @@ constexpr int TolerancePx = 2;
 constexpr int OverlapTolerancePx = 4;
 // Thin strokes have their colour only on a sharp picture.
 constexpr int Sharpness = 3;
+constexpr int InkTolerance = 1;
 // A line of this length shows the focus.
 constexpr int LeastFocusPixels = 12;
 
@@ -33,10 +34,12 @@ bool isFixed(const PixelContrast::Colors& colors)
         {0xFFFFFFFF, 0xFF808080}, {0xFFF7F7F7, 0xFF808080},          {0xFFFFFFFF, 0xFF7B7B7B},
         {0xFFFFFFFF, 0xFFB4B4B4}, {0xFFFFFFFF, LumColor::Red.rgb()}, {0xFF27A37D, 0xFFFFFFFF},
         {0xFFFF6648, 0xFFFFFFFF}, // balloons, on white
+        {0xFFFFFFFF, 0xFF7E7E7E}, // 0xFF7B7B7B in words too short to have pixels of the full colour
     };
     const auto isNear = [](QRgb a, QRgb b) {
-        return std::abs(qRed(a) - qRed(b)) <= 1 && std::abs(qGreen(a) - qGreen(b)) <= 1 &&
-               std::abs(qBlue(a) - qBlue(b)) <= 1;
+        return std::abs(qRed(a) - qRed(b)) <= InkTolerance &&
+               std::abs(qGreen(a) - qGreen(b)) <= InkTolerance &&
+               std::abs(qBlue(a) - qBlue(b)) <= InkTolerance;
     };
     return std::any_of(std::begin(fixed), std::end(fixed), [&](const PixelContrast::Colors& pair) {
         return isNear(pair.ground, colors.ground) && isNear(pair.ink, colors.ink);
