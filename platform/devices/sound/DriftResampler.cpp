@@ -3,31 +3,28 @@
 #include "platform/devices/sound/DriftResampler.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdint>
-#include <speex/speex_resampler.h>
+#include <samplerate.h>
 
 namespace Platform {
 
 namespace {
 
-// The shortest filter that keeps voices whole up to 16 kHz: listening to oneself bears no delay.
-constexpr int Quality = 1;
-constexpr std::uint32_t RatioParts = 1000000;
-// Only the ratio counts here.
-constexpr std::uint32_t AnyRate = 48000;
+// The shortest of the library's good filters: listening to oneself bears no delay.
+constexpr int Quality = SRC_SINC_FASTEST;
+// Room for samples that the filter held back in the call before.
+constexpr std::size_t HeldBack = 2 * DriftResampler::DelaySamples;
 
 } // namespace
 
-void DriftResampler::Deleter::operator()(SpeexResamplerState_* state) const
+void DriftResampler::Deleter::operator()(SRC_STATE_tag* state) const
 {
-    speex_resampler_destroy(state);
+    src_delete(state);
 }
 
-DriftResampler::DriftResampler()
-    : m_state(
-          speex_resampler_init_frac(1, RatioParts, RatioParts, AnyRate, AnyRate, Quality, nullptr))
+DriftResampler::DriftResampler() : m_state(src_new(Quality, 1, nullptr))
 {
+    std::vector<float> nothing;
+    process(std::vector<float>(DelaySamples), nothing);
 }
 
 DriftResampler::~DriftResampler() = default;
@@ -35,20 +32,22 @@ DriftResampler::~DriftResampler() = default;
 void DriftResampler::setDeviation(double deviation)
 {
     m_deviation = std::clamp(deviation, -MaxDeviation, MaxDeviation);
-    const auto parts = static_cast<std::uint32_t>(std::lround(RatioParts * (1.0 + m_deviation)));
-    speex_resampler_set_rate_frac(m_state.get(), parts, RatioParts, AnyRate, AnyRate);
+    src_set_ratio(m_state.get(), 1.0 / (1.0 + m_deviation));
 }
 
 void DriftResampler::process(const std::vector<float>& samples, std::vector<float>& result)
 {
     const std::size_t before = result.size();
     const auto longest = static_cast<double>(samples.size()) / (1.0 - MaxDeviation);
-    result.resize(before + static_cast<std::size_t>(longest) + 2);
-    auto taken = static_cast<std::uint32_t>(samples.size());
-    auto made = static_cast<std::uint32_t>(result.size() - before);
-    speex_resampler_process_float(m_state.get(), 0, samples.data(), &taken, result.data() + before,
-                                  &made);
-    result.resize(before + made);
+    result.resize(before + static_cast<std::size_t>(longest) + HeldBack);
+    SRC_DATA data = {};
+    data.data_in = samples.data();
+    data.data_out = result.data() + before;
+    data.input_frames = static_cast<long>(samples.size());
+    data.output_frames = static_cast<long>(result.size() - before);
+    data.src_ratio = 1.0 / (1.0 + m_deviation);
+    src_process(m_state.get(), &data);
+    result.resize(before + static_cast<std::size_t>(data.output_frames_gen));
 }
 
 } // namespace Platform

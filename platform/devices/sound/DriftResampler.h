@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-struct SpeexResamplerState_;
+struct SRC_STATE_tag;
 
 namespace Platform {
 
@@ -18,7 +18,7 @@ public:
     static constexpr double MaxDeviation = 0.015;
     // How much later the sound comes out. Silence takes its place at the beginning, so that the
     // first call already returns as many samples as it gets.
-    static constexpr std::size_t DelaySamples = 8;
+    static constexpr std::size_t DelaySamples = 20;
 
     DriftResampler();
     ~DriftResampler();
@@ -33,10 +33,10 @@ public:
 private:
     struct Deleter
     {
-        void operator()(SpeexResamplerState_* state) const;
+        void operator()(SRC_STATE_tag* state) const;
     };
 
-    std::unique_ptr<SpeexResamplerState_, Deleter> m_state;
+    std::unique_ptr<SRC_STATE_tag, Deleter> m_state;
     double m_deviation = 0.0;
 };
 

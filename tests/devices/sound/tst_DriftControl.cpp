@@ -4,7 +4,9 @@
 #include "platform/devices/sound/DriftResampler.h"
 
 #include <QTest>
+#include <algorithm>
 #include <cmath>
+#include <random>
 
 using Platform::DriftControl;
 using Platform::DriftResampler;
@@ -128,6 +130,22 @@ private Q_SLOTS:
                 const double expected = wave(static_cast<double>(i) * step - Delay);
                 QVERIFY(std::abs(static_cast<double>(result[i]) - expected) < 0.001);
             }
+        }
+    }
+
+    // A controller changes the ratio with nearly every piece. There are libraries that crash then.
+    void resamplerBearsEveryChange()
+    {
+        std::mt19937 random(20261122);
+        for (int round = 0; round < 200; ++round) {
+            DriftResampler resampler;
+            std::vector<float> result;
+            for (int i = 0; i < 200; ++i) {
+                resampler.setDeviation((static_cast<int>(random() % 3001) - 1500) / 100000.0);
+                resampler.process(std::vector<float>(random() % 500, 0.5F), result);
+            }
+            QVERIFY(std::all_of(result.begin(), result.end(),
+                                [](float sample) { return std::abs(sample) < 0.7F; }));
         }
     }
 };
