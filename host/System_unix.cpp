@@ -11,8 +11,8 @@
 #include <unistd.h>
 
 // Only the address sanitizer has it: it looks for leaks at an end that runs destructors.
-extern "C" void __lsan_do_leak_check()
-    __attribute__((weak)); // NOLINT(bugprone-reserved-identifier)
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's name
+extern "C" void __lsan_do_leak_check() __attribute__((weak));
 
 namespace {
 

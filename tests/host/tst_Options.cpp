@@ -29,6 +29,7 @@ private Q_SLOTS:
     void helpAndVersion();
     void wrongOnes_data();
     void wrongOnes();
+    void optionOfAnotherCommand();
     void helpNamesEveryCommand();
     void helpNamesEveryOption_data();
     void helpNamesEveryOption();
@@ -274,6 +275,14 @@ void tst_Options::wrongOnes()
     const Options options = parsed(words(qPrintable(arguments)));
     QVERIFY2(options.error.contains(named), qPrintable(options.error));
     QVERIFY(!options.error.contains(QLatin1Char('\n')));
+}
+
+void tst_Options::optionOfAnotherCommand()
+{
+    const QString ofCheck = parsed(words("--json")).error;
+    QVERIFY2(ofCheck.contains(qtTrId("ID_Host_Usage_TheCheck")), qPrintable(ofCheck));
+    const QString ofDevices = parsed(words("devices --tour x")).error;
+    QVERIFY2(ofDevices.contains(QStringLiteral("devices")), qPrintable(ofDevices));
 }
 
 void tst_Options::helpNamesEveryCommand()

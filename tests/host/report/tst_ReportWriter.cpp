@@ -29,6 +29,7 @@ private Q_SLOTS:
     void theThreeKindsReadDifferently();
     void soundPlayedAndPicked_data();
     void soundPlayedAndPicked();
+    void verdictsAreMarked();
     void whatIsLeftOutHasNoRow();
     void roomTable();
     void formats_data();
@@ -215,6 +216,23 @@ void tst_ReportWriter::soundPlayedAndPicked()
         QVERIFY(shown.contains(QLatin1String("Sound played Thunder ") + englishRow));
         QCOMPARE(shown.count(QLatin1String("Right sound picked")), 1); // of the speaker alone
     }
+}
+
+void tst_ReportWriter::verdictsAreMarked()
+{
+    Report report = sampleReport();
+    report.checks = {report.checks.back()};
+    report.checks[0].measurements.clear();
+    report.grade.reset();
+    report.gradeLines.clear();
+    const auto marks = [&report](Verdict verdict) {
+        report.checks[0].verdict = verdict;
+        return ReportWriter::toHtml({report}, QStringLiteral("en"))
+            .count(QStringLiteral("class=\"bad\""));
+    };
+    const auto passed = marks(Verdict::Passed);
+    QVERIFY(marks(Verdict::Failed) > passed);
+    QCOMPARE(marks(Verdict::NotTested), passed);
 }
 
 void tst_ReportWriter::whatIsLeftOutHasNoRow()
