@@ -35,7 +35,7 @@ HostLookup::Answer lookUp(const QByteArray& name)
 
 } // namespace
 
-HostLookup::HostLookup(const QString& name, Found found)
+HostLookup::HostLookup(const QString& name, const Found& found)
 {
     const Mailbox::Sender sender = m_mailbox.sender();
     const bool hasBegun = DetachedThread::run([sender, found, encoded = QUrl::toAce(name)] {

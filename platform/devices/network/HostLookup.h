@@ -25,7 +25,7 @@ public:
     using Found = std::function<void(const Answer&)>;
 
     // found is called once, from the event loop of this thread, and not after the destructor.
-    HostLookup(const QString& name, Found found);
+    HostLookup(const QString& name, const Found& found);
 
 private:
     Mailbox m_mailbox;
