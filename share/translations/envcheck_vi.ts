@@ -148,8 +148,8 @@ Hãy rút ra rồi cắm lại, hoặc khởi động lại máy tính.</transla
     </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
-        <translation>Dịch vụ camera của máy tính này không chạy.
-Hãy đợi một lát hoặc khởi động lại máy tính.</translation>
+        <translation>Dịch vụ camera không chạy.
+Hãy đợi một lát hoặc khởi động lại máy.</translation>
     </message>
     <message id="ID_Engine_Camera_Stalled">
         <source></source>
