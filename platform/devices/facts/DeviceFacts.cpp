@@ -12,7 +12,7 @@ namespace Platform {
 
 namespace {
 
-constexpr int SlowFacts = 3;
+constexpr int SlowFacts = 2; // that prepare() waits for
 
 // If there is no thread for it, the fact stays unknown.
 template <typename Gather, typename Take>
@@ -36,6 +36,10 @@ DeviceFacts::DeviceFacts(const DeviceEngineConfig& config, const QString& server
     m_deadline.setTimerType(Qt::PreciseTimer);
     m_deadline.setInterval(PrepareDeadlineMs);
     QObject::connect(&m_deadline, &QTimer::timeout, &m_deadline, [this] { finish(); });
+    m_addressDeadline.setSingleShot(true);
+    m_addressDeadline.setInterval(AddressDeadlineMs);
+    QObject::connect(&m_addressDeadline, &QTimer::timeout, &m_addressDeadline,
+                     [this] { m_probe.reset(); });
 }
 
 DeviceFacts::~DeviceFacts() = default;
@@ -51,7 +55,7 @@ void DeviceFacts::prepare(Done done)
     m_deadline.start();
     gatherUser(taken);
     gatherAvailableBytes(taken);
-    gatherClientAddress(taken);
+    askForClientAddress(m_run);
 }
 
 QString DeviceFacts::nickName() const
@@ -91,31 +95,32 @@ void DeviceFacts::gatherAvailableBytes(Done taken)
         });
 }
 
-void DeviceFacts::gatherClientAddress(Done taken)
+void DeviceFacts::askForClientAddress(int run)
 {
     m_clientAddress = LocalAddress::find(); // until a server tells a better one
-    m_probe = m_makeProbe(*this, [this, taken = std::move(taken)](const QString& address) {
+    m_addressDeadline.start();
+    m_probe = m_makeProbe(*this, [this, run](const QString& address) {
         m_clientAddress = address;
-        taken();
+        // Not from here: the probe is calling.
+        m_mailbox.sender().post([this, run] {
+            if (run == m_run) {
+                m_addressDeadline.stop();
+                m_probe.reset();
+            }
+        });
     });
 }
 
 void DeviceFacts::tick(int run)
 {
     if (run == m_run && --m_missing == 0) {
-        // Not from here: the probe, which may be calling, is destroyed there.
-        m_mailbox.sender().post([this, run] {
-            if (run == m_run) {
-                finish();
-            }
-        });
+        finish();
     }
 }
 
 void DeviceFacts::finish()
 {
     m_deadline.stop();
-    m_probe.reset();
     const std::vector<Done> waiting = std::exchange(m_waiting, {});
     for (const Done& done : waiting) {
         done();

@@ -27,12 +27,14 @@ public:
                                                                    AddressHandler handler)>;
 
     static constexpr int PrepareDeadlineMs = 1000;
+    static constexpr int AddressDeadlineMs = 5000; // how long the server is asked for the address
 
     DeviceFacts(const DeviceEngineConfig& config, const QString& serverName, ProbeMaker makeProbe);
     ~DeviceFacts() override;
 
     // Gathers the slow facts anew, then calls done from the event loop: when they are there, at the
-    // latest after the deadline. A fact that comes later is taken still.
+    // latest after the deadline. A fact that comes later is taken still. The address as the server
+    // sees it is not waited for: until it comes, clientAddress() is the local one.
     void prepare(Done done);
 
     void setListener(SystemFacts::Listener* listener) override { m_listener = listener; }
@@ -54,7 +56,7 @@ private:
     void networkFiguresChanged() override {} // only the address is wanted
     void gatherUser(Done taken);
     void gatherAvailableBytes(Done taken);
-    void gatherClientAddress(Done taken);
+    void askForClientAddress(int run);
     void tick(int run);
     void finish();
 
@@ -71,6 +73,7 @@ private:
     int m_missing = 0; // facts of this run
     std::vector<Done> m_waiting;
     QTimer m_deadline;
+    QTimer m_addressDeadline;
     std::unique_ptr<NetworkProbe> m_probe;
     Mailbox m_mailbox;
 };
