@@ -39,12 +39,6 @@ public:
         m_loop.exec();
     }
 
-    void waitForChoice()
-    {
-        m_quiet.start(QuietMs);
-        m_loop.exec();
-    }
-
     void cameraListChanged() override { stir(); }
     void currentCameraChanged(const QString&) override { stir(); }
     void cameraWorkStateChanged(const QString&, bool) override { stir(); }
@@ -74,7 +68,6 @@ private:
     QTimer m_quiet;
 };
 
-// The choice of a camera is remembered for the next check: none is made here.
 DeviceSurvey::Devices surveyCameras(const Platform::CameraBackend& backend)
 {
     DeviceSurvey::Devices devices;
@@ -85,17 +78,13 @@ DeviceSurvey::Devices surveyCameras(const Platform::CameraBackend& backend)
     return devices;
 }
 
-// State and volume are told of the chosen device only, so that each one is chosen in turn. This
-// choice is the session's own and ends with it.
 template <typename Backend>
-DeviceSurvey::Devices surveySound(Backend& backend, const Platform::DeviceList& list, Watch& watch)
+DeviceSurvey::Devices surveySound(const Backend& backend, const Platform::DeviceList& list)
 {
-    const QString current = backend.currentId();
     DeviceSurvey::Devices devices;
     for (const Platform::DeviceInfo& info : list) {
-        backend.setCurrent(info.id);
-        watch.waitForChoice();
-        devices.push_back({info, backend.state(), info.id == current, backend.volume()});
+        devices.push_back({info, backend.stateOf(info.id), info.id == backend.currentId(),
+                           backend.volumeOf(info.id)});
     }
     return devices;
 }
@@ -154,8 +143,8 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
     watch.waitForLists();
     DeviceSurvey result;
     result.cameras = surveyCameras(*camera);
-    result.microphones = surveySound(*microphone, microphone->devices(), watch);
-    result.speakers = surveySound(*speaker, engine.speakers(), watch);
+    result.microphones = surveySound(*microphone, microphone->devices());
+    result.speakers = surveySound(*speaker, engine.speakers());
     return result;
 }
 

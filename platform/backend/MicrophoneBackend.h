@@ -33,6 +33,7 @@ public:
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0; // an empty id chooses none
     virtual DeviceState state() const = 0;
+    virtual DeviceState stateOf(const QString& id) const = 0; // Absent if it isn't plugged in
     virtual bool hasHeardSound() const = 0; // the current device delivered sound while open
 
     virtual void open() = 0;
@@ -40,8 +41,9 @@ public:
     virtual void setListening(bool on) = 0;
 
     virtual bool isVolumeAdjustable() const = 0;
-    virtual int volume() const = 0;          // percent, 0 to 150; 0 while it is muted
-    virtual void setVolume(int percent) = 0; // also unmutes
+    virtual int volume() const = 0;                    // percent, 0 to 150; 0 while it is muted
+    virtual int volumeOf(const QString& id) const = 0; // of any device in the list
+    virtual void setVolume(int percent) = 0;           // also unmutes
 };
 
 } // namespace Platform

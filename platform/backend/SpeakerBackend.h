@@ -30,8 +30,10 @@ public:
     virtual QString currentName() const = 0;
     virtual void setCurrent(const QString& id) = 0;
     virtual DeviceState state() const = 0;
-    virtual int volume() const = 0;          // percent, 0 to 100; 0 while it is muted
-    virtual void setVolume(int percent) = 0; // also unmutes
+    virtual DeviceState stateOf(const QString& id) const = 0; // Absent if it isn't plugged in
+    virtual int volume() const = 0;                    // percent, 0 to 100; 0 while it is muted
+    virtual int volumeOf(const QString& id) const = 0; // of any device in the list
+    virtual void setVolume(int percent) = 0;           // also unmutes
 };
 
 } // namespace Platform

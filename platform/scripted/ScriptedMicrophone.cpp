@@ -100,7 +100,13 @@ bool ScriptedMicrophone::isVolumeAdjustable() const
 int ScriptedMicrophone::volume() const
 {
     m_session.query("volume");
-    return m_devices.isMuted() ? 0 : m_devices.volume();
+    return m_devices.audibleVolumeOf(m_devices.currentId());
+}
+
+int ScriptedMicrophone::volumeOf(const QString& id) const
+{
+    m_session.query("volumeOf");
+    return m_devices.audibleVolumeOf(id);
 }
 
 void ScriptedMicrophone::setVolume(int percent)

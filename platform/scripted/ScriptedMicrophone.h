@@ -35,6 +35,7 @@ public:
 
     bool isVolumeAdjustable() const override;
     int volume() const override;
+    int volumeOf(const QString& id) const override;
     void setVolume(int percent) override;
 
 private:

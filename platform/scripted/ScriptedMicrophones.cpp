@@ -99,6 +99,12 @@ int ScriptedMicrophones::volume() const
     return current().volume;
 }
 
+int ScriptedMicrophones::audibleVolumeOf(const QString& id) const
+{
+    const Input input = m_inputs.value(id);
+    return input.isMuted ? 0 : input.volume;
+}
+
 bool ScriptedMicrophones::isMuted() const
 {
     return current().isMuted;

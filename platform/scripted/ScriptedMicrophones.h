@@ -45,6 +45,7 @@ public:
     double levelAt(qint64 ms) const;
     bool isAdjustable() const;
     int volume() const;
+    int audibleVolumeOf(const QString& id) const; // 0 while it is muted
     bool isMuted() const;
     void setVolumeByUser(int percent); // also unmutes
 

@@ -40,6 +40,12 @@ public:
         return currentState();
     }
 
+    DeviceState stateOf(const QString& id) const override
+    {
+        m_session.query("stateOf");
+        return id == m_devices.currentId() ? currentState() : m_devices.stateOf(id);
+    }
+
 protected:
     using Listener = typename Backend::Listener;
 

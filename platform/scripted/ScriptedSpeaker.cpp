@@ -40,7 +40,13 @@ ScriptedSpeaker::~ScriptedSpeaker()
 int ScriptedSpeaker::volume() const
 {
     m_session.query("volume");
-    return m_devices.audibleVolume();
+    return m_devices.audibleVolumeOf(m_devices.currentId());
+}
+
+int ScriptedSpeaker::volumeOf(const QString& id) const
+{
+    m_session.query("volumeOf");
+    return m_devices.audibleVolumeOf(id);
 }
 
 void ScriptedSpeaker::setVolume(int percent)

@@ -23,6 +23,7 @@ public:
     ~ScriptedSpeaker() override;
 
     int volume() const override;
+    int volumeOf(const QString& id) const override;
     void setVolume(int percent) override;
 
 private:

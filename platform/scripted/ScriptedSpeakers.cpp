@@ -23,14 +23,14 @@ void ScriptedSpeakers::setMuted(const QString& id, bool isMuted)
         m_muted.remove(id);
     }
     if (id == currentId()) {
-        Q_EMIT volumeMovedFromOutside(audibleVolume());
+        Q_EMIT volumeMovedFromOutside(audibleVolumeOf(id));
     }
 }
 
 void ScriptedSpeakers::moveVolumeFromOutside(int percent)
 {
     setVolume(currentId(), percent);
-    Q_EMIT volumeMovedFromOutside(audibleVolume());
+    Q_EMIT volumeMovedFromOutside(audibleVolumeOf(currentId()));
 }
 
 void ScriptedSpeakers::finishPlayback()
@@ -43,9 +43,9 @@ int ScriptedSpeakers::volume() const
     return m_volumes.value(currentId(), DefaultVolume);
 }
 
-int ScriptedSpeakers::audibleVolume() const
+int ScriptedSpeakers::audibleVolumeOf(const QString& id) const
 {
-    return isMuted() ? 0 : volume();
+    return m_muted.contains(id) ? 0 : m_volumes.value(id, DefaultVolume);
 }
 
 bool ScriptedSpeakers::isMuted() const

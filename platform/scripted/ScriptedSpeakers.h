@@ -37,8 +37,8 @@ public:
     // Full paths of all sounds that were started.
     QStringList playedFiles() const { return m_playedFiles; }
 
-    int volume() const;        // of the current speaker
-    int audibleVolume() const; // 0 while it is muted
+    int volume() const;                           // of the current speaker
+    int audibleVolumeOf(const QString& id) const; // 0 while it is muted
     bool isMuted() const;
     void setVolumeByUser(int percent); // also unmutes
     bool playerFails() const { return m_playerFails; }

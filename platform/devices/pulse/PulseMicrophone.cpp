@@ -77,6 +77,14 @@ DeviceState PulseMicrophone::state() const
     return m_hasHeardSound ? DeviceState::Working : DeviceState::Silent;
 }
 
+DeviceState PulseMicrophone::stateOf(const QString& id) const
+{
+    if (id == m_id) {
+        return state();
+    }
+    return m_server->devices().microphones.find(id) ? DeviceState::Ready : DeviceState::Absent;
+}
+
 void PulseMicrophone::open()
 {
     m_isOpen = true;
@@ -97,6 +105,12 @@ void PulseMicrophone::setListening(bool on)
 {
     m_isListening = on;
     updateListening();
+}
+
+int PulseMicrophone::volumeOf(const QString& id) const
+{
+    const PulseDevice* device = m_server->devices().microphones.find(id);
+    return device ? m_volume.percentOf(device->volumeState()) : 0;
 }
 
 void PulseMicrophone::setVolume(int percent)

@@ -35,6 +35,7 @@ public:
     QString currentName() const override;
     void setCurrent(const QString& id) override;
     DeviceState state() const override;
+    DeviceState stateOf(const QString& id) const override;
     bool hasHeardSound() const override { return m_hasHeardSound; }
 
     void open() override;
@@ -43,6 +44,7 @@ public:
 
     bool isVolumeAdjustable() const override { return m_isAdjustable; }
     int volume() const override { return m_volume.percent(); }
+    int volumeOf(const QString& id) const override;
     void setVolume(int percent) override;
 
 private:

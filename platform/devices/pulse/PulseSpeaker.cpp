@@ -47,6 +47,20 @@ DeviceState PulseSpeaker::state() const
     return m_server->hasSpeakerFailed() ? DeviceState::Failed : DeviceState::Ready;
 }
 
+DeviceState PulseSpeaker::stateOf(const QString& id) const
+{
+    if (id == m_id) {
+        return state();
+    }
+    return m_server->devices().speakers.find(id) ? DeviceState::Ready : DeviceState::Absent;
+}
+
+int PulseSpeaker::volumeOf(const QString& id) const
+{
+    const PulseDevice* device = m_server->devices().speakers.find(id);
+    return device ? m_volume.percentOf(device->volumeState()) : 0;
+}
+
 void PulseSpeaker::setVolume(int percent)
 {
     if (device()) {

@@ -28,7 +28,9 @@ public:
     QString currentName() const override;
     void setCurrent(const QString& id) override;
     DeviceState state() const override;
+    DeviceState stateOf(const QString& id) const override;
     int volume() const override { return m_volume.percent(); }
+    int volumeOf(const QString& id) const override;
     void setVolume(int percent) override;
 
 private:

@@ -22,6 +22,10 @@ public:
     explicit DeviceVolume(int maximum);
 
     int percent() const { return m_isMuted ? 0 : m_percent; } // as loud as it is: 0 while muted
+    int percentOf(const VolumeState& state) const
+    {
+        return state.isMuted ? 0 : limited(state.percent);
+    }
     void reset(const VolumeState& state); // another device became the current one
     int set(int percent);                 // by the user; returns the value within the limits
     void await(quint64 order);            // the order that carries out set()
