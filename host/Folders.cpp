@@ -30,7 +30,7 @@ QString Folders::redactionKey()
 void Folders::makeReports()
 {
     Platform::WholeFile::makeFolder(reports());
-    // Earlier versions let everybody in.
+    // Earlier versions created it with rights for everybody.
     QFile::setPermissions(data(),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }

@@ -12,7 +12,7 @@ QString reports();      // one file for each run
 QString runs();         // the list of runs, a file
 QString redactionKey(); // a file
 
-// Makes the folder of the reports. Nobody else may look into the folders of the program.
+// Creates the folder of the reports. Only the user may open the folders of the program.
 void makeReports();
 
 } // namespace Folders

@@ -43,8 +43,8 @@ QString nearest(const QStringList& wanted, const QStringList& available)
     return {};
 }
 
-// One kind of digits: the pages write most numbers with 0 to 9, whatever the language, and only
-// some as the locale wants it. So of the language's countries one that writes all of them so.
+// The pages write most numbers with 0 to 9 and some as the locale wants. To show one kind of digits
+// only, this takes a country of the language that uses 0 to 9.
 QLocale localeOf(const QString& language)
 {
     const QLocale locale(language);

@@ -76,8 +76,7 @@ ExitCode configure(Options& options)
     return configuration.errorCode();
 }
 
-ExitCode runCommand(const Options& options, const QString& language,
-                    const TerminationSignals& signals)
+ExitCode runCommand(const Options& options, const QString& language)
 {
     switch (options.command) {
     case Options::Command::Version:
@@ -87,7 +86,7 @@ ExitCode runCommand(const Options& options, const QString& language,
         Console::print(Options::helpText(options.helpFor));
         return ExitCode::AllPassed;
     case Options::Command::Check:
-        return CheckCommand(options, &signals).run(language);
+        return CheckCommand(options).run(language);
     case Options::Command::Devices:
         return DevicesCommand::run(options);
     case Options::Command::Network:
@@ -124,7 +123,7 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
 {
     Languages languages;
     languages.use(options.language); // readOptions() told of problems
-    const ExitCode code = runCommand(options, languages.current(), signals);
+    const ExitCode code = runCommand(options, languages.current());
     if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
         Console::printError(qtTrId("ID_Host_OutputNotWritten"));
         ProgramEnd::leave(ExitCode::CannotWrite);

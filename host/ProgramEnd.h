@@ -4,9 +4,9 @@
 
 #include "host/ExitCode.h"
 
-// The one end of the program: deliver what is under way, write what waits, leave. All of it shares
-// one budget. What can't end by then is left behind: nobody waits for a thread that hangs in a disk
-// or a name server. GUI thread only.
+// The one end of the program: deliver reports that are under way, write the files that wait, leave.
+// All steps share one budget. A thread that hangs in a disk or a name server is never waited for.
+// GUI thread only.
 namespace ProgramEnd {
 
 constexpr int BudgetMs = 5000;

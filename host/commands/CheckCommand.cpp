@@ -45,8 +45,7 @@ void runDialog(bool& wasPutOut)
 
 } // namespace
 
-CheckCommand::CheckCommand(const Options& options, const TerminationSignals* signals)
-    : m_options(options), m_signals(signals)
+CheckCommand::CheckCommand(const Options& options) : m_options(options)
 {
 }
 
@@ -150,8 +149,7 @@ ExitCode CheckCommand::open(const QString& language)
     DisplayLoss::setSaving(nullptr);
     save();
     const ExitCode code = tour ? endTour(*tour, language, outcome.exitCode) : outcome.exitCode;
-    const bool isEnding = m_signals && m_signals->haveArrived();
-    if (!isEnding && opensWindow(m_options, outcome)) {
+    if (!TerminationSignals::haveArrived() && opensWindow(m_options, outcome)) {
         ProgramEnd::cancel();
         OutcomeWindow(shown).exec();
     }

@@ -8,7 +8,6 @@
 
 #include <memory>
 
-class TerminationSignals;
 class Tour;
 struct RunOutcome;
 
@@ -21,8 +20,7 @@ class Engine;
 class CheckCommand
 {
 public:
-    // signals: null if nobody watches for them.
-    explicit CheckCommand(const Options& options, const TerminationSignals* signals = nullptr);
+    explicit CheckCommand(const Options& options);
 
     // Returns when the dialog is closed, the files are written, and the user has seen the outcome.
     ExitCode run(const QString& language);
@@ -42,7 +40,6 @@ private:
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;
 
     Options m_options;
-    const TerminationSignals* m_signals;
     QString m_reportFile;
     QByteArray m_redactionKey;
 };

@@ -18,7 +18,7 @@
 
 namespace {
 
-// A probe tells its figures every second, also if nobody answers.
+// A probe reports figures every second, even if the server doesn't answer.
 constexpr int FirstFigureMs = 5000;
 
 // Prints what a probe measures: a terminal gets one line that changes, a file a line per figure.
@@ -103,7 +103,8 @@ ExitCode NetworkCommand::run(const Options& options)
                    QLatin1Char('\n'));
     const FigurePrinter printer(installed.engine(), options.count);
     bool isUnmeasured = false;
-    QTimer::singleShot(FirstFigureMs, QCoreApplication::instance(), [&printer, &isUnmeasured] {
+    const QObject context; // the timer may outlive what it looks at
+    QTimer::singleShot(FirstFigureMs, &context, [&printer, &isUnmeasured] {
         isUnmeasured = !printer.hasPrinted();
         if (isUnmeasured) {
             QCoreApplication::quit();

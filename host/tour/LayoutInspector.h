@@ -18,6 +18,6 @@ public:
     static QStringList inspect(const QWidget* window);
     // "faint focus": gives the focus to each control in turn, and then back.
     static QStringList inspectFocus(QWidget* window);
-    // "far": of a popup and what it belongs to.
+    // "far": a popup too far from the control that it belongs to.
     static QStringList inspectPopup(const QRect& popup, const QRect& anchor, double scale);
 };

@@ -5,8 +5,8 @@
 #include <QImage>
 #include <optional>
 
-// Where a window is on a picture of the screen. Compositors tell no program the places of its
-// windows, so only the pixels are to be trusted.
+// Finds a window on a picture of the screen. A Wayland compositor tells no program the places of
+// its windows, so only the pixels can be trusted.
 namespace ScreenPicture {
 
 // The place of the part's upper left corner. The guess makes the search short.

@@ -111,7 +111,7 @@ void addButton(Parts& parts, const QAbstractButton& button)
     parts.push_back(aligned(button, text, needed, room, Qt::AlignCenter, button.layoutDirection()));
 }
 
-// A slider is wider than what it paints.
+// A slider paints less than its own rectangle.
 void addSlider(Parts& parts, const QSlider& slider)
 {
     QImage image(slider.size(), QImage::Format_ARGB32_Premultiplied);

@@ -7,7 +7,7 @@
 #include <QImage>
 #include <QRect>
 
-// Where the dialog is and the balloon or list above it. Empty if it isn't there.
+// The places of the dialog and of the balloon or list above it; empty for what isn't shown.
 struct WindowPlaces
 {
     QRect dialog;

@@ -36,7 +36,6 @@ void PlayerContainer::attachCamera(LumCameraBase* camera)
         connect(m_camera, &QObject::destroyed, this, &PlayerContainer::refreshNotice);
     }
     refreshNotice();
-    update();
 }
 
 void PlayerContainer::play()
@@ -46,14 +45,12 @@ void PlayerContainer::play()
         m_camera->setPreviewPixelRatio(devicePixelRatioF());
     }
     refreshNotice();
-    update();
 }
 
 void PlayerContainer::stop()
 {
     m_isPlaying = false;
     refreshNotice();
-    update();
 }
 
 void PlayerContainer::onFrameArrived()

@@ -8,8 +8,8 @@
 class QWidget;
 
 // What a dialog's popups need from the window system, also those that were made without a parent:
-// to belong to the dialog, to be mapped at the place where they are put, to stay on the screen, and
-// to show no black corners where windows aren't blended. Watches all popups while it lives. GUI
+// to belong to the dialog, to be mapped at their own place, to stay on the screen, and
+// to show no black corners if windows aren't blended. Watches all popups while it lives. GUI
 // thread only.
 class DialogPopups : public QObject
 {

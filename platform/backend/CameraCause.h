@@ -5,6 +5,7 @@
 #include "ClassroomBackend/ClassroomBackendExport.h"
 
 #include <QString>
+#include <chrono>
 
 namespace Platform {
 
@@ -19,11 +20,16 @@ struct CameraCause
         Denied,     // the system refuses it
         Hung,       // it was opened and doesn't answer
         Stalled,    // it runs and sends no frames
-        Black,      // for two seconds, so it is covered or in the dark
+        Black,      // for BlackTime, so it is covered or in the dark
         Unplugged,  // it was there before
         ServerLost, // the service that brings the pictures doesn't run
         Failed,     // it broke
     };
+
+    static constexpr std::chrono::seconds BlackTime{2};
+    // How long a camera may take to start before it counts as hung or stalled. Longer than
+    // CameraOpening::StartTimeout, which knows more.
+    static constexpr std::chrono::seconds StartTime{4};
 
     Kind kind = Kind::None;
     QString program; // that uses a busy camera, if the system tells; foreign text

@@ -13,8 +13,6 @@ namespace Platform {
 namespace {
 
 constexpr int MsPerSecond = 1000;
-constexpr int BlackMs = 2000;
-constexpr int PatienceMs = 4000;
 const QSize SampleSize(160, 160); // enough to measure the brightness
 
 } // namespace
@@ -28,7 +26,7 @@ ScriptedCamera::ScriptedCamera(ScriptedCameras& cameras, CallLog& log, ResultDoc
     connect(&m_frameTimer, &QTimer::timeout, this, &ScriptedCamera::onFrame);
     connect(&m_watchdog, &QTimer::timeout, this, &ScriptedCamera::notifyWorkState);
     m_patience.setSingleShot(true);
-    m_patience.setInterval(PatienceMs);
+    m_patience.setInterval(CameraCause::StartTime);
     connect(&m_patience, &QTimer::timeout, this, &ScriptedCamera::notifyCause);
 
     connect(
@@ -58,12 +56,6 @@ DeviceList ScriptedCamera::devices() const
 {
     m_session.query("devices");
     return m_devices.devices();
-}
-
-DeviceState ScriptedCamera::stateOf(const QString& id) const
-{
-    m_session.query("stateOf");
-    return id == m_devices.currentId() ? currentState() : m_devices.stateOf(id);
 }
 
 bool ScriptedCamera::delivers() const
@@ -228,8 +220,10 @@ CameraCause::Kind ScriptedCamera::causeKind() const
     case DeviceState::Hung:
         return Kind::Hung;
     case DeviceState::Working:
-        return m_blackClock.isValid() && m_blackClock.hasExpired(BlackMs) ? Kind::Black
-                                                                          : Kind::None;
+        return m_blackClock.isValid() &&
+                       std::chrono::milliseconds(m_blackClock.elapsed()) >= CameraCause::BlackTime
+                   ? Kind::Black
+                   : Kind::None;
     case DeviceState::Silent:
     case DeviceState::Ready:
         break;

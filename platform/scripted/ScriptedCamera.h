@@ -24,7 +24,6 @@ public:
     ~ScriptedCamera() override;
 
     DeviceList devices() const override;
-    DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
     CameraCause cause() const override;
 

@@ -3,24 +3,10 @@
 #include "tests/devices/CoturnServer.h"
 
 #include "platform/backend/StunServer.h"
+#include "tests/devices/UdpAnswer.h"
 
-#include <QElapsedTimer>
-#include <QUdpSocket>
-
-namespace {
-
-constexpr int StartTimeoutMs = 10000;
-constexpr int AnswerTimeoutMs = 50;
-
-quint16 freePort(const QString& address)
-{
-    QUdpSocket socket;
-    return socket.bind(QHostAddress(address), 0) ? socket.localPort() : quint16(0);
-}
-
-} // namespace
-
-CoturnServer::CoturnServer(const QString& address) : m_address(address), m_port(freePort(address))
+CoturnServer::CoturnServer(const QString& address)
+    : m_address(address), m_port(TestSupport::freeUdpPort(QHostAddress(address)))
 {
 }
 
@@ -45,14 +31,9 @@ bool CoturnServer::start()
     if (m_port == 0 || !m_process.waitForStarted()) {
         return false;
     }
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < StartTimeoutMs && m_process.state() == QProcess::Running) {
-        if (answers()) {
-            return true;
-        }
-    }
-    return false;
+    // A binding request without attributes (RFC 5389): type, length, magic cookie, transaction.
+    const QByteArray request = QByteArray::fromHex("000100002112a442") + "transaction1";
+    return TestSupport::waitForUdpAnswer(m_process, QHostAddress(m_address), m_port, request);
 }
 
 void CoturnServer::kill()
@@ -64,14 +45,4 @@ void CoturnServer::kill()
 Platform::StunServer CoturnServer::server() const
 {
     return {m_address, m_port};
-}
-
-bool CoturnServer::answers() const
-{
-    // A binding request without attributes (RFC 5389): type, length, magic cookie, transaction.
-    const QByteArray request = QByteArray::fromHex("000100002112a442") + "transaction1";
-    QUdpSocket socket;
-    socket.bind(QHostAddress(m_address), 0);
-    socket.writeDatagram(request, QHostAddress(m_address), m_port);
-    return socket.waitForReadyRead(AnswerTimeoutMs);
 }

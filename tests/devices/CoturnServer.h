@@ -21,8 +21,6 @@ public:
     Platform::StunServer server() const;
 
 private:
-    bool answers() const;
-
     const QString m_address;
     const quint16 m_port;
     QTemporaryDir m_folder;

@@ -16,8 +16,6 @@ public:
     QString address() const; // "ADDRESS:PORT"
 
 private:
-    bool answers() const;
-
     quint16 m_port = 0;
     QProcess m_process;
 };

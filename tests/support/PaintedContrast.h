@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/tour/Contrast.h"
+#include "host/tour/PixelContrast.h"
 
 #include <QImage>
 #include <QWidget>
-#include <map>
 
 // Contrast, told from the pixels that a user sees.
 namespace TestSupport {
@@ -32,29 +31,12 @@ inline int focusPixels(const QImage& with, const QImage& without, const QRect& a
     return count;
 }
 
-// Of letters on a plain ground: the most frequent colour is the ground, and the letters have the
-// one that differs most from it.
+// Of letters on a plain ground, in the area.
 inline double textContrast(const QImage& picture, const QRect& area)
 {
     const qreal scale = picture.devicePixelRatio();
-    const QImage part = picture.copy(QRectF(area.topLeft() * scale, area.size() * scale).toRect());
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < part.height(); ++y) {
-        for (int x = 0; x < part.width(); ++x) {
-            ++counts[part.pixel(x, y)];
-        }
-    }
-    QRgb ground = 0;
-    int most = 0;
-    for (const auto& [color, count] : counts) {
-        ground = count > most ? color : ground;
-        most = std::max(most, count);
-    }
-    double ratio = 1.0;
-    for (const auto& [color, count] : counts) {
-        ratio = std::max(ratio, Contrast::ratio(color, ground));
-    }
-    return ratio;
+    const QRect rect = QRectF(area.topLeft() * scale, area.size() * scale).toRect();
+    return PixelContrast::ofText(picture.copy(rect)).ratio();
 }
 
 } // namespace TestSupport

@@ -14,9 +14,6 @@ namespace Platform {
 
 namespace {
 
-// For a camera without an answer or a frame. Longer than CameraOpening::StartTimeout, which knows
-// more.
-constexpr std::chrono::milliseconds Patience(4000);
 const QString CurrentCameraKey = QStringLiteral("camera/current");
 
 } // namespace
@@ -68,7 +65,7 @@ DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMa
       m_slot(std::make_shared<FrameSlot>())
 {
     m_patience.setSingleShot(true);
-    m_patience.setInterval(Patience);
+    m_patience.setInterval(CameraCause::StartTime);
     QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] {
         m_isOverdue = true;
         notifyCause();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/FrameSlot.h"
 
+#include "platform/backend/CameraCause.h"
+
 namespace Platform {
 
 FrameSlot::FrameSlot(std::function<Clock::time_point()> now) : m_now(std::move(now))
@@ -103,7 +105,7 @@ bool FrameSlot::put(int generation, const QImage& frame, const QSize& sourceSize
     } else if (!m_blackSince) {
         m_blackSince = now;
     }
-    m_isBlack = m_blackSince && now - *m_blackSince >= BlackTime;
+    m_isBlack = m_blackSince && now - *m_blackSince >= CameraCause::BlackTime;
     const bool mustNotify = !m_isNotificationUnderWay;
     m_isNotificationUnderWay = true;
     return mustNotify;

@@ -21,8 +21,6 @@ class FrameSlot
 public:
     using Clock = StallTimeout::Clock;
 
-    static constexpr std::chrono::seconds BlackTime{2};
-
     explicit FrameSlot(std::function<Clock::time_point()> now = &Clock::now);
 
     // GUI thread

@@ -163,17 +163,19 @@ void ProbeWorker::lookUpAddresses()
         return;
     }
     m_isLookingUp = true;
-    m_lookup = std::make_unique<HostLookup>(
-        server.host, [this](const HostLookup::Answer& answer) { takeAddresses(answer); });
+    m_lookup =
+        std::make_unique<HostLookup>(server.host, [this, server](const HostLookup::Answer& answer) {
+            takeAddresses(server.host, answer);
+        });
 }
 
-void ProbeWorker::takeAddresses(const HostLookup::Answer& answer)
+void ProbeWorker::takeAddresses(const QString& host, const HostLookup::Answer& answer)
 {
     m_isLookingUp = false;
     m_addresses = answer.addresses;
     m_problem = answer.isUnknownName ? NetworkProblem::NoSuchHost : NetworkProblem::None;
     if (m_addresses.isEmpty()) {
-        qCDebug(Log::network).noquote() << "No address of" << m_server.host << "-" << answer.error;
+        qCDebug(Log::network).noquote() << "No address of" << host << "-" << answer.error;
     } else if (!m_socket) {
         tick();
     }
@@ -194,7 +196,7 @@ void ProbeWorker::sendProbe()
     }
 }
 
-// False where the socket is of no use any more.
+// False if the socket is of no use any more.
 bool ProbeWorker::write(const QByteArray& datagram)
 {
     if (m_socket->write(datagram) == datagram.size()) {

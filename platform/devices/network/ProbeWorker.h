@@ -60,7 +60,7 @@ private:
     void lookUpServers();
     void takeServers(const std::vector<StunServer>& servers);
     void lookUpAddresses();
-    void takeAddresses(const HostLookup::Answer& answer);
+    void takeAddresses(const QString& host, const HostLookup::Answer& answer);
     void openNext();
     void closeWhereUseless();
     void sendProbe();

@@ -19,8 +19,8 @@ struct PulseDevice : DeviceInfo
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
-    bool isTelephone =
-        false; // a Bluetooth headset while it can also hear: it sounds like a telephone
+    // A Bluetooth headset whose microphone is in use plays in telephone quality.
+    bool isTelephone = false;
 
     VolumeState volumeState() const;
 };

@@ -22,8 +22,8 @@ struct OutboxLimits
     std::chrono::milliseconds maxAge = std::chrono::hours(14 * 24);
     std::chrono::milliseconds firstRetry = std::chrono::seconds(5);
     std::chrono::milliseconds longestRetry = std::chrono::hours(1);
-    std::chrono::milliseconds postTimeout =
-        std::chrono::seconds(15); // from the connection to the answer
+    // From the connection to the answer.
+    std::chrono::milliseconds postTimeout = std::chrono::seconds(15);
 };
 
 // Posts the reports of an outbox folder, one after the other, and removes each one that the server

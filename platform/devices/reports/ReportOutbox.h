@@ -12,7 +12,7 @@
 
 namespace Platform {
 
-// Keeps the results in their document, writes every report code into a journal, and posts it where
+// Keeps the results in their document, writes every report code into a journal, and posts it if
 // there is an address to post to. GUI thread; files and the network are worked on elsewhere.
 class ReportOutbox final : public ReportSink
 {
@@ -37,8 +37,8 @@ private:
 
     ResultDocument m_results;
     const QString m_folder;
-    OutboxPoster* m_poster = nullptr;  // dies with its thread; null where nothing is posted
-    std::unique_ptr<QThread> m_thread; // null where nothing is posted
+    OutboxPoster* m_poster = nullptr;  // dies with its thread; null if nothing is posted
+    std::unique_ptr<QThread> m_thread; // null if nothing is posted
 };
 
 } // namespace Platform
