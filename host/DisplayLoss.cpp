@@ -19,7 +19,7 @@ namespace {
 constexpr int LongestSavingMs = 2 * ProgramEnd::BudgetMs;
 
 // What the engine warns of is for the user, what Qt does for developers. Qt's plain warnings are
-// looked at here before they are dropped.
+// looked at here before they are dropped, and so are its plain errors.
 const char* const QuietRules = "*.debug=false\n*.info=false\n*.warning=false\n"
                                "default.warning=true\nengine.*.warning=true";
 
@@ -68,7 +68,7 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
         endFromAnyThread();
     }
     const bool isPlain = !context.category || qstrcmp(context.category, "default") == 0;
-    if (theIsVerbose || type != QtWarningMsg || !isPlain) {
+    if (theIsVerbose || type == QtFatalMsg || !isPlain) {
         thePrevious(type, context, text);
     }
 }

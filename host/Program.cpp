@@ -5,7 +5,7 @@
 #include "host/Configuration.h"
 #include "host/Console.h"
 #include "host/DisplayLoss.h"
-#include "host/DisplayTrial.h"
+#include "host/DisplayOpening.h"
 #include "host/EarlyTexts.h"
 #include "host/Languages.h"
 #include "host/Options.h"
@@ -34,6 +34,9 @@ constexpr int FontPixelSize = 12;
 // The places on the pages are measured for this style, and other ones cut texts off.
 const QLatin1String Style("fusion");
 
+// Nothing is drawn by OpenGL here. Its drivers take longer to load than Qt itself.
+const char* const OpenGlVariable = "QT_XCB_GL_INTEGRATION";
+
 void useLookOfCheck()
 {
     QApplication::setStyle(Style);
@@ -49,6 +52,9 @@ void useLookOfCheck()
 
 std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[])
 {
+    if (!qEnvironmentVariableIsSet(OpenGlVariable)) {
+        qputenv(OpenGlVariable, "none");
+    }
     auto application = std::make_unique<QApplication>(argc, argv);
     if (ScreenFit::hasLoweredFactor()) {
         application.reset();
@@ -99,8 +105,10 @@ ExitCode runCommand(const Options& options, const QString& language)
     return ExitCode::WrongUsage;
 }
 
-// Reads the options before the application object is made, which depends on them.
-ExitCode readOptions(const QStringList& arguments, char* argv[], Options& options)
+// Reads the options before the application object is made, which depends on them. Gives the line
+// for a display that can't be opened, too.
+ExitCode readOptions(const QStringList& arguments, char* argv[], Options& options,
+                     QString& displayProblem)
 {
     const EarlyTexts texts(argv, Options::languageIn(arguments));
     if (texts.areMissing()) {
@@ -108,12 +116,17 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
         return ExitCode::Unavailable;
     }
     options = Options::parse(arguments);
+    displayProblem = DisplayOpening::problem();
     const bool isHelp =
         options.command == Options::Command::Help || options.command == Options::Command::Version;
     const QString problem = options.error.isEmpty() && !isHelp ? texts.problem() : options.error;
     if (!problem.isEmpty()) {
         Console::printError(problem);
         return ExitCode::WrongUsage;
+    }
+    if (options.command == Options::Command::Check && !DisplayOpening::hasDisplay()) {
+        Console::printError(displayProblem);
+        return ExitCode::Unavailable;
     }
     return configure(options);
 }
@@ -144,7 +157,9 @@ ExitCode Program::run(int argc, char* argv[])
         return ExitCode::Unavailable;
     }
     Options options;
-    const ExitCode readCode = readOptions(System::arguments(argc, argv), argv, options);
+    QString displayProblem;
+    const ExitCode readCode =
+        readOptions(System::arguments(argc, argv), argv, options, displayProblem);
     if (readCode != ExitCode::AllPassed) {
         return readCode;
     }
@@ -152,17 +167,12 @@ ExitCode Program::run(int argc, char* argv[])
     int shownCount = 1;
     ScreenFit::takeFactorsAsTheyAre();
     const bool isCheck = options.command == Options::Command::Check;
-    auto trial = isCheck ? std::make_unique<DisplayTrial>(shownCount, argv) : nullptr;
-    if (trial && trial->hasFailed()) {
-        const EarlyTexts texts(argv, options.language);
-        Console::printError(trial->problem());
-        return ExitCode::Unavailable;
-    }
     const DisplayLoss displayLoss(options.isVerbose);
+    auto opening = isCheck ? std::make_unique<DisplayOpening>(displayProblem) : nullptr;
     const std::unique_ptr<QCoreApplication> application =
         isCheck ? applicationWithWindows(shownCount, argv)
                 : std::make_unique<QCoreApplication>(shownCount, argv);
-    trial.reset();
+    opening.reset();
     const TerminationSignals signals;
     runWithTexts(options, signals);
 }

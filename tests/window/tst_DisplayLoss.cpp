@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTcpServer>
 #include <QtTest>
 
 #include <csignal>
@@ -23,6 +24,15 @@ constexpr QRect WindowPlace(372, 153, 622, 462); // without a window manager
 constexpr QPoint NextButton(540, 441);
 constexpr QPoint YesButton(396, 441);
 
+QProcessEnvironment withoutDisplays()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        environment.remove(QLatin1String(name));
+    }
+    return environment;
+}
+
 } // namespace
 
 // The program where its display or its terminal goes away, or was never there.
@@ -38,6 +48,8 @@ private Q_SLOTS:
     void nohup();
     void noSuchDisplay_data();
     void noSuchDisplay();
+    void silentDisplay();
+    void secondKindOfDisplay();
 
 private:
     QString file(const char* name) const { return m_home->filePath(QLatin1String(name)); }
@@ -202,10 +214,7 @@ void tst_DisplayLoss::noSuchDisplay()
 {
     QFETCH(QByteArray, variable);
     QFETCH(QString, value);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        environment.remove(QLatin1String(name));
-    }
+    QProcessEnvironment environment = withoutDisplays();
     environment.insert(QString::fromLatin1(variable), value);
     const auto program = started(environment);
     QVERIFY(program->waitForFinished(LongMs));
@@ -215,6 +224,38 @@ void tst_DisplayLoss::noSuchDisplay()
     QVERIFY2(output.startsWith(QStringLiteral("envcheck: the display %1 ").arg(value)),
              qPrintable(output));
     QCOMPARE(output.count(QLatin1Char('\n')), 1);
+}
+
+void tst_DisplayLoss::silentDisplay()
+{
+    constexpr int FirstPort = 6000; // of X11 on TCP, for display 0
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    QVERIFY(server.serverPort() > FirstPort);
+    const QString display = QStringLiteral("127.0.0.1:%1").arg(server.serverPort() - FirstPort);
+    QProcessEnvironment environment = withoutDisplays();
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    const auto program = started(environment);
+    QVERIFY(program->waitForFinished(LongMs));
+    QCOMPARE(program->exitCode(), 69);
+    const QString output = QString::fromUtf8(program->readAll());
+    QVERIFY2(output.startsWith(QStringLiteral("envcheck: the display %1 ").arg(display)),
+             qPrintable(output));
+}
+
+void tst_DisplayLoss::secondKindOfDisplay()
+{
+    DisplayServer server(DisplayServer::Kind::X11);
+    QVERIFY(server.start(ScreenSize));
+    QProcessEnvironment environment = server.environment();
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    environment.insert(QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("/no/such/compositor"));
+    environment.insert(QStringLiteral("XDG_SESSION_TYPE"), QStringLiteral("wayland"));
+    const auto program = started(environment);
+    QTRY_VERIFY_WITH_TIMEOUT(isMeasured(), LongMs);
+    program->sendSignal(SIGTERM);
+    QVERIFY(program->waitForFinished(LongMs));
+    QCOMPARE(program->exitCode(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_DisplayLoss)
