@@ -149,13 +149,25 @@ const pw_stream_events PipeWireStream::Events = [] {
     return events;
 }();
 
+const pw_core_events PipeWireStream::CoreEvents = [] {
+    pw_core_events events{};
+    events.version = PW_VERSION_CORE_EVENTS;
+    events.error = [](void* data, uint32_t, int, int result, const char*) {
+        static_cast<PipeWireStream*>(data)->onServerError(result);
+    };
+    return events;
+}();
+
 PipeWireStream::PipeWireStream(pw_context* context, const QString& serial,
                                const QSize& preferredSize, Listener& listener)
-    : m_listener(listener), m_core(pw_context_connect(context, nullptr, 0))
+    : m_listener(listener),
+      m_core(pw_context_connect(context, nullptr, 0)),
+      m_errorTimer(pw_context_get_main_loop(context), [this] { m_listener.streamEnded(m_error); })
 {
     if (!m_core) {
         return;
     }
+    pw_core_add_listener(m_core, &m_coreHook, &CoreEvents, this);
     pw_properties* const properties =
         pw_properties_new(PW_KEY_MEDIA_TYPE, "Video", PW_KEY_MEDIA_CATEGORY, "Capture",
                           PW_KEY_MEDIA_ROLE, "Camera", PW_KEY_TARGET_OBJECT,
@@ -175,6 +187,7 @@ PipeWireStream::~PipeWireStream()
         pw_stream_destroy(m_stream);
     }
     if (m_core) {
+        spa_hook_remove(&m_coreHook);
         pw_core_disconnect(m_core); // now, so that the loop reads no late answers
     }
 }
@@ -198,6 +211,13 @@ void PipeWireStream::connectTo(const QSize& preferredSize)
         offers, std::size(offers));
 }
 
+void PipeWireStream::onServerError(int result)
+{
+    if (m_errorTimer.isActive()) {
+        m_error.number = -result;
+    }
+}
+
 void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
 {
     switch (state) {
@@ -205,11 +225,12 @@ void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
         m_listener.streamRuns();
         break;
     case PW_STREAM_STATE_ERROR:
-        m_listener.streamEnded(QString::fromUtf8(error));
+        m_error = ServerError(error);
+        m_errorTimer.startOnce({}); // the number comes in the next event
         break;
     case PW_STREAM_STATE_UNCONNECTED:
         if (m_wasConnecting) {
-            m_listener.streamEnded(QString::fromUtf8(error));
+            m_listener.streamEnded(ServerError(error));
         }
         break;
     case PW_STREAM_STATE_CONNECTING:
