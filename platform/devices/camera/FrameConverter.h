@@ -4,6 +4,7 @@
 
 #include "platform/devices/camera/FrameFormat.h"
 #include "platform/devices/camera/FramePool.h"
+#include "platform/devices/camera/JpegReader.h"
 
 #include <QImage>
 #include <vector>
@@ -30,11 +31,12 @@ private:
     bool scaleNv12(const Source& source, const QSize& size);
     bool scaleI420(const Source& source, const QSize& size);
     bool scaleRgb(const Source& source, const QSize& size);
-    bool scaleMjpg(const Source& source, const QSize& size);
+    bool scaleJpeg(const QSize& size);
     void scaleRows(const Source& source, int rowBytes, int rows);
     QImage oriented(const QSize& size, const FrameOrientation& orientation);
 
     FramePool m_pool;
+    JpegReader m_jpeg;
     Bytes m_rows;    // the full width of the source, the height of the result
     Bytes m_full[3]; // planes of the source's width
     Bytes m_small[3];
