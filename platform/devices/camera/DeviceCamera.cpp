@@ -336,6 +336,8 @@ CameraCause::Kind DeviceCamera::expectedCause() const
         return Kind::Denied;
     case DeviceState::Failed:
         return Kind::Failed;
+    case DeviceState::Unreadable:
+        return Kind::Unreadable;
     case DeviceState::Hung:
         return Kind::Hung;
     default:

@@ -114,6 +114,22 @@ QSize FrameConverter::fittedSize(const QSize& source, const QSize& bound)
 QImage FrameConverter::convert(const FrameFormat& format, const FrameView& view,
                                const FrameOrientation& orientation, const QSize& bound)
 {
+    m_pixelFormat = format.pixelFormat;
+    QImage result = tryToConvert(format, view, orientation, bound);
+    m_unreadable = result.isNull() ? m_unreadable + 1 : 0;
+    return result;
+}
+
+QString FrameConverter::problem() const
+{
+    return m_pixelFormat == PixelFormat::Mjpg
+               ? m_jpeg.problem()
+               : QStringLiteral("their memory is too short or can't be mapped");
+}
+
+QImage FrameConverter::tryToConvert(const FrameFormat& format, const FrameView& view,
+                                    const FrameOrientation& orientation, const QSize& bound)
+{
     FrameFormat actual = format;
     if (format.pixelFormat == PixelFormat::Mjpg) {
         const FrameView::Plane& plane = view.planes[0];

@@ -143,10 +143,15 @@ void NodeProxy::onFormat(const spa_pod* format)
     if (values->type != SPA_TYPE_Id) {
         return;
     }
+    // Its pixels are in an order that only a graphics card knows.
+    const spa_pod_prop* const modifier =
+        spa_pod_find_prop(format, nullptr, SPA_FORMAT_VIDEO_modifier);
+    const bool isForGraphics = modifier && (modifier->flags & SPA_POD_PROP_FLAG_MANDATORY) != 0;
     const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
     for (uint32_t i = 0; i < count; ++i) {
         m_node.hasColor = m_node.hasColor || !isGray(ids[i]);
-        m_node.isReadable = m_node.isReadable || pixelFormatOf(ids[i]) != PixelFormat::None;
+        m_node.isReadable =
+            m_node.isReadable || (!isForGraphics && pixelFormatOf(ids[i]) != PixelFormat::None);
     }
 }
 

@@ -116,6 +116,11 @@ void PipeWireCapture::frameReceived(const FrameFormat& format, const FrameView& 
 {
     const QImage frame = m_converter.convert(format, view, orientation, m_outputSize);
     if (frame.isNull()) {
+        if (m_converter.hasGivenUp()) {
+            qCInfo(Log::camera, "The camera's frames can't be read: %s",
+                   qUtf8Printable(m_converter.problem()));
+            m_opening.setReason(DeviceState::Unreadable);
+        }
         return;
     }
     const bool mustNotify = m_slot->put(m_opening.generation(), frame, format.size);
@@ -134,7 +139,7 @@ bool PipeWireCapture::openStream(const QString& serial)
 {
     if (!m_connection.cameras().isReadable(serial)) {
         qCInfo(Log::camera, "The camera offers no format that can be shown");
-        m_opening.setReason(DeviceState::Failed); // the server would say nothing at all
+        m_opening.setReason(DeviceState::Unreadable); // the server would say nothing at all
         return false;
     }
     m_serial = serial;

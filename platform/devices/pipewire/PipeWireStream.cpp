@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireStream.h"
 
+#include "platform/devices/pipewire/DriverBuffer.h"
 #include "platform/devices/pipewire/StreamFormat.h"
 
 #include <algorithm>
 #include <spa/param/video/format-utils.h>
-#include <sys/mman.h>
 
 namespace Platform {
 
@@ -104,31 +104,6 @@ FrameView::Plane planeOf(const spa_data& block)
     return {static_cast<const uchar*>(block.data) + offset, size, block.chunk->stride};
 }
 
-// PipeWire maps shared memory, but not the DMA buffers that a driver shares.
-void mapDriverBuffers(pw_buffer* buffer)
-{
-    for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
-        spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && !block.data) {
-            void* const memory =
-                mmap(nullptr, block.maxsize, PROT_READ, MAP_SHARED, static_cast<int>(block.fd),
-                     static_cast<off_t>(block.mapoffset));
-            block.data = memory == MAP_FAILED ? nullptr : memory;
-        }
-    }
-}
-
-void unmapDriverBuffers(pw_buffer* buffer)
-{
-    for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
-        spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && block.data) {
-            munmap(block.data, block.maxsize);
-            block.data = nullptr;
-        }
-    }
-}
-
 } // namespace
 
 const pw_stream_events PipeWireStream::Events = [] {
@@ -143,8 +118,8 @@ const pw_stream_events PipeWireStream::Events = [] {
             static_cast<PipeWireStream*>(data)->onFormatChanged(parameter);
         }
     };
-    events.add_buffer = [](void*, pw_buffer* buffer) { mapDriverBuffers(buffer); };
-    events.remove_buffer = [](void*, pw_buffer* buffer) { unmapDriverBuffers(buffer); };
+    events.add_buffer = [](void*, pw_buffer* buffer) { DriverBuffer::map(*buffer); };
+    events.remove_buffer = [](void*, pw_buffer* buffer) { DriverBuffer::unmap(*buffer); };
     events.process = [](void* data) { static_cast<PipeWireStream*>(data)->onProcess(); };
     return events;
 }();
@@ -302,7 +277,9 @@ void PipeWireStream::deliver(const spa_buffer& buffer)
     for (std::size_t i = 0; i < static_cast<std::size_t>(view.planeCount); ++i) {
         view.planes[i] = planeOf(buffer.datas[i]);
     }
-    if (view.planeCount > 0 && view.planes[0].size > 0) {
+    // Without data, the memory can't be mapped: whoever converts the frame must know.
+    if (view.planeCount > 0 && (view.planes[0].size > 0 || !buffer.datas[0].data)) {
+        const DriverBuffer::Reading reading(buffer);
         m_listener.frameReceived(m_format, view, orientationOf(buffer));
     }
 }

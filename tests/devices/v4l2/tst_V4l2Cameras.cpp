@@ -97,6 +97,8 @@ private Q_SLOTS:
     void namesTheProgramThatHasTheDeviceFile();
     void reportsMissingSource();
     void reportsSourceThatDoesNotStart();
+    void reportsFormatsThatCantBeShown_data();
+    void reportsFormatsThatCantBeShown();
     void waitsForHungStart();
     void leavesHungStartAtOnce();
     void leavesNothingBehind();
@@ -393,6 +395,28 @@ void tst_V4l2Cameras::reportsSourceThatDoesNotStart()
     makeBackend();
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+}
+
+void tst_V4l2Cameras::reportsFormatsThatCantBeShown_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::newRow("no such format") << QByteArray("videotestsrc is-live=true ! capsfilter "
+                                                  "caps=video/x-raw,format=GRAY16_LE");
+    QTest::newRow("broken JPEGs") << QByteArray(
+        "fakesrc sizetype=fixed sizemax=2000 do-timestamp=1 "
+        "is-live=true datarate=60000 ! capsfilter "
+        "caps=image/jpeg,width=320,height=240");
+}
+
+void tst_V4l2Cameras::reportsFormatsThatCantBeShown()
+{
+    QFETCH(QByteArray, source);
+    m_makeSource = [source](const QString&) { return makeElement(source); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("unreadable"), LongMs);
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::Unreadable);
 }
 
 void tst_V4l2Cameras::waitsForHungStart()
