@@ -6,7 +6,7 @@ run_packages=(
     cmake ninja-build g++ ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libnice-dev libc-ares-dev libpulse-dev libmpg123-dev libsamplerate0-dev libkissfft-dev
-    libpipewire-0.3-dev libspa-0.2-dev libyuv-dev libutf8proc-dev
+    libpipewire-0.3-dev libspa-0.2-dev libyuv-dev libjpeg62-turbo-dev libutf8proc-dev
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
     libqt5x11extras5-dev libxcb1-dev
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good
@@ -14,7 +14,7 @@ run_packages=(
 )
 test_packages=(
     qtbase5-private-dev coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
-    libspa-0.2-modules umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
+    libspa-0.2-modules libc-l10n umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file
     openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct

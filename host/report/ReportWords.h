@@ -64,6 +64,7 @@ enum class Reason {
     Busy,
     Hung,
     Failed,
+    Unreadable,
     NoAnswer,
     NoSuchHost,
     NoServer, // none is configured
@@ -89,6 +90,7 @@ enum class Cause {
     Unplugged,
     ServerLost, // of pictures or sound on this machine
     Failed,
+    Unreadable, // the camera works, but sends no format that can be shown
     Silent,
     Muted,
     VolumeZero,

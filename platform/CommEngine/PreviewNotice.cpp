@@ -53,6 +53,8 @@ const char* textIdOf(const Platform::CameraCause& cause)
         return "ID_Engine_Camera_ServerLost";
     case Kind::Failed:
         return "ID_Engine_Camera_Failed";
+    case Kind::Unreadable:
+        return "ID_Engine_Camera_Unreadable";
     }
     return nullptr;
 }

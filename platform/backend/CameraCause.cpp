@@ -30,6 +30,8 @@ QString toString(CameraCause::Kind kind)
         return QStringLiteral("serverLost");
     case Kind::Failed:
         return QStringLiteral("failed");
+    case Kind::Unreadable:
+        return QStringLiteral("unreadable");
     }
     return {};
 }

@@ -24,6 +24,7 @@ struct CameraCause
         Unplugged,  // it was there before
         ServerLost, // the service that brings the pictures doesn't run
         Failed,     // it broke
+        Unreadable, // it works, but sends no format that can be shown
     };
 
     static constexpr std::chrono::seconds BlackTime{2};

@@ -27,6 +27,7 @@ bool isUsable(DeviceState state)
     case DeviceState::Off:
     case DeviceState::Denied:
     case DeviceState::Failed:
+    case DeviceState::Unreadable:
         return false;
     case DeviceState::Busy:
     case DeviceState::Hung:

@@ -41,19 +41,20 @@ CLASSROOMBACKEND_EXPORT QString nameIn(const DeviceList& devices, const QString&
 
 // Why a chosen device works or doesn't.
 enum class DeviceState {
-    Absent,  // none is chosen, or the chosen one isn't plugged in
-    Off,     // "no device" is chosen
-    Denied,  // the system refuses to open it
-    Failed,  // it was opened and broke
-    Busy,    // another program holds it
-    Hung,    // it didn't answer before the deadline
-    Silent,  // open, and sends nothing, or nothing louder than its noise
-    Ready,   // usable, not opened yet
-    Working, // it sends frames or sound
+    Absent,     // none is chosen, or the chosen one isn't plugged in
+    Off,        // "no device" is chosen
+    Denied,     // the system refuses to open it
+    Failed,     // it was opened and broke
+    Unreadable, // it sends nothing that can be shown
+    Busy,       // another program holds it
+    Hung,       // it didn't answer before the deadline
+    Silent,     // open, and sends nothing, or nothing louder than its noise
+    Ready,      // usable, not opened yet
+    Working,    // it sends frames or sound
 };
 Q_ENUM_NS(DeviceState)
 
-// Chosen, plugged in and allowed to be opened: all but Absent, Off, Denied and Failed.
+// Chosen, plugged in and allowed to be opened: all but the first five.
 CLASSROOMBACKEND_EXPORT bool isUsable(DeviceState state);
 
 // The word of a state in logs and reports, such as "working".

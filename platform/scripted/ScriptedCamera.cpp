@@ -215,6 +215,8 @@ CameraCause::Kind ScriptedCamera::causeKind() const
         return Kind::Denied;
     case DeviceState::Failed:
         return Kind::Failed;
+    case DeviceState::Unreadable:
+        return Kind::Unreadable;
     case DeviceState::Busy:
         return Kind::Busy;
     case DeviceState::Hung:

@@ -165,6 +165,11 @@
         <translation>تم فصل الكاميرا.
 صِلها من جديد أو اختر كاميرا أخرى.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>لا يمكن عرض صور هذه الكاميرا هنا.
+اختر كاميرا أخرى، أو تنسيقًا آخر في إعداداتها.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>لا توجد كاميرا</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>لم تُفتح هذه الخطوة</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>لا ترسل الكاميرا أي تنسيق يمكن عرضه</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>استُبدلت العناوين والأسماء والحسابات برموز قصيرة.</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>تعطل الجهاز، فصِله من جديد أو جرّب جهازًا آخر.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>لا ترسل الكاميرا أي تنسيق يمكن عرضه هنا، فاختر كاميرا أخرى أو تنسيقًا آخر في إعداداتها.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

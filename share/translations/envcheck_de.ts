@@ -165,6 +165,11 @@ Stecken Sie sie neu ein oder wählen Sie eine andere.</translation>
         <translation>Die Kamera wurde abgezogen.
 Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>Die Bilder der Kamera können hier nicht angezeigt werden.
+Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Keine Kamera</translation>
@@ -865,6 +870,10 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>dieser Schritt wurde nicht geöffnet</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>die Kamera sendet kein Format, das angezeigt werden kann</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Adressen, Namen und Konten sind durch kurze Codes ersetzt.</translation>
@@ -1324,6 +1333,10 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>Das Gerät ist ausgefallen: Schließen Sie es neu an oder versuchen Sie es mit einem anderen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>Die Kamera sendet kein Format, das hier angezeigt werden kann: Wählen Sie eine andere, oder stellen Sie an ihr ein anderes Format ein.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

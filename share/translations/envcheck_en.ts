@@ -165,6 +165,11 @@ Unplug it and plug it in again, or choose another one.</translation>
         <translation>The camera was unplugged.
 Plug it in again, or choose another one.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>The camera's pictures cannot be shown here.
+Choose another camera, or another format in its settings.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>No camera</translation>
@@ -865,6 +870,10 @@ Plug it in again, or choose another one.</translation>
         <source></source>
         <translation>this step was not opened</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>the camera sends no format that can be shown</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Addresses, names and accounts are replaced by short codes.</translation>
@@ -1324,6 +1333,10 @@ Plug it in again, or choose another one.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>The device broke down, so plug it in again or try another one.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>The camera sends no format that can be shown here, so choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

@@ -165,6 +165,11 @@ Desconéctela y vuelva a conectarla, o elija otra.</translation>
         <translation>La cámara se ha desconectado.
 Vuelva a conectarla o elija otra.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>Las imágenes de la cámara no se pueden mostrar aquí.
+Elija otra cámara u otro formato en sus ajustes.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Sin cámara</translation>
@@ -865,6 +870,10 @@ Vuelva a conectarla o elija otra.</translation>
         <source></source>
         <translation>no se abrió este paso</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>la cámara no envía ningún formato que se pueda mostrar</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Direcciones, nombres y cuentas se sustituyen por códigos cortos.</translation>
@@ -1324,6 +1333,10 @@ Vuelva a conectarla o elija otra.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>El dispositivo falló: vuelva a conectarlo o pruebe con otro.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>La cámara no envía ningún formato que se pueda mostrar aquí: elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

@@ -165,6 +165,11 @@ Débranchez-la puis rebranchez-la, ou choisissez-en une autre.</translation>
         <translation>La caméra a été débranchée.
 Rebranchez-la ou choisissez-en une autre.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>Les images de la caméra ne peuvent pas être affichées ici.
+Choisissez une autre caméra, ou un autre format dans ses réglages.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Aucune caméra</translation>
@@ -865,6 +870,10 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>cette étape n’a pas été ouverte</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>la caméra n'envoie aucun format affichable</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Adresses, noms et comptes sont remplacés par des codes courts.</translation>
@@ -1324,6 +1333,10 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>L'appareil est tombé en panne : rebranchez-le ou essayez-en un autre.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>La caméra n'envoie aucun format affichable ici : choisissez une autre caméra, ou un autre format dans ses réglages.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

@@ -165,6 +165,11 @@
         <translation>カメラが取り外されました。
 もう一度接続するか、別のカメラを選んでください。</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>このカメラの映像はここでは表示できません。
+別のカメラを選ぶか、カメラの設定で別の形式を選んでください。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>カメラなし</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>この手順は開かれていません</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>カメラが表示できる形式の映像を送っていません</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>アドレス、名前、アカウントは短い記号に置き換えられています。</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>機器に障害が起きました。接続し直すか、別の機器を試してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>カメラがここで表示できる形式の映像を送っていません。別のカメラを選ぶか、カメラの設定で別の形式を選んでください。</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

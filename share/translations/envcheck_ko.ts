@@ -165,6 +165,11 @@
         <translation>카메라 연결이 끊어졌습니다.
 다시 연결하거나 다른 카메라를 선택하세요.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>이 카메라의 영상은 여기에서 표시할 수 없습니다.
+다른 카메라를 선택하거나 카메라 설정에서 다른 형식을 선택하세요.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>카메라 없음</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>이 단계를 열지 않음</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>카메라가 표시할 수 있는 형식을 보내지 않음</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>주소, 이름, 계정은 짧은 코드로 바뀌었습니다.</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>장치에 문제가 생겼으니 다시 연결하거나 다른 장치를 사용해 보세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>카메라가 여기에서 표시할 수 있는 형식을 보내지 않습니다. 다른 카메라를 선택하거나 카메라 설정에서 다른 형식을 선택하세요.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

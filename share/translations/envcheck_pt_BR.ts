@@ -165,6 +165,11 @@ Desconecte-a e conecte-a de novo, ou escolha outra.</translation>
         <translation>A câmera foi desconectada.
 Conecte-a de novo ou escolha outra.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>As imagens da câmera não podem ser exibidas aqui.
+Escolha outra câmera ou outro formato nas configurações dela.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Nenhuma câmera</translation>
@@ -865,6 +870,10 @@ Conecte-a de novo ou escolha outra.</translation>
         <source></source>
         <translation>esta etapa não foi aberta</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>a câmera não envia nenhum formato que possa ser exibido</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Endereços, nomes e contas foram trocados por códigos curtos.</translation>
@@ -1324,6 +1333,10 @@ Conecte-a de novo ou escolha outra.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>O dispositivo falhou: conecte-o de novo ou tente outro.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>A câmera não envia nenhum formato que possa ser exibido aqui: escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

@@ -165,6 +165,11 @@
         <translation>Камера отключена.
 Подключите её снова или выберите другую.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>Изображение этой камеры здесь нельзя показать.
+Выберите другую камеру или другой формат в её настройках.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Нет камеры</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>этот шаг не открывался</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>камера не передаёт формат, который можно показать</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Адреса, имена и учётные записи заменены короткими кодами.</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>Устройство вышло из строя: подключите его заново или попробуйте другое.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>Камера не передаёт формат, который здесь можно показать: выберите другую камеру или другой формат в её настройках.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

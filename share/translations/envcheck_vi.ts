@@ -165,6 +165,11 @@ Hãy rút ra rồi cắm lại, hoặc chọn camera khác.</translation>
         <translation>Camera đã bị rút ra.
 Hãy cắm lại hoặc chọn camera khác.</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>Không thể hiển thị hình ảnh của camera này ở đây.
+Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của nó.</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Không có camera</translation>
@@ -865,6 +870,10 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>bước này chưa được mở</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>camera không gửi định dạng nào hiển thị được</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Địa chỉ, tên và tài khoản được thay bằng mã ngắn.</translation>
@@ -1324,6 +1333,10 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>Thiết bị bị lỗi, hãy cắm lại hoặc thử thiết bị khác.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>Camera không gửi định dạng nào hiển thị được ở đây, hãy chọn camera khác hoặc định dạng khác trong cài đặt của nó.</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

@@ -165,6 +165,11 @@
         <translation>摄像头已拔下。
 请重新插上，或选择其他摄像头。</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>此处无法显示该摄像头的画面。
+请选择其他摄像头，或在其设置中选择其他格式。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>无摄像头</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>未打开此步骤</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>摄像头未发送可显示的格式</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>地址、名称和账号已替换为短代码。</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>设备出现故障，请重新连接，或换一个设备。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>摄像头未发送可在此处显示的格式，请选择其他摄像头，或在其设置中选择其他格式。</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

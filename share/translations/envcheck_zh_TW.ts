@@ -165,6 +165,11 @@
         <translation>攝影機已拔除。
 請重新接上，或選擇其他攝影機。</translation>
     </message>
+    <message id="ID_Engine_Camera_Unreadable">
+        <source></source>
+        <translation>此處無法顯示該攝影機的畫面。
+請選擇其他攝影機，或在其設定中選擇其他格式。</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>無攝影機</translation>
@@ -865,6 +870,10 @@
         <source></source>
         <translation>未開啟此步驟</translation>
     </message>
+    <message id="ID_Host_Reason_Unreadable">
+        <source></source>
+        <translation>攝影機未傳送可顯示的格式</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>位址、名稱和帳號已替換為短代碼。</translation>
@@ -1324,6 +1333,10 @@
     <message id="ID_Host_Remedy_Failed">
         <source></source>
         <translation>裝置發生故障，請重新連接，或換一個裝置。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Unreadable">
+        <source></source>
+        <translation>攝影機未傳送可在此處顯示的格式，請選擇其他攝影機，或在其設定中選擇其他格式。</translation>
     </message>
     <message id="ID_Host_Remedy_Silent">
         <source></source>

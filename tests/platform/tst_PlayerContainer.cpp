@@ -29,7 +29,8 @@ const std::pair<Kind, const char*> Causes[] = {{Kind::Starting, "ID_Engine_Camer
                                                {Kind::Black, "ID_Engine_Camera_Black"},
                                                {Kind::Unplugged, "ID_Engine_Camera_Unplugged"},
                                                {Kind::ServerLost, "ID_Engine_Camera_ServerLost"},
-                                               {Kind::Failed, "ID_Engine_Camera_Failed"}};
+                                               {Kind::Failed, "ID_Engine_Camera_Failed"},
+                                               {Kind::Unreadable, "ID_Engine_Camera_Unreadable"}};
 
 // Columns of black and white in turn: any scaling or smoothing shows.
 QImage stripes(const QSize& size)

@@ -107,7 +107,8 @@ constexpr Place PLACES[] = {
     // In the place of the camera's picture, also below the ring of the start.
     {"ID_Engine_Camera_Absent ID_Engine_Camera_Black ID_Engine_Camera_Busy ID_Engine_Camera_BusyBy "
      "ID_Engine_Camera_Denied ID_Engine_Camera_Failed ID_Engine_Camera_Hung "
-     "ID_Engine_Camera_ServerLost ID_Engine_Camera_Stalled ID_Engine_Camera_Unplugged",
+     "ID_Engine_Camera_ServerLost ID_Engine_Camera_Stalled ID_Engine_Camera_Unplugged "
+     "ID_Engine_Camera_Unreadable",
      13, 274, 130},
     {"ID_Engine_Camera_Starting", 13, 274},
     // Behind the name of a headset, which may be cut.

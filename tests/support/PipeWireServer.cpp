@@ -28,6 +28,9 @@ const char ManagerConfiguration[] = "alsa_monitor.enabled = false\n"
                                     "v4l2_monitor.enabled = false\n"
                                     "libcamera_monitor.enabled = false\n";
 
+const QString ManagerScripts = QStringLiteral("/usr/share/wireplumber/scripts/");
+const char NoCamera[] = "no node available";
+
 bool writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);
@@ -45,8 +48,9 @@ QByteArray outputOf(const QString& program, const QStringList& arguments)
 
 } // namespace
 
-PipeWireServer::PipeWireServer()
-    : m_runtime(m_folder.filePath(QStringLiteral("run"))),
+PipeWireServer::PipeWireServer(const Habits& habits)
+    : m_habits(habits),
+      m_runtime(m_folder.filePath(QStringLiteral("run"))),
       m_before(QProcessEnvironment::systemEnvironment())
 {
     QDir().mkpath(m_runtime);
@@ -171,13 +175,34 @@ void PipeWireServer::setEnvironment()
 bool PipeWireServer::writeConfiguration()
 {
     return writeFile(
-        m_folder.filePath(QStringLiteral("config/wireplumber/main.lua.d/51-no-devices.lua")),
-        ManagerConfiguration);
+               m_folder.filePath(QStringLiteral("config/wireplumber/main.lua.d/51-no-devices.lua")),
+               ManagerConfiguration) &&
+           writeManagerScript();
+}
+
+// The usual script with another message. A user's script goes before that of the system.
+bool PipeWireServer::writeManagerScript()
+{
+    if (m_habits.noCamera.isEmpty()) {
+        return true;
+    }
+    QFile usual(ManagerScripts + QStringLiteral("policy-node.lua"));
+    QByteArray script = usual.open(QIODevice::ReadOnly) ? usual.readAll() : QByteArray();
+    return script.contains(NoCamera) &&
+           writeFile(
+               m_folder.filePath(QStringLiteral("config/wireplumber/scripts/policy-node.lua")),
+               script.replace(NoCamera, m_habits.noCamera));
 }
 
 bool PipeWireServer::startProgram(const QString& name, const QStringList& arguments)
 {
     auto process = std::make_unique<TestProcess>();
+    if (!m_habits.language.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.insert(QStringLiteral("LANGUAGE"), m_habits.language);
+        process->setProcessEnvironment(environment);
+    }
     process->start(name, arguments);
     if (!process->waitForStarted(StartTimeoutMs)) {
         m_problem = QStringLiteral("can't start %1: %2").arg(name, process->errorString());

@@ -19,7 +19,14 @@ class TestProcess;
 class PipeWireServer
 {
 public:
-    PipeWireServer();
+    // How this server speaks, if not as usual.
+    struct Habits
+    {
+        QString language;    // of its messages, such as "de"
+        QByteArray noCamera; // what the session manager says if it has no camera for a stream
+    };
+
+    explicit PipeWireServer(const Habits& habits = Habits());
     ~PipeWireServer();
     PipeWireServer(const PipeWireServer&) = delete;
     PipeWireServer& operator=(const PipeWireServer&) = delete;
@@ -48,10 +55,12 @@ private:
 
     void setEnvironment();
     bool writeConfiguration();
+    bool writeManagerScript();
     bool startProgram(const QString& name, const QStringList& arguments = {});
     bool waitFor(const QString& what, const std::function<bool()>& isReady);
     void signal(const QString& name, int number) const;
 
+    Habits m_habits;
     QTemporaryDir m_folder;
     QString m_runtime;
     QString m_problem;

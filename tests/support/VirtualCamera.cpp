@@ -12,6 +12,7 @@ namespace TestSupport {
 
 namespace {
 
+constexpr int64_t TiledModifier = 0x0100000000000001; // the X tiling of a graphics card
 const char PropertySize[] = "size ";
 const char PropertyColor[] = "color ";
 const char PropertyError[] = "error ";
@@ -200,6 +201,10 @@ const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t paramete
         spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_format,
                             SPA_POD_Id(spaFormat(m_pattern.pixelFormat())), 0);
     }
+    if (m_options.isForGraphics) {
+        spa_pod_builder_prop(&builder, SPA_FORMAT_VIDEO_modifier, SPA_POD_PROP_FLAG_MANDATORY);
+        spa_pod_builder_long(&builder, TiledModifier);
+    }
     spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_size, SPA_POD_Rectangle(&size),
                         SPA_FORMAT_VIDEO_framerate, SPA_POD_Fraction(&rate), 0);
     return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
@@ -291,6 +296,9 @@ void VirtualCamera::onProcess()
     if (block.data && bytes <= block.maxsize) {
         const long long now = nanoseconds();
         memcpy(block.data, frame.constData(), bytes);
+        if (m_options.isBroken) {
+            memset(block.data, 'x', bytes);
+        }
         block.chunk->offset = 0;
         block.chunk->size = bytes;
         block.chunk->stride = m_pattern.stride();

@@ -29,6 +29,8 @@ public:
         bool isStalled = false;
         bool isRefusing = false;     // wants a kind of memory that no reader has
         bool isUnreadable = false;   // offers only a format that no reader takes
+        bool isForGraphics = false;  // offers only an order of pixels that graphics cards know
+        bool isBroken = false;       // sends no frames, but anything
         bool isDriverMemory = false; // DMA buffers, as of a kernel driver
         bool isLogged = false;       // prints the time of every frame
     };

@@ -28,8 +28,8 @@ int main(int argc, char* argv[])
     option("transform", "number", "0");
     option("pixel-format", "name", "YUY2");
     option("color", "RRGGBB", "c82828");
-    for (const char* name :
-         {"stalled", "driver-memory", "refusing", "unreadable", "numbered", "log-frames"}) {
+    for (const char* name : {"stalled", "driver-memory", "refusing", "unreadable", "for-graphics",
+                             "broken", "numbered", "log-frames"}) {
         parser.addOption({QLatin1String(name), QLatin1String(name)});
     }
     parser.process(application);
@@ -58,6 +58,8 @@ int main(int argc, char* argv[])
     options.busPath = text("bus-path");
     options.capabilities = text("capabilities");
     options.isUnreadable = isSet("unreadable");
+    options.isForGraphics = isSet("for-graphics");
+    options.isBroken = isSet("broken");
     options.isDriverMemory = isSet("driver-memory");
     options.isLogged = isSet("log-frames");
     return VirtualCamera(options, pattern).run();

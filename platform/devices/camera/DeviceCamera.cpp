@@ -8,8 +8,6 @@
 #include "platform/backend/SettingsStore.h"
 #include "platform/devices/camera/FrameSlot.h"
 
-#include <utility>
-
 namespace Platform {
 
 namespace {
@@ -54,12 +52,10 @@ private:
     Mailbox::Sender m_sender;
 };
 
-DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMaker makeSecondFeed,
-                           std::shared_ptr<EndingThreads> ending, SettingsStore& settings,
+DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed,
+                           const std::shared_ptr<EndingThreads>& ending, SettingsStore& settings,
                            ReportSink& report)
     : m_listener(listener),
-      m_makeSecondFeed(std::move(makeSecondFeed)),
-      m_ending(std::move(ending)),
       m_settings(settings),
       m_report(report),
       m_slot(std::make_shared<FrameSlot>())
@@ -70,13 +66,12 @@ DeviceCamera::DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMa
         m_isOverdue = true;
         notifyCause();
     });
-    useFeed(makeFeed);
+    m_feed = makeFeed(m_slot, std::make_unique<Post>(this, m_mailbox.sender()), ending);
 }
 
 DeviceCamera::~DeviceCamera()
 {
     stop();
-    m_feedMailbox.reset();
     m_mailbox.close();
 }
 
@@ -212,27 +207,10 @@ void DeviceCamera::onFrameArrived()
     }
 }
 
-// Through our own mailbox; the feed's dies with it.
 void DeviceCamera::onServerMissing()
 {
-    m_mailbox.sender().post([this] {
-        if (m_makeSecondFeed) { // if there is no second one, the server may still come
-            useFeed(std::exchange(m_makeSecondFeed, nullptr));
-            m_feed->setOutputSize(m_outputSize);
-            openCurrent();
-        } else {
-            m_server = CameraServer::Lost;
-            notifyCause();
-        }
-    });
-}
-
-// A new mailbox, so that nothing arrives any more from the feed before.
-void DeviceCamera::useFeed(const FeedMaker& makeFeed)
-{
-    m_feed.reset();
-    m_feedMailbox.emplace();
-    m_feed = makeFeed(m_slot, std::make_unique<Post>(this, m_feedMailbox->sender()), m_ending);
+    m_server = CameraServer::Lost;
+    notifyCause();
 }
 
 // The choice of the last time, if it is there. If not, we don't wait for it.
@@ -333,6 +311,8 @@ CameraCause::Kind DeviceCamera::expectedCause() const
         return Kind::Denied;
     case DeviceState::Failed:
         return Kind::Failed;
+    case DeviceState::Unreadable:
+        return Kind::Unreadable;
     case DeviceState::Hung:
         return Kind::Hung;
     default:

@@ -8,7 +8,6 @@
 
 #include <QTimer>
 #include <memory>
-#include <optional>
 
 namespace Platform {
 
@@ -17,13 +16,12 @@ class ReportSink;
 class SettingsStore;
 
 // One user's session with the cameras. Whatever waits for a server or a driver is done by the feed
-// on its threads; this side posts to it and is posted to. If the first feed finds no server, the
-// second one replaces it for good.
+// on its threads; this side posts to it and is posted to.
 class DeviceCamera final : public CameraBackend
 {
 public:
-    DeviceCamera(Listener& listener, const FeedMaker& makeFeed, FeedMaker makeSecondFeed,
-                 std::shared_ptr<EndingThreads> ending, SettingsStore& settings,
+    DeviceCamera(Listener& listener, const FeedMaker& makeFeed,
+                 const std::shared_ptr<EndingThreads>& ending, SettingsStore& settings,
                  ReportSink& report);
     ~DeviceCamera() override;
     DeviceCamera(const DeviceCamera&) = delete;
@@ -51,7 +49,6 @@ private:
     void onFrameArrived();
     void onServerMissing();
 
-    void useFeed(const FeedMaker& makeFeed);
     void chooseFirst(const QString& preferredId);
     void choose(const QString& id);
     void openCurrent();
@@ -63,8 +60,6 @@ private:
     void notifyCause();
 
     Listener& m_listener;
-    FeedMaker m_makeSecondFeed; // null once it is used
-    std::shared_ptr<EndingThreads> m_ending;
     SettingsStore& m_settings;
     ReportSink& m_report;
     std::shared_ptr<FrameSlot> m_slot;
@@ -85,7 +80,6 @@ private:
     bool m_wasUsable = false; // as the listener knows
     bool m_didDeliver = false;
     Mailbox m_mailbox;
-    std::optional<Mailbox> m_feedMailbox; // of the feed in use
     std::unique_ptr<CameraFeed> m_feed;
 };
 

@@ -4,6 +4,7 @@
 
 #include "platform/backend/EndingThreads.h"
 #include "platform/devices/camera/DeviceCamera.h"
+#include "platform/devices/camera/PreferredFeed.h"
 
 #include <QDir>
 
@@ -19,8 +20,8 @@ DeviceCameraSystem::DeviceCameraSystem(const QString& settingsFolder, ReportSink
                                        FeedMaker makeFeed, FeedMaker makeSecondFeed)
     : m_settings(QDir(settingsFolder).filePath(StoreName)),
       m_report(report),
-      m_makeFeed(std::move(makeFeed)),
-      m_makeSecondFeed(std::move(makeSecondFeed)),
+      m_makeFeed(makeSecondFeed ? preferredFeedMaker(std::move(makeFeed), std::move(makeSecondFeed))
+                                : std::move(makeFeed)),
       m_ending(std::make_shared<EndingThreads>())
 {
     m_settings.value({}); // reads the file now, while no dialog is open
@@ -33,8 +34,7 @@ DeviceCameraSystem::~DeviceCameraSystem()
 
 std::unique_ptr<CameraBackend> DeviceCameraSystem::createCamera(CameraBackend::Listener& listener)
 {
-    return std::make_unique<DeviceCamera>(listener, m_makeFeed, m_makeSecondFeed, m_ending,
-                                          m_settings, m_report);
+    return std::make_unique<DeviceCamera>(listener, m_makeFeed, m_ending, m_settings, m_report);
 }
 
 } // namespace Platform

@@ -16,7 +16,7 @@ class ReportSink;
 class DeviceCameraSystem final : public CameraSystem
 {
 public:
-    // If the first feed finds no server, the second one is used, if there is one.
+    // The second feed, if there is one, is used while the first one lists no cameras.
     DeviceCameraSystem(const QString& settingsFolder, ReportSink& report, FeedMaker makeFeed,
                        FeedMaker makeSecondFeed = nullptr);
     ~DeviceCameraSystem() override; // waits for each thread to end, a second at most
@@ -29,7 +29,6 @@ private:
     SettingsStore m_settings;
     ReportSink& m_report;
     FeedMaker m_makeFeed;
-    FeedMaker m_makeSecondFeed;
     std::shared_ptr<EndingThreads> m_ending;
 };
 

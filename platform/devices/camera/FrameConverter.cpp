@@ -114,15 +114,27 @@ QSize FrameConverter::fittedSize(const QSize& source, const QSize& bound)
 QImage FrameConverter::convert(const FrameFormat& format, const FrameView& view,
                                const FrameOrientation& orientation, const QSize& bound)
 {
+    m_pixelFormat = format.pixelFormat;
+    QImage result = tryToConvert(format, view, orientation, bound);
+    m_unreadable = result.isNull() ? m_unreadable + 1 : 0;
+    return result;
+}
+
+QString FrameConverter::problem() const
+{
+    return m_pixelFormat == PixelFormat::Mjpg
+               ? m_jpeg.problem()
+               : QStringLiteral("their memory is too short or can't be mapped");
+}
+
+QImage FrameConverter::tryToConvert(const FrameFormat& format, const FrameView& view,
+                                    const FrameOrientation& orientation, const QSize& bound)
+{
     FrameFormat actual = format;
     if (format.pixelFormat == PixelFormat::Mjpg) {
-        int width = 0;
-        int height = 0;
         const FrameView::Plane& plane = view.planes[0];
-        if (!plane.data || libyuv::MJPGSize(plane.data, plane.size, &width, &height) != 0) {
-            return {};
-        }
-        actual.size = QSize(width, height); // the JPEG is right; the agreed size may not be
+        // The JPEG is right; the agreed size may not be.
+        actual.size = plane.data ? m_jpeg.open(plane.data, plane.size) : QSize();
     }
     if (!isReasonable(actual.size) || view.planeCount < 1 || view.planeCount > 3) {
         return {};
@@ -145,7 +157,7 @@ QImage FrameConverter::convert(const FrameFormat& format, const FrameView& view,
         isScaled = scaleI420(source, size);
         break;
     case PixelFormat::Mjpg:
-        isScaled = scaleMjpg(source, size);
+        isScaled = scaleJpeg(size);
         break;
     case PixelFormat::Bgrx:
     case PixelFormat::Rgbx:
@@ -280,26 +292,13 @@ bool FrameConverter::scaleRgb(const Source& source, const QSize& size)
                              size.width() * 4, size.width(), rows, libyuv::kFilterBox) == 0;
 }
 
-bool FrameConverter::scaleMjpg(const Source& source, const QSize& size)
+bool FrameConverter::scaleJpeg(const QSize& size)
 {
-    const int width = source.width();
-    const int height = source.height();
-    const int halfWidth = halfUp(width);
-    const FrameView::Plane& plane = source.view.planes[0];
-    uchar* const y = sized(m_full[0], width, height);
-    uchar* const u = sized(m_full[1], halfWidth, halfUp(height));
-    uchar* const v = sized(m_full[2], halfWidth, halfUp(height));
-    if (libyuv::MJPGToI420(plane.data, plane.size, y, width, u, halfWidth, v, halfWidth, width,
-                           height, width, height) != 0) {
-        return false;
-    }
-    FrameFormat format{PixelFormat::I420, YuvColor::Bt601Full, source.format.size};
-    FrameView view;
-    view.planeCount = 3;
-    for (std::size_t i = 0; i < view.planes.size(); ++i) {
-        view.planes[i] = {m_full[i].data(), m_full[i].size(), i == 0 ? width : halfWidth};
-    }
-    return scaleI420(Source{format, view}, size);
+    const QSize full = m_jpeg.decode(size, m_full[0]);
+    return !full.isEmpty() &&
+           libyuv::ARGBScale(m_full[0].data(), full.width() * 4, full.width(), full.height(),
+                             sized(m_argb, size.width() * 4, size.height()), size.width() * 4,
+                             size.width(), size.height(), libyuv::kFilterBox) == 0;
 }
 
 QImage FrameConverter::oriented(const QSize& size, const FrameOrientation& orientation)

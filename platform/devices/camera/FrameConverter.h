@@ -4,6 +4,7 @@
 
 #include "platform/devices/camera/FrameFormat.h"
 #include "platform/devices/camera/FramePool.h"
+#include "platform/devices/camera/JpegReader.h"
 
 #include <QImage>
 #include <vector>
@@ -19,22 +20,32 @@ public:
     QImage convert(const FrameFormat& format, const FrameView& view,
                    const FrameOrientation& orientation, const QSize& bound);
 
+    // True once, after so many unreadable frames in a row that it is no accident.
+    bool hasGivenUp() const { return m_unreadable == MaxUnreadable; }
+    QString problem() const; // of the last unreadable frame
+
     // The size of the result, never larger than the source. An empty bound is no bound.
     static QSize fittedSize(const QSize& source, const QSize& bound);
 
 private:
+    static constexpr int MaxUnreadable = 15; // a camera may start with a few
     using Bytes = std::vector<uchar>;
     struct Source;
 
+    QImage tryToConvert(const FrameFormat& format, const FrameView& view,
+                        const FrameOrientation& orientation, const QSize& bound);
     bool scalePacked422(const Source& source, const QSize& size);
     bool scaleNv12(const Source& source, const QSize& size);
     bool scaleI420(const Source& source, const QSize& size);
     bool scaleRgb(const Source& source, const QSize& size);
-    bool scaleMjpg(const Source& source, const QSize& size);
+    bool scaleJpeg(const QSize& size);
     void scaleRows(const Source& source, int rowBytes, int rows);
     QImage oriented(const QSize& size, const FrameOrientation& orientation);
 
     FramePool m_pool;
+    JpegReader m_jpeg;
+    int m_unreadable = 0; // in a row
+    PixelFormat m_pixelFormat = PixelFormat::None;
     Bytes m_rows;    // the full width of the source, the height of the result
     Bytes m_full[3]; // planes of the source's width
     Bytes m_small[3];

@@ -65,6 +65,12 @@ void FrameSlot::notificationArrived()
     m_isNotificationUnderWay = false;
 }
 
+void FrameSlot::setHeld(bool isHeld)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_isHeld = isHeld;
+}
+
 void FrameSlot::setRate(int generation, double framesPerSecond)
 {
     const std::scoped_lock lock(m_mutex);
@@ -84,7 +90,7 @@ void FrameSlot::expectFrames(int generation)
 void FrameSlot::interrupt(int generation)
 {
     const std::scoped_lock lock(m_mutex);
-    if (generation == m_generation) {
+    if (generation == m_generation && !m_isHeld) {
         forgetFrames();
     }
 }

@@ -32,6 +32,8 @@ public:
     bool isBlack() const;        // all frames have been black for some time
     QJsonObject figures() const; // of the generation
     void notificationArrived();  // the next frame may notify again
+    // Interruptions keep the frame: the next stream goes on with this generation.
+    void setHeld(bool isHeld);
 
     // camera thread
     void setRate(int generation, double framesPerSecond);
@@ -55,6 +57,7 @@ private:
     FrameStatistics m_statistics;
     int m_generation = 0;
     bool m_isOpen = false;
+    bool m_isHeld = false;
     bool m_isNotificationUnderWay = false;
 };
 

@@ -9,7 +9,7 @@
 
 namespace Platform {
 
-// PipeWire; if no PipeWire server answers, V4L2.
+// PipeWire; while no PipeWire server answers, or lists no cameras, V4L2.
 std::unique_ptr<CameraSystem> createCameraSystem(const DeviceEngineConfig& config,
                                                  ReportSink& report)
 {

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "platform/devices/pipewire/PipeWireProxy.h"
-
-#include <QString>
+#include "platform/devices/pipewire/ServerError.h"
 
 namespace Platform {
 
@@ -18,7 +17,7 @@ public:
     class Listener
     {
     public:
-        virtual void linkFailed(quint32 nodeId, quint32 readerId, const QString& error) = 0;
+        virtual void linkFailed(quint32 nodeId, quint32 readerId, const ServerError& error) = 0;
 
     protected:
         ~Listener() = default;
@@ -28,10 +27,16 @@ public:
 
 private:
     void onInfo(const pw_link_info& info);
+    void onError(int result, const char* text);
+    void tellError();
 
     static const pw_link_events LinkEvents;
+    static const pw_proxy_events ProxyEvents;
 
     Listener& m_listener;
+    quint32 m_nodeId = 0;
+    quint32 m_readerId = 0;
+    ServerError m_error; // not told yet
     PipeWireProxy m_proxy;
 };
 

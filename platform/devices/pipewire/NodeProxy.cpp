@@ -6,6 +6,7 @@
 #include "platform/devices/pipewire/StreamFormat.h"
 
 #include <spa/param/video/format-utils.h>
+#include <utility>
 
 namespace Platform {
 
@@ -62,6 +63,9 @@ const pw_node_events NodeProxy::NodeEvents = [] {
 const pw_proxy_events NodeProxy::ProxyEvents = [] {
     pw_proxy_events events{};
     events.version = PW_VERSION_PROXY_EVENTS;
+    events.error = [](void* data, int, int result, const char* text) {
+        static_cast<NodeProxy*>(data)->onError(result, text);
+    };
     events.done = [](void* data, int) { static_cast<NodeProxy*>(data)->onDone(); };
     return events;
 }();
@@ -92,8 +96,24 @@ void NodeProxy::onInfo(const pw_node_info& info)
     if ((info.change_mask & PW_NODE_CHANGE_MASK_STATE) == 0) {
         return;
     }
-    m_error = info.state == PW_NODE_STATE_ERROR ? QString::fromUtf8(info.error) : QString();
-    if (!m_error.isEmpty()) {
+    m_isErrorToTell = info.state == PW_NODE_STATE_ERROR;
+    m_error = m_isErrorToTell ? ServerError(info.error) : ServerError();
+    if (m_isErrorToTell) {
+        pw_proxy_sync(m_proxy.get(), 0); // the number, if there is one, comes before the answer
+    }
+}
+
+void NodeProxy::onError(int result, const char* text)
+{
+    if (m_isErrorToTell) {
+        m_error = ServerError(text, result);
+        tellError();
+    }
+}
+
+void NodeProxy::tellError()
+{
+    if (std::exchange(m_isErrorToTell, false)) {
         m_listener.nodeFailed(m_node, m_error);
     }
 }
@@ -123,17 +143,25 @@ void NodeProxy::onFormat(const spa_pod* format)
     if (values->type != SPA_TYPE_Id) {
         return;
     }
+    // Its pixels are in an order that only a graphics card knows.
+    const spa_pod_prop* const modifier =
+        spa_pod_find_prop(format, nullptr, SPA_FORMAT_VIDEO_modifier);
+    const bool isForGraphics = modifier && (modifier->flags & SPA_POD_PROP_FLAG_MANDATORY) != 0;
     const auto* const ids = static_cast<const uint32_t*>(SPA_POD_BODY_CONST(values));
     for (uint32_t i = 0; i < count; ++i) {
         m_node.hasColor = m_node.hasColor || !isGray(ids[i]);
-        m_node.isReadable = m_node.isReadable || pixelFormatOf(ids[i]) != PixelFormat::None;
+        m_node.isReadable =
+            m_node.isReadable || (!isForGraphics && pixelFormatOf(ids[i]) != PixelFormat::None);
     }
 }
 
 void NodeProxy::onDone()
 {
-    m_isDone = true;
-    m_listener.nodeDescribed(m_globalId, m_node);
+    if (!m_isDone) {
+        m_isDone = true;
+        m_listener.nodeDescribed(m_globalId, m_node);
+    }
+    tellError();
 }
 
 } // namespace Platform

@@ -4,6 +4,7 @@
 
 #include "platform/devices/camera/CameraList.h"
 #include "platform/devices/pipewire/PipeWireProxy.h"
+#include "platform/devices/pipewire/ServerError.h"
 
 namespace Platform {
 
@@ -17,7 +18,7 @@ public:
     {
     public:
         virtual void nodeDescribed(quint32 globalId, const CameraNode& node) = 0; // once
-        virtual void nodeFailed(const CameraNode& node, const QString& error) = 0;
+        virtual void nodeFailed(const CameraNode& node, const ServerError& error) = 0;
 
     protected:
         ~Listener() = default;
@@ -28,11 +29,16 @@ public:
 
     bool isDone() const { return m_isDone; }
     const CameraNode& node() const { return m_node; }
-    QString error() const { return m_error; } // of the node's last start; empty if that worked
+    const ServerError& error() const
+    {
+        return m_error;
+    } // of the node's last start; empty if that worked
 
 private:
     void onInfo(const pw_node_info& info);
     void onFormat(const spa_pod* format);
+    void onError(int result, const char* text);
+    void tellError();
     void onDone();
 
     static const pw_node_events NodeEvents;
@@ -41,7 +47,8 @@ private:
     Listener& m_listener;
     quint32 m_globalId;
     CameraNode m_node;
-    QString m_error;
+    ServerError m_error;
+    bool m_isErrorToTell = false;
     bool m_isDone = false;
     PipeWireProxy m_proxy;
 };

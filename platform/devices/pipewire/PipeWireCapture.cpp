@@ -4,27 +4,14 @@
 
 #include "platform/backend/Log.h"
 
+#include <cerrno>
+
 namespace Platform {
 
 namespace {
 
 // If a camera offers several sizes: enough for a sharp preview on any screen.
 const QSize PreferredSize(640, 480);
-
-// What the words of the server or of a driver mean. Ready: no more than the list tells anyway.
-DeviceState stateOf(const QString& error)
-{
-    const auto says = [&error](const char* word) {
-        return error.contains(QLatin1String(word), Qt::CaseInsensitive);
-    };
-    if (says("busy")) {
-        return DeviceState::Busy;
-    }
-    if (says("denied") || says("not permitted")) {
-        return DeviceState::Denied;
-    }
-    return says("no node available") ? DeviceState::Ready : DeviceState::Failed;
-}
 
 } // namespace
 
@@ -58,20 +45,18 @@ void PipeWireCapture::serverMissing()
     m_listener->serverMissing();
 }
 
-void PipeWireCapture::linkFailed(const QString& serial, quint32 readerId, const QString& error)
+void PipeWireCapture::linkFailed(const QString& serial, quint32 readerId, const ServerError& error)
 {
     if (m_stream && serial == m_serial && readerId == m_stream->nodeId()) {
-        const QString text =
-            error.isEmpty() ? QStringLiteral("The link to the camera failed") : error;
         // What another program agreed on with the camera binds all who read from it.
-        streamBlocked(text, stateOf(text));
+        streamBlocked(error, error.state());
     }
 }
 
-void PipeWireCapture::cameraFailed(const QString& serial, const QString& error)
+void PipeWireCapture::cameraFailed(const QString& serial, const ServerError& error)
 {
     if (m_stream && serial == m_serial) {
-        streamEnded(error);
+        cameraEnded(error);
     }
 }
 
@@ -86,28 +71,31 @@ void PipeWireCapture::streamRuns()
     m_opening.streamRuns();
 }
 
-void PipeWireCapture::streamEnded(const QString& error)
+void PipeWireCapture::streamEnded(const ServerError& error)
 {
     if (error.isEmpty()) {
         // If another program has the camera for itself, the session manager ends a new stream.
         const QString reader = m_didRun ? QString() : m_connection.programReading(m_serial);
         m_opening.streamEnded(
             reader.isEmpty() ? std::nullopt : std::make_optional(DeviceState::Busy), reader);
-        return;
+    } else if (error.number == ENOENT) {
+        // The session manager found no camera that it may give us; the list knows more.
+        streamBlocked(error, DeviceState::Ready);
+    } else {
+        cameraEnded(error);
     }
-    const DeviceState state = stateOf(error);
-    if (state == DeviceState::Ready) {
-        streamBlocked(error, state); // the session manager found no camera that it may give us
-        return;
-    }
-    qCInfo(Log::camera, "%s", qUtf8Printable(error));
-    m_opening.streamEnded(state, userOf(m_serial, state));
+}
+
+void PipeWireCapture::cameraEnded(const ServerError& error)
+{
+    qCInfo(Log::camera, "%s", qUtf8Printable(error.text));
+    m_opening.streamEnded(error.state(), userOf(m_serial, error.state()));
 }
 
 // Blames the program that reads from the camera, if there is one.
-void PipeWireCapture::streamBlocked(const QString& error, DeviceState otherwise)
+void PipeWireCapture::streamBlocked(const ServerError& error, DeviceState otherwise)
 {
-    qCInfo(Log::camera, "%s", qUtf8Printable(error));
+    qCInfo(Log::camera, "%s", qUtf8Printable(error.text));
     const QString reader = m_connection.programReading(m_serial);
     const DeviceState state = reader.isEmpty() ? otherwise : DeviceState::Busy;
     m_opening.streamEnded(state, reader.isEmpty() ? userOf(m_serial, state) : reader);
@@ -128,6 +116,11 @@ void PipeWireCapture::frameReceived(const FrameFormat& format, const FrameView& 
 {
     const QImage frame = m_converter.convert(format, view, orientation, m_outputSize);
     if (frame.isNull()) {
+        if (m_converter.hasGivenUp()) {
+            qCInfo(Log::camera, "The camera's frames can't be read: %s",
+                   qUtf8Printable(m_converter.problem()));
+            m_opening.setReason(DeviceState::Unreadable);
+        }
         return;
     }
     const bool mustNotify = m_slot->put(m_opening.generation(), frame, format.size);
@@ -146,7 +139,7 @@ bool PipeWireCapture::openStream(const QString& serial)
 {
     if (!m_connection.cameras().isReadable(serial)) {
         qCInfo(Log::camera, "The camera offers no format that can be shown");
-        m_opening.setReason(DeviceState::Failed); // the server would say nothing at all
+        m_opening.setReason(DeviceState::Unreadable); // the server would say nothing at all
         return false;
     }
     m_serial = serial;
@@ -154,12 +147,19 @@ bool PipeWireCapture::openStream(const QString& serial)
     m_stream = std::make_unique<PipeWireStream>(m_connection.context(), serial, PreferredSize,
                                                 *static_cast<PipeWireStream::Listener*>(this));
     m_opening.startBegan();
-    const QString error = m_connection.errorOf(serial);
+    const ServerError error = m_connection.errorOf(serial);
     if (!error.isEmpty()) {
-        const DeviceState state = stateOf(error);
-        m_opening.setReason(state, userOf(serial, state));
+        setReason(error);
     }
     return true;
+}
+
+// Of an error before our time, the server says no number.
+void PipeWireCapture::setReason(const ServerError& error)
+{
+    const bool mayBeBusy = error.number == 0 || error.number == EBUSY;
+    const QString program = mayBeBusy ? m_connection.programUsing(m_serial) : QString();
+    m_opening.setReason(program.isEmpty() ? error.state() : DeviceState::Busy, program);
 }
 
 } // namespace Platform

@@ -32,16 +32,18 @@ public:
 
     void camerasChanged() override;
     void serverMissing() override;
-    void linkFailed(const QString& serial, quint32 readerId, const QString& error) override;
-    void cameraFailed(const QString& serial, const QString& error) override;
+    void linkFailed(const QString& serial, quint32 readerId, const ServerError& error) override;
+    void cameraFailed(const QString& serial, const ServerError& error) override;
     void connectionLost() override;
 
 private:
-    void streamBlocked(const QString& error, DeviceState otherwise);
+    void cameraEnded(const ServerError& error);
+    void streamBlocked(const ServerError& error, DeviceState otherwise);
+    void setReason(const ServerError& error);
     QString userOf(const QString& serial, DeviceState state) const;
 
     void streamRuns() override;
-    void streamEnded(const QString& error) override;
+    void streamEnded(const ServerError& error) override;
     void rateAgreed(double framesPerSecond) override;
     void frameReceived(const FrameFormat& format, const FrameView& view,
                        const FrameOrientation& orientation) override;

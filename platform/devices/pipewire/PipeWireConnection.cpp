@@ -91,10 +91,10 @@ void PipeWireConnection::quit()
     pw_main_loop_quit(m_mainLoop);
 }
 
-QString PipeWireConnection::errorOf(const QString& serial) const
+ServerError PipeWireConnection::errorOf(const QString& serial) const
 {
     const auto it = nodeWith(serial);
-    return it == m_nodes.cend() ? QString() : it->second->error();
+    return it == m_nodes.cend() ? ServerError() : it->second->error();
 }
 
 CameraServer PipeWireConnection::server() const
@@ -258,7 +258,7 @@ void PipeWireConnection::deviceDescribed(quint32 globalId)
     }
 }
 
-void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const QString& error)
+void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const ServerError& error)
 {
     const auto it = m_nodes.find(nodeId);
     if (it == m_nodes.cend()) {
@@ -269,7 +269,7 @@ void PipeWireConnection::linkFailed(quint32 nodeId, quint32 readerId, const QStr
     }
 }
 
-void PipeWireConnection::nodeFailed(const CameraNode& node, const QString& error)
+void PipeWireConnection::nodeFailed(const CameraNode& node, const ServerError& error)
 {
     for (Observer* observer : m_observers) {
         observer->cameraFailed(node.serial, error);

@@ -32,9 +32,10 @@ public:
         // No server answers, and none has before.
         virtual void serverMissing() = 0;
         // The link from this camera to this reader failed. The reader may be another program's.
-        virtual void linkFailed(const QString& serial, quint32 readerId, const QString& error) = 0;
+        virtual void linkFailed(const QString& serial, quint32 readerId,
+                                const ServerError& error) = 0;
         // The server can't run the camera with this serial.
-        virtual void cameraFailed(const QString& serial, const QString& error) = 0;
+        virtual void cameraFailed(const QString& serial, const ServerError& error) = 0;
         // The server is gone, and all streams with it.
         virtual void connectionLost() = 0;
 
@@ -53,15 +54,16 @@ public:
 
     void nodeDescribed(quint32 globalId, const CameraNode& node) override;
     void deviceDescribed(quint32 globalId) override;
-    void linkFailed(quint32 nodeId, quint32 readerId, const QString& error) override;
-    void nodeFailed(const CameraNode& node, const QString& error) override;
+    void linkFailed(quint32 nodeId, quint32 readerId, const ServerError& error) override;
+    void nodeFailed(const CameraNode& node, const ServerError& error) override;
 
     pw_loop* loop() const { return m_loop; }
     pw_context* context() const { return m_context; } // for more connections
     bool isConnected() const { return m_core != nullptr; }
     const CameraList& cameras() const { return m_cameras; }
-    QString errorOf(const QString& serial) const; // why the camera doesn't run; empty if it does
-    bool isListed() const { return m_isListed; }  // the first list is complete
+    // Why the camera doesn't run; empty if it does.
+    ServerError errorOf(const QString& serial) const;
+    bool isListed() const { return m_isListed; } // the first list is complete
     CameraServer server() const;
     // Another program that reads from this camera by the server. Foreign text; empty if there is
     // none.

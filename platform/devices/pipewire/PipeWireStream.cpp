@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pipewire/PipeWireStream.h"
 
+#include "platform/devices/pipewire/DriverBuffer.h"
 #include "platform/devices/pipewire/StreamFormat.h"
 
 #include <algorithm>
 #include <spa/param/video/format-utils.h>
-#include <sys/mman.h>
 
 namespace Platform {
 
@@ -104,31 +104,6 @@ FrameView::Plane planeOf(const spa_data& block)
     return {static_cast<const uchar*>(block.data) + offset, size, block.chunk->stride};
 }
 
-// PipeWire maps shared memory, but not the DMA buffers that a driver shares.
-void mapDriverBuffers(pw_buffer* buffer)
-{
-    for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
-        spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && !block.data) {
-            void* const memory =
-                mmap(nullptr, block.maxsize, PROT_READ, MAP_SHARED, static_cast<int>(block.fd),
-                     static_cast<off_t>(block.mapoffset));
-            block.data = memory == MAP_FAILED ? nullptr : memory;
-        }
-    }
-}
-
-void unmapDriverBuffers(pw_buffer* buffer)
-{
-    for (uint32_t i = 0; i < buffer->buffer->n_datas; ++i) {
-        spa_data& block = buffer->buffer->datas[i];
-        if (block.type == SPA_DATA_DmaBuf && block.data) {
-            munmap(block.data, block.maxsize);
-            block.data = nullptr;
-        }
-    }
-}
-
 } // namespace
 
 const pw_stream_events PipeWireStream::Events = [] {
@@ -143,19 +118,31 @@ const pw_stream_events PipeWireStream::Events = [] {
             static_cast<PipeWireStream*>(data)->onFormatChanged(parameter);
         }
     };
-    events.add_buffer = [](void*, pw_buffer* buffer) { mapDriverBuffers(buffer); };
-    events.remove_buffer = [](void*, pw_buffer* buffer) { unmapDriverBuffers(buffer); };
+    events.add_buffer = [](void*, pw_buffer* buffer) { DriverBuffer::map(*buffer); };
+    events.remove_buffer = [](void*, pw_buffer* buffer) { DriverBuffer::unmap(*buffer); };
     events.process = [](void* data) { static_cast<PipeWireStream*>(data)->onProcess(); };
+    return events;
+}();
+
+const pw_core_events PipeWireStream::CoreEvents = [] {
+    pw_core_events events{};
+    events.version = PW_VERSION_CORE_EVENTS;
+    events.error = [](void* data, uint32_t, int, int result, const char*) {
+        static_cast<PipeWireStream*>(data)->onServerError(result);
+    };
     return events;
 }();
 
 PipeWireStream::PipeWireStream(pw_context* context, const QString& serial,
                                const QSize& preferredSize, Listener& listener)
-    : m_listener(listener), m_core(pw_context_connect(context, nullptr, 0))
+    : m_listener(listener),
+      m_core(pw_context_connect(context, nullptr, 0)),
+      m_errorTimer(pw_context_get_main_loop(context), [this] { m_listener.streamEnded(m_error); })
 {
     if (!m_core) {
         return;
     }
+    pw_core_add_listener(m_core, &m_coreHook, &CoreEvents, this);
     pw_properties* const properties =
         pw_properties_new(PW_KEY_MEDIA_TYPE, "Video", PW_KEY_MEDIA_CATEGORY, "Capture",
                           PW_KEY_MEDIA_ROLE, "Camera", PW_KEY_TARGET_OBJECT,
@@ -175,6 +162,7 @@ PipeWireStream::~PipeWireStream()
         pw_stream_destroy(m_stream);
     }
     if (m_core) {
+        spa_hook_remove(&m_coreHook);
         pw_core_disconnect(m_core); // now, so that the loop reads no late answers
     }
 }
@@ -198,6 +186,13 @@ void PipeWireStream::connectTo(const QSize& preferredSize)
         offers, std::size(offers));
 }
 
+void PipeWireStream::onServerError(int result)
+{
+    if (m_errorTimer.isActive()) {
+        m_error.number = -result;
+    }
+}
+
 void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
 {
     switch (state) {
@@ -205,11 +200,12 @@ void PipeWireStream::onStateChanged(pw_stream_state state, const char* error)
         m_listener.streamRuns();
         break;
     case PW_STREAM_STATE_ERROR:
-        m_listener.streamEnded(QString::fromUtf8(error));
+        m_error = ServerError(error);
+        m_errorTimer.startOnce({}); // the number comes in the next event
         break;
     case PW_STREAM_STATE_UNCONNECTED:
         if (m_wasConnecting) {
-            m_listener.streamEnded(QString::fromUtf8(error));
+            m_listener.streamEnded(ServerError(error));
         }
         break;
     case PW_STREAM_STATE_CONNECTING:
@@ -281,7 +277,9 @@ void PipeWireStream::deliver(const spa_buffer& buffer)
     for (std::size_t i = 0; i < static_cast<std::size_t>(view.planeCount); ++i) {
         view.planes[i] = planeOf(buffer.datas[i]);
     }
-    if (view.planeCount > 0 && view.planes[0].size > 0) {
+    // Without data, the memory can't be mapped: whoever converts the frame must know.
+    if (view.planeCount > 0 && (view.planes[0].size > 0 || !buffer.datas[0].data)) {
+        const DriverBuffer::Reading reading(buffer);
         m_listener.frameReceived(m_format, view, orientationOf(buffer));
     }
 }

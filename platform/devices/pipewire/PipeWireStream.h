@@ -3,6 +3,8 @@
 #pragma once
 
 #include "platform/devices/camera/FrameFormat.h"
+#include "platform/devices/pipewire/LoopTimer.h"
+#include "platform/devices/pipewire/ServerError.h"
 
 #include <QString>
 #include <pipewire/pipewire.h>
@@ -20,7 +22,7 @@ public:
     {
     public:
         virtual void streamRuns() = 0;
-        virtual void streamEnded(const QString& error) = 0; // empty if nobody said why
+        virtual void streamEnded(const ServerError& error) = 0; // empty if nobody said why
         virtual void rateAgreed(double framesPerSecond) = 0;
         virtual void frameReceived(const FrameFormat& format, const FrameView& view,
                                    const FrameOrientation& orientation) = 0;
@@ -39,17 +41,22 @@ public:
 
 private:
     void connectTo(const QSize& preferredSize);
+    void onServerError(int result);
     void onStateChanged(pw_stream_state state, const char* error);
     void onFormatChanged(const spa_pod* format);
     void onProcess();
     void deliver(const spa_buffer& buffer);
 
     static const pw_stream_events Events;
+    static const pw_core_events CoreEvents;
 
     Listener& m_listener;
     pw_core* m_core; // null if the server takes no more connections
     pw_stream* m_stream = nullptr;
     spa_hook m_hook{};
+    spa_hook m_coreHook{};
+    ServerError m_error;
+    LoopTimer m_errorTimer;
     FrameFormat m_format;
     bool m_wasConnecting = false;
 };

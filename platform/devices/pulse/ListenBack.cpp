@@ -24,6 +24,9 @@ ListenBack::ListenBack(pa_mainloop_api* api, const QString& speakerId, unsigned 
       m_filter(rate),
       m_context(pa_context_new(api, PulseClientName))
 {
+    if (!m_context) {
+        return;
+    }
     pa_context_set_state_callback(
         m_context.get(),
         [](pa_context*, void* self) { static_cast<ListenBack*>(self)->contextStateChanged(); },
@@ -47,6 +50,9 @@ void ListenBack::connectStream()
         pa_context_disconnect(m_context.get());
         return;
     }
+    pa_stream_set_state_callback(
+        m_stream.get(),
+        [](pa_stream*, void* self) { static_cast<ListenBack*>(self)->streamStateChanged(); }, this);
     pa_stream_set_underflow_callback(
         m_stream.get(),
         [](pa_stream*, void* self) { static_cast<ListenBack*>(self)->m_filter.noteUnderflow(); },
@@ -62,15 +68,23 @@ void ListenBack::connectStream()
                                nullptr);
 }
 
+// PipeWire takes another device if the named one has just gone.
+void ListenBack::streamStateChanged()
+{
+    m_isElsewhere = pa_stream_get_state(m_stream.get()) == PA_STREAM_READY &&
+                    m_speakerId != pa_stream_get_device_name(m_stream.get());
+}
+
 bool ListenBack::hasFailed() const
 {
-    return !PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context.get())) ||
+    return m_isElsewhere || !m_context ||
+           !PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context.get())) ||
            (m_stream && !PA_STREAM_IS_GOOD(pa_stream_get_state(m_stream.get())));
 }
 
 void ListenBack::play(const float* samples, std::size_t count)
 {
-    if (!m_stream || pa_stream_get_state(m_stream.get()) != PA_STREAM_READY) {
+    if (m_isElsewhere || !m_stream || pa_stream_get_state(m_stream.get()) != PA_STREAM_READY) {
         return;
     }
     const std::vector<float>& output =

@@ -26,12 +26,14 @@ public:
 private:
     void contextStateChanged();
     void connectStream();
+    void streamStateChanged();
     double fillMs() const;
 
     QByteArray m_speakerId;
     unsigned m_rate;
     ListenBackFilter m_filter;
     bool m_hasStarted = false;
+    bool m_isElsewhere = false; // the server took another device
     PulseContextHandle m_context;
     PulseStreamHandle m_stream;
 };

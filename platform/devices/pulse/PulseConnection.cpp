@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseConnection.h"
 
+#include "platform/backend/Log.h"
+
 #include <algorithm>
 #include <pulse/introspect.h>
 #include <pulse/proplist.h>
-#include <pulse/rtclock.h>
 #include <pulse/subscribe.h>
-#include <pulse/timeval.h>
 #include <type_traits>
 #include <utility>
 
@@ -19,6 +19,8 @@ constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
 // Pause between two queries of the device list, so that many changes at once don't keep us busy.
 constexpr unsigned PauseMs = 20;
+// For all replies of a round. Without them it is begun again.
+constexpr unsigned RoundTimeoutMs = 5000;
 // Servers show this sink if they have no real one.
 constexpr char DummySink[] = "auto_null";
 
@@ -71,7 +73,16 @@ bool isTelephone(const pa_proplist* properties)
 } // namespace
 
 PulseConnection::PulseConnection(Publish publish)
-    : m_publish(std::move(publish)), m_backOffMs(FirstBackOffMs)
+    : m_publish(std::move(publish)),
+      m_retry(api(), [this] { connect(); }),
+      m_pause(api(),
+              [this] {
+                  if (m_isStale) {
+                      startRound();
+                  }
+              }),
+      m_deadline(api(), [this] { failRound(); }),
+      m_backOffMs(FirstBackOffMs)
 {
     // On the sound thread, because creating a context may ask the X display for the server.
     run([this] { connect(); });
@@ -82,11 +93,8 @@ PulseConnection::~PulseConnection()
 {
     m_loop.stop();
     dropClients();
-    endPause();
+    m_round.clear();
     m_context.reset();
-    if (m_retry) {
-        api()->time_free(m_retry);
-    }
 }
 
 pa_context* PulseConnection::context() const
@@ -108,6 +116,10 @@ void PulseConnection::remove(const std::shared_ptr<Client>& client)
 void PulseConnection::connect()
 {
     m_context.reset(pa_context_new(api(), PulseClientName));
+    if (!m_context) {
+        disconnected();
+        return;
+    }
     pa_context_set_state_callback(
         m_context.get(),
         [](pa_context*, void* self) { static_cast<PulseConnection*>(self)->contextStateChanged(); },
@@ -127,12 +139,7 @@ void PulseConnection::contextStateChanged()
 {
     switch (pa_context_get_state(m_context.get())) {
     case PA_CONTEXT_READY:
-        m_backOffMs = FirstBackOffMs;
-        release(pa_context_subscribe(m_context.get(),
-                                     static_cast<pa_subscription_mask_t>(
-                                         PA_SUBSCRIPTION_MASK_SINK | PA_SUBSCRIPTION_MASK_SOURCE |
-                                         PA_SUBSCRIPTION_MASK_SERVER),
-                                     nullptr, nullptr));
+        m_isSubscribed = false;
         refresh();
         break;
     case PA_CONTEXT_FAILED:
@@ -151,11 +158,13 @@ void PulseConnection::contextStateChanged()
 // replaces it.
 void PulseConnection::disconnected()
 {
-    if (m_retry) {
+    if (m_retry.isActive()) {
         return;
     }
+    m_round.clear();
     m_awaitedReplies = 0;
-    endPause();
+    m_deadline.stop();
+    m_pause.stop();
     for (const PulseKind kind : {PulseKind::Speaker, PulseKind::Microphone}) {
         VolumeOrders& lost = orders(kind);
         for (std::optional<VolumeOrder>* order : {&lost.underWay, &lost.next}) {
@@ -169,16 +178,13 @@ void PulseConnection::disconnected()
     dropClients();
     m_publish(m_devices);
 
-    m_retry = pa_context_rttime_new(
-        m_context.get(), pa_rtclock_now() + m_backOffMs * PA_USEC_PER_MSEC,
-        [](pa_mainloop_api* loop, pa_time_event* event, const timeval*, void* self) {
-            auto* connection = static_cast<PulseConnection*>(self);
-            loop->time_free(event);
-            connection->m_retry = nullptr;
-            connection->connect();
-        },
-        this);
-    m_backOffMs = std::min(2 * m_backOffMs, LastBackOffMs);
+    m_retry.startOnce(nextBackOffMs());
+}
+
+// Until a list has arrived.
+unsigned PulseConnection::nextBackOffMs()
+{
+    return std::exchange(m_backOffMs, std::min(2 * m_backOffMs, LastBackOffMs));
 }
 
 void PulseConnection::dropClients()
@@ -192,7 +198,7 @@ void PulseConnection::dropClients()
 void PulseConnection::refresh()
 {
     m_isStale = true;
-    if (m_awaitedReplies == 0 && !m_pause) {
+    if (m_awaitedReplies == 0 && !m_pause.isActive()) {
         startRound();
     }
 }
@@ -204,20 +210,44 @@ void PulseConnection::startRound()
     m_arriving.isConnected = true;
     m_arriving.speakers.settledOrder = m_speakerOrders.settled;
     m_arriving.microphones.settledOrder = m_microphoneOrders.settled;
-    m_awaitedReplies = 3;
+    m_deadline.startOnce(RoundTimeoutMs);
     pa_context* context = m_context.get();
-    release(pa_context_get_server_info(
-        context,
-        [](pa_context*, const pa_server_info* info, void* self) {
-            if (info) {
-                static_cast<PulseConnection*>(self)->takeServer(info->default_sink_name,
-                                                                info->default_source_name);
-            }
-            static_cast<PulseConnection*>(self)->replyArrived();
-        },
-        this));
-    release(pa_context_get_sink_info_list(context, &deviceArrived<pa_sink_info>, this));
-    release(pa_context_get_source_info_list(context, &deviceArrived<pa_source_info>, this));
+    if (!m_isSubscribed) {
+        await(pa_context_subscribe(context,
+                                   static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SINK |
+                                                                       PA_SUBSCRIPTION_MASK_SOURCE |
+                                                                       PA_SUBSCRIPTION_MASK_SERVER),
+                                   &subscribed, this));
+    }
+    await(pa_context_get_server_info(context, &serverArrived, this));
+    await(pa_context_get_sink_info_list(context, &deviceArrived<pa_sink_info>, this));
+    await(pa_context_get_source_info_list(context, &deviceArrived<pa_source_info>, this));
+    m_awaitedReplies = m_round.size();
+    if (std::find(m_round.cbegin(), m_round.cend(), nullptr) != m_round.cend()) {
+        failRound();
+    }
+}
+
+// A query that can't be sent is kept as null.
+void PulseConnection::await(pa_operation* operation)
+{
+    m_round.emplace_back(operation);
+}
+
+void PulseConnection::subscribed(pa_context* /*context*/, int success, void* self)
+{
+    auto* connection = static_cast<PulseConnection*>(self);
+    connection->m_isSubscribed = success != 0;
+    connection->replyArrived(success != 0);
+}
+
+void PulseConnection::serverArrived(pa_context* /*context*/, const pa_server_info* info, void* self)
+{
+    auto* connection = static_cast<PulseConnection*>(self);
+    if (info) {
+        connection->takeServer(info->default_sink_name, info->default_source_name);
+    }
+    connection->replyArrived(info != nullptr);
 }
 
 void PulseConnection::takeServer(const char* defaultSink, const char* defaultSource)
@@ -231,7 +261,7 @@ void PulseConnection::deviceArrived(pa_context* /*context*/, const Info* info, i
 {
     auto* connection = static_cast<PulseConnection*>(self);
     if (end != 0) {
-        connection->replyArrived();
+        connection->replyArrived(end > 0);
     } else if (!isNone(*info)) {
         connection->takeDevice(kindOf(*info), *info);
     }
@@ -253,32 +283,40 @@ void PulseConnection::takeDevice(PulseKind kind, const Info& info)
     m_arriving.side(kind).devices.push_back(std::move(device));
 }
 
-void PulseConnection::replyArrived()
+// A list counts only if all replies of its round are good.
+void PulseConnection::replyArrived(bool isGood)
 {
-    if (--m_awaitedReplies > 0) {
-        return;
+    if (!isGood) {
+        failRound();
+    } else if (--m_awaitedReplies == 0) {
+        finishRound();
     }
+}
+
+void PulseConnection::finishRound()
+{
+    m_backOffMs = FirstBackOffMs;
     if (!(m_arriving == m_devices)) {
         m_devices = std::move(m_arriving);
         m_publish(m_devices);
     }
-    m_pause = pa_context_rttime_new(
-        m_context.get(), pa_rtclock_now() + PauseMs * PA_USEC_PER_MSEC,
-        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) {
-            auto* connection = static_cast<PulseConnection*>(self);
-            connection->endPause();
-            if (connection->m_isStale) {
-                connection->startRound();
-            }
-        },
-        this);
+    endRound(PauseMs);
 }
 
-void PulseConnection::endPause()
+// The last list stays until another one has arrived.
+void PulseConnection::failRound()
 {
-    if (m_pause) {
-        api()->time_free(std::exchange(m_pause, nullptr));
-    }
+    qCInfo(Log::devices, "The sound server left a query unanswered, which is sent again");
+    m_isStale = true;
+    endRound(nextBackOffMs());
+}
+
+void PulseConnection::endRound(unsigned pauseMs)
+{
+    m_round.clear();
+    m_awaitedReplies = 0;
+    m_deadline.stop();
+    m_pause.startOnce(pauseMs);
 }
 
 PulseConnection::VolumeOrders& PulseConnection::orders(PulseKind kind)
@@ -319,25 +357,32 @@ void PulseConnection::sendVolume(PulseKind kind)
                                                    : &pa_context_set_source_mute_by_name;
     // Always unmute; our last state may be stale.
     release(unmute(context(), name.constData(), 0, nullptr, nullptr));
-    if (kind == PulseKind::Speaker) {
-        release(pa_context_set_sink_volume_by_name(context(), name.constData(), &volume,
-                                                   &volumeSet<PulseKind::Speaker>, this));
-    } else {
-        release(pa_context_set_source_volume_by_name(context(), name.constData(), &volume,
-                                                     &volumeSet<PulseKind::Microphone>, this));
+    const bool isSent =
+        kind == PulseKind::Speaker
+            ? release(pa_context_set_sink_volume_by_name(context(), name.constData(), &volume,
+                                                         &volumeSet<PulseKind::Speaker>, this))
+            : release(pa_context_set_source_volume_by_name(
+                  context(), name.constData(), &volume, &volumeSet<PulseKind::Microphone>, this));
+    if (!isSent) {
+        volumeSettled(kind);
     }
+}
+
+// Carried out, or refused: the list will tell.
+void PulseConnection::volumeSettled(PulseKind kind)
+{
+    VolumeOrders& queue = orders(kind);
+    if (queue.underWay) {
+        queue.settled = queue.underWay->number;
+    }
+    sendVolume(kind);
+    refresh();
 }
 
 template <PulseKind Kind>
 void PulseConnection::volumeSet(pa_context* /*context*/, int /*success*/, void* self)
 {
-    auto* connection = static_cast<PulseConnection*>(self);
-    VolumeOrders& queue = connection->orders(Kind);
-    if (queue.underWay) {
-        queue.settled = queue.underWay->number;
-    }
-    connection->sendVolume(Kind);
-    connection->refresh();
+    static_cast<PulseConnection*>(self)->volumeSettled(Kind);
 }
 
 } // namespace Platform

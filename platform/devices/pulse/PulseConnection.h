@@ -5,13 +5,14 @@
 #include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/pulse/PulseHandles.h"
 #include "platform/devices/pulse/PulseLoop.h"
+#include "platform/devices/pulse/PulseTimer.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <pulse/introspect.h>
 #include <vector>
-
-struct pa_time_event;
 
 namespace Platform {
 
@@ -63,29 +64,39 @@ private:
     void contextStateChanged();
     void refresh();
     void startRound();
-    void replyArrived();
-    void endPause();
+    void await(pa_operation* operation);
+    void replyArrived(bool isGood);
+    void finishRound();
+    void failRound();
+    void endRound(unsigned pauseMs);
+    unsigned nextBackOffMs();
     void takeServer(const char* defaultSink, const char* defaultSource);
     template <typename Info>
     void takeDevice(PulseKind kind, const Info& info);
+    static void subscribed(pa_context*, int success, void* self);
+    static void serverArrived(pa_context*, const pa_server_info* info, void* self);
     template <typename Info>
     static void deviceArrived(pa_context*, const Info*, int, void*);
     VolumeOrders& orders(PulseKind kind);
     void sendVolume(PulseKind kind);
+    void volumeSettled(PulseKind kind);
     template <PulseKind Kind>
     static void volumeSet(pa_context*, int, void*);
 
     Publish m_publish;
     PulseLoop m_loop;
     PulseContextHandle m_context;
-    pa_time_event* m_retry = nullptr;
-    pa_time_event* m_pause = nullptr;
+    PulseTimer m_retry; // connects again
+    PulseTimer m_pause; // between two rounds
+    PulseTimer m_deadline;
     unsigned m_backOffMs;
     std::vector<std::shared_ptr<Client>> m_clients;
 
     PulseDevices m_devices; // the last published ones
     PulseDevices m_arriving;
-    int m_awaitedReplies = 0;
+    std::vector<PulseOperationHandle> m_round; // the queries under way
+    std::size_t m_awaitedReplies = 0;
+    bool m_isSubscribed = false;
     bool m_isStale = false; // something changed since the current round began
     VolumeOrders m_speakerOrders;
     VolumeOrders m_microphoneOrders;

@@ -38,8 +38,19 @@ struct PulseContextCloser
     }
 };
 
+// The operation's callback isn't called any more.
+struct PulseOperationCanceller
+{
+    void operator()(pa_operation* operation) const
+    {
+        pa_operation_cancel(operation);
+        pa_operation_unref(operation);
+    }
+};
+
 using PulseStreamHandle = std::unique_ptr<pa_stream, PulseStreamCloser>;
 using PulseContextHandle = std::unique_ptr<pa_context, PulseContextCloser>;
+using PulseOperationHandle = std::unique_ptr<pa_operation, PulseOperationCanceller>;
 
 // Nobody waits for the operation; it goes on by itself. False if it couldn't be started.
 inline bool release(pa_operation* operation)

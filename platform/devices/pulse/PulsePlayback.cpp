@@ -163,12 +163,12 @@ void PulsePlayback::feed()
     }
     if (hasEnded && m_written == m_sound->size()) {
         m_isDraining = true;
-        release(pa_stream_drain(
-            m_stream.get(),
-            [](pa_stream*, int success, void* self) {
-                static_cast<PulsePlayback*>(self)->finish(success != 0);
-            },
-            this));
+        const auto drained = [](pa_stream*, int success, void* self) {
+            static_cast<PulsePlayback*>(self)->finish(success != 0);
+        };
+        if (!release(pa_stream_drain(m_stream.get(), drained, this))) {
+            finish(false);
+        }
     }
 }
 

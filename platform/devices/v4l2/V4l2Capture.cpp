@@ -98,6 +98,12 @@ void V4l2Capture::firstFrameArrived()
     m_opening.frameArrived();
 }
 
+void V4l2Capture::framesUnreadable(const QString& problem)
+{
+    qCInfo(Log::camera, "The camera's frames can't be read: %s", qUtf8Printable(problem));
+    m_opening.setReason(DeviceState::Unreadable);
+}
+
 void V4l2Capture::streamEnded(DeviceState state, const QString& error, const QString& program)
 {
     qCInfo(Log::camera, "%s", qUtf8Printable(error));

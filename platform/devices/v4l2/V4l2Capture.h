@@ -39,6 +39,7 @@ private:
     void streamOpens() override;
     void streamRuns() override;
     void firstFrameArrived() override;
+    void framesUnreadable(const QString& problem) override;
     void streamEnded(DeviceState state, const QString& error, const QString& program) override;
 
     std::optional<QString> serialOf(const QString& id) const override;

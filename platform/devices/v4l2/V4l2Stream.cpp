@@ -16,6 +16,7 @@ namespace Platform {
 
 namespace {
 
+const QString NoFormat = QStringLiteral("The camera offers no format that can be shown");
 constexpr GstClockTime PollPeriod = 50 * GST_MSECOND;
 // The first caps are preferred if there is a choice: enough for a sharp preview on any screen.
 constexpr const char* ReadableCaps =
@@ -148,6 +149,19 @@ Element makeSink()
     return sink;
 }
 
+// A driver's formats are known only once it is open.
+bool canAgree(GstElement* sink)
+{
+    GstPad* const pad = gst_element_get_static_pad(sink, "sink");
+    GstCaps* const readable = gst_caps_from_string(ReadableCaps);
+    GstCaps* const offered = gst_pad_peer_query_caps(pad, readable);
+    const bool result = gst_caps_is_empty(offered) == 0;
+    gst_caps_unref(offered);
+    gst_caps_unref(readable);
+    gst_object_unref(pad);
+    return result;
+}
+
 FrameView::Plane planeOf(const GstVideoFrame& frame, guint index)
 {
     // Without meta data on the planes, all planes are in the first mapping.
@@ -203,7 +217,7 @@ void V4l2Stream::open()
     const Element pipeline = kept(gst_pipeline_new(nullptr));
     gst_bin_add_many(GST_BIN(pipeline.get()), source.get(), sink.get(), nullptr);
     if (gst_element_link(source.get(), sink.get()) == 0) {
-        fail(QStringLiteral("The camera offers no format that can be shown"));
+        fail(NoFormat, DeviceState::Unreadable);
         return;
     }
     play(pipeline.get(), sink.get());
@@ -243,7 +257,9 @@ void V4l2Stream::play(GstElement* pipeline, GstElement* sink)
             gst_sample_unref(sample);
         }
         if (const std::optional<Failure> failure = failureOn(bus.get())) {
-            fail(failure->text, failure->state);
+            const bool isUnreadable = failure->state == DeviceState::Failed && !canAgree(sink);
+            fail(isUnreadable ? NoFormat : failure->text,
+                 isUnreadable ? DeviceState::Unreadable : failure->state);
             return;
         }
     }
@@ -284,6 +300,11 @@ void V4l2Stream::deliver(GstSample* sample)
             image = m_converter.convert(format, view, {}, m_outputSize);
             gst_video_frame_unmap(&frame);
         }
+    }
+    if (image.isNull() && m_converter.hasGivenUp()) {
+        tell([problem = m_converter.problem()](Listener& listener) {
+            listener.framesUnreadable(problem);
+        });
     }
     if (image.isNull() || isInterruptionRequested()) {
         return;

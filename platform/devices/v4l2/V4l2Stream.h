@@ -28,6 +28,7 @@ public:
         virtual void streamOpens() = 0; // GStreamer is loaded, and the driver is asked
         virtual void streamRuns() = 0;
         virtual void firstFrameArrived() = 0;
+        virtual void framesUnreadable(const QString& problem) = 0;
         // The program is the one that uses a busy camera, if it is known.
         virtual void streamEnded(DeviceState state, const QString& error,
                                  const QString& program) = 0;

@@ -85,7 +85,7 @@ private Q_SLOTS:
                 feed = result.get();
                 return result;
             },
-            nullptr, std::make_shared<EndingThreads>(), settings, report);
+            std::make_shared<EndingThreads>(), settings, report);
         feed->plug();
         QTRY_COMPARE(camera.currentId(), QStringLiteral("camera"));
         camera.start();

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/FrameConverter.h"
+#include "tests/devices/camera/JpegSample.h"
 #include "tests/support/CameraPattern.h"
 
+#include <QProcess>
 #include <QtTest>
 
 using namespace Platform;
@@ -55,6 +57,14 @@ QString letters(const QImage& frame)
     return result;
 }
 
+bool isNear(QRgb actual, QRgb expected)
+{
+    constexpr int Tolerance = 12;
+    return qAbs(qRed(actual) - qRed(expected)) <= Tolerance &&
+           qAbs(qGreen(actual) - qGreen(expected)) <= Tolerance &&
+           qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
+}
+
 } // namespace
 
 class tst_FrameConverter : public QObject
@@ -73,6 +83,10 @@ private Q_SLOTS:
     void refusesShortFrames();
     void refusesAbsurdSizes();
     void refusesBrokenJpegs();
+    void readsEverySampling_data();
+    void readsEverySampling();
+    void readsTheJpegsOfAnEncoder_data();
+    void readsTheJpegsOfAnEncoder();
     void trustsTheJpegsOwnSize();
     void averagesWhatItScales();
 };
@@ -216,7 +230,72 @@ void tst_FrameConverter::refusesBrokenJpegs()
     FrameConverter converter;
     QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes.left(20), 0), {}, {}).isNull());
+    QVERIFY(converter.convert(format, viewOf(bytes.left(bytes.size() / 2), 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(QByteArray(2000, 'x'), 0), {}, {}).isNull());
+    QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
+}
+
+void tst_FrameConverter::readsEverySampling_data()
+{
+    QTest::addColumn<JpegSample>("sample");
+    const auto row = [](const char* name, JpegSample::Factors luma, JpegSample::Factors chroma) {
+        QTest::newRow(name) << JpegSample{luma, chroma};
+    };
+    row("4:2:0", {2, 2}, {1, 1});
+    row("4:2:2", {2, 1}, {1, 1});
+    row("4:4:4", {1, 1}, {1, 1});
+    row("4:1:1", {4, 1}, {1, 1});
+    row("4:4:0", {1, 2}, {1, 1});
+    row("4:2:2 with rows doubled", {2, 2}, {1, 2});
+    row("4:4:0 with columns doubled", {2, 2}, {2, 1});
+    row("4:4:4 with rows doubled", {1, 2}, {1, 2});
+    row("4:1:0", {4, 2}, {1, 1});
+    row("gray", {1, 1}, {0, 0});
+}
+
+void tst_FrameConverter::readsEverySampling()
+{
+    QFETCH(JpegSample, sample);
+    const QByteArray bytes = sample.bytes(); // left half dark, right half bright and orange
+    const FrameFormat format{PixelFormat::Mjpg, YuvColor::Bt601, JpegSample::Size};
+    FrameConverter converter;
+    for (const QSize& bound : {QSize(), JpegSample::Size / 2, JpegSample::Size / 7}) {
+        const QImage image = converter.convert(format, viewOf(bytes, 0), {}, bound);
+        QVERIFY(!image.isNull());
+        const QSize size = FrameConverter::fittedSize(JpegSample::Size, bound);
+        QCOMPARE(image.size(), size);
+        const QRgb left = image.pixel(size.width() / 4, size.height() / 2);
+        const QRgb right = image.pixel(size.width() * 3 / 4, size.height() / 2);
+        QVERIFY(isNear(left, sample.isGray() ? JpegSample::BrightGray : JpegSample::Bright));
+        QVERIFY(isNear(right, JpegSample::Dark)); // mirrored
+    }
+}
+
+void tst_FrameConverter::readsTheJpegsOfAnEncoder_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const char* format : {"yuvj420p", "yuvj422p", "yuvj444p"}) {
+        QTest::newRow(format) << QString::fromLatin1(format);
+    }
+}
+
+void tst_FrameConverter::readsTheJpegsOfAnEncoder()
+{
+    QFETCH(QString, format);
+    QProcess ffmpeg;
+    ffmpeg.start(QStringLiteral("ffmpeg"),
+                 {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
+                  QStringLiteral("lavfi"), QStringLiteral("-i"),
+                  QStringLiteral("color=0xE08020:size=128x96"), QStringLiteral("-frames:v"),
+                  QStringLiteral("1"), QStringLiteral("-pix_fmt"), format, QStringLiteral("-f"),
+                  QStringLiteral("mjpeg"), QStringLiteral("-")});
+    QVERIFY(ffmpeg.waitForFinished());
+    const QByteArray bytes = ffmpeg.readAllStandardOutput();
+    FrameConverter converter;
+    const QImage image = converter.convert({PixelFormat::Mjpg, YuvColor::Bt601, QSize(128, 96)},
+                                           viewOf(bytes, 0), {}, {});
+    QCOMPARE(image.size(), QSize(128, 96));
+    QVERIFY(isNear(image.pixel(64, 48), JpegSample::Bright));
 }
 
 void tst_FrameConverter::trustsTheJpegsOwnSize()

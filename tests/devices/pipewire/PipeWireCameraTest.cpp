@@ -18,7 +18,7 @@ const QString PipeWireCameraTest::GreenText = QStringLiteral("28a028");
 
 void PipeWireCameraTest::initTestCase()
 {
-    m_server = std::make_unique<PipeWireServer>();
+    m_server = std::make_unique<PipeWireServer>(serverHabits());
     QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
 }
 

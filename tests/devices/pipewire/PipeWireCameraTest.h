@@ -39,6 +39,8 @@ protected:
     static const QString NameB;
     static const QString GreenText;
 
+    virtual PipeWireServer::Habits serverHabits() const { return {}; }
+
     static bool isNear(QRgb actual, QRgb expected);
     static bool shows(const QImage& frame, QRgb color); // at most places
     static int cameraThreads();                         // of this process

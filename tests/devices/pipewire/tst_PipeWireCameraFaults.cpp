@@ -28,6 +28,7 @@ private Q_SLOTS:
     void reportsErrors();
     void reportsRefusal_data();
     void reportsRefusal();
+    void reportsFramesThatCantBeRead();
     void namesTheProgramThatHasTheCamera();
     void noticesACoveredLens();
     void survivesServerRestart();
@@ -129,14 +130,20 @@ void tst_PipeWireCameraFaults::reportsErrors()
 void tst_PipeWireCameraFaults::reportsRefusal_data()
 {
     QTest::addColumn<QString>("argument");
-    QTest::newRow("no format in common") << QStringLiteral("--unreadable");
-    QTest::newRow("no memory in common") << QStringLiteral("--refusing");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("no format in common")
+        << QStringLiteral("--unreadable") << QStringLiteral("unreadable");
+    QTest::newRow("for graphics cards only")
+        << QStringLiteral("--for-graphics") << QStringLiteral("unreadable");
+    QTest::newRow("no memory in common")
+        << QStringLiteral("--refusing") << QStringLiteral("failed");
 }
 
 // A refusal during the negotiation is reported at once, not as a hung start after 3 s.
 void tst_PipeWireCameraFaults::reportsRefusal()
 {
     QFETCH(QString, argument);
+    QFETCH(QString, expected);
     const Camera camera = plug(NameA, QStringLiteral("Camera"), {argument});
     makeBackend();
     QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
@@ -144,11 +151,26 @@ void tst_PipeWireCameraFaults::reportsRefusal()
     m_backend->start();
     QElapsedTimer sinceStart;
     sinceStart.start();
-    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), expected, LongMs);
     QVERIFY(isResponsive());
     QVERIFY(sinceStart.elapsed() < 2000);
+    QCOMPARE(toString(m_backend->cause().kind), expected);
     m_backend->stop();
-    QCOMPARE(figures().value(QLatin1String("state")).toString(), QStringLiteral("failed"));
+    QCOMPARE(figures().value(QLatin1String("state")).toString(), expected);
+}
+
+// The camera runs, and what it sends is no picture.
+void tst_PipeWireCameraFaults::reportsFramesThatCantBeRead()
+{
+    const Camera camera = plug(
+        NameA, QStringLiteral("Camera"),
+        {QStringLiteral("--pixel-format"), QStringLiteral("MJPG"), QStringLiteral("--broken")});
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("unreadable"), LongMs);
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::Unreadable);
+    m_backend->stop();
+    QCOMPARE(figures().value(QLatin1String("cause")).toString(), QStringLiteral("unreadable"));
 }
 
 // A real second client that asks the session manager for the camera alone.

@@ -3,9 +3,37 @@
 #include "tests/devices/pipewire/PipeWireCameraTest.h"
 
 #include <QtTest>
+#include <atomic>
+#include <cstdarg>
+#include <linux/dma-buf.h>
+#include <sys/ioctl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace Platform;
 using namespace TestSupport;
+
+namespace {
+
+std::atomic_int readingsBegun = 0;
+std::atomic_int readingsEnded = 0;
+
+} // namespace
+
+// Stands before that of the system. The made-up driver memory can't be synchronized.
+extern "C" int ioctl(int file, unsigned long request, ...) // NOLINT(cert-dcl50-cpp)
+{
+    va_list arguments;
+    va_start(arguments, request);
+    void* const argument = va_arg(arguments, void*);
+    va_end(arguments);
+    if (request == DMA_BUF_IOCTL_SYNC) {
+        const auto flags = static_cast<const dma_buf_sync*>(argument)->flags;
+        readingsBegun += flags == (DMA_BUF_SYNC_READ | DMA_BUF_SYNC_START) ? 1 : 0;
+        readingsEnded += flags == (DMA_BUF_SYNC_READ | DMA_BUF_SYNC_END) ? 1 : 0;
+    }
+    return static_cast<int>(syscall(SYS_ioctl, file, request, argument));
+}
 
 // Frames, from virtual cameras to the preview, on a real server.
 class tst_PipeWireFrames : public PipeWireCameraTest
@@ -141,6 +169,10 @@ void tst_PipeWireFrames::mapsDriverMemory()
     m_backend->start();
     QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
     QVERIFY(shows(m_backend->latestFrame(), Red));
+    m_backend.reset();
+    QTRY_COMPARE(cameraThreads(), 0);
+    QVERIFY(readingsBegun > 0);
+    QCOMPARE(readingsEnded.load(), readingsBegun.load());
 }
 
 void tst_PipeWireFrames::followsFormatChanges()

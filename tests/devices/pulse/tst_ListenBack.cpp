@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/devices/pulse/ListenBack.h"
+#include "platform/devices/pulse/PulseLoop.h"
 #include "platform/devices/pulse/PulseSound.h"
 #include "platform/devices/sound/SoundMath.h"
+#include "tests/devices/pulse/UnwillingPulse.h"
 #include "tests/support/DriftingMicrophone.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/MemoryReport.h"
@@ -11,6 +14,7 @@
 
 #include <QTest>
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <memory>
 #include <numeric>
@@ -159,6 +163,38 @@ private Q_SLOTS:
             return heard;
         });
         QVERIFY2(fault.isEmpty(), qPrintable(fault));
+    }
+
+    // PipeWire connects a stream to another device if the named one has just gone.
+    void playsOnNoOtherSpeaker()
+    {
+        const std::unique_ptr<SoundServer> server = SoundServer::startForTest();
+        QVERIFY(server);
+        TestSupport::UnwillingPulse::redirectPlayback("gone", "speaker_a");
+        SoundRecording recording(QStringLiteral("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        const std::vector<float> tone = TestSupport::tone(0.02, 440.0, -6.0);
+        PulseLoop loop;
+        std::unique_ptr<ListenBack> listening;
+        std::atomic_bool hasFailed = false;
+        loop.start();
+        loop.post([&] {
+            listening = std::make_unique<ListenBack>(loop.api(), QStringLiteral("gone"),
+                                                     SoundRecording::Rate);
+        });
+        QTRY_VERIFY_WITH_TIMEOUT((loop.post([&] {
+                                     listening->play(tone.data(), tone.size());
+                                     hasFailed = listening->hasFailed();
+                                 }),
+                                  hasFailed.load()),
+                                 TimeoutMs);
+        const double since = recording.seconds();
+        QTRY_VERIFY_WITH_TIMEOUT((loop.post([&] { listening->play(tone.data(), tone.size()); }),
+                                  recording.seconds() > since + 1.0),
+                                 TimeoutMs);
+        loop.stop();
+        listening.reset();
+        QVERIFY(recording.peak() < TestSupport::Audible);
     }
 
 private:

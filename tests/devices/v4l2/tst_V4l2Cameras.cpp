@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 #include "platform/devices/camera/DeviceCameraSystem.h"
+#include "platform/devices/camera/PreferredFeed.h"
 #include "platform/devices/pipewire/PipeWireFeed.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 #include "platform/devices/v4l2/VideoDevices.h"
@@ -84,6 +85,8 @@ private Q_SLOTS:
     void cleanup();
 
     void staysAwayIfPipeWireAnswers();
+    void isLeftWhenPipeWireStartsLate();
+    void isUsedWhilePipeWireListsNone();
     void listsOnlyCameras();
     void recognizesACameraByItsPlace();
     void showsFrames_data();
@@ -97,6 +100,8 @@ private Q_SLOTS:
     void namesTheProgramThatHasTheDeviceFile();
     void reportsMissingSource();
     void reportsSourceThatDoesNotStart();
+    void reportsFormatsThatCantBeShown_data();
+    void reportsFormatsThatCantBeShown();
     void waitsForHungStart();
     void leavesHungStartAtOnce();
     void leavesNothingBehind();
@@ -158,6 +163,69 @@ void tst_V4l2Cameras::staysAwayIfPipeWireAnswers()
     QTest::qWait(ReconnectsMs);
     QVERIFY(names().isEmpty());
     QCOMPARE(m_sockets->users(), 0);
+    m_backend.reset();
+    m_system.reset();
+}
+
+// The camera in use is taken over, and shown all the time.
+void tst_V4l2Cameras::isLeftWhenPipeWireStartsLate()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    PipeWireServer server;
+    qunsetenv("PIPEWIRE_RUNTIME_DIR");
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    QVERIFY(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0, 0, 255)));
+    QVERIFY2(server.start(), qPrintable(server.problem()));
+    m_watcher.log.clear();
+    const CameraProcess camera(QStringLiteral("cam_a"), QStringLiteral("Camera by PipeWire"),
+                               {QStringLiteral("--bus-path"), PlaceA});
+    const QStringList expected{QStringLiteral("Camera by PipeWire")};
+    QTRY_COMPARE_WITH_TIMEOUT(names(), expected, LongMs);
+    QCOMPARE(m_backend->currentId(), PlaceA);
+    QTRY_VERIFY_WITH_TIMEOUT(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0xc8, 0x28, 0x28)),
+                             LongMs);
+    QTRY_COMPARE(threadCount("v4l2 cameras") + threadCount("v4l2 stream"), 0);
+    QCOMPARE(sourcesAlive(), 0);
+    QVERIFY(!m_watcher.log.contains(QStringLiteral("fails")));
+    QCOMPARE(m_watcher.log.count(QStringLiteral("list")), 1);
+    QCOMPARE(stateName(), QStringLiteral("working"));
+
+    // As many files are open as if V4L2 had never been used.
+    const int files = openFiles().size();
+    m_backend.reset();
+    m_system.reset();
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    QTRY_COMPARE(openFiles().size(), files);
+    m_backend.reset();
+    m_system.reset();
+}
+
+void tst_V4l2Cameras::isUsedWhilePipeWireListsNone()
+{
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    PipeWireServer server;
+    qunsetenv("PIPEWIRE_RUNTIME_DIR");
+    QVERIFY2(server.start(), qPrintable(server.problem()));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    // Another camera isn't worth losing this one.
+    const CameraProcess other(QStringLiteral("cam_b"), QStringLiteral("Other"),
+                              {QStringLiteral("--bus-path"), PlaceB});
+    QTest::qWait(2 * PreferredFeed::Patience.count());
+    QCOMPARE(names(), QStringList(QStringLiteral("Camera")));
+    QCOMPARE(stateName(), QStringLiteral("working"));
+    const CameraProcess camera(QStringLiteral("cam_a"), QStringLiteral("Camera by PipeWire"),
+                               {QStringLiteral("--bus-path"), PlaceA});
+    const QStringList both{QStringLiteral("Camera by PipeWire"), QStringLiteral("Other")};
+    QTRY_COMPARE_WITH_TIMEOUT(names(), both, LongMs);
+    QCOMPARE(m_backend->currentId(), PlaceA);
+    QTRY_VERIFY_WITH_TIMEOUT(isNear(m_backend->latestFrame().pixel(3, 3), qRgb(0xc8, 0x28, 0x28)),
+                             LongMs);
     m_backend.reset();
     m_system.reset();
 }
@@ -393,6 +461,28 @@ void tst_V4l2Cameras::reportsSourceThatDoesNotStart()
     makeBackend();
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("failed"), LongMs);
+}
+
+void tst_V4l2Cameras::reportsFormatsThatCantBeShown_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::newRow("no such format") << QByteArray("videotestsrc is-live=true ! capsfilter "
+                                                  "caps=video/x-raw,format=GRAY16_LE");
+    QTest::newRow("broken JPEGs") << QByteArray(
+        "fakesrc sizetype=fixed sizemax=2000 do-timestamp=1 "
+        "is-live=true datarate=60000 ! capsfilter "
+        "caps=image/jpeg,width=320,height=240");
+}
+
+void tst_V4l2Cameras::reportsFormatsThatCantBeShown()
+{
+    QFETCH(QByteArray, source);
+    m_makeSource = [source](const QString&) { return makeElement(source); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("unreadable"), LongMs);
+    QVERIFY(m_backend->cause().kind == CameraCause::Kind::Unreadable);
 }
 
 void tst_V4l2Cameras::waitsForHungStart()

@@ -191,7 +191,7 @@ void tst_Remedies::enginesWordsAreKnown_data()
 {
     QTest::addColumn<QString>("word");
     for (const char* word : {"starting", "busy", "denied", "hung", "stalled", "black", "unplugged",
-                             "serverLost", "failed"}) {
+                             "serverLost", "failed", "unreadable"}) {
         QTest::newRow(word) << id(word);
     }
 }

@@ -51,6 +51,7 @@ void tst_DeviceInfo::tellsUsableStates_data()
     row("off", DeviceState::Off, false);
     row("denied", DeviceState::Denied, false);
     row("failed", DeviceState::Failed, false);
+    row("unreadable", DeviceState::Unreadable, false);
     row("busy", DeviceState::Busy, true);
     row("hung", DeviceState::Hung, true);
     row("silent", DeviceState::Silent, true);

@@ -148,10 +148,11 @@ void tst_ScriptedCamera::saysWhyThereIsNoPicture()
 
     cameras.setState(First, DeviceState::Busy);
     QVERIFY(camera->cause() == (CameraCause{Kind::Busy, QStringLiteral("meeting")}));
-    for (const auto& [state, kind] :
-         {std::pair(DeviceState::Denied, Kind::Denied),
-          std::pair(DeviceState::Failed, Kind::Failed), std::pair(DeviceState::Hung, Kind::Hung),
-          std::pair(DeviceState::Silent, Kind::Stalled)}) {
+    for (const auto& [state, kind] : {std::pair(DeviceState::Denied, Kind::Denied),
+                                      std::pair(DeviceState::Failed, Kind::Failed),
+                                      std::pair(DeviceState::Unreadable, Kind::Unreadable),
+                                      std::pair(DeviceState::Hung, Kind::Hung),
+                                      std::pair(DeviceState::Silent, Kind::Stalled)}) {
         cameras.setState(First, state);
         QVERIFY(camera->cause().kind == kind);
     }
