@@ -4,16 +4,20 @@
 
 #include "host/System.h"
 
+#include <QJsonDocument>
 #include <QVector>
 #include <numeric>
 #include <utf8proc.h>
 
 namespace {
 
+// Controls a terminal, ends a line, or turns the direction of the text after it.
 bool isSteering(QChar c)
 {
-    return c.category() == QChar::Other_Control || (c >= QChar(0x202A) && c <= QChar(0x202E)) ||
-           (c >= QChar(0x2066) && c <= QChar(0x2069));
+    const ushort code = c.unicode();
+    return c.category() == QChar::Other_Control || code == 0x061C ||
+           (code >= 0x200E && code <= 0x200F) || (code >= 0x2028 && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
 }
 
 } // namespace
@@ -40,6 +44,23 @@ QString Console::plainLine(const QString& text)
         line += isSteering(c) ? QChar(' ') : c;
     }
     return line.simplified();
+}
+
+QString Console::plainJson(const QJsonDocument& document)
+{
+    constexpr int Hexadecimal = 16;
+    constexpr int Digits = 4;
+    QString json;
+    for (const QChar c : QString::fromUtf8(document.toJson())) {
+        // A line break stands between values; within a text it is escaped already.
+        if (isSteering(c) && c != QLatin1Char('\n')) {
+            json += QStringLiteral("\\u%1").arg(uint(c.unicode()), Digits, Hexadecimal,
+                                                QLatin1Char('0'));
+        } else {
+            json += c;
+        }
+    }
+    return json;
 }
 
 int Console::columns(const QString& text)

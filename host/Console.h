@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QJsonDocument;
+
 // Standard output and standard error, as UTF-8.
 namespace Console {
 
@@ -14,6 +16,8 @@ bool isTerminal(); // where print() goes to
 // Foreign text on one line, without characters that control a terminal or change the text
 // direction.
 QString plainLine(const QString& text);
+// The same for JSON: these characters are written as \u escapes.
+QString plainJson(const QJsonDocument& document);
 // How many columns a text takes: most East Asian characters take two, combining ones none.
 int columns(const QString& text);
 

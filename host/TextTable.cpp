@@ -30,7 +30,7 @@ QString TextTable::toText() const
                 padding.clear();
             }
             const int width = columns[static_cast<std::size_t>(i)] + Gap;
-            padding += QString(std::max(0, width - Console::columns(cell)), QLatin1Char(' '));
+            padding += QString(std::max(Gap, width - Console::columns(cell)), QLatin1Char(' '));
         }
         text += QLatin1Char('\n');
     }
@@ -39,12 +39,14 @@ QString TextTable::toText() const
 
 std::vector<int> TextTable::widths() const
 {
+    constexpr int MaxWidth = 200; // else one long text would fill every line with as many spaces
     std::vector<int> result(1);
     for (const Line& line : m_lines) {
         const auto count = static_cast<std::size_t>(line.isHeading ? 0 : line.cells.size());
         result.resize(std::max(result.size(), count));
         for (std::size_t i = 0; i < count; ++i) {
-            result[i] = std::max(result[i], Console::columns(line.cells.at(static_cast<int>(i))));
+            const int width = Console::columns(line.cells.at(static_cast<int>(i)));
+            result[i] = std::max(result[i], std::min(width, MaxWidth));
         }
     }
     return result;

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <vector>
 
-// A table for a terminal: each column is as wide as its widest cell. Cells are printed as they are;
-// foreign text needs Console::plainLine() first.
+// A table for a terminal: each column is as wide as its widest cell, if that isn't very long. Cells
+// are printed as they are; foreign text needs Console::plainLine() first.
 class TextTable
 {
 public:

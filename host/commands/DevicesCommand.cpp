@@ -22,7 +22,7 @@ ExitCode DevicesCommand::run(const Options& options)
     if (TerminationSignals::haveArrived()) {
         return ExitCode::LeftEarly; // half a list would look like all of it
     }
-    Console::print(options.isJson ? QString::fromUtf8(QJsonDocument(survey.toJson()).toJson())
+    Console::print(options.isJson ? Console::plainJson(QJsonDocument(survey.toJson()))
                                   : survey.toText());
     return ExitCode::AllPassed;
 }

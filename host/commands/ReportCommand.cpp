@@ -41,7 +41,7 @@ QString shown(const std::vector<Report>& reports, const QStringList& names, Opti
     for (const Report& report : reports) {
         array.append(ReportJson::toJson(report));
     }
-    return QString::fromUtf8(QJsonDocument(array).toJson());
+    return Console::plainJson(QJsonDocument(array));
 }
 
 } // namespace

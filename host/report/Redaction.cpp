@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Redaction.h"
 
+#include "host/SoundNames.h"
+
 #include <QMessageAuthenticationCode>
 
 namespace {
@@ -11,12 +13,18 @@ const QLatin1String Mark("#");
 // Facts of the machine that don't identify its user.
 const QStringList PlainFacts = {QStringLiteral("operatingSystem"), QStringLiteral("processor")};
 
-bool isPlain(ChangedThing what)
+// Whether a value of a change is a word or a figure, and no text of somebody's.
+bool isPlain(ChangedThing what, const QString& value)
 {
+    bool isNumber = false;
     switch (what) {
     case ChangedThing::Verdict:
+        return ReportWords::find<Verdict>(value).has_value();
     case ChangedThing::Grade:
+        return ReportWords::find<NetworkGrade::Level>(value).has_value();
     case ChangedThing::Delay:
+        value.toDouble(&isNumber);
+        return isNumber;
     case ChangedThing::OperatingSystem:
         return true;
     case ChangedThing::Device:
@@ -34,13 +42,10 @@ Redaction::Redaction(Options::Redaction level, const QByteArray& key) : m_level(
 
 Report Redaction::redacted(const Report& report) const
 {
-    // A report that is already redacted stays so.
-    const bool isDone =
-        report.redaction == Options::Redaction::Personal ||
-        (report.redaction == Options::Redaction::Hash && m_level == Options::Redaction::Hash);
-    if (m_level == Options::Redaction::None || isDone) {
+    if (m_level == Options::Redaction::None) {
         return report;
     }
+    // Also if the report says that it is redacted: anybody can write that into a file.
     Report result = report;
     result.redaction = m_level;
     result.scenario = replaced(report.scenario);
@@ -53,9 +58,8 @@ Report Redaction::redacted(const Report& report) const
         redactCheck(check);
     }
     for (ReportChange& change : result.changes) {
-        if (!isPlain(change.what)) {
-            change.before = replaced(change.before);
-            change.now = replaced(change.now);
+        for (QString* value : {&change.before, &change.now}) {
+            *value = isPlain(change.what, *value) ? *value : replaced(*value);
         }
     }
     return result;
@@ -92,7 +96,10 @@ void Redaction::redactCheck(ReportCheck& check) const
 void Redaction::redactMeasurements(std::vector<Measurement>& measurements) const
 {
     for (Measurement& measurement : measurements) {
-        if (ReportWords::find<FigureName>(measurement.key) != FigureName::SoundPlayed) {
+        const bool isSound =
+            ReportWords::find<FigureName>(measurement.key) == FigureName::SoundPlayed &&
+            SoundNames::textId(measurement.value.toString());
+        if (!isSound) {
             measurement.value = replacedValue(measurement.value);
         }
         if (!ReportWords::find<Reason>(measurement.reason)) {

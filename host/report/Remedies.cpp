@@ -7,6 +7,8 @@
 #include "platform/backend/ResultKeys.h"
 
 #include <CommEngine/LumSpeaker.h>
+#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -33,6 +35,14 @@ double numberOf(const QJsonObject& figures, FigureName name, double fallback)
     return figures.value(ReportWords::of(name)).toDouble(fallback);
 }
 
+// An engine may record any number.
+int wholeNumberOf(const QJsonObject& figures, FigureName name)
+{
+    constexpr double Least = std::numeric_limits<int>::min();
+    constexpr double Most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(numberOf(figures, name, 0), Least, Most));
+}
+
 Causes ofNetwork(const ReportCheck& check, const QJsonObject& figures)
 {
     const std::optional<Cause> problem = engineCause(check.kind, figures);
@@ -46,8 +56,8 @@ Causes ofNetwork(const ReportCheck& check, const QJsonObject& figures)
     if (!figures.contains(ReportWords::of(FigureName::Delay))) {
         return {Cause::LeftTooSoon};
     }
-    const auto delayMs = static_cast<int>(numberOf(figures, FigureName::Delay, 0));
-    const auto lossPercent = static_cast<int>(numberOf(figures, FigureName::Loss, 0));
+    const int delayMs = wholeNumberOf(figures, FigureName::Delay);
+    const int lossPercent = wholeNumberOf(figures, FigureName::Loss);
     if (delayMs == NetworkLimits::NotMeasured) {
         return {Cause::NoAnswer};
     }

@@ -6,12 +6,15 @@
 #include "platform/backend/ResultKeys.h"
 
 #include <QJsonArray>
+#include <limits>
 
 namespace {
 
 using Platform::JsonFields;
 
 const QLatin1String FormatName("envcheck-report");
+constexpr qint64 MaxVersion = std::numeric_limits<int>::max();
+constexpr qint64 MaxCacheBytes = qint64(1) << 60; // more than any disk has
 
 template <typename Element>
 QJsonArray toArray(const std::vector<Element>& elements,
@@ -204,7 +207,9 @@ void readSystem(JsonFields& fields, Report& report)
 {
     fields.require("system");
     JsonFields system = fields.object("system");
-    report.cacheFreeBytes = readOptional(system, "cacheFreeBytes");
+    if (system.contains("cacheFreeBytes")) {
+        report.cacheFreeBytes = double(system.number("cacheFreeBytes", 0, MaxCacheBytes));
+    }
     report.facts = system.rest();
     report.facts.remove(QLatin1String("cacheFreeBytes"));
 }
@@ -254,8 +259,8 @@ std::optional<Report> ReportJson::fromJson(const QJsonObject& object, QString* e
         *error = QStringLiteral("format: this isn't a report of the check");
         return std::nullopt;
     }
-    const int version = static_cast<int>(fields.real("version"));
-    if (version != Report::Version) {
+    const qint64 version = fields.number("version", 1, MaxVersion);
+    if (!problem.isSet() && version != Report::Version) {
         *error = QStringLiteral("version: it is %1, and this program reads version %2")
                      .arg(version)
                      .arg(Report::Version);

@@ -57,7 +57,7 @@ char markOf(const ReportView::Row& row)
 
 void writeText(QTextStream& stream, const ReportView& view, bool isTwin)
 {
-    const QString title = titleOf(view, isTwin);
+    const QString title = Console::plainLine(titleOf(view, isTwin));
     stream << title << '\n' << QString(Console::columns(title), QLatin1Char('=')) << '\n';
     for (const ReportView::Section& section : view.sections) {
         TextTable table;
@@ -67,7 +67,7 @@ void writeText(QTextStream& stream, const ReportView& view, bool isTwin)
                                         .arg(Console::plainLine(row.caption));
             table.addRow({caption, Console::plainLine(row.value)});
         }
-        stream << '\n' << section.title << '\n' << table.toText();
+        stream << '\n' << Console::plainLine(section.title) << '\n' << table.toText();
     }
 }
 
@@ -167,7 +167,7 @@ QString ReportWriter::toHtml(const std::vector<Report>& reports, const QString& 
 
 QByteArray ReportWriter::toJson(const Report& report)
 {
-    return QJsonDocument(ReportJson::toJson(report)).toJson();
+    return Console::plainJson(QJsonDocument(ReportJson::toJson(report))).toUtf8();
 }
 
 QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStringList& names,

@@ -4,6 +4,7 @@
 
 #include "platform/backend/EnumWords.h"
 
+#include <QHash>
 #include <QSet>
 
 namespace Platform {
@@ -66,12 +67,15 @@ QString printableName(const QString& name)
 DeviceList withDistinctNames(DeviceList devices)
 {
     QSet<QString> taken;
+    QHash<QString, int> lastNumbers; // so that a thousand equal names take no million tries
     for (DeviceInfo& device : devices) {
         const QString plain = printableName(device.name);
         QString name = plain;
-        for (int number = 2; taken.contains(name); ++number) {
-            name = QStringLiteral("%1 (%2)").arg(plain, QString::number(number));
+        int number = lastNumbers.value(plain, 1);
+        while (taken.contains(name)) {
+            name = QStringLiteral("%1 (%2)").arg(plain, QString::number(++number));
         }
+        lastNumbers[plain] = number;
         taken.insert(name);
         device.name = name;
     }

@@ -16,7 +16,10 @@ void JsonProblem::set(const QString& fieldPath, const QString& what)
 
 QString JsonProblem::toString() const
 {
-    return path.isEmpty() ? text : path + QStringLiteral(": ") + text;
+    constexpr int MaxPathLength = 200; // a file may have a key as long as itself
+    const QString shown =
+        path.size() > MaxPathLength ? path.left(MaxPathLength - 1) + QChar(0x2026) : path;
+    return shown.isEmpty() ? text : shown + QStringLiteral(": ") + text;
 }
 
 JsonFields::JsonFields(const QJsonObject& object, const QString& path, JsonProblem& problem)

@@ -19,10 +19,9 @@ void StallTimeout::setRate(double framesPerSecond)
     m_agreedPeriod = {};
     m_measuredPeriod = {};
     if (framesPerSecond > 0.0) {
-        m_agreedPeriod =
-            std::min<Clock::duration>(std::chrono::duration_cast<Clock::duration>(
-                                          std::chrono::duration<double>(1.0 / framesPerSecond)),
-                                      LongestPeriod);
+        using Seconds = std::chrono::duration<double>; // a whole number couldn't hold any period
+        m_agreedPeriod = std::chrono::duration_cast<Clock::duration>(
+            std::min<Seconds>(Seconds(1.0 / framesPerSecond), LongestPeriod));
     }
 }
 

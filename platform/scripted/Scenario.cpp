@@ -89,10 +89,15 @@ std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error
         *error = path + QStringLiteral(": ") + unreadable;
         return {};
     }
+    return parse(json, path, error);
+}
+
+std::optional<Scenario> Scenario::parse(const QByteArray& json, const QString& name, QString* error)
+{
     QJsonParseError syntax;
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError) {
-        *error = message(path, JsonLines::lineAt(json, syntax.offset),
+        *error = message(name, JsonLines::lineAt(json, syntax.offset),
                          QStringLiteral("not valid JSON: ") + syntax.errorString());
         return {};
     }
@@ -101,12 +106,13 @@ std::optional<Scenario> Scenario::read(const QString& nameOrPath, QString* error
     if (!document.isObject()) {
         problem.set({}, QStringLiteral("the document must be an object"));
     }
-    if (!lines.duplicate().isEmpty()) {
-        problem.set(lines.duplicate(), QStringLiteral("occurs twice"));
+    const QString duplicate = lines.duplicate();
+    if (!duplicate.isEmpty()) {
+        problem.set(duplicate, QStringLiteral("occurs twice"));
     }
     const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
     if (problem.isSet()) {
-        *error = message(path, lines.lineOf(problem.path), problem.toString());
+        *error = message(name, lines.lineOf(problem.path), problem.toString());
         return {};
     }
     return scenario;

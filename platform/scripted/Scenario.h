@@ -33,6 +33,9 @@ public:
     // Reads a bundled scenario by its name, or a file (docs/scenario-format.md). If that fails,
     // error is one line with the file, the line number and the field.
     static std::optional<Scenario> read(const QString& nameOrPath, QString* error);
+    // Reads the content of such a file; the error calls it by this name.
+    static std::optional<Scenario> parse(const QByteArray& json, const QString& name,
+                                         QString* error);
     static QStringList bundledNames();
 };
 

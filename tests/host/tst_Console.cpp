@@ -3,6 +3,9 @@
 
 #include "host/Console.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QtTest>
 
 class tst_Console : public QObject
@@ -12,6 +15,7 @@ class tst_Console : public QObject
 private Q_SLOTS:
     void plainLine_data();
     void plainLine();
+    void plainJson();
     void columns();
 };
 
@@ -31,6 +35,10 @@ void tst_Console::plainLine_data()
     QTest::newRow("C1") << QStringLiteral("a") + QChar(0x9B) + QStringLiteral("b") << "a b";
     QTest::newRow("turned around")
         << QStringLiteral("a") + QChar(0x202E) + QStringLiteral("b") << "a b";
+    for (const int code : {0x061C, 0x200E, 0x200F, 0x2028, 0x2029, 0x2069}) {
+        QTest::addRow("U+%04X", code)
+            << QStringLiteral("a") + QChar(code) + QStringLiteral("b") << "a b";
+    }
     QTest::newRow("isolated") << QStringLiteral("a") + QChar(0x2067) + QStringLiteral("b") << "a b";
 }
 
@@ -38,6 +46,19 @@ void tst_Console::plainLine()
 {
     QFETCH(QString, text);
     QTEST(Console::plainLine(text), "line");
+}
+
+void tst_Console::plainJson()
+{
+    const QString foreign =
+        QString::fromUtf8("a\x1b\n\t\x7f\u009b31m\u202e\u2067\u2028\u200f\u061c") +
+        QString::fromUtf8(" 摄像头 \U0001F4F7");
+    const QJsonDocument document(QJsonObject{{foreign, QJsonArray{foreign}}});
+    const QString json = Console::plainJson(document);
+    const QString escaped = QStringLiteral("\"a\\u001b\\n\\t\\u007f\\u009b31m\\u202e\\u2067\\u2028"
+                                           "\\u200f\\u061c 摄像头 \U0001F4F7\"");
+    QCOMPARE(json, QStringLiteral("{\n    %1: [\n        %1\n    ]\n}\n").arg(escaped));
+    QCOMPARE(QJsonDocument::fromJson(json.toUtf8()), document);
 }
 
 void tst_Console::columns()

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void wideCharactersCountTwice();
     void linesEndWithoutSpaces();
     void headingsWidenNothing();
+    void veryLongCellsWidenLittle();
     void emptyTable();
 };
 
@@ -49,6 +50,16 @@ void tst_TextTable::headingsWidenNothing()
     table.addHeading(QStringLiteral("A long heading"));
     table.addRow({QStringLiteral("a"), QStringLiteral("b")});
     QCOMPARE(table.toText(), QStringLiteral("A long heading\na  b\n"));
+}
+
+void tst_TextTable::veryLongCellsWidenLittle()
+{
+    const QString endless(100000, QLatin1Char('x'));
+    TextTable table;
+    table.addRow({endless, QStringLiteral("a")});
+    table.addRow({QStringLiteral("b"), QStringLiteral("c")});
+    QCOMPARE(table.toText(), endless + QStringLiteral("  a\nb") + QString(201, QLatin1Char(' ')) +
+                                 QStringLiteral("c\n"));
 }
 
 void tst_TextTable::emptyTable()

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/FrameConverter.h"
 
+#include <algorithm>
 #include <libyuv.h>
 
 namespace Platform {
 
 namespace {
 
-constexpr int MaxEdge = 8192; // no camera sends more; a larger size is a broken one
+constexpr int MaxEdge = 8192;          // no camera sends more; a larger size is a broken one
+constexpr int MaxStride = 8 * MaxEdge; // twice the longest row, in bytes
 
 int halfUp(int value)
 {
@@ -24,6 +26,14 @@ uchar* sized(std::vector<uchar>& bytes, int width, int height)
 bool isReasonable(const QSize& size)
 {
     return !size.isEmpty() && size.width() <= MaxEdge && size.height() <= MaxEdge;
+}
+
+// libyuv multiplies strides and rows as 32-bit numbers.
+bool hasReasonableStrides(const FrameView& view)
+{
+    return std::all_of(view.planes.begin(), view.planes.end(), [](const FrameView::Plane& plane) {
+        return plane.stride >= 0 && plane.stride <= MaxStride;
+    });
 }
 
 const libyuv::YuvConstants* constantsOf(YuvColor color)
@@ -136,7 +146,8 @@ QImage FrameConverter::tryToConvert(const FrameFormat& format, const FrameView& 
         // The JPEG is right; the agreed size may not be.
         actual.size = plane.data ? m_jpeg.open(plane.data, plane.size) : QSize();
     }
-    if (!isReasonable(actual.size) || view.planeCount < 1 || view.planeCount > 3) {
+    if (!isReasonable(actual.size) || view.planeCount < 1 || view.planeCount > 3 ||
+        !hasReasonableStrides(view)) {
         return {};
     }
     const bool isSideways = orientation.quarterTurns % 2 != 0;

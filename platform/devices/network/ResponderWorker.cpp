@@ -3,6 +3,7 @@
 #include "platform/devices/network/ResponderWorker.h"
 
 #include <QNetworkDatagram>
+#include <QRandomGenerator>
 
 namespace Platform {
 
@@ -10,14 +11,13 @@ namespace {
 
 constexpr qint64 MaxDatagramSize = 1500;
 constexpr int MaxDatagramsAtOnce = 64;
-constexpr qint64 SecondMs = 1000;
 
 } // namespace
 
-ResponderWorker::ResponderWorker(int maxAnswersPerSecond)
-    : m_maxAnswersPerSecond(maxAnswersPerSecond), m_socket(this)
+ResponderWorker::ResponderWorker()
+    : m_budget(QRandomGenerator::system()->generate64()), m_socket(this)
 {
-    m_second.start();
+    m_clock.start();
     connect(&m_socket, &QUdpSocket::readyRead, this, &ResponderWorker::readDatagrams);
 }
 
@@ -33,22 +33,19 @@ void ResponderWorker::readDatagrams()
         if (!datagram.isValid()) {
             return;
         }
+        const QHostAddress sender = datagram.senderAddress();
         const auto port = quint16(datagram.senderPort());
-        const QByteArray answer =
-            m_answerer.answer(datagram.data(), datagram.senderAddress(), port);
-        if (!answer.isEmpty() && takeTurn()) {
-            m_socket.writeDatagram(answer, datagram.senderAddress(), port);
+        if (!m_budget.take(sender, port, m_clock.elapsed())) {
+            continue;
+        }
+        const QByteArray answer = m_answerer.answer(datagram.data(), sender, port);
+        if (!answer.isEmpty()) {
+            QNetworkDatagram reply(answer, sender, port);
+            // Clients take answers only from the address they asked, and a machine has several.
+            reply.setSender(datagram.destinationAddress());
+            m_socket.writeDatagram(reply);
         }
     }
-}
-
-bool ResponderWorker::takeTurn()
-{
-    if (m_second.elapsed() >= SecondMs) {
-        m_second.start();
-        m_answers = 0;
-    }
-    return m_answers++ < m_maxAnswersPerSecond;
 }
 
 } // namespace Platform

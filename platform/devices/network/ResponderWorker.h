@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/network/AnswerBudget.h"
 #include "platform/devices/network/StunAnswerer.h"
 
 #include <QElapsedTimer>
@@ -17,7 +18,7 @@ class ResponderWorker : public QObject
     Q_DISABLE_COPY(ResponderWorker)
 
 public:
-    explicit ResponderWorker(int maxAnswersPerSecond);
+    ResponderWorker();
 
     bool bind(const QHostAddress& address, quint16 port);
     quint16 port() const { return m_socket.localPort(); }
@@ -25,11 +26,9 @@ public:
 
 private:
     void readDatagrams();
-    bool takeTurn();
 
-    const int m_maxAnswersPerSecond;
-    int m_answers = 0; // in the present second
-    QElapsedTimer m_second;
+    QElapsedTimer m_clock;
+    AnswerBudget m_budget;
     StunAnswerer m_answerer;
     QUdpSocket m_socket;
 };

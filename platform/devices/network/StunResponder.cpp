@@ -10,7 +10,7 @@ namespace Platform {
 
 StunResponder::StunResponder(const QHostAddress& address, quint16 port)
 {
-    auto worker = std::make_unique<ResponderWorker>(MaxAnswersPerSecond);
+    auto worker = std::make_unique<ResponderWorker>();
     if (!worker->bind(address, port)) {
         m_errorString = worker->errorString();
         return;

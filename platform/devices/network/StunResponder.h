@@ -10,13 +10,11 @@
 
 namespace Platform {
 
-// A small STUN server on a thread of its own, from its creation to its destruction.
+// A small STUN server on a thread of its own, from its creation to its destruction. It answers so
+// much as AnswerBudget allows, from the address that it was asked at.
 class CLASSROOMDEVICES_EXPORT StunResponder
 {
 public:
-    // More answers than this a second aren't given.
-    static constexpr int MaxAnswersPerSecond = 500;
-
     // Port 0 takes a free one.
     explicit StunResponder(const QHostAddress& address = QHostAddress::LocalHost, quint16 port = 0);
     ~StunResponder();

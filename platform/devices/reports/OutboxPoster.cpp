@@ -22,11 +22,11 @@ constexpr qint64 MaxReportBytes = qint64(64) * 1024;
 constexpr int FirstSuccess = 200;
 constexpr int FirstBeyondSuccess = 300;
 
-QDateTime timeOf(const QByteArray& report)
+bool isReport(const QByteArray& content)
 {
-    const QJsonObject content = QJsonDocument::fromJson(report).object();
-    return QDateTime::fromString(content.value(QLatin1String("time")).toString(),
-                                 Qt::ISODateWithMs);
+    const QJsonObject report = QJsonDocument::fromJson(content).object();
+    return QDateTime::fromString(report.value(QLatin1String("time")).toString(), Qt::ISODateWithMs)
+        .isValid();
 }
 
 } // namespace
@@ -35,6 +35,7 @@ OutboxPoster::OutboxPoster(const QUrl& url, const QString& folder, const OutboxL
     : m_url(url),
       m_folder(folder),
       m_limits(limits),
+      m_runsPath(folder + QStringLiteral("-runs.json")),
       m_retry(limits.firstRetry),
       m_retryTimer(this),
       m_network(this)
@@ -58,7 +59,7 @@ void OutboxPoster::add(const QString& fileName, const QByteArray& report)
     if (known != m_reports.end()) {
         return; // found in the folder already
     }
-    m_reports.push_back({fileName, report});
+    m_reports.push_back({fileName, report, 0});
     dropSurplus();
     if (!m_retryTimer.isActive()) {
         postNext();
@@ -88,6 +89,7 @@ void OutboxPoster::tellSettled()
 void OutboxPoster::readFolder()
 {
     const QDir folder(m_folder);
+    const QJsonObject runs = readRuns();
     const QStringList names =
         folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString& name : names) {
@@ -98,21 +100,45 @@ void OutboxPoster::readFolder()
                 << "Not posted:" << folder.filePath(name) << "-" << problem;
             continue;
         }
-        if (content.size() > MaxReportBytes || !timeOf(content).isValid()) {
+        if (content.size() > MaxReportBytes || !isReport(content)) {
             drop(name, "it isn't a report");
             continue;
         }
-        m_reports.push_back({name, content});
+        const int count = std::clamp(runs.value(name).toInt(), 0, m_limits.maxRuns) + 1;
+        if (count > m_limits.maxRuns) {
+            drop(name, "it has waited for too many runs");
+            continue;
+        }
+        m_reports.push_back({name, content, count});
     }
+    // The names begin with the time, but a clock may have been wrong.
+    std::stable_sort(m_reports.begin(), m_reports.end(),
+                     [](const Report& a, const Report& b) { return a.runs > b.runs; });
     dropSurplus();
+    if (!m_reports.empty() || !runs.isEmpty()) {
+        writeRuns();
+    }
+}
+
+// How many runs have found each report waiting. If the file is lost, they are counted anew.
+QJsonObject OutboxPoster::readRuns() const
+{
+    QByteArray content;
+    WholeFile::read(m_runsPath, &content);
+    return QJsonDocument::fromJson(content).object();
+}
+
+void OutboxPoster::writeRuns() const
+{
+    QJsonObject runs;
+    for (const Report& report : m_reports) {
+        runs.insert(report.fileName, report.runs);
+    }
+    FileWriter::replace(m_runsPath, QJsonDocument(runs).toJson(QJsonDocument::Compact));
 }
 
 void OutboxPoster::postNext()
 {
-    while (!m_reply && !m_reports.empty() && isOutdated(m_reports.front())) {
-        drop(m_reports.front().fileName, "it is too old");
-        m_reports.pop_front();
-    }
     if (m_reply || m_reports.empty()) {
         tellSettled();
         return;
@@ -179,12 +205,6 @@ void OutboxPoster::dropSurplus()
         drop(surplus->fileName, "the outbox is full");
         m_reports.erase(surplus);
     }
-}
-
-bool OutboxPoster::isOutdated(const Report& report) const
-{
-    return timeOf(report.content).msecsTo(QDateTime::currentDateTimeUtc()) >
-           m_limits.maxAge.count();
 }
 
 void OutboxPoster::forget(const QString& fileName)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonObject>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QTimer>
@@ -19,7 +20,7 @@ namespace Platform {
 struct OutboxLimits
 {
     int maxReports = 100;
-    std::chrono::milliseconds maxAge = std::chrono::hours(14 * 24);
+    int maxRuns = 50; // of the program that find a report waiting; no clock can be trusted
     std::chrono::milliseconds firstRetry = std::chrono::seconds(5);
     std::chrono::milliseconds longestRetry = std::chrono::hours(1);
     // From the connection to the answer.
@@ -47,9 +48,12 @@ private:
     {
         QString fileName;
         QByteArray content;
+        int runs = 0; // that found it waiting
     };
 
     void readFolder();
+    QJsonObject readRuns() const;
+    void writeRuns() const;
     void postNext();
     QNetworkRequest request(const Report& report) const;
     void finish(QNetworkReply* reply, const QString& fileName);
@@ -57,13 +61,13 @@ private:
     void tellSettled();
     void retryLater(const QString& reason);
     void dropSurplus();
-    bool isOutdated(const Report& report) const;
     void forget(const QString& fileName);
     void drop(const QString& fileName, const char* reason);
 
     const QUrl m_url;
     const QString m_folder;
     const OutboxLimits m_limits;
+    const QString m_runsPath;
     std::deque<Report> m_reports; // the oldest first
     std::chrono::milliseconds m_retry;
     QNetworkReply* m_reply = nullptr; // of the post under way

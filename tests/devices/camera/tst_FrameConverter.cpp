@@ -81,6 +81,8 @@ private Q_SLOTS:
     void honorsTheColorMatrix();
     void refusesShortFrames_data();
     void refusesShortFrames();
+    void refusesHugeStrides_data();
+    void refusesHugeStrides();
     void refusesAbsurdSizes();
     void refusesBrokenJpegs();
     void readsEverySampling_data();
@@ -210,6 +212,29 @@ void tst_FrameConverter::refusesShortFrames()
     QVERIFY(converter.convert(format, viewOf(bytes.left(1), pattern.stride()), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(bytes, 1), {}, {}).isNull()); // rows overlap
     QVERIFY(converter.convert(format, FrameView(), {}, {}).isNull());
+}
+
+void tst_FrameConverter::refusesHugeStrides_data()
+{
+    refusesShortFrames_data();
+}
+
+// One row is within the frame, whatever the stride is; sums and products with it are not.
+void tst_FrameConverter::refusesHugeStrides()
+{
+    QFETCH(int, pixelFormat);
+    const QByteArray bytes(1024, 'x');
+    FrameConverter converter;
+    for (const int stride : {std::numeric_limits<int>::max(), 1 << 20, -1, -4096}) {
+        for (const int planeCount : {1, 3}) {
+            FrameView view = viewOf(bytes, stride);
+            view.planes.fill(view.planes[0]);
+            view.planeCount = planeCount;
+            const FrameFormat format{static_cast<PixelFormat>(pixelFormat), YuvColor::Bt601,
+                                     QSize(16, 1)};
+            QVERIFY(converter.convert(format, view, {}, {}).isNull());
+        }
+    }
 }
 
 void tst_FrameConverter::refusesAbsurdSizes()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
+#include "platform/devices/network/AnswerBudget.h"
 #include "platform/devices/network/StunClient.h"
 #include "platform/devices/network/StunResponder.h"
 #include "tests/devices/Measurement.h"
@@ -11,6 +12,8 @@
 #include <QNetworkInterface>
 #include <QTest>
 #include <QUdpSocket>
+#include <memory>
+#include <vector>
 
 using namespace Platform;
 
@@ -25,7 +28,10 @@ private Q_SLOTS:
     void rejectsUnknownAttributes();
     void ignoresTheRest_data();
     void ignoresTheRest();
-    void answersAreLimited();
+    void answersFromTheAddressItWasAskedAt_data();
+    void answersFromTheAddressItWasAskedAt();
+    void floodTakesFromNobodyElse_data();
+    void floodTakesFromNobodyElse();
     void portInUse();
     void endsAtOnce();
 };
@@ -38,16 +44,23 @@ constexpr int PatienceMs = 5000;
 class Client
 {
 public:
-    explicit Client(const StunServer& server) : m_address(server.host), m_port(server.port)
+    explicit Client(const StunServer& server, const QHostAddress& own = {})
+        : m_address(server.host), m_port(server.port)
     {
-        m_socket.bind(m_address, 0);
+        m_socket.bind(own.isNull() ? m_address : own, 0);
     }
 
     QByteArray ask(const QByteArray& datagram, int patienceMs = PatienceMs)
     {
         send(datagram);
-        return m_socket.waitForReadyRead(patienceMs) ? m_socket.receiveDatagram().data()
-                                                     : QByteArray();
+        return receive(patienceMs);
+    }
+
+    QByteArray receive(int patienceMs)
+    {
+        return m_socket.hasPendingDatagrams() || m_socket.waitForReadyRead(patienceMs)
+                   ? m_socket.receiveDatagram().data()
+                   : QByteArray();
     }
 
     void send(const QByteArray& datagram) { m_socket.writeDatagram(datagram, m_address, m_port); }
@@ -149,30 +162,95 @@ void tst_StunResponder::ignoresTheRest()
     QCOMPARE(client.countAnswers(50), 0);
 }
 
-void tst_StunResponder::answersAreLimited()
+void tst_StunResponder::answersFromTheAddressItWasAskedAt_data()
 {
-    const StunResponder responder;
-    Client client(responder.server());
-    const QByteArray request = StunClient().createRequest()->datagram;
-    QElapsedTimer clock;
-    clock.start();
-    int answers = 0;
-    // Little by little, so that no queue overflows: what is missing, the limit has kept back.
-    for (int round = 0; round < 40; ++round) {
-        for (int count = 0; count < 50; ++count) {
-            client.send(request);
-        }
-        answers += client.countAnswers(5);
-    }
-    answers += client.countAnswers(100);
-    const int seconds = int(clock.elapsed() / 1000) + 1;
-    QVERIFY2(answers >= StunResponder::MaxAnswersPerSecond, qPrintable(QString::number(answers)));
-    QVERIFY2(answers <= StunResponder::MaxAnswersPerSecond * (seconds + 1) && answers < 40 * 50,
-             qPrintable(QString::number(answers)));
+    QTest::addColumn<QString>("client");
+    QTest::addColumn<QString>("asked");
+    QTest::newRow("the same") << "127.0.0.1"
+                              << "127.0.0.1";
+    QTest::newRow("another") << "127.0.0.1"
+                             << "127.0.0.2";
+    QTest::newRow("yet another") << "127.0.0.3"
+                                 << "127.1.2.3";
+    QTest::newRow("IPv6") << "::1"
+                          << "::1";
+}
 
+void tst_StunResponder::answersFromTheAddressItWasAskedAt()
+{
+    QFETCH(QString, client);
+    QFETCH(QString, asked);
+    const StunResponder responder(QHostAddress::Any);
+    QVERIFY2(responder.server().port != 0, qPrintable(responder.errorString()));
+    if (!QNetworkInterface::allAddresses().contains(QHostAddress(QHostAddress::LocalHostIPv6)) &&
+        client.contains(QLatin1Char(':'))) {
+        return; // a machine may have no IPv6
+    }
+    QUdpSocket socket;
+    QVERIFY(socket.bind(QHostAddress(client), 0));
+    StunClient stun;
+    const QByteArray request = stun.createRequest()->datagram;
+    socket.writeDatagram(request, QHostAddress(asked), responder.server().port);
+    QVERIFY(socket.waitForReadyRead(PatienceMs));
+    const QNetworkDatagram datagram = socket.receiveDatagram();
+    QCOMPARE(datagram.senderAddress(), QHostAddress(asked));
+    QCOMPARE(quint16(datagram.senderPort()), responder.server().port);
+    const std::optional<StunClient::Answer> answer = stun.readAnswer(datagram.data());
+    QVERIFY(answer);
+    QCOMPARE(answer->clientAddress, QHostAddress(client));
+}
+
+void tst_StunResponder::floodTakesFromNobodyElse_data()
+{
+    QTest::addColumn<QString>("flooder");
+    QTest::addColumn<QString>("honest"); // the last number is added
+    QTest::newRow("hosts") << "127.0.0.9"
+                           << "127.0.1.";
+    QTest::newRow("behind one address") << "127.0.0.9"
+                                        << "127.0.0.8";
+    QTest::newRow("all behind one address") << "127.0.0.9"
+                                            << "127.0.0.9";
+}
+
+void tst_StunResponder::floodTakesFromNobodyElse()
+{
+    constexpr int HonestClients = 59;
+    constexpr int FloodRounds = 40;
+    constexpr int Rounds = 10; // what a check asks in a second
+    QFETCH(QString, flooder);
+    QFETCH(QString, honest);
+    const StunResponder responder(QHostAddress::Any);
+    const StunServer server{QStringLiteral("127.0.0.1"), responder.server().port};
+    Client flood(server, QHostAddress(flooder));
+    std::vector<std::unique_ptr<Client>> clients;
+    for (int number = 1; number <= HonestClients; ++number) {
+        const QString address =
+            honest.endsWith(QLatin1Char('.')) ? honest + QString::number(number) : honest;
+        clients.push_back(std::make_unique<Client>(server, QHostAddress(address)));
+    }
+    const QByteArray request = StunClient().createRequest()->datagram;
+    // Little by little, so that no queue overflows: what is missing, a limit has kept back.
+    int floodAnswers = 0;
+    for (int round = 0; round < FloodRounds; ++round) {
+        for (int count = 0; count < 50; ++count) {
+            flood.send(request);
+        }
+        floodAnswers += flood.countAnswers(5);
+    }
+    QVERIFY2(floodAnswers >= AnswerBudget::PerClient && floodAnswers < FloodRounds * 50 / 2,
+             qPrintable(QString::number(floodAnswers)));
+    for (int round = 0; round < Rounds; ++round) {
+        flood.send(request);
+        for (const std::unique_ptr<Client>& client : clients) {
+            client->send(request);
+        }
+        for (const std::unique_ptr<Client>& client : clients) {
+            QVERIFY(!client->receive(PatienceMs).isEmpty());
+        }
+    }
     // The limit is no end.
     StunClient stun;
-    QTRY_VERIFY(stun.readAnswer(client.ask(stun.createRequest()->datagram, 100)));
+    QTRY_VERIFY(stun.readAnswer(flood.ask(stun.createRequest()->datagram, 100)));
 }
 
 void tst_StunResponder::portInUse()

@@ -40,7 +40,8 @@ private Q_SLOTS:
     void reportCutOffIsTriedAgainLater();
     void oneUnwelcomeReportHoldsUpNone();
     void garbageInTheOutbox();
-    void oldReportsAreDropped();
+    void noClockDropsAReport();
+    void reportsWaitForSoManyRuns();
     void outboxIsBounded();
     void nobodyWaits();
 
@@ -340,15 +341,36 @@ void tst_ReportOutbox::garbageInTheOutbox()
     QTRY_VERIFY(outbox().isEmpty());
 }
 
-void tst_ReportOutbox::oldReportsAreDropped()
+// The clock may have stood ten years ago or ahead when a report was made, or may do so now.
+void tst_ReportOutbox::noClockDropsAReport()
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    leaveReport(QStringLiteral("1.json"), now.addDays(-15), 1);
-    leaveReport(QStringLiteral("2.json"), now.addDays(-13), 2);
-    QTest::ignoreMessage(QtWarningMsg, "Report 1.json is dropped: it is too old");
+    leaveReport(QStringLiteral("1.json"), now.addYears(-10), 1);
+    leaveReport(QStringLiteral("2.json"), now, 2);
+    leaveReport(QStringLiteral("3.json"), now.addYears(10), 3);
     const ReportOutbox reports({}, m_folder->path(), m_server->url(), quickLimits());
     QTRY_VERIFY(outbox().isEmpty());
-    QCOMPARE(codesOf(m_server->requests()), QList<int>{2});
+    QCOMPARE(codesOf(m_server->requests()), QList<int>({1, 2, 3}));
+}
+
+void tst_ReportOutbox::reportsWaitForSoManyRuns()
+{
+    OutboxLimits limits = quickLimits();
+    limits.maxRuns = 3;
+    m_server->setBehaviour(HttpServer::Behaviour::Fail);
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    leaveReport(QStringLiteral("2.json"), now.addYears(10), 2);
+    for (int run = 1; run <= limits.maxRuns; ++run) {
+        const ReportOutbox reports({}, m_folder->path(), m_server->url(), limits);
+        QTRY_COMPARE(read("outbox-runs.json"), "{\"2.json\":" + QByteArray::number(run) + '}');
+        QCOMPARE(outbox(), QStringList{QStringLiteral("2.json")});
+    }
+    leaveReport(QStringLiteral("1.json"), now, 1);
+    QTest::ignoreMessage(QtWarningMsg, "Report 2.json is dropped: it has waited for too many runs");
+    m_server->setBehaviour(HttpServer::Behaviour::Take);
+    const ReportOutbox reports({}, m_folder->path(), m_server->url(), limits);
+    QTRY_VERIFY(outbox().isEmpty());
+    QCOMPARE(codesOf(m_server->requests()).last(), 1);
 }
 
 void tst_ReportOutbox::outboxIsBounded()
@@ -359,11 +381,16 @@ void tst_ReportOutbox::outboxIsBounded()
     for (int number = 1; number <= 5; ++number) {
         leaveReport(QStringLiteral("%1.json").arg(number), now, number);
     }
+    // The one that has waited longest goes first, whatever its name says.
+    QFile runs(file("outbox-runs.json"));
+    QVERIFY(runs.open(QIODevice::WriteOnly));
+    runs.write(R"({"5.json": 4, "4.json": 1e300, "3.json": "x"})");
+    runs.close();
+    QTest::ignoreMessage(QtWarningMsg, "Report 5.json is dropped: the outbox is full");
     QTest::ignoreMessage(QtWarningMsg, "Report 1.json is dropped: the outbox is full");
-    QTest::ignoreMessage(QtWarningMsg, "Report 2.json is dropped: the outbox is full");
     const ReportOutbox reports({}, m_folder->path(), m_server->url(), limits);
     QTRY_VERIFY(outbox().isEmpty());
-    QCOMPARE(codesOf(m_server->requests()), QList<int>({3, 4, 5}));
+    QCOMPARE(codesOf(m_server->requests()), QList<int>({2, 3, 4}));
 }
 
 void tst_ReportOutbox::nobodyWaits()

@@ -196,6 +196,14 @@ void tst_ReportJson::brokenOnesAreNamed_data()
     QTest::newRow("empty") << QJsonObject() << "format: ";
     QTest::newRow("another format")
         << withValue(good, QStringLiteral("format"), QStringLiteral("diary")) << "format: ";
+    for (const double version : {1e300, -1e300, 0.0, 1.5, 2147483648.0}) {
+        QTest::addRow("version %g", version)
+            << withValue(good, QStringLiteral("version"), version) << "version: must be a whole";
+    }
+    QJsonObject system = good.value(QLatin1String("system")).toObject();
+    system.insert(QStringLiteral("cacheFreeBytes"), 1e300);
+    QTest::newRow("too many bytes") << withValue(good, QStringLiteral("system"), system)
+                                    << "system.cacheFreeBytes: must be a whole";
     QTest::newRow("a newer version")
         << withValue(good, QStringLiteral("version"), 2) << "version: it is 2";
     for (const char* key : {"id", "programVersion", "started", "finished", "language", "platform",

@@ -73,6 +73,11 @@ void tst_DeviceInfo::numbersEqualNames()
     const QString second = QStringLiteral("Camera (2)");
     const QString third = QStringLiteral("Camera (3)");
     QCOMPARE(namesOf({name, name, name}), (QStringList{name, second, third}));
+    QStringList many;
+    for (int count = 0; count < 20000; ++count) {
+        many.append(name);
+    }
+    QCOMPARE(namesOf(many).last(), QStringLiteral("Camera (20000)"));
     // One that is called so already.
     QCOMPARE(namesOf({second, name, name}), (QStringList{second, name, third}));
     QCOMPARE(namesOf({QString(), QString()}), (QStringList{QString(), QStringLiteral(" (2)")}));

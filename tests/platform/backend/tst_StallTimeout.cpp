@@ -27,6 +27,7 @@ void tst_StallTimeout::allowsFivePeriodsOrHalfASecond_data()
     QTest::newRow("5") << 5.0 << 1000;
     QTest::newRow("2") << 2.0 << 2500;
     QTest::newRow("absurd") << 0.001 << 5000;
+    QTest::newRow("more absurd") << 1e-300 << 5000;
 }
 
 void tst_StallTimeout::allowsFivePeriodsOrHalfASecond()
