@@ -67,6 +67,8 @@ enum class Reason {
     NoAnswer,
     NoSuchHost,
     NoServer, // none is configured
+    ServerLost,
+    ServerSilent,
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
@@ -87,7 +89,8 @@ enum class Cause {
     Black,
     Frozen,
     Unplugged,
-    ServerLost, // of pictures or sound on this machine
+    ServerLost,   // of pictures or sound on this machine
+    ServerSilent, // likewise: it doesn't answer
     Failed,
     Silent,
     Muted,

@@ -185,6 +185,14 @@
         <source></source>
         <translation>غير متصل</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>خدمة الصوت لا تعمل</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>خدمة الصوت لا تستجيب</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (جودة الهاتف)</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>الأجهزة المحاكاة ليس لها هذه القيمة</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>خدمة الصوت لا تعمل</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>خدمة الصوت لا تستجيب</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>لم يصل شيء من الجهاز</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>حُذفت العناوين والأسماء والحسابات.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>لم تستجب خدمة الصورة والصوت في النظام، فسجّل الخروج ثم الدخول، أو أعد تشغيل الكمبيوتر.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

@@ -185,6 +185,14 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>Nicht angeschlossen</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Der Tondienst läuft nicht</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Der Tondienst antwortet nicht</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (Telefonqualität)</translation>
@@ -857,6 +865,14 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>ein simuliertes Gerät hat diesen Wert nicht</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>der Tondienst läuft nicht</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>der Tondienst antwortet nicht</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>vom Gerät kam nichts</translation>
@@ -872,6 +888,10 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Adressen, Namen und Konten sind weggelassen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Der Bild- und Tondienst des Systems hat nicht geantwortet: Melden Sie sich ab und wieder an, oder starten Sie den Computer neu.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

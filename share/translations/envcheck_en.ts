@@ -185,6 +185,14 @@ Plug it in again, or choose another one.</translation>
         <source></source>
         <translation>Not connected</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>The sound service is not running</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>The sound service does not answer</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (telephone quality)</translation>
@@ -857,6 +865,14 @@ Plug it in again, or choose another one.</translation>
         <source></source>
         <translation>a scripted device has no such figure</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>the sound service was not running</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>the sound service did not answer</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nothing came from the device</translation>
@@ -872,6 +888,10 @@ Plug it in again, or choose another one.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Addresses, names and accounts are left out.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>The system's service for pictures and sound did not answer, so sign out and in again, or restart the computer.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

@@ -185,6 +185,14 @@ Vuelva a conectarla o elija otra.</translation>
         <source></source>
         <translation>No conectado</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>El servicio de sonido no está en marcha</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>El servicio de sonido no responde</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (calidad telefónica)</translation>
@@ -857,6 +865,14 @@ Vuelva a conectarla o elija otra.</translation>
         <source></source>
         <translation>un dispositivo simulado no tiene este valor</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>el servicio de sonido no está en marcha</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>el servicio de sonido no responde</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>no llegó nada del dispositivo</translation>
@@ -872,6 +888,10 @@ Vuelva a conectarla o elija otra.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Se omiten direcciones, nombres y cuentas.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>El servicio de imagen y sonido del sistema no respondió: cierre la sesión y vuelva a entrar, o reinicie el equipo.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

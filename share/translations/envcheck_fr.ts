@@ -185,6 +185,14 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>Non connecté</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Le service de son est arrêté</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Le service de son ne répond pas</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (qualité téléphonique)</translation>
@@ -857,6 +865,14 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>un appareil simulé n’a pas cette valeur</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>le service de son est arrêté</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>le service de son ne répond pas</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>rien n’est venu de l’appareil</translation>
@@ -872,6 +888,10 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Adresses, noms et comptes sont omis.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Le service d'image et de son du système n'a pas répondu : fermez la session et rouvrez-la, ou redémarrez l'ordinateur.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

@@ -185,6 +185,14 @@
         <source></source>
         <translation>接続されていません</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>音声サービスが動いていません</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>音声サービスが応答しません</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1（電話品質）</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>シミュレーションの機器にこの値はありません</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>音声サービスが動いていません</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>音声サービスが応答しません</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>機器から何も届きません</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>アドレス、名前、アカウントは省かれています。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>システムの映像・音声サービスが応答しませんでした。サインインし直すか、パソコンを再起動してください。</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

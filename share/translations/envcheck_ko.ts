@@ -185,6 +185,14 @@
         <source></source>
         <translation>연결되어 있지 않음</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>소리 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>소리 서비스가 응답하지 않음</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1(전화 음질)</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>시뮬레이션 장치에는 이 값이 없음</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>소리 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>소리 서비스가 응답하지 않음</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>장치에서 아무것도 오지 않음</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>주소, 이름, 계정은 제외되었습니다.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>시스템의 영상 및 소리 서비스가 응답하지 않았으니 로그아웃했다가 다시 로그인하거나 컴퓨터를 다시 시작하세요.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

@@ -185,6 +185,14 @@ Conecte-a de novo ou escolha outra.</translation>
         <source></source>
         <translation>Não conectado</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>O serviço de som não está em execução</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>O serviço de som não responde</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (qualidade de telefone)</translation>
@@ -857,6 +865,14 @@ Conecte-a de novo ou escolha outra.</translation>
         <source></source>
         <translation>um dispositivo simulado não tem este valor</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>o serviço de som não está em execução</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>o serviço de som não responde</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nada veio do dispositivo</translation>
@@ -872,6 +888,10 @@ Conecte-a de novo ou escolha outra.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Endereços, nomes e contas foram omitidos.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>O serviço de imagem e som do sistema não respondeu: saia da sessão e entre de novo, ou reinicie o computador.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

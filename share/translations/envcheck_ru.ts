@@ -185,6 +185,14 @@
         <source></source>
         <translation>Не подключено</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Служба звука не работает</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Служба звука не отвечает</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (телефонное качество)</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>у имитируемого устройства нет этого значения</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>служба звука не работает</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>служба звука не отвечает</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>от устройства ничего не поступило</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Адреса, имена и учётные записи опущены.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Системная служба изображения и звука не ответила: выйдите из системы и войдите снова или перезагрузите компьютер.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

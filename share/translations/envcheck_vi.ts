@@ -185,6 +185,14 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>Chưa kết nối</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Dịch vụ âm thanh không chạy</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Dịch vụ âm thanh không phản hồi</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1 (chất lượng điện thoại)</translation>
@@ -857,6 +865,14 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>thiết bị mô phỏng không có giá trị này</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>dịch vụ âm thanh không chạy</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>dịch vụ âm thanh không phản hồi</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>không nhận được gì từ thiết bị</translation>
@@ -872,6 +888,10 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Địa chỉ, tên và tài khoản đã được bỏ đi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Dịch vụ hình ảnh và âm thanh của hệ thống không phản hồi, hãy đăng xuất rồi đăng nhập lại hoặc khởi động lại máy tính.</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

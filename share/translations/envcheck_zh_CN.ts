@@ -185,6 +185,14 @@
         <source></source>
         <translation>未连接</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>声音服务没有运行</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>声音服务没有响应</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1（电话音质）</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>脚本模拟的设备没有此数值</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>声音服务没有运行</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>声音服务没有响应</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>设备没有任何输出</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>已去除地址、名称和账号。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>系统的视频和声音服务没有响应，请注销后重新登录，或重启电脑。</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

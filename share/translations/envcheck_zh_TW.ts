@@ -185,6 +185,14 @@
         <source></source>
         <translation>未連接</translation>
     </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>聲音服務沒有執行</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>聲音服務沒有回應</translation>
+    </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
         <translation>%1（電話音質）</translation>
@@ -857,6 +865,14 @@
         <source></source>
         <translation>腳本模擬的裝置沒有此數值</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>聲音服務沒有執行</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>聲音服務沒有回應</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>裝置沒有任何輸出</translation>
@@ -872,6 +888,10 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>已移除位址、名稱和帳號。</translation>
+    </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>系統的影像和聲音服務沒有回應，請登出後重新登入，或重新啟動電腦。</translation>
     </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>

@@ -114,7 +114,7 @@ constexpr Place PLACES[] = {
     {"ID_Engine_TelephoneQuality", 12, 200},
     // Entries of the device lists.
     {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected "
-     "ID_Engine_NotConnected",
+     "ID_Engine_NotConnected ID_Engine_SoundServerLost ID_Engine_SoundServerSilent",
      12, 270},
     // Dialog, question and welcome page.
     {"ID_Kestrel_SystemTesting", 17, 300},

@@ -19,6 +19,10 @@ constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
 // Pause between two queries of the device list, so that many changes at once don't keep us busy.
 constexpr unsigned PauseMs = 20;
+// The watch asks at each tick. Ticks are counted rather than time: if this thread was late itself,
+// an answer has waited for it.
+constexpr unsigned WatchMs = 1000;
+constexpr int SilentAfterTicks = 3;
 // Servers show this sink if they have no real one.
 constexpr char DummySink[] = "auto_null";
 
@@ -74,7 +78,10 @@ PulseConnection::PulseConnection(Publish publish)
     : m_publish(std::move(publish)), m_backOffMs(FirstBackOffMs)
 {
     // On the sound thread, because creating a context may ask the X display for the server.
-    run([this] { connect(); });
+    run([this] {
+        connect();
+        startWatch();
+    });
     m_loop.start();
 }
 
@@ -86,6 +93,9 @@ PulseConnection::~PulseConnection()
     m_context.reset();
     if (m_retry) {
         api()->time_free(m_retry);
+    }
+    if (m_watch) {
+        api()->time_free(m_watch);
     }
 }
 
@@ -127,6 +137,7 @@ void PulseConnection::contextStateChanged()
 {
     switch (pa_context_get_state(m_context.get())) {
     case PA_CONTEXT_READY:
+        m_silentTicks = 0;
         m_backOffMs = FirstBackOffMs;
         release(pa_context_subscribe(m_context.get(),
                                      static_cast<pa_subscription_mask_t>(
@@ -155,6 +166,7 @@ void PulseConnection::disconnected()
         return;
     }
     m_awaitedReplies = 0;
+    m_silentTicks = 0;
     endPause();
     for (const PulseKind kind : {PulseKind::Speaker, PulseKind::Microphone}) {
         VolumeOrders& lost = orders(kind);
@@ -166,6 +178,7 @@ void PulseConnection::disconnected()
         }
     }
     m_devices = {};
+    m_devices.server = SoundServerState::Lost;
     dropClients();
     m_publish(m_devices);
 
@@ -202,6 +215,7 @@ void PulseConnection::startRound()
     m_isStale = false;
     m_arriving = {};
     m_arriving.isConnected = true;
+    m_arriving.server = SoundServerState::Running;
     m_arriving.speakers.settledOrder = m_speakerOrders.settled;
     m_arriving.microphones.settledOrder = m_microphoneOrders.settled;
     m_awaitedReplies = 3;
@@ -255,6 +269,7 @@ void PulseConnection::takeDevice(PulseKind kind, const Info& info)
 
 void PulseConnection::replyArrived()
 {
+    m_silentTicks = 0;
     if (--m_awaitedReplies > 0) {
         return;
     }
@@ -278,6 +293,34 @@ void PulseConnection::endPause()
 {
     if (m_pause) {
         api()->time_free(std::exchange(m_pause, nullptr));
+    }
+}
+
+void PulseConnection::startWatch()
+{
+    m_watch = pa_context_rttime_new(
+        m_context.get(), pa_rtclock_now() + WatchMs * PA_USEC_PER_MSEC,
+        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) {
+            static_cast<PulseConnection*>(self)->watch();
+        },
+        this);
+}
+
+// Streams are kept: they go on if the server only was slow.
+void PulseConnection::watch()
+{
+    pa_context_rttime_restart(m_context.get(), m_watch,
+                              pa_rtclock_now() + WatchMs * PA_USEC_PER_MSEC);
+    if (m_retry) {
+        return;
+    }
+    if (context() && m_awaitedReplies == 0) {
+        refresh();
+    } else if (++m_silentTicks == SilentAfterTicks) {
+        m_devices = {};
+        m_devices.isConnected = context() != nullptr;
+        m_devices.server = SoundServerState::Silent;
+        m_publish(m_devices);
     }
 }
 

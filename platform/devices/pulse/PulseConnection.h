@@ -15,9 +15,9 @@ struct pa_time_event;
 
 namespace Platform {
 
-// The connection to the sound server. It keeps the list of devices up to date, sets volumes, and
-// reconnects when the server comes back. The GUI thread creates and destroys it; run() is for any
-// thread, all else for the sound thread.
+// The connection to the sound server. It keeps the list of devices up to date, sets volumes,
+// notices if the server doesn't answer, and reconnects when it comes back. The GUI thread creates
+// and destroys it; run() is for any thread, all else for the sound thread.
 class PulseConnection
 {
 public:
@@ -64,6 +64,8 @@ private:
     void refresh();
     void startRound();
     void replyArrived();
+    void startWatch();
+    void watch();
     void endPause();
     void takeServer(const char* defaultSink, const char* defaultSource);
     template <typename Info>
@@ -80,12 +82,14 @@ private:
     PulseContextHandle m_context;
     pa_time_event* m_retry = nullptr;
     pa_time_event* m_pause = nullptr;
+    pa_time_event* m_watch = nullptr;
     unsigned m_backOffMs;
     std::vector<std::shared_ptr<Client>> m_clients;
 
     PulseDevices m_devices; // the last published ones
     PulseDevices m_arriving;
     int m_awaitedReplies = 0;
+    int m_silentTicks = 0;  // of the watch, since the server answered last
     bool m_isStale = false; // something changed since the current round began
     VolumeOrders m_speakerOrders;
     VolumeOrders m_microphoneOrders;
