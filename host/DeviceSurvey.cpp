@@ -118,11 +118,28 @@ QString textOf(Platform::DeviceState state)
     return qtTrId(ids.value(state));
 }
 
-void addTo(TextTable& table, const QString& title, const DeviceSurvey::Devices& devices)
+// Why a list of sound devices is empty.
+QString absenceText(Platform::SoundServerState state)
+{
+    using State = Platform::SoundServerState;
+    switch (state) {
+    case State::Lost:
+        return qtTrId("ID_Engine_SoundServerLost");
+    case State::Starting: // nobody waits longer for it here
+    case State::Silent:
+        return qtTrId("ID_Engine_SoundServerSilent");
+    case State::Running:
+        break;
+    }
+    return qtTrId("ID_Host_Devices_None");
+}
+
+void addTo(TextTable& table, const QString& title, const DeviceSurvey::Devices& devices,
+           const QString& absence)
 {
     table.addHeading(title);
     if (devices.empty()) {
-        table.addHeading(QStringLiteral("    ") + qtTrId("ID_Host_Devices_None"));
+        table.addHeading(QStringLiteral("    ") + absence);
     }
     for (const DeviceSurvey::Device& device : devices) {
         const QString mark = device.isCurrent ? QStringLiteral("  * ") : QStringLiteral("    ");
@@ -145,15 +162,17 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
     result.cameras = surveyCameras(*camera);
     result.microphones = surveySound(*microphone, microphone->devices());
     result.speakers = surveySound(*speaker, engine.speakers());
+    result.soundServer = engine.soundServerState();
     return result;
 }
 
 QString DeviceSurvey::toText() const
 {
     TextTable table;
-    addTo(table, qtTrId("ID_Host_Devices_Cameras"), cameras);
-    addTo(table, qtTrId("ID_Host_Devices_Microphones"), microphones);
-    addTo(table, qtTrId("ID_Host_Devices_Speakers"), speakers);
+    const QString silence = absenceText(soundServer);
+    addTo(table, qtTrId("ID_Host_Devices_Cameras"), cameras, qtTrId("ID_Host_Devices_None"));
+    addTo(table, qtTrId("ID_Host_Devices_Microphones"), microphones, silence);
+    addTo(table, qtTrId("ID_Host_Devices_Speakers"), speakers, silence);
     return table.toText();
 }
 

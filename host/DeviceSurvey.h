@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/DeviceInfo.h"
+#include "platform/backend/SoundServerState.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -29,6 +30,7 @@ struct DeviceSurvey
     Devices cameras;
     Devices microphones;
     Devices speakers;
+    Platform::SoundServerState soundServer = Platform::SoundServerState::Running;
 
     // Runs the event loop until the lists don't change any more, for a few seconds at most.
     static DeviceSurvey of(Platform::Engine& engine);

@@ -47,7 +47,7 @@ void ProgramEnd::leave(ExitCode code)
     const Platform::FileWriter::Outcome files = Platform::FileWriter::outcome();
     for (const QString& path : files.waiting) {
         Console::printError(
-            qtTrId("ID_Host_File_NotWritten").arg(path, QStringLiteral("the disk doesn't answer")));
+            qtTrId("ID_Host_File_NotWritten").arg(path, qtTrId("ID_Engine_File_DiskSilent")));
     }
     const bool isComplete = files.waiting.isEmpty() && files.failed.isEmpty();
     System::leave(isComplete || isWrongEnd(code) ? code : ExitCode::CannotWrite);

@@ -114,11 +114,12 @@ Causes ofDevice(const ReportCheck& check, const QJsonObject& figures)
     if (check.verdict != Verdict::Failed) {
         return {};
     }
+    const std::optional<Cause> told = engineCause(check.kind, figures);
     if (check.kind == CheckKind::Speaker && LumSpeaker::isNoneDeviceText(check.device)) {
-        return {Cause::Absent};
+        const bool isServer = told == Cause::ServerLost || told == Cause::ServerSilent;
+        return {isServer ? *told : Cause::Absent};
     }
     Causes causes;
-    const std::optional<Cause> told = engineCause(check.kind, figures);
     if (told) {
         causes.push_back(*told);
     }

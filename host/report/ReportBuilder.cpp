@@ -86,8 +86,8 @@ Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpen
         return notMeasured(key, ReportWords::of(Reason::StepNotOpened));
     }
     const std::optional<Reason> state = stateIn(figures);
-    if (isOneOf(state,
-                {Reason::Failed, Reason::Unreadable, Reason::Hung, Reason::Denied, Reason::Busy})) {
+    if (isOneOf(state, {Reason::Failed, Reason::Unreadable, Reason::Hung, Reason::Denied,
+                        Reason::Busy, Reason::ServerLost, Reason::ServerSilent})) {
         return failed(key, ReportWords::of(*state));
     }
     const bool isIdle = isOneOf(state, {Reason::Absent, Reason::Off, Reason::Silent});

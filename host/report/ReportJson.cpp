@@ -115,8 +115,7 @@ QDateTime readTime(JsonFields& fields, const char* key)
 {
     const QDateTime time = QDateTime::fromString(readText(fields, key), Qt::ISODateWithMs);
     if (!time.isValid()) {
-        fields.problem().set(fields.path(key),
-                             QStringLiteral("must be a time such as 2026-03-01T08:30:00Z"));
+        fields.problem().set(fields.path(key), qtTrId("ID_Host_Report_BadTime"));
     }
     return time;
 }
@@ -256,14 +255,13 @@ std::optional<Report> ReportJson::fromJson(const QJsonObject& object, QString* e
     Platform::JsonProblem problem;
     JsonFields fields(object, {}, problem);
     if (readText(fields, "format") != FormatName) {
-        *error = QStringLiteral("format: this isn't a report of the check");
+        *error = QStringLiteral("format: ") + qtTrId("ID_Host_Report_OtherFormat");
         return std::nullopt;
     }
     const qint64 version = fields.number("version", 1, MaxVersion);
     if (!problem.isSet() && version != Report::Version) {
-        *error = QStringLiteral("version: it is %1, and this program reads version %2")
-                     .arg(version)
-                     .arg(Report::Version);
+        *error = QStringLiteral("version: ") +
+                 qtTrId("ID_Host_Report_OtherVersion").arg(version).arg(Report::Version);
         return std::nullopt;
     }
     Report report;

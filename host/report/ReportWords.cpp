@@ -134,6 +134,8 @@ const std::vector<Word<Reason>>& table()
         {Reason::NoAnswer, "noAnswer", "ID_Host_Reason_NoAnswer"},
         {Reason::NoSuchHost, "noSuchHost", "ID_Host_Reason_NoSuchHost"},
         {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
+        {Reason::ServerLost, "serverLost", "ID_Host_Reason_ServerLost"},
+        {Reason::ServerSilent, "serverSilent", "ID_Host_Reason_ServerSilent"},
     };
     return words;
 }
@@ -159,6 +161,7 @@ const std::vector<Word<Cause>>& table()
         {Cause::Frozen, "frozen", "ID_Host_Remedy_Frozen"},
         {Cause::Unplugged, "unplugged", "ID_Host_Remedy_Unplugged"},
         {Cause::ServerLost, "serverLost", "ID_Host_Remedy_ServerLost"},
+        {Cause::ServerSilent, "serverSilent", "ID_Host_Remedy_ServerSilent"},
         {Cause::Failed, "failed", "ID_Host_Remedy_Failed"},
         {Cause::Unreadable, "unreadable", "ID_Host_Remedy_Unreadable"},
         {Cause::Silent, "silent", "ID_Host_Remedy_Silent"},

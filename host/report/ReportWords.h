@@ -68,6 +68,8 @@ enum class Reason {
     NoAnswer,
     NoSuchHost,
     NoServer, // none is configured
+    ServerLost,
+    ServerSilent,
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
@@ -88,7 +90,8 @@ enum class Cause {
     Black,
     Frozen,
     Unplugged,
-    ServerLost, // of pictures or sound on this machine
+    ServerLost,   // of pictures or sound on this machine
+    ServerSilent, // likewise: it doesn't answer
     Failed,
     Unreadable, // the camera works, but sends no format that can be shown
     Silent,

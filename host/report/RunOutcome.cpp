@@ -33,6 +33,26 @@ bool wasNetworkLeft(const QJsonObject& results, const QJsonObject& measurements)
            measurements.contains(ReportWords::of(CheckKind::Camera));
 }
 
+// What stands beside the verdict: the texts of the step, or why it has no delay.
+QString networkText(const QJsonObject& texts, const QJsonObject& measurements)
+{
+    const QString state = measurements.value(ResultKeys::State).toString();
+    if (state == ReportWords::of(Reason::NoServer)) {
+        return qtTrId(ReportWords::textId(FigureStatus::NotMeasured))
+            .arg(qtTrId(ReportWords::textId(Reason::NoServer)));
+    }
+    const int delayMs =
+        measurements.value(ReportWords::of(FigureName::Delay)).toInt(NetworkLimits::NotMeasured);
+    if (delayMs == NetworkLimits::NotMeasured) {
+        const Reason reason =
+            state == ReportWords::of(Reason::NoSuchHost) ? Reason::NoSuchHost : Reason::NoAnswer;
+        return qtTrId(ReportWords::textId(FigureStatus::Failed))
+            .arg(qtTrId(ReportWords::textId(reason)));
+    }
+    return texts.value(ResultKeys::Delay).toString() + QLatin1String(", ") +
+           texts.value(ResultKeys::Loss).toString();
+}
+
 // The measurements are those at the time of the texts, which the page writes each time it judges
 // the figures. So they give the verdict that it shows. If it was left before the first figures, it
 // shows "failed".
@@ -46,11 +66,7 @@ CheckOutcome networkOutcome(const QJsonObject& texts, const QJsonObject& measure
         const bool isGood = delayMs.isDouble() && lossPercent.isDouble() &&
                             NetworkLimits::arePassed(delayMs.toInt(), lossPercent.toInt());
         check.verdict = isGood ? Verdict::Passed : Verdict::Failed;
-        check.device = delay + QLatin1String(", ") + texts.value(ResultKeys::Loss).toString();
-        if (measurements.value(ResultKeys::State).toString() == ReportWords::of(Reason::NoServer)) {
-            check.device = qtTrId(ReportWords::textId(FigureStatus::NotMeasured))
-                               .arg(qtTrId(ReportWords::textId(Reason::NoServer)));
-        }
+        check.device = networkText(texts, measurements);
     } else if (wasLeft) {
         check.verdict = Verdict::Failed;
     }

@@ -3,6 +3,7 @@
 #include <CommEngine/LumMicrophone.h>
 
 #include <CommEngine/NoneDevice.h>
+#include <CommEngine/SoundServerText.h>
 
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
@@ -101,7 +102,7 @@ std::map<QString, _LumAudioInDevInfo> LumMicrophone::getDeviceList() const
 
 QString LumMicrophone::getNoneDeviceText() const
 {
-    return qtTrId("ID_Engine_NoMicrophone");
+    return SoundServerText::orElse("ID_Engine_NoMicrophone");
 }
 
 QString LumMicrophone::getCurrentDevice() const

@@ -3,6 +3,7 @@
 #include <CommEngine/LumSpeaker.h>
 
 #include <CommEngine/NoneDevice.h>
+#include <CommEngine/SoundServerText.h>
 
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
@@ -58,12 +59,16 @@ std::vector<std::pair<QString, QString>> LumSpeaker::getDeviceList(bool /*withVi
 
 QString LumSpeaker::getNoneDeviceText(bool listIsEmpty)
 {
-    return listIsEmpty ? qtTrId("ID_Engine_NoSpeaker") : qtTrId("ID_Engine_NoSpeakerSelected");
+    if (!listIsEmpty) {
+        return qtTrId("ID_Engine_NoSpeakerSelected");
+    }
+    return SoundServerText::orElse("ID_Engine_NoSpeaker");
 }
 
 bool LumSpeaker::isNoneDeviceText(const QString& name)
 {
-    return name == getNoneDeviceText(true) || name == getNoneDeviceText(false);
+    return name == qtTrId("ID_Engine_NoSpeaker") || name == qtTrId("ID_Engine_NoSpeakerSelected") ||
+           SoundServerText::isOne(name);
 }
 
 QString LumSpeaker::getCurrentDevice() const

@@ -6,6 +6,11 @@ namespace Platform {
 
 Engine::~Engine() = default;
 
+SoundServerState Engine::soundServerState() const
+{
+    return SoundServerState::Running;
+}
+
 void Engine::deliver(std::chrono::milliseconds /*limit*/)
 {
 }

@@ -8,6 +8,7 @@
 #include "platform/backend/NetworkProbe.h"
 #include "platform/backend/PlayerBackend.h"
 #include "platform/backend/ReportSink.h"
+#include "platform/backend/SoundServerState.h"
 #include "platform/backend/SpeakerBackend.h"
 #include "platform/backend/SystemFacts.h"
 
@@ -33,6 +34,9 @@ public:
     virtual std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) = 0;
 
     virtual DeviceList speakers() const = 0;
+    // Why there may be no speakers and microphones. A change is told as a change of their lists.
+    // Running unless an engine knows better.
+    virtual SoundServerState soundServerState() const;
     virtual SystemFacts& systemFacts() = 0;
     virtual ReportSink& reportSink() = 0;
     // The folder of the settings stores. It may not exist yet.

@@ -24,14 +24,13 @@ QString problemOfName(const QString& name)
 {
     static const QRegularExpression letters(QStringLiteral("[<>:\"|?*\\x00-\\x1f]"));
     if (isDevice(name)) {
-        return QStringLiteral("%1 is the name of a device on Windows").arg(name);
+        return qtTrId("ID_Engine_File_DeviceName").arg(name);
     }
     if (name.contains(letters)) {
-        return QStringLiteral("on Windows a name can't contain < > : \" | ? * or control "
-                              "characters");
+        return qtTrId("ID_Engine_File_BadLetter");
     }
     if (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' '))) {
-        return QStringLiteral("on Windows a name can't end in a dot or a space");
+        return qtTrId("ID_Engine_File_BadEnd");
     }
     return {};
 }

@@ -73,7 +73,7 @@ QString FileWriter::replaceNow(const QString& path, const QByteArray& content, i
     queue().add(std::move(order), true);
     queue().startOrRun();
     if (told.wait_for(std::chrono::milliseconds(timeoutMs)) != std::future_status::ready) {
-        return QStringLiteral("the disk doesn't answer");
+        return qtTrId("ID_Engine_File_DiskSilent");
     }
     return told.get();
 }

@@ -49,11 +49,9 @@ QString JsonFields::text(const char* key, int maxLength, const QString& fallback
     }
     const QJsonValue field = value(key);
     if (!field.isString() || field.toString().size() > maxLength) {
-        m_problem.set(
-            path(key),
-            maxLength == AnyLength
-                ? QStringLiteral("must be a text")
-                : QStringLiteral("must be a text of at most %1 characters").arg(maxLength));
+        m_problem.set(path(key), maxLength == AnyLength
+                                     ? qtTrId("ID_Engine_Json_Text")
+                                     : qtTrId("ID_Engine_Json_ShortText").arg(maxLength));
         return fallback;
     }
     return field.toString();
@@ -73,8 +71,7 @@ qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallba
     const double number = field.toDouble();
     if (!field.isDouble() || std::floor(number) != number || number < double(min) ||
         number > double(max)) {
-        m_problem.set(path(key),
-                      QStringLiteral("must be a whole number from %1 to %2").arg(min).arg(max));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_WholeNumber").arg(min).arg(max));
         return fallback;
     }
     return static_cast<qint64>(number);
@@ -83,7 +80,7 @@ qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallba
 double JsonFields::real(const char* key)
 {
     if (has(key, true) && !value(key).isDouble()) {
-        m_problem.set(path(key), QStringLiteral("must be a number"));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_Number"));
     }
     return value(key).toDouble();
 }
@@ -95,7 +92,7 @@ bool JsonFields::flag(const char* key, bool fallback)
     }
     const QJsonValue field = value(key);
     if (!field.isBool()) {
-        m_problem.set(path(key), QStringLiteral("must be true or false"));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_Flag"));
     }
     return field.toBool(fallback);
 }
@@ -118,7 +115,7 @@ QString JsonFields::word(const char* key, const QStringList& words, const QStrin
     const QString word = value(key).toString();
     if (!words.contains(word)) {
         m_problem.set(path(key),
-                      QStringLiteral("must be one of ") + words.join(QStringLiteral(", ")));
+                      qtTrId("ID_Engine_Json_Word").arg(words.join(QStringLiteral(", "))));
         return fallback;
     }
     return word;
@@ -127,7 +124,7 @@ QString JsonFields::word(const char* key, const QStringList& words, const QStrin
 JsonFields JsonFields::object(const char* key)
 {
     if (has(key, false) && !value(key).isObject()) {
-        m_problem.set(path(key), QStringLiteral("must be an object"));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_Object"));
     }
     return {value(key).toObject(), path(key), m_problem};
 }
@@ -139,7 +136,7 @@ std::vector<JsonFields> JsonFields::objects(const char* key, int maxCount)
     for (int i = 0; i < elements.size(); ++i) {
         const QString elementPath = QStringLiteral("%1[%2]").arg(path(key)).arg(i);
         if (!elements.at(i).isObject()) {
-            m_problem.set(elementPath, QStringLiteral("must be an object"));
+            m_problem.set(elementPath, qtTrId("ID_Engine_Json_Object"));
         }
         result.emplace_back(elements.at(i).toObject(), elementPath, m_problem);
     }
@@ -155,7 +152,7 @@ QStringList JsonFields::words(const char* key, const QStringList& words)
             result.append(element.toString());
         } else {
             m_problem.set(path(key),
-                          QStringLiteral("must be a list of ") + words.join(QStringLiteral(", ")));
+                          qtTrId("ID_Engine_Json_WordList").arg(words.join(QStringLiteral(", "))));
         }
     }
     return result;
@@ -168,10 +165,9 @@ QJsonArray JsonFields::array(const char* key, int maxCount)
     }
     const QJsonValue field = value(key);
     if (!field.isArray() || field.toArray().size() > maxCount) {
-        m_problem.set(path(key),
-                      maxCount == AnyLength
-                          ? QStringLiteral("must be a list")
-                          : QStringLiteral("must be a list of at most %1 elements").arg(maxCount));
+        m_problem.set(path(key), maxCount == AnyLength
+                                     ? qtTrId("ID_Engine_Json_List")
+                                     : qtTrId("ID_Engine_Json_ShortList").arg(maxCount));
         return {};
     }
     return field.toArray();
@@ -188,7 +184,7 @@ void JsonFields::rejectOthers()
     for (const QString& key : keys) {
         if (!m_taken.contains(key)) {
             m_problem.set(m_path.isEmpty() ? key : m_path + QLatin1Char('.') + key,
-                          QStringLiteral("is not a known field here"));
+                          qtTrId("ID_Engine_Json_Unknown"));
         }
     }
 }
@@ -197,7 +193,7 @@ bool JsonFields::has(const char* key, bool isRequired)
 {
     take(QLatin1String(key));
     if (isRequired && !contains(key)) {
-        m_problem.set(path(key), QStringLiteral("is missing"));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_Missing"));
     }
     return contains(key);
 }

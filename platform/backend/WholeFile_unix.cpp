@@ -71,13 +71,13 @@ QString WholeFile::problem(const QString& path)
         return errno == ENOENT || errno == ENOTDIR ? QString() : lastError();
     }
     if (S_ISLNK(link.st_mode) && link.st_uid != geteuid() && link.st_uid != 0) {
-        return QStringLiteral("it is a link that belongs to another user");
+        return qtTrId("ID_Engine_File_ForeignLink");
     }
     struct stat file = {};
     if (::stat(QFile::encodeName(path).constData(), &file) != 0) {
-        return errno == ENOENT ? QStringLiteral("it is a link that leads nowhere") : lastError();
+        return errno == ENOENT ? qtTrId("ID_Engine_File_DeadLink") : lastError();
     }
-    return S_ISREG(file.st_mode) ? QString() : QStringLiteral("it is not a regular file");
+    return S_ISREG(file.st_mode) ? QString() : qtTrId("ID_Engine_File_NotRegular");
 }
 
 QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxBytes)
@@ -100,7 +100,7 @@ QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxByte
     *content = file.read(maxBytes + 1);
     if (content->size() > maxBytes) {
         content->clear();
-        return QStringLiteral("it is larger than %1 MiB").arg(maxBytes / 1024 / 1024);
+        return qtTrId("ID_Engine_File_TooLarge").arg(maxBytes / 1024 / 1024);
     }
     return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }

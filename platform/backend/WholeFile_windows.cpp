@@ -18,7 +18,7 @@ QString WholeFile::problem(const QString& path)
         return wrongName;
     }
     const QFileInfo info(path);
-    return info.exists() && !info.isFile() ? QStringLiteral("it is not a regular file") : QString();
+    return info.exists() && !info.isFile() ? qtTrId("ID_Engine_File_NotRegular") : QString();
 }
 
 QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxBytes)
@@ -35,7 +35,7 @@ QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxByte
     *content = file.read(maxBytes + 1);
     if (content->size() > maxBytes) {
         content->clear();
-        return QStringLiteral("it is larger than %1 MiB").arg(maxBytes / 1024 / 1024);
+        return qtTrId("ID_Engine_File_TooLarge").arg(maxBytes / 1024 / 1024);
     }
     return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }

@@ -23,14 +23,13 @@ QString takeLock(QLockFile& lock, const QString& path)
     const QString name = path + QStringLiteral(".lock");
     // To read a named pipe waits for its writer.
     if (!WholeFile::problem(name).isEmpty()) {
-        return QStringLiteral("its lock file %1 is not a regular file").arg(name);
+        return qtTrId("ID_Engine_File_LockNotRegular").arg(name);
     }
     if (lock.tryLock(FileWriter::LockTimeoutMs)) {
         return {};
     }
-    return lock.error() == QLockFile::LockFailedError
-               ? QStringLiteral("another program holds its lock file %1").arg(name)
-               : QStringLiteral("its lock file can't be created");
+    return lock.error() == QLockFile::LockFailedError ? qtTrId("ID_Engine_File_LockHeld").arg(name)
+                                                      : qtTrId("ID_Engine_File_LockNotMade");
 }
 
 std::optional<QByteArray> changed(QByteArray content,
@@ -57,7 +56,7 @@ QString write(const WriterQueue::Order& order)
         return problem;
     }
     if (!WholeFile::makeFolder(QFileInfo(order.path).absolutePath())) {
-        return QStringLiteral("its folder can't be created");
+        return qtTrId("ID_Engine_File_NoFolder");
     }
     QByteArray content = order.content.value_or(QByteArray());
     QLockFile lock(order.path + QStringLiteral(".lock"));
@@ -71,8 +70,7 @@ QString write(const WriterQueue::Order& order)
         }
     }
     const std::optional<QByteArray> made = changed(std::move(content), order.changes);
-    return made ? WholeFile::write(order.path, *made)
-                : QStringLiteral("its new content can't be made; is the disk full?");
+    return made ? WholeFile::write(order.path, *made) : qtTrId("ID_Engine_File_NotMade");
 }
 
 } // namespace
@@ -82,7 +80,7 @@ void WriterQueue::add(Order order, bool isUrgent)
     const std::scoped_lock lock(m_mutex);
     Order* const waiting = order.path.isEmpty() ? nullptr : waitingFor(order.path);
     if (waiting && !merge(*waiting, order)) {
-        m_problems[order.path] = QStringLiteral("too many changes wait for the disk");
+        m_problems[order.path] = qtTrId("ID_Engine_File_TooManyChanges");
         qCWarning(Log::files).noquote()
             << "Not written:" << order.path << "-" << m_problems[order.path];
         return;

@@ -125,6 +125,11 @@ DeviceList DeviceEngine::speakers() const
     return m_sound->speakers();
 }
 
+SoundServerState DeviceEngine::soundServerState() const
+{
+    return m_sound->serverState();
+}
+
 SystemFacts& DeviceEngine::systemFacts()
 {
     return *m_facts;

@@ -37,6 +37,7 @@ public:
     std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) override;
 
     DeviceList speakers() const override;
+    SoundServerState soundServerState() const override;
     SystemFacts& systemFacts() override;
     ReportSink& reportSink() override;
     QString settingsFolder() const override;

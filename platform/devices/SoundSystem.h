@@ -4,6 +4,7 @@
 
 #include "platform/backend/MicrophoneBackend.h"
 #include "platform/backend/PlayerBackend.h"
+#include "platform/backend/SoundServerState.h"
 #include "platform/backend/SpeakerBackend.h"
 
 #include <memory>
@@ -27,6 +28,7 @@ public:
     virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener) = 0;
     virtual DeviceList speakers() const = 0;
+    virtual SoundServerState serverState() const = 0;
 };
 
 // Each build has one definition, in the folder of its sound system. Measurements of the devices go

@@ -29,19 +29,19 @@ QString load(const QString& path, QByteArray* content)
     }
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("no such file, and no bundled scenario of this name (there are %1)")
+        return qtTrId("ID_Engine_Scenario_Unknown")
             .arg(Scenario::bundledNames().join(QStringLiteral(", ")));
     }
     if (!info.isFile()) {
-        return QStringLiteral("not a regular file; name a scenario file");
+        return qtTrId("ID_Engine_Scenario_NotRegular");
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("can't be read: %1").arg(file.errorString());
+        return qtTrId("ID_Engine_Scenario_NotRead").arg(file.errorString());
     }
     *content = file.read(MaxFileBytes + 1);
     if (content->size() > MaxFileBytes) {
-        return QStringLiteral("larger than 1 MiB; name a scenario file");
+        return qtTrId("ID_Engine_Scenario_TooLarge");
     }
     return {};
 }
@@ -59,7 +59,7 @@ QJsonObject withBase(const QJsonObject& document, JsonProblem& problem)
     }
     const QString base = document.value(BaseKey).toString();
     if (!Scenario::bundledNames().contains(base)) {
-        problem.set(BaseKey, QStringLiteral("must name a bundled scenario"));
+        problem.set(BaseKey, qtTrId("ID_Engine_Scenario_Base"));
         return document;
     }
     QByteArray json;
@@ -98,17 +98,17 @@ std::optional<Scenario> Scenario::parse(const QByteArray& json, const QString& n
     const QJsonDocument document = QJsonDocument::fromJson(json, &syntax);
     if (syntax.error != QJsonParseError::NoError) {
         *error = message(name, JsonLines::lineAt(json, syntax.offset),
-                         QStringLiteral("not valid JSON: ") + syntax.errorString());
+                         qtTrId("ID_Engine_Json_Invalid").arg(syntax.errorString()));
         return {};
     }
     const JsonLines lines(json);
     JsonProblem problem;
     if (!document.isObject()) {
-        problem.set({}, QStringLiteral("the document must be an object"));
+        problem.set({}, qtTrId("ID_Engine_Json_Document"));
     }
     const QString duplicate = lines.duplicate();
     if (!duplicate.isEmpty()) {
-        problem.set(duplicate, QStringLiteral("occurs twice"));
+        problem.set(duplicate, qtTrId("ID_Engine_Json_Twice"));
     }
     const Scenario scenario = ScenarioReader(problem).read(withBase(document.object(), problem));
     if (problem.isSet()) {

@@ -34,7 +34,7 @@ DeviceInfo readInfo(JsonFields& fields)
 {
     const DeviceInfo info{fields.text("id", MaxIdLength), fields.text("name", MaxTextLength)};
     if (info.id.isEmpty()) {
-        fields.problem().set(fields.path("id"), QStringLiteral("must not be empty"));
+        fields.problem().set(fields.path("id"), qtTrId("ID_Engine_Scenario_EmptyId"));
     }
     return info;
 }
@@ -173,7 +173,7 @@ QString ScenarioDeviceReader::readKnownId(JsonFields& fields, const char* key, K
     const bool isNone = allowsNone && id.isEmpty();
     if (!isNone && !m_ids.value(kind).contains(id)) {
         m_problem.set(fields.path(key),
-                      QStringLiteral("names no %1 of this scenario").arg(EnumWords::word(kind)));
+                      qtTrId("ID_Engine_Scenario_NoDevice").arg(EnumWords::word(kind)));
     }
     return id;
 }
@@ -186,7 +186,7 @@ void ScenarioDeviceReader::readList(JsonFields& root, Kind kind, Scenario& scena
         const int count = ids.size();
         scenario.setup.push_back(readDevice(fields, kind));
         if (ids.size() == count) {
-            m_problem.set(fields.path("id"), QStringLiteral("must be unique in its list"));
+            m_problem.set(fields.path("id"), qtTrId("ID_Engine_Scenario_SameId"));
         }
         fields.rejectOthers();
     }

@@ -23,7 +23,7 @@ Scenario::Action readVolume(JsonFields& fields)
     using Kind = ScenarioDeviceReader::Kind;
     const Kind kind = readKind(fields);
     if (kind == Kind::Camera) {
-        fields.problem().set(fields.path("kind"), QStringLiteral("a camera has no volume"));
+        fields.problem().set(fields.path("kind"), qtTrId("ID_Engine_Scenario_NoVolume"));
     }
     const bool isSpeaker = kind == Kind::Speaker;
     const int percent =
@@ -43,7 +43,7 @@ Scenario::Action readMute(JsonFields& fields)
     using Kind = ScenarioDeviceReader::Kind;
     const Kind kind = readKind(fields);
     if (kind == Kind::Camera) {
-        fields.problem().set(fields.path("kind"), QStringLiteral("a camera has no volume"));
+        fields.problem().set(fields.path("kind"), qtTrId("ID_Engine_Scenario_NoVolume"));
     }
     const bool isMuted = fields.flag("muted", true);
     return [kind, isMuted](ScriptedEngine& engine) {

@@ -50,10 +50,8 @@ ScriptedMicrophones::LevelCurve ScenarioValues::readLevels(JsonFields& fields)
         const double level = point.at(1).toDouble(-1);
         const bool isLater = curve.empty() ? atMs == 0 : atMs > curve.back().atMs;
         if (point.size() != 2 || !isLater || atMs > MaxTimeMs || level < 0 || level > 1) {
-            fields.problem().set(
-                QStringLiteral("%1[%2]").arg(fields.path("levels")).arg(i),
-                QStringLiteral("must be [milliseconds, level]: rising from 0, and a "
-                               "level from 0 to 1"));
+            fields.problem().set(QStringLiteral("%1[%2]").arg(fields.path("levels")).arg(i),
+                                 qtTrId("ID_Engine_Scenario_Levels"));
         }
         curve.push_back({atMs, level});
     }

@@ -170,6 +170,122 @@
         <translation>لا يمكن عرض صور هذه الكاميرا هنا.
 اختر كاميرا أخرى، أو تنسيقًا آخر في إعداداتها.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>لا يجوز في Windows أن ينتهي الاسم بنقطة أو مسافة</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>لا يجوز في Windows أن يحتوي الاسم على &lt; &gt; : " | ? * أو على محارف تحكم</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>إنه رابط لا يؤدي إلى أي مكان</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 هو اسم جهاز في Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>القرص لا يستجيب</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>إنه رابط يملكه مستخدم آخر</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>برنامج آخر يحتفظ بملف القفل %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>تعذّر إنشاء ملف القفل</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>ملف القفل %1 ليس ملفًا عاديًا</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>تعذّر إنشاء المجلد</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>تعذّر إنشاء المحتوى الجديد؛ هل القرص ممتلئ؟</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>إنه ليس ملفًا عاديًا</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>حجمه أكبر من %1 ميبيبايت</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>تغييرات كثيرة جدًا تنتظر القرص</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>يجب أن يكون المستند كائنًا</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>يجب أن تكون القيمة true أو false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>ليس JSON صالحًا: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>يجب أن تكون القيمة قائمة</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>الحقل مفقود</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>يجب أن تكون القيمة رقمًا</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>يجب أن تكون القيمة كائنًا</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>يجب أن تكون القيمة قائمة من %1 عناصر على الأكثر</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>يجب أن تكون القيمة نصًا من %1 محرف على الأكثر</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>يجب أن تكون القيمة نصًا</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>يتكرر مرتين</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>ليس حقلًا معروفًا هنا</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>يجب أن تكون القيمة عددًا صحيحًا من %1 إلى %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>يجب أن تكون القيمة إحدى هذه الكلمات: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>يجب أن تكون القيمة قائمة من هذه الكلمات: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>لا توجد كاميرا</translation>
@@ -189,6 +305,54 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>غير متصل</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>يجب أن يكون اسم سيناريو مرفق</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>يجب ألا يكون فارغًا</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>يجب أن تكون القيمة [ميلي ثانية، مستوى]: متزايدة من 0، والمستوى من 0 إلى 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>لا يسمّي أي %1 في هذا السيناريو</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>ليس للكاميرا مستوى صوت</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>تعذّرت القراءة: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>ليس ملفًا عاديًا؛ حدّد ملف سيناريو</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>يجب أن يكون فريدًا في قائمته</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>أكبر من 1 ميبيبايت؛ حدّد ملف سيناريو</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>لا يوجد ملف ولا سيناريو مرفق بهذا الاسم (المتوفر: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>خدمة الصوت لا تعمل</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>خدمة الصوت لا تستجيب</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@
         <source></source>
         <translation>الأجهزة المحاكاة ليس لها هذه القيمة</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>خدمة الصوت لا تعمل</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>خدمة الصوت لا تستجيب</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>لم يصل شيء من الجهاز</translation>
@@ -882,6 +1054,10 @@
         <source></source>
         <translation>حُذفت العناوين والأسماء والحسابات.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>لم تستجب خدمة الصورة والصوت في النظام، فسجّل الخروج ثم الدخول، أو أعد تشغيل الكمبيوتر.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>التقرير في %1</translation>
@@ -889,6 +1065,10 @@
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>الإجابة</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>يجب أن تكون القيمة وقتًا مثل 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>ملاحظة</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>هذا ليس تقرير فحص</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>الإصدار هو %1، وهذا البرنامج يقرأ الإصدار %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <translation>Die Bilder der Kamera können hier nicht angezeigt werden.
 Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>unter Windows darf ein Name nicht mit Punkt oder Leerzeichen enden</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>unter Windows darf ein Name weder &lt; &gt; : " | ? * noch Steuerzeichen enthalten</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>es ist ein Verweis ins Leere</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 ist unter Windows der Name eines Geräts</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>der Datenträger antwortet nicht</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>es ist ein Verweis, der einem anderen Benutzer gehört</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>ein anderes Programm hält die Sperrdatei %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>die Sperrdatei kann nicht angelegt werden</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>die Sperrdatei %1 ist keine gewöhnliche Datei</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>der neue Inhalt kann nicht erzeugt werden; ist der Datenträger voll?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>zu viele Änderungen warten auf den Datenträger</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>das Dokument muss ein Objekt sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>muss true oder false sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>kein gültiges JSON: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>muss eine Liste sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>fehlt</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>muss eine Zahl sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>muss ein Objekt sein</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>muss eine Liste mit höchstens %1 Elementen sein</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>muss ein Text mit höchstens %1 Zeichen sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>muss ein Text sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>kommt zweimal vor</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>ist hier kein bekanntes Feld</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>muss eine ganze Zahl von %1 bis %2 sein</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>muss eines von diesen sein: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>muss eine Liste aus diesen Wörtern sein: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Keine Kamera</translation>
@@ -189,6 +305,54 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Nicht angeschlossen</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>muss ein mitgeliefertes Szenario nennen</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>darf nicht leer sein</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>muss [Millisekunden, Pegel] sein: von 0 an steigend, und ein Pegel von 0 bis 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>nennt kein Gerät dieses Szenarios von der Art %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>eine Kamera hat keine Lautstärke</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>keine gewöhnliche Datei; nennen Sie eine Szenariodatei</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>muss in seiner Liste einmalig sein</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>größer als 1 MiB; nennen Sie eine Szenariodatei</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>es gibt weder diese Datei noch ein mitgeliefertes Szenario dieses Namens (es gibt %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Der Tondienst läuft nicht</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Der Tondienst antwortet nicht</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>ein simuliertes Gerät hat diesen Wert nicht</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>der Tondienst läuft nicht</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>der Tondienst antwortet nicht</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>vom Gerät kam nichts</translation>
@@ -882,6 +1054,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Adressen, Namen und Konten sind weggelassen.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Der Bild- und Tondienst des Systems hat nicht geantwortet: Melden Sie sich ab und wieder an, oder starten Sie den Computer neu.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>Der Bericht liegt in %1</translation>
@@ -889,6 +1065,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Antwort</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>muss eine Zeit wie 2026-03-01T08:30:00Z sein</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Hinweis</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>dies ist kein Bericht der Prüfung</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>es ist %1, und dieses Programm liest Version %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

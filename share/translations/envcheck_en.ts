@@ -170,6 +170,122 @@ Plug it in again, or choose another one.</translation>
         <translation>The camera's pictures cannot be shown here.
 Choose another camera, or another format in its settings.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>on Windows a name can't end in a dot or a space</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>on Windows a name can't contain &lt; &gt; : " | ? * or control characters</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>it is a link that leads nowhere</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 is the name of a device on Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>the disk doesn't answer</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>it is a link that belongs to another user</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>another program holds its lock file %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>its lock file can't be created</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>its lock file %1 is not a regular file</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>its folder can't be created</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>its new content can't be made; is the disk full?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>it is not a regular file</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>it is larger than %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>too many changes wait for the disk</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>the document must be an object</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>must be true or false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>not valid JSON: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>must be a list</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>is missing</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>must be a number</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>must be an object</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>must be a list of at most %1 elements</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>must be a text of at most %1 characters</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>must be a text</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>occurs twice</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>is not a known field here</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>must be a whole number from %1 to %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>must be one of %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>must be a list of %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>No camera</translation>
@@ -189,6 +305,54 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Not connected</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>must name a bundled scenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>must not be empty</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>must be [milliseconds, level]: rising from 0, and a level from 0 to 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>names no %1 of this scenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>a camera has no volume</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>can't be read: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>not a regular file; name a scenario file</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>must be unique in its list</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>larger than 1 MiB; name a scenario file</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>no such file, and no bundled scenario of this name (there are %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>The sound service is not running</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>The sound service does not answer</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>a scripted device has no such figure</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>the sound service was not running</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>the sound service did not answer</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nothing came from the device</translation>
@@ -882,6 +1054,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Addresses, names and accounts are left out.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>The system's service for pictures and sound did not answer, so sign out and in again, or restart the computer.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>The report is in %1</translation>
@@ -889,6 +1065,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Answer</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>must be a time such as 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Note</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>this isn't a report of the check</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>it is %1, and this program reads version %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@ Vuelva a conectarla o elija otra.</translation>
         <translation>Las imágenes de la cámara no se pueden mostrar aquí.
 Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>en Windows un nombre no puede terminar en punto ni en espacio</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>en Windows un nombre no puede contener &lt; &gt; : " | ? * ni caracteres de control</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>es un enlace que no lleva a ninguna parte</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 es el nombre de un dispositivo en Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>el disco no responde</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>es un enlace que pertenece a otro usuario</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>otro programa tiene su archivo de bloqueo %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>no se puede crear su archivo de bloqueo</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>su archivo de bloqueo %1 no es un archivo normal</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>no se puede crear su carpeta</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>no se puede generar el nuevo contenido; ¿está lleno el disco?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>supera los %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>demasiados cambios esperan al disco</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>el documento debe ser un objeto</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>debe ser true o false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>JSON no válido: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>debe ser una lista</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>falta</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>debe ser un número</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>debe ser un objeto</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>debe ser una lista de %1 elementos como máximo</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>debe ser un texto de %1 caracteres como máximo</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>debe ser un texto</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>aparece dos veces</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>no es un campo conocido aquí</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>debe ser un número entero de %1 a %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>debe ser una de estas palabras: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>debe ser una lista de estas palabras: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Sin cámara</translation>
@@ -189,6 +305,54 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>No conectado</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>debe nombrar un escenario incluido</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>no debe estar vacío</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>debe ser [milisegundos, nivel]: crecientes desde 0, y un nivel de 0 a 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>no nombra ningún %1 de este escenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>una cámara no tiene volumen</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>no es un archivo normal; indique un archivo de escenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>debe ser único en su lista</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>supera 1 MiB; indique un archivo de escenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>no hay archivo ni escenario incluido con este nombre (hay %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>El servicio de sonido no está en marcha</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>El servicio de sonido no responde</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>un dispositivo simulado no tiene este valor</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>el servicio de sonido no está en marcha</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>el servicio de sonido no responde</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>no llegó nada del dispositivo</translation>
@@ -882,6 +1054,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Se omiten direcciones, nombres y cuentas.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>El servicio de imagen y sonido del sistema no respondió: cierre la sesión y vuelva a entrar, o reinicie el equipo.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>El informe está en %1</translation>
@@ -889,6 +1065,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Respuesta</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>debe ser una fecha como 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Nota</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>esto no es un informe de la comprobación</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>es %1, y este programa lee la versión %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <translation>Les images de la caméra ne peuvent pas être affichées ici.
 Choisissez une autre caméra, ou un autre format dans ses réglages.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>sous Windows, un nom ne peut pas finir par un point ou une espace</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>sous Windows, un nom ne peut contenir ni &lt; &gt; : " | ? * ni caractères de contrôle</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>c’est un lien qui ne mène nulle part</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 est le nom d’un périphérique sous Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>le disque ne répond pas</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>c’est un lien qui appartient à un autre utilisateur</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>un autre programme détient son fichier de verrouillage %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>son fichier de verrouillage ne peut pas être créé</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>son fichier de verrouillage %1 n’est pas un fichier ordinaire</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>son dossier ne peut pas être créé</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>son nouveau contenu ne peut pas être produit ; le disque est-il plein ?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>il dépasse %1 Mio</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>trop de modifications attendent le disque</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>le document doit être un objet</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>doit être true ou false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>JSON non valide : %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>doit être une liste</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>est absent</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>doit être un nombre</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>doit être un objet</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>doit être une liste d’au plus %1 éléments</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>doit être un texte d’au plus %1 caractères</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>doit être un texte</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>apparaît deux fois</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>n’est pas un champ connu ici</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>doit être un nombre entier de %1 à %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>doit être l’un de ces mots : %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>doit être une liste de ces mots : %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Aucune caméra</translation>
@@ -189,6 +305,54 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Non connecté</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>doit nommer un scénario fourni</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>ne doit pas être vide</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>doit être [millisecondes, niveau] : croissant à partir de 0, et un niveau de 0 à 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>ne nomme aucun %1 de ce scénario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>une caméra n’a pas de volume</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>ne peut pas être lu : %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>ce n’est pas un fichier ordinaire ; indiquez un fichier de scénario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>doit être unique dans sa liste</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>plus de 1 Mio ; indiquez un fichier de scénario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>ni fichier ni scénario fourni de ce nom (il y a %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Le service de son est arrêté</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Le service de son ne répond pas</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>un appareil simulé n’a pas cette valeur</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>le service de son est arrêté</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>le service de son ne répond pas</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>rien n’est venu de l’appareil</translation>
@@ -882,6 +1054,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Adresses, noms et comptes sont omis.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Le service d'image et de son du système n'a pas répondu : fermez la session et rouvrez-la, ou redémarrez l'ordinateur.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>Le rapport se trouve dans %1</translation>
@@ -889,6 +1065,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Réponse</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>doit être une date comme 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Remarque</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>ce n’est pas un rapport de la vérification</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>c’est %1, et ce programme lit la version %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

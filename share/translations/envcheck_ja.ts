@@ -170,6 +170,122 @@
         <translation>このカメラの映像はここでは表示できません。
 別のカメラを選ぶか、カメラの設定で別の形式を選んでください。</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>Windows では名前の末尾に点や空白を使えません</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>Windows では名前に &lt; &gt; : " | ? * や制御文字を使えません</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>リンク先のないリンクです</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 は Windows ではデバイスの名前です</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>ディスクが応答しません</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>ほかのユーザーが所有するリンクです</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>ほかのプログラムがロックファイル %1 を使用しています</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>ロックファイルを作成できません</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>ロックファイル %1 は通常のファイルではありません</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>フォルダーを作成できません</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>新しい内容を作れません。ディスクがいっぱいではありませんか</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>%1 MiB を超えています</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>ディスクへの書き込みを待つ変更が多すぎます</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>文書全体がオブジェクトでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>true か false でなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>正しい JSON ではありません: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>リストでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>がありません</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>数値でなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>オブジェクトでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>%1 個以下の要素のリストでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>%1 文字以下のテキストでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>テキストでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>が二度現れます</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>はここで使えるフィールドではありません</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>%1 から %2 までの整数でなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>次のいずれかでなければなりません: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>次の語のリストでなければなりません: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>カメラなし</translation>
@@ -189,6 +305,54 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>接続されていません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>付属のシナリオの名前でなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>空にできません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>[ミリ秒, 音量] でなければなりません。ミリ秒は 0 から増え、音量は 0 から 1 までです</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>このシナリオにその %1 はありません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>カメラに音量はありません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>読み込めません: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>通常のファイルではありません。シナリオファイルを指定してください</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>リストの中で一つだけでなければなりません</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>1 MiB を超えています。シナリオファイルを指定してください</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>その名前のファイルも付属のシナリオもありません（あるもの: %1）</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>音声サービスが動いていません</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>音声サービスが応答しません</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@
         <source></source>
         <translation>シミュレーションの機器にこの値はありません</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>音声サービスが動いていません</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>音声サービスが応答しません</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>機器から何も届きません</translation>
@@ -882,6 +1054,10 @@
         <source></source>
         <translation>アドレス、名前、アカウントは省かれています。</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>システムの映像・音声サービスが応答しませんでした。サインインし直すか、パソコンを再起動してください。</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>レポート：%1</translation>
@@ -889,6 +1065,10 @@
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>回答</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>2026-03-01T08:30:00Z のような時刻でなければなりません</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>注意</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>これはチェックのレポートではありません</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>%1 ですが、このプログラムが読めるのはバージョン %2 です</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@
         <translation>이 카메라의 영상은 여기에서 표시할 수 없습니다.
 다른 카메라를 선택하거나 카메라 설정에서 다른 형식을 선택하세요.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>Windows에서는 이름이 점이나 공백으로 끝날 수 없습니다</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>Windows에서는 이름에 &lt; &gt; : " | ? * 또는 제어 문자를 쓸 수 없습니다</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>대상이 없는 링크입니다</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1은(는) Windows에서 장치 이름입니다</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>디스크가 응답하지 않습니다</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>다른 사용자가 소유한 링크입니다</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>다른 프로그램이 잠금 파일 %1을(를) 쓰고 있습니다</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>잠금 파일을 만들 수 없습니다</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>잠금 파일 %1이(가) 일반 파일이 아닙니다</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>폴더를 만들 수 없습니다</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>새 내용을 만들 수 없습니다. 디스크가 가득 찼습니까?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>%1 MiB보다 큽니다</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>디스크 쓰기를 기다리는 변경이 너무 많습니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>문서는 객체여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>true 또는 false여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>올바른 JSON이 아닙니다: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>목록이어야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>항목이 없습니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>숫자여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>객체여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>요소가 %1개 이하인 목록이어야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>%1자 이하의 텍스트여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>텍스트여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>두 번 나옵니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>여기서 알려진 필드가 아닙니다</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>%1에서 %2 사이의 정수여야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>다음 중 하나여야 합니다: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>다음 단어로 된 목록이어야 합니다: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>카메라 없음</translation>
@@ -189,6 +305,54 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>연결되어 있지 않음</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>기본 제공 시나리오의 이름이어야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>비어 있으면 안 됩니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>[밀리초, 음량]이어야 합니다. 밀리초는 0부터 커지고 음량은 0에서 1까지입니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>이 시나리오에 그런 %1이(가) 없습니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>카메라에는 음량이 없습니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>읽을 수 없습니다: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>일반 파일이 아닙니다. 시나리오 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>목록에서 하나뿐이어야 합니다</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>1 MiB보다 큽니다. 시나리오 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>그런 파일도, 그런 이름의 기본 제공 시나리오도 없습니다(있는 것: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>소리 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>소리 서비스가 응답하지 않음</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@
         <source></source>
         <translation>시뮬레이션 장치에는 이 값이 없음</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>소리 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>소리 서비스가 응답하지 않음</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>장치에서 아무것도 오지 않음</translation>
@@ -882,6 +1054,10 @@
         <source></source>
         <translation>주소, 이름, 계정은 제외되었습니다.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>시스템의 영상 및 소리 서비스가 응답하지 않았으니 로그아웃했다가 다시 로그인하거나 컴퓨터를 다시 시작하세요.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>보고서 위치: %1</translation>
@@ -889,6 +1065,10 @@
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>답변</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>2026-03-01T08:30:00Z와 같은 시각이어야 합니다</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>참고</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>점검 보고서가 아닙니다</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>%1인데, 이 프로그램은 버전 %2을(를) 읽습니다</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@ Conecte-a de novo ou escolha outra.</translation>
         <translation>As imagens da câmera não podem ser exibidas aqui.
 Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>no Windows um nome não pode terminar com ponto nem espaço</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>no Windows um nome não pode conter &lt; &gt; : " | ? * nem caracteres de controle</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>é um link que não leva a lugar nenhum</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 é o nome de um dispositivo no Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>o disco não responde</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>é um link que pertence a outro usuário</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>outro programa detém o arquivo de bloqueio %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>não é possível criar o arquivo de bloqueio</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>o arquivo de bloqueio %1 não é um arquivo comum</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>não é possível criar a pasta</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>não é possível gerar o novo conteúdo; o disco está cheio?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>não é um arquivo comum</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>passa de %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>muitas alterações aguardam o disco</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>o documento deve ser um objeto</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>deve ser true ou false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>JSON inválido: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>deve ser uma lista</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>está faltando</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>deve ser um número</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>deve ser um objeto</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>deve ser uma lista de no máximo %1 elementos</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>deve ser um texto de no máximo %1 caracteres</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>deve ser um texto</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>aparece duas vezes</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>não é um campo conhecido aqui</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>deve ser um número inteiro de %1 a %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>deve ser uma destas palavras: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>deve ser uma lista destas palavras: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Nenhuma câmera</translation>
@@ -189,6 +305,54 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Não conectado</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>deve indicar um cenário incluído</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>não deve estar vazio</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>deve ser [milissegundos, nível]: crescentes a partir de 0, e um nível de 0 a 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>não indica nenhum %1 deste cenário</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>uma câmera não tem volume</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>não pode ser lido: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>não é um arquivo comum; indique um arquivo de cenário</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>deve ser único em sua lista</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>passa de 1 MiB; indique um arquivo de cenário</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>não há arquivo nem cenário incluído com este nome (há %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>O serviço de som não está em execução</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>O serviço de som não responde</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>um dispositivo simulado não tem este valor</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>o serviço de som não está em execução</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>o serviço de som não responde</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>nada veio do dispositivo</translation>
@@ -882,6 +1054,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Endereços, nomes e contas foram omitidos.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>O serviço de imagem e som do sistema não respondeu: saia da sessão e entre de novo, ou reinicie o computador.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>O relatório está em %1</translation>
@@ -889,6 +1065,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Resposta</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>deve ser uma data como 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Observação</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>isto não é um relatório da verificação</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>é %1, e este programa lê a versão %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

@@ -170,6 +170,122 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <translation>Không thể hiển thị hình ảnh của camera này ở đây.
 Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của nó.</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>trên Windows, tên không được kết thúc bằng dấu chấm hoặc dấu cách</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>trên Windows, tên không được chứa &lt; &gt; : " | ? * hoặc ký tự điều khiển</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>đó là một liên kết không trỏ tới đâu cả</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>%1 là tên của một thiết bị trên Windows</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>ổ đĩa không phản hồi</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>đó là liên kết của một người dùng khác</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>một chương trình khác đang giữ tệp khóa %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>không tạo được tệp khóa</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>tệp khóa %1 không phải là tệp thường</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>không tạo được thư mục</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>không tạo được nội dung mới; ổ đĩa có đầy không?</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>đó không phải là tệp thường</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>tệp lớn hơn %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>có quá nhiều thay đổi đang chờ ghi ra ổ đĩa</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>tài liệu phải là một đối tượng</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>phải là true hoặc false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>không phải JSON hợp lệ: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>phải là một danh sách</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>bị thiếu</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>phải là một số</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>phải là một đối tượng</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>phải là danh sách có tối đa %1 phần tử</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>phải là văn bản có tối đa %1 ký tự</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>phải là văn bản</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>xuất hiện hai lần</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>không phải là trường hợp lệ ở đây</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>phải là số nguyên từ %1 đến %2</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>phải là một trong các từ: %1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>phải là danh sách gồm các từ: %1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>Không có camera</translation>
@@ -189,6 +305,54 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>Chưa kết nối</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>phải là tên của một kịch bản có sẵn</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>không được để trống</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>phải là [mili giây, mức âm]: tăng dần từ 0, và mức âm từ 0 đến 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>không chỉ đến %1 nào của kịch bản này</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>camera không có âm lượng</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>không đọc được: %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>không phải là tệp thường; hãy chỉ định một tệp kịch bản</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>phải là duy nhất trong danh sách</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>lớn hơn 1 MiB; hãy chỉ định một tệp kịch bản</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>không có tệp này, cũng không có kịch bản có sẵn nào tên như vậy (hiện có: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>Dịch vụ âm thanh không chạy</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>Dịch vụ âm thanh không phản hồi</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>thiết bị mô phỏng không có giá trị này</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>dịch vụ âm thanh không chạy</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>dịch vụ âm thanh không phản hồi</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>không nhận được gì từ thiết bị</translation>
@@ -882,6 +1054,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>Địa chỉ, tên và tài khoản đã được bỏ đi.</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>Dịch vụ hình ảnh và âm thanh của hệ thống không phản hồi, hãy đăng xuất rồi đăng nhập lại hoặc khởi động lại máy tính.</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>Báo cáo nằm ở %1</translation>
@@ -889,6 +1065,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>Trả lời</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>phải là thời gian như 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>Lưu ý</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>đây không phải là báo cáo kiểm tra</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>đó là %1, còn chương trình này đọc phiên bản %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

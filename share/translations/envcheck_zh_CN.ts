@@ -170,6 +170,122 @@
         <translation>此处无法显示该摄像头的画面。
 请选择其他摄像头，或在其设置中选择其他格式。</translation>
     </message>
+    <message id="ID_Engine_File_BadEnd">
+        <source></source>
+        <translation>在 Windows 上，名称不能以点或空格结尾</translation>
+    </message>
+    <message id="ID_Engine_File_BadLetter">
+        <source></source>
+        <translation>在 Windows 上，名称不能包含 &lt; &gt; : " | ? * 或控制字符</translation>
+    </message>
+    <message id="ID_Engine_File_DeadLink">
+        <source></source>
+        <translation>它是一个失效的链接</translation>
+    </message>
+    <message id="ID_Engine_File_DeviceName">
+        <source></source>
+        <translation>在 Windows 上，%1 是设备名称</translation>
+    </message>
+    <message id="ID_Engine_File_DiskSilent">
+        <source></source>
+        <translation>磁盘没有响应</translation>
+    </message>
+    <message id="ID_Engine_File_ForeignLink">
+        <source></source>
+        <translation>它是属于其他用户的链接</translation>
+    </message>
+    <message id="ID_Engine_File_LockHeld">
+        <source></source>
+        <translation>另一个程序占用了它的锁文件 %1</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotMade">
+        <source></source>
+        <translation>无法创建它的锁文件</translation>
+    </message>
+    <message id="ID_Engine_File_LockNotRegular">
+        <source></source>
+        <translation>它的锁文件 %1 不是普通文件</translation>
+    </message>
+    <message id="ID_Engine_File_NoFolder">
+        <source></source>
+        <translation>无法创建它的文件夹</translation>
+    </message>
+    <message id="ID_Engine_File_NotMade">
+        <source></source>
+        <translation>无法生成新内容，磁盘是否已满？</translation>
+    </message>
+    <message id="ID_Engine_File_NotRegular">
+        <source></source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message id="ID_Engine_File_TooLarge">
+        <source></source>
+        <translation>它大于 %1 MiB</translation>
+    </message>
+    <message id="ID_Engine_File_TooManyChanges">
+        <source></source>
+        <translation>等待写入磁盘的更改太多</translation>
+    </message>
+    <message id="ID_Engine_Json_Document">
+        <source></source>
+        <translation>整个文档必须是一个对象</translation>
+    </message>
+    <message id="ID_Engine_Json_Flag">
+        <source></source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message id="ID_Engine_Json_Invalid">
+        <source></source>
+        <translation>不是有效的 JSON：%1</translation>
+    </message>
+    <message id="ID_Engine_Json_List">
+        <source></source>
+        <translation>必须是列表</translation>
+    </message>
+    <message id="ID_Engine_Json_Missing">
+        <source></source>
+        <translation>缺失</translation>
+    </message>
+    <message id="ID_Engine_Json_Number">
+        <source></source>
+        <translation>必须是数字</translation>
+    </message>
+    <message id="ID_Engine_Json_Object">
+        <source></source>
+        <translation>必须是对象</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortList">
+        <source></source>
+        <translation>必须是最多 %1 项的列表</translation>
+    </message>
+    <message id="ID_Engine_Json_ShortText">
+        <source></source>
+        <translation>必须是最多 %1 个字符的文本</translation>
+    </message>
+    <message id="ID_Engine_Json_Text">
+        <source></source>
+        <translation>必须是文本</translation>
+    </message>
+    <message id="ID_Engine_Json_Twice">
+        <source></source>
+        <translation>出现了两次</translation>
+    </message>
+    <message id="ID_Engine_Json_Unknown">
+        <source></source>
+        <translation>不是此处的已知字段</translation>
+    </message>
+    <message id="ID_Engine_Json_WholeNumber">
+        <source></source>
+        <translation>必须是 %1 到 %2 之间的整数</translation>
+    </message>
+    <message id="ID_Engine_Json_Word">
+        <source></source>
+        <translation>必须是以下之一：%1</translation>
+    </message>
+    <message id="ID_Engine_Json_WordList">
+        <source></source>
+        <translation>必须是由以下词组成的列表：%1</translation>
+    </message>
     <message id="ID_Engine_NoCamera">
         <source></source>
         <translation>无摄像头</translation>
@@ -189,6 +305,54 @@
     <message id="ID_Engine_NotConnected">
         <source></source>
         <translation>未连接</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Base">
+        <source></source>
+        <translation>必须是内置脚本的名称</translation>
+    </message>
+    <message id="ID_Engine_Scenario_EmptyId">
+        <source></source>
+        <translation>不能为空</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Levels">
+        <source></source>
+        <translation>必须是 [毫秒, 音量]：毫秒从 0 开始递增，音量为 0 到 1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoDevice">
+        <source></source>
+        <translation>此脚本中没有这样的 %1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NoVolume">
+        <source></source>
+        <translation>摄像头没有音量</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRead">
+        <source></source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message id="ID_Engine_Scenario_NotRegular">
+        <source></source>
+        <translation>不是普通文件，请指定脚本文件</translation>
+    </message>
+    <message id="ID_Engine_Scenario_SameId">
+        <source></source>
+        <translation>在其列表中必须唯一</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooLarge">
+        <source></source>
+        <translation>大于 1 MiB，请指定脚本文件</translation>
+    </message>
+    <message id="ID_Engine_Scenario_Unknown">
+        <source></source>
+        <translation>没有这个文件，也没有这个名称的内置脚本（现有：%1）</translation>
+    </message>
+    <message id="ID_Engine_SoundServerLost">
+        <source></source>
+        <translation>声音服务没有运行</translation>
+    </message>
+    <message id="ID_Engine_SoundServerSilent">
+        <source></source>
+        <translation>声音服务没有响应</translation>
     </message>
     <message id="ID_Engine_TelephoneQuality">
         <source></source>
@@ -862,6 +1026,14 @@
         <source></source>
         <translation>脚本模拟的设备没有此数值</translation>
     </message>
+    <message id="ID_Host_Reason_ServerLost">
+        <source></source>
+        <translation>声音服务没有运行</translation>
+    </message>
+    <message id="ID_Host_Reason_ServerSilent">
+        <source></source>
+        <translation>声音服务没有响应</translation>
+    </message>
     <message id="ID_Host_Reason_Silent">
         <source></source>
         <translation>设备没有任何输出</translation>
@@ -882,6 +1054,10 @@
         <source></source>
         <translation>已去除地址、名称和账号。</translation>
     </message>
+    <message id="ID_Host_Remedy_ServerSilent">
+        <source></source>
+        <translation>系统的视频和声音服务没有响应，请注销后重新登录，或重启电脑。</translation>
+    </message>
     <message id="ID_Host_ReportIsIn">
         <source></source>
         <translation>报告位于 %1</translation>
@@ -889,6 +1065,10 @@
     <message id="ID_Host_Report_Answer">
         <source></source>
         <translation>回答</translation>
+    </message>
+    <message id="ID_Host_Report_BadTime">
+        <source></source>
+        <translation>必须是时间，例如 2026-03-01T08:30:00Z</translation>
     </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
@@ -913,6 +1093,14 @@
     <message id="ID_Host_Report_Notice">
         <source></source>
         <translation>说明</translation>
+    </message>
+    <message id="ID_Host_Report_OtherFormat">
+        <source></source>
+        <translation>这不是检测报告</translation>
+    </message>
+    <message id="ID_Host_Report_OtherVersion">
+        <source></source>
+        <translation>版本为 %1，而本程序读取版本 %2</translation>
     </message>
     <message id="ID_Host_Report_Outcome">
         <source></source>

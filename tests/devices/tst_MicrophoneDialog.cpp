@@ -54,6 +54,7 @@ private Q_SLOTS:
     void leavesTheServerAsItWas();
     void neverBlocksWhileTheServerIsFrozen();
     void survivesTheServersDeath();
+    void saysWhatTheServerDoes();
     void survivesManyPluggings();
 
 private:
@@ -302,6 +303,43 @@ void tst_MicrophoneDialog::neverBlocksWhileTheServerIsFrozen()
     QTRY_COMPARE(captures() + playbacks(), 0);
     QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
+}
+
+void tst_MicrophoneDialog::saysWhatTheServerDoes()
+{
+    m_server->kill();
+    const auto state = [this] {
+        return m_dialog->results()
+            .value(id("measurements"))[id("microphone")][id("state")]
+            .toString();
+    };
+    runDialog([&] {
+        openPage();
+        QTRY_COMPARE(box()->currentText(), qtTrId("ID_Engine_SoundServerLost"));
+        QVERIFY(isShown("noMicPage"));
+        QVERIFY(m_server->start());
+        QTRY_COMPARE_WITH_TIMEOUT(box()->currentText(), id("Test Microphone A"), LongMs);
+
+        // Also if the user chose one that is unknown now.
+        m_server->plugMicrophone(id("microphone_b"), id("Test Microphone B"));
+        QTRY_COMPARE(box()->count(), 3);
+        box()->setCurrentIndex(box()->findData(id("microphone_b")));
+        QTRY_COMPARE(box()->currentData().toString(), id("microphone_b"));
+        m_server->freeze();
+        QTRY_COMPARE_WITH_TIMEOUT(box()->currentText(), qtTrId("ID_Engine_SoundServerSilent"),
+                                  LongMs);
+        QVERIFY(isShown("noMicPage"));
+        leavePage();
+        QCOMPARE(state(), id("serverSilent"));
+        openPage();
+        m_server->thaw();
+        QTRY_COMPARE_WITH_TIMEOUT(box()->currentText(), id("Test Microphone B"), LongMs);
+
+        m_server->kill();
+        QTRY_COMPARE(box()->currentText(), qtTrId("ID_Engine_SoundServerLost"));
+        QVERIFY(m_server->start());
+        QTRY_VERIFY_WITH_TIMEOUT(box()->findData(id("microphone_a")) >= 0, LongMs);
+    });
 }
 
 void tst_MicrophoneDialog::survivesTheServersDeath()

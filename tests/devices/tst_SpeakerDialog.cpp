@@ -44,6 +44,7 @@ private Q_SLOTS:
     void unmutesIfTheSliderMoves();
     void neverBlocksWhileTheServerIsFrozen();
     void survivesTheServersDeath();
+    void saysWhatTheServerDoes();
     void followsDevicesDuringASound();
     void survivesManyPluggings();
     void pageLeavesNoSoundBehind();
@@ -290,6 +291,42 @@ void tst_SpeakerDialog::survivesTheServersDeath()
     }));
     QVERIFY2(m_dialog->worstGapMs() < DeviceDialog::MaxStartGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
+}
+
+void tst_SpeakerDialog::saysWhatTheServerDoes()
+{
+    m_server->kill();
+    const auto figures = [this] {
+        return m_dialog->results().value(id("measurements")).toObject().value(id("speaker"));
+    };
+    QVERIFY(m_dialog->run([&] {
+        openSpeakerPage();
+        QTRY_COMPARE(box()->currentText(), qtTrId("ID_Engine_SoundServerLost"));
+        QCOMPARE(box()->count(), 1);
+        QCOMPARE(figures()[id("state")], QJsonValue(id("serverLost")));
+        keepFrame("server-lost");
+
+        QVERIFY(m_server->start());
+        QTRY_COMPARE_WITH_TIMEOUT(chosen(), id("speaker_a"), LongMs);
+        m_server->freeze();
+        QTRY_COMPARE_WITH_TIMEOUT(box()->currentText(), qtTrId("ID_Engine_SoundServerSilent"),
+                                  LongMs);
+        QVERIFY(!isSpeakerThere());
+        QCOMPARE(figures()[id("state")], QJsonValue(id("serverSilent")));
+        m_dialog->click("Btn_CantListen"); // leaves the page
+        QCOMPARE(m_dialog->results().value(id("results"))[id("speaker")][id("device")].toString(),
+                 qtTrId("ID_Engine_SoundServerSilent"));
+        openSpeakerPage();
+        m_server->thaw();
+        QTRY_COMPARE_WITH_TIMEOUT(chosen(), id("speaker_a"), LongMs);
+        QVERIFY(isSpeakerThere());
+
+        for (const QByteArray& module : {m_server->speakerA(), m_server->speakerB()}) {
+            m_server->unplug(module);
+        }
+        m_server->control({id("unload-module"), id("module-null-sink")});
+        QTRY_COMPARE(box()->currentText(), qtTrId("ID_Engine_NoSpeaker"));
+    }));
 }
 
 void tst_SpeakerDialog::followsDevicesDuringASound()

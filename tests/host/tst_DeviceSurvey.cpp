@@ -17,6 +17,7 @@ private Q_SLOTS:
     void noDevices();
     void everyDeviceHasItsState();
     void foreignNames();
+    void soundServerIsTheCause();
     void nothingIsOpenedOrMoved();
 
 private:
@@ -86,6 +87,17 @@ void tst_DeviceSurvey::foreignNames()
                               false,
                               std::nullopt});
     QVERIFY(survey.toText().contains(QLatin1String("a [2J b\n")));
+}
+
+void tst_DeviceSurvey::soundServerIsTheCause()
+{
+    DeviceSurvey survey;
+    survey.soundServer = Platform::SoundServerState::Lost;
+    QCOMPARE(survey.toText(), QStringLiteral("Cameras\n    none found\n"
+                                             "Microphones\n    The sound service is not running\n"
+                                             "Speakers\n    The sound service is not running\n"));
+    survey.soundServer = Platform::SoundServerState::Silent;
+    QVERIFY(survey.toText().endsWith(QLatin1String("    The sound service does not answer\n")));
 }
 
 void tst_DeviceSurvey::nothingIsOpenedOrMoved()

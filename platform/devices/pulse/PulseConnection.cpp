@@ -21,6 +21,10 @@ constexpr unsigned LastBackOffMs = 2000;
 constexpr unsigned PauseMs = 20;
 // For all replies of a round. Without them it is begun again.
 constexpr unsigned RoundTimeoutMs = 5000;
+// The watch asks at each tick. Ticks are counted rather than time: if this thread was late itself,
+// an answer has waited for it.
+constexpr unsigned WatchMs = 1000;
+constexpr int SilentAfterTicks = 3;
 // Servers show this sink if they have no real one.
 constexpr char DummySink[] = "auto_null";
 
@@ -82,10 +86,14 @@ PulseConnection::PulseConnection(Publish publish)
                   }
               }),
       m_deadline(api(), [this] { failRound(); }),
+      m_watch(api(), [this] { watch(); }),
       m_backOffMs(FirstBackOffMs)
 {
     // On the sound thread, because creating a context may ask the X display for the server.
-    run([this] { connect(); });
+    run([this] {
+        connect();
+        m_watch.startOnce(WatchMs);
+    });
     m_loop.start();
 }
 
@@ -140,6 +148,7 @@ void PulseConnection::contextStateChanged()
     switch (pa_context_get_state(m_context.get())) {
     case PA_CONTEXT_READY:
         m_isSubscribed = false;
+        m_silentTicks = 0;
         refresh();
         break;
     case PA_CONTEXT_FAILED:
@@ -165,6 +174,7 @@ void PulseConnection::disconnected()
     m_awaitedReplies = 0;
     m_deadline.stop();
     m_pause.stop();
+    m_silentTicks = 0;
     for (const PulseKind kind : {PulseKind::Speaker, PulseKind::Microphone}) {
         VolumeOrders& lost = orders(kind);
         for (std::optional<VolumeOrder>* order : {&lost.underWay, &lost.next}) {
@@ -175,6 +185,7 @@ void PulseConnection::disconnected()
         }
     }
     m_devices = {};
+    m_devices.server = SoundServerState::Lost;
     dropClients();
     m_publish(m_devices);
 
@@ -208,6 +219,7 @@ void PulseConnection::startRound()
     m_isStale = false;
     m_arriving = {};
     m_arriving.isConnected = true;
+    m_arriving.server = SoundServerState::Running;
     m_arriving.speakers.settledOrder = m_speakerOrders.settled;
     m_arriving.microphones.settledOrder = m_microphoneOrders.settled;
     m_deadline.startOnce(RoundTimeoutMs);
@@ -286,6 +298,7 @@ void PulseConnection::takeDevice(PulseKind kind, const Info& info)
 // A list counts only if all replies of its round are good.
 void PulseConnection::replyArrived(bool isGood)
 {
+    m_silentTicks = 0;
     if (!isGood) {
         failRound();
     } else if (--m_awaitedReplies == 0) {
@@ -317,6 +330,23 @@ void PulseConnection::endRound(unsigned pauseMs)
     m_awaitedReplies = 0;
     m_deadline.stop();
     m_pause.startOnce(pauseMs);
+}
+
+// Streams are kept: they go on if the server only was slow.
+void PulseConnection::watch()
+{
+    m_watch.startOnce(WatchMs);
+    if (m_retry.isActive()) {
+        return;
+    }
+    if (context() && m_awaitedReplies == 0) {
+        refresh();
+    } else if (++m_silentTicks == SilentAfterTicks) {
+        m_devices = {};
+        m_devices.isConnected = context() != nullptr;
+        m_devices.server = SoundServerState::Silent;
+        m_publish(m_devices);
+    }
 }
 
 PulseConnection::VolumeOrders& PulseConnection::orders(PulseKind kind)

@@ -16,9 +16,9 @@
 
 namespace Platform {
 
-// The connection to the sound server. It keeps the list of devices up to date, sets volumes, and
-// reconnects when the server comes back. The GUI thread creates and destroys it; run() is for any
-// thread, all else for the sound thread.
+// The connection to the sound server. It keeps the list of devices up to date, sets volumes,
+// notices if the server doesn't answer, and reconnects when it comes back. The GUI thread creates
+// and destroys it; run() is for any thread, all else for the sound thread.
 class PulseConnection
 {
 public:
@@ -70,6 +70,7 @@ private:
     void failRound();
     void endRound(unsigned pauseMs);
     unsigned nextBackOffMs();
+    void watch();
     void takeServer(const char* defaultSink, const char* defaultSource);
     template <typename Info>
     void takeDevice(PulseKind kind, const Info& info);
@@ -89,6 +90,7 @@ private:
     PulseTimer m_retry; // connects again
     PulseTimer m_pause; // between two rounds
     PulseTimer m_deadline;
+    PulseTimer m_watch; // asks the server now and then
     unsigned m_backOffMs;
     std::vector<std::shared_ptr<Client>> m_clients;
 
@@ -97,6 +99,7 @@ private:
     std::vector<PulseOperationHandle> m_round; // the queries under way
     std::size_t m_awaitedReplies = 0;
     bool m_isSubscribed = false;
+    int m_silentTicks = 0;  // of the watch, since the server answered last
     bool m_isStale = false; // something changed since the current round began
     VolumeOrders m_speakerOrders;
     VolumeOrders m_microphoneOrders;

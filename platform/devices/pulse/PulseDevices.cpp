@@ -66,7 +66,7 @@ bool operator==(const PulseSide& a, const PulseSide& b)
 
 bool operator==(const PulseDevices& a, const PulseDevices& b)
 {
-    return a.isConnected == b.isConnected && a.speakers == b.speakers &&
+    return a.isConnected == b.isConnected && a.server == b.server && a.speakers == b.speakers &&
            a.microphones == b.microphones;
 }
 

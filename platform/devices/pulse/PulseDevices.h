@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/DeviceInfo.h"
+#include "platform/backend/SoundServerState.h"
 #include "platform/devices/sound/DeviceVolume.h"
 
 #include <QString>
@@ -44,6 +45,7 @@ struct PulseSide
 struct PulseDevices
 {
     bool isConnected = false;
+    SoundServerState server = SoundServerState::Starting;
     PulseSide speakers;
     PulseSide microphones;
 

@@ -133,8 +133,11 @@ void PulseMicrophone::update()
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
     m_default.take(microphones.defaultName());
-    const QString id = m_chosenId.value_or(microphones.preferredId());
-    const bool isListChanged = !(m_list == list);
+    const SoundServerState serverState = m_server->devices().server;
+    const bool isListChanged = !(m_list == list) || m_serverState != serverState;
+    // Without a server not even the chosen one is missing: nobody knows of it.
+    const bool isServerThere = toString(serverState).isEmpty();
+    const QString id = isServerThere ? m_chosenId.value_or(microphones.preferredId()) : QString();
     const bool isOther = m_id != id;
     if (isOther) {
         endCapture();
@@ -142,6 +145,7 @@ void PulseMicrophone::update()
         m_hasHeardSound = false;
     }
     m_list = list;
+    m_serverState = serverState;
     m_id = id;
     if (isListChanged) {
         sender.post([this] { m_listener.microphoneListChanged(); });
@@ -293,7 +297,8 @@ void PulseMicrophone::recordMeasurement() const
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);
-    figures.insert(QStringLiteral("state"), toString(state()));
+    const QString trouble = toString(m_serverState);
+    figures.insert(QStringLiteral("state"), trouble.isEmpty() ? toString(state()) : trouble);
     m_report.recordMeasurement(QStringLiteral("microphone"), figures);
 }
 

@@ -61,6 +61,7 @@ private:
     std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
+    SoundServerState m_serverState = SoundServerState::Starting;
     DeviceList m_list;
     std::optional<QString> m_chosenId; // an empty id: the user chose none
     QString m_id;

@@ -92,7 +92,6 @@ void PulseServer::setSpeakerFailed(const QString& id, bool hasFailed)
 
 void PulseServer::takeDevices(const PulseDevices& devices)
 {
-    m_isKnown = true;
     m_devices = devices;
     if (!m_devices.speakers.find(m_failedSpeakerId)) {
         m_failedSpeakerId.clear();

@@ -23,7 +23,8 @@ public:
     ~PulseServer() override;
 
     PulseConnection& connection() { return *m_connection; }
-    bool isKnown() const { return m_isKnown; } // the server answered, or there is none
+    // The server answered, or it doesn't.
+    bool isKnown() const { return m_devices.server != SoundServerState::Starting; }
     const PulseDevices& devices() const { return m_devices; }
     // Returns the number of the order; see PulseSide::settledOrder.
     quint64 setVolume(PulseKind kind, const QString& id, int percent);
@@ -48,7 +49,6 @@ private:
     Mailbox m_mailbox;
     std::shared_ptr<Arrival> m_arrival;
     std::unique_ptr<PulseConnection> m_connection;
-    bool m_isKnown = false;
     PulseDevices m_devices;
     quint64 m_lastOrder = 0;
     QString m_chosenSpeakerId;

@@ -38,6 +38,12 @@ DeviceList PulseSound::speakers() const
     return server ? server->devices().speakers.list() : DeviceList();
 }
 
+SoundServerState PulseSound::serverState() const
+{
+    const std::shared_ptr<PulseServer> server = m_server.lock();
+    return server ? server->devices().server : SoundServerState::Starting;
+}
+
 std::shared_ptr<PulseServer> PulseSound::server()
 {
     std::shared_ptr<PulseServer> server = m_server.lock();

@@ -23,6 +23,7 @@ public:
     std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                 PlayerBackend::Listener& listener) override;
     DeviceList speakers() const override;
+    SoundServerState serverState() const override;
 
 private:
     std::shared_ptr<PulseServer> server();

@@ -89,9 +89,11 @@ void PulseSpeaker::update()
         m_id = id;
     }
     const Mailbox::Sender sender = m_mailbox.sender();
-    const bool isListChanged = !(m_list == list);
+    const SoundServerState serverState = m_server->devices().server;
+    const bool isListChanged = !(m_list == list) || m_serverState != serverState;
     if (isListChanged) {
         m_list = list;
+        m_serverState = serverState;
         sender.post([this] { m_listener.speakerListChanged(); });
     }
 
@@ -122,7 +124,8 @@ void PulseSpeaker::recordMeasurement() const
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);
-    figures.insert(QStringLiteral("state"), toString(state()));
+    const QString trouble = toString(m_serverState);
+    figures.insert(QStringLiteral("state"), trouble.isEmpty() ? toString(state()) : trouble);
     m_report.recordMeasurement(QStringLiteral("speaker"), figures);
 }
 

@@ -41,6 +41,7 @@ private:
     std::shared_ptr<PulseServer> m_server;
     Listener& m_listener;
     ReportSink& m_report;
+    SoundServerState m_serverState = SoundServerState::Starting;
     DeviceList m_list;
     QString m_id;
     bool m_works = false;

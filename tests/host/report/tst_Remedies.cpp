@@ -173,6 +173,9 @@ void tst_Remedies::noSpeaker()
     ReportCheck check = failedCheck(CheckKind::Speaker, Answer::No, SeenState::Fails);
     check.device = qtTrId("ID_Engine_NoSpeaker");
     QCOMPARE(words(Remedies::causesOf(check, figures("volumeAfter", 0))), id("absent"));
+    for (const QString& server : {id("serverLost"), id("serverSilent")}) {
+        QCOMPARE(words(Remedies::causesOf(check, figures("state", server))), server);
+    }
 }
 
 void tst_Remedies::onlyFailuresHaveCauses()
@@ -191,7 +194,7 @@ void tst_Remedies::enginesWordsAreKnown_data()
 {
     QTest::addColumn<QString>("word");
     for (const char* word : {"starting", "busy", "denied", "hung", "stalled", "black", "unplugged",
-                             "serverLost", "failed", "unreadable"}) {
+                             "serverLost", "serverSilent", "failed", "unreadable"}) {
         QTest::newRow(word) << id(word);
     }
 }

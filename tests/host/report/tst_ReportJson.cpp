@@ -3,6 +3,7 @@
 
 #include "host/report/ReportJson.h"
 #include "tests/host/report/SampleReport.h"
+#include "tests/support/ProgramTexts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,6 +25,9 @@ private Q_SLOTS:
     void isValidBySchema();
     void brokenOnesAreNamed_data();
     void brokenOnesAreNamed();
+
+private:
+    const ProgramTexts m_texts;
 };
 
 namespace {

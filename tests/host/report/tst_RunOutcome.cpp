@@ -20,6 +20,7 @@ private Q_SLOTS:
     void exitCodes();
     void network_data();
     void network();
+    void networkWithoutDelay();
     void networkLeftUnmeasured();
     void networkWithoutServer();
     void speakerGone_data();
@@ -130,6 +131,25 @@ void tst_RunOutcome::network()
     const CheckOutcome check = RunOutcome::fromDocument(document, false).checks.at(0);
     QCOMPARE(check.check, CheckKind::Network);
     QTEST(static_cast<int>(check.verdict), "verdict");
+}
+
+// In the language of the terminal: the step's own text for no delay is no word of it.
+void tst_RunOutcome::networkWithoutDelay()
+{
+    const auto textFor = [](const QJsonObject& figures) {
+        QJsonObject document = with({}, "network", "delay", QStringLiteral("N/A"));
+        document.insert(QStringLiteral("measurements"),
+                        QJsonObject{{QStringLiteral("network"), figures}});
+        return RunOutcome::fromDocument(document, false).checks.at(0).device;
+    };
+    const auto failedWith = [](const char* reasonId) {
+        return qtTrId("ID_Host_MeasuringFailed").arg(qtTrId(reasonId));
+    };
+    QJsonObject figures = Platform::toJson({100, -1});
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoAnswer"));
+    figures.insert(QStringLiteral("state"), QStringLiteral("noSuchHost"));
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoSuchHost"));
+    QCOMPARE(textFor({}), failedWith("ID_Host_Reason_NoAnswer"));
 }
 
 // The verdict is the dialog's, and the figures are no result.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileNames.h"
+#include "tests/support/ProgramTexts.h"
 
 #include <QtTest>
 
@@ -14,6 +15,9 @@ private Q_SLOTS:
     void windowsRules_data();
     void windowsRules();
     void rulesOfThisSystem();
+
+private:
+    const ProgramTexts m_texts;
 };
 
 void tst_FileNames::windowsRules_data()

@@ -3,6 +3,7 @@
 #include "platform/backend/FileWriter.h"
 #include "tests/support/AtOnce.h"
 
+#include "tests/support/ProgramTexts.h"
 #include "tests/support/WriteObstacle.h"
 
 #include <QLockFile>
@@ -71,6 +72,7 @@ private:
         return m_folder->filePath(QLatin1String(name));
     }
 
+    const ProgramTexts m_texts;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 

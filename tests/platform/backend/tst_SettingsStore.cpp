@@ -3,6 +3,7 @@
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/SettingsStore.h"
 #include "tests/support/AtOnce.h"
+#include "tests/support/ProgramTexts.h"
 #include "tests/support/WriteObstacle.h"
 
 #include <QLockFile>
@@ -51,6 +52,7 @@ private:
         QSettings(m_path, QSettings::IniFormat).setValue(Foreign, value);
     }
 
+    const ProgramTexts m_texts;
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };

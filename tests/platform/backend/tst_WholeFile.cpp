@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/WholeFile.h"
+#include "tests/support/ProgramTexts.h"
 #include "tests/support/WriteObstacle.h"
 
 #include <QDir>
@@ -59,6 +60,7 @@ private:
         return m_folder->filePath(QLatin1String(name));
     }
 
+    const ProgramTexts m_texts;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 

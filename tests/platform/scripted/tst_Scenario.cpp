@@ -3,6 +3,7 @@
 #include "platform/backend/MachineFacts.h"
 #include "platform/scripted/Scenario.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/ProgramTexts.h"
 
 #include <QJsonDocument>
 #include <QStandardPaths>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void playsTheTimelineInOrder();
     void namesFileLineAndField_data();
     void namesFileLineAndField();
+    void complainsInTheLanguageOfTheTexts();
     void refusesWhatIsNoScenarioFile();
     void takesHostileNamesAsTheyAre();
 
@@ -38,6 +40,7 @@ private:
     QString write(const QByteArray& json);
     std::optional<Scenario> read(const QByteArray& json, QString* error = nullptr);
 
+    const ProgramTexts m_texts;
     QTemporaryDir m_folder;
 };
 
@@ -342,6 +345,22 @@ void tst_Scenario::namesFileLineAndField()
     const QString expected = m_folder.filePath(QStringLiteral("some.json:")) + complaint;
     QVERIFY2(error.startsWith(expected), qPrintable(error));
     QVERIFY(!error.contains(QLatin1Char('\n')));
+}
+
+// Names of fields and words of the format stay.
+void tst_Scenario::complainsInTheLanguageOfTheTexts()
+{
+    const ProgramTexts chinese(QStringLiteral("zh_CN"));
+    const auto complaint = [this](const QByteArray& json) {
+        QString error;
+        read(json, &error);
+        return error.section(QStringLiteral("some.json:"), 1);
+    };
+    QCOMPARE(complaint("{\"camera\": []}"), QStringLiteral("1: camera: 不是此处的已知字段"));
+    QCOMPARE(complaint("{\"report\": \"?\"}"),
+             QStringLiteral("1: report: 必须是以下之一：accepted, refused, unreachable"));
+    QCOMPARE(complaint("{\"cameras\": [{ \"id\": \"a\", \"name\": \"A\", \"width\": 0 }]}"),
+             QStringLiteral("1: cameras[0].width: 必须是 1 到 8192 之间的整数"));
 }
 
 void tst_Scenario::refusesWhatIsNoScenarioFile()

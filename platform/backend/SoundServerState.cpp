@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/backend/SoundServerState.h"
+
+namespace Platform {
+
+QString toString(SoundServerState state)
+{
+    switch (state) {
+    case SoundServerState::Lost:
+        return QStringLiteral("serverLost");
+    case SoundServerState::Silent:
+        return QStringLiteral("serverSilent");
+    case SoundServerState::Starting:
+    case SoundServerState::Running:
+        break;
+    }
+    return {};
+}
+
+} // namespace Platform

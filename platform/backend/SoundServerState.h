@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ClassroomBackend/ClassroomBackendExport.h"
+
+#include <QString>
+
+namespace Platform {
+
+// Whether the service that microphones and speakers belong to answers.
+enum class SoundServerState {
+    Starting, // it was asked just now
+    Running,
+    Lost,   // there is none
+    Silent, // it takes connections and doesn't answer
+};
+
+// The word in reports, such as "serverLost"; empty unless Lost or Silent.
+CLASSROOMBACKEND_EXPORT QString toString(SoundServerState state);
+
+} // namespace Platform
