@@ -643,7 +643,7 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Ein Bericht, den eine Prüfung geschrieben hat.</translation>
+        <translation>Ein Bericht, den eine Prüfung geschrieben hat; - ist die Standardeingabe. Ohne ihn: der Bericht der letzten Prüfung.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -733,9 +733,13 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>Endet nach N Messwerten; sonst läuft der Befehl, bis er beendet wird.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Nimmt die Namen von Berichten auch aus FILE, einen je Zeile; - ist die Standardeingabe.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (Standard), html, json oder room: eine Zeile je Bericht.</translation>
+        <translation>text (Standard), html oder json; für viele Berichte room (Tabelle), map (Seite mit einer Kachel je Bericht), csv oder jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -771,7 +775,7 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format.</translation>
+        <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format, - ist die Standardausgabe, als JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -779,7 +783,7 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Schreibt nach jeder Änderung auch die bloßen Ergebnisse als JSON in FILE.</translation>
+        <translation>Schreibt nach jeder Änderung auch die bloßen Ergebnisse als JSON in FILE; - ist die Standardausgabe, am Ende.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -881,9 +885,21 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>Antwort</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Ursachen</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Computer</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Widerspruch</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Berichte</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

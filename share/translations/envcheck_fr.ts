@@ -643,7 +643,7 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Un rapport écrit par une vérification.</translation>
+        <translation>Un rapport écrit par une vérification ; - est l’entrée standard. Sans lui : le rapport de la dernière vérification.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -733,9 +733,13 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>S’arrête après N valeurs ; sans cette option, continue jusqu’à l’arrêt.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Prend aussi les noms de rapports dans FILE, un par ligne ; - est l’entrée standard.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (par défaut), html, json ou room : une ligne par rapport.</translation>
+        <translation>text (par défaut), html ou json ; pour de nombreux rapports room (un tableau), map (une page avec une case par rapport), csv ou jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -771,7 +775,7 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format.</translation>
+        <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format, et - est la sortie standard, en JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -779,7 +783,7 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Écrit aussi les résultats bruts dans FILE, en JSON, après chaque changement.</translation>
+        <translation>Écrit aussi les résultats bruts dans FILE, en JSON, après chaque changement ; - est la sortie standard, à la fin.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -881,9 +885,21 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>Réponse</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Causes</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Ordinateur</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Contradiction</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Rapports</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -643,7 +643,7 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Báo cáo do một lần kiểm tra ghi ra.</translation>
+        <translation>Báo cáo do một lần kiểm tra ghi ra; - là đầu vào chuẩn. Nếu không có: báo cáo của lần kiểm tra gần nhất.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -733,9 +733,13 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>Kết thúc sau N số đo; nếu không, lệnh chạy cho đến khi bị dừng.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Lấy thêm tên các báo cáo từ FILE, mỗi dòng một tên; - là đầu vào chuẩn.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (mặc định), html, json hoặc room: mỗi báo cáo một dòng.</translation>
+        <translation>text (mặc định), html hoặc json; với nhiều báo cáo: room (bảng), map (trang có một ô cho mỗi báo cáo), csv hoặc jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -771,7 +775,7 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng.</translation>
+        <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng, còn - là đầu ra chuẩn, dạng JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -779,7 +783,7 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Ghi thêm kết quả vào FILE dưới dạng JSON sau mỗi thay đổi.</translation>
+        <translation>Ghi thêm kết quả vào FILE dưới dạng JSON sau mỗi thay đổi; - là đầu ra chuẩn, khi kết thúc.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -881,9 +885,21 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>Trả lời</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Nguyên nhân</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Máy tính</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Mâu thuẫn</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Báo cáo</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>
