@@ -46,12 +46,12 @@ QString Console::plainLine(const QString& text)
     return line.simplified();
 }
 
-QString Console::plainJson(const QJsonDocument& document)
+QString Console::plainJson(const QJsonDocument& document, QJsonDocument::JsonFormat format)
 {
     constexpr int Hexadecimal = 16;
     constexpr int Digits = 4;
     QString json;
-    for (const QChar c : QString::fromUtf8(document.toJson())) {
+    for (const QChar c : QString::fromUtf8(document.toJson(format))) {
         // A line break stands between values; within a text it is escaped already.
         if (isSteering(c) && c != QLatin1Char('\n')) {
             json += QStringLiteral("\\u%1").arg(uint(c.unicode()), Digits, Hexadecimal,

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonDocument>
 #include <QString>
-
-class QJsonDocument;
 
 // Standard output and standard error, as UTF-8.
 namespace Console {
@@ -17,7 +16,8 @@ bool isTerminal(); // where print() goes to
 // direction.
 QString plainLine(const QString& text);
 // The same for JSON: these characters are written as \u escapes.
-QString plainJson(const QJsonDocument& document);
+QString plainJson(const QJsonDocument& document,
+                  QJsonDocument::JsonFormat format = QJsonDocument::Indented);
 // How many columns a text takes: most East Asian characters take two, combining ones none.
 int columns(const QString& text);
 

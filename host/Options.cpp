@@ -66,6 +66,7 @@ constexpr Definition Definitions[] = {
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
     {"port", InServe, "N", "ID_Host_Option_Port"},
     {"format", InReport, "FORMAT", "ID_Host_Option_Format"},
+    {"files-from", InReport, "FILE", "ID_Host_Option_FilesFrom"},
     {"redact", InCheck | InReport, "LEVEL", "ID_Host_Option_Redact"},
     {"quiet", InCheck, nullptr, "ID_Host_Option_Quiet"},
     {"verbose", InAll, nullptr, "ID_Host_Option_Verbose"},
@@ -192,6 +193,7 @@ private:
         m_options.isVerbose = isSet("verbose");
         m_options.isQuiet = isSet("quiet");
         m_options.isJson = isSet("json");
+        readFile("files-from", m_options.filesFrom);
         readFile("results", m_options.resultsFile);
         readFile("report", m_options.reportFile);
         readFile("tour", m_options.tourFolder);
@@ -261,10 +263,12 @@ private:
     void readReportOptions()
     {
         const QStringList formats = {QStringLiteral("text"), QStringLiteral("html"),
-                                     QStringLiteral("json"), QStringLiteral("room")};
+                                     QStringLiteral("json"), QStringLiteral("room"),
+                                     QStringLiteral("csv"),  QStringLiteral("jsonl"),
+                                     QStringLiteral("map")};
         const int format = static_cast<int>(formats.indexOf(value("format")));
         if (isSet("format") && format < 0) {
-            failAt("format", oneOf("text, html, json, room"));
+            failAt("format", oneOf("text, html, json, room, csv, jsonl, map"));
         }
         m_options.format = static_cast<Options::Format>(std::max(0, format));
         const auto level = ReportWords::find<Options::Redaction>(value("redact"));
@@ -272,7 +276,8 @@ private:
             failAt("redact", oneOf("none, personal, hash"));
         }
         m_options.redaction = level.value_or(Options::Redaction::None);
-        if (m_options.command == Options::Command::Report && m_options.files.isEmpty()) {
+        if (m_options.command == Options::Command::Report && m_options.files.isEmpty() &&
+            m_options.filesFrom.isEmpty()) {
             fail(qtTrId("ID_Host_Usage_NoReport"));
         }
     }

@@ -12,7 +12,7 @@ struct Options
 
     enum class Command { Check, Devices, Network, Serve, Report, Version, Help };
     enum class Platform { Devices, Scripted };
-    enum class Format { Text, Html, Json, Room };
+    enum class Format { Text, Html, Json, Room, Csv, Lines, Map };
     enum class Redaction { None, Personal, Hash };
 
     Command command = Command::Check;
@@ -33,7 +33,8 @@ struct Options
     bool isJson = false; // devices
     int count = 0;       // network: how many figures; 0 means no limit
     quint16 port = 0;    // serve
-    QStringList files;   // report
+    QStringList files;   // report; "-" is standard input
+    QString filesFrom;   // report: a file with names of reports, or "-"
     Format format = Format::Text;
     Redaction redaction = Redaction::None;
 

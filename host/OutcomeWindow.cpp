@@ -4,6 +4,7 @@
 
 #include "host/Console.h"
 #include "host/report/ReportWriter.h"
+#include "host/report/TwinTexts.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/WholeFile.h"
 #include "ui_OutcomeWindow.h"
@@ -103,7 +104,8 @@ QLabel* OutcomeWindow::addLabel(const QString& text, int column, int span)
 
 void OutcomeWindow::copy()
 {
-    QGuiApplication::clipboard()->setText(ReportWriter::toText(m_report, m_report.language));
+    QGuiApplication::clipboard()->setText(
+        ReportWriter::toText(m_report, TwinTexts(m_report.language)));
     tell("ID_Host_Window_Copied");
 }
 

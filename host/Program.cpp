@@ -131,13 +131,20 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
     return configure(options);
 }
 
+// What only reads and prints has nothing to bring to an end: a signal ends it at once, also while a
+// disk or the reader of the output keeps it waiting.
+bool endsInOrder(Options::Command command)
+{
+    return command != Options::Command::Report;
+}
+
 // Ends the process while the texts are there.
-[[noreturn]] void runWithTexts(const Options& options, const TerminationSignals& signals)
+[[noreturn]] void runWithTexts(const Options& options, const TerminationSignals* signals)
 {
     Languages languages;
     languages.use(options.language); // readOptions() told of problems
     const ExitCode code = runCommand(options, languages.current());
-    if (std::ferror(stdout) != 0 && !signals.hasTerminalClosed()) {
+    if (std::ferror(stdout) != 0 && !(signals && signals->hasTerminalClosed())) {
         Console::printError(qtTrId("ID_Host_OutputNotWritten"));
         ProgramEnd::leave(ExitCode::CannotWrite);
     }
@@ -173,6 +180,7 @@ ExitCode Program::run(int argc, char* argv[])
         isCheck ? applicationWithWindows(shownCount, argv)
                 : std::make_unique<QCoreApplication>(shownCount, argv);
     opening.reset();
-    const TerminationSignals signals;
-    runWithTexts(options, signals);
+    const auto signals =
+        endsInOrder(options.command) ? std::make_unique<TerminationSignals>() : nullptr;
+    runWithTexts(options, signals.get());
 }

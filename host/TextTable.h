@@ -15,6 +15,11 @@ public:
 
     QString toText() const;
 
+    // One line of a table, for those that don't keep their rows here: widen() goes over all of them
+    // first.
+    static void widen(std::vector<int>& widths, const QStringList& cells);
+    static QString line(const QStringList& cells, const std::vector<int>& widths);
+
 private:
     struct Line
     {

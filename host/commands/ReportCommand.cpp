@@ -7,68 +7,110 @@
 #include "host/Options.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportFile.h"
-#include "host/report/ReportJson.h"
-#include "host/report/ReportWriter.h"
+#include "host/report/ReportOutput.h"
+#include "host/report/ReportReader.h"
 
+#include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace {
 
-QString shown(const std::vector<Report>& reports, const QStringList& names, Options::Format format,
-              const QString& language)
+// Nothing if it can't be used; then it has said why.
+std::optional<Redaction> redactionOf(const Options& options)
 {
-    QString text;
-    switch (format) {
-    case Options::Format::Html:
-        return ReportWriter::toHtml(reports, language);
-    case Options::Format::Room:
-        return ReportWriter::toRoomTable(reports, names, language);
-    case Options::Format::Text:
-        for (const Report& report : reports) {
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n\n")) +
-                    ReportWriter::toText(report, language);
+    QString problem;
+    QByteArray key;
+    if (options.redaction == Options::Redaction::Hash) {
+        key = ReportFile::redactionKey(Folders::redactionKey(), &problem);
+    }
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        return std::nullopt;
+    }
+    return Redaction(options.redaction, key);
+}
+
+// A file's name may be that of a person, so a redacted report has its number instead.
+QString nameOf(const ReportReader::Read& read, int number)
+{
+    return read.report->redaction == Options::Redaction::None
+               ? QFileInfo(read.file).completeBaseName()
+               : QString::number(number);
+}
+
+// Gathers the texts: one call of the system for each report takes longer than to read it.
+class Printer
+{
+public:
+    ~Printer() { Console::print(m_text); }
+
+    void print(const QString& text)
+    {
+        constexpr int Enough = 65536;
+        m_text += text;
+        if (m_text.size() > Enough) {
+            Console::print(m_text);
+            m_text.clear();
         }
-        return text;
-    case Options::Format::Json:
-        break;
     }
-    if (reports.size() == 1) {
-        return QString::fromUtf8(ReportWriter::toJson(reports.front()));
+
+private:
+    QString m_text;
+};
+
+// The named files, and those whose names are in the file of --files-from. Nothing if that can't be
+// read; then it has said why.
+std::optional<QStringList> filesOf(const Options& options)
+{
+    if (options.filesFrom.isEmpty()) {
+        return options.files;
     }
-    QJsonArray array;
-    for (const Report& report : reports) {
-        array.append(ReportJson::toJson(report));
+    QByteArray names;
+    const QString problem = ReportFile::contentOf(options.filesFrom, &names);
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        return std::nullopt;
     }
-    return Console::plainJson(QJsonDocument(array));
+    QStringList files = options.files;
+    for (const QByteArray& name : names.split('\n')) {
+        if (!name.isEmpty()) {
+            files << QFile::decodeName(name);
+        }
+    }
+    return files;
 }
 
 } // namespace
 
 ExitCode ReportCommand::run(const Options& options, const QString& language)
 {
-    QString problem;
-    QByteArray key;
-    if (options.redaction == Options::Redaction::Hash) {
-        key = ReportFile::redactionKey(Folders::redactionKey(), &problem);
-        if (key.isEmpty()) {
-            Console::printError(problem);
-            return ExitCode::CannotWrite;
-        }
+    const std::optional<Redaction> redaction = redactionOf(options);
+    if (!redaction) {
+        return ExitCode::CannotWrite;
     }
-    const Redaction redaction(options.redaction, key);
-    std::vector<Report> reports;
-    QStringList names;
-    for (const QString& file : options.files) {
-        const std::optional<Report> report = ReportFile::read(file, &problem);
-        if (!report) {
-            Console::printError(problem);
-            return ExitCode::BadInput;
-        }
-        reports.push_back(redaction.redacted(*report));
-        names << QFileInfo(file).completeBaseName();
+    const std::optional<QStringList> files = filesOf(options);
+    if (!files) {
+        return ExitCode::BadInput;
     }
-    Console::print(shown(reports, names, options.format, language));
-    return ExitCode::AllPassed;
+    Printer printer;
+    const std::unique_ptr<ReportOutput> output =
+        ReportOutput::create(options.format, language, files->size() > 1,
+                             [&printer](const QString& text) { printer.print(text); });
+    bool areAllRead = true;
+    int number = 0;
+    ReportReader::readAll(*files, *redaction, [&](const ReportReader::Read& read) {
+        ++number;
+        if (read.report) {
+            output->add(*read.report, nameOf(read, number));
+        } else {
+            Console::printError(read.problem);
+            areAllRead = false;
+        }
+    });
+    output->finish();
+    if (!output->problem().isEmpty()) {
+        Console::printError(output->problem());
+        return ExitCode::CannotWrite;
+    }
+    return areAllRead ? ExitCode::AllPassed : ExitCode::BadInput;
 }

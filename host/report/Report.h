@@ -74,8 +74,8 @@ struct Report
     QString scenario; // of scripted devices
     Options::Redaction redaction = Options::Redaction::None;
     RunEnd outcome = RunEnd::LeftEarly;
-    // "account", "nickname", "operatingSystem", "processor", "server", "clientAddress", "cdn";
-    // foreign texts; unknown ones are left out
+    // "account", "nickname", "computer", "operatingSystem", "processor", "server", "clientAddress",
+    // "cdn"; foreign texts; unknown ones are left out
     QJsonObject facts;
     std::optional<double> cacheFreeBytes;
     std::vector<ReportCheck> checks;

@@ -11,6 +11,7 @@
 #include "platform/backend/SystemFacts.h"
 
 #include <QCoreApplication>
+#include <QSysInfo>
 #include <QUuid>
 #include <limits>
 
@@ -257,6 +258,9 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
     report.scenario = run.scenario;
     report.outcome = endOf(outcome.exitCode);
     addFacts(report, facts);
+    if (run.platform == Options::Platform::Devices) {
+        addFact(report, "computer", QSysInfo::machineHostName());
+    }
     for (const CheckOutcome& check : outcome.checks) {
         const QString key = ReportWords::of(check.check);
         report.checks.push_back(checkOf(check, results.value(key).toObject(),

@@ -8,11 +8,13 @@
 #include "platform/backend/WholeFile.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 
 namespace {
 
@@ -22,6 +24,27 @@ constexpr int KeyBytes = KeyWords * static_cast<int>(sizeof(quint32));
 QString line(const QString& path, const QString& problem)
 {
     return qtTrId("ID_Host_File_NotWritten").arg(path, problem);
+}
+
+QString tooLarge(const QString& path)
+{
+    return qtTrId("ID_Host_File_NoReport").arg(path, qtTrId("ID_Host_File_TooLarge"));
+}
+
+QString contentOfInput(QByteArray* content, qint64 maxBytes)
+{
+    constexpr int ChunkBytes = 65536;
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) {
+        return qtTrId("ID_Host_File_NotRead")
+            .arg(QString(ReportFile::StandardInput), input.errorString());
+    }
+    QByteArray chunk;
+    do {
+        chunk = input.read(ChunkBytes);
+        *content += chunk;
+    } while (!chunk.isEmpty() && content->size() <= maxBytes);
+    return content->size() > maxBytes ? tooLarge(QString(ReportFile::StandardInput)) : QString();
 }
 
 } // namespace
@@ -64,22 +87,29 @@ QString ReportFile::write(const QString& path, const QByteArray& content, int ti
                              : line(path, qtTrId("ID_Host_File_NameOther").arg(problem));
 }
 
-std::optional<Report> ReportFile::read(const QString& path, QString* error)
+QString ReportFile::contentOf(const QString& path, QByteArray* content, qint64 maxBytes)
 {
-    if (QFileInfo(path).size() > MaxBytes) {
-        *error = qtTrId("ID_Host_File_NoReport").arg(path, qtTrId("ID_Host_File_TooLarge"));
-        return std::nullopt;
+    if (path == StandardInput) {
+        return contentOfInput(content, maxBytes);
     }
-    QByteArray content;
+    if (QFileInfo(path).size() > maxBytes) {
+        return tooLarge(path);
+    }
     QString unreadable = Platform::FileNames::problem(path);
     if (unreadable.isEmpty() && !QFileInfo::exists(path)) {
         unreadable = qt_error_string(ENOENT);
     }
     if (unreadable.isEmpty()) {
-        unreadable = Platform::WholeFile::read(path, &content, MaxBytes);
+        unreadable = Platform::WholeFile::read(path, content, maxBytes);
     }
-    if (!unreadable.isEmpty()) {
-        *error = qtTrId("ID_Host_File_NotRead").arg(path, unreadable);
+    return unreadable.isEmpty() ? QString() : qtTrId("ID_Host_File_NotRead").arg(path, unreadable);
+}
+
+std::optional<Report> ReportFile::read(const QString& path, QString* error)
+{
+    QByteArray content;
+    *error = contentOf(path, &content, MaxBytes);
+    if (!error->isEmpty()) {
         return std::nullopt;
     }
     QJsonParseError parsing = {};

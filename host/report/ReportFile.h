@@ -7,8 +7,13 @@
 // Reads and writes reports. Waits for the disk, so no dialog may call it.
 namespace ReportFile {
 
+inline const QLatin1String StandardInput("-");
+
 // A larger file is no report.
 constexpr qint64 MaxBytes = qint64(4) * 1024 * 1024;
+
+// A larger file is no list of reports.
+constexpr qint64 MaxListBytes = qint64(64) * 1024 * 1024;
 
 constexpr int WriteTimeoutMs = 5000;
 
@@ -17,6 +22,8 @@ constexpr int WriteTimeoutMs = 5000;
 QString write(const QString& path, const QByteArray& content, int timeoutMs = WriteTimeoutMs);
 // Checks whether write() can work, without writing. Returns the same.
 QString problemOfWriting(const QString& path);
+// Reads a file, or standard input if it is "-". Returns nothing, or one line that names it.
+QString contentOf(const QString& path, QByteArray* content, qint64 maxBytes = MaxListBytes);
 // Nothing if the file is no report; error then is one line that names it.
 std::optional<Report> read(const QString& path, QString* error);
 // The key of Redaction. It is in this file, which the first call creates. Returns nothing if that

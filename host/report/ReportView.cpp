@@ -20,9 +20,10 @@ struct FactCaption
 };
 
 constexpr FactCaption FactCaptions[] = {
-    {"account", "ID_NetworkPage_Account"},    {"nickname", "ID_Nickname_NetworkPage"},
-    {"operatingSystem", "ID_NetworkPage_OS"}, {"processor", "ID_NetworkPage_CPU"},
-    {"server", "ID_NewLogin_Server"},         {"clientAddress", "ID_NetworkPage_Client"},
+    {"account", "ID_NetworkPage_Account"},      {"nickname", "ID_Nickname_NetworkPage"},
+    {"computer", "ID_Host_Report_Computer"},    {"operatingSystem", "ID_NetworkPage_OS"},
+    {"processor", "ID_NetworkPage_CPU"},        {"server", "ID_NewLogin_Server"},
+    {"clientAddress", "ID_NetworkPage_Client"},
 };
 
 // Builds the sections in their order.
@@ -82,8 +83,12 @@ private:
     void addSummary()
     {
         addSection(m_texts.text("ID_Host_Report_Summary"));
-        add("ID_Host_Report_Time", timeText(m_report.finished));
         add("ID_Host_Report_Outcome", m_texts.of(m_report.outcome), mark(m_report.outcome));
+        for (const Remedies::Remedy& remedy : Remedies::of(m_report)) {
+            add("ID_Host_Remedy",
+                m_texts.of(remedy.check) + QStringLiteral(": ") + m_texts.of(remedy.cause),
+                Mark::Notice);
+        }
         for (const ReportCheck& check : m_report.checks) {
             add(m_texts.of(check.kind), m_texts.of(check.verdict), mark(check.verdict));
             for (const Contradiction flag : check.contradictions) {
@@ -91,12 +96,8 @@ private:
                     m_texts.of(check.kind) + QStringLiteral(": ") + m_texts.of(flag), Mark::Notice);
             }
         }
-        for (const Remedies::Remedy& remedy : Remedies::of(m_report)) {
-            add("ID_Host_Remedy",
-                m_texts.of(remedy.check) + QStringLiteral(": ") + m_texts.of(remedy.cause),
-                Mark::Notice);
-        }
         addGradeLevel();
+        add("ID_Host_Report_Time", timeText(m_report.finished));
         addNotice(m_report.platform);
         addNotice(m_report.redaction);
     }

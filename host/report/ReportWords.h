@@ -204,12 +204,15 @@ std::optional<Value> find(const QString& word)
 }
 
 template <typename Value>
-QStringList all()
+const QStringList& all()
 {
-    QStringList words;
-    for (const Word<Value>& each : table<Value>()) {
-        words << QString::fromLatin1(each.word);
-    }
+    static const QStringList words = [] {
+        QStringList list;
+        for (const Word<Value>& each : table<Value>()) {
+            list << QString::fromLatin1(each.word);
+        }
+        return list;
+    }();
     return words;
 }
 

@@ -4,9 +4,11 @@
 
 #include "host/Console.h"
 #include "host/TextTable.h"
+#include "host/report/HtmlPage.h"
 #include "host/report/ReportJson.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
+#include "host/report/TwinTexts.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -14,27 +16,7 @@
 
 namespace {
 
-const QString English = QStringLiteral("en");
-
-// All colours have a contrast of at least 4.5 to 1 on white.
-const char* const Style =
-    "body{font:14px/1.5 sans-serif;color:#232323;background:#fff;max-width:46em;margin:2em auto;"
-    "padding:0 1em}h1{font-size:1.5em}h2{font-size:1.1em;margin:1.5em 0 .3em}"
-    "table{border-collapse:collapse;width:100%}"
-    "th,td{text-align:left;vertical-align:top;padding:.25em .5em;border-bottom:1px solid #e5e5e5;"
-    "overflow-wrap:anywhere}th{width:40%;font-weight:normal;color:#595959}"
-    ".good{color:#007a55}.bad{color:#c62f0d}.notice{color:#8a5a00}"
-    "[dir=rtl] th,[dir=rtl] td{text-align:right}"
-    "article+article{border-top:2px solid #595959;margin-top:3em}";
-
-constexpr CheckKind Checks[] = {CheckKind::Network, CheckKind::Camera, CheckKind::Speaker,
-                                CheckKind::Microphone};
-
-// The wanted language, then English if it is another one.
-QStringList languagesOf(const QString& language)
-{
-    return language == English ? QStringList{English} : QStringList{language, English};
-}
+using HtmlPage::escaped;
 
 QString titleOf(const ReportView& view, bool isTwin)
 {
@@ -71,11 +53,6 @@ void writeText(QTextStream& stream, const ReportView& view, bool isTwin)
     }
 }
 
-QString escaped(const QString& text)
-{
-    return Console::plainLine(text).toHtmlEscaped();
-}
-
 QString markClass(ReportView::Mark mark)
 {
     switch (mark) {
@@ -91,78 +68,48 @@ QString markClass(ReportView::Mark mark)
     return {};
 }
 
-QString htmlLanguage(QString language)
+QString tableOf(const ReportView::Section& section)
 {
-    return language.replace(QLatin1Char('_'), QLatin1Char('-'));
+    QString table = QStringLiteral("<table>\n");
+    for (const ReportView::Row& row : section.rows) {
+        table += QStringLiteral("<tr><th scope=\"row\"><bdi>") + escaped(row.caption) +
+                 QStringLiteral("</bdi></th><td") + markClass(row.mark) + QStringLiteral("><bdi>") +
+                 escaped(row.value) + QStringLiteral("</bdi></td></tr>\n");
+    }
+    return table + QStringLiteral("</table>\n");
 }
 
-void writeHtml(QTextStream& stream, const ReportView& view, bool isTwin)
+QString foldedOf(const QString& title, const QString& content)
 {
-    stream << "<article lang=\"" << htmlLanguage(view.language) << "\" dir=\""
-           << (view.isRightToLeft ? "rtl" : "ltr") << "\">\n<h1>" << escaped(titleOf(view, isTwin))
-           << "</h1>\n";
+    return QStringLiteral("<details>\n<summary>%1</summary>\n").arg(escaped(title)) + content +
+           QStringLiteral("</details>\n");
+}
+
+// The first section says what is wrong and what to do; the others are folded.
+QString sectionsOf(const ReportView& view)
+{
+    QString html;
     for (const ReportView::Section& section : view.sections) {
-        stream << "<h2>" << escaped(section.title) << "</h2>\n<table>\n";
-        for (const ReportView::Row& row : section.rows) {
-            stream << "<tr><th scope=\"row\"><bdi>" << escaped(row.caption) << "</bdi></th><td"
-                   << markClass(row.mark) << "><bdi>" << escaped(row.value) << "</bdi></td></tr>\n";
-        }
-        stream << "</table>\n";
+        const QString table = tableOf(section);
+        html += html.isEmpty() ? QStringLiteral("<h2>%1</h2>\n").arg(escaped(section.title)) + table
+                               : foldedOf(section.title, table);
     }
-    stream << "</article>\n";
-}
-
-QStringList roomRow(const Report& report, const QString& name, const ReportTexts& texts)
-{
-    QStringList row = {Console::plainLine(name),
-                       Console::plainLine(report.facts.value(QLatin1String("account")).toString()),
-                       texts.of(report.outcome)};
-    std::size_t contradictions = 0;
-    for (const CheckKind kind : Checks) {
-        const ReportCheck* check = report.check(kind);
-        row << (check ? texts.of(check->verdict) : QStringLiteral("-"));
-        contradictions += check ? check->contradictions.size() : 0;
-    }
-    row << (report.grade ? texts.of(*report.grade) : QStringLiteral("-"))
-        << QString::number(contradictions);
-    return row;
+    return html;
 }
 
 } // namespace
 
-QString ReportWriter::toText(const Report& report, const QString& language)
+QString ReportWriter::toText(const Report& report, const TwinTexts& texts)
 {
     QString text;
     QTextStream stream(&text);
-    for (const QString& each : languagesOf(language)) {
-        const bool isTwin = each != language;
-        if (isTwin) {
-            stream << "\n\n";
-        }
-        writeText(stream, ReportView::of(report, ReportTexts(each)), isTwin);
+    writeText(stream, ReportView::of(report, texts.own()), false);
+    if (texts.english()) {
+        stream << "\n\n";
+        writeText(stream, ReportView::of(report, *texts.english()), true);
     }
     stream.flush();
     return text;
-}
-
-QString ReportWriter::toHtml(const std::vector<Report>& reports, const QString& language)
-{
-    QString html;
-    QTextStream stream(&html);
-    stream << "<!DOCTYPE html>\n<html lang=\"" << htmlLanguage(language)
-           << "\">\n<head>\n<meta charset=\"utf-8\">\n"
-              "<meta http-equiv=\"Content-Security-Policy\" "
-              "content=\"default-src 'none'; style-src 'unsafe-inline'\">\n<title>"
-           << escaped(ReportTexts(language).text("ID_Host_Report_Title")) << "</title>\n<style>"
-           << Style << "</style>\n</head>\n<body>\n";
-    for (const Report& report : reports) {
-        for (const QString& each : languagesOf(language)) {
-            writeHtml(stream, ReportView::of(report, ReportTexts(each)), each != language);
-        }
-    }
-    stream << "</body>\n</html>\n";
-    stream.flush();
-    return html;
 }
 
 QByteArray ReportWriter::toJson(const Report& report)
@@ -170,24 +117,29 @@ QByteArray ReportWriter::toJson(const Report& report)
     return Console::plainJson(QJsonDocument(ReportJson::toJson(report))).toUtf8();
 }
 
-QString ReportWriter::toRoomTable(const std::vector<Report>& reports, const QStringList& names,
-                                  const QString& language)
+QString ReportWriter::htmlBegin(const TwinTexts& texts)
 {
-    const ReportTexts texts(language);
-    QStringList head = {QStringLiteral("#"), texts.caption("ID_NetworkPage_Account"),
-                        texts.caption("ID_Host_Report_Outcome")};
-    for (const CheckKind check : Checks) {
-        head << texts.of(check);
+    return HtmlPage::begin(texts.own(), texts.own().text("ID_Host_Report_Title")) +
+           QStringLiteral("<body>\n");
+}
+
+QString ReportWriter::htmlOf(const Report& report, const TwinTexts& texts)
+{
+    const ReportView view = ReportView::of(report, texts.own());
+    QString html = QStringLiteral("<article %1>\n<h1>%2</h1>\n")
+                       .arg(HtmlPage::languageOf(texts.own()), escaped(view.title)) +
+                   sectionsOf(view);
+    if (texts.english()) {
+        const ReportView twin = ReportView::of(report, *texts.english());
+        html += QStringLiteral("<section %1>\n").arg(HtmlPage::languageOf(*texts.english())) +
+                foldedOf(titleOf(twin, true), sectionsOf(twin)) + QStringLiteral("</section>\n");
     }
-    head << texts.caption("ID_Host_Grade") << texts.caption("ID_Host_Report_Contradiction");
-    TextTable table;
-    table.addRow(head);
-    for (std::size_t i = 0; i < reports.size(); ++i) {
-        const bool isNamed = reports[i].redaction == Options::Redaction::None;
-        table.addRow(roomRow(
-            reports[i], isNamed ? names.at(static_cast<int>(i)) : QString::number(i + 1), texts));
-    }
-    return table.toText();
+    return html + QStringLiteral("</article>\n");
+}
+
+QString ReportWriter::htmlEnd()
+{
+    return HtmlPage::end();
 }
 
 Options::Format ReportWriter::formatOf(const QString& fileName)
@@ -202,14 +154,12 @@ Options::Format ReportWriter::formatOf(const QString& fileName)
 QByteArray ReportWriter::toFormat(const Report& report, Options::Format format,
                                   const QString& language)
 {
-    switch (format) {
-    case Options::Format::Text:
-        return toText(report, language).toUtf8();
-    case Options::Format::Html:
-        return toHtml({report}, language).toUtf8();
-    case Options::Format::Room:
-    case Options::Format::Json:
-        break;
+    const TwinTexts texts(language);
+    if (format == Options::Format::Text) {
+        return toText(report, texts).toUtf8();
+    }
+    if (format == Options::Format::Html) {
+        return (htmlBegin(texts) + htmlOf(report, texts) + htmlEnd()).toUtf8();
     }
     return toJson(report);
 }

@@ -5,16 +5,19 @@
 #include "host/Options.h"
 #include "host/report/Report.h"
 
+class TwinTexts;
+
 // Reports as documents. Text and HTML are in the given language; if that isn't English, an English
 // version for support follows.
 namespace ReportWriter {
 
-QString toText(const Report& report, const QString& language);
-QString toHtml(const std::vector<Report>& reports, const QString& language); // self-contained
+QString toText(const Report& report, const TwinTexts& texts);
 QByteArray toJson(const Report& report);
-// One line for each report; a redacted report has a number instead of its name.
-QString toRoomTable(const std::vector<Report>& reports, const QStringList& names,
-                    const QString& language);
+
+// A page of any number of reports.
+QString htmlBegin(const TwinTexts& texts);
+QString htmlOf(const Report& report, const TwinTexts& texts);
+QString htmlEnd();
 
 // The format that the extension of the file name means; JSON by default.
 Options::Format formatOf(const QString& fileName);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/JsonFields.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Platform {
@@ -27,47 +28,63 @@ JsonFields::JsonFields(const QJsonObject& object, const QString& path, JsonProbl
 {
 }
 
+JsonFields::JsonFields(const QJsonObject& object, const QString& listPath, int index,
+                       JsonProblem& problem)
+    : m_object(object), m_path(listPath), m_index(index), m_problem(problem)
+{
+}
+
 bool JsonFields::contains(const char* key) const
 {
     return m_object.contains(QLatin1String(key));
 }
 
+// Put together only for a problem: most objects have none.
+QString JsonFields::path() const
+{
+    return m_index == NoIndex ? m_path : QStringLiteral("%1[%2]").arg(m_path).arg(m_index);
+}
+
 QString JsonFields::path(const char* key) const
 {
-    return m_path.isEmpty() ? QLatin1String(key) : m_path + QLatin1Char('.') + QLatin1String(key);
+    const QString own = path();
+    return own.isEmpty() ? QLatin1String(key) : own + QLatin1Char('.') + QLatin1String(key);
 }
 
 QString JsonFields::text(const char* key, int maxLength)
 {
-    return has(key, true) ? text(key, maxLength, {}) : QString();
+    require(key);
+    return text(key, maxLength, {});
 }
 
 QString JsonFields::text(const char* key, int maxLength, const QString& fallback)
 {
-    if (!has(key, false)) {
+    const QJsonValue field = value(key, false);
+    if (field.isUndefined()) {
         return fallback;
     }
-    const QJsonValue field = value(key);
-    if (!field.isString() || field.toString().size() > maxLength) {
+    const QString text = field.toString();
+    if (!field.isString() || text.size() > maxLength) {
         m_problem.set(path(key), maxLength == AnyLength
                                      ? qtTrId("ID_Engine_Json_Text")
                                      : qtTrId("ID_Engine_Json_ShortText").arg(maxLength));
         return fallback;
     }
-    return field.toString();
+    return text;
 }
 
 qint64 JsonFields::number(const char* key, qint64 min, qint64 max)
 {
-    return has(key, true) ? number(key, min, max, min) : min;
+    require(key);
+    return number(key, min, max, min);
 }
 
 qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallback)
 {
-    if (!has(key, false)) {
+    const QJsonValue field = value(key, false);
+    if (field.isUndefined()) {
         return fallback;
     }
-    const QJsonValue field = value(key);
     const double number = field.toDouble();
     if (!field.isDouble() || std::floor(number) != number || number < double(min) ||
         number > double(max)) {
@@ -79,19 +96,17 @@ qint64 JsonFields::number(const char* key, qint64 min, qint64 max, qint64 fallba
 
 double JsonFields::real(const char* key)
 {
-    if (has(key, true) && !value(key).isDouble()) {
+    const QJsonValue field = value(key, true);
+    if (!field.isUndefined() && !field.isDouble()) {
         m_problem.set(path(key), qtTrId("ID_Engine_Json_Number"));
     }
-    return value(key).toDouble();
+    return field.toDouble();
 }
 
 bool JsonFields::flag(const char* key, bool fallback)
 {
-    if (!has(key, false)) {
-        return fallback;
-    }
-    const QJsonValue field = value(key);
-    if (!field.isBool()) {
+    const QJsonValue field = value(key, false);
+    if (!field.isUndefined() && !field.isBool()) {
         m_problem.set(path(key), qtTrId("ID_Engine_Json_Flag"));
     }
     return field.toBool(fallback);
@@ -99,20 +114,23 @@ bool JsonFields::flag(const char* key, bool fallback)
 
 QJsonValue JsonFields::any(const char* key)
 {
-    return has(key, true) ? value(key) : QJsonValue();
+    const QJsonValue field = value(key, true);
+    return field.isUndefined() ? QJsonValue() : field;
 }
 
 QString JsonFields::word(const char* key, const QStringList& words)
 {
-    return has(key, true) ? word(key, words, words.constFirst()) : words.constFirst();
+    require(key);
+    return word(key, words, words.constFirst());
 }
 
 QString JsonFields::word(const char* key, const QStringList& words, const QString& fallback)
 {
-    if (!has(key, false)) {
+    const QJsonValue field = value(key, false);
+    if (field.isUndefined()) {
         return fallback;
     }
-    const QString word = value(key).toString();
+    const QString word = field.toString();
     if (!words.contains(word)) {
         m_problem.set(path(key),
                       qtTrId("ID_Engine_Json_Word").arg(words.join(QStringLiteral(", "))));
@@ -123,22 +141,25 @@ QString JsonFields::word(const char* key, const QStringList& words, const QStrin
 
 JsonFields JsonFields::object(const char* key)
 {
-    if (has(key, false) && !value(key).isObject()) {
+    const QJsonValue field = value(key, false);
+    if (!field.isUndefined() && !field.isObject()) {
         m_problem.set(path(key), qtTrId("ID_Engine_Json_Object"));
     }
-    return {value(key).toObject(), path(key), m_problem};
+    return {field.toObject(), path(key), m_problem};
 }
 
 std::vector<JsonFields> JsonFields::objects(const char* key, int maxCount)
 {
     std::vector<JsonFields> result;
     const QJsonArray elements = array(key, maxCount);
+    const QString listPath = path(key);
+    result.reserve(static_cast<std::size_t>(elements.size()));
     for (int i = 0; i < elements.size(); ++i) {
-        const QString elementPath = QStringLiteral("%1[%2]").arg(path(key)).arg(i);
-        if (!elements.at(i).isObject()) {
-            m_problem.set(elementPath, qtTrId("ID_Engine_Json_Object"));
+        const QJsonValue element = elements.at(i);
+        result.push_back(JsonFields(element.toObject(), listPath, i, m_problem));
+        if (!element.isObject()) {
+            m_problem.set(result.back().path(), qtTrId("ID_Engine_Json_Object"));
         }
-        result.emplace_back(elements.at(i).toObject(), elementPath, m_problem);
     }
     return result;
 }
@@ -160,10 +181,10 @@ QStringList JsonFields::words(const char* key, const QStringList& words)
 
 QJsonArray JsonFields::array(const char* key, int maxCount)
 {
-    if (!has(key, false)) {
+    const QJsonValue field = value(key, false);
+    if (field.isUndefined()) {
         return {};
     }
-    const QJsonValue field = value(key);
     if (!field.isArray() || field.toArray().size() > maxCount) {
         m_problem.set(path(key), maxCount == AnyLength
                                      ? qtTrId("ID_Engine_Json_List")
@@ -175,32 +196,35 @@ QJsonArray JsonFields::array(const char* key, int maxCount)
 
 void JsonFields::require(const char* key)
 {
-    has(key, true);
+    value(key, true);
 }
 
 void JsonFields::rejectOthers()
 {
-    const QStringList keys = m_object.keys();
-    for (const QString& key : keys) {
-        if (!m_taken.contains(key)) {
-            m_problem.set(m_path.isEmpty() ? key : m_path + QLatin1Char('.') + key,
+    for (auto field = m_object.constBegin(); field != m_object.constEnd(); ++field) {
+        if (!isTaken(field.key())) {
+            const QString own = path();
+            m_problem.set(own.isEmpty() ? field.key() : own + QLatin1Char('.') + field.key(),
                           qtTrId("ID_Engine_Json_Unknown"));
         }
     }
 }
 
-bool JsonFields::has(const char* key, bool isRequired)
+bool JsonFields::isTaken(const QString& key) const
 {
-    take(QLatin1String(key));
-    if (isRequired && !contains(key)) {
-        m_problem.set(path(key), qtTrId("ID_Engine_Json_Missing"));
-    }
-    return contains(key);
+    return std::any_of(m_asked.begin(), m_asked.end(), [&key](const std::string& asked) {
+        return key == QLatin1String(asked.c_str());
+    });
 }
 
-QJsonValue JsonFields::value(const char* key)
+QJsonValue JsonFields::value(const char* key, bool isRequired)
 {
-    return m_object.value(QLatin1String(key));
+    m_asked.emplace_back(key);
+    const QJsonValue field = m_object.value(QLatin1String(key));
+    if (isRequired && field.isUndefined()) {
+        m_problem.set(path(key), QStringLiteral("is missing"));
+    }
+    return field;
 }
 
 } // namespace Platform

@@ -7,11 +7,11 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <limits>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace Platform {
@@ -71,17 +71,22 @@ public:
     QJsonArray array(const char* key, int maxCount);
 
     void require(const char* key);
-    void take(const QString& key) { m_taken.insert(key); }
     void rejectOthers(); // last call: a field that nobody asked for is a problem
 
 private:
-    bool has(const char* key, bool isRequired);
-    QJsonValue value(const char* key);
+    static constexpr int NoIndex = -1;
+
+    JsonFields(const QJsonObject& object, const QString& listPath, int index, JsonProblem& problem);
+
+    QString path() const;
+    QJsonValue value(const char* key, bool isRequired); // undefined if there is none
+    bool isTaken(const QString& key) const;
 
     QJsonObject m_object;
     QString m_path;
+    int m_index = NoIndex; // in the list of this path
     JsonProblem& m_problem;
-    QSet<QString> m_taken;
+    std::vector<std::string> m_asked; // the names, which may be gone by rejectOthers()
 };
 
 } // namespace Platform

@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>تقرير كتبه أحد الفحوص.</translation>
+        <translation>تقرير كتبه أحد الفحوص؛ والعلامة - تعني الإدخال القياسي. ودونه: تقرير آخر فحص.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>الانتهاء بعد N قيم؛ ومن دونه يستمر الأمر حتى يُوقَف.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>قراءة أسماء التقارير أيضًا من FILE، اسم في كل سطر؛ والعلامة - تعني الإدخال القياسي.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (الافتراضي) أو html أو json أو room: سطر لكل تقرير.</translation>
+        <translation>text (الافتراضي) أو html أو json؛ ولتقارير كثيرة room (جدول) أو map (صفحة فيها مربع لكل تقرير) أو csv أو jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>كتابة التقرير في FILE بدلًا من المكان الافتراضي؛ وامتداده (.json أو .html أو .txt) يحدد صيغته.</translation>
+        <translation>كتابة التقرير في FILE بدلًا من المكان الافتراضي؛ وامتداده (.json أو .html أو .txt) يحدد صيغته، والعلامة - تعني الإخراج القياسي بصيغة JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>كتابة النتائج وحدها أيضًا في FILE بصيغة JSON بعد كل تغيير.</translation>
+        <translation>كتابة النتائج وحدها أيضًا في FILE بصيغة JSON بعد كل تغيير؛ والعلامة - تعني الإخراج القياسي، عند النهاية.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>يجب أن تكون القيمة وقتًا مثل 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>الأسباب</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>الحاسوب</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>تناقض</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>التقارير</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

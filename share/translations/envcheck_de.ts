@@ -812,7 +812,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Ein Bericht, den eine Prüfung geschrieben hat.</translation>
+        <translation>Ein Bericht, den eine Prüfung geschrieben hat; - ist die Standardeingabe. Ohne ihn: der Bericht der letzten Prüfung.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Endet nach N Messwerten; sonst läuft der Befehl, bis er beendet wird.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Nimmt die Namen von Berichten auch aus FILE, einen je Zeile; - ist die Standardeingabe.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (Standard), html, json oder room: eine Zeile je Bericht.</translation>
+        <translation>text (Standard), html oder json; für viele Berichte room (Tabelle), map (Seite mit einer Kachel je Bericht), csv oder jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format.</translation>
+        <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format, - ist die Standardausgabe, als JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Schreibt nach jeder Änderung auch die bloßen Ergebnisse als JSON in FILE.</translation>
+        <translation>Schreibt nach jeder Änderung auch die bloßen Ergebnisse als JSON in FILE; - ist die Standardausgabe, am Ende.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>muss eine Zeit wie 2026-03-01T08:30:00Z sein</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Ursachen</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Computer</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Widerspruch</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Berichte</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>A report that the check has written.</translation>
+        <translation>A report that the check has written; - is standard input. Without it: the report of the last run.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>End after N figures; without it the command runs until it is stopped.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Also take the names of reports from FILE, one on each line; - is standard input.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (the default), html, json, or room: one line for each report.</translation>
+        <translation>text (the default), html or json; for many reports room (a table), map (a page with a tile for each), csv or jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Write the report to FILE instead of the default place; the ending of its name (.json, .html or .txt) sets the format.</translation>
+        <translation>Write the report to FILE instead of the default place; the ending of its name (.json, .html or .txt) sets the format, and - is standard output, as JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Also write the results alone to FILE, as JSON, after each change.</translation>
+        <translation>Also write the results alone to FILE, as JSON, after each change; - is standard output, at the end.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>must be a time such as 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Causes</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Computer</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Contradiction</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Reports</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

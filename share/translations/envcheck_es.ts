@@ -812,7 +812,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Un informe escrito por una comprobación.</translation>
+        <translation>Un informe escrito por una comprobación; - es la entrada estándar. Sin él: el informe de la última comprobación.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Termina después de N valores; sin esta opción sigue hasta que se detiene.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Toma los nombres de informes también de FILE, uno por línea; - es la entrada estándar.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (por defecto), html, json o room: una línea por informe.</translation>
+        <translation>text (por defecto), html o json; para muchos informes room (una tabla), map (una página con un recuadro por informe), csv o jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Escribe el informe en FILE en lugar del sitio habitual; la extensión (.json, .html o .txt) indica el formato.</translation>
+        <translation>Escribe el informe en FILE en lugar del sitio habitual; la extensión (.json, .html o .txt) indica el formato, y - es la salida estándar, como JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Escribe además los resultados en FILE, como JSON, después de cada cambio.</translation>
+        <translation>Escribe además los resultados en FILE, como JSON, después de cada cambio; - es la salida estándar, al final.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>debe ser una fecha como 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Causas</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Equipo</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Contradicción</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Informes</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Un rapport écrit par une vérification.</translation>
+        <translation>Un rapport écrit par une vérification ; - est l’entrée standard. Sans lui : le rapport de la dernière vérification.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>S’arrête après N valeurs ; sans cette option, continue jusqu’à l’arrêt.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Prend aussi les noms de rapports dans FILE, un par ligne ; - est l’entrée standard.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (par défaut), html, json ou room : une ligne par rapport.</translation>
+        <translation>text (par défaut), html ou json ; pour de nombreux rapports room (un tableau), map (une page avec une case par rapport), csv ou jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format.</translation>
+        <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format, et - est la sortie standard, en JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Écrit aussi les résultats bruts dans FILE, en JSON, après chaque changement.</translation>
+        <translation>Écrit aussi les résultats bruts dans FILE, en JSON, après chaque changement ; - est la sortie standard, à la fin.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>doit être une date comme 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Causes</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Ordinateur</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Contradiction</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Rapports</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>チェックが書き出したレポート。</translation>
+        <translation>チェックが書き出したレポート。- は標準入力です。省略すると、前回のチェックのレポートです。</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>N 個の値を表示したら終了します。指定しないと停止されるまで続けます。</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>レポートの名前を FILE からも読み込みます（1 行に 1 つ）。- は標準入力です。</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text（既定）、html、json、または room（レポートごとに 1 行）。</translation>
+        <translation>text（既定）、html、json。多数のレポートには room（表）、map（レポートごとのタイルを並べたページ）、csv、jsonl。</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>レポートを既定の場所ではなく FILE に書き込みます。拡張子（.json、.html、.txt）で形式が決まります。</translation>
+        <translation>レポートを既定の場所ではなく FILE に書き込みます。拡張子（.json、.html、.txt）で形式が決まります。- は標準出力で、JSON です。</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>変更のたびに、結果だけを JSON で FILE にも書き込みます。</translation>
+        <translation>変更のたびに、結果だけを JSON で FILE にも書き込みます。- は標準出力で、最後に書き込みます。</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>2026-03-01T08:30:00Z のような時刻でなければなりません</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>原因</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>コンピューター</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>矛盾</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>レポート数</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

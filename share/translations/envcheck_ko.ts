@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>점검에서 만든 보고서.</translation>
+        <translation>점검에서 만든 보고서. -는 표준 입력입니다. 생략하면 마지막 점검의 보고서입니다.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>값 N개를 출력한 뒤 끝냅니다. 없으면 중지될 때까지 실행합니다.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>보고서 이름을 FILE에서도 읽습니다(한 줄에 하나). -는 표준 입력입니다.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text(기본값), html, json 또는 room(보고서마다 한 줄).</translation>
+        <translation>text(기본값), html, json. 보고서가 많으면 room(표), map(보고서마다 칸이 있는 페이지), csv, jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>보고서를 기본 위치 대신 FILE에 씁니다. 확장자(.json, .html, .txt)로 형식이 정해집니다.</translation>
+        <translation>보고서를 기본 위치 대신 FILE에 씁니다. 확장자(.json, .html, .txt)로 형식이 정해지고, -는 표준 출력(JSON)입니다.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>변경될 때마다 결과만 JSON으로 FILE에도 씁니다.</translation>
+        <translation>변경될 때마다 결과만 JSON으로 FILE에도 씁니다. -는 표준 출력이며 끝날 때 씁니다.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>2026-03-01T08:30:00Z와 같은 시각이어야 합니다</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>원인</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>컴퓨터</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>모순</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>보고서</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Um relatório que uma verificação gravou.</translation>
+        <translation>Um relatório que uma verificação gravou; - é a entrada padrão. Sem ele: o relatório da última verificação.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Termina depois de N valores; sem esta opção, continua até ser interrompido.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Lê também os nomes dos relatórios de FILE, um por linha; - é a entrada padrão.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (padrão), html, json ou room: uma linha por relatório.</translation>
+        <translation>text (padrão), html ou json; para muitos relatórios room (uma tabela), map (uma página com um quadro para cada um), csv ou jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Grava o relatório em FILE em vez do lugar padrão; a extensão (.json, .html ou .txt) define o formato.</translation>
+        <translation>Grava o relatório em FILE em vez do lugar padrão; a extensão (.json, .html ou .txt) define o formato, e - é a saída padrão, como JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Grava também os resultados em FILE, como JSON, após cada mudança.</translation>
+        <translation>Grava também os resultados em FILE, como JSON, após cada mudança; - é a saída padrão, no fim.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>deve ser uma data como 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Causas</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Computador</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Contradição</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Relatórios</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

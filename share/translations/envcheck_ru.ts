@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Отчёт, записанный проверкой.</translation>
+        <translation>Отчёт, записанный проверкой; - означает стандартный ввод. Без него: отчёт последней проверки.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>Завершить после N значений; иначе команда работает, пока её не остановят.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Брать имена отчётов также из FILE, по одному в строке; - означает стандартный ввод.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (по умолчанию), html, json или room: одна строка на отчёт.</translation>
+        <translation>text (по умолчанию), html или json; для многих отчётов room (таблица), map (страница с плиткой на каждый отчёт), csv или jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Записать отчёт в FILE вместо обычного места; расширение (.json, .html или .txt) задаёт формат.</translation>
+        <translation>Записать отчёт в FILE вместо обычного места; расширение (.json, .html или .txt) задаёт формат, а - означает стандартный вывод, как JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Записывать также сами результаты в FILE как JSON после каждого изменения.</translation>
+        <translation>Записывать также сами результаты в FILE как JSON после каждого изменения; - означает стандартный вывод, в конце.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>должно быть временем вида 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Причины</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Компьютер</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Противоречие</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Отчёты</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>Báo cáo do một lần kiểm tra ghi ra.</translation>
+        <translation>Báo cáo do một lần kiểm tra ghi ra; - là đầu vào chuẩn. Nếu không có: báo cáo của lần kiểm tra gần nhất.</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>Kết thúc sau N số đo; nếu không, lệnh chạy cho đến khi bị dừng.</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>Lấy thêm tên các báo cáo từ FILE, mỗi dòng một tên; - là đầu vào chuẩn.</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text (mặc định), html, json hoặc room: mỗi báo cáo một dòng.</translation>
+        <translation>text (mặc định), html hoặc json; với nhiều báo cáo: room (bảng), map (trang có một ô cho mỗi báo cáo), csv hoặc jsonl.</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng.</translation>
+        <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng, còn - là đầu ra chuẩn, dạng JSON.</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>Ghi thêm kết quả vào FILE dưới dạng JSON sau mỗi thay đổi.</translation>
+        <translation>Ghi thêm kết quả vào FILE dưới dạng JSON sau mỗi thay đổi; - là đầu ra chuẩn, khi kết thúc.</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>phải là thời gian như 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>Nguyên nhân</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>Máy tính</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>Mâu thuẫn</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>Báo cáo</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>由检测生成的报告。</translation>
+        <translation>由检测生成的报告；- 表示标准输入。省略时：最近一次检测的报告。</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>得到 N 个数值后结束；否则命令一直运行，直到被停止。</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>同时从 FILE 读取报告的名称，每行一个；- 表示标准输入。</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text（默认）、html、json 或 room：每份报告一行。</translation>
+        <translation>text（默认）、html 或 json；报告很多时用 room（表格）、map（每份报告一格的页面）、csv 或 jsonl。</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>将报告写入 FILE 而不是默认位置；扩展名（.json、.html 或 .txt）决定格式。</translation>
+        <translation>将报告写入 FILE 而不是默认位置；扩展名（.json、.html 或 .txt）决定格式，- 表示标准输出，为 JSON。</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>每次变化后，另将原始结果以 JSON 写入 FILE。</translation>
+        <translation>每次变化后，另将原始结果以 JSON 写入 FILE；- 表示标准输出，在结束时写入。</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>必须是时间，例如 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>原因</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>计算机</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>矛盾</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>报告</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -812,7 +812,7 @@
     </message>
     <message id="ID_Host_Help_File">
         <source></source>
-        <translation>由檢測產生的報告。</translation>
+        <translation>由檢測產生的報告；- 代表標準輸入。省略時：最近一次檢測的報告。</translation>
     </message>
     <message id="ID_Host_Help_Network">
         <source></source>
@@ -902,9 +902,13 @@
         <source></source>
         <translation>得到 N 個數值後結束；否則指令會一直執行，直到被停止。</translation>
     </message>
+    <message id="ID_Host_Option_FilesFrom">
+        <source></source>
+        <translation>同時從 FILE 讀取報告的名稱，每行一個；- 代表標準輸入。</translation>
+    </message>
     <message id="ID_Host_Option_Format">
         <source></source>
-        <translation>text（預設）、html、json 或 room：每份報告一行。</translation>
+        <translation>text（預設）、html 或 json；報告很多時用 room（表格）、map（每份報告一格的頁面）、csv 或 jsonl。</translation>
     </message>
     <message id="ID_Host_Option_Help">
         <source></source>
@@ -940,7 +944,7 @@
     </message>
     <message id="ID_Host_Option_Report">
         <source></source>
-        <translation>將報告寫入 FILE 而不是預設位置；副檔名（.json、.html 或 .txt）決定格式。</translation>
+        <translation>將報告寫入 FILE 而不是預設位置；副檔名（.json、.html 或 .txt）決定格式，- 代表標準輸出，為 JSON。</translation>
     </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
@@ -948,7 +952,7 @@
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
-        <translation>每次變更後，另將原始結果以 JSON 寫入 FILE。</translation>
+        <translation>每次變更後，另將原始結果以 JSON 寫入 FILE；- 代表標準輸出，在結束時寫入。</translation>
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
@@ -1070,9 +1074,21 @@
         <source></source>
         <translation>必須是時間，例如 2026-03-01T08:30:00Z</translation>
     </message>
+    <message id="ID_Host_Report_Causes">
+        <source></source>
+        <translation>原因</translation>
+    </message>
+    <message id="ID_Host_Report_Computer">
+        <source></source>
+        <translation>電腦</translation>
+    </message>
     <message id="ID_Host_Report_Contradiction">
         <source></source>
         <translation>矛盾</translation>
+    </message>
+    <message id="ID_Host_Report_Count">
+        <source></source>
+        <translation>報告</translation>
     </message>
     <message id="ID_Host_Report_Device">
         <source></source>

@@ -7,6 +7,7 @@
 #include "host/report/ReportFile.h"
 #include "host/report/ReportWriter.h"
 #include "host/report/RunOutcome.h"
+#include "host/report/TwinTexts.h"
 #include "platform/backend/FileWriter.h"
 #include "tests/host/report/SampleReport.h"
 
@@ -194,7 +195,7 @@ void tst_OutcomeWindow::copies()
     QGuiApplication::clipboard()->clear();
     click("copyButton");
     QCOMPARE(QGuiApplication::clipboard()->text(),
-             ReportWriter::toText(m_report, m_report.language));
+             ReportWriter::toText(m_report, TwinTexts(m_report.language)));
     QCOMPARE(message(), qtTrId("ID_Host_Window_Copied"));
 }
 

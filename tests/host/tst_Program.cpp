@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <sys/stat.h>
 
 // The program as users start it, each time with a home of its own.
 class tst_Program : public QObject
@@ -50,6 +51,11 @@ private Q_SLOTS:
     void serveAndMeasure();
     void servedPortInUse();
     void reports();
+    void oneBadReportAmongOthers_data();
+    void oneBadReportAmongOthers();
+    void reportsByList();
+    void reportsEndedBySignal_data();
+    void reportsEndedBySignal();
 
 private:
     struct Run
@@ -164,7 +170,9 @@ tst_Program::Run tst_Program::checked(const QStringList& arguments, int signal,
     if (!isOver) {
         qWarning("The check never measured the network");
     }
-    ::kill(static_cast<pid_t>(process->processId()), signal);
+    if (process->state() == QProcess::Running) { // else the id is 0, which means every program here
+        ::kill(static_cast<pid_t>(process->processId()), signal);
+    }
     return finished(*process);
 }
 
@@ -645,11 +653,109 @@ void tst_Program::reports()
              ReportJson::toJson(sampleReport()));
     const Run room = run(QStringList{QStringLiteral("report"), report.fileName(), report.fileName(),
                                      QStringLiteral("--format"), QStringLiteral("room")});
-    QCOMPARE(room.out.count(QLatin1Char('\n')), 3);
+    QVERIFY2(room.out.contains(QLatin1String("Reports: 2\n")), qPrintable(room.out));
     QVERIFY(!shown("--redact personal").out.contains(QLatin1String("robin")));
     const Run list = run(QStringList{QStringLiteral("report"), report.fileName(), report.fileName(),
                                      QStringLiteral("--format"), QStringLiteral("json")});
     QCOMPARE(QJsonDocument::fromJson(list.out.toUtf8()).array().size(), 2);
+}
+
+void tst_Program::oneBadReportAmongOthers_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const char* format : {"text", "html", "json", "room", "csv", "jsonl", "map"}) {
+        QTest::newRow(format) << QString::fromLatin1(format);
+    }
+}
+
+// What is no report gets one line each, a pipe without waiting for its writer.
+void tst_Program::oneBadReportAmongOthers()
+{
+    QFETCH(QString, format);
+    QFile report(file("one.json"));
+    QVERIFY(report.open(QIODevice::WriteOnly));
+    report.write(ReportWriter::toJson(sampleReport()));
+    report.close();
+    QCOMPARE(::mkfifo(QFile::encodeName(file("pipe.json")).constData(), 0600), 0);
+    const Run alone = run({QStringLiteral("report"), report.fileName(), report.fileName(),
+                           QStringLiteral("--format"), format});
+    QCOMPARE(alone.code, 0);
+    const Run mixed = run({QStringLiteral("report"), file("not-there.json"), report.fileName(),
+                           file("pipe.json"), QStringLiteral("/dev/zero"), m_home->path(),
+                           report.fileName(), QStringLiteral("--format"), format});
+    QCOMPARE(mixed.code, 65);
+    QCOMPARE(mixed.out, alone.out);
+    const QStringList lines = mixed.error.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 4);
+    QVERIFY2(lines.at(0).contains(file("not-there.json")), qPrintable(lines.at(0)));
+    QVERIFY2(lines.at(1).contains(file("pipe.json")), qPrintable(lines.at(1)));
+    QVERIFY2(lines.at(2).contains(QLatin1String("/dev/zero")), qPrintable(lines.at(2)));
+}
+
+void tst_Program::reportsByList()
+{
+    QFile report(file("one.json"));
+    QVERIFY(report.open(QIODevice::WriteOnly));
+    report.write(ReportWriter::toJson(sampleReport()));
+    report.close();
+    const QStringList csv = {QStringLiteral("report"), QStringLiteral("--format"),
+                             QStringLiteral("csv")};
+    const Run named = run(csv + QStringList{report.fileName(), report.fileName()});
+    const QString listed = QStringLiteral("cd \"$HOME\"; printf 'one.json\\none.json\\n' | ") +
+                           QStringLiteral("\"$0\" \"$@\"");
+    const Run byList = finished(*started(csv + words("--files-from -"), listed));
+    QCOMPARE(byList.code, 0);
+    QCOMPARE(byList.out, named.out);
+    const Run byInput = finished(
+        *started(csv + words("-"), QStringLiteral("\"$0\" \"$@\" < ") + report.fileName()));
+    QCOMPARE(byInput.code, 0);
+    QCOMPARE(byInput.out.count(QLatin1Char('\n')), 2);
+    QCOMPARE(run(csv + words("--files-from /nonexistent")).code, 65);
+}
+
+void tst_Program::reportsEndedBySignal_data()
+{
+    checkEndedBySignal_data();
+}
+
+// Also while it waits for standard input, or for the reader of its output.
+void tst_Program::reportsEndedBySignal()
+{
+    QFETCH(int, signal);
+    QFile report(file("one.json"));
+    QVERIFY(report.open(QIODevice::WriteOnly));
+    report.write(ReportWriter::toJson(sampleReport()));
+    report.close();
+    QFile list(file("list"));
+    QVERIFY(list.open(QIODevice::WriteOnly));
+    for (int i = 0; i < 1000; ++i) {
+        list.write(QFile::encodeName(report.fileName()) + '\n');
+    }
+    list.close();
+    // The pipe's other end is open in the shell, which neither writes nor reads.
+    const QString unread = QStringLiteral("mkfifo \"$HOME/p\"; exec 3<>\"$HOME/p\"; echo; "
+                                          "exec \"$0\" \"$@\" >&3");
+    const QString unwritten = QStringLiteral("mkfifo \"$HOME/q\"; exec 3<>\"$HOME/q\"; echo; "
+                                             "exec \"$0\" \"$@\" <&3");
+    const std::vector<std::pair<QString, QString>> cases = {
+        {unread, QStringLiteral("report --files-from ") + list.fileName()},
+        {unwritten, QStringLiteral("report -")}};
+    for (const auto& [wrapper, arguments] : cases) {
+        const std::unique_ptr<QProcess> process = started(words(qPrintable(arguments)), wrapper);
+        QVERIFY(process->waitForReadyRead(TimeoutMs));
+        const auto isBlocked = [&process] {
+            QFile wait(QStringLiteral("/proc/%1/wchan").arg(process->processId()));
+            const QByteArray name = wait.open(QIODevice::ReadOnly) ? wait.readAll() : QByteArray();
+            QFile command(QStringLiteral("/proc/%1/comm").arg(process->processId()));
+            return command.open(QIODevice::ReadOnly) && command.readAll() == "envcheck\n" &&
+                   !name.isEmpty() && name != "0";
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isBlocked(), TimeoutMs);
+        ::kill(static_cast<pid_t>(process->processId()), signal);
+        QVERIFY(process->waitForFinished(TimeoutMs));
+        QCOMPARE(process->exitStatus(), QProcess::CrashExit);
+        QCOMPARE(process->exitCode(), signal);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Program)

@@ -6,6 +6,7 @@
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
 #include "host/report/ReportWriter.h"
+#include "host/report/TwinTexts.h"
 #include "tests/host/report/SampleReport.h"
 
 #include <QXmlStreamReader>
@@ -31,16 +32,26 @@ private Q_SLOTS:
     void soundPlayedAndPicked();
     void verdictsAreMarked();
     void whatIsLeftOutHasNoRow();
-    void roomTable();
+    void pageBeginsWithWhatToDo();
     void formats_data();
     void formats();
 };
 
 namespace {
 
+QString textOf(const Report& report, const QString& language)
+{
+    return ReportWriter::toText(report, TwinTexts(language));
+}
+
+QString htmlOf(const Report& report, const QString& language)
+{
+    return QString::fromUtf8(ReportWriter::toFormat(report, Options::Format::Html, language));
+}
+
 QString html(const QString& language)
 {
-    return ReportWriter::toHtml({sampleReport()}, language);
+    return htmlOf(sampleReport(), language);
 }
 
 // What a reader sees of a page, without its head.
@@ -78,7 +89,7 @@ void tst_ReportWriter::everyLanguageHasItsTwin()
     const QString title = ReportTexts(language).text("ID_Host_Report_Title");
     const QString twin = QStringLiteral("System check report (English, for support)");
     const bool isEnglish = language == QLatin1String("en");
-    for (const QString& shown : {ReportWriter::toText(sampleReport(), language), html(language)}) {
+    for (const QString& shown : {textOf(sampleReport(), language), html(language)}) {
         QVERIFY(shown.contains(title));
         QCOMPARE(shown.contains(twin), !isEnglish);
         QVERIFY2(!shown.contains(QLatin1String("ID_")), qPrintable(shown));
@@ -110,7 +121,7 @@ void tst_ReportWriter::foreignTextIsNoMarkup()
 void tst_ReportWriter::textHasNoControlCharacters()
 {
     for (const QString& shown :
-         {ReportWriter::toText(sampleReport(), QStringLiteral("en")), html(QStringLiteral("en"))}) {
+         {textOf(sampleReport(), QStringLiteral("en")), html(QStringLiteral("en"))}) {
         QVERIFY(!shown.contains(QChar(0x1B)));
         QVERIFY(shown.contains(QLatin1String("Mic [31m of Robin")));
     }
@@ -118,7 +129,7 @@ void tst_ReportWriter::textHasNoControlCharacters()
 
 void tst_ReportWriter::textAndHtmlShowTheSame()
 {
-    const QString text = ReportWriter::toText(sampleReport(), QStringLiteral("de"));
+    const QString text = textOf(sampleReport(), QStringLiteral("de"));
     const QString page = visibleText(html(QStringLiteral("de")));
     const ReportView view = ReportView::of(sampleReport(), ReportTexts(QStringLiteral("de")));
     QVERIFY(view.sections.size() >= 7);
@@ -175,7 +186,7 @@ void tst_ReportWriter::everyWordHasAText()
 
 void tst_ReportWriter::theThreeKindsReadDifferently()
 {
-    const QString text = ReportWriter::toText(sampleReport(), QStringLiteral("en")).simplified();
+    const QString text = textOf(sampleReport(), QStringLiteral("en")).simplified();
     QVERIFY(text.contains(QLatin1String("Picture rate 30/s")));
     QVERIFY(text.contains(QLatin1String("Brightness not measured: the engine does not record it")));
     QVERIFY(
@@ -210,8 +221,8 @@ void tst_ReportWriter::soundPlayedAndPicked()
     Report report = sampleReport();
     report.checks[2].deviceState = deviceState;
     const QString german = QStringLiteral("de");
-    for (const QString& shown : {ReportWriter::toText(report, german).simplified(),
-                                 visibleText(ReportWriter::toHtml({report}, german))}) {
+    for (const QString& shown :
+         {textOf(report, german).simplified(), visibleText(htmlOf(report, german))}) {
         QVERIFY(shown.contains(QString::fromUtf8("Abgespieltes Geräusch Donner ") + germanRow));
         QVERIFY(shown.contains(QLatin1String("Sound played Thunder ") + englishRow));
         QCOMPARE(shown.count(QLatin1String("Right sound picked")), 1); // of the speaker alone
@@ -227,8 +238,7 @@ void tst_ReportWriter::verdictsAreMarked()
     report.gradeLines.clear();
     const auto marks = [&report](Verdict verdict) {
         report.checks[0].verdict = verdict;
-        return ReportWriter::toHtml({report}, QStringLiteral("en"))
-            .count(QStringLiteral("class=\"bad\""));
+        return htmlOf(report, QStringLiteral("en")).count(QStringLiteral("class=\"bad\""));
     };
     const auto passed = marks(Verdict::Passed);
     QVERIFY(marks(Verdict::Failed) > passed);
@@ -252,23 +262,20 @@ void tst_ReportWriter::whatIsLeftOutHasNoRow()
     QVERIFY(captions.contains(QStringLiteral("Picture rate")));
 }
 
-void tst_ReportWriter::roomTable()
+// What is wrong and what to do stands first; the rest is folded.
+void tst_ReportWriter::pageBeginsWithWhatToDo()
 {
-    Report second = sampleReport();
-    second.redaction = Options::Redaction::Personal;
-    second.facts = {};
-    second.checks.clear();
-    second.grade.reset();
-    QCOMPARE(ReportWriter::toRoomTable({sampleReport(), second},
-                                       {QStringLiteral("seat-1"), QStringLiteral("robins-file")},
-                                       QStringLiteral("en")),
-             QStringLiteral(
-                 "#       Account            Outcome            System  Camera  Speaker  Mic     "
-                 "Network quality  Contradiction\n"
-                 "seat-1  robin@example.org  Everything passed  Passed  Passed  Passed   Passed  "
-                 "fair             1\n"
-                 "2                          Everything passed  -       -       -        -       "
-                 "-                0\n"));
+    Report report = sampleReport();
+    report.checks[1].verdict = Verdict::Failed;
+    report.checks[1].causes = {Cause::Black};
+    const QString page = htmlOf(report, QStringLiteral("en"));
+    const auto remedy = page.indexOf(QLatin1String("open the lens cover"));
+    const auto firstFold = page.indexOf(QLatin1String("<details>"));
+    QVERIFY(remedy > 0 && remedy < firstFold);
+    QVERIFY(remedy < page.indexOf(QLatin1String(">Time<")));
+    QCOMPARE(page.count(QLatin1String("<details>")), 6); // changes, machine, four checks
+    QCOMPARE(page.count(QLatin1String("<h2>")), 1);
+    QVERIFY(page.contains(QLatin1String("prefers-color-scheme:dark")));
 }
 
 void tst_ReportWriter::formats_data()
