@@ -142,6 +142,12 @@ Scenario::Action ScenarioDeviceReader::readDevice(JsonFields& fields, Kind kind)
     const DeviceInfo info = readInfo(fields);
     const DeviceState state = readState(fields, DeviceState::Ready);
     m_ids[kind].insert(info.id);
+    if (m_ids[kind].size() > MaxDevices) {
+        fields.problem().set(fields.path("id"),
+                             QStringLiteral("more than %1 different devices of this kind; plug in "
+                                            "one that was there before")
+                                 .arg(MaxDevices));
+    }
     const Scenario::Action setTraits = readTraits(fields, kind);
     return [kind, info, state, setTraits](ScriptedEngine& engine) {
         setTraits(engine);

@@ -66,15 +66,9 @@ void ScriptedDevices::choose(const QString& id)
     }
 }
 
-DeviceList ScriptedDevices::devices() const
-{
-    return withDistinctNames(DeviceList(m_devices.begin(), m_devices.end()));
-}
-
 QString ScriptedDevices::defaultName() const
 {
-    const DeviceList list = devices();
-    return list.empty() ? QString() : list.front().name;
+    return m_list.empty() ? QString() : m_list.front().name;
 }
 
 DeviceState ScriptedDevices::currentState() const
@@ -94,14 +88,14 @@ DeviceState ScriptedDevices::stateOf(const QString& id) const
 // An unplugged device keeps its last name.
 void ScriptedDevices::refreshCurrentName()
 {
-    const DeviceList list = devices();
-    if (const DeviceInfo* device = findDevice(list, m_currentId)) {
+    if (const DeviceInfo* device = findDevice(m_list, m_currentId)) {
         m_currentName = device->name;
     }
 }
 
 void ScriptedDevices::announceList()
 {
+    m_list = withDistinctNames(DeviceList(m_devices.begin(), m_devices.end()));
     refreshCurrentName();
     Q_EMIT listChanged();
     Q_EMIT currentChanged(m_currentId);

@@ -33,7 +33,7 @@ public:
     void setState(const QString& id, DeviceState state);
     void choose(const QString& id); // an empty id means "no device"
 
-    DeviceList devices() const;
+    DeviceList devices() const { return m_list; }
     QString currentId() const { return m_currentId; }
     // The system's default device: the first of the list. Null if the list is empty.
     QString defaultName() const;
@@ -57,6 +57,7 @@ private:
     void announceList();
 
     std::vector<Device> m_devices;
+    DeviceList m_list; // the same with distinct names
     QString m_currentId;
     QString m_currentName;
     bool m_isChoiceMade = false;

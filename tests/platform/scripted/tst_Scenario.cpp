@@ -277,6 +277,16 @@ void tst_Scenario::namesFileLineAndField_data()
     row("equal ids",
         "{\"speakers\": [{ \"id\": \"a\", \"name\": \"A\" },\n{ \"id\": \"a\", \"name\": \"B\" }]}",
         "2: speakers[1].id: must be unique in its list");
+    QByteArray plugs;
+    for (int number = 0; number <= 1000; ++number) {
+        plugs += number == 0 ? "" : ",";
+        plugs += R"({"atMs": 0, "event": "plug", "kind": "camera", "name": "", "id": ")" +
+                 QByteArray::number(number) + "\"}";
+    }
+    row("too many plugs", "{\"timeline\": [" + plugs + "]}",
+        "1: timeline[0].id: more than 1000 different devices of this kind");
+    const QByteArray shown = "1: " + QByteArray(199, 'k') + "\u2026: is not a known field here";
+    row("long key", "{\"" + QByteArray(5000, 'k') + "\": 1}", shown.constData());
     row("no list", "{\"cameras\": {}}", "1: cameras: must be a list of at most 1000 elements");
     row("no object", "{\"cameras\": [ 7 ]}", "1: cameras[0]: must be an object");
     row("no text", "{\"cameras\": [{ \"id\": 7, \"name\": \"\" }]}",
