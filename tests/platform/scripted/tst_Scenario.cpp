@@ -287,8 +287,9 @@ void tst_Scenario::namesFileLineAndField_data()
                  QByteArray::number(number) + "\"}";
     }
     row("too many plugs", "{\"timeline\": [" + plugs + "]}",
-        "timeline[0].id: more than 1000 different devices of this kind");
-    row("long key", "{\"" + QByteArray(5000, 'k') + "\": 1}", "k\u2026: is not a known field here");
+        "1: timeline[0].id: more than 1000 different devices of this kind");
+    const QByteArray shown = "1: " + QByteArray(199, 'k') + "\u2026: is not a known field here";
+    row("long key", "{\"" + QByteArray(5000, 'k') + "\": 1}", shown.constData());
     row("no list", "{\"cameras\": {}}", "1: cameras: must be a list of at most 1000 elements");
     row("no object", "{\"cameras\": [ 7 ]}", "1: cameras[0]: must be an object");
     row("no text", "{\"cameras\": [{ \"id\": 7, \"name\": \"\" }]}",
