@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/campaign/DeviceRig.h"
+
+#include "tests/support/CameraProcess.h"
+
+#include <QTest>
+
+using namespace TestSupport;
+
+namespace {
+
+constexpr int StartTimeoutMs = 10000;
+
+} // namespace
+
+const QString DeviceRig::CameraName = QStringLiteral("Test Camera");
+
+DeviceRig::DeviceRig() : m_server(SoundServer::Kind::PipeWire)
+{
+}
+
+DeviceRig::~DeviceRig() = default;
+
+bool DeviceRig::start()
+{
+    return m_server.start() && startCamera();
+}
+
+bool DeviceRig::startCamera(const QString& description)
+{
+    endCamera();
+    m_camera = std::make_unique<CameraProcess>(QStringLiteral("camera"), description);
+    return QTest::qWaitFor([this] { return m_camera->output().contains("paused"); },
+                           StartTimeoutMs);
+}
+
+void DeviceRig::endCamera()
+{
+    if (m_camera) {
+        m_camera->kill();
+        m_camera.reset();
+    }
+}
