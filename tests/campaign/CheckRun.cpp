@@ -94,15 +94,14 @@ Options CheckRun::options(const QByteArray& scenario) const
 void CheckRun::run(const QByteArray& scenario, const AtStep& atStep)
 {
     const Options chosen = options(scenario);
-    std::unique_ptr<TestSupport::GapMeter> gaps;
     const auto visit = [&](Step step, const DialogView& view) {
-        if (!gaps) {
-            gaps = std::make_unique<TestSupport::GapMeter>(); // the dialog is open
+        if (!m_gaps) {
+            m_gaps = std::make_unique<TestSupport::GapMeter>();
         }
         m_view = &view;
         atStep(*this, step);
         if (step == Step::Result) {
-            m_injection.noteGaps(gaps->longestMs(), double(gaps->usualMs()));
+            noteGaps();
             m_hasClosed = true;
         }
     };
@@ -129,6 +128,18 @@ ScriptedEngine& CheckRun::engine() const
 void CheckRun::wait(int ms) const
 {
     QTest::qWait(ms);
+}
+
+void CheckRun::noteGaps()
+{
+    m_injection.noteGaps(m_gaps->longestMs(), double(m_gaps->usualMs()));
+}
+
+void CheckRun::unmetered(const std::function<void()>& action)
+{
+    noteGaps();
+    action();
+    m_gaps = std::make_unique<TestSupport::GapMeter>();
 }
 
 QStringList CheckRun::shownDevices(Step step) const

@@ -9,10 +9,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
+#include <memory>
 
 class DeviceRig;
 class DialogView;
 struct Options;
+
+namespace TestSupport {
+class GapMeter;
+}
 
 namespace Platform {
 class ScriptedEngine;
@@ -46,6 +51,8 @@ public:
     Platform::ScriptedEngine& engine() const;
     const DialogView& view() const { return *m_view; }
     void wait(int ms) const; // the event loop goes on
+    // What the test itself does for long: starting servers, for instance.
+    void unmetered(const std::function<void()>& action);
     // Within TruthMs, the page has these devices in its list, by name, in any order, and nothing
     // else.
     void expectDevices(Step step, const QStringList& names);
@@ -53,6 +60,7 @@ public:
     void expectText(const char* label, const QString& text);
 
 private:
+    void noteGaps();
     Options options(const QByteArray& scenario) const;
     QStringList shownDevices(Step step) const;
 
@@ -62,6 +70,7 @@ private:
     QString m_server;
     QString m_reportUrl;
     bool m_endsEarly = false;
+    std::unique_ptr<TestSupport::GapMeter> m_gaps; // while the dialog is open
     const DialogView* m_view = nullptr;
     GivenAnswers m_given;
     bool m_hasClosed = false;

@@ -27,6 +27,41 @@ bool DeviceRig::start()
     return m_server.start() && startCamera();
 }
 
+void DeviceRig::kill()
+{
+    m_server.kill();
+    endCamera();
+}
+
+bool DeviceRig::restart()
+{
+    return m_server.start() && startCamera();
+}
+
+QStringList DeviceRig::devices(Step kind) const
+{
+    switch (kind) {
+    case Step::Camera:
+        return {CameraName};
+    case Step::Speaker:
+        return {QStringLiteral("Test Speaker A"), QStringLiteral("Test Speaker B")};
+    case Step::Microphone:
+        return {QStringLiteral("Test Microphone A")};
+    default:
+        return {};
+    }
+}
+
+QByteArray DeviceRig::streams()
+{
+    QByteArray result;
+    for (const char* kind : {"sink-inputs", "source-outputs"}) {
+        result += m_server.control(
+            {QStringLiteral("list"), QStringLiteral("short"), QLatin1String(kind)});
+    }
+    return result;
+}
+
 bool DeviceRig::startCamera(const QString& description)
 {
     endCamera();

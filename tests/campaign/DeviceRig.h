@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/campaign/Step.h"
 #include "tests/support/SoundServer.h"
 
 #include <QString>
@@ -21,6 +22,11 @@ public:
     DeviceRig& operator=(const DeviceRig&) = delete;
 
     bool start(); // with one camera, which sends frames
+    void kill();
+    bool restart(); // after kill()
+    // That the pages show, by name.
+    QStringList devices(Step kind) const;
+    QByteArray streams(); // that the server has now, but those of its own devices
     TestSupport::SoundServer& server() { return m_server; }
     TestSupport::CameraProcess& camera() { return *m_camera; }
     bool startCamera(const QString& description = CameraName); // in place of the present one

@@ -62,7 +62,7 @@ void addLine(FaultResult& result, const QJsonObject& line)
     result.injections += line.value(QLatin1String("injections")).toInt();
     result.signalCount += line.value(QLatin1String("signals")).toInt();
     result.longestGapMs =
-        std::max(result.longestGapMs, qint64(line.value(QLatin1String("gapMs")).toDouble()));
+        std::max(result.longestGapMs, qint64(line.value(QLatin1String("gapMs")).toDouble(-1)));
     const QJsonArray failures = line.value(QLatin1String("failures")).toArray();
     for (const QJsonValue& failure : failures) {
         addFailure(result, QStringLiteral("repetition %1: %2")
@@ -90,8 +90,8 @@ FaultResult FaultProcess::run(const Fault& fault, quint32 seed, int repetitions)
     FaultResult result;
     result.ms = clock.elapsed();
     int count = 0;
-    for (const QByteArray& line : contentOf(lines).split('\n')) {
-        count += line.isEmpty() ? 0 : 1;
+    for (const QByteArray& line : contentOf(lines).trimmed().split('\n')) {
+        ++count;
         addLine(result, QJsonDocument::fromJson(line).object());
     }
     const QByteArray printed = contentOf(output);

@@ -56,6 +56,7 @@ void FaultRun::runDialog(int repetitions)
     };
     // Libraries keep threads and files from then on.
     repeat(-1, [&check](Injection& injection) { check(injection, [](CheckRun&, Step) {}); });
+    const QByteArray streamsBefore = rig ? rig->streams() : QByteArray();
     const Holdings before = Holdings::now();
     for (int i = 0; i < repetitions; ++i) {
         repeat(i, [&](Injection& injection) {
@@ -67,6 +68,9 @@ void FaultRun::runDialog(int repetitions)
             });
             const QString held = Holdings::problemAgainst(before);
             injection.require(held.isEmpty(), held);
+            const QByteArray streams = rig ? rig->streams() : QByteArray();
+            injection.require(streams == streamsBefore,
+                              QStringLiteral("streams: ") + QString::fromUtf8(streams));
         });
     }
 }

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/campaign/FaultTable.h"
 
+#include "tests/campaign/PeerFaults.h"
+#include "tests/campaign/ProgramFaults.h"
 #include "tests/campaign/ScriptedFaults.h"
+#include "tests/campaign/ServerFaults.h"
 
 #include <algorithm>
 #include <iterator>
@@ -48,9 +51,160 @@ std::vector<Fault> scriptedFaults()
     };
 }
 
+std::vector<Fault> programFaults()
+{
+    namespace F = ProgramFaults;
+    constexpr Needs P = Needs::Program;
+    constexpr bool NotSanitized = false;
+    const char* const whole = "the report is whole, or a message says why there is none";
+    return {
+        {"open", "opening a file of its own fails", whole, P, {}, 2, 30, nullptr, F::open},
+        {"open-any", "opening any file fails", whole, P, {}, 2, 30, nullptr, F::openAny},
+        {"read", "reading fails", whole, P, {}, 1, 20, nullptr, F::read},
+        {"write", "writing fails", whole, P, {}, 2, 30, nullptr, F::write},
+        {"sync", "fdatasync fails", whole, P, {}, 2, 30, nullptr, F::sync},
+        {"rename-file", "renaming fails", whole, P, {}, 2, 30, nullptr, F::rename},
+        {"memory",
+         "an allocation of 1 MB or more fails",
+         whole,
+         P,
+         {},
+         2,
+         30,
+         nullptr,
+         F::memory,
+         NotSanitized},
+        {"thread", "a thread can't be made", whole, P, {}, 1, 20, nullptr, F::thread},
+        {"descriptor", "a socket can't be made", whole, P, {}, 1, 20, nullptr, F::descriptor},
+        {"slow-disk", "fdatasync takes up to 2 s", whole, P, {}, 1, 20, nullptr, F::slowDisk},
+        {"full-disk", "no space from some write on", whole, P, {}, 1, 30, nullptr, F::fullDisk},
+        {"full-tmp",
+         "no space in TMPDIR",
+         "the report is whole",
+         P,
+         {},
+         1,
+         10,
+         nullptr,
+         F::fullTemporaryFolder},
+        {"pipe",
+         "a named pipe in the place of a file",
+         "a message",
+         P,
+         {},
+         2,
+         20,
+         nullptr,
+         F::pipes},
+        {"signal", "a signal in the first second", whole, P, {}, 2, 40, nullptr, F::earlySignal},
+        {"kill-writing",
+         "kill -9 while files are written",
+         "the former or the new file",
+         P,
+         {},
+         3,
+         250,
+         nullptr,
+         F::killWhileWriting},
+        {"clock",
+         "the clock jumps, up to a year",
+         "the report is whole",
+         P,
+         {},
+         1,
+         20,
+         nullptr,
+         F::clockJump},
+        {"suspend", "stopped for 5 s", "the check goes on", P, {}, 1, 10, nullptr, F::suspend},
+        {"shared-store",
+         "four programs on one history",
+         "every run is in it once",
+         P,
+         {},
+         2,
+         20,
+         nullptr,
+         F::sharedStore},
+    };
+}
+
+std::vector<Fault> serverFaults()
+{
+    namespace F = ServerFaults;
+    constexpr Needs S = Needs::Servers;
+    const std::vector<Step> noResult(std::begin(AllSteps), std::end(AllSteps) - 1);
+    return {
+        {"server-killed", "all servers killed and started again", "empty lists, then all are back",
+         S, noResult, 1, 8, F::kill, nullptr},
+        {"server-frozen", "all servers stopped for up to 0.6 s", "the last lists", S, EveryStep, 1,
+         10, F::freeze, nullptr},
+        {"server-late", "all servers start after the dialog", "the lists are filled then", S,
+         noResult, 1, 6, F::startLate, nullptr},
+        {"sound-replugged", "a speaker and a microphone come and go", "the lists follow", S,
+         DeviceSteps, 1, 10, F::replugSound, nullptr},
+        {"default-switched", "another default speaker", "the lists stay", S, EveryStep, 1, 8,
+         F::switchDefault, nullptr},
+        {"plug-storm", "400 plugs and unplugs, as fast as the server can", "the last list", S,
+         DeviceSteps, 1, 10, F::plugStorm, nullptr},
+        {"camera-killed", "the camera killed and started again", "the list follows", S, EveryStep,
+         1, 10, F::killCamera, nullptr},
+        {"camera-frozen", "the camera stops responding for up to 0.6 s", "it stays in the list", S,
+         EveryStep, 1, 8, F::freezeCamera, nullptr},
+        {"camera-stalled", "no frames for up to 0.6 s", "it stays in the list", S, EveryStep, 1, 8,
+         F::stallCamera, nullptr},
+        {"camera-renamed", "the camera comes back under another name", "the list follows", S,
+         EveryStep, 1, 8, F::renameCamera, nullptr},
+    };
+}
+
+std::vector<Fault> peerFaults()
+{
+    namespace F = PeerFaults;
+    constexpr Needs P = Needs::Program;
+    constexpr bool NotSanitized = false;
+    const char* const whole = "the report is whole";
+    return {
+        {"stun",
+         "a STUN server that answers with noise and floods",
+         whole,
+         P,
+         {},
+         1,
+         10,
+         nullptr,
+         F::stun},
+        {"dns",
+         "a name server that answers with noise and loops",
+         "nothing stays behind",
+         P,
+         {},
+         2,
+         20,
+         nullptr,
+         F::dns},
+        {"http", "a report server that breaks HTTP", whole, P, {}, 1, 10, nullptr, F::http},
+        {"tls", "a report server that breaks TLS", whole, P, {}, 1, 10, nullptr, F::tls},
+        {"silent-dns", "name servers that don't answer", whole, P, {}, 1, 4, nullptr, F::silentDns},
+        {"unload",
+         "the library loaded and unloaded 100 times",
+         "nothing stays behind",
+         P,
+         {},
+         1,
+         1,
+         nullptr,
+         F::unload,
+         NotSanitized},
+    };
+}
+
 std::vector<Fault> table()
 {
-    return scriptedFaults();
+    std::vector<Fault> result = scriptedFaults();
+    for (const std::vector<Fault>& more : {serverFaults(), programFaults(), peerFaults()}) {
+        result.insert(result.end(), more.begin(), more.end());
+    }
+    return result;
 }
 
 } // namespace
