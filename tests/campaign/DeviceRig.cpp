@@ -44,7 +44,8 @@ QStringList DeviceRig::devices(Step kind) const
     case Step::Camera:
         return {CameraName};
     case Step::Speaker:
-        return {QStringLiteral("Test Speaker A"), QStringLiteral("Test Speaker B")};
+        return {QStringLiteral("Test Speaker A"), QStringLiteral("Test Speaker B"),
+                QStringLiteral("Voice")};
     case Step::Microphone:
         return {QStringLiteral("Test Microphone A")};
     default:
@@ -52,12 +53,13 @@ QStringList DeviceRig::devices(Step kind) const
     }
 }
 
-QByteArray DeviceRig::streams()
+int DeviceRig::streams()
 {
-    QByteArray result;
+    int result = 0;
     for (const char* kind : {"sink-inputs", "source-outputs"}) {
-        result += m_server.control(
+        const QByteArray list = m_server.control(
             {QStringLiteral("list"), QStringLiteral("short"), QLatin1String(kind)});
+        result += list.isEmpty() ? 0 : list.count('\n') + 1;
     }
     return result;
 }

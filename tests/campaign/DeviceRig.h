@@ -26,7 +26,7 @@ public:
     bool restart(); // after kill()
     // That the pages show, by name.
     QStringList devices(Step kind) const;
-    QByteArray streams(); // that the server has now, but those of its own devices
+    int streams(); // that the server has now
     TestSupport::SoundServer& server() { return m_server; }
     TestSupport::CameraProcess& camera() { return *m_camera; }
     bool startCamera(const QString& description = CameraName); // in place of the present one

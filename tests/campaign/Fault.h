@@ -17,6 +17,11 @@ struct Fault
         Servers,  // the dialog on a sound server and cameras of its own (DeviceRig)
         Program,  // the program itself, as it was built
     };
+    enum class Where {
+        EachStep, // of those named, in every check
+        OneStep,  // of those named, in turn
+        Anywhere, // no matter
+    };
     using AtStep = void (*)(CheckRun& run, Step step); // of a check in this process
     using Whole = void (*)(Injection& injection);      // everything by itself
 
@@ -24,8 +29,9 @@ struct Fault
     const char* what; // is broken
     const char* now;  // what happens then, in the table
     Needs needs;
-    std::vector<Step> steps; // at which atStep is called, each in every check
-    int quick;               // repetitions: checks of the dialog, or calls of whole
+    Where where; // atStep is called
+    std::vector<Step> steps;
+    int quick; // repetitions: checks of the dialog, or calls of whole
     int full;
     AtStep atStep;
     Whole whole;             // instead of atStep

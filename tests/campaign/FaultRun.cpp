@@ -40,6 +40,15 @@ void FaultRun::repeat(int number, const std::function<void(Injection&)>& inject)
               {QStringLiteral("failures"), QJsonArray::fromStringList(injection.failures())}});
 }
 
+bool FaultRun::strikes(int number, Step step) const
+{
+    const std::vector<Step>& steps = m_fault.steps;
+    if (m_fault.where == Fault::Where::OneStep) {
+        return steps[static_cast<std::size_t>(number) % steps.size()] == step;
+    }
+    return std::count(steps.begin(), steps.end(), step) != 0;
+}
+
 void FaultRun::runDialog(int repetitions)
 {
     const bool isScripted = m_fault.needs == Fault::Needs::Scripted;
@@ -56,21 +65,22 @@ void FaultRun::runDialog(int repetitions)
     };
     // Libraries keep threads and files from then on.
     repeat(-1, [&check](Injection& injection) { check(injection, [](CheckRun&, Step) {}); });
-    const QByteArray streamsBefore = rig ? rig->streams() : QByteArray();
+    const int streamsBefore = rig ? rig->streams() : 0;
     const Holdings before = Holdings::now();
     for (int i = 0; i < repetitions; ++i) {
         repeat(i, [&](Injection& injection) {
             check(injection, [&](CheckRun& run, Step step) {
-                if (std::count(m_fault.steps.begin(), m_fault.steps.end(), step) != 0) {
+                if (strikes(i, step)) {
                     injection.count(1);
                     m_fault.atStep(run, step);
                 }
             });
             const QString held = Holdings::problemAgainst(before);
             injection.require(held.isEmpty(), held);
-            const QByteArray streams = rig ? rig->streams() : QByteArray();
+            const int streams = rig ? rig->streams() : 0;
             injection.require(streams == streamsBefore,
-                              QStringLiteral("streams: ") + QString::fromUtf8(streams));
+                              QStringLiteral("%1 streams instead of %2")
+                                  .arg(QString::number(streams), QString::number(streamsBefore)));
         });
     }
 }

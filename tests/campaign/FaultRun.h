@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/campaign/Step.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <functional>
@@ -21,6 +23,7 @@ public:
 
 private:
     void repeat(int number, const std::function<void(Injection&)>& inject);
+    bool strikes(int number, Step step) const;
     void runDialog(int repetitions);
 
     const Fault& m_fault;

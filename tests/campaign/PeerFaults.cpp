@@ -32,14 +32,20 @@ QString addressOf(const HostilePeer& peer)
     return QStringLiteral("127.0.0.1:%1").arg(peer.port());
 }
 
+void countAnswers(Injection& injection, const HostilePeer& peer)
+{
+    injection.require(peer.answers() > 0, QStringLiteral("nobody asked the peer"));
+    injection.count(1);
+    injection.countSignals(peer.answers());
+}
+
 // A whole check on a machine without devices.
 void check(Injection& injection, const HostilePeer& peer, const QStringList& arguments)
 {
     ProgramCheck check(injection);
     check.startOnDevices(arguments);
     check.finish(Expect::Report);
-    injection.require(peer.answers() > 0, QStringLiteral("nobody asked the peer"));
-    injection.count(peer.answers());
+    countAnswers(injection, peer);
 }
 
 } // namespace
@@ -63,8 +69,7 @@ void PeerFaults::dns(Injection& injection)
         ProbeListener listener;
         const auto probe = engine.createNetworkProbe(listener);
         QTest::qWait(LookupMs);
-        injection.require(peer.answers() > 0, QStringLiteral("nobody asked the peer"));
-        injection.count(peer.answers());
+        countAnswers(injection, peer);
     }
     const QString held = Holdings::problemAgainst(before);
     injection.require(injection.number() == 0 || held.isEmpty(), held);

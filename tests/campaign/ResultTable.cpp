@@ -38,7 +38,18 @@ void ResultTable::add(const Fault& fault, const FaultResult& result)
 
 QString ResultTable::toMarkdown() const
 {
-    return head() + m_rows;
+    return head() + m_rows + QStringLiteral("\n%1.\n").arg(summary());
+}
+
+QByteArray ResultTable::placedIn(const QByteArray& document) const
+{
+    const QByteArray begin = "<!-- campaign -->\n";
+    const QByteArray end = "<!-- end of campaign -->\n";
+    const int from = document.indexOf(begin) + begin.size();
+    const int to = document.indexOf(end);
+    return from >= begin.size() && to >= from
+               ? document.left(from) + toMarkdown().toUtf8() + document.mid(to)
+               : QByteArray();
 }
 
 QString ResultTable::summary() const

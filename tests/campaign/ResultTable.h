@@ -15,7 +15,9 @@ public:
     void add(const Fault& fault, const FaultResult& result);
     bool hasFailure() const { return m_hasFailure; }
     QString row(const Fault& fault, const FaultResult& result) const;
-    QString toMarkdown() const;
+    QString toMarkdown() const; // with the summary
+    // The document with the table between its two marks; empty without them.
+    QByteArray placedIn(const QByteArray& document) const;
     QString summary() const; // one line
     static QString head();
 

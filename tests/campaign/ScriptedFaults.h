@@ -25,7 +25,7 @@ void manyDevices(CheckRun& run, Step step);
 void absurdFigures(CheckRun& run, Step step);
 void foreignVolumes(CheckRun& run, Step step);
 void cameraServer(CheckRun& run, Step step);
-void breakdown(CheckRun& run, Step step); // ends the session at one of the steps
+void breakdown(CheckRun& run, Step step); // ends the session
 void kickOut(CheckRun& run, Step step);
 
 } // namespace ScriptedFaults

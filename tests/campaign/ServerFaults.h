@@ -11,7 +11,7 @@ namespace ServerFaults {
 
 void kill(CheckRun& run, Step step);      // and start again
 void freeze(CheckRun& run, Step step);    // and go on
-void startLate(CheckRun& run, Step step); // killed at the first step, and back at a later one
+void startLate(CheckRun& run, Step step); // away for seconds
 void replugSound(CheckRun& run, Step step);
 void switchDefault(CheckRun& run, Step step);
 void plugStorm(CheckRun& run, Step step);

@@ -44,7 +44,7 @@ void addOptions(QCommandLineParser& parser)
         {word("only"), word("This fault; may be given again."), word("NAME")},
         {word("seed"), word("Repeats a former run."), word("N")},
         {word("repetitions"), word("Instead of those of the table."), word("N")},
-        {word("output"), word("Writes the table to this file, too."), word("FILE")},
+        {word("document"), word("Puts the table between the marks of this file."), word("FILE")},
     });
     for (const char* name : {"inject", "lines"}) { // how it calls itself
         QCommandLineOption option(word(name), QString(), word("X"));
@@ -111,6 +111,19 @@ bool isChosen(const Fault& fault, const QStringList& only)
     return only.isEmpty() || only.contains(word(fault.name));
 }
 
+bool writeInto(const QString& path, const ResultTable& table)
+{
+    QFile file(path);
+    const QByteArray content =
+        file.open(QIODevice::ReadWrite) ? table.placedIn(file.readAll()) : QByteArray();
+    const bool isWritten = !content.isEmpty() && file.resize(0) && file.seek(0) &&
+                           file.write(content) == content.size();
+    if (!isWritten) {
+        print(QStringLiteral("The table can't be written into %1\n").arg(path));
+    }
+    return isWritten;
+}
+
 int runAll(const QCommandLineParser& parser)
 {
     const quint32 seed = parser.isSet(word("seed")) ? parser.value(word("seed")).toUInt()
@@ -136,11 +149,9 @@ int runAll(const QCommandLineParser& parser)
         }
     }
     print(QStringLiteral("\n%1\n").arg(table.summary()));
-    QFile file(parser.value(word("output")));
-    if (parser.isSet(word("output")) && file.open(QIODevice::WriteOnly)) {
-        file.write(table.toMarkdown().toUtf8());
-    }
-    return table.hasFailure() ? 1 : 0;
+    const bool isWritten =
+        !parser.isSet(word("document")) || writeInto(parser.value(word("document")), table);
+    return table.hasFailure() || !isWritten ? 1 : 0;
 }
 
 } // namespace
