@@ -192,10 +192,13 @@ void ProgramFaults::killWhileWriting(Injection& injection)
 {
     const QTemporaryDir home;
     constexpr int LatestMs = 2500;
+    constexpr int WriteMs = 50;
     Checks checks;
     for (int i = 0; i < AtOnce; ++i) {
         checks.push_back(std::make_unique<ProgramCheck>(injection, home.path(), i));
-        checks.back()->program().setFault("FAULT_SYNC_MS", QStringLiteral("20"));
+        ProgramRun& program = checks.back()->program();
+        program.setFault("FAULT_WRITE_MS", QString::number(WriteMs));
+        program.setVariable("FAULT_UNDER", home.path());
         checks.back()->start();
     }
     QTest::qWait(injection.random(0, LatestMs));

@@ -4,6 +4,7 @@
 // Preloaded into a program (LD_PRELOAD), makes calls to the system slow or fail, as the environment
 // says:
 //   FAULT_SYNC_MS=N     every fsync() and fdatasync() takes so long
+//   FAULT_WRITE_MS=N    every write() to a file below FAULT_UNDER takes so long
 //   FAULT_LOOKUP_MS=N   every name is looked up for so long, and isn't found
 //   FAULT_CLOCK_S=N     after FAULT_CLOCK_MS, the wall clock jumps by so many seconds
 // and which call fails, as CallFault reads it:
@@ -148,9 +149,14 @@ ssize_t read(int file, void* buffer, size_t size)
 
 ssize_t write(int file, const void* buffer, size_t size)
 {
-    if (FaultPlan::asksFor("FAULT_WRITE") && FaultPlan::isUnder(file) &&
-        failed(writes, ENOSPC) != 0) {
-        return -1;
+    const bool isHit =
+        (FaultPlan::asksFor("FAULT_WRITE") || FaultPlan::asksFor("FAULT_WRITE_MS")) &&
+        FaultPlan::isUnder(file);
+    if (isHit) {
+        FaultPlan::pause("FAULT_WRITE_MS");
+        if (failed(writes, ENOSPC) != 0) {
+            return -1;
+        }
     }
     static const auto real = original<decltype(&::write)>("write");
     return real(file, buffer, size);
