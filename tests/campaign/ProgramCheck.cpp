@@ -115,44 +115,50 @@ void ProgramCheck::finish(Expect expected)
 
 void ProgramCheck::judge(const ProgramRun::Result& result, Expect expected)
 {
-    m_injection.require(result.code >= 0,
+    const bool isKilled = expected == Expect::Whole && result.isEndedBySignal;
+    m_injection.require(result.code >= 0 || isKilled,
                         QStringLiteral("crash or hang after %1 ms: %2")
                             .arg(QString::number(result.ms), excerpt(result.error)));
     for (const char* mark : {"ERROR: AddressSanitizer", "runtime error: "}) {
         m_injection.require(!result.error.contains(QLatin1String(mark)), excerpt(result.error));
     }
-    if (result.code >= 0) {
-        judgeFiles(result, expected);
-    }
+    judgeReport(result, expected);
+    judgeFolder(result, expected);
 }
 
-void ProgramCheck::judgeFiles(const ProgramRun::Result& result, Expect expected)
+void ProgramCheck::judgeReport(const ProgramRun::Result& result, Expect expected)
 {
     const bool isError = result.code >= FirstErrorCode;
     const bool saysWhy = isError && !result.error.trimmed().isEmpty();
-    const bool isThere = QFile::exists(reportFile());
-    if (isThere || expected == Expect::Report ||
-        (expected == Expect::ReportOrMessage && !saysWhy)) {
-        const GivenAnswers given = answersIn(m_answers.filePath(QStringLiteral("answers")));
-        const QString problem = ReportProof::problemOfReport(reportFile(), given);
-        m_injection.require(expected != Expect::Report || given.size() == QuestionCount,
-                            QStringLiteral("only %1 answers were clicked").arg(given.size()));
-        m_injection.require(problem.isEmpty(),
-                            QStringLiteral("%1; exit code %2, %3")
-                                .arg(problem, QString::number(result.code), excerpt(result.error)));
+    const bool isMissing = !QFile::exists(reportFile());
+    const QString end = QStringLiteral("; exit code %1, %2")
+                            .arg(QString::number(result.code), excerpt(result.error));
+    m_injection.require(expected != Expect::Report || !isError, QStringLiteral("an error") + end);
+    if (isMissing &&
+        (expected == Expect::Whole || (expected == Expect::ReportOrMessage && saysWhy))) {
+        return;
     }
-    if (expected == Expect::Report) {
-        m_injection.require(!isError,
-                            QStringLiteral("exit code %1: %2")
-                                .arg(QString::number(result.code), excerpt(result.error)));
-    }
+    const GivenAnswers given = answersIn(m_answers.filePath(QStringLiteral("answers")));
+    // A program that is killed or ended by a signal has no time to take the last ones.
+    const QString problem = ReportProof::problemOfReport(
+        reportFile(), expected == Expect::Whole ? GivenAnswers() : given);
+    m_injection.require(problem.isEmpty(), problem + end);
+    m_injection.require(expected != Expect::Report || given.size() == QuestionCount,
+                        QStringLiteral("only %1 answers were clicked").arg(given.size()));
+}
+
+void ProgramCheck::judgeFolder(const ProgramRun::Result& result, Expect expected)
+{
     const QString history = ReportProof::problemOfHistory(
         dataFolder() + HistoryName, expected == Expect::Report ? reportFile() : QString());
     m_injection.require(history.isEmpty(), history);
     m_injection.require(hasFormerRun(dataFolder() + HistoryName),
                         QStringLiteral("the history has lost a former run"));
+    m_injection.require(ReportProof::isWholeOrMissing(file("results.json")),
+                        QStringLiteral("the results are damaged"));
     // What hangs in the disk is left behind, and the program said so. Others may be writing still.
-    const QString left = isError || !m_own ? QString() : leftover();
+    const bool isLeft = result.code < 0 || result.code >= FirstErrorCode || !m_own;
+    const QString left = isLeft ? QString() : leftover();
     m_injection.require(left.isEmpty(), QStringLiteral("left behind: ") + left);
 }
 

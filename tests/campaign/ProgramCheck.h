@@ -16,7 +16,7 @@ public:
     enum class Expect {
         Report,          // whole and with every answer
         ReportOrMessage, // or a message and an exit code that say why not
-        Whole,           // what is there is whole
+        Whole,           // it may be killed, and what is there is whole
     };
 
     explicit ProgramCheck(Injection& injection);
@@ -39,7 +39,8 @@ public:
 
 private:
     void prepare();
-    void judgeFiles(const ProgramRun::Result& result, Expect expected);
+    void judgeReport(const ProgramRun::Result& result, Expect expected);
+    void judgeFolder(const ProgramRun::Result& result, Expect expected);
     QString leftover() const;
     QString file(const char* name) const;
 

@@ -64,3 +64,8 @@ QString ReportProof::problemOfHistory(const QString& file, const QString& report
                ? QString()
                : QStringLiteral("the history has the run %1 times").arg(count);
 }
+
+bool ReportProof::isWholeOrMissing(const QString& jsonFile)
+{
+    return !QFile::exists(jsonFile) || !objectIn(jsonFile).isEmpty();
+}

@@ -16,4 +16,6 @@ QString problemOfReport(const QString& file, const GivenAnswers& given);
 // Each line must be whole. reportFile: of a run that must be there exactly once; empty: any.
 QString problemOfHistory(const QString& file, const QString& reportFile);
 
+bool isWholeOrMissing(const QString& jsonFile);
+
 } // namespace ReportProof
