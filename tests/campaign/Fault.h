@@ -35,5 +35,5 @@ struct Fault
     int full;
     AtStep atStep;
     Whole whole;             // instead of atStep
-    bool isSanitized = true; // makes sense in builds with sanitizers
+    bool isSanitized = true; // also injected in builds with sanitizers
 };

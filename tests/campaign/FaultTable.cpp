@@ -160,6 +160,7 @@ std::vector<Fault> serverFaults()
 {
     namespace F = ServerFaults;
     constexpr Needs S = Needs::Servers;
+    constexpr bool NotSanitized = false; // others of the kind are
     const std::vector<Step> noResult(std::begin(AllSteps), std::end(AllSteps) - 1);
     return {
         {"server-killed", "all servers killed and started again", "empty lists, then all are back",
@@ -171,17 +172,17 @@ std::vector<Fault> serverFaults()
         {"sound-replugged", "a speaker and a microphone come and go", "the lists follow", S, Each,
          DeviceSteps, 1, 10, F::replugSound, nullptr},
         {"default-switched", "another default speaker", "the lists stay", S, Each, EveryStep, 1, 8,
-         F::switchDefault, nullptr},
+         F::switchDefault, nullptr, NotSanitized},
         {"plug-storm", "400 plugs and unplugs, as fast as the server can", "the last list", S, Each,
          DeviceSteps, 1, 10, F::plugStorm, nullptr},
         {"camera-killed", "the camera killed and started again", "the list follows", S, Each,
          EveryStep, 1, 10, F::killCamera, nullptr},
         {"camera-frozen", "the camera stops responding for up to 0.6 s", "it stays in the list", S,
-         Each, EveryStep, 1, 8, F::freezeCamera, nullptr},
+         Each, EveryStep, 1, 8, F::freezeCamera, nullptr, NotSanitized},
         {"camera-stalled", "no frames for up to 0.6 s", "it stays in the list", S, Each, EveryStep,
-         1, 8, F::stallCamera, nullptr},
+         1, 8, F::stallCamera, nullptr, NotSanitized},
         {"camera-renamed", "the camera comes back under another name", "the list follows", S, Each,
-         EveryStep, 1, 8, F::renameCamera, nullptr},
+         EveryStep, 1, 8, F::renameCamera, nullptr, NotSanitized},
     };
 }
 

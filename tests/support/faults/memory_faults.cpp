@@ -9,12 +9,15 @@
 #include <cerrno>
 #include <cstddef>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names of the C library's own allocator
 extern "C" {
 
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
-}
+
+} // extern "C"
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
