@@ -132,7 +132,7 @@ void CheckRun::wait(int ms) const
 
 void CheckRun::noteGaps()
 {
-    m_injection.noteGaps(m_gaps->longestMs(), double(m_gaps->usualMs()));
+    m_injection.noteGaps(m_gaps->count());
 }
 
 void CheckRun::unmetered(const std::function<void()>& action)

@@ -99,6 +99,8 @@ FaultResult FaultProcess::run(const Fault& fault, quint32 seed, int repetitions)
         addFailure(result, QStringLiteral("hang in repetition %1").arg(count));
     } else if (process.exitStatus() == QProcess::CrashExit || count < repetitions) {
         addFailure(result, QStringLiteral("crash in repetition %1").arg(count));
+    } else if (process.exitCode() == LongGapsCode) {
+        addFailure(result, QStringLiteral("more than 1 of 100 gaps is longer than 16.7 ms"));
     } else if (process.exitCode() != 0) {
         addFailure(result, QStringLiteral("exit code %1").arg(process.exitCode()));
     }

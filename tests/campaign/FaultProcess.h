@@ -20,6 +20,8 @@ struct FaultResult
 // Runs one fault in a process of its own, so that a crash or a hang ends that fault alone.
 namespace FaultProcess {
 
+constexpr int LongGapsCode = 3; // what it ends with if more than 1 of 100 gaps is too long
+
 FaultResult run(const Fault& fault, quint32 seed, int repetitions);
 
 } // namespace FaultProcess

@@ -29,14 +29,25 @@ void FaultRun::run(int repetitions)
     }
 }
 
+bool FaultRun::hasUsualGaps() const
+{
+#ifdef __SANITIZE_ADDRESS__
+    return true;
+#else
+    return static_cast<double>(m_gaps.usualMs()) <= TestSupport::UsualGapMs;
+#endif
+}
+
 void FaultRun::repeat(int number, const std::function<void(Injection&)>& inject)
 {
     Injection injection(m_seed, number);
     inject(injection);
+    m_gaps.add(injection.gaps());
+    const qint64 gapMs = injection.gaps().isEmpty() ? -1 : injection.gaps().longestMs();
     m_report({{QStringLiteral("number"), number},
               {QStringLiteral("injections"), injection.injections()},
               {QStringLiteral("signals"), injection.signalCount()},
-              {QStringLiteral("gapMs"), injection.longestGapMs()},
+              {QStringLiteral("gapMs"), gapMs},
               {QStringLiteral("failures"), QJsonArray::fromStringList(injection.failures())}});
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/campaign/Step.h"
+#include "tests/support/GapCount.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -20,6 +21,7 @@ public:
     FaultRun(const Fault& fault, quint32 seed, Report report);
 
     void run(int repetitions);
+    bool hasUsualGaps() const; // of all repetitions
 
 private:
     void repeat(int number, const std::function<void(Injection&)>& inject);
@@ -29,4 +31,5 @@ private:
     const Fault& m_fault;
     quint32 m_seed;
     Report m_report;
+    TestSupport::GapCount m_gaps;
 };

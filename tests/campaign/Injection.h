@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/GapCount.h"
+
 #include <QRandomGenerator>
 #include <QString>
 #include <QStringList>
@@ -19,12 +21,12 @@ public:
 
     void count(int injections) { m_injections += injections; }
     void countSignals(int signals) { m_signals += signals; }
-    void noteGaps(qint64 longestMs, double usualMs);
+    void noteGaps(const TestSupport::GapCount& gaps);
 
     QStringList failures() const { return m_failures; }
     int injections() const { return m_injections; }
     int signalCount() const { return m_signals; }
-    qint64 longestGapMs() const { return m_longestGapMs; } // -1: not measured
+    const TestSupport::GapCount& gaps() const { return m_gaps; } // empty: not measured
 
 private:
     QRandomGenerator m_random;
@@ -32,5 +34,5 @@ private:
     QStringList m_failures;
     int m_injections = 0;
     int m_signals = 0;
-    qint64 m_longestGapMs = -1;
+    TestSupport::GapCount m_gaps;
 };

@@ -98,7 +98,7 @@ int inject(const QCommandLineParser& parser)
         lines.flush();
     });
     run.run(parser.value(word("repetitions")).toInt());
-    return 0;
+    return run.hasUsualGaps() ? 0 : FaultProcess::LongGapsCode;
 }
 
 bool isChosen(const Fault& fault, const QStringList& only)

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/GapCount.h"
 #include "tests/support/RunDelay.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
-#include <algorithm>
-#include <map>
 
 namespace TestSupport {
 
@@ -19,8 +18,6 @@ constexpr qint64 MaxGapMs = 150;
 #else
 constexpr qint64 MaxGapMs = 50;
 #endif
-// 99 of 100 gaps: one frame of a screen.
-constexpr double UsualGapMs = 16.7;
 
 // Measures the longest time for which the event loop of this thread was blocked. Time in which the
 // thread was ready to run but waited for a processor is not counted.
@@ -38,20 +35,13 @@ public:
     qint64 longestMs()
     {
         note();
-        return m_longestMs;
+        return m_count.longestMs();
     }
 
-    // 99 of 100 gaps are no longer.
-    qint64 usualMs() const
+    GapCount count()
     {
-        qint64 longer = 0;
-        for (auto gap = m_countByMs.crbegin(); gap != m_countByMs.crend(); ++gap) {
-            longer += gap->second;
-            if (longer * 100 > m_count) {
-                return gap->first;
-            }
-        }
-        return 0;
+        note();
+        return m_count;
     }
 
 private:
@@ -62,18 +52,14 @@ private:
         const qint64 delayMs = m_delay.totalMs();
         const qint64 gapMs = m_sinceBeat.restart() - (delayMs - m_delayAtBeatMs);
         m_delayAtBeatMs = delayMs;
-        m_longestMs = std::max(m_longestMs, gapMs);
-        ++m_countByMs[gapMs];
-        ++m_count;
+        m_count.add(gapMs);
     }
 
     QTimer m_timer;
     QElapsedTimer m_sinceBeat;
     RunDelay m_delay; // of the constructing thread
     qint64 m_delayAtBeatMs = m_delay.totalMs();
-    qint64 m_longestMs = 0;
-    std::map<qint64, qint64> m_countByMs;
-    qint64 m_count = 0;
+    GapCount m_count;
 };
 
 } // namespace TestSupport
