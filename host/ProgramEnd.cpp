@@ -36,6 +36,9 @@ void ProgramEnd::cancel()
 
 int ProgramEnd::remainingMs()
 {
+    if (System::hasBeenStopped() && theClock.isValid()) {
+        theClock.start(); // nothing was done meanwhile
+    }
     const qint64 elapsed = theClock.isValid() ? theClock.elapsed() : 0;
     return static_cast<int>(std::max<qint64>(BudgetMs - elapsed, 0));
 }

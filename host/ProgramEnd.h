@@ -14,7 +14,7 @@ constexpr int DeliveryMs = 2000; // of the budget, for reports on their way to a
 
 void begin();      // starts the clock; the first call counts
 void cancel();     // the program goes on: the whole budget again
-int remainingMs(); // the whole budget before begin()
+int remainingMs(); // the whole budget before begin(), and after the process was stopped
 
 // Writes what waits, says what was not written, and ends the process. That turns success into
 // ExitCode::CannotWrite. No destructor runs, not even the application's: Qt's waits for name

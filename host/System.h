@@ -21,6 +21,9 @@ void write(std::FILE* file, const QString& text); // UTF-8 unless it is a termin
 // Empty, or one line: the system lets the program open too few files.
 QString problemOfLimits();
 
+// Whether the process was stopped, and went on, since the last call.
+bool hasBeenStopped();
+
 // Ends the process at once, without destructors and without waiting for threads.
 [[noreturn]] void leave(ExitCode code);
 

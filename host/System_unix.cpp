@@ -19,6 +19,8 @@ namespace {
 constexpr std::size_t NeededFiles = 64;
 constexpr rlim_t UsualFiles = 1024;
 
+volatile std::sig_atomic_t theProcessWasStopped = 0;
+
 } // namespace
 
 // A reader of our output may go: that is a write error, not the end of the program. If a standard
@@ -26,6 +28,7 @@ constexpr rlim_t UsualFiles = 1024;
 void System::prepareProcess()
 {
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGCONT, [](int) { theProcessWasStopped = 1; });
     int descriptor = STDIN_FILENO;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);
@@ -78,6 +81,13 @@ QString System::problemOfLimits()
                      .arg(count)
                      .arg(tried.size())
                      .arg(UsualFiles);
+}
+
+bool System::hasBeenStopped()
+{
+    const bool result = theProcessWasStopped != 0;
+    theProcessWasStopped = 0;
+    return result;
 }
 
 void System::leave(ExitCode code)

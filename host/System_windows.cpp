@@ -80,6 +80,11 @@ QString System::problemOfLimits()
     return {};
 }
 
+bool System::hasBeenStopped()
+{
+    return false;
+}
+
 void System::leave(ExitCode code)
 {
     std::fflush(nullptr);

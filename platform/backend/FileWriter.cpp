@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/FileWriter.h"
 
+#include "platform/backend/StepwiseWait.h"
 #include "platform/backend/WriterQueue.h"
 
 #include <chrono>
@@ -72,7 +73,10 @@ QString FileWriter::replaceNow(const QString& path, const QByteArray& content, i
     order.content = content;
     queue().add(std::move(order), true);
     queue().startOrRun();
-    if (told.wait_for(std::chrono::milliseconds(timeoutMs)) != std::future_status::ready) {
+    const auto isTold = [&told](std::chrono::milliseconds time) {
+        return told.wait_for(time) == std::future_status::ready;
+    };
+    if (!waitInSteps(timeoutMs, isTold)) {
         return qtTrId("ID_Engine_File_DiskSilent");
     }
     return told.get();

@@ -4,6 +4,7 @@
 
 #include "platform/backend/FileNames.h"
 #include "platform/backend/Log.h"
+#include "platform/backend/StepwiseWait.h"
 #include "platform/backend/WholeFile.h"
 
 #include <QFile>
@@ -102,8 +103,9 @@ bool WriterQueue::wait(int timeoutMs)
 {
     startOrRun();
     std::unique_lock lock(m_mutex);
-    const bool hasEnded = m_ended.wait_for(lock, std::chrono::milliseconds(timeoutMs),
-                                           [this] { return !m_isRunning && m_orders.empty(); });
+    const bool hasEnded = waitInSteps(timeoutMs, [this, &lock](std::chrono::milliseconds time) {
+        return m_ended.wait_for(lock, time, [this] { return !m_isRunning && m_orders.empty(); });
+    });
     if (hasEnded && m_thread.joinable()) {
         m_thread.join();
     }

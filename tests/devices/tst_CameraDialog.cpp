@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QtTest>
+#include <algorithm>
 #include <csignal>
 #include <optional>
 

@@ -42,8 +42,10 @@ ProgramRun::ProgramRun(const QString& home)
 
 ProgramRun::~ProgramRun()
 {
-    m_process.kill();
-    m_process.waitForFinished();
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
 }
 
 void ProgramRun::setVariable(const char* name, const QString& value)
@@ -54,7 +56,15 @@ void ProgramRun::setVariable(const char* name, const QString& value)
 void ProgramRun::setFault(const char* name, const QString& value)
 {
     setVariable(name, value);
-    setVariable("LD_PRELOAD", QStringLiteral(ENVCHECK_FAULTS));
+    addPreload(QStringLiteral(ENVCHECK_FAULTS));
+}
+
+void ProgramRun::addPreload(const QString& library)
+{
+    if (!m_preloads.contains(library)) {
+        m_preloads << library;
+    }
+    setVariable("LD_PRELOAD", m_preloads.join(QLatin1Char(':')));
     // The sanitizer wants to be the first library.
     setVariable("ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0"));
 }
@@ -118,7 +128,11 @@ ProgramRun::Result ProgramRun::finish(int timeoutMs)
         result.error = QStringLiteral("it didn't end");
         return result;
     }
-    result.code = m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    const bool isCrash = m_process.exitStatus() != QProcess::NormalExit;
+    const int number = m_process.exitCode(); // of the signal after a crash
+    result.code = isCrash ? -1 : number;
+    result.isEndedBySignal =
+        isCrash && (number == SIGINT || number == SIGTERM || number == SIGHUP || number == SIGKILL);
     result.out = QString::fromUtf8(m_printed + m_process.readAllStandardOutput());
     result.error = QString::fromUtf8(m_process.readAllStandardError());
     return result;

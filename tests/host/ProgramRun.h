@@ -14,6 +14,7 @@ public:
     struct Result
     {
         int code = -1; // the exit code; -1 after a crash, or if it didn't end in time
+        bool isEndedBySignal = false; // one that asks a program to end, and that it doesn't handle
         QString out;
         QString error;
         qint64 ms = 0; // since start() or signal()
@@ -24,6 +25,7 @@ public:
 
     void setVariable(const char* name, const QString& value);
     void setFault(const char* name, const QString& value); // such as FAULT_SYNC_MS
+    void addPreload(const QString& library);
     void setWrapper(const QString& script); // of bash, which runs the program as "$0" "$@"
 
     void start(const QStringList& arguments);
@@ -35,6 +37,7 @@ public:
 private:
     QString m_home;
     QProcessEnvironment m_environment;
+    QStringList m_preloads;
     QString m_wrapper;
     QProcess m_process;
     QByteArray m_printed;

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void slowDisk_data();
     void slowDisk();
     void deadDisk();
+    void stoppedWhileItEnds();
     void signalWhileItStarts_data();
     void signalWhileItStarts();
     void silentNameServer_data();
@@ -123,6 +124,23 @@ void tst_ProgramEnd::deadDisk()
     QVERIFY2(result.error.contains(QLatin1String("the disk doesn't answer")),
              qPrintable(result.error));
     QVERIFY(!QFile::exists(file("report.json"))); // whole or not at all
+}
+
+// As by Ctrl+Z in its terminal: the time doesn't count, and the disk isn't blamed.
+void tst_ProgramEnd::stoppedWhileItEnds()
+{
+    ProgramRun run(m_home->path());
+    run.setFault("FAULT_SYNC_MS", QStringLiteral("600"));
+    run.start({QStringLiteral("--scenario"), scenario(1000), QStringLiteral("--report"),
+               file("report.json")});
+    QVERIFY(run.hasPrinted("System "));
+    run.signal(SIGSTOP);
+    QTest::qWait(ProgramEnd::BudgetMs + 500);
+    run.signal(SIGCONT);
+    const ProgramRun::Result result = run.finish();
+    QVERIFY2(result.code == 3, qPrintable(result.error));
+    QVERIFY2(!result.error.contains(QLatin1String("the disk")), qPrintable(result.error));
+    QVERIFY(QFile::exists(dataFolder() + QStringLiteral("/runs.jsonl")));
 }
 
 void tst_ProgramEnd::signalWhileItStarts_data()

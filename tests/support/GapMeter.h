@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/GapCount.h"
 #include "tests/support/RunDelay.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
-#include <algorithm>
 
 namespace TestSupport {
 
@@ -35,7 +35,13 @@ public:
     qint64 longestMs()
     {
         note();
-        return m_longestMs;
+        return m_count.longestMs();
+    }
+
+    GapCount count()
+    {
+        note();
+        return m_count;
     }
 
 private:
@@ -46,14 +52,14 @@ private:
         const qint64 delayMs = m_delay.totalMs();
         const qint64 gapMs = m_sinceBeat.restart() - (delayMs - m_delayAtBeatMs);
         m_delayAtBeatMs = delayMs;
-        m_longestMs = std::max(m_longestMs, gapMs);
+        m_count.add(gapMs);
     }
 
     QTimer m_timer;
     QElapsedTimer m_sinceBeat;
     RunDelay m_delay; // of the constructing thread
     qint64 m_delayAtBeatMs = m_delay.totalMs();
-    qint64 m_longestMs = 0;
+    GapCount m_count;
 };
 
 } // namespace TestSupport
