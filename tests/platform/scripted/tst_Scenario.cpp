@@ -308,7 +308,9 @@ void tst_Scenario::namesFileLineAndField_data()
         "\"levels\": [[0, 0.1],\n[5, 0.2],\n[5, 0.3]] }]}",
         "4: microphones[0].levels[2]: must be [milliseconds, level]");
     row("state", "{\"cameras\": [{ \"id\": \"a\", \"name\": \"A\",\n\"state\": \"tired\" }]}",
-        "2: cameras[0].state: must be one of denied, failed, busy, hung, silent, ready, working");
+        "2: cameras[0].state: must be one of denied, failed, unreadable, busy, hung, silent, "
+        "ready, "
+        "working");
     row("flag", "{\"sounds\": {\n\"playerFails\": 1 }}",
         "2: sounds.playerFails: must be true or false");
     row("sound", "{\"sounds\": { \"lengthsMs\": {\n\"Piano.mp3\": -1 }}}",
