@@ -10,6 +10,7 @@
 #include "host/Languages.h"
 #include "host/Options.h"
 #include "host/ProgramEnd.h"
+#include "host/ProgramLook.h"
 #include "host/ScreenFit.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
@@ -20,35 +21,14 @@
 #include "host/commands/ServeCommand.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QIcon>
-#include <QStyle>
 #include <cstdio>
 #include <memory>
 
 namespace {
 
-// Balloons are top-level windows: they take this size and no page's.
-constexpr int FontPixelSize = 12;
-
-// The places on the pages are measured for this style, and other ones cut texts off.
-const QLatin1String Style("fusion");
-
 // Nothing is drawn by OpenGL here. Its drivers take longer to load than Qt itself.
 const char* const OpenGlVariable = "QT_XCB_GL_INTEGRATION";
-
-void useLookOfCheck()
-{
-    QApplication::setStyle(Style);
-    // The forms are white, and a child below a style sheet inherits no palette from the dialog.
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));
-    QFont font = QApplication::font();
-    font.setPixelSize(FontPixelSize);
-    QApplication::setFont(font);
-}
 
 std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[])
 {
@@ -60,9 +40,10 @@ std::unique_ptr<QCoreApplication> applicationWithWindows(int& argc, char* argv[]
         application.reset();
         application = std::make_unique<QApplication>(argc, argv);
     }
-    // Themes of some desktops, such as qt5ct, set their font by a posted event.
-    QCoreApplication::sendPostedEvents();
-    useLookOfCheck();
+    QGuiApplication::setDesktopFileName(QStringLiteral("envcheck"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/envcheck.svg")));
+    ProgramLook::use();
     return application;
 }
 

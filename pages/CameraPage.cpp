@@ -32,7 +32,7 @@ CameraPage::CameraPage(QWidget* parent)
     connect(ui->Btn_CanSee, &QPushButton::clicked, this, [this] { finishCheck(true); });
     connect(ui->Btn_Cant, &QPushButton::clicked, this, [this] { finishCheck(false); });
     DeviceChecks::setUpComboBox(ui->cb_vd_name, this);
-    DeviceChecks::setCaption(ui->cb_vd_name, ui->label_select_camera->text());
+    DeviceChecks::setCaption(ui->cb_vd_name, ui->label_select_camera);
     ui->f_video_player->attachCamera(&m_camera);
     ui->f_video_player->play();
     connect(&m_camera, &LumCamera::deviceListChanged, this, &CameraPage::refillCameraList);

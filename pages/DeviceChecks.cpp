@@ -23,6 +23,7 @@ constexpr int DeviceWorks = 1;
 constexpr int DeviceFails = 2;
 
 constexpr int MostEntries = 8; // without scrolling
+constexpr int FocusMargin = 4;
 
 constexpr QSize SmallHandSize(31, 38);
 constexpr QSize BigHandSize(38, 48);
@@ -59,10 +60,14 @@ void setUpComboBox(QCustomComboBox* combo, CheckPage* page)
         QStringLiteral("background-color: transparent; border: none;"));
 }
 
-void setCaption(QCustomComboBox* combo, const QString& caption)
+void setCaption(QCustomComboBox* combo, QLabel* caption)
 {
-    combo->setAccessibleName(caption);
-    combo->lineEdit()->setAccessibleName(caption);
+    combo->setAccessibleName(caption->text());
+    combo->lineEdit()->setAccessibleName(caption->text());
+    // Letters that run from the right begin at the box, where the focus is drawn around it.
+    if (caption->text().isRightToLeft()) {
+        caption->setContentsMargins(0, 0, FocusMargin, 0);
+    }
 }
 
 // Each is put right behind the box, the last one to begin with: Qt leaves alone what follows

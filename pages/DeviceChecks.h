@@ -8,7 +8,6 @@ class CheckPage;
 class LumToolTip;
 class QCustomComboBox;
 class QLabel;
-class QString;
 class QWidget;
 
 // What the pages of the three devices have in common. GUI thread only.
@@ -20,7 +19,7 @@ int stateCode(bool works);                       // 1 works, 2 doesn't
 // The page filters the box's events and owns its delegate. The box may have no line edit before.
 void setUpComboBox(QCustomComboBox* combo, CheckPage* page);
 void setUpPopup(QCustomComboBox* combo); // as the speaker and the microphone page have it
-void setCaption(QCustomComboBox* combo, const QString& caption); // for a screen reader
+void setCaption(QCustomComboBox* combo, QLabel* caption); // for a screen reader
 void setTabOrder(QCustomComboBox* combo, std::initializer_list<QWidget*> rest);
 void placeAbove(LumToolTip* popup, const QWidget* widget); // with left edges aligned
 

@@ -232,7 +232,7 @@ void HeadsetPage::setTexts()
 // For a screen reader: what a picture or a place says to the eye.
 void HeadsetPage::nameControls()
 {
-    DeviceChecks::setCaption(ui->cb_ad_output_name, ui->label_select_headphone->text());
+    DeviceChecks::setCaption(ui->cb_ad_output_name, ui->label_select_headphone);
     m_volume->setCaption(ui->label->text());
     ui->tb_play_test_sound->setAccessibleName(qtTrId("ID_HeadsetPage_Play"));
     ui->tb_play_test_sound->setAccessibleDescription(ui->label_2->text());

@@ -241,7 +241,7 @@ void MicrophonePage::addLevelBars()
 // For a screen reader. The record button never has the focus, so that it gets a key of its own.
 void MicrophonePage::nameControls()
 {
-    DeviceChecks::setCaption(ui->cb_ad_input_name, ui->label_select_mic->text());
+    DeviceChecks::setCaption(ui->cb_ad_input_name, ui->label_select_mic);
     m_volume->setCaption(ui->label->text());
     ui->Btn_Record->setAccessibleName(qtTrId("ID_Record"));
     ui->Btn_Record->setAccessibleDescription(ui->label_2->text());

@@ -5,6 +5,7 @@
 #include "platform/LumWidgets/FocusRing.h"
 
 #include <QAbstractButton>
+#include <QPainter>
 #include <QPointer>
 
 namespace {
@@ -17,6 +18,24 @@ const QLatin1String ButtonStyle(
     "QPushButton:hover{background:#F7F7F7;}"
     "QPushButton:default{border:none;background:#00835A;color:#FFFFFF;}");
 
+constexpr QRgb EdgeColor = 0x8C8C8C; // 3.4 : 1 on white
+
+// Without a window manager nobody else would tell the white box from the white page below it.
+class EdgedBox : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QMessageBox::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(QColor(EdgeColor));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
+
 } // namespace
 
 QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QString& title,
@@ -26,7 +45,7 @@ QMessageBox::StandardButton LumMessageBox::question(QWidget* parent, const QStri
 {
     // On the heap and watched: the parent may be destroyed while the box is open.
     const QPointer<QMessageBox> box =
-        new QMessageBox(QMessageBox::Question, title, text, buttons, parent);
+        new EdgedBox(QMessageBox::Question, title, text, buttons, parent);
     box->setStyleSheet(BoxStyle);
     // One by one: below a parent with a sheet of its own, a rule of the box's doesn't reach them.
     const QList<QAbstractButton*> all = box->buttons();

@@ -188,7 +188,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Engine_File_DiskSilent">
         <source></source>
-        <translation>the disk doesn't answer</translation>
+        <translation>the disk does not answer</translation>
     </message>
     <message id="ID_Engine_File_ForeignLink">
         <source></source>
@@ -476,11 +476,11 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
-        <translation>%1: every line must be KEY=VALUE, such as server=HOST, or a comment after a semicolon; put it right there</translation>
+        <translation>%1: every line must be KEY=VALUE, such as server=HOST, or a comment after a semicolon; correct it there</translation>
     </message>
     <message id="ID_Host_Config_BadValue">
         <source></source>
-        <translation>%1: %2=%3: it takes %4; put it right there</translation>
+        <translation>%1: %2=%3: it takes %4; correct it there</translation>
     </message>
     <message id="ID_Host_Config_BadVariable">
         <source></source>
@@ -712,7 +712,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_File_NoRight">
         <source></source>
-        <translation>you have no right to write there; name another file</translation>
+        <translation>you are not allowed to write there; name another file</translation>
     </message>
     <message id="ID_Host_File_NotOrdinary">
         <source></source>
@@ -1112,7 +1112,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Report_OtherFormat">
         <source></source>
-        <translation>this isn't a report of the check</translation>
+        <translation>this is not a report of the check</translation>
     </message>
     <message id="ID_Host_Report_OtherVersion">
         <source></source>
@@ -1232,7 +1232,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>
-        <translation>--%1 needs a name that isn't empty</translation>
+        <translation>--%1 needs a name that is not empty</translation>
     </message>
     <message id="ID_Host_Usage_ExtraArgument">
         <source></source>

@@ -516,15 +516,15 @@
     </message>
     <message id="ID_Host_Display_Gone">
         <source></source>
-        <translation>顯示已中斷，檢測隨之結束：X 伺服器或 Wayland 合成器已結束；請重新開始檢測</translation>
+        <translation>與螢幕的連線已中斷，檢測隨之結束：X 伺服器或 Wayland 合成器已結束；請重新開始檢測</translation>
     </message>
     <message id="ID_Host_Display_None">
         <source></source>
-        <translation>沒有可用來開啟檢測的顯示：請在桌面工作階段中啟動，或透過 xvfb-run 啟動</translation>
+        <translation>沒有可用的螢幕來開啟檢測：請在桌面工作階段中啟動，或透過 xvfb-run 啟動</translation>
     </message>
     <message id="ID_Host_Display_NotOpened">
         <source></source>
-        <translation>無法開啟顯示 %1：請在桌面工作階段中啟動檢測，或透過 xvfb-run 啟動</translation>
+        <translation>無法開啟螢幕 %1：請在桌面工作階段中啟動檢測，或透過 xvfb-run 啟動</translation>
     </message>
     <message id="ID_Host_Exit_AllPassed">
         <source></source>
@@ -544,7 +544,7 @@
     </message>
     <message id="ID_Host_Exit_PutOut">
         <source></source>
-        <translation>課堂結束了工作階段</translation>
+        <translation>課堂端已結束這次連線</translation>
     </message>
     <message id="ID_Host_Exit_SomeFailed">
         <source></source>
@@ -556,7 +556,7 @@
     </message>
     <message id="ID_Host_Exit_Unavailable">
         <source></source>
-        <translation>缺少顯示、連接埠或伺服器</translation>
+        <translation>缺少螢幕、連接埠或伺服器</translation>
     </message>
     <message id="ID_Host_Exit_WrongUsage">
         <source></source>
@@ -796,7 +796,7 @@
     </message>
     <message id="ID_Host_Help_Check">
         <source></source>
-        <translation>在線上上課前檢測網路、攝影機、喇叭和麥克風。</translation>
+        <translation>在線上課程開始前檢測網路、攝影機、喇叭和麥克風。</translation>
     </message>
     <message id="ID_Host_Help_Commands">
         <source></source>
@@ -936,7 +936,7 @@
     </message>
     <message id="ID_Host_Option_Quiet">
         <source></source>
-        <translation>檢查未通過時不開啟結果視窗。</translation>
+        <translation>檢測有異常時不開啟結果視窗。</translation>
     </message>
     <message id="ID_Host_Option_Redact">
         <source></source>
@@ -956,7 +956,7 @@
     </message>
     <message id="ID_Host_Option_Scenario">
         <source></source>
-        <translation>模擬裝置所用的腳本：一個檔案，或內建腳本的名稱，例如 all-well。隱含 --platform scripted。</translation>
+        <translation>模擬裝置所用的腳本：一個檔案，或內建腳本的名稱，例如 all-well。會自動採用 --platform scripted。</translation>
     </message>
     <message id="ID_Host_Option_Server">
         <source></source>
@@ -988,7 +988,7 @@
     </message>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
-        <translation>課堂結束了工作階段</translation>
+        <translation>課堂端已結束這次連線</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1160,7 +1160,7 @@
     </message>
     <message id="ID_Host_Serve_NoPort">
         <source></source>
-        <translation>無法在 UDP 連接埠 %1 上回應：%2。請用 --port 選擇其他連接埠</translation>
+        <translation>無法使用 UDP 連接埠 %1：%2。請用 --port 選擇其他連接埠</translation>
     </message>
     <message id="ID_Host_Serve_NotBuilt">
         <source></source>
@@ -1236,7 +1236,7 @@
     </message>
     <message id="ID_Host_Usage_ExtraArgument">
         <source></source>
-        <translation>多餘的引數「%1」：請參閱 --help</translation>
+        <translation>多了一個引數「%1」：請將它去掉，或參閱 --help</translation>
     </message>
     <message id="ID_Host_Usage_LeaveOneOut">
         <source></source>
@@ -1476,7 +1476,7 @@
     </message>
     <message id="ID_Host_Remedy_NoSuchHost">
         <source></source>
-        <translation>找不到該伺服器名稱，請檢查拼寫，並確認已連上網路。</translation>
+        <translation>找不到該伺服器名稱，請檢查拼字，並確認已連上網路。</translation>
     </message>
     <message id="ID_Host_Remedy_Slow">
         <source></source>
@@ -1512,11 +1512,11 @@
     </message>
     <message id="ID_Host_Remedy_Hung">
         <source></source>
-        <translation>裝置沒有回應，請重新插拔，或重新啟動電腦。</translation>
+        <translation>裝置沒有回應，請拔除後重新接上，或重新啟動電腦。</translation>
     </message>
     <message id="ID_Host_Remedy_Stalled">
         <source></source>
-        <translation>攝影機沒有傳來畫面，請重新插拔，或選擇其他攝影機。</translation>
+        <translation>攝影機沒有傳來畫面，請拔除後重新接上，或選擇其他攝影機。</translation>
     </message>
     <message id="ID_Host_Remedy_Black">
         <source></source>
@@ -1524,11 +1524,11 @@
     </message>
     <message id="ID_Host_Remedy_Frozen">
         <source></source>
-        <translation>畫面靜止不動，請重新插拔攝影機。</translation>
+        <translation>畫面靜止不動，請將攝影機拔除後重新接上。</translation>
     </message>
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
-        <translation>裝置在檢測過程中斷開了，請重新連接並檢查線材。</translation>
+        <translation>裝置在檢測過程中被拔除，請重新接上並檢查線材。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>
@@ -1536,7 +1536,7 @@
     </message>
     <message id="ID_Host_Remedy_Failed">
         <source></source>
-        <translation>裝置發生故障，請重新連接，或換一個裝置。</translation>
+        <translation>裝置發生故障，請重新接上，或換用其他裝置。</translation>
     </message>
     <message id="ID_Host_Remedy_Unreadable">
         <source></source>

@@ -121,7 +121,7 @@ void tst_ProgramEnd::deadDisk()
     for (const char* name : {"report.json", "results.json", "runs.jsonl"}) {
         QVERIFY2(result.error.contains(QLatin1String(name)), qPrintable(result.error));
     }
-    QVERIFY2(result.error.contains(QLatin1String("the disk doesn't answer")),
+    QVERIFY2(result.error.contains(QLatin1String("the disk does not answer")),
              qPrintable(result.error));
     QVERIFY(!QFile::exists(file("report.json"))); // whole or not at all
 }

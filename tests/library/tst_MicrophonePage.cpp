@@ -72,6 +72,7 @@ private Q_SLOTS:
     void constructionCallsInOrder_data();
     void constructionCallsInOrder();
     void texts();
+    void captionFromTheRightLeavesRoomForTheFocus();
     void tipsStandBeforeTheLastItem();
     void comboBoxSetup();
     void wheelAndArrowsChooseNothing();
@@ -291,6 +292,20 @@ void tst_MicrophonePage::texts()
     QCOMPARE(m_no->text(), QString("ID_MicrophonePage_CanNotHearOrSee"));
     QCOMPARE(m_recordLabel->text(), QString("ID_Record"));
     QCOMPARE(m_record->text(), QString("Record"));
+}
+
+void tst_MicrophonePage::captionFromTheRightLeavesRoomForTheFocus()
+{
+    const int focusPixels = 4; // around a control
+    const auto roomFor = [](const char* caption) {
+        const Dictionary dictionary({{"ID_Microphone", QString::fromUtf8(caption)}});
+        const MicrophonePage page;
+        const auto* label = page.findChild<QLabel*>("label_select_mic");
+        const auto* box = page.findChild<QWidget*>("cb_ad_input_name");
+        return box->x() - label->x() - label->contentsRect().right() - 1;
+    };
+    QVERIFY(roomFor("\u0627\u0644\u0645\u0627\u064a\u0643:") >= focusPixels);
+    QVERIFY(roomFor("Mic:") < focusPixels); // its letters begin at the other side
 }
 
 void tst_MicrophonePage::tipsStandBeforeTheLastItem()

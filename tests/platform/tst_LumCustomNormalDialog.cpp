@@ -79,6 +79,7 @@ private Q_SLOTS:
     void popupStaysOnTheScreen();
     void parentlessPopupsBelongToIt();
     void questionHasNoPictures();
+    void questionHasAnEdge();
 
 private:
     static void addPalettes();
@@ -377,6 +378,27 @@ void tst_LumCustomNormalDialog::questionIsReadable()
     LumMessageBox::question(nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No,
                             QMessageBox::Yes);
     QVERIFY(isReached);
+}
+
+// Of its own: there may be no window manager.
+void tst_LumCustomNormalDialog::questionHasAnEdge()
+{
+    QImage picture;
+    QTimer::singleShot(0, this, [&picture] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        picture = pictureOf(box);
+        box->button(QMessageBox::No)->click();
+    });
+    LumMessageBox::question(nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No,
+                            QMessageBox::Yes);
+    QVERIFY(!picture.isNull());
+    const QPoint middle = picture.rect().center();
+    for (const QPoint& edge : {QPoint(middle.x(), 0), QPoint(middle.x(), picture.height() - 1),
+                               QPoint(0, middle.y()), QPoint(picture.width() - 1, middle.y())}) {
+        QVERIFY(Contrast::ratio(picture.pixel(edge), qRgb(255, 255, 255)) >=
+                Contrast::LeastOfFocus);
+    }
 }
 
 void tst_LumCustomNormalDialog::popupStaysOnTheScreen()

@@ -53,8 +53,8 @@ private:
 void tst_Desktops::initTestCase()
 {
     startTour(Plain, QString(), QString());
-    startTour(QStringLiteral("dark"), QStringLiteral("QT_QPA_PLATFORMTHEME"),
-              QStringLiteral("dark-theme"));
+    startTour(QStringLiteral("dark"), QStringLiteral("QT_STYLE_OVERRIDE"),
+              QStringLiteral("adwaita-dark"));
     startTour(QStringLiteral("contrast"), QStringLiteral("QT_STYLE_OVERRIDE"),
               QStringLiteral("adwaita-highcontrastinverse"));
     startTour(QStringLiteral("qt5ct"), QStringLiteral("QT_QPA_PLATFORMTHEME"),
@@ -78,7 +78,6 @@ void tst_Desktops::startTour(const QString& desktop, const QString& variable, co
     for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"}) {
         environment.insert(QLatin1String(name), home);
     }
-    environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGINS));
     if (!variable.isEmpty()) {
         environment.insert(variable, value);
     }

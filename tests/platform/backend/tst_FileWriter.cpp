@@ -351,7 +351,7 @@ void tst_FileWriter::writesAtOnceBeforeTheRest()
     });
     FileWriter::replace(path(), "old");
     QCOMPARE(FileWriter::replaceNow(path(), "new", AtOnceMs),
-             QStringLiteral("the disk doesn't answer"));
+             QStringLiteral("the disk does not answer"));
     QCOMPARE(FileWriter::outcome().waiting, QStringList{path("other")});
     mayEnd.release();
     QVERIFY(FileWriter::waitForWritten(WaitMs));
