@@ -13,6 +13,10 @@ QString runs();         // the list of runs, a file
 QString redactionKey(); // a file
 
 // Makes the folder of the reports. Nobody else may look into the folders of the program.
+// A path below the user's home without its name, which is often that of a person: "~/…".
+QString shortened(const QString& path);
+QString expanded(const QString& path); // takes both
+
 void makeReports();
 
 } // namespace Folders
