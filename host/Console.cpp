@@ -32,6 +32,11 @@ void Console::printError(const QString& line)
     System::write(stderr, QStringLiteral("envcheck: %1\n").arg(plainLine(line)));
 }
 
+void Console::printAside(const QString& text)
+{
+    System::write(stderr, text);
+}
+
 bool Console::isTerminal()
 {
     return System::isTerminal(stdout);

@@ -10,7 +10,8 @@ namespace Console {
 
 void print(const QString& text); // as it is, at once
 void printError(const QString& line);
-bool isTerminal(); // where print() goes to
+void printAside(const QString& text); // on standard error, as it is
+bool isTerminal();                    // where print() goes to
 
 // Foreign text on one line, without characters that control a terminal or change the text
 // direction.

@@ -4,8 +4,15 @@
 
 #include "platform/backend/WholeFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+
+namespace {
+
+const QLatin1String Home("~/");
+
+} // namespace
 
 QString Folders::data()
 {
@@ -25,6 +32,17 @@ QString Folders::runs()
 QString Folders::redactionKey()
 {
     return data() + QStringLiteral("/redaction.key");
+}
+
+QString Folders::shortened(const QString& path)
+{
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    return path.startsWith(home) ? Home + path.mid(home.size()) : path;
+}
+
+QString Folders::expanded(const QString& path)
+{
+    return path.startsWith(Home) ? QDir::homePath() + path.mid(Home.size() - 1) : path;
 }
 
 void Folders::makeReports()

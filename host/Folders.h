@@ -12,6 +12,10 @@ QString reports();      // one file for each run
 QString runs();         // the list of runs, a file
 QString redactionKey(); // a file
 
+// A path below the user's home without its name, which is often that of a person: "~/…".
+QString shortened(const QString& path);
+QString expanded(const QString& path); // takes both
+
 // Creates the folder of the reports. Only the user may open the folders of the program.
 void makeReports();
 

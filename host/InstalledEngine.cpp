@@ -29,6 +29,15 @@ QString cdnSecondPart(const Options& options)
     return options.cdn.section(QLatin1Char('/'), 1);
 }
 
+// The file that has the results after each change. If they are to be redacted, or printed, they
+// come at the end alone.
+QString runningResults(const Options& options)
+{
+    const bool isPlainFile =
+        options.redaction == Options::Redaction::None && options.resultsFile != Options::Output;
+    return isPlainFile ? options.resultsFile : QString();
+}
+
 // Options of the command line replace the values of the scenario.
 void useTexts(const Options& options, Platform::ScriptedFacts& facts)
 {
@@ -110,7 +119,7 @@ void InstalledEngine::installScripted(const Options& options)
     }
     Platform::ScriptedEngine& engine = Platform::ScriptedEngine::install(*scenario);
     useTexts(options, engine.facts());
-    engine.reports().document().setPath(options.resultsFile);
+    engine.reports().document().setPath(runningResults(options));
     m_results = [&engine] { return engine.reports().document().toJson(); };
 }
 
@@ -123,7 +132,7 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     config.cdnSecondPart = cdnSecondPart(options);
     config.account = options.account;
     config.nickname = options.nickname;
-    config.resultsPath = options.resultsFile;
+    config.resultsPath = runningResults(options);
     config.reportUrl = options.reportUrl;
     config.settingsFolder = dataFolder;
     config.cacheFolder = dataFolder;

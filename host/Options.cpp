@@ -9,6 +9,7 @@
 #include "platform/backend/WebAddress.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <optional>
 
 namespace {
@@ -22,8 +23,9 @@ enum CommandBit : unsigned {
     InNetwork = 1U << 2,
     InServe = 1U << 3,
     InReport = 1U << 4,
+    InHistory = 1U << 5,
     InEngine = InCheck | InDevices | InNetwork,
-    InAll = InEngine | InServe | InReport,
+    InAll = InEngine | InServe | InReport | InHistory,
 };
 
 struct CommandName
@@ -40,6 +42,7 @@ constexpr CommandName CommandNames[] = {
     {Options::Command::Network, InNetwork, "network", "ID_Host_Help_Network"},
     {Options::Command::Serve, InServe, "serve", "ID_Host_Help_Serve"},
     {Options::Command::Report, InReport, "report", "ID_Host_Help_Report"},
+    {Options::Command::History, InHistory, "history", "ID_Host_Help_History"},
 };
 
 struct Definition
@@ -62,7 +65,7 @@ constexpr Definition Definitions[] = {
     {"report", InCheck, "FILE", "ID_Host_Option_Report"},
     {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
-    {"json", InDevices, nullptr, "ID_Host_Option_Json"},
+    {"json", InDevices | InHistory, nullptr, "ID_Host_Option_Json"},
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
     {"port", InServe, "N", "ID_Host_Option_Port"},
     {"format", InReport, "FORMAT", "ID_Host_Option_Format"},
@@ -131,6 +134,7 @@ public:
         readAddresses();
         readNumbers();
         readReportOptions();
+        readOutputs();
     }
 
 private:
@@ -276,10 +280,41 @@ private:
             failAt("redact", oneOf("none, personal, hash"));
         }
         m_options.redaction = level.value_or(Options::Redaction::None);
-        if (m_options.command == Options::Command::Report && m_options.files.isEmpty() &&
-            m_options.filesFrom.isEmpty()) {
-            fail(qtTrId("ID_Host_Usage_NoReport"));
+    }
+
+    void readOutputs()
+    {
+        checkEnding("results", {QStringLiteral("json")});
+        checkEnding("report", {QStringLiteral("json"), QStringLiteral("html"),
+                               QStringLiteral("htm"), QStringLiteral("txt")});
+        if (!m_options.resultsFile.isEmpty() &&
+            placeOf(m_options.resultsFile) == placeOf(m_options.reportFile)) {
+            fail(qtTrId("ID_Host_Usage_SamePlace")
+                     .arg(option("results"), option("report"), m_options.reportFile));
         }
+    }
+
+    // Nobody finds JSON behind the name of a spreadsheet. That it is a folder is said elsewhere.
+    void checkEnding(const char* name, const QStringList& endings)
+    {
+        const QFileInfo file(value(name));
+        const bool isNamed = isSet(name) && value(name) != Options::Output && !file.isDir();
+        if (isNamed && !endings.contains(file.suffix(), Qt::CaseInsensitive)) {
+            failAt(name, qtTrId("ID_Host_Takes_Ending")
+                             .arg(QLatin1Char('.') + endings.join(QStringLiteral(", ."))));
+        }
+    }
+
+    // The same for all ways to write a path, behind links.
+    static QString placeOf(const QString& path)
+    {
+        if (path.isEmpty() || path == Options::Output) {
+            return path;
+        }
+        const QFileInfo file(path);
+        const QString present = file.canonicalFilePath();
+        const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+        return present.isEmpty() ? folder + QLatin1Char('/') + file.fileName() : present;
     }
 
     const QCommandLineParser& m_parser;
@@ -294,9 +329,9 @@ QString usageOf(const CommandName& command)
     }
     usage += qtTrId("ID_Host_Help_UsageOptions");
     if (command.command == Options::Command::Check) {
-        usage += QStringLiteral(" [devices|network|serve|report]");
+        usage += QStringLiteral(" [devices|network|serve|report|history]");
     } else if (command.command == Options::Command::Report) {
-        usage += QStringLiteral(" FILE...");
+        usage += QStringLiteral(" [FILE...]");
     }
     return usage;
 }

@@ -8,9 +8,10 @@
 // The values of the command line.
 struct Options
 {
-    static constexpr const char* DefaultScenario = "all-well"; // of the scripted devices
+    static inline const QLatin1String Output = QLatin1String("-"); // in place of a file
+    static constexpr const char* DefaultScenario = "all-well";     // of the scripted devices
 
-    enum class Command { Check, Devices, Network, Serve, Report, Version, Help };
+    enum class Command { Check, Devices, Network, Serve, Report, History, Version, Help };
     enum class Platform { Devices, Scripted };
     enum class Format { Text, Html, Json, Room, Csv, Lines, Map };
     enum class Redaction { None, Personal, Hash };
@@ -22,15 +23,15 @@ struct Options
     QString server;   // Platform::StunServer reads it; empty: none is named here
     QString account;
     QString nickname;
-    QString cdn; // "FIRST/SECOND"
-    QString resultsFile;
-    QString reportFile; // empty: the default place
+    QString cdn;         // "FIRST/SECOND"
+    QString resultsFile; // "-" is standard output
+    QString reportFile;  // empty: the default place
     QString reportUrl;
     QString tourFolder;
     bool isVerbose = false;
     bool isQuiet = false; // no window with the outcome
 
-    bool isJson = false; // devices
+    bool isJson = false; // devices, history
     int count = 0;       // network: how many figures; 0 means no limit
     quint16 port = 0;    // serve
     QStringList files;   // report; "-" is standard input
@@ -40,6 +41,8 @@ struct Options
 
     Command helpFor = Command::Check; // for Command::Help
     QString error;                    // empty, or one line with the problem and what to do
+
+    bool usesOutput() const { return resultsFile == Output || reportFile == Output; }
 
     // The first argument is the program's name. Messages and help need the texts of a language.
     static Options parse(const QStringList& arguments);

@@ -16,6 +16,7 @@
 #include "host/TerminationSignals.h"
 #include "host/commands/CheckCommand.h"
 #include "host/commands/DevicesCommand.h"
+#include "host/commands/HistoryCommand.h"
 #include "host/commands/NetworkCommand.h"
 #include "host/commands/ReportCommand.h"
 #include "host/commands/ServeCommand.h"
@@ -80,6 +81,8 @@ ExitCode runCommand(const Options& options, const QString& language)
         return NetworkCommand::run(options);
     case Options::Command::Serve:
         return ServeCommand::run(options);
+    case Options::Command::History:
+        return HistoryCommand::run(options, language);
     case Options::Command::Report:
         return ReportCommand::run(options, language);
     }
@@ -116,7 +119,7 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
 // disk or the reader of the output keeps it waiting.
 bool endsInOrder(Options::Command command)
 {
-    return command != Options::Command::Report;
+    return command != Options::Command::Report && command != Options::Command::History;
 }
 
 // Ends the process while the texts are there.

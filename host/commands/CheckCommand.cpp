@@ -10,6 +10,7 @@
 #include "host/OutcomeWindow.h"
 #include "host/ProgramEnd.h"
 #include "host/TerminationSignals.h"
+#include "host/report/OldReports.h"
 #include "host/report/Redaction.h"
 #include "host/report/Remedies.h"
 #include "host/report/ReportBuilder.h"
@@ -19,12 +20,14 @@
 #include "host/report/RunOutcome.h"
 #include "host/tour/Tour.h"
 #include "platform/backend/Engine.h"
+#include "platform/backend/FileWriter.h"
 #include "platform/backend/WholeFile.h"
 #include "platform/scripted/ScriptedEngine.h"
 
 #include <CoreEngine/CoreEngine.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <algorithm>
@@ -72,7 +75,8 @@ bool CheckCommand::prepareTour()
 bool CheckCommand::prepareFiles()
 {
     for (const QString& file : {m_options.resultsFile, m_options.reportFile}) {
-        const QString problem = file.isEmpty() ? QString() : ReportFile::problemOfWriting(file);
+        const bool isFile = !file.isEmpty() && file != Options::Output;
+        const QString problem = isFile ? ReportFile::problemOfWriting(file) : QString();
         if (!problem.isEmpty()) {
             Console::printError(problem);
             return false;
@@ -136,13 +140,13 @@ ExitCode CheckCommand::open(const QString& language)
         facts.finished = QDateTime::currentDateTime();
         const QJsonObject results = installed.results();
         outcome = RunOutcome::fromDocument(results, wasPutOut);
-        Report report =
-            ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts());
-        RunHistory(Folders::runs()).compare(report);
-        shown = Redaction(m_options.redaction, m_redactionKey).redacted(report);
-        Console::print(outcome.toText() + Remedies::toText(report));
-        isWritten = write(report, shown);
-        isWritten = writeResults(results) && isWritten;
+        const Redaction redaction(m_options.redaction, m_redactionKey);
+        shown = redaction.redacted(
+            ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
+        RunHistory(Folders::runs()).compare(shown);
+        print(outcome.withDevicesOf(shown).toText() + Remedies::toText(shown));
+        isWritten = write(shown);
+        isWritten = writeResults(redaction.redactedResults(results)) && isWritten;
     };
     DisplayLoss::setSaving(save);
     runDialog(wasPutOut);
@@ -166,36 +170,74 @@ bool CheckCommand::opensWindow(const Options& options, const RunOutcome& outcome
     return isOfUser && hasFailure && outcome.exitCode != ExitCode::PutOut;
 }
 
+// If a document goes to standard output, nothing else does.
+void CheckCommand::print(const QString& text) const
+{
+    if (m_options.usesOutput()) {
+        Console::printAside(text);
+    } else {
+        Console::print(text);
+    }
+}
+
+// Returns one line if it can't be written.
+QString CheckCommand::writeTo(const QString& place, const QByteArray& content)
+{
+    if (place == Options::Output) {
+        Console::print(QString::fromUtf8(content));
+        return {};
+    }
+    return ReportFile::write(place, content, ProgramEnd::remainingMs());
+}
+
 bool CheckCommand::writeResults(const QJsonObject& results) const
 {
     if (m_options.resultsFile.isEmpty()) {
         return true;
     }
-    const QString problem = ReportFile::write(
-        m_options.resultsFile, QJsonDocument(results).toJson(), ProgramEnd::remainingMs());
+    const QString problem = writeTo(m_options.resultsFile, QJsonDocument(results).toJson());
     if (!problem.isEmpty()) {
         Console::printError(problem);
     }
     return problem.isEmpty();
 }
 
-bool CheckCommand::write(const Report& report, const Report& shown) const
+// Adds the run to the history, and removes the reports that are too old.
+void CheckCommand::remember(const Report& report, bool isWritten) const
 {
-    const QString problem = ReportFile::write(
-        m_reportFile,
-        ReportWriter::toFormat(shown, ReportWriter::formatOf(m_reportFile), report.language),
-        ProgramEnd::remainingMs());
+    const RunHistory history(Folders::runs());
+    const bool isFile = isWritten && m_reportFile != Options::Output;
+    history.append(report, isFile ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
+    Platform::FileWriter::enqueue([history, folder = Folders::reports()] {
+        QString problem; // then the order of the names counts
+        QStringList reports;
+        for (const RunHistory::Run& run : history.runs(&problem)) {
+            reports << run.report;
+        }
+        for (const QString& old : OldReports::of(folder, reports, QDateTime::currentDateTime())) {
+            QFile::remove(old);
+        }
+    });
+}
+
+bool CheckCommand::write(const Report& report) const
+{
+    const QString problem =
+        writeTo(m_reportFile, ReportWriter::toFormat(report, ReportWriter::formatOf(m_reportFile),
+                                                     report.language));
     // A tour is no run of a user.
     if (!isTour()) {
-        RunHistory(Folders::runs())
-            .append(report,
-                    problem.isEmpty() ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
+        remember(report, problem.isEmpty());
     }
     if (!problem.isEmpty()) {
         Console::printError(problem);
         return false;
     }
-    Console::print(qtTrId("ID_Host_ReportIsIn").arg(m_reportFile) + QLatin1Char('\n'));
+    if (m_reportFile != Options::Output) {
+        const bool isPlain = m_options.redaction == Options::Redaction::None;
+        const QString place = isPlain ? m_reportFile : Folders::shortened(m_reportFile);
+        print(qtTrId("ID_Host_ReportIsIn").arg(place) + QLatin1Char('\n'));
+    }
     return true;
 }
 
@@ -222,8 +264,8 @@ ExitCode CheckCommand::endTour(Tour& tour, const QString& language, ExitCode out
         Console::printError(qtTrId("ID_Host_Tour_NotWritten").arg(folder, error));
         return ExitCode::CannotWrite;
     }
-    Console::print(qtTrId("ID_Host_Tour_Done").arg(QString::number(tour.pictureCount()), folder) +
-                   QLatin1Char('\n'));
+    print(qtTrId("ID_Host_Tour_Done").arg(QString::number(tour.pictureCount()), folder) +
+          QLatin1Char('\n'));
     for (const QString& problem : tour.problems()) {
         Console::printError(problem);
     }

@@ -34,7 +34,10 @@ private:
     bool prepareTour();
     bool prepareRedaction();
     ExitCode open(const QString& language);
-    bool write(const Report& report, const Report& shown) const;
+    void print(const QString& text) const;
+    static QString writeTo(const QString& place, const QByteArray& content);
+    bool write(const Report& report) const;
+    void remember(const Report& report, bool isWritten) const;
     bool writeResults(const QJsonObject& results) const;
     std::unique_ptr<Tour> startTour(Platform::Engine& engine) const; // null without --tour
     ExitCode endTour(Tour& tour, const QString& language, ExitCode outcome) const;

@@ -9,9 +9,12 @@
 #include "host/report/ReportFile.h"
 #include "host/report/ReportOutput.h"
 #include "host/report/ReportReader.h"
+#include "host/report/ReportWriter.h"
+#include "host/report/RunHistory.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace {
 
@@ -58,10 +61,29 @@ private:
     QString m_text;
 };
 
+// That of the newest run which wrote JSON. Nothing if there is none; then it has said so.
+std::optional<QStringList> lastReport()
+{
+    QString problem;
+    std::vector<RunHistory::Run> runs = RunHistory(Folders::runs()).runs(&problem);
+    const auto last = std::find_if(runs.rbegin(), runs.rend(), [](const RunHistory::Run& run) {
+        return ReportWriter::formatOf(run.report) == Options::Format::Json &&
+               QFileInfo(run.report).isFile();
+    });
+    if (last == runs.rend()) {
+        Console::printError(problem.isEmpty() ? qtTrId("ID_Host_History_NoReport") : problem);
+        return std::nullopt;
+    }
+    return QStringList{last->report};
+}
+
 // The named files, and those whose names are in the file of --files-from. Nothing if that can't be
 // read; then it has said why.
 std::optional<QStringList> filesOf(const Options& options)
 {
+    if (options.files.isEmpty() && options.filesFrom.isEmpty()) {
+        return lastReport();
+    }
     if (options.filesFrom.isEmpty()) {
         return options.files;
     }

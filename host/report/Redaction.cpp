@@ -3,6 +3,7 @@
 #include "host/report/Redaction.h"
 
 #include "host/SoundNames.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <QMessageAuthenticationCode>
 
@@ -60,6 +61,43 @@ Report Redaction::redacted(const Report& report) const
     for (ReportChange& change : result.changes) {
         for (QString* value : {&change.before, &change.now}) {
             *value = isPlain(change.what, *value) ? *value : replaced(*value);
+        }
+    }
+    return result;
+}
+
+QJsonObject Redaction::redactedResults(const QJsonObject& document) const
+{
+    if (m_level == Options::Redaction::None) {
+        return document;
+    }
+    QJsonObject result = document;
+    for (const QLatin1String& section :
+         {Platform::ResultKeys::Results, Platform::ResultKeys::Measurements,
+          Platform::ResultKeys::Later}) {
+        QJsonObject checks = document.value(section).toObject();
+        for (auto check = checks.begin(); check != checks.end(); ++check) {
+            check.value() = redactedValues(check.value().toObject());
+        }
+        if (document.contains(section)) {
+            result.insert(section, checks);
+        }
+    }
+    return result;
+}
+
+QJsonObject Redaction::redactedValues(const QJsonObject& values) const
+{
+    using namespace Platform;
+    // The texts of delay and loss, and the words of states and causes.
+    static const QStringList PlainKeys = {ResultKeys::Delay, ResultKeys::Loss,
+                                          ReportWords::of(FigureName::SoundPlayed)};
+    QJsonObject result = values;
+    for (auto value = result.begin(); value != result.end(); ++value) {
+        const QString word = value.value().toString();
+        const bool isWord = ReportWords::find<Reason>(word) || ReportWords::find<Cause>(word);
+        if (!PlainKeys.contains(value.key()) && !isWord) {
+            value.value() = replacedValue(value.value());
         }
     }
     return result;

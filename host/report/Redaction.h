@@ -15,10 +15,13 @@ public:
     Redaction(Options::Redaction level, const QByteArray& key);
 
     Report redacted(const Report& report) const;
+    // The document of a run, as --results writes it.
+    QJsonObject redactedResults(const QJsonObject& document) const;
 
 private:
     QString replaced(const QString& text) const;
     QJsonValue replacedValue(const QJsonValue& value) const;
+    QJsonObject redactedValues(const QJsonObject& values) const;
     void redactCheck(ReportCheck& check) const;
     void redactMeasurements(std::vector<Measurement>& measurements) const;
 

@@ -111,10 +111,14 @@ std::optional<double> readOptional(JsonFields& fields, const char* key)
     return fields.contains(key) ? std::optional<double>(fields.real(key)) : std::nullopt;
 }
 
+// In UTC: a local time is another one on another machine.
 QDateTime readTime(JsonFields& fields, const char* key)
 {
-    const QDateTime time = QDateTime::fromString(readText(fields, key), Qt::ISODateWithMs);
-    if (!time.isValid()) {
+    const QString text = readText(fields, key);
+    const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs);
+    const bool hasForm = text.size() == QLatin1String("2026-03-01T08:30:00Z").size() ||
+                         text.size() == QLatin1String("2026-03-01T08:30:00.000Z").size();
+    if (!time.isValid() || !hasForm || !text.endsWith(QLatin1Char('Z'))) {
         fields.problem().set(fields.path(key), qtTrId("ID_Host_Report_BadTime"));
     }
     return time;
@@ -131,6 +135,13 @@ std::vector<Element> readList(JsonFields& fields, const char* key, Element (*rea
     return result;
 }
 
+void rejectEmpty(JsonFields& fields, const char* key, bool isEmpty)
+{
+    if (isEmpty) {
+        fields.problem().set(fields.path(key), QStringLiteral("must not be empty"));
+    }
+}
+
 Measurement readMeasurement(JsonFields& fields)
 {
     Measurement measurement;
@@ -141,6 +152,7 @@ Measurement readMeasurement(JsonFields& fields)
     } else {
         measurement.reason = readText(fields, "reason");
     }
+    fields.rejectOthers();
     return measurement;
 }
 
@@ -155,6 +167,7 @@ ReportCheck readCheck(JsonFields& fields)
     check.measurements = readList(fields, "measurements", readMeasurement);
     if (fields.contains("later")) {
         check.later = readList(fields, "later", readMeasurement);
+        rejectEmpty(fields, "later", check.later.empty());
     }
     fields.require("contradictions");
     for (const QString& word : fields.words("contradictions", ReportWords::all<Contradiction>())) {
@@ -163,6 +176,8 @@ ReportCheck readCheck(JsonFields& fields)
     for (const QString& word : fields.words("causes", ReportWords::all<Cause>())) {
         check.causes.push_back(*ReportWords::find<Cause>(word));
     }
+    rejectEmpty(fields, "causes", fields.contains("causes") && check.causes.empty());
+    fields.rejectOthers();
     return check;
 }
 
@@ -175,13 +190,17 @@ GradeLine readGradeLine(JsonFields& fields)
     line.goodUpTo = fields.real("goodUpTo");
     line.fairUpTo = readOptional(fields, "fairUpTo");
     line.source = readText(fields, "source");
+    fields.rejectOthers();
     return line;
 }
 
 ReportChange readChange(JsonFields& fields)
 {
-    return {readWord<ChangeSubject>(fields, "subject"), readWord<ChangedThing>(fields, "what"),
-            readText(fields, "before"), readText(fields, "now")};
+    const ReportChange change = {readWord<ChangeSubject>(fields, "subject"),
+                                 readWord<ChangedThing>(fields, "what"), readText(fields, "before"),
+                                 readText(fields, "now")};
+    fields.rejectOthers();
+    return change;
 }
 
 void readNetworkGrade(JsonFields& fields, Report& report)
@@ -190,6 +209,7 @@ void readNetworkGrade(JsonFields& fields, Report& report)
         JsonFields grade = fields.object("networkGrade");
         report.grade = readWord<NetworkGrade::Level>(grade, "level");
         report.gradeLines = readList(grade, "lines", readGradeLine);
+        grade.rejectOthers();
     }
 }
 
@@ -199,6 +219,7 @@ void readChanges(JsonFields& fields, Report& report)
         JsonFields changes = fields.object("changes");
         report.lastGoodRun = readTime(changes, "lastGoodRun");
         report.changes = readList(changes, "list", readChange);
+        changes.rejectOthers();
     }
 }
 
@@ -209,8 +230,13 @@ void readSystem(JsonFields& fields, Report& report)
     if (system.contains("cacheFreeBytes")) {
         report.cacheFreeBytes = double(system.number("cacheFreeBytes", 0, MaxCacheBytes));
     }
-    report.facts = system.rest();
-    report.facts.remove(QLatin1String("cacheFreeBytes"));
+    for (const char* fact : {"account", "nickname", "computer", "operatingSystem", "processor",
+                             "server", "clientAddress", "cdn"}) {
+        if (system.contains(fact)) {
+            report.facts.insert(QLatin1String(fact), readText(system, fact));
+        }
+    }
+    system.rejectOthers();
 }
 
 } // namespace
@@ -266,6 +292,7 @@ std::optional<Report> ReportJson::fromJson(const QJsonObject& object, QString* e
     }
     Report report;
     report.id = readText(fields, "id");
+    rejectEmpty(fields, "id", fields.contains("id") && report.id.isEmpty());
     report.programVersion = readText(fields, "programVersion");
     report.started = readTime(fields, "started");
     report.finished = readTime(fields, "finished");
@@ -278,6 +305,7 @@ std::optional<Report> ReportJson::fromJson(const QJsonObject& object, QString* e
     report.checks = readList(fields, "checks", readCheck);
     readNetworkGrade(fields, report);
     readChanges(fields, report);
+    fields.rejectOthers();
     if (problem.isSet()) {
         *error = problem.toString();
         return std::nullopt;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/RunHistory.h"
 
+#include "host/Folders.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/WholeFile.h"
 
@@ -15,6 +16,9 @@ const QLatin1String PlatformKey("platform");
 const QLatin1String OutcomeKey("outcome");
 const QLatin1String FinishedKey("finished");
 const QLatin1String ChecksKey("checks");
+const QLatin1String IdKey("id");
+const QLatin1String ReportKey("report");
+const QLatin1String RedactionKey("redaction");
 
 using ReportWords::of;
 
@@ -48,14 +52,22 @@ QJsonObject lineOf(const Report& report, const QString& file)
         checks.insert(of(check.kind), values);
     }
     return {
-        {QStringLiteral("id"), report.id},
+        {IdKey, report.id},
+        {RedactionKey, of(report.redaction)},
         {FinishedKey, report.finished.toUTC().toString(Qt::ISODateWithMs)},
         {PlatformKey, of(report.platform)},
         {OutcomeKey, of(report.outcome)},
         {of(ChangedThing::OperatingSystem), report.facts.value(of(ChangedThing::OperatingSystem))},
         {of(ChangedThing::Server), report.facts.value(of(ChangedThing::Server))},
         {ChecksKey, checks},
-        {QStringLiteral("report"), file}};
+        {ReportKey,
+         report.redaction == Options::Redaction::None ? file : Folders::shortened(file)}};
+}
+
+// Lines of earlier versions don't say it: nothing was redacted.
+QString redactionOf(const QJsonObject& line)
+{
+    return line.value(RedactionKey).toString(of(Options::Redaction::None));
 }
 
 QJsonObject lastGoodLine(const QString& path, Options::Platform platform)
@@ -85,7 +97,10 @@ class Comparison
 {
 public:
     Comparison(const QJsonObject& before, const QJsonObject& now, Report& report)
-        : m_before(before), m_now(now), m_report(report)
+        : m_before(before),
+          m_now(now),
+          m_hasSameTexts(redactionOf(before) == redactionOf(now)),
+          m_report(report)
     {
     }
 
@@ -117,6 +132,10 @@ private:
     void addText(ChangeSubject subject, ChangedThing what, const QJsonObject& before,
                  const QJsonObject& now)
     {
+        const bool isForeign = what == ChangedThing::Device || what == ChangedThing::Server;
+        if (isForeign && !m_hasSameTexts) {
+            return;
+        }
         const QString textBefore = before.value(of(what)).toString();
         const QString textNow = now.value(of(what)).toString();
         if (!textBefore.isEmpty() && !textNow.isEmpty() && textBefore != textNow) {
@@ -131,6 +150,7 @@ private:
 
     const QJsonObject m_before;
     const QJsonObject m_now;
+    const bool m_hasSameTexts;
     Report& m_report;
 };
 
@@ -152,6 +172,37 @@ QByteArray withLine(const QByteArray& present, const QByteArray& line)
 
 RunHistory::RunHistory(const QString& path) : m_path(path)
 {
+}
+
+std::vector<RunHistory::Run> RunHistory::runs(QString* problem) const
+{
+    QByteArray content;
+    const QString unreadable = Platform::WholeFile::read(m_path, &content);
+    if (!unreadable.isEmpty()) {
+        *problem = qtTrId("ID_Host_File_NotRead").arg(m_path, unreadable);
+        return {};
+    }
+    std::vector<Run> result;
+    for (const QByteArray& each : content.split('\n')) {
+        const QJsonObject line = QJsonDocument::fromJson(each).object();
+        const QDateTime finished =
+            QDateTime::fromString(line.value(FinishedKey).toString(), Qt::ISODateWithMs);
+        if (!finished.isValid()) {
+            continue;
+        }
+        Run run{line.value(IdKey).toString(),
+                finished,
+                line.value(PlatformKey).toString(),
+                line.value(OutcomeKey).toString(),
+                {},
+                Folders::expanded(line.value(ReportKey).toString())};
+        const QJsonObject checks = line.value(ChecksKey).toObject();
+        for (auto check = checks.begin(); check != checks.end(); ++check) {
+            run.verdicts.insert(check.key(), check.value()[of(ChangedThing::Verdict)]);
+        }
+        result.push_back(run);
+    }
+    return result;
 }
 
 void RunHistory::compare(Report& report) const

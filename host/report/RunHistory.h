@@ -15,10 +15,23 @@ public:
 
     explicit RunHistory(const QString& path);
 
+    struct Run
+    {
+        QString id;
+        QDateTime finished;
+        QString platform; // words of the report
+        QString outcome;
+        QJsonObject verdicts; // by check
+        QString report;       // its file, or empty
+    };
+
+    // Oldest first, without damaged lines. problem: one line if the file can't be read.
+    std::vector<Run> runs(QString* problem) const;
     // Adds to the report what changed since the last run on the same platform in which every check
-    // passed. Reads the file.
+    // passed. Texts that are redacted in another way count as unchanged. Reads the file.
     void compare(Report& report) const;
-    // Adds the line of this run, on another thread. file is the path of its report, or empty.
+    // Adds the line of this run, on another thread. file is the path of its report, or empty. A
+    // path below the user's home is kept as "~/…" if the report is redacted.
     void append(const Report& report, const QString& file) const;
 
 private:

@@ -134,6 +134,18 @@ RunOutcome RunOutcome::fromDocument(const QJsonObject& document, bool wasPutOut)
     return outcome;
 }
 
+RunOutcome RunOutcome::withDevicesOf(const Report& report) const
+{
+    RunOutcome result = *this;
+    for (CheckOutcome& outcome : result.checks) {
+        const ReportCheck* check = report.check(outcome.check);
+        if (check && check->kind != CheckKind::Network) { // that has its figures there
+            outcome.device = check->device;
+        }
+    }
+    return result;
+}
+
 QString RunOutcome::toText() const
 {
     TextTable table;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/ExitCode.h"
-#include "host/report/ReportWords.h"
+#include "host/report/Report.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -26,5 +26,7 @@ struct RunOutcome
     // wasPutOut: the engine ended the session.
     static RunOutcome fromDocument(const QJsonObject& document, bool wasPutOut);
 
+    // With the names that the report has: they may be redacted.
+    RunOutcome withDevicesOf(const Report& report) const;
     QString toText() const; // a table for a terminal; ends with a line feed
 };

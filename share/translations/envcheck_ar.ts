@@ -814,6 +814,10 @@
         <source></source>
         <translation>تقرير كتبه أحد الفحوص؛ والعلامة - تعني الإدخال القياسي. ودونه: تقرير آخر فحص.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>يعرض عمليات الفحص السابقة ونتائجها وتقاريرها.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>يقيس تأخر الشبكة وفقد الحزم ويعرض القيم أولًا بأول.</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[الخيارات]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>لا يوجد بعد تقرير فحص محفوظ؛ شغّل الفحص أو سمِّ ملف تقرير</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>لا توجد عمليات فحص سابقة.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>يعمل</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>اسمًا ينتهي بأحد %1، أو - للإخراج القياسي</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>رقم من %1 إلى %2</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>لا يُستخدم %1 مع %2: احذف أحدهما</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>يحتاج report إلى ملف تقرير (FILE): انظر report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>لا يُستخدم --%1 مع %2: انظر --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>كلٌّ من --%1 و--%2 سيكتب في المكان نفسه (%3): اختر مكانين مختلفين</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Ein Bericht, den eine Prüfung geschrieben hat; - ist die Standardeingabe. Ohne ihn: der Bericht der letzten Prüfung.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Listet die früheren Prüfungen mit Ergebnissen und Berichten auf.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Misst Verzögerung und Paketverlust und gibt die Werte laufend aus.</translation>
@@ -841,6 +845,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[Optionen]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>es ist noch kein Bericht einer Prüfung da; führen Sie die Prüfung aus oder nennen Sie die Datei eines Berichts</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>Es gibt keine früheren Prüfungen.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>funktioniert</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>ein Name, der auf %1 endet, oder - für die Standardausgabe</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>eine Zahl von %1 bis %2</translation>
@@ -1242,13 +1258,13 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>%1 passt nicht zu %2: lassen Sie eines weg</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report braucht die Datei (FILE) eines Berichts: siehe report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 passt nicht zu %2: siehe --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 und --%2 schreiben an denselben Ort (%3): nennen Sie zwei verschiedene</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>A report that the check has written; - is standard input. Without it: the report of the last run.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Lists the earlier runs with their outcomes and reports.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Measures delay and loss and prints the figures as they come.</translation>
@@ -841,6 +845,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[options]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>there is no report of an earlier run; run the check, or name the FILE of a report</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>There are no earlier runs.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>works</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>a name that ends in %1, or - for standard output</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>a number from %1 to %2</translation>
@@ -1242,13 +1258,13 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>%1 can't be used with %2: leave one out</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report needs the FILE of a report: see report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 can't be used with %2: see --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 and --%2 would write to the same place (%3): name two different ones</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

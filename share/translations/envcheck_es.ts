@@ -814,6 +814,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Un informe escrito por una comprobación; - es la entrada estándar. Sin él: el informe de la última comprobación.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Muestra las comprobaciones anteriores con sus resultados e informes.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Mide la latencia y la pérdida de paquetes y muestra los valores según llegan.</translation>
@@ -841,6 +845,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[opciones]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>aún no hay ningún informe de una comprobación; haga la comprobación o indique el archivo (FILE) de un informe</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>No hay comprobaciones anteriores.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>funciona</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>un nombre que termine en %1, o - para la salida estándar</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>un número del %1 al %2</translation>
@@ -1242,13 +1258,13 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>%1 no se puede usar con %2: quite una de las dos</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report necesita el archivo (FILE) de un informe: vea report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 no se puede usar con %2: vea --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 y --%2 escribirían en el mismo sitio (%3): indique dos distintos</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

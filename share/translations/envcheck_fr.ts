@@ -814,6 +814,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Un rapport écrit par une vérification ; - est l’entrée standard. Sans lui : le rapport de la dernière vérification.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Liste les vérifications précédentes avec leurs résultats et rapports.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Mesure la latence et la perte de paquets et affiche les valeurs au fur et à mesure.</translation>
@@ -841,6 +845,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[options]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>il n’y a encore aucun rapport de vérification ; lancez la vérification ou nommez le fichier (FILE) d’un rapport</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>Il n’y a pas de vérification précédente.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>fonctionne</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>un nom qui finit par %1, ou - pour la sortie standard</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>un nombre de %1 à %2</translation>
@@ -1242,13 +1258,13 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>%1 ne va pas avec %2 : supprimez l’une des deux</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report demande le fichier (FILE) d’un rapport : voir report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 ne va pas avec %2 : voir --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 et --%2 écriraient au même endroit (%3) : nommez-en deux différents</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@
         <source></source>
         <translation>チェックが書き出したレポート。- は標準入力です。省略すると、前回のチェックのレポートです。</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>過去のチェックを、結果とレポートとともに一覧表示します。</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>遅延とパケット損失を測定し、値を順次表示します。</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[オプション]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>まだチェックのレポートがありません。チェックを実行するか、レポートのファイル（FILE）を指定してください</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>過去のチェックはありません。</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>正常</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>%1 で終わる名前、または標準出力を表す -</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 から %2 までの数</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>%1 は %2 と一緒に使えません。どちらかを外してください</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report にはレポートのファイル（FILE）が必要です。report --help を参照してください</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 は %2 では使えません。--help を参照してください</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 と --%2 の書き込み先が同じです（%3）。別々の場所を指定してください</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@
         <source></source>
         <translation>점검에서 만든 보고서. -는 표준 입력입니다. 생략하면 마지막 점검의 보고서입니다.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>이전 점검을 결과와 보고서와 함께 나열합니다.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>지연과 패킷 손실을 측정하여 값을 바로 출력합니다.</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[옵션]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>이전 점검의 보고서가 없습니다. 점검을 실행하거나 보고서 파일(FILE)을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>이전 점검이 없습니다.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>정상</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>%1(으)로 끝나는 이름 또는 표준 출력을 뜻하는 -</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1부터 %2까지의 숫자</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>%1과(와) %2은(는) 함께 쓸 수 없습니다. 하나를 빼세요</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report에는 보고서 파일(FILE)이 필요합니다. report --help를 참고하세요</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1은(는) %2에 쓸 수 없습니다. --help를 참고하세요</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1과 --%2이(가) 같은 곳(%3)에 씁니다. 서로 다른 곳을 지정하세요</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Um relatório que uma verificação gravou; - é a entrada padrão. Sem ele: o relatório da última verificação.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Lista as verificações anteriores com seus resultados e relatórios.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Mede o atraso e a perda de pacotes e mostra os valores à medida que chegam.</translation>
@@ -841,6 +845,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[opções]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>ainda não há relatório de uma verificação; faça a verificação ou indique o arquivo (FILE) de um relatório</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>Não há verificações anteriores.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>funciona</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>um nome que termine em %1, ou - para a saída padrão</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>um número de %1 a %2</translation>
@@ -1242,13 +1258,13 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>%1 não combina com %2: retire uma das duas</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report precisa do arquivo (FILE) de um relatório: veja report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 não combina com %2: veja --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 e --%2 gravariam no mesmo lugar (%3): indique dois diferentes</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@
         <source></source>
         <translation>Отчёт, записанный проверкой; - означает стандартный ввод. Без него: отчёт последней проверки.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Показывает прежние проверки с их результатами и отчётами.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Измеряет задержку и потери пакетов и сразу выводит значения.</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[параметры]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>отчётов о прежних проверках нет; запустите проверку или укажите файл отчёта (FILE)</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>Прежних проверок нет.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>работает</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>имя с окончанием %1 или - для стандартного вывода</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>число от %1 до %2</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>%1 не сочетается с %2: уберите одно из них</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>для report нужен файл отчёта (FILE): см. report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 не сочетается с %2: см. --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 и --%2 записали бы в одно и то же место (%3): укажите разные</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

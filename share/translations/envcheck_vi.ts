@@ -814,6 +814,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>Báo cáo do một lần kiểm tra ghi ra; - là đầu vào chuẩn. Nếu không có: báo cáo của lần kiểm tra gần nhất.</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>Liệt kê các lần kiểm tra trước cùng kết quả và báo cáo.</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>Đo độ trễ và tỷ lệ mất gói, in ra từng số đo.</translation>
@@ -841,6 +845,14 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[tùy chọn]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>chưa có báo cáo của lần kiểm tra nào; hãy chạy kiểm tra hoặc nêu tệp (FILE) của một báo cáo</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>Chưa có lần kiểm tra nào trước đây.</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>hoạt động</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>một tên kết thúc bằng %1, hoặc - cho đầu ra chuẩn</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>một số từ %1 đến %2</translation>
@@ -1242,13 +1258,13 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>%1 không đi cùng %2: hãy bỏ một trong hai</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report cần tệp (FILE) của một báo cáo: xem report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 không dùng được với %2: xem --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 và --%2 sẽ ghi vào cùng một nơi (%3): hãy nêu hai nơi khác nhau</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@
         <source></source>
         <translation>由检测生成的报告；- 表示标准输入。省略时：最近一次检测的报告。</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>列出以前的检测及其结果和报告。</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>测量延迟和丢包率，并实时输出数值。</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[选项]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>还没有以前检测的报告；请运行检测，或指定报告文件（FILE）</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>没有以前的检测。</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>正常</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>以 %1 结尾的名称，或表示标准输出的 -</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 到 %2 之间的数字</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>%1 不能与 %2 同时使用：请去掉其中一个</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report 需要指定报告文件（FILE）：请参阅 report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 不能用于 %2：请参阅 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 和 --%2 会写入同一位置（%3）：请指定两个不同的位置</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

@@ -814,6 +814,10 @@
         <source></source>
         <translation>由檢測產生的報告；- 代表標準輸入。省略時：最近一次檢測的報告。</translation>
     </message>
+    <message id="ID_Host_Help_History">
+        <source></source>
+        <translation>列出以前的檢測及其結果和報告。</translation>
+    </message>
     <message id="ID_Host_Help_Network">
         <source></source>
         <translation>測量延遲和封包遺失率，並即時輸出數值。</translation>
@@ -841,6 +845,14 @@
     <message id="ID_Host_Help_UsageOptions">
         <source></source>
         <translation>[選項]</translation>
+    </message>
+    <message id="ID_Host_History_NoReport">
+        <source></source>
+        <translation>還沒有以前檢測的報告；請執行檢測，或指定報告檔案（FILE）</translation>
+    </message>
+    <message id="ID_Host_History_None">
+        <source></source>
+        <translation>沒有以前的檢測。</translation>
     </message>
     <message id="ID_Host_Language_Unknown">
         <source></source>
@@ -1202,6 +1214,10 @@
         <source></source>
         <translation>正常</translation>
     </message>
+    <message id="ID_Host_Takes_Ending">
+        <source></source>
+        <translation>以 %1 結尾的名稱，或代表標準輸出的 -</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 到 %2 之間的數字</translation>
@@ -1242,13 +1258,13 @@
         <source></source>
         <translation>%1 不能與 %2 同時使用：請去掉其中一個</translation>
     </message>
-    <message id="ID_Host_Usage_NoReport">
-        <source></source>
-        <translation>report 需要指定報告檔案（FILE）：請參閱 report --help</translation>
-    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 不能用於 %2：請參閱 --help</translation>
+    </message>
+    <message id="ID_Host_Usage_SamePlace">
+        <source></source>
+        <translation>--%1 和 --%2 會寫入同一位置（%3）：請指定兩個不同的位置</translation>
     </message>
     <message id="ID_Host_Usage_SeeHelp">
         <source></source>

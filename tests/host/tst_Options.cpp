@@ -256,8 +256,6 @@ void tst_Options::wrongOnes_data()
                                     << "pdf";
     QTest::newRow("unknown redaction") << "report a --redact some"
                                        << "some";
-    QTest::newRow("report without a file") << "report"
-                                           << "FILE";
     QTest::newRow("an argument too many") << "devices all"
                                           << "all";
     QTest::newRow("option of another command") << "--json"
@@ -308,7 +306,8 @@ void tst_Options::helpNamesEveryOption_data()
                              << "platform scenario language server count verbose help version";
     QTest::newRow("serve") << Options::Command::Serve << "language port verbose help version";
     QTest::newRow("report") << Options::Command::Report
-                            << "language format redact verbose help version";
+                            << "language format files-from redact verbose help version";
+    QTest::newRow("history") << Options::Command::History << "language json verbose help version";
 }
 
 void tst_Options::helpNamesEveryOption()

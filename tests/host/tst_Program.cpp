@@ -54,6 +54,8 @@ private Q_SLOTS:
     void oneBadReportAmongOthers_data();
     void oneBadReportAmongOthers();
     void reportsByList();
+    void historyAndLastReport();
+    void documentOnOutput();
     void reportsEndedBySignal_data();
     void reportsEndedBySignal();
 
@@ -198,8 +200,8 @@ void tst_Program::versionAndHelp()
     QVERIFY(QRegularExpression(QStringLiteral("^envcheck \\d+\\.\\d+\\.\\d+\\n$"))
                 .match(version.out)
                 .hasMatch());
-    for (const char* command :
-         {"--help", "devices --help", "network --help", "serve --help", "report --help"}) {
+    for (const char* command : {"--help", "devices --help", "network --help", "serve --help",
+                                "report --help", "history --help"}) {
         const Run help = run(words(command));
         QCOMPARE(help.code, 0);
         QVERIFY(help.out.contains(QLatin1String("Options:")));
@@ -215,8 +217,8 @@ void tst_Program::manPageNamesEveryOption()
         QString::fromUtf8(page.readAll()).replace(QLatin1String("\\-"), QLatin1String("-"));
     static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
     int count = 0;
-    for (const char* command :
-         {"--help", "devices --help", "network --help", "serve --help", "report --help"}) {
+    for (const char* command : {"--help", "devices --help", "network --help", "serve --help",
+                                "report --help", "history --help"}) {
         auto matches = option.globalMatch(run(words(command)).out);
         while (matches.hasNext()) {
             const QString name = matches.next().captured();
@@ -284,8 +286,16 @@ void tst_Program::wrongUsage_data()
                                << "http://example.org";
     QTest::newRow("no server for the check") << "--server example.org:0"
                                              << "example.org:0";
-    QTest::newRow("no report named") << "report"
-                                     << "FILE";
+    QTest::newRow("one place for both") << "--results r.json --report ./x/../r.json"
+                                        << "r.json";
+    QTest::newRow("both to the output") << "--results - --report -"
+                                        << "--report";
+    QTest::newRow("unknown ending") << "--report r.pdf"
+                                    << ".json, .html";
+    QTest::newRow("no ending") << "--report r"
+                               << ".json, .html";
+    QTest::newRow("results in a page") << "--results r.html"
+                                       << ".json";
     QTest::newRow("no report in that language") << "report x --language tlh"
                                                 << "tlh";
 }
@@ -506,6 +516,29 @@ void tst_Program::redactedRun()
         QCOMPARE(result.code, 3);
         QVERIFY(!linesOf(file("r.html")).join(QLatin1Char(' ')).contains(QLatin1String("robin")));
     }
+    // The camera's name is in none of the outputs; nor, in those of a user's run, is the home.
+    const Run tour =
+        run({QStringLiteral("--scenario"), QStringLiteral("camera-black"), QStringLiteral("--tour"),
+             file("tour"), QStringLiteral("--report"), file("r.json"), QStringLiteral("--results"),
+             file("results.json"), QStringLiteral("--redact"), QStringLiteral("hash")});
+    QCOMPARE(tour.code, 0);
+    const QString device = QStringLiteral("Front camera");
+    for (const QString& output : {tour.out, linesOf(file("r.json")).join(QLatin1Char(' ')),
+                                  linesOf(file("results.json")).join(QLatin1Char(' '))}) {
+        QVERIFY(output.contains(QLatin1Char('#')));
+        QVERIFY2(!output.contains(device), qPrintable(output));
+    }
+    const Run kickedOut = run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--redact"),
+                               QStringLiteral("personal")});
+    const QStringList lines = linesOf(dataFolder() + QStringLiteral("/runs.jsonl"));
+    for (const QString& output : {kickedOut.out, lines.last()}) {
+        QVERIFY2(output.contains(QLatin1String("~/.local/share")), qPrintable(output));
+        QVERIFY2(!output.contains(m_home->path()), qPrintable(output));
+    }
+    QVERIFY(QFileInfo::exists(QJsonDocument::fromJson(run(words("history --json")).out.toUtf8())
+                                  .array()
+                                  .last()[QStringLiteral("report")]
+                                  .toString()));
     QCOMPARE(QFileInfo(dataFolder() + QStringLiteral("/redaction.key")).size(), 32);
 }
 
@@ -711,6 +744,52 @@ void tst_Program::reportsByList()
     QCOMPARE(byInput.code, 0);
     QCOMPARE(byInput.out.count(QLatin1Char('\n')), 2);
     QCOMPARE(run(csv + words("--files-from /nonexistent")).code, 65);
+}
+
+void tst_Program::historyAndLastReport()
+{
+    const Run none = run(words("history"));
+    QCOMPARE(none.code, 0);
+    QCOMPARE(none.out, QStringLiteral("There are no earlier runs.\n"));
+    const Run noReport = run(words("report"));
+    QCOMPARE(noReport.code, 65);
+    QCOMPARE(noReport.error.count(QLatin1Char('\n')), 1);
+    QCOMPARE(run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--account"),
+                  QStringLiteral("robin")})
+                 .code,
+             3);
+    QCOMPARE(run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--report"),
+                  file("r.html"), QStringLiteral("--redact"), QStringLiteral("hash")})
+                 .code,
+             3);
+    const Run table = run(words("history"));
+    QCOMPARE(table.out.count(QLatin1Char('\n')), 3);
+    QVERIFY2(table.out.contains(QLatin1String("The session was ended")), qPrintable(table.out));
+    const QJsonArray list =
+        QJsonDocument::fromJson(run(words("history --json")).out.toUtf8()).array();
+    QCOMPARE(list.size(), 2);
+    QCOMPARE(list.at(1)[QStringLiteral("report")].toString(), file("r.html"));
+    // The page of the last run is no report to read.
+    const Run last = run(words("report --format json"));
+    QCOMPARE(last.code, 0);
+    QVERIFY(last.out.contains(QLatin1String("robin")));
+}
+
+// The result table goes to standard error then.
+void tst_Program::documentOnOutput()
+{
+    const Run report = run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--report"),
+                            QStringLiteral("-")});
+    QCOMPARE(report.code, 3);
+    QString error;
+    QVERIFY2(ReportJson::fromJson(QJsonDocument::fromJson(report.out.toUtf8()).object(), &error),
+             qPrintable(error));
+    QVERIFY2(report.error.startsWith(QLatin1String("System ")), qPrintable(report.error));
+    const Run results = run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--results"),
+                             QStringLiteral("-"), QStringLiteral("--report"), file("r.json")});
+    QVERIFY(
+        QJsonDocument::fromJson(results.out.toUtf8()).object().contains(QStringLiteral("results")));
+    QVERIFY(results.error.contains(file("r.json")));
 }
 
 void tst_Program::reportsEndedBySignal_data()

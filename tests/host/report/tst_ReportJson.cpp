@@ -176,6 +176,44 @@ void tst_ReportJson::isValidBySchema_data()
         << false;
     QTest::newRow("an unknown field")
         << withValue(good, QStringLiteral("more"), QStringLiteral("x")) << false;
+    QTest::newRow("an unknown field of a check")
+        << withCheckValue(good, QStringLiteral("more"), 1) << false;
+    const QJsonObject figure{{QStringLiteral("key"), QStringLiteral("delayMs")},
+                             {QStringLiteral("status"), QStringLiteral("measured")},
+                             {QStringLiteral("value"), 1},
+                             {QStringLiteral("reason"), QStringLiteral("hung")}};
+    QTest::newRow("a value with a reason")
+        << withCheckValue(good, QStringLiteral("measurements"), QJsonArray{figure}) << false;
+    QTest::newRow("nothing later")
+        << withCheckValue(good, QStringLiteral("later"), QJsonArray()) << false;
+    QTest::newRow("no cause among causes")
+        << withCheckValue(good, QStringLiteral("causes"), QJsonArray()) << false;
+    QTest::newRow("an empty id") << withValue(good, QStringLiteral("id"), QString()) << false;
+    QTest::newRow("half a version") << withValue(good, QStringLiteral("version"), 1.5) << false;
+    for (const char* time : {"2026-03-01T08:30:00", "2026-03-01T08:30:00+01:00", "2026-03-01"}) {
+        QTest::newRow(time) << withValue(good, QStringLiteral("started"), QLatin1String(time))
+                            << false;
+    }
+    QTest::newRow("a whole second")
+        << withValue(good, QStringLiteral("started"), QStringLiteral("2026-03-01T08:30:00Z"))
+        << true;
+    QTest::newRow("an unknown fact")
+        << withValue(good, QStringLiteral("system"),
+                     QJsonObject{{QStringLiteral("shoeSize"), QStringLiteral("x")}})
+        << false;
+    QTest::newRow("a number for a fact")
+        << withValue(good, QStringLiteral("system"), QJsonObject{{QStringLiteral("account"), 5}})
+        << false;
+    QTest::newRow("the computer") << withValue(good, QStringLiteral("system"),
+                                               QJsonObject{{QStringLiteral("computer"),
+                                                            QStringLiteral("pc-17")}})
+                                  << true;
+    QTest::newRow("an unknown field of the grade")
+        << withValue(good, QStringLiteral("networkGrade"),
+                     QJsonObject{{QStringLiteral("level"), QStringLiteral("good")},
+                                 {QStringLiteral("lines"), QJsonArray()},
+                                 {QStringLiteral("more"), 1}})
+        << false;
 }
 
 void tst_ReportJson::isValidBySchema()
@@ -184,6 +222,8 @@ void tst_ReportJson::isValidBySchema()
     QFETCH(bool, isValid);
     QString output;
     const int code = runSchemaCheck(object, &output);
+    QString problem; // the reader refuses what the schema refuses
+    QVERIFY2(ReportJson::fromJson(object, &problem).has_value() == isValid, qPrintable(problem));
     if (isValid) {
         QVERIFY2(code == 0, qPrintable(output));
     } else {

@@ -1,0 +1,133 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The EnvCheck authors
+# SPDX-License-Identifier: MIT
+"""Time and memory of the room table for 1 to 100,000 reports, as a table and as a drawing.
+
+Usage: bench_reports.py PROGRAM [--smoke] [--svg FILE]
+Ends with 1 if 10,000 reports take more than a second, or any number more than 64 MB above one."""
+import argparse
+import math
+import os
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+import uuid
+
+COUNTS = (1, 10, 100, 1000, 10000, 100000)
+SMOKE_COUNTS = (1, 10)
+ROUNDS = 5
+MANY = 10000
+MOST_SECONDS = 1.0
+MOST_EXTRA_MB = 64
+KIB_PER_MB = 1024
+
+
+def sample(program, folder):
+    """The report of a scripted run that answers everything, about 8 KB."""
+    path = os.path.join(folder, "sample.json")
+    subprocess.run([program, "--scenario", "all-well", "--tour", folder + "/tour", "--report", path,
+                    "--language", "en"], check=True, stdout=subprocess.DEVNULL)
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+def write_reports(text, folder, count):
+    """Each has an id of its own, and every third a failed camera."""
+    own_id = text.split('"id": "')[1].split('"')[0]
+    failed = text.replace('"check": "camera"', '"causes": ["busy"], "check": "camera"')
+    with open(os.path.join(folder, "list"), "w", encoding="utf-8") as names:
+        for number in range(count):
+            path = os.path.join(folder, "r%06d.json" % number)
+            content = failed if number % 3 == 0 else text
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(content.replace(own_id, str(uuid.UUID(int=number))))
+            names.write(path + "\n")
+    return os.path.join(folder, "list")
+
+
+def measure(program, names, count):
+    """Seconds and MB of one run."""
+    with open(names, encoding="utf-8") as file:
+        head = "".join(file.readline() for _ in range(count))
+    with tempfile.NamedTemporaryFile("w", encoding="utf-8") as some:
+        some.write(head)
+        some.flush()
+        start = time.perf_counter()
+        child = subprocess.Popen([program, "report", "--format", "room", "--files-from", some.name],
+                                 stdout=subprocess.DEVNULL)
+        _, status, usage = os.wait4(child.pid, 0)
+        seconds = time.perf_counter() - start
+        child.returncode = os.waitstatus_to_exitcode(status)
+    if child.returncode != 0:
+        sys.exit("The program ended with %d" % child.returncode)
+    return seconds, usage.ru_maxrss / KIB_PER_MB
+
+
+def curve(values, left, low, high, colour):
+    """Values over the counts, both logarithmic, in a field of 300 by 200."""
+    width, height, top = 300, 200, 20
+    points = []
+    for index, value in enumerate(values):
+        share = (math.log10(value) - low) / (high - low)
+        points.append("%.1f,%.1f" % (left + width * index / (len(COUNTS) - 1),
+                                     top + height * (1 - share)))
+    dots = "".join('<circle cx="%s" cy="%s" r="3" fill="%s"/>' % (*p.split(","), colour)
+                   for p in points)
+    return '<polyline points="%s" fill="none" stroke="%s" stroke-width="2"/>%s' % (
+        " ".join(points), colour, dots)
+
+
+def field(title, unit, left, low, high):
+    """The axes of one curve, with a line for each power of ten."""
+    parts = ['<text x="%d" y="12" font-weight="bold">%s</text>' % (left, title)]
+    for power in range(low, high + 1):
+        y = 220 - 200 * (power - low) / (high - low)
+        parts.append('<path d="M%d %.1fh300" stroke="#ccc"/><text x="%d" y="%.1f" '
+                     'text-anchor="end">%g %s</text>' % (left, y, left - 5, y + 4, 10 ** power, unit))
+    for index, count in enumerate(COUNTS):
+        parts.append('<text x="%.1f" y="236" text-anchor="middle">%s</text>' % (
+            left + 300 * index / (len(COUNTS) - 1), "{:,}".format(count)))
+    return "".join(parts)
+
+
+def drawing(rows):
+    seconds = [row[1] for row in rows]
+    megabytes = [row[2] for row in rows]
+    return ('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 780 250" '
+            'font-family="sans-serif" font-size="11"><rect width="780" height="250" fill="#fff"/>'
+            + field("Time of the room table, by number of reports", "s", 60, -2, 2)
+            + curve(seconds, 60, -2, 2, "#1f5fa8")
+            + field("Largest memory", "MB", 450, 0, 3) + curve(megabytes, 450, 0, 3, "#c62f0d")
+            + "</svg>\n")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("program")
+    parser.add_argument("--smoke", action="store_true")
+    parser.add_argument("--svg")
+    options = parser.parse_args()
+    counts = SMOKE_COUNTS if options.smoke else COUNTS
+    rows = []
+    with tempfile.TemporaryDirectory() as folder:
+        os.environ.update(HOME=folder, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
+        names = write_reports(sample(options.program, folder), folder, counts[-1])
+        print("| reports | s | MB |\n|---|---|---|")
+        for count in counts:
+            runs = [measure(options.program, names, count) for _ in range(ROUNDS)]
+            rows.append((count, statistics.median(run[0] for run in runs),
+                         max(run[1] for run in runs)))
+            print("| {:,} | {:.3f} | {:.1f} |".format(*rows[-1]), flush=True)
+    if options.smoke:
+        return
+    if options.svg:
+        with open(options.svg, "w", encoding="utf-8") as file:
+            file.write(drawing(rows))
+    is_fast = all(seconds <= MOST_SECONDS for count, seconds, _ in rows if count <= MANY)
+    is_small = all(megabytes <= rows[0][2] + MOST_EXTRA_MB for _, _, megabytes in rows)
+    sys.exit(0 if is_fast and is_small else 1)
+
+
+main()
