@@ -132,6 +132,8 @@ const std::vector<Word<Reason>>& table()
         {Reason::Failed, "failed", "ID_Host_Reason_Failed"},
         {Reason::NoAnswer, "noAnswer", "ID_Host_Reason_NoAnswer"},
         {Reason::NoSuchHost, "noSuchHost", "ID_Host_Reason_NoSuchHost"},
+        {Reason::Refused, "refused", "ID_Host_Reason_Refused"},
+        {Reason::NoRoute, "noRoute", "ID_Host_Reason_NoRoute"},
         {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
     };
     return words;

@@ -66,6 +66,8 @@ enum class Reason {
     Failed,
     NoAnswer,
     NoSuchHost,
+    Refused, // by the server's machine
+    NoRoute,
     NoServer, // none is configured
 };
 

@@ -717,9 +717,17 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>keine Antwort, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>kein Weg zum Server, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>Server nicht gefunden, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>Server lehnt ab, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
         <source></source>
         <translation>der Server antwortet nicht</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>es gibt keinen Weg zum Server</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>die Engine zeichnet diesen Wert nicht auf</translation>
@@ -868,6 +880,10 @@ Stecken Sie sie wieder ein oder wählen Sie eine andere.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>das Gerät ist ausgeschaltet</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>der Server lehnt ab</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

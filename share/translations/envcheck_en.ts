@@ -717,9 +717,17 @@ Plug it in again, or choose another one.</translation>
         <source></source>
         <translation>no answer, loss %1 %, sent %2, answered %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>no way to the server, loss %1 %, sent %2, answered %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>no such server, loss %1 %, sent %2, answered %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>the server refuses, loss %1 %, sent %2, answered %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Plug it in again, or choose another one.</translation>
         <source></source>
         <translation>the server did not answer</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>there is no way to the server</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>the engine does not record it</translation>
@@ -868,6 +880,10 @@ Plug it in again, or choose another one.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>the device is turned off</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>the server refused</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -717,9 +717,17 @@ Vuelva a conectarla o elija otra.</translation>
         <source></source>
         <translation>sin respuesta, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>no hay ruta al servidor, pérdida %1 %, enviadas %2, respondidas %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>no existe ese servidor, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>el servidor rechaza, pérdida %1 %, enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Vuelva a conectarla o elija otra.</translation>
         <source></source>
         <translation>el servidor no responde</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>no hay ruta al servidor</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>el motor no lo registra</translation>
@@ -868,6 +880,10 @@ Vuelva a conectarla o elija otra.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>el dispositivo está apagado</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>el servidor rechazó la petición</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -717,9 +717,17 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>pas de réponse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>aucun chemin vers le serveur, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>serveur introuvable, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>le serveur refuse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Rebranchez-la ou choisissez-en une autre.</translation>
         <source></source>
         <translation>le serveur ne répond pas</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>il n’y a aucun chemin vers le serveur</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>le moteur ne l’enregistre pas</translation>
@@ -868,6 +880,10 @@ Rebranchez-la ou choisissez-en une autre.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>l’appareil est désactivé</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>le serveur a refusé</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

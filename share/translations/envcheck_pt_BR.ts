@@ -717,9 +717,17 @@ Conecte-a de novo ou escolha outra.</translation>
         <source></source>
         <translation>sem resposta, perda %1%, sondas enviadas %2, respondidas %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>sem rota até o servidor, perda %1 %, enviadas %2, respondidas %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>servidor inexistente, perda %1%, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>o servidor recusa, perda %1 %, enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Conecte-a de novo ou escolha outra.</translation>
         <source></source>
         <translation>o servidor não responde</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>não há rota até o servidor</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>o mecanismo não registra isso</translation>
@@ -868,6 +880,10 @@ Conecte-a de novo ou escolha outra.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>o dispositivo está desligado</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>o servidor recusou</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -717,9 +717,17 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>không có hồi đáp, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>không có đường tới máy chủ, mất gói %1 %, đã gửi %2, được trả lời %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>không có máy chủ này, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>máy chủ từ chối, mất gói %1 %, đã gửi %2, được trả lời %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -861,6 +869,10 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
         <source></source>
         <translation>máy chủ không phản hồi</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>không có đường tới máy chủ</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>hệ thống đo không ghi lại mục này</translation>
@@ -868,6 +880,10 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>thiết bị đang tắt</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>máy chủ từ chối</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>
