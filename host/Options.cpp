@@ -65,7 +65,7 @@ constexpr Definition Definitions[] = {
     {"report", InCheck, "FILE", "ID_Host_Option_Report"},
     {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
-    {"json", InDevices | InHistory, nullptr, "ID_Host_Option_Json"},
+    {"json", InDevices | InNetwork | InHistory, nullptr, "ID_Host_Option_Json"},
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
     {"port", InServe, "N", "ID_Host_Option_Port"},
     {"format", InReport, "FORMAT", "ID_Host_Option_Format"},

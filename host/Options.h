@@ -31,7 +31,7 @@ struct Options
     bool isVerbose = false;
     bool isQuiet = false; // no window with the outcome
 
-    bool isJson = false; // devices, history
+    bool isJson = false; // devices, network, history
     int count = 0;       // network: how many figures; 0 means no limit
     quint16 port = 0;    // serve
     QStringList files;   // report; "-" is standard input

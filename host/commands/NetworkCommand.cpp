@@ -12,8 +12,10 @@
 #include "platform/backend/Engine.h"
 #include "platform/backend/Log.h"
 #include "platform/backend/NetworkLimits.h"
+#include "platform/backend/ResultKeys.h"
 
 #include <QCoreApplication>
+#include <QJsonDocument>
 #include <QTimer>
 
 namespace {
@@ -25,8 +27,10 @@ constexpr int FirstFigureMs = 5000;
 class FigurePrinter final : public Platform::NetworkProbe::Listener
 {
 public:
-    FigurePrinter(Platform::Engine& engine, int count)
-        : m_count(count), m_probe(engine.createNetworkProbe(*this))
+    FigurePrinter(Platform::Engine& engine, const Options& options)
+        : m_isJson(options.isJson),
+          m_count(options.count),
+          m_probe(engine.createNetworkProbe(*this))
     {
     }
 
@@ -37,7 +41,9 @@ public:
         m_last = m_probe->figures();
         ++m_printed;
         const bool isLast = m_count > 0 && m_printed >= m_count;
-        if (Console::isTerminal()) {
+        if (m_isJson) {
+            Console::print(jsonLine() + QLatin1Char('\n'));
+        } else if (Console::isTerminal()) {
             Console::print(QStringLiteral("\r\033[K") + line() +
                            (isLast ? QStringLiteral("\n") : QString()));
         } else {
@@ -57,12 +63,26 @@ public:
     }
 
 private:
+    const char* noFigureId() const
+    {
+        switch (m_last.problem) {
+        case Platform::NetworkProblem::NoSuchHost:
+            return "ID_Host_Network_NoSuchServer";
+        case Platform::NetworkProblem::Refused:
+            return "ID_Host_Network_Refused";
+        case Platform::NetworkProblem::NoRoute:
+            return "ID_Host_Network_NoRoute";
+        case Platform::NetworkProblem::NoServer:
+        case Platform::NetworkProblem::None:
+            break;
+        }
+        return "ID_Host_Network_NoAnswer";
+    }
+
     QString line() const
     {
         if (m_last.delayMs < 0) {
-            const bool hasAddress = m_last.problem != Platform::NetworkProblem::NoSuchHost;
-            return (hasAddress ? qtTrId("ID_Host_Network_NoAnswer")
-                               : qtTrId("ID_Host_Network_NoSuchServer"))
+            return qtTrId(noFigureId())
                 .arg(m_last.lossPercent)
                 .arg(m_last.sent)
                 .arg(m_last.answered);
@@ -78,6 +98,35 @@ private:
                      : qtTrId("ID_Host_NotMeasured").arg(qtTrId("ID_Host_Reason_NoServer")));
     }
 
+    // The words are those of the report.
+    QString jsonLine() const
+    {
+        using Platform::NetworkProblem;
+        const Verdict verdict = !hasServer()  ? Verdict::NotTested
+                                : hasPassed() ? Verdict::Passed
+                                              : Verdict::Failed;
+        QJsonObject object = Platform::toJson(m_last);
+        object.remove(Platform::ResultKeys::State);
+        object.insert(QStringLiteral("verdict"), ReportWords::of(verdict));
+        object.insert(Platform::ResultKeys::Cause,
+                      verdict == Verdict::Passed ? QJsonValue() : QJsonValue(cause()));
+        return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    }
+
+    // Of figures that don't pass.
+    QString cause() const
+    {
+        if (m_last.problem != Platform::NetworkProblem::None) {
+            return Platform::wordOf(m_last.problem);
+        }
+        if (m_last.delayMs < 0) {
+            return ReportWords::of(Reason::NoAnswer);
+        }
+        const bool isSlow = !Platform::NetworkLimits::arePassed(m_last.delayMs, 0);
+        return ReportWords::of(isSlow ? Cause::Slow : Cause::Lossy);
+    }
+
+    const bool m_isJson;
     const int m_count;
     int m_printed = 0;
     Platform::NetworkFigures m_last;
@@ -97,11 +146,13 @@ ExitCode NetworkCommand::run(const Options& options)
         return ExitCode::SomeFailed;
     }
     const Platform::SystemFacts& facts = installed.engine().systemFacts();
-    Console::print(qtTrId("ID_Host_Network_Ends")
-                       .arg(Console::plainLine(facts.serverName()),
-                            Console::plainLine(facts.clientAddress())) +
-                   QLatin1Char('\n'));
-    const FigurePrinter printer(installed.engine(), options.count);
+    if (!options.isJson) {
+        Console::print(qtTrId("ID_Host_Network_Ends")
+                           .arg(Console::plainLine(facts.serverName()),
+                                Console::plainLine(facts.clientAddress())) +
+                       QLatin1Char('\n'));
+    }
+    const FigurePrinter printer(installed.engine(), options);
     bool isUnmeasured = false;
     const QObject context; // the timer may outlive what it looks at
     QTimer::singleShot(FirstFigureMs, &context, [&printer, &isUnmeasured] {
@@ -117,7 +168,7 @@ ExitCode NetworkCommand::run(const Options& options)
                                           "threads. End other programs, or raise the limit");
         return ExitCode::Unavailable;
     }
-    if (options.count == 0 && Console::isTerminal()) {
+    if (options.count == 0 && !options.isJson && Console::isTerminal()) {
         Console::print(QStringLiteral("\n"));
     }
     if (!printer.hasServer()) {

@@ -128,7 +128,7 @@ Measurement measurementOf(const QString& key, const QJsonObject& figures)
     // A negative value means that no answer came.
     const QString delayKey = ReportWords::of(FigureName::Delay);
     if (isOfAnswers(key) && figures.value(delayKey).toDouble() < 0) {
-        const bool isKnown = state == Reason::NoSuchHost;
+        const bool isKnown = isOneOf(state, {Reason::NoSuchHost, Reason::Refused, Reason::NoRoute});
         return failed(key, ReportWords::of(isKnown ? *state : Reason::NoAnswer));
     }
     return {key, Measurement::Status::Measured, value, {}};

@@ -133,6 +133,8 @@ const std::vector<Word<Reason>>& table()
         {Reason::Unreadable, "unreadable", "ID_Host_Reason_Unreadable"},
         {Reason::NoAnswer, "noAnswer", "ID_Host_Reason_NoAnswer"},
         {Reason::NoSuchHost, "noSuchHost", "ID_Host_Reason_NoSuchHost"},
+        {Reason::Refused, "refused", "ID_Host_Reason_Refused"},
+        {Reason::NoRoute, "noRoute", "ID_Host_Reason_NoRoute"},
         {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
         {Reason::ServerLost, "serverLost", "ID_Host_Reason_ServerLost"},
         {Reason::ServerSilent, "serverSilent", "ID_Host_Reason_ServerSilent"},

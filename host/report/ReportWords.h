@@ -67,6 +67,8 @@ enum class Reason {
     Unreadable,
     NoAnswer,
     NoSuchHost,
+    Refused, // by the server's machine
+    NoRoute,
     NoServer, // none is configured
     ServerLost,
     ServerSilent,

@@ -11,6 +11,10 @@ QString wordOf(NetworkProblem problem)
         return QStringLiteral("noServer");
     case NetworkProblem::NoSuchHost:
         return QStringLiteral("noSuchHost");
+    case NetworkProblem::Refused:
+        return QStringLiteral("refused");
+    case NetworkProblem::NoRoute:
+        return QStringLiteral("noRoute");
     case NetworkProblem::None:
         break;
     }

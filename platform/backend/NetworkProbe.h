@@ -14,6 +14,8 @@ enum class NetworkProblem {
     None,
     NoServer,   // none is configured: they are those of this machine alone
     NoSuchHost, // the server has no address, so nothing could be sent
+    Refused,    // its machine answered that nobody listens there
+    NoRoute,    // the system knows no way there
 };
 
 // What a probe measured within its time window.

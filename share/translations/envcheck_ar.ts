@@ -886,9 +886,17 @@
         <source></source>
         <translation>لا استجابة، فقد الحزم %1%، المُرسل %2، المُجاب %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>لا طريق إلى الخادم، الفقد %1 %، المرسل %2، المجاب %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>لا يوجد خادم كهذا، فقد الحزم %1%، المُرسل %2، المُجاب %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>الخادم يرفض، الفقد %1 %، المرسل %2، المجاب %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>الخادم لا يستجيب</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>لا طريق إلى الخادم</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>المحرك لا يسجله</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>الجهاز متوقف</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>الخادم رفض الطلب</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

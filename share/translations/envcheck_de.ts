@@ -886,9 +886,17 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>keine Antwort, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>kein Weg zum Server, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>Server nicht gefunden, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>Server lehnt ab, Paketverlust %1 %, gesendet %2, beantwortet %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>der Server antwortet nicht</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>es gibt keinen Weg zum Server</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>die Engine zeichnet diesen Wert nicht auf</translation>
@@ -1037,6 +1049,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>das Gerät ist ausgeschaltet</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>der Server lehnt ab</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -886,9 +886,17 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>no answer, loss %1 %, sent %2, answered %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>no way to the server, loss %1 %, sent %2, answered %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>no such server, loss %1 %, sent %2, answered %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>the server refuses, loss %1 %, sent %2, answered %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>the server did not answer</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>there is no way to the server</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>the engine does not record it</translation>
@@ -1037,6 +1049,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>the device is turned off</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>the server refused</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

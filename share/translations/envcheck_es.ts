@@ -886,9 +886,17 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>sin respuesta, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>no hay ruta al servidor, pérdida %1 %, enviadas %2, respondidas %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>no existe ese servidor, pérdida %1 %, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>el servidor rechaza, pérdida %1 %, enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>el servidor no responde</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>no hay ruta al servidor</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>el motor no lo registra</translation>
@@ -1037,6 +1049,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>el dispositivo está apagado</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>el servidor rechazó la petición</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

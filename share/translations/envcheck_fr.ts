@@ -886,9 +886,17 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>pas de réponse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>aucun chemin vers le serveur, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>serveur introuvable, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>le serveur refuse, perte %1 %, sondes envoyées %2, avec réponse %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>le serveur ne répond pas</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>il n’y a aucun chemin vers le serveur</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>le moteur ne l’enregistre pas</translation>
@@ -1037,6 +1049,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>l’appareil est désactivé</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>le serveur a refusé</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

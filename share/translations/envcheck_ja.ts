@@ -886,9 +886,17 @@
         <source></source>
         <translation>応答なし、パケット損失 %1%、送信 %2、応答 %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>サーバーへの経路がありません、パケット損失 %1%、送信 %2、応答 %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>サーバーが見つかりません、パケット損失 %1%、送信 %2、応答 %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>サーバーが拒否しました、パケット損失 %1%、送信 %2、応答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>サーバーが応答しません</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>サーバーへの経路がありません</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>エンジンが記録しません</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>機器がオフです</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>サーバーが拒否しました</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

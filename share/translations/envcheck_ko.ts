@@ -886,9 +886,17 @@
         <source></source>
         <translation>응답 없음, 패킷 손실 %1%, 보냄 %2, 응답 %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>서버로 가는 경로 없음, 손실 %1%, 보냄 %2, 응답 %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>서버를 찾을 수 없음, 패킷 손실 %1%, 보냄 %2, 응답 %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>서버가 거부함, 손실 %1%, 보냄 %2, 응답 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>서버가 응답하지 않음</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>서버로 가는 경로가 없습니다</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>엔진이 기록하지 않음</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>장치가 꺼져 있음</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>서버가 거부했습니다</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

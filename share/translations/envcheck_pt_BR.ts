@@ -886,9 +886,17 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>sem resposta, perda %1%, sondas enviadas %2, respondidas %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>sem rota até o servidor, perda %1 %, enviadas %2, respondidas %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>servidor inexistente, perda %1%, sondas enviadas %2, respondidas %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>o servidor recusa, perda %1 %, enviadas %2, respondidas %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>o servidor não responde</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>não há rota até o servidor</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>o mecanismo não registra isso</translation>
@@ -1037,6 +1049,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>o dispositivo está desligado</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>o servidor recusou</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -886,9 +886,17 @@
         <source></source>
         <translation>нет ответа, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>нет пути к серверу, потери %1 %, отправлено %2, отвечено %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>такого сервера нет, потери %1 %, отправлено запросов %2, получено ответов %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>сервер отказывает, потери %1 %, отправлено %2, отвечено %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>сервер не отвечает</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>нет пути к серверу</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>движок этого не записывает</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>устройство выключено</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>сервер отказал</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

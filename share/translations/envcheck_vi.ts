@@ -886,9 +886,17 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>không có hồi đáp, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>không có đường tới máy chủ, mất gói %1 %, đã gửi %2, được trả lời %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>không có máy chủ này, mất gói %1%, số gói đã gửi %2, có hồi đáp %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>máy chủ từ chối, mất gói %1 %, đã gửi %2, được trả lời %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>máy chủ không phản hồi</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>không có đường tới máy chủ</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>hệ thống đo không ghi lại mục này</translation>
@@ -1037,6 +1049,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>thiết bị đang tắt</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>máy chủ từ chối</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -886,9 +886,17 @@
         <source></source>
         <translation>没有应答，丢包率 %1%，已发送 %2，已应答 %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>没有到服务器的路由，丢包 %1%，已发送 %2，已应答 %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>没有这个服务器，丢包率 %1%，已发送 %2，已应答 %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>服务器拒绝，丢包 %1%，已发送 %2，已应答 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>服务器没有响应</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>没有到服务器的路由</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>引擎不记录此项</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>设备已关闭</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>服务器拒绝了请求</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

@@ -886,9 +886,17 @@
         <source></source>
         <translation>沒有回應，封包遺失率 %1%，已傳送 %2，已回應 %3</translation>
     </message>
+    <message id="ID_Host_Network_NoRoute">
+        <source></source>
+        <translation>沒有到伺服器的路由，遺失 %1%，已傳送 %2，已回應 %3</translation>
+    </message>
     <message id="ID_Host_Network_NoSuchServer">
         <source></source>
         <translation>沒有這個伺服器，封包遺失率 %1%，已傳送 %2，已回應 %3</translation>
+    </message>
+    <message id="ID_Host_Network_Refused">
+        <source></source>
+        <translation>伺服器拒絕，遺失 %1%，已傳送 %2，已回應 %3</translation>
     </message>
     <message id="ID_Host_No">
         <source></source>
@@ -1030,6 +1038,10 @@
         <source></source>
         <translation>伺服器沒有回應</translation>
     </message>
+    <message id="ID_Host_Reason_NoRoute">
+        <source></source>
+        <translation>沒有到伺服器的路由</translation>
+    </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
         <translation>引擎不記錄此項</translation>
@@ -1037,6 +1049,10 @@
     <message id="ID_Host_Reason_Off">
         <source></source>
         <translation>裝置已關閉</translation>
+    </message>
+    <message id="ID_Host_Reason_Refused">
+        <source></source>
+        <translation>伺服器拒絕了請求</translation>
     </message>
     <message id="ID_Host_Reason_Scripted">
         <source></source>

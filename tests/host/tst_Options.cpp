@@ -303,7 +303,7 @@ void tst_Options::helpNamesEveryOption_data()
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network
-                             << "platform scenario language server count verbose help version";
+                             << "platform scenario language server json count verbose help version";
     QTest::newRow("serve") << Options::Command::Serve << "language port verbose help version";
     QTest::newRow("report") << Options::Command::Report
                             << "language format files-from redact verbose help version";

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void redactedRun();
     void devices();
     void networkLines();
+    void networkCauses_data();
+    void networkCauses();
     void networkWithoutServer();
     void serverSetOnceForAll();
     void brokenConfiguration_data();
@@ -565,6 +567,49 @@ void tst_Program::networkLines()
     const Run none = run(words("network --scenario network-unmeasured --count 1"));
     QCOMPARE(none.code, 1);
     QVERIFY2(none.out.contains(QLatin1String("no answer")), qPrintable(none.out));
+}
+
+void tst_Program::networkCauses_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("cause");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("code");
+    // Nobody listens on the port of "discard" there.
+    QTest::newRow("refused") << "--server 127.0.0.1:9"
+                             << "refused"
+                             << "the server refuses, " << 1;
+    QTest::newRow("no server") << ""
+                               << "noServer"
+                               << "not measured: no server" << 69;
+    QTest::newRow("no answer") << "--scenario network-unmeasured"
+                               << "noAnswer"
+                               << "no answer, " << 1;
+    QTest::newRow("good") << "--scenario all-well"
+                          << ""
+                          << "delay " << 0;
+}
+
+// As it comes, in the words of the report.
+void tst_Program::networkCauses()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, cause);
+    QFETCH(QString, text);
+    const QStringList all = words("network --count 1") + words(qPrintable(arguments));
+    const Run lines = run(all);
+    QVERIFY2(lines.out.contains(text), qPrintable(lines.out));
+    QTEST(lines.code, "code");
+    const Run json = run(all + words("--json"));
+    QTEST(json.code, "code");
+    QCOMPARE(json.out.count(QLatin1Char('\n')), 1);
+    const QJsonObject line = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QCOMPARE(line.value(QStringLiteral("cause")).toString(), cause);
+    QCOMPARE(line.value(QStringLiteral("verdict")).toString(),
+             cause.isEmpty()                      ? QStringLiteral("passed")
+             : cause == QLatin1String("noServer") ? QStringLiteral("notTested")
+                                                  : QStringLiteral("failed"));
+    QVERIFY(line.contains(QStringLiteral("lossPercent")));
 }
 
 void tst_Program::networkWithoutServer()

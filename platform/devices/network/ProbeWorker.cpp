@@ -48,7 +48,9 @@ void ProbeWorker::timerEvent(QTimerEvent* event)
     } else if (event->timerId() == m_verdictTimer.timerId()) {
         m_verdictTimer.start(VerdictIntervalMs, Qt::PreciseTimer, this);
         NetworkFigures figures = m_window.figures(now());
-        figures.problem = m_problem;
+        const bool isAnswered = figures.delayMs >= 0;
+        figures.problem =
+            m_problem == NetworkProblem::None && !isAnswered ? m_wayProblem : m_problem;
         m_reports.figures(figures);
     }
 }
@@ -109,6 +111,7 @@ void ProbeWorker::openNext()
     m_lastSign = now();
     m_isRefused = false;
     if (m_socket->state() != QAbstractSocket::ConnectedState) {
+        m_wayProblem = NetworkProblem::NoRoute;
         qCDebug(Log::network).noquote()
             << "No way to" << address.toString() << "-" << m_socket->errorString();
         m_socket.reset();
@@ -204,12 +207,21 @@ bool ProbeWorker::write(const QByteArray& datagram)
     }
     // The kernel reports the refusal of an earlier datagram in place of sending this one.
     if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
-        m_isRefused = true;
+        setRefused();
         m_socket->write(datagram);
         return true;
     }
+    if (m_socket->error() == QAbstractSocket::NetworkError) {
+        m_wayProblem = NetworkProblem::NoRoute;
+    }
     return m_socket->error() == QAbstractSocket::TemporaryError ||
            m_socket->error() == QAbstractSocket::SocketResourceError;
+}
+
+void ProbeWorker::setRefused()
+{
+    m_isRefused = true;
+    m_wayProblem = NetworkProblem::Refused;
 }
 
 void ProbeWorker::readDatagrams()
@@ -217,7 +229,9 @@ void ProbeWorker::readDatagrams()
     for (int count = 0; count < MaxDatagramsAtOnce; ++count) {
         const QNetworkDatagram datagram = m_socket->receiveDatagram(MaxDatagramSize);
         if (!datagram.isValid()) {
-            m_isRefused |= m_socket->error() == QAbstractSocket::ConnectionRefusedError;
+            if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
+                setRefused();
+            }
             return;
         }
         take(datagram.data());
@@ -238,6 +252,7 @@ void ProbeWorker::take(const QByteArray& datagram)
         return;
     }
     m_lastSign = arrivedAt;
+    m_wayProblem = NetworkProblem::None;
     m_window.addAnswer(probe->number, arrivedAt);
     m_open.erase(probe);
     if (!m_hasClientAddress && !answer->clientAddress.isNull()) {

@@ -65,6 +65,7 @@ private:
     void closeWhereUseless();
     void sendProbe();
     bool write(const QByteArray& datagram);
+    void setRefused();
     void readDatagrams();
     void take(const QByteArray& datagram);
 
@@ -82,6 +83,7 @@ private:
     QList<QHostAddress> m_addresses;  // of the last one taken from them, not tried yet
     quint16 m_port = 0;               // of that one
     NetworkProblem m_problem = NetworkProblem::None;
+    NetworkProblem m_wayProblem = NetworkProblem::None; // until the next answer
     std::unique_ptr<QUdpSocket> m_socket;
     ProbeWindow::Time m_lastSign{0}; // of life: an answer, or the socket's opening
     bool m_isRefused = false;

@@ -4,6 +4,7 @@
 #include "host/Languages.h"
 #include "host/report/Remedies.h"
 #include "host/report/ReportWriter.h"
+#include "host/report/TwinTexts.h"
 #include "platform/backend/NetworkProbe.h"
 #include "tests/host/report/SampleReport.h"
 
@@ -236,8 +237,9 @@ void tst_Remedies::terminalAndReportSayTheSame()
     const QString terminal = Remedies::toText(report);
     QCOMPARE(terminal.count(QLatin1Char('\n')), 4);
     QVERIFY(terminal.startsWith(id("What to do:\n  System: ")));
-    const QString text = ReportWriter::toText(report, id("en"));
-    const QString html = ReportWriter::toHtml({report}, id("en"));
+    const TwinTexts texts(id("en"));
+    const QString text = ReportWriter::toText(report, texts);
+    const QString html = ReportWriter::htmlOf(report, texts);
     for (const Remedies::Remedy& remedy : Remedies::of(report)) {
         const QString sentence = qtTrId(ReportWords::textId(remedy.cause));
         QVERIFY2(terminal.contains(sentence), qPrintable(terminal));
@@ -249,7 +251,7 @@ void tst_Remedies::terminalAndReportSayTheSame()
 void tst_Remedies::nothingToSay()
 {
     QCOMPARE(Remedies::toText(sampleReport()), QString());
-    QVERIFY(!ReportWriter::toText(sampleReport(), id("en")).contains(id("What to do")));
+    QVERIFY(!ReportWriter::toText(sampleReport(), TwinTexts(id("en"))).contains(id("What to do")));
 }
 
 QTEST_GUILESS_MAIN(tst_Remedies)
