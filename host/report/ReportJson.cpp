@@ -138,7 +138,7 @@ std::vector<Element> readList(JsonFields& fields, const char* key, Element (*rea
 void rejectEmpty(JsonFields& fields, const char* key, bool isEmpty)
 {
     if (isEmpty) {
-        fields.problem().set(fields.path(key), QStringLiteral("must not be empty"));
+        fields.problem().set(fields.path(key), qtTrId("ID_Engine_Json_Empty"));
     }
 }
 

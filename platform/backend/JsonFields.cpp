@@ -222,7 +222,7 @@ QJsonValue JsonFields::value(const char* key, bool isRequired)
     m_asked.emplace_back(key);
     const QJsonValue field = m_object.value(QLatin1String(key));
     if (isRequired && field.isUndefined()) {
-        m_problem.set(path(key), QStringLiteral("is missing"));
+        m_problem.set(path(key), qtTrId("ID_Engine_Json_Missing"));
     }
     return field;
 }

@@ -144,9 +144,7 @@ Scenario::Action ScenarioDeviceReader::readDevice(JsonFields& fields, Kind kind)
     m_ids[kind].insert(info.id);
     if (m_ids[kind].size() > MaxDevices) {
         fields.problem().set(fields.path("id"),
-                             QStringLiteral("more than %1 different devices of this kind; plug in "
-                                            "one that was there before")
-                                 .arg(MaxDevices));
+                             qtTrId("ID_Engine_Scenario_TooManyDevices").arg(MaxDevices));
     }
     const Scenario::Action setTraits = readTraits(fields, kind);
     return [kind, info, state, setTraits](ScriptedEngine& engine) {

@@ -230,6 +230,10 @@
         <source></source>
         <translation>يجب أن يكون المستند كائنًا</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>يجب ألا يكون فارغًا</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>يجب أن تكون القيمة true أو false</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>أكبر من 1 ميبيبايت؛ حدّد ملف سيناريو</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>أكثر من %1 جهاز مختلف من هذا النوع؛ صِل جهازًا كان موجودًا من قبل</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

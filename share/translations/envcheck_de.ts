@@ -230,6 +230,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>das Dokument muss ein Objekt sein</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>darf nicht leer sein</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>muss true oder false sein</translation>
@@ -341,6 +345,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>größer als 1 MiB; nennen Sie eine Szenariodatei</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>mehr als %1 verschiedene Geräte dieser Art; stecken Sie eines ein, das schon da war</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

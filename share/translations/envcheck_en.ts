@@ -230,6 +230,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>the document must be an object</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>must not be empty</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>must be true or false</translation>
@@ -341,6 +345,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>larger than 1 MiB; name a scenario file</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>more than %1 different devices of this kind; plug in one that was there before</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>el documento debe ser un objeto</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>no debe estar vacío</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>debe ser true o false</translation>
@@ -341,6 +345,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>supera 1 MiB; indique un archivo de escenario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>más de %1 dispositivos distintos de este tipo; conecte uno que ya estuvo antes</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>le document doit être un objet</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>ne doit pas être vide</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>doit être true ou false</translation>
@@ -341,6 +345,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>plus de 1 Mio ; indiquez un fichier de scénario</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>plus de %1 appareils différents de ce type ; branchez-en un qui était déjà là</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@
         <source></source>
         <translation>文書全体がオブジェクトでなければなりません</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>空にできません</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>true か false でなければなりません</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>1 MiB を超えています。シナリオファイルを指定してください</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>この種類の異なるデバイスが %1 台を超えています。以前に接続したことのあるデバイスを接続してください</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@
         <source></source>
         <translation>문서는 객체여야 합니다</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>비어 있으면 안 됩니다</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>true 또는 false여야 합니다</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>1 MiB보다 큽니다. 시나리오 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>이 종류의 서로 다른 장치가 %1개를 넘습니다. 전에 있던 장치를 연결하세요</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

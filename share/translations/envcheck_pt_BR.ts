@@ -230,6 +230,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>o documento deve ser um objeto</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>não pode estar vazio</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>deve ser true ou false</translation>
@@ -341,6 +345,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>passa de 1 MiB; indique um arquivo de cenário</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>mais de %1 dispositivos diferentes deste tipo; conecte um que já esteve presente</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@
         <source></source>
         <translation>документ должен быть объектом</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>не должно быть пустым</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>должно быть true или false</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>больше 1 МиБ; укажите файл сценария</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>более %1 разных устройств этого вида; подключите то, которое уже было</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

@@ -230,6 +230,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
         <source></source>
         <translation>tài liệu phải là một đối tượng</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>không được để trống</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>phải là true hoặc false</translation>
@@ -341,6 +345,10 @@ Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của n�
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>lớn hơn 1 MiB; hãy chỉ định một tệp kịch bản</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>nhiều hơn %1 thiết bị khác nhau thuộc loại này; hãy cắm một thiết bị đã có trước đó</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

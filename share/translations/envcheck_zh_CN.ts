@@ -230,6 +230,10 @@
         <source></source>
         <translation>整个文档必须是一个对象</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>不能为空</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>必须是 true 或 false</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>大于 1 MiB，请指定脚本文件</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>这类不同的设备超过 %1 个；请接入之前出现过的设备</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>

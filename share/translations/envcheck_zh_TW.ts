@@ -230,6 +230,10 @@
         <source></source>
         <translation>整份文件必須是一個物件</translation>
     </message>
+    <message id="ID_Engine_Json_Empty">
+        <source></source>
+        <translation>不能是空的</translation>
+    </message>
     <message id="ID_Engine_Json_Flag">
         <source></source>
         <translation>必須是 true 或 false</translation>
@@ -341,6 +345,10 @@
     <message id="ID_Engine_Scenario_TooLarge">
         <source></source>
         <translation>大於 1 MiB，請指定腳本檔案</translation>
+    </message>
+    <message id="ID_Engine_Scenario_TooManyDevices">
+        <source></source>
+        <translation>這類不同的裝置超過 %1 個；請接上之前出現過的裝置</translation>
     </message>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
