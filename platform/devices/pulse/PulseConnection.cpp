@@ -20,7 +20,7 @@ constexpr unsigned LastBackOffMs = 2000;
 // Pause between two queries of the device list, so that many changes at once don't keep us busy.
 constexpr unsigned PauseMs = 20;
 // For all replies of a round. Without them it is begun again.
-constexpr unsigned RoundTimeoutMs = 5000;
+constexpr unsigned RoundTimeoutMs = 2000;
 // The watch asks at each tick. Ticks are counted rather than time: if this thread was late itself,
 // an answer has waited for it.
 constexpr unsigned WatchMs = 1000;
