@@ -168,7 +168,7 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     <message id="ID_Engine_Camera_Unreadable">
         <source></source>
         <translation>Không thể hiển thị hình ảnh của camera này ở đây.
-Hãy chọn camera khác, hoặc định dạng khác trong cài đặt của nó.</translation>
+Hãy chọn camera khác hoặc định dạng khác.</translation>
     </message>
     <message id="ID_Engine_File_BadEnd">
         <source></source>
