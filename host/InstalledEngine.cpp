@@ -4,6 +4,7 @@
 
 #include "host/Options.h"
 #include "host/ProgramEnd.h"
+#include "host/TerminationSignals.h"
 #include "platform/backend/Engine.h"
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
@@ -95,7 +96,8 @@ bool InstalledEngine::prepare()
         wait->loop.quit();
     });
     wait->loop.exec();
-    return wait->isDone;
+    // A signal in the last moment ended this loop alone, not the one that comes next.
+    return wait->isDone && !TerminationSignals::haveArrived();
 }
 
 Platform::Engine& InstalledEngine::engine() const
