@@ -116,8 +116,13 @@ void DisplayServer::useForThisProcess() const
 bool DisplayServer::startManager(const QString& program)
 {
     m_manager.reset();
-    const QString mark = QStringLiteral("_NET_SUPPORTING_WM_CHECK"); // some leave it behind
-    output(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("-remove"), mark});
+    // It says who it is before it takes care of windows, and lists them after that. Some leave both
+    // behind.
+    const QStringList marks{QStringLiteral("_NET_SUPPORTING_WM_CHECK"),
+                            QStringLiteral("_NET_CLIENT_LIST")};
+    for (const QString& mark : marks) {
+        output(QStringLiteral("xprop"), {QStringLiteral("-root"), QStringLiteral("-remove"), mark});
+    }
     if (program.isEmpty()) {
         return true;
     }
@@ -125,9 +130,10 @@ bool DisplayServer::startManager(const QString& program)
     m_manager->setProcessEnvironment(serverEnvironment());
     m_manager->setStandardOutputFile(QProcess::nullDevice());
     m_manager->start(program, QStringList());
-    const auto isThere = [this, mark] {
-        const QStringList question{QStringLiteral("-root"), mark};
-        return output(QStringLiteral("xprop"), question).contains(QLatin1String("window id"));
+    const auto isThere = [this, marks] {
+        const QStringList question = QStringList{QStringLiteral("-root")} + marks;
+        return output(QStringLiteral("xprop"), question).count(QLatin1String("window id")) ==
+               marks.size();
     };
     return QTest::qWaitFor(isThere, TimeoutMs);
 }
