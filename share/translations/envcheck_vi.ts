@@ -167,8 +167,8 @@ Hãy cắm lại hoặc chọn camera khác.</translation>
     </message>
     <message id="ID_Engine_Camera_Unreadable">
         <source></source>
-        <translation>Không thể hiển thị hình ảnh của camera này ở đây.
-Hãy chọn camera khác hoặc định dạng khác.</translation>
+        <translation>Không hiển thị được hình từ camera.
+Hãy chọn camera hoặc định dạng khác.</translation>
     </message>
     <message id="ID_Engine_File_BadEnd">
         <source></source>
