@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Redaction.h"
 #include "host/report/ReportJson.h"
-#include "host/report/ReportWriter.h"
+#include "host/report/ReportOutput.h"
 #include "tests/fuzz/FuzzInput.h"
 
 #include <QJsonDocument>
@@ -17,11 +17,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         FuzzInput::require(!error.isEmpty());
         return 0;
     }
-    const QString language = QStringLiteral("en");
-    for (const QString& shown :
-         {ReportWriter::toText(*report, language), ReportWriter::toHtml({*report}, language),
-          ReportWriter::toRoomTable({*report}, {QString()}, language),
-          QString::fromUtf8(ReportWriter::toJson(*report))}) {
+    using Format = Options::Format;
+    for (const Format format : {Format::Text, Format::Html, Format::Json, Format::Room, Format::Csv,
+                                Format::Lines, Format::Map}) {
+        QString shown;
+        const auto output = ReportOutput::create(format, QStringLiteral("en"), false,
+                                                 [&shown](const QString& text) { shown += text; });
+        output->add(*report, QString());
+        output->finish();
         FuzzInput::require(!shown.contains(QChar(0x1B)) && !shown.contains(QChar(0x9B)) &&
                            !shown.contains(QChar(0x202E)));
     }
