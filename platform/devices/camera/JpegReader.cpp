@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/JpegReader.h"
 
+#include <algorithm>
 #include <csetjmp>
 #include <cstdio>
 #include <jpeglib.h>
@@ -11,6 +12,15 @@ namespace Platform {
 namespace {
 
 constexpr int SmallestScale = 8; // one eighth
+
+// libjpeg's own one waits for more data, which never come.
+void skipInput(j_decompress_ptr jpeg, long count)
+{
+    const auto wanted = static_cast<std::size_t>(std::max(count, 0L));
+    const std::size_t skipped = std::min(wanted, jpeg->src->bytes_in_buffer);
+    jpeg->src->next_input_byte += skipped;
+    jpeg->src->bytes_in_buffer -= skipped;
+}
 
 } // namespace
 
@@ -65,6 +75,7 @@ QSize JpegReader::open(const uchar* data, std::size_t size)
         jpeg_mem_src(&jpeg, data, static_cast<unsigned long>(size));
         // At the end of the data, libjpeg would go on with gray.
         jpeg.src->fill_input_buffer = [](j_decompress_ptr) -> boolean { return FALSE; };
+        jpeg.src->skip_input_data = &skipInput;
         return jpeg_read_header(&jpeg, TRUE) == JPEG_HEADER_OK;
     });
     if (!isGood || jpeg.progressive_mode != 0) { // those need memory for all of it

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void refusesHugeStrides();
     void refusesAbsurdSizes();
     void refusesBrokenJpegs();
+    void refusesJpegSegmentBeyondTheEnd();
     void readsEverySampling_data();
     void readsEverySampling();
     void readsTheJpegsOfAnEncoder_data();
@@ -258,6 +259,15 @@ void tst_FrameConverter::refusesBrokenJpegs()
     QVERIFY(converter.convert(format, viewOf(bytes.left(bytes.size() / 2), 0), {}, {}).isNull());
     QVERIFY(converter.convert(format, viewOf(QByteArray(2000, 'x'), 0), {}, {}).isNull());
     QVERIFY(!converter.convert(format, viewOf(bytes, 0), {}, {}).isNull());
+}
+
+// libjpeg's own way to skip a segment waits for the rest of it without end.
+void tst_FrameConverter::refusesJpegSegmentBeyondTheEnd()
+{
+    const QByteArray jpeg = QByteArray::fromHex("ffd8ffe5fff0") + QByteArray(8, 'x');
+    FrameConverter converter;
+    const FrameFormat format{PixelFormat::Mjpg, YuvColor::Bt601, QSize(16, 16)};
+    QVERIFY(converter.convert(format, viewOf(jpeg, 0), {}, {}).isNull());
 }
 
 void tst_FrameConverter::readsEverySampling_data()
