@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/DriftingMicrophone.h"
 
+#include "tests/support/RealTimePriority.h"
 #include "tests/support/SoundRecording.h"
 
 #include <QFile>
@@ -192,6 +193,7 @@ std::vector<DriftingMicrophone::Clock::time_point> DriftingMicrophone::burstTime
 // Like a real device, it delivers a piece when the last sample of it was recorded.
 void DriftingMicrophone::run()
 {
+    giveThisThreadRealTimePriority();
     constexpr std::size_t Size = Feed::PieceSize;
     for (std::size_t at = 0; at + Size <= m_sound.size() && !m_isStopping; at += Size) {
         std::this_thread::sleep_until(timeOf(at + Size));

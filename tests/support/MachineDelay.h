@@ -9,19 +9,22 @@
 namespace TestSupport {
 
 // How long, since its construction, the threads of this process and of its child processes were
-// ready to run but had to wait for a processor. This is the sum over all threads, as the kernel
-// counts it. On an idle machine it is close to zero.
+// ready to run but had to wait for a processor, and how long other virtual machines had the
+// processors of this one. Both are sums, as the kernel counts them. On an idle machine they are
+// close to zero.
 class MachineDelay
 {
 public:
-    MachineDelay() : m_before(milliseconds()) {}
+    MachineDelay() : m_before(milliseconds()), m_stolenMsBefore(stolenMs()) {}
 
     qint64 ms() const;
 
 private:
     static QHash<QString, qint64> milliseconds(); // of each thread since its start
+    static qint64 stolenMs();                     // since the machine's start
 
     QHash<QString, qint64> m_before;
+    qint64 m_stolenMsBefore;
 };
 
 // Runs a measurement in real time, which returns what is wrong or an empty text. If it finds a

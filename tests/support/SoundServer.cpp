@@ -3,6 +3,7 @@
 #include "tests/support/SoundServer.h"
 
 #include "tests/support/PulseClient.h"
+#include "tests/support/RealTimePriority.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -109,6 +110,9 @@ bool SoundServer::start()
     if (!isLaunched || !waitForAnswer()) {
         qWarning("The sound server didn't start");
         return false;
+    }
+    for (const std::unique_ptr<QProcess>& process : m_processes) {
+        giveRealTimePriority(process->processId());
     }
     m_speakerA = plugSpeaker(QStringLiteral("speaker_a"), QStringLiteral("Test Speaker A"));
     m_speakerB = plugSpeaker(QStringLiteral("speaker_b"), QStringLiteral("Test Speaker B"));

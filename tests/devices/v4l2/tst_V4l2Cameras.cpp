@@ -532,7 +532,7 @@ void tst_V4l2Cameras::leavesHungStartAtOnce()
     m_backend.reset();
     QVERIFY(duration.elapsed() < AtOnceMs);
     QTRY_COMPARE(threadCount("v4l2 cameras"), 0);
-    QCOMPARE(threadCount("v4l2 stream"), 2);
+    QTRY_COMPARE(threadCount("v4l2 stream"), 2); // the other camera's thread is still ending
     driver.release(2);
     QTRY_COMPARE(threadCount("v4l2 stream"), 0);
     QTRY_COMPARE(sourcesAlive(), 0);
