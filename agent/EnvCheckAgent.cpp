@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "agent/EnvCheckAgent.h"
 
+#include "agent/MissingPieces.h"
 #include "wizard/ContentPage.h"
 
 #include <LumWidgets/LumCustomNormalDialog.h>
@@ -30,6 +31,7 @@ EnvCheckAgent::~EnvCheckAgent() = default;
 
 void EnvCheckAgent::showEnvCheck(QWidget* parent)
 {
+    MissingPieces::report();
     // Nothing here may use the agent after exec(): the host may release it while the dialog runs.
     LumCustomNormalDialog dialog(LumCustomNormalDialog::Type(0), parent, Qt::WindowFlags(), nullptr,
                                  false);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "agent/EnvCheckExport.h"
+#include "agent/EnvCheckVersion.h"
 
 #include <QObject>
 
@@ -13,6 +14,7 @@ class QWidget;
 class ENVCHECK_EXPORT EnvCheckAgent : public QObject
 {
     Q_OBJECT
+    Q_CLASSINFO("Version", ENVCHECK_VERSION)
     Q_DISABLE_COPY(EnvCheckAgent)
 
 public:

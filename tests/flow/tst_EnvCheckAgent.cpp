@@ -62,6 +62,7 @@ class tst_EnvCheckAgent : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void instanceIsTheSameUntilReleased();
     void metaObjectHasTwoSignals();
     void showKestrelAsksForTheMainWindow();
+    void openingTellsWhatIsMissing();
     void dialogWithoutParent();
     void dialogAboveItsParent();
     void dialogIsTheParentsChild();
@@ -93,6 +95,12 @@ private:
 
     ScriptedEngine* m_engine = nullptr;
 };
+
+// The texts are missing in all of these tests.
+void tst_EnvCheckAgent::initTestCase()
+{
+    QLoggingCategory::setFilterRules("envcheck.warning=false");
+}
 
 void tst_EnvCheckAgent::init()
 {
@@ -152,6 +160,16 @@ void tst_EnvCheckAgent::showKestrelAsksForTheMainWindow()
     EnvCheckAgent::instance()->showKestrel();
     QCOMPARE(show.count(), 2);
     QCOMPARE(hide.count(), 0);
+}
+
+void tst_EnvCheckAgent::openingTellsWhatIsMissing()
+{
+    QLoggingCategory::setFilterRules(QString());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^The check opens without .*: texts"));
+    DialogRun run([this](LumCustomNormalDialog*) { kickOut(); });
+    EnvCheckAgent::instance()->showEnvCheck(nullptr);
+    QVERIFY(run.wasRun());
+    initTestCase();
 }
 
 void tst_EnvCheckAgent::dialogWithoutParent()
