@@ -22,8 +22,31 @@ endfunction()
 
 # What a developer of a client needs: the library, its header and the CMake package.
 install(TARGETS EnvCheck EXPORT EnvCheckTargets)
-install(FILES agent/EnvCheckAgent.h agent/EnvCheckExport.h DESTINATION ${include_folder}/agent)
+install(FILES agent/EnvCheckAgent.h agent/EnvCheckExport.h ${PROJECT_BINARY_DIR}/agent/EnvCheckVersion.h
+    DESTINATION ${include_folder}/agent)
 envcheck_install_package(EnvCheck)
+install(FILES cmake/EnvCheckDeploy.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/EnvCheck)
+
+# The pictures of the client, below the names that the library has for them.
+set(picture_folder ${ENVCHECK_PROGRAM_FOLDER}/pictures)
+install(FILES cmake/client-pictures.qrc host/resources/invite_more.svg
+    host/resources/radiobutton_checked_disabled.svg DESTINATION ${picture_folder})
+foreach(state checked unchecked)
+    install(FILES resources/images/radio_${state}.svg
+        DESTINATION ${picture_folder} RENAME radiobutton_${state}.svg)
+endforeach()
+install(FILES resources/images/radio_disabled.svg
+    DESTINATION ${picture_folder} RENAME radiobutton_unchecked_disabled.svg)
+
+# envcheck_install_pkg_config(NAME): for clients that don't use CMake.
+function(envcheck_install_pkg_config name)
+    set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    file(RELATIVE_PATH to_prefix /${folder} /)
+    configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${folder})
+endfunction()
+envcheck_install_pkg_config(EnvCheck)
+
 if(NOT ENVCHECK_ENGINE STREQUAL "bundled")
     # The engine stays where it is.
     set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
@@ -34,6 +57,13 @@ endif()
 # its own: its names are too general for one that everybody shares.
 set(engine_libraries
     ClassroomBackend ClassroomScripted CommEngine CoreEngine LumMedia LumUtility LumWidgets)
+set(backends ClassroomScripted)
+if(ENVCHECK_DEVICES)
+    list(APPEND engine_libraries ClassroomDevices)
+    list(APPEND backends ClassroomDevices)
+    install(FILES platform/devices/DeviceEngine.h platform/devices/DeviceEngineConfig.h
+        DESTINATION ${include_folder}/platform/devices)
+endif()
 if(WIN32)
     set(engine_folder ${CMAKE_INSTALL_LIBDIR})
 else()
@@ -49,19 +79,17 @@ foreach(name CommEngine CoreEngine LumMedia LumUtility LumWidgets)
 endforeach()
 install(DIRECTORY platform/backend platform/scripted DESTINATION ${include_folder}/platform
     FILES_MATCHING PATTERN *.h)
-foreach(name ClassroomBackend ClassroomScripted)
+foreach(name ClassroomBackend ${backends})
     install(FILES ${PROJECT_BINARY_DIR}/platform/${name}/${name}Export.h
         DESTINATION ${include_folder}/${name})
 endforeach()
 envcheck_install_package(ClassroomEngine)
+list(TRANSFORM engine_libraries PREPEND -l OUTPUT_VARIABLE engine_link_flags)
+list(JOIN engine_link_flags " " engine_link_flags)
+envcheck_install_pkg_config(ClassroomEngine)
 
 # The program. It looks for its texts and sounds beside itself.
 install(TARGETS envcheck RUNTIME DESTINATION ${ENVCHECK_PROGRAM_FOLDER})
-if(ENVCHECK_DEVICES)
-    install(TARGETS ClassroomDevices
-        LIBRARY DESTINATION ${engine_folder} NAMELINK_SKIP)
-    list(APPEND engine_libraries ClassroomDevices)
-endif()
 if(WIN32)
     return()
 endif()
