@@ -104,7 +104,7 @@ set_target_properties(${engine_libraries} PROPERTIES INSTALL_RPATH $ORIGIN)
 set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH $ORIGIN/${to_engine})
 set_target_properties(envcheck PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_library}")
 
-install(FILES host/resources/envcheck.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+include(EnvCheckDesktop)
 install(FILES host/resources/envcheck.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES docs/envcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)

@@ -17,7 +17,7 @@ test_packages=(
     libspa-0.2-modules libc-l10n umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     postgresql sqlite3
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
-    binutils dpkg-dev file
+    binutils dpkg-dev file abigail-tools appstream desktop-file-utils
     openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins

@@ -17,6 +17,9 @@ dpkg-deb --info "$package"
 dpkg-deb -x "$package" "$folder/unpacked"
 usr=$folder/unpacked/usr
 
+desktop-file-validate "$usr/share/applications/envcheck.desktop"
+appstreamcli validate --no-net --pedantic "$usr/share/metainfo/org.example.envcheck.metainfo.xml"
+
 # Nothing may come from where it was built.
 no_build_tree()
 {
