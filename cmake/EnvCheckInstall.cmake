@@ -105,6 +105,11 @@ set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH $ORIGIN/${to_engine})
 set_target_properties(envcheck PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_library}")
 
 include(EnvCheckDesktop)
+# Where Debian's shells look; the names are theirs.
+install(FILES share/completions/envcheck.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME envcheck)
+install(FILES share/completions/_envcheck DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES share/completions/envcheck.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(FILES host/resources/envcheck.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES docs/envcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)

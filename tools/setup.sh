@@ -18,6 +18,7 @@ test_packages=(
     postgresql sqlite3
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file abigail-tools appstream desktop-file-utils
+    bash-completion zsh fish
     openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
