@@ -149,6 +149,10 @@ void tst_RunOutcome::networkWithoutDelay()
     QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoAnswer"));
     figures.insert(QStringLiteral("state"), QStringLiteral("noSuchHost"));
     QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoSuchHost"));
+    figures.insert(QStringLiteral("state"), QStringLiteral("refused"));
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_Refused"));
+    figures.insert(QStringLiteral("state"), QStringLiteral("noRoute"));
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoRoute"));
     QCOMPARE(textFor({}), failedWith("ID_Host_Reason_NoAnswer"));
 }
 
