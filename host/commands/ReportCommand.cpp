@@ -18,21 +18,6 @@
 
 namespace {
 
-// Nothing if it can't be used; then it has said why.
-std::optional<Redaction> redactionOf(const Options& options)
-{
-    QString problem;
-    QByteArray key;
-    if (options.redaction == Options::Redaction::Hash) {
-        key = ReportFile::redactionKey(Folders::redactionKey(), &problem);
-    }
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-        return std::nullopt;
-    }
-    return Redaction(options.redaction, key);
-}
-
 // A file's name may be that of a person, so a redacted report has its number instead.
 QString nameOf(const ReportReader::Read& read, int number)
 {
@@ -106,8 +91,11 @@ std::optional<QStringList> filesOf(const Options& options)
 
 ExitCode ReportCommand::run(const Options& options, const QString& language)
 {
-    const std::optional<Redaction> redaction = redactionOf(options);
+    QString problem;
+    const std::optional<Redaction> redaction =
+        Redaction::withKeyIn(Folders::redactionKey(), options.redaction, &problem);
     if (!redaction) {
+        Console::printError(problem);
         return ExitCode::CannotWrite;
     }
     const std::optional<QStringList> files = filesOf(options);
