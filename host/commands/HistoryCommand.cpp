@@ -11,7 +11,6 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 
 namespace {
 
@@ -71,7 +70,7 @@ ExitCode HistoryCommand::run(const Options& options, const QString& language)
         for (const RunHistory::Run& run : runs) {
             array.append(jsonOf(run));
         }
-        Console::print(QString::fromUtf8(QJsonDocument(array).toJson()));
+        Console::print(Console::plainJson(QJsonDocument(array)));
         return ExitCode::AllPassed;
     }
     if (runs.empty()) {
