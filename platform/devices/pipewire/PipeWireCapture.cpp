@@ -117,9 +117,7 @@ void PipeWireCapture::frameReceived(const FrameFormat& format, const FrameView& 
     const QImage frame = m_converter.convert(format, view, orientation, m_outputSize);
     if (frame.isNull()) {
         if (m_converter.hasGivenUp()) {
-            qCInfo(Log::camera, "The camera's frames can't be read: %s",
-                   qUtf8Printable(m_converter.problem()));
-            m_opening.setReason(DeviceState::Unreadable);
+            m_opening.framesUnreadable(m_converter.problem());
         }
         return;
     }
