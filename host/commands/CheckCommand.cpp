@@ -204,7 +204,7 @@ void CheckCommand::remember(const Report& report, bool isWritten) const
     const bool isFile = isWritten && m_reportFile != Options::Output;
     history.append(report, isFile ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
     Platform::FileWriter::enqueue([history, folder = Folders::reports()] {
-        QString problem; // then the order of the names counts
+        QString problem; // without the runs, the order of the names counts
         QStringList reports;
         for (const RunHistory::Run& run : history.runs(&problem)) {
             reports << run.report;

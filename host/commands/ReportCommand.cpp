@@ -46,7 +46,7 @@ private:
     QString m_text;
 };
 
-// That of the newest run which wrote JSON. Nothing if there is none; then it has said so.
+// The report of the newest run that wrote JSON. Nothing if there is none; then it has printed so.
 std::optional<QStringList> lastReport()
 {
     QString problem;
@@ -62,8 +62,8 @@ std::optional<QStringList> lastReport()
     return QStringList{last->report};
 }
 
-// The named files, and those whose names are in the file of --files-from. Nothing if that can't be
-// read; then it has said why.
+// The files of the command line, and the files that --files-from lists. Nothing if that list can't
+// be read; then it has printed why.
 std::optional<QStringList> filesOf(const Options& options)
 {
     if (options.files.isEmpty() && options.filesFrom.isEmpty()) {

@@ -138,7 +138,7 @@ RunOutcome RunOutcome::withDevicesOf(const Report& report) const
     RunOutcome result = *this;
     for (CheckOutcome& outcome : result.checks) {
         const ReportCheck* check = report.check(outcome.check);
-        if (check && check->kind != CheckKind::Network) { // that has its figures there
+        if (check && check->kind != CheckKind::Network) { // the network shows its figures there
             outcome.device = check->device;
         }
     }

@@ -152,7 +152,7 @@ bool PipeWireCapture::openStream(const QString& serial)
     return true;
 }
 
-// Of an error before our time, the server says no number.
+// If the error is older than our connection, the server gives no number.
 void PipeWireCapture::setReason(const ServerError& error)
 {
     const bool mayBeBusy = error.number == 0 || error.number == EBUSY;

@@ -133,7 +133,7 @@ void tst_RunOutcome::network()
     QTEST(static_cast<int>(check.verdict), "verdict");
 }
 
-// In the language of the terminal: the step's own text for no delay is no word of it.
+// The reason is said in the language of the terminal. The step's own text, "N/A", doesn't show.
 void tst_RunOutcome::networkWithoutDelay()
 {
     const auto textFor = [](const QJsonObject& figures) {
