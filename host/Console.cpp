@@ -4,7 +4,6 @@
 
 #include "host/System.h"
 
-#include <QJsonDocument>
 #include <QVector>
 #include <numeric>
 #include <utf8proc.h>

@@ -122,16 +122,9 @@ QString textOf(Platform::DeviceState state)
 QString absenceText(Platform::SoundServerState state)
 {
     using State = Platform::SoundServerState;
-    switch (state) {
-    case State::Lost:
-        return qtTrId("ID_Engine_SoundServerLost");
-    case State::Starting: // nobody waits longer for it here
-    case State::Silent:
-        return qtTrId("ID_Engine_SoundServerSilent");
-    case State::Running:
-        break;
-    }
-    return qtTrId("ID_Host_Devices_None");
+    // Nobody waits longer here for a server that starts.
+    const char* id = Platform::textId(state == State::Starting ? State::Silent : state);
+    return qtTrId(id ? id : "ID_Host_Devices_None");
 }
 
 void addTo(TextTable& table, const QString& title, const DeviceSurvey::Devices& devices,

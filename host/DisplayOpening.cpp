@@ -3,17 +3,16 @@
 #include "host/DisplayOpening.h"
 
 #include "host/Console.h"
+#include "host/DisplayKind.h"
 #include "host/ExitCode.h"
 
-#include <QStringList>
+#include <QCoreApplication>
 
 #include <chrono>
 #include <cstdlib>
 #include <system_error>
 
 namespace {
-
-const char* const KindVariable = "QT_QPA_PLATFORM";
 
 QtMessageHandler thePrevious = nullptr;
 QString theProblem;
@@ -32,65 +31,14 @@ void handle(QtMsgType type, const QMessageLogContext& context, const QString& te
     thePrevious(type, context, text);
 }
 
-#if defined(Q_OS_WIN)
-QStringList displays()
-{
-    return {QStringLiteral("desktop")}; // there always is one
-}
-
-void chooseKind()
-{
-}
-#else
-QString valueOf(const char* variable)
-{
-    return qEnvironmentVariable(variable);
-}
-
-QStringList displays()
-{
-    QStringList names{valueOf("DISPLAY"), valueOf("WAYLAND_DISPLAY"), valueOf(KindVariable)};
-    names.removeAll(QString());
-    return names;
-}
-
-// Without its folder, libwayland prints a line of its own and gives up.
-bool mayUseWayland()
-{
-    const QString display = valueOf("WAYLAND_DISPLAY");
-    const bool hasFolder =
-        display.startsWith(QLatin1Char('/')) || !valueOf("XDG_RUNTIME_DIR").isEmpty();
-    return !display.isEmpty() && hasFolder;
-}
-
-// In Qt's own order, which prefers X11 on GNOME.
-void chooseKind()
-{
-    if (!valueOf(KindVariable).isEmpty()) {
-        return;
-    }
-    QStringList kinds;
-    if (!valueOf("DISPLAY").isEmpty()) {
-        kinds.append(QStringLiteral("xcb"));
-    }
-    if (mayUseWayland()) {
-        const bool isGnome = valueOf("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"));
-        const bool isFirst = valueOf("XDG_SESSION_TYPE") == QLatin1String("wayland") && !isGnome;
-        kinds.insert(isFirst ? 0 : kinds.size(), QStringLiteral("wayland"));
-    }
-    if (kinds.isEmpty()) {
-        giveUp();
-    }
-    qputenv(KindVariable, kinds.join(QLatin1Char(';')).toLatin1());
-}
-#endif
-
 } // namespace
 
 DisplayOpening::DisplayOpening(const QString& problem)
 {
     theProblem = problem;
-    chooseKind();
+    if (!DisplayKind::choose()) {
+        giveUp();
+    }
     thePrevious = qInstallMessageHandler(&handle);
     try {
         m_watch = std::thread([this] { watch(); });
@@ -114,14 +62,15 @@ DisplayOpening::~DisplayOpening()
 
 bool DisplayOpening::hasDisplay()
 {
-    return !displays().isEmpty();
+    return !DisplayKind::displays().isEmpty();
 }
 
 QString DisplayOpening::problem()
 {
-    return hasDisplay()
-               ? qtTrId("ID_Host_Display_NotOpened").arg(displays().join(QStringLiteral(", ")))
-               : qtTrId("ID_Host_Display_None");
+    const QStringList displays = DisplayKind::displays();
+    return displays.isEmpty()
+               ? qtTrId("ID_Host_Display_None")
+               : qtTrId("ID_Host_Display_NotOpened").arg(displays.join(QStringLiteral(", ")));
 }
 
 void DisplayOpening::watch()

@@ -30,8 +30,8 @@ QString cdnSecondPart(const Options& options)
     return options.cdn.section(QLatin1Char('/'), 1);
 }
 
-// The file that has the results after each change. If they are to be redacted, or printed, they
-// come at the end alone.
+// The file to which the results are written after each change. Empty if they are written only once,
+// at the end, because they are redacted or printed.
 QString runningResults(const Options& options)
 {
     const bool isPlainFile =
@@ -96,7 +96,7 @@ bool InstalledEngine::prepare()
         wait->loop.quit();
     });
     wait->loop.exec();
-    // A signal in the last moment ended this loop alone, not the one that comes next.
+    // A signal at the last moment ended only this loop. The next one must not even begin.
     return wait->isDone && !TerminationSignals::haveArrived();
 }
 

@@ -294,7 +294,8 @@ private:
         }
     }
 
-    // Nobody finds JSON behind the name of a spreadsheet. That it is a folder is said elsewhere.
+    // Only endings that fit the format: in "results.xlsx", for example, nobody would look for JSON.
+    // Folders get their own message elsewhere.
     void checkEnding(const char* name, const QStringList& endings)
     {
         const QFileInfo file(value(name));

@@ -89,8 +89,8 @@ ExitCode runCommand(const Options& options, const QString& language)
     return ExitCode::WrongUsage;
 }
 
-// Reads the options before the application object is made, which depends on them. Gives the line
-// for a display that can't be opened, too.
+// Reads the options before the application object is made, which depends on them. For a check, also
+// sets the line for a display that can't be opened: the texts aren't there later.
 ExitCode readOptions(const QStringList& arguments, char* argv[], Options& options,
                      QString& displayProblem)
 {
@@ -100,7 +100,6 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
         return ExitCode::Unavailable;
     }
     options = Options::parse(arguments);
-    displayProblem = DisplayOpening::problem();
     const bool isHelp =
         options.command == Options::Command::Help || options.command == Options::Command::Version;
     const QString problem = options.error.isEmpty() && !isHelp ? texts.problem() : options.error;
@@ -108,9 +107,12 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
         Console::printError(problem);
         return ExitCode::WrongUsage;
     }
-    if (options.command == Options::Command::Check && !DisplayOpening::hasDisplay()) {
-        Console::printError(displayProblem);
-        return ExitCode::Unavailable;
+    if (options.command == Options::Command::Check) {
+        displayProblem = DisplayOpening::problem();
+        if (!DisplayOpening::hasDisplay()) {
+            Console::printError(displayProblem);
+            return ExitCode::Unavailable;
+        }
     }
     return configure(options);
 }

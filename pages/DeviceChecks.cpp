@@ -64,7 +64,7 @@ void setCaption(QCustomComboBox* combo, QLabel* caption)
 {
     combo->setAccessibleName(caption->text());
     combo->lineEdit()->setAccessibleName(caption->text());
-    // Letters that run from the right begin at the box, where the focus is drawn around it.
+    // A caption in Arabic begins right beside the box, and the focus ring would touch it.
     if (caption->text().isRightToLeft()) {
         caption->setContentsMargins(0, 0, FocusMargin, 0);
     }

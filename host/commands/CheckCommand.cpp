@@ -11,7 +11,6 @@
 #include "host/ProgramEnd.h"
 #include "host/TerminationSignals.h"
 #include "host/report/OldReports.h"
-#include "host/report/Redaction.h"
 #include "host/report/Remedies.h"
 #include "host/report/ReportBuilder.h"
 #include "host/report/ReportFile.h"
@@ -103,15 +102,12 @@ bool CheckCommand::prepareFiles()
 
 bool CheckCommand::prepareRedaction()
 {
-    if (m_options.redaction != Options::Redaction::Hash) {
-        return true;
-    }
     QString problem;
-    m_redactionKey = ReportFile::redactionKey(Folders::redactionKey(), &problem);
-    if (m_redactionKey.isEmpty()) {
+    m_redaction = Redaction::withKeyIn(Folders::redactionKey(), m_options.redaction, &problem);
+    if (!m_redaction) {
         Console::printError(problem);
     }
-    return !m_redactionKey.isEmpty();
+    return m_redaction.has_value();
 }
 
 ExitCode CheckCommand::open(const QString& language)
@@ -140,13 +136,12 @@ ExitCode CheckCommand::open(const QString& language)
         facts.finished = QDateTime::currentDateTime();
         const QJsonObject results = installed.results();
         outcome = RunOutcome::fromDocument(results, wasPutOut);
-        const Redaction redaction(m_options.redaction, m_redactionKey);
-        shown = redaction.redacted(
+        shown = m_redaction->redacted(
             ReportBuilder::build(facts, results, outcome, installed.engine().systemFacts()));
         RunHistory(Folders::runs()).compare(shown);
         print(outcome.withDevicesOf(shown).toText() + Remedies::toText(shown));
         isWritten = write(shown);
-        isWritten = writeResults(redaction.redactedResults(results)) && isWritten;
+        isWritten = writeResults(m_redaction->redactedResults(results)) && isWritten;
     };
     DisplayLoss::setSaving(save);
     runDialog(wasPutOut);
@@ -209,7 +204,7 @@ void CheckCommand::remember(const Report& report, bool isWritten) const
     const bool isFile = isWritten && m_reportFile != Options::Output;
     history.append(report, isFile ? QFileInfo(m_reportFile).absoluteFilePath() : QString());
     Platform::FileWriter::enqueue([history, folder = Folders::reports()] {
-        QString problem; // then the order of the names counts
+        QString problem; // without the runs, the order of the names counts
         QStringList reports;
         for (const RunHistory::Run& run : history.runs(&problem)) {
             reports << run.report;

@@ -4,9 +4,11 @@
 
 #include "host/ExitCode.h"
 #include "host/Options.h"
+#include "host/report/Redaction.h"
 #include "host/report/Report.h"
 
 #include <memory>
+#include <optional>
 
 class Tour;
 struct RunOutcome;
@@ -44,5 +46,5 @@ private:
 
     Options m_options;
     QString m_reportFile;
-    QByteArray m_redactionKey;
+    std::optional<Redaction> m_redaction;
 };

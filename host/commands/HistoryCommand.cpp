@@ -11,12 +11,9 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 
 namespace {
 
-constexpr CheckKind Checks[] = {CheckKind::Network, CheckKind::Camera, CheckKind::Speaker,
-                                CheckKind::Microphone};
 const QString Nothing = QStringLiteral("-");
 
 // The text of a word, or the word itself if it is unknown.
@@ -31,18 +28,17 @@ QStringList headOf(const ReportTexts& texts)
 {
     QStringList cells = {texts.caption("ID_Host_Report_Time"),
                          texts.caption("ID_Host_Report_Outcome")};
-    for (const CheckKind check : Checks) {
-        cells << texts.of(check);
+    for (const auto& check : ReportWords::table<CheckKind>()) {
+        cells << texts.of(check.value);
     }
     return cells << texts.caption("ID_Host_Report_Title");
 }
 
 QStringList cellsOf(const RunHistory::Run& run, const ReportTexts& texts)
 {
-    QStringList cells = {run.finished.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")),
-                         textOf<RunEnd>(texts, run.outcome)};
-    for (const CheckKind check : Checks) {
-        cells << textOf<Verdict>(texts, run.verdicts.value(ReportWords::of(check)));
+    QStringList cells = {ReportTexts::timeOf(run.finished), textOf<RunEnd>(texts, run.outcome)};
+    for (const auto& check : ReportWords::table<CheckKind>()) {
+        cells << textOf<Verdict>(texts, run.verdicts.value(QLatin1String(check.word)));
     }
     const bool hasReport = !run.report.isEmpty() && QFileInfo::exists(run.report);
     return cells << (hasReport ? Console::plainLine(run.report) : Nothing);
@@ -74,7 +70,7 @@ ExitCode HistoryCommand::run(const Options& options, const QString& language)
         for (const RunHistory::Run& run : runs) {
             array.append(jsonOf(run));
         }
-        Console::print(QString::fromUtf8(QJsonDocument(array).toJson()));
+        Console::print(Console::plainJson(QJsonDocument(array)));
         return ExitCode::AllPassed;
     }
     if (runs.empty()) {

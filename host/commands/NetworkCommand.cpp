@@ -15,7 +15,6 @@
 #include "platform/backend/ResultKeys.h"
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 #include <QTimer>
 
 namespace {
@@ -110,7 +109,7 @@ private:
         object.insert(QStringLiteral("verdict"), ReportWords::of(verdict));
         object.insert(Platform::ResultKeys::Cause,
                       verdict == Verdict::Passed ? QJsonValue() : QJsonValue(cause()));
-        return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+        return Console::plainJson(QJsonDocument(object), QJsonDocument::Compact);
     }
 
     // Of figures that don't pass.

@@ -18,21 +18,6 @@
 
 namespace {
 
-// Nothing if it can't be used; then it has said why.
-std::optional<Redaction> redactionOf(const Options& options)
-{
-    QString problem;
-    QByteArray key;
-    if (options.redaction == Options::Redaction::Hash) {
-        key = ReportFile::redactionKey(Folders::redactionKey(), &problem);
-    }
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-        return std::nullopt;
-    }
-    return Redaction(options.redaction, key);
-}
-
 // A file's name may be that of a person, so a redacted report has its number instead.
 QString nameOf(const ReportReader::Read& read, int number)
 {
@@ -61,7 +46,7 @@ private:
     QString m_text;
 };
 
-// That of the newest run which wrote JSON. Nothing if there is none; then it has said so.
+// The report of the newest run that wrote JSON. Nothing if there is none; then it has printed so.
 std::optional<QStringList> lastReport()
 {
     QString problem;
@@ -77,8 +62,8 @@ std::optional<QStringList> lastReport()
     return QStringList{last->report};
 }
 
-// The named files, and those whose names are in the file of --files-from. Nothing if that can't be
-// read; then it has said why.
+// The files of the command line, and the files that --files-from lists. Nothing if that list can't
+// be read; then it has printed why.
 std::optional<QStringList> filesOf(const Options& options)
 {
     if (options.files.isEmpty() && options.filesFrom.isEmpty()) {
@@ -106,8 +91,11 @@ std::optional<QStringList> filesOf(const Options& options)
 
 ExitCode ReportCommand::run(const Options& options, const QString& language)
 {
-    const std::optional<Redaction> redaction = redactionOf(options);
+    QString problem;
+    const std::optional<Redaction> redaction =
+        Redaction::withKeyIn(Folders::redactionKey(), options.redaction, &problem);
     if (!redaction) {
+        Console::printError(problem);
         return ExitCode::CannotWrite;
     }
     const std::optional<QStringList> files = filesOf(options);

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Figures.h"
 
+#include "platform/backend/ResultKeys.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -79,6 +82,16 @@ const Figure* Figures::find(CheckKind check, const QString& key)
     const auto found = std::find_if(list.begin(), list.end(),
                                     [&name](const Figure& figure) { return name == figure.name; });
     return found == list.end() ? nullptr : &*found;
+}
+
+Reason Figures::whyNoDelay(const QJsonObject& figures)
+{
+    const QString state = figures.value(Platform::ResultKeys::State).toString();
+    const Reason known[] = {Reason::NoSuchHost, Reason::Refused, Reason::NoRoute};
+    const auto* const found =
+        std::find_if(std::begin(known), std::end(known),
+                     [&state](Reason reason) { return state == ReportWords::of(reason); });
+    return found == std::end(known) ? Reason::NoAnswer : *found;
 }
 
 QString Figures::toText(double value, Unit unit)

@@ -4,6 +4,8 @@
 
 #include "host/report/ReportWords.h"
 
+#include <QJsonObject>
+
 // The figures that a report lists for each check, measured or not.
 namespace Figures {
 
@@ -17,6 +19,8 @@ struct Figure
 
 const std::vector<Figure>& of(CheckKind check);
 const Figure* find(CheckKind check, const QString& key); // null if no list has it
+// Why figures without a delay have none, when a server was asked.
+Reason whyNoDelay(const QJsonObject& figures);
 // A value with the unit of the figure, such as "37 ms"; shares as percent.
 QString toText(double value, Unit unit);
 

@@ -17,7 +17,7 @@ QStringList OldReports::of(const QString& folder, const QStringList& runs, const
                                    return !ownName.match(file.fileName()).hasMatch();
                                }),
                 files.end());
-    QHash<QString, int> placeOf; // those of no run come first
+    QHash<QString, int> placeOf; // files that belong to no run come first
     for (int i = 0; i < runs.size(); ++i) {
         placeOf.insert(runs.at(i), i + 1);
     }

@@ -5,7 +5,7 @@
 #include <QDateTime>
 #include <QStringList>
 
-// Which reports in the folder of this program go. Others than its own, by their names, stay.
+// Which reports in this program's folder may be removed. Files with any other name are left alone.
 namespace OldReports {
 
 constexpr int MaxReports = 1000;

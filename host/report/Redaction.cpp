@@ -3,6 +3,7 @@
 #include "host/report/Redaction.h"
 
 #include "host/SoundNames.h"
+#include "host/report/ReportFile.h"
 #include "platform/backend/ResultKeys.h"
 
 #include <QMessageAuthenticationCode>
@@ -39,6 +40,16 @@ bool isPlain(ChangedThing what, const QString& value)
 
 Redaction::Redaction(Options::Redaction level, const QByteArray& key) : m_level(level), m_key(key)
 {
+}
+
+std::optional<Redaction> Redaction::withKeyIn(const QString& file, Options::Redaction level,
+                                              QString* problem)
+{
+    if (level != Options::Redaction::Hash) {
+        return Redaction(level, {});
+    }
+    const QByteArray key = ReportFile::redactionKey(file, problem);
+    return key.isEmpty() ? std::nullopt : std::make_optional<Redaction>(level, key);
 }
 
 Report Redaction::redacted(const Report& report) const

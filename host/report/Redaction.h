@@ -14,6 +14,11 @@ public:
     // The key turns texts into short codes. Equal texts have equal codes under the same key.
     Redaction(Options::Redaction level, const QByteArray& key);
 
+    // With the key in this file, if the level needs one. Nothing if that can't be used; problem
+    // then is one line.
+    static std::optional<Redaction> withKeyIn(const QString& file, Options::Redaction level,
+                                              QString* problem);
+
     Report redacted(const Report& report) const;
     // The document of a run, as --results writes it.
     QJsonObject redactedResults(const QJsonObject& document) const;

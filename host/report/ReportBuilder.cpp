@@ -120,16 +120,14 @@ Measurement measurementOf(const QString& key, const QJsonObject& figures)
             return {key, status, {}, excuse.toString()};
         }
     }
-    const std::optional<Reason> state = stateIn(figures);
     // What comes from this machine's own responder says nothing about a network.
-    if (state == Reason::NoServer) {
+    if (stateIn(figures) == Reason::NoServer) {
         return notMeasured(key, ReportWords::of(Reason::NoServer));
     }
     // A negative value means that no answer came.
     const QString delayKey = ReportWords::of(FigureName::Delay);
     if (isOfAnswers(key) && figures.value(delayKey).toDouble() < 0) {
-        const bool isKnown = isOneOf(state, {Reason::NoSuchHost, Reason::Refused, Reason::NoRoute});
-        return failed(key, ReportWords::of(isKnown ? *state : Reason::NoAnswer));
+        return failed(key, ReportWords::of(Figures::whyNoDelay(figures)));
     }
     return {key, Measurement::Status::Measured, value, {}};
 }

@@ -46,6 +46,16 @@ QString ReportTexts::caption(const char* id) const
     return (hasColon ? found.left(found.size() - 1) : found).trimmed();
 }
 
+QString ReportTexts::timeOf(const QDateTime& time)
+{
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+QString ReportTexts::exactTimeOf(const QDateTime& time)
+{
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss t"));
+}
+
 QString ReportTexts::reason(const QString& word) const
 {
     return textOf<Reason>(*this, word);

@@ -4,6 +4,7 @@
 
 #include "host/report/ReportWords.h"
 
+#include <QDateTime>
 #include <QTranslator>
 
 struct Measurement;
@@ -25,7 +26,10 @@ public:
     {
         return caption(ReportWords::textId(value));
     }
-    QString reason(const QString& word) const; // the word itself if it has no text
+    // In local time, and in the same form in every language.
+    static QString timeOf(const QDateTime& time);
+    static QString exactTimeOf(const QDateTime& time); // with seconds and the time zone
+    QString reason(const QString& word) const;         // the word itself if it has no text
     QString changedValue(ChangedThing what, const QString& value) const;
     QString soundName(const QString& baseName) const; // as in the answers of the speaker page
     QString yesOrNo(bool isYes) const;

@@ -59,12 +59,6 @@ private:
         add(m_texts.caption(captionId), value, mark);
     }
 
-    QString timeText(const QDateTime& time) const
-    {
-        // Dates and month names differ by language; this form is the same everywhere.
-        return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss t"));
-    }
-
     template <typename Value> // Verdict or RunEnd
     static Mark mark(Value value)
     {
@@ -97,7 +91,7 @@ private:
             }
         }
         addGradeLevel();
-        add("ID_Host_Report_Time", timeText(m_report.finished));
+        add("ID_Host_Report_Time", ReportTexts::exactTimeOf(m_report.finished));
         addNotice(m_report.platform);
         addNotice(m_report.redaction);
     }
@@ -129,7 +123,7 @@ private:
             add("ID_Host_LastGoodRun", m_texts.text("ID_Host_LastGoodRun_None"));
             return;
         }
-        add("ID_Host_LastGoodRun", timeText(*m_report.lastGoodRun));
+        add("ID_Host_LastGoodRun", ReportTexts::exactTimeOf(*m_report.lastGoodRun));
         if (m_report.changes.empty()) {
             add("ID_Host_Changes", m_texts.text("ID_Host_Changes_None"));
         }

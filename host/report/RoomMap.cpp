@@ -81,8 +81,7 @@ QString RoomMap::tileOf(const RoomRow& row, Verdict verdict) const
             stream << "<br>" << escaped(m_texts.of(check.kind));
         }
     }
-    stream << "</summary><p>"
-           << row.finished.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")) << "</p>";
+    stream << "</summary><p>" << ReportTexts::timeOf(row.finished) << "</p>";
     for (const RoomRow::Check& check : row.checks) {
         stream << lineOf(check);
     }

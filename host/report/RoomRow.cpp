@@ -54,8 +54,8 @@ RoomRow RoomRow::of(const Report& report, const QString& name)
     row.platform = report.platform;
     row.redaction = report.redaction;
     row.outcome = report.outcome;
-    for (const CheckKind kind : Checks) {
-        row.checks.push_back(checkOf(report, kind));
+    for (const auto& check : ReportWords::table<CheckKind>()) {
+        row.checks.push_back(checkOf(report, check.value));
     }
     row.delayMs = figureOf(report, FigureName::Delay);
     row.jitterMs = figureOf(report, FigureName::Jitter);

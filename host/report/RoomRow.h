@@ -10,9 +10,6 @@
 // each, without control characters.
 struct RoomRow
 {
-    static constexpr CheckKind Checks[] = {CheckKind::Network, CheckKind::Camera,
-                                           CheckKind::Speaker, CheckKind::Microphone};
-
     struct Check
     {
         CheckKind kind = CheckKind::Network;
@@ -38,7 +35,7 @@ struct RoomRow
     Options::Platform platform = Options::Platform::Devices;
     Options::Redaction redaction = Options::Redaction::None;
     RunEnd outcome = RunEnd::LeftEarly;
-    std::vector<Check> checks; // in the order of Checks; all of them
+    std::vector<Check> checks; // all of them, in the order of ReportWords
     std::optional<double> delayMs;
     std::optional<double> jitterMs;
     std::optional<double> lossPercent;

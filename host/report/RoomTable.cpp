@@ -35,8 +35,8 @@ QStringList RoomTable::head() const
     QStringList cells = {m_texts.caption("ID_Host_Report_Computer"),
                          m_texts.caption("ID_Host_Report_Time"),
                          m_texts.caption("ID_Host_Report_Outcome")};
-    for (const CheckKind check : RoomRow::Checks) {
-        cells << m_texts.of(check);
+    for (const auto& check : ReportWords::table<CheckKind>()) {
+        cells << m_texts.of(check.value);
     }
     return cells << m_texts.of(FigureName::Delay) << m_texts.of(FigureName::Loss)
                  << m_texts.caption("ID_Host_Grade")
@@ -53,9 +53,7 @@ QString RoomTable::cellOf(const RoomRow::Check& check) const
 
 QStringList RoomTable::cellsOf(const RoomRow& row) const
 {
-    QStringList cells = {row.computer,
-                         row.finished.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")),
-                         m_texts.of(row.outcome)};
+    QStringList cells = {row.computer, ReportTexts::timeOf(row.finished), m_texts.of(row.outcome)};
     for (const RoomRow::Check& check : row.checks) {
         cells << cellOf(check);
     }
@@ -85,10 +83,10 @@ QString RoomTable::totals() const
         verdicts << m_texts.of(verdict.value);
     }
     table.addRow(verdicts);
-    for (const CheckKind check : RoomRow::Checks) {
-        QStringList cells = {m_texts.of(check)};
+    for (const auto& check : ReportWords::table<CheckKind>()) {
+        QStringList cells = {m_texts.of(check.value)};
         for (const auto& verdict : ReportWords::table<Verdict>()) {
-            const auto found = m_counts.find({check, verdict.value});
+            const auto found = m_counts.find({check.value, verdict.value});
             cells << QString::number(found == m_counts.end() ? 0 : found->second);
         }
         table.addRow(cells);

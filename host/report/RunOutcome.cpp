@@ -4,6 +4,7 @@
 
 #include "host/Console.h"
 #include "host/TextTable.h"
+#include "host/report/Figures.h"
 #include "platform/backend/NetworkLimits.h"
 #include "platform/backend/ResultCodes.h"
 #include "platform/backend/ResultKeys.h"
@@ -44,10 +45,8 @@ QString networkText(const QJsonObject& texts, const QJsonObject& measurements)
     const int delayMs =
         measurements.value(ReportWords::of(FigureName::Delay)).toInt(NetworkLimits::NotMeasured);
     if (delayMs == NetworkLimits::NotMeasured) {
-        const Reason reason =
-            state == ReportWords::of(Reason::NoSuchHost) ? Reason::NoSuchHost : Reason::NoAnswer;
         return qtTrId(ReportWords::textId(FigureStatus::Failed))
-            .arg(qtTrId(ReportWords::textId(reason)));
+            .arg(qtTrId(ReportWords::textId(Figures::whyNoDelay(measurements))));
     }
     return texts.value(ResultKeys::Delay).toString() + QLatin1String(", ") +
            texts.value(ResultKeys::Loss).toString();
@@ -139,7 +138,7 @@ RunOutcome RunOutcome::withDevicesOf(const Report& report) const
     RunOutcome result = *this;
     for (CheckOutcome& outcome : result.checks) {
         const ReportCheck* check = report.check(outcome.check);
-        if (check && check->kind != CheckKind::Network) { // that has its figures there
+        if (check && check->kind != CheckKind::Network) { // the network shows its figures there
             outcome.device = check->device;
         }
     }

@@ -7,29 +7,15 @@
 
 #include <QCoreApplication>
 
-namespace {
-
-constexpr char LostId[] = "ID_Engine_SoundServerLost";
-constexpr char SilentId[] = "ID_Engine_SoundServerSilent";
-
-} // namespace
-
 QString SoundServerText::orElse(const char* noDeviceId)
 {
-    using State = Platform::SoundServerState;
-    switch (Platform::EngineRegistry::engine().soundServerState()) {
-    case State::Lost:
-        return qtTrId(LostId);
-    case State::Silent:
-        return qtTrId(SilentId);
-    case State::Starting:
-    case State::Running:
-        break;
-    }
-    return qtTrId(noDeviceId);
+    const char* id = Platform::textId(Platform::EngineRegistry::engine().soundServerState());
+    return qtTrId(id ? id : noDeviceId);
 }
 
 bool SoundServerText::isOne(const QString& text)
 {
-    return text == qtTrId(LostId) || text == qtTrId(SilentId);
+    using State = Platform::SoundServerState;
+    return text == qtTrId(Platform::textId(State::Lost)) ||
+           text == qtTrId(Platform::textId(State::Silent));
 }

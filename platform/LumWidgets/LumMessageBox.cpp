@@ -20,7 +20,8 @@ const QLatin1String ButtonStyle(
 
 constexpr QRgb EdgeColor = 0x8C8C8C; // 3.4 : 1 on white
 
-// Without a window manager nobody else would tell the white box from the white page below it.
+// Without a window manager, a window has no frame: only this edge sets the white box off from the
+// white page below it.
 class EdgedBox : public QMessageBox
 {
 public:

@@ -18,4 +18,18 @@ QString toString(SoundServerState state)
     return {};
 }
 
+const char* textId(SoundServerState state)
+{
+    switch (state) {
+    case SoundServerState::Lost:
+        return "ID_Engine_SoundServerLost";
+    case SoundServerState::Silent:
+        return "ID_Engine_SoundServerSilent";
+    case SoundServerState::Starting:
+    case SoundServerState::Running:
+        break;
+    }
+    return nullptr;
+}
+
 } // namespace Platform

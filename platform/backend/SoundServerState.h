@@ -19,4 +19,7 @@ enum class SoundServerState {
 // The word in reports, such as "serverLost"; empty unless Lost or Silent.
 CLASSROOMBACKEND_EXPORT QString toString(SoundServerState state);
 
+// The id of the text in place of a list of devices; null unless Lost or Silent.
+CLASSROOMBACKEND_EXPORT const char* textId(SoundServerState state);
+
 } // namespace Platform

@@ -34,7 +34,7 @@ DeviceInfo readInfo(JsonFields& fields)
 {
     const DeviceInfo info{fields.text("id", MaxIdLength), fields.text("name", MaxTextLength)};
     if (info.id.isEmpty()) {
-        fields.problem().set(fields.path("id"), qtTrId("ID_Engine_Scenario_EmptyId"));
+        fields.problem().set(fields.path("id"), qtTrId("ID_Engine_Json_Empty"));
     }
     return info;
 }

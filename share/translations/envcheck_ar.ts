@@ -314,10 +314,6 @@
         <source></source>
         <translation>يجب أن يكون اسم سيناريو مرفق</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>يجب ألا يكون فارغًا</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>يجب أن تكون القيمة [ميلي ثانية، مستوى]: متزايدة من 0، والمستوى من 0 إلى 1</translation>

@@ -314,10 +314,6 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>muss ein mitgeliefertes Szenario nennen</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>darf nicht leer sein</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>muss [Millisekunden, Pegel] sein: von 0 an steigend, und ein Pegel von 0 bis 1</translation>

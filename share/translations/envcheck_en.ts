@@ -314,10 +314,6 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>must name a bundled scenario</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>must not be empty</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>must be [milliseconds, level]: rising from 0, and a level from 0 to 1</translation>

@@ -314,10 +314,6 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>debe nombrar un escenario incluido</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>no debe estar vacío</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>debe ser [milisegundos, nivel]: crecientes desde 0, y un nivel de 0 a 1</translation>

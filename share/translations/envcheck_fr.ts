@@ -314,10 +314,6 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>doit nommer un scénario fourni</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>ne doit pas être vide</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>doit être [millisecondes, niveau] : croissant à partir de 0, et un niveau de 0 à 1</translation>

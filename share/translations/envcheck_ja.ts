@@ -314,10 +314,6 @@
         <source></source>
         <translation>付属のシナリオの名前でなければなりません</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>空にできません</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>[ミリ秒, 音量] でなければなりません。ミリ秒は 0 から増え、音量は 0 から 1 までです</translation>

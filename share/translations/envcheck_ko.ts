@@ -314,10 +314,6 @@
         <source></source>
         <translation>기본 제공 시나리오의 이름이어야 합니다</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>비어 있으면 안 됩니다</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>[밀리초, 음량]이어야 합니다. 밀리초는 0부터 커지고 음량은 0에서 1까지입니다</translation>

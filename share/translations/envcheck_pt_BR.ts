@@ -314,10 +314,6 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>deve indicar um cenário incluído</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>não deve estar vazio</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>deve ser [milissegundos, nível]: crescentes a partir de 0, e um nível de 0 a 1</translation>

@@ -314,10 +314,6 @@
         <source></source>
         <translation>должно быть именем встроенного сценария</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>не должно быть пустым</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>должно быть [миллисекунды, уровень]: по возрастанию от 0 и уровень от 0 до 1</translation>

@@ -314,10 +314,6 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>phải là tên của một kịch bản có sẵn</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>không được để trống</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>phải là [mili giây, mức âm]: tăng dần từ 0, và mức âm từ 0 đến 1</translation>

@@ -314,10 +314,6 @@
         <source></source>
         <translation>必须是内置脚本的名称</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>不能为空</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>必须是 [毫秒, 音量]：毫秒从 0 开始递增，音量为 0 到 1</translation>

@@ -314,10 +314,6 @@
         <source></source>
         <translation>必須是內建腳本的名稱</translation>
     </message>
-    <message id="ID_Engine_Scenario_EmptyId">
-        <source></source>
-        <translation>不能空白</translation>
-    </message>
     <message id="ID_Engine_Scenario_Levels">
         <source></source>
         <translation>必須是 [毫秒, 音量]：毫秒從 0 開始遞增，音量為 0 到 1</translation>

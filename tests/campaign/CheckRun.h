@@ -23,40 +23,41 @@ namespace Platform {
 class ScriptedEngine;
 }
 
-// One check of this process, from the options to the report, which a DialogUser walks through. It
-// judges itself by the rule of the campaign, and tells the injection what failed.
+// One check in this process, from the options to the report. A DialogUser clicks through its
+// dialog. At its end, it is judged by the rule of the campaign, and the injection hears what
+// failed.
 class CheckRun
 {
 public:
     using AtStep = std::function<void(CheckRun& run, Step step)>;
 
-    static constexpr int TruthMs = 500; // after the last event, the page shows what is so
+    static constexpr int TruthMs = 500; // so long after the last event, the page must be right
 
-    // rig: of a check on devices; else null.
+    // rig: the servers of a check on devices; null for scripted devices.
     explicit CheckRun(Injection& injection, DeviceRig* rig = nullptr);
     ~CheckRun();
     CheckRun(const CheckRun&) = delete;
     CheckRun& operator=(const CheckRun&) = delete;
 
-    // A scenario's JSON; empty: the devices of the machine.
+    // scenario: its JSON, or empty for a check on devices.
     void run(const QByteArray& scenario, const AtStep& atStep);
     void useServer(const QString& server) { m_server = server; }
     void useReportUrl(const QString& url) { m_reportUrl = url; }
-    // The engine ends the session: a report is all that is expected.
+    // The fault ends the session, so the check need not reach its last page.
     void expectEarlyEnd() { m_endsEarly = true; }
 
-    // For the hook.
+    // For the fault, which is called at a step.
     Injection& injection() const { return m_injection; }
     DeviceRig& rig() const { return *m_rig; }
     Platform::ScriptedEngine& engine() const;
     const DialogView& view() const { return *m_view; }
-    void wait(int ms) const; // the event loop goes on
-    // What the test itself does for long: starting servers, for instance.
+    void wait(int ms) const; // runs the event loop
+    // Runs what takes the test itself long, such as starting servers. Its time doesn't count as a
+    // gap of the event loop.
     void unmetered(const std::function<void()>& action);
-    // Within TruthMs, the page has these devices in its list, by name, in any order, and nothing
-    // else.
+    // The page must list exactly these devices within TruthMs: their names, in any order.
     void expectDevices(Step step, const QStringList& names);
-    void expectDevices(Step step); // those of the scripted engine, and its choice
+    void expectDevices(Step step); // the scripted engine's, and the current one
     void expectText(const char* label, const QString& text);
 
 private:

@@ -17,9 +17,9 @@ class DialogView;
 class QDialog;
 class QWidget;
 
-// Walks through the dialog with a mouse, from its timer: it says yes if that can be clicked, no if
-// only that can, and closes the dialog at the end. Knows nothing of the engine, so it works in the
-// program itself, too.
+// Clicks through the dialog, driven by a timer. It answers yes if that can be clicked, else no, and
+// closes the dialog at the end. Knows nothing of the engine, so it works in the program itself,
+// too.
 class DialogUser : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     DialogUser(Hook hook, Answered answered);
     ~DialogUser() override;
 
-    QString problem() const { return m_problem; } // empty, or where it couldn't go on
+    QString problem() const { return m_problem; } // empty, or where it got stuck
 
 private:
     void look();

@@ -9,30 +9,31 @@
 class CheckRun;
 class Injection;
 
-// A row of the campaign: what is broken, where, and how often.
+// One kind of fault of the campaign: what breaks, at which steps, and how many times. It has one
+// row in the table of docs/faults.md.
 struct Fault
 {
     enum class Needs {
-        Scripted, // the dialog on scripted devices
-        Servers,  // the dialog on a sound server and cameras of its own (DeviceRig)
-        Program,  // the program itself, as it was built
+        Scripted, // the dialog in this process, on scripted devices
+        Servers,  // the same on real servers of its own (DeviceRig)
+        Program,  // the program as it was built, in processes of its own
     };
     enum class Where {
-        EachStep, // of those named, in every check
-        OneStep,  // of those named, in turn
-        Anywhere, // no matter
+        EachStep, // every check has it at each of the steps
+        OneStep,  // each check has it at one of the steps, in turn
+        Anywhere, // it doesn't depend on a step
     };
-    using AtStep = void (*)(CheckRun& run, Step step); // of a check in this process
-    using Whole = void (*)(Injection& injection);      // everything by itself
+    using AtStep = void (*)(CheckRun& run, Step step); // called when the dialog shows the step
+    using Whole = void (*)(Injection& injection);      // runs its checks itself
 
-    const char* name;
-    const char* what; // is broken
-    const char* now;  // what happens then, in the table
+    const char* name; // for --only
+    const char* what; // text for the table: what breaks
+    const char* now;  // text for the table: what the program does then
     Needs needs;
-    Where where; // atStep is called
+    Where where;
     std::vector<Step> steps;
-    int quick; // repetitions: checks of the dialog, or calls of whole
-    int full;
+    int quick; // how many checks, or calls of whole, with --quick
+    int full;  // the same with --full
     AtStep atStep;
     Whole whole;             // instead of atStep
     bool isSanitized = true; // also injected in builds with sanitizers

@@ -7,7 +7,7 @@
 
 struct Fault;
 
-// What came of a fault in all its repetitions.
+// The outcome of a fault over all its repetitions.
 struct FaultResult
 {
     int injections = 0;

@@ -74,7 +74,7 @@ void FaultRun::runDialog(int repetitions)
         CheckRun run(injection, rig.get());
         run.run(isScripted ? ScriptedFaults::scenario() : QByteArray(), atStep);
     };
-    // Libraries keep threads and files from then on.
+    // Libraries keep some threads and files after their first use: these aren't counted as lost.
     repeat(-1, [&check](Injection& injection) { check(injection, [](CheckRun&, Step) {}); });
     const int streamsBefore = rig ? rig->streams() : 0;
     const Holdings before = Holdings::now();

@@ -22,7 +22,7 @@ bool Injection::require(bool isTrue, const QString& what)
     return isTrue;
 }
 
-// The limit holds for what ships.
+// Sanitizers make the program slower, so the limit holds only without them.
 void Injection::noteGaps(const TestSupport::GapCount& gaps)
 {
 #ifdef __SANITIZE_ADDRESS__

@@ -8,14 +8,14 @@
 #include <QString>
 #include <QStringList>
 
-// One repetition of a fault: its chance, and what came of it.
+// One repetition of a fault: its random numbers, and its outcome.
 class Injection
 {
 public:
     Injection(quint32 seed, int number);
 
     int number() const { return m_number; }
-    int random(int from, int to); // both are possible
+    int random(int from, int to); // including both
     void fail(const QString& what) { m_failures << what; }
     bool require(bool isTrue, const QString& what); // returns isTrue
 

@@ -139,7 +139,7 @@ void ProgramCheck::judgeReport(const ProgramRun::Result& result, Expect expected
         return;
     }
     const GivenAnswers given = answersIn(m_answers.filePath(QStringLiteral("answers")));
-    // A program that is killed or ended by a signal has no time to take the last ones.
+    // A program that is killed or ended by a signal may miss the last answers.
     const QString problem = ReportProof::problemOfReport(
         reportFile(), expected == Expect::Whole ? GivenAnswers() : given);
     m_injection.require(problem.isEmpty(), problem + end);
@@ -156,7 +156,8 @@ void ProgramCheck::judgeFolder(const ProgramRun::Result& result, Expect expected
                         QStringLiteral("the history has lost a former run"));
     m_injection.require(ReportProof::isWholeOrMissing(file("results.json")),
                         QStringLiteral("the results are damaged"));
-    // What hangs in the disk is left behind, and the program said so. Others may be writing still.
+    // Temporary files may stay if the disk hung, which the exit code says, or if other checks still
+    // write in this home.
     const bool isLeft = result.code < 0 || result.code >= FirstErrorCode || !m_own;
     const QString left = isLeft ? QString() : leftover();
     m_injection.require(left.isEmpty(), QStringLiteral("left behind: ") + left);

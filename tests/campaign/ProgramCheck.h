@@ -16,7 +16,7 @@ public:
     enum class Expect {
         Report,          // whole and with every answer
         ReportOrMessage, // or a message and an exit code that say why not
-        Whole,           // it may be killed, and what is there is whole
+        Whole,           // every file that exists is whole; the program may be killed
     };
 
     explicit ProgramCheck(Injection& injection);

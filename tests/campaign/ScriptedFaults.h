@@ -8,8 +8,8 @@
 
 class CheckRun;
 
-// What scripted devices, figures and sessions do to the dialog. At the steps without a device of
-// their own, it befalls one of the kinds by chance.
+// What scripted devices, figures and sessions do to the dialog. At the other steps, a kind of
+// device is chosen at random.
 namespace ScriptedFaults {
 
 QByteArray scenario(); // of the checks: two working devices of each kind

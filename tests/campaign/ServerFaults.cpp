@@ -15,7 +15,7 @@ namespace {
 
 constexpr int FreezeMs = 600;
 constexpr int AwayMs = 3000;
-constexpr int BackOffMs = 2000; // a sound server that is away is looked for no more often
+constexpr int BackOffMs = 2000; // longest pause between two attempts to reach a lost sound server
 constexpr int StormRounds = 200;
 constexpr Step DeviceSteps[] = {Step::Camera, Step::Speaker, Step::Microphone};
 

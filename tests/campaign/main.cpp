@@ -46,7 +46,7 @@ void addOptions(QCommandLineParser& parser)
         {word("repetitions"), word("Instead of those of the table."), word("N")},
         {word("document"), word("Puts the table between the marks of this file."), word("FILE")},
     });
-    for (const char* name : {"inject", "lines"}) { // how it calls itself
+    for (const char* name : {"inject", "lines"}) { // for the processes that it starts
         QCommandLineOption option(word(name), QString(), word("X"));
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);

@@ -1,29 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/backend/EngineRegistry.h"
-#include "platform/backend/FileWriter.h"
-#include "platform/scripted/ScriptedEngine.h"
-#include "tests/support/CloseVeto.h"
-#include "tests/support/QuestionAnswerer.h"
-#include "wizard/CheckPage.h"
-#include "wizard/ClickColorLabel.h"
-#include "wizard/ContentPage.h"
-
-#include <CoreEngine/CoreEngine.h>
-#include <LumUtility/LumSettings.h>
+#include "tests/flow/ContentPageTest.h"
 
 #include <QFrame>
-#include <QLoggingCategory>
-#include <QPointer>
+#include <QLabel>
 #include <QPushButton>
-#include <QSettings>
 #include <QSignalSpy>
-#include <QStackedWidget>
 #include <QTableWidget>
 #include <QtTest>
 
 using Platform::ScriptedEngine;
-using Platform::EngineRegistry::uninstall;
+using TestSupport::ContentPageTest;
 
 namespace {
 
@@ -32,7 +19,6 @@ const QColor Red("#FF4A27");
 const QColor Plain(35, 35, 35, 204);
 const QString CurrentStyle = "QLabel{background:#F0F0F0;border-radius:4px;padding-left:10px;}";
 const QString OtherStyle = "QLabel{background:#FFFFFF;border-radius:4px;padding-left:10px;}";
-const char* const PageNames[] = {"networkPage", "cameraPage", "headsetPage", "microphonePage"};
 const char* const LabelNames[] = {"label_SystemCheck", "label_CameraCheck", "label_SoundCheck",
                                   "label_MicCheck"};
 
@@ -83,24 +69,22 @@ private:
 
 } // namespace
 
-class tst_ContentPage : public QObject
+// The form, the steps and the result.
+class tst_ContentPage : public ContentPageTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void initialState();
     void formIsLaidOutAsGiven();
     void metaObjectHasOneSignal();
     void completeMovesThroughTheSteps();
-    void unknownLabelOnlyResets();
     void completeClicksTheNextLabel();
     void passedStepsTurnGreen();
     void jumpingToTheCameraMarksOneStep();
     void resultsAndMarksComeInOrder_data();
     void resultsAndMarksComeInOrder();
+    void unknownLabelOnlyResets();
     void jumpingToTheMicrophoneMarksRedAndRecords();
     void goingBackRecordsNothing();
     void returningReplacesTheMark();
@@ -109,104 +93,7 @@ private Q_SLOTS:
     void redetectKeepsTheAnswers();
     void redetectAfterOneFailure();
     void okClosesTheFrame();
-
-    void closingUnansweredAsks();
-    void refusingKeepsTheDialog();
-    void leavingTheQuestionUnansweredKeepsTheDialog();
-    void confirmingReportsLeftEarly();
-    void closingAnsweredWritesTheSetting_data();
-    void closingAnsweredWritesTheSetting();
-    void threeAnswersAreNotEnough_data();
-    void threeAnswersAreNotEnough();
-    void closingHidesTheShownPage();
-    void closingOnTheResultHidesNoPage();
-    void questionIsLogged();
-    void canCloseFollowsTheSameRule();
-    void canCloseWritesTheSettingToo();
-
-    void engineEndsTheSession_data();
-    void engineEndsTheSession();
-    void breakdownWinsOverTheQuestion_data();
-    void breakdownWinsOverTheQuestion();
-    void breakdownWinsOverCanClose();
-    void breakdownWhileTheQuestionIsLogged();
-    void breakdownTwiceInARow();
-    void breakdownWhileClosing();
-    void breakdownAfterAVeto();
-    void frameDestroyedDuringTheQuestion();
-
-private:
-    CheckPage* page(const char* name) const { return m_frame->findChild<CheckPage*>(name); }
-    ClickColorLabel* label(const char* name) const
-    {
-        return m_frame->findChild<ClickColorLabel*>(name);
-    }
-    QStackedWidget* stack(const char* name) const
-    {
-        return m_frame->findChild<QStackedWidget*>(name);
-    }
-    QVector<ClickColorLabel*> labels() const
-    {
-        return {label("label_SystemCheck"), label("label_CameraCheck"), label("label_SoundCheck"),
-                label("label_MicCheck")};
-    }
-    void answerAll(bool answer);
-    void finishPage(const char* name, bool answer) { page(name)->finishCheck(answer); }
-    void openFrame();
-    QString shownPage() const { return stack("stackedWidget")->currentWidget()->objectName(); }
-    QColor textColor(const char* name) const
-    {
-        return label(name)->palette().color(QPalette::WindowText);
-    }
-    QVector<int> postedCodes() const;
-    bool isSettingWritten() const;
-
-    ScriptedEngine* m_engine = nullptr;
-    QPointer<ContentPage> m_frame;
 };
-
-void tst_ContentPage::init()
-{
-    m_engine = &ScriptedEngine::install();
-    openFrame();
-}
-
-void tst_ContentPage::cleanup()
-{
-    delete m_frame;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(m_engine->livingSessions(), 0);
-    QVERIFY(Platform::FileWriter::waitForWritten(5000));
-    uninstall();
-}
-
-void tst_ContentPage::openFrame()
-{
-    m_frame = new ContentPage(nullptr);
-    m_frame->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_frame));
-}
-
-void tst_ContentPage::answerAll(bool answer)
-{
-    for (const char* name : PageNames) {
-        finishPage(name, answer);
-    }
-}
-
-QVector<int> tst_ContentPage::postedCodes() const
-{
-    QVector<int> codes;
-    for (const auto& post : m_engine->reports().posts()) {
-        codes << post.code;
-    }
-    return codes;
-}
-
-bool tst_ContentPage::isSettingWritten() const
-{
-    return LumSettings::instance(QString())->setting("ShowSystemCheck").isValid();
-}
 
 void tst_ContentPage::initialState()
 {
@@ -461,310 +348,6 @@ void tst_ContentPage::okClosesTheFrame()
     QVERIFY(!m_frame->isVisible());
     QVERIFY(destroyed.wait());
     QCOMPARE(postedCodes(), QVector<int>({3}));
-}
-
-void tst_ContentPage::closingUnansweredAsks()
-{
-    QuestionAnswerer question(QMessageBox::No);
-    QVERIFY(!m_frame->close());
-    QCOMPARE(question.count(), 1);
-    QCOMPARE(question.text(), QString("ID_ContentPage_NotFinishedIfLeave"));
-    QCOMPARE(question.title(), QString("ID_MessageBox_Question"));
-    QCOMPARE(question.buttons(), QMessageBox::Yes | QMessageBox::No);
-    QCOMPARE(question.defaultButton(), QMessageBox::Yes);
-    QCOMPARE(question.parent(), m_frame.data());
-}
-
-void tst_ContentPage::refusingKeepsTheDialog()
-{
-    m_frame->selectStep(label("label_CameraCheck"));
-    QuestionAnswerer question(QMessageBox::No);
-    m_frame->close();
-    QVERIFY(m_frame);
-    QVERIFY(m_frame->isVisible());
-    QCOMPARE(shownPage(), QString("cameraPage"));
-    QVERIFY(stack("stackedWidget")->currentWidget()->isVisible());
-    QVERIFY(!isSettingWritten());
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-void tst_ContentPage::leavingTheQuestionUnansweredKeepsTheDialog()
-{
-    QuestionAnswerer question([](QMessageBox* box) { box->reject(); });
-    QVERIFY(!m_frame->close());
-    QCOMPARE(question.count(), 1);
-    QVERIFY(m_frame->isVisible());
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-void tst_ContentPage::confirmingReportsLeftEarly()
-{
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    QuestionAnswerer question(QMessageBox::Yes);
-    QVERIFY(m_frame->close());
-    QCOMPARE(postedCodes(), QVector<int>({7}));
-    QCOMPARE(m_engine->reports().posts().first().managerName, QString("ContentPage::closeEvent"));
-    QVERIFY(!isSettingWritten());
-    QVERIFY(destroyed.wait());
-}
-
-void tst_ContentPage::closingAnsweredWritesTheSetting_data()
-{
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("all yes") << true;
-    QTest::newRow("all no") << false;
-}
-
-void tst_ContentPage::closingAnsweredWritesTheSetting()
-{
-    QFETCH(bool, answer);
-    answerAll(answer);
-    QuestionAnswerer question(QMessageBox::No);
-    QVERIFY(m_frame->close());
-    QCOMPARE(question.count(), 0);
-    QCOMPARE(postedCodes(), QVector<int>({3}));
-    QVERIFY(Platform::FileWriter::waitForWritten(5000));
-    const QSettings file(m_engine->settingsFolder() + "/settings.ini", QSettings::IniFormat);
-    QCOMPARE(file.value("ShowSystemCheck").toString(), QString("false"));
-}
-
-void tst_ContentPage::threeAnswersAreNotEnough_data()
-{
-    QTest::addColumn<QString>("unanswered");
-    for (const char* name : PageNames) {
-        QTest::newRow(name) << name;
-    }
-}
-
-void tst_ContentPage::threeAnswersAreNotEnough()
-{
-    QFETCH(QString, unanswered);
-    answerAll(true);
-    m_frame->findChild<CheckPage*>(unanswered)->reset();
-    QuestionAnswerer question(QMessageBox::Yes);
-    m_frame->close();
-    QCOMPARE(question.count(), 1);
-    QCOMPARE(postedCodes(), QVector<int>({7}));
-    QVERIFY(!isSettingWritten());
-}
-
-void tst_ContentPage::closingHidesTheShownPage()
-{
-    m_frame->selectStep(label("label_CameraCheck"));
-    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
-    m_engine->clearCalls();
-    QuestionAnswerer question(QMessageBox::Yes);
-    m_frame->close();
-    QVERIFY(shown->isHidden());
-    const QStringList commands = m_engine->commands();
-    const int posted = commands.indexOf("report.post(ContentPage::closeEvent,7)");
-    QVERIFY(posted >= 0);
-    QVERIFY(posted < commands.indexOf("camera.stop()"));
-}
-
-void tst_ContentPage::closingOnTheResultHidesNoPage()
-{
-    answerAll(true);
-    const QPointer<QWidget> microphonePage = page("microphonePage");
-    m_frame->close();
-    QVERIFY(microphonePage);
-    QVERIFY(!microphonePage->isHidden());
-}
-
-void tst_ContentPage::questionIsLogged()
-{
-    static QStringList lines;
-    lines.clear();
-    static QtMessageHandler previous = nullptr;
-    previous = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext& context, const QString& text) {
-            if (type == QtInfoMsg) {
-                lines << text;
-            } else {
-                previous(type, context, text);
-            }
-        });
-    int linesBefore = -1;
-    QuestionAnswerer question([&linesBefore](QMessageBox* box) {
-        linesBefore = lines.size();
-        box->button(QMessageBox::No)->click();
-    });
-    m_frame->close();
-    qInstallMessageHandler(previous);
-    QCOMPARE(linesBefore, 1);
-    QVERIFY(lines.at(0).contains("ID_MessageBox_Question"));
-    QVERIFY(lines.at(0).contains("ID_ContentPage_NotFinishedIfLeave"));
-    QCOMPARE(lines.size(), 2);
-    QVERIFY(lines.at(1).contains("QMessageBox::No"));
-}
-
-void tst_ContentPage::canCloseFollowsTheSameRule()
-{
-    {
-        QuestionAnswerer question(QMessageBox::No);
-        QVERIFY(!m_frame->canClose());
-        QCOMPARE(question.count(), 1);
-        QCOMPARE(postedCodes(), QVector<int>());
-    }
-    QuestionAnswerer question(QMessageBox::Yes);
-    QVERIFY(m_frame->canClose());
-    QCOMPARE(m_engine->reports().posts().first().managerName, QString("isCanCloseFunc"));
-    QCOMPARE(postedCodes(), QVector<int>({7}));
-    QVERIFY(m_frame->isVisible());
-    QVERIFY(stack("stackedWidget")->currentWidget()->isHidden());
-}
-
-void tst_ContentPage::canCloseWritesTheSettingToo()
-{
-    answerAll(true);
-    QuestionAnswerer question(QMessageBox::No);
-    QVERIFY(m_frame->canClose());
-    QCOMPARE(question.count(), 0);
-    QVERIFY(isSettingWritten());
-    QCOMPARE(postedCodes(), QVector<int>({3}));
-}
-
-void tst_ContentPage::engineEndsTheSession_data()
-{
-    QTest::addColumn<bool>("isKickout");
-    QTest::newRow("breakdown") << false;
-    QTest::newRow("kick-out") << true;
-}
-
-void tst_ContentPage::engineEndsTheSession()
-{
-    QFETCH(bool, isKickout);
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
-    bool wasClosedFirst = false;
-    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
-        wasClosedFirst = !frame->isVisible() && shown->isHidden();
-    });
-    QuestionAnswerer question(QMessageBox::No);
-    isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
-    QTRY_COMPARE(closeDialog.count(), 1);
-    QVERIFY(wasClosedFirst);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(question.count(), 0);
-    QCOMPARE(postedCodes(), QVector<int>());
-    QVERIFY(!isSettingWritten());
-}
-
-void tst_ContentPage::breakdownWinsOverTheQuestion_data()
-{
-    engineEndsTheSession_data();
-}
-
-void tst_ContentPage::breakdownWinsOverTheQuestion()
-{
-    QFETCH(bool, isKickout);
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
-    bool wasClosedFirst = false;
-    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
-        wasClosedFirst =
-            frame->isHidden() && shown->isHidden() && !QApplication::activeModalWidget();
-    });
-    QuestionAnswerer question([this, isKickout](QMessageBox*) {
-        isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
-    });
-    m_frame->close();
-    QCOMPARE(question.count(), 1);
-    QVERIFY(wasClosedFirst);
-    QCOMPARE(closeDialog.count(), 1);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(postedCodes(), QVector<int>());
-    QVERIFY(!isSettingWritten());
-}
-
-void tst_ContentPage::breakdownWinsOverCanClose()
-{
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    QuestionAnswerer question([this](QMessageBox*) { m_engine->facts().breakDown(); });
-    QVERIFY(m_frame->canClose());
-    QCOMPARE(question.count(), 1);
-    QCOMPARE(closeDialog.count(), 1);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-// The host's log may be what tells the engine to end.
-void tst_ContentPage::breakdownWhileTheQuestionIsLogged()
-{
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    static Platform::ScriptedEngine* engine = nullptr;
-    engine = m_engine;
-    const QtMessageHandler previous =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
-            if (text.contains(QStringLiteral("NotFinishedIfLeave"))) {
-                engine->facts().breakDown();
-            }
-        });
-    QuestionAnswerer question([](QMessageBox*) {});
-    m_frame->close();
-    qInstallMessageHandler(previous);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(question.count(), 0);
-    QCOMPARE(closeDialog.count(), 1);
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-void tst_ContentPage::breakdownTwiceInARow()
-{
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    QuestionAnswerer question([this](QMessageBox*) {
-        m_engine->facts().breakDown();
-        m_engine->facts().kickOut();
-    });
-    m_frame->close();
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(closeDialog.count(), 2);
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-void tst_ContentPage::breakdownWhileClosing()
-{
-    answerAll(true);
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    m_frame->close();
-    Q_EMIT LumEngine::CoreEngine::instance()->signalBasicBreakdown();
-    QCOMPARE(closeDialog.count(), 1);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(postedCodes(), QVector<int>({3}));
-}
-
-void tst_ContentPage::breakdownAfterAVeto()
-{
-    CloseVeto veto;
-    m_frame->installEventFilter(&veto);
-    QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
-    QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    QuestionAnswerer question(QMessageBox::No);
-    m_engine->facts().breakDown();
-    QTRY_COMPARE(closeDialog.count(), 1);
-    QVERIFY(m_frame->isVisible());
-
-    m_frame->removeEventFilter(&veto);
-    m_engine->facts().kickOut();
-    QTRY_COMPARE(closeDialog.count(), 2);
-    QVERIFY(destroyed.count() == 1 || destroyed.wait());
-    QCOMPARE(question.count(), 0);
-    QCOMPARE(postedCodes(), QVector<int>());
-}
-
-void tst_ContentPage::frameDestroyedDuringTheQuestion()
-{
-    QuestionAnswerer question([this](QMessageBox*) { delete m_frame; });
-    m_frame->close();
-    QVERIFY(!m_frame);
-    QCOMPARE(question.count(), 1);
-    QCOMPARE(postedCodes(), QVector<int>());
 }
 
 QTEST_MAIN(tst_ContentPage)

@@ -24,7 +24,7 @@ inline void application()
     static QCoreApplication instance(count, arguments);
 }
 
-// What isn't so is a finding.
+// Ends the fuzzer with a finding if this is false.
 inline void require(bool isSo)
 {
     if (!isSo) {

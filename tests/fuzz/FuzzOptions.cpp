@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzInput::application();
-    // Of a byte array, Qt would take the part before the first zero.
+    // With its size: Qt would end a plain byte array at the first zero.
     const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), int(size));
     const QStringList arguments =
         QStringList{QStringLiteral("envcheck")} + text.split(QLatin1Char('\n'));

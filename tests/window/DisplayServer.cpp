@@ -116,8 +116,8 @@ void DisplayServer::useForThisProcess() const
 bool DisplayServer::startManager(const QString& program)
 {
     m_manager.reset();
-    // It says who it is before it takes care of windows, and lists them after that. Some leave both
-    // behind.
+    // A window manager sets the first mark before it manages windows, and the second one after
+    // that. Some don't remove them when they end.
     const QStringList marks{QStringLiteral("_NET_SUPPORTING_WM_CHECK"),
                             QStringLiteral("_NET_CLIENT_LIST")};
     for (const QString& mark : marks) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/CameraOpening.h"
 
+#include "platform/backend/Log.h"
 #include "platform/devices/camera/FrameSlot.h"
 
 namespace Platform {
@@ -84,6 +85,12 @@ void CameraOpening::frameArrived()
 void CameraOpening::setReason(DeviceState state, const QString& program)
 {
     report(state, program);
+}
+
+void CameraOpening::framesUnreadable(const QString& problem)
+{
+    qCInfo(Log::camera, "The camera's frames can't be read: %s", qUtf8Printable(problem));
+    report(DeviceState::Unreadable);
 }
 
 void CameraOpening::streamEnded(std::optional<DeviceState> why, const QString& program)

@@ -67,6 +67,7 @@ public:
     void frameArrived();
     // Why there are no frames, and which program uses a busy camera.
     void setReason(DeviceState state, const QString& program = {});
+    void framesUnreadable(const QString& problem); // it is for the log
     // May be called from inside the stream.
     void streamEnded(std::optional<DeviceState> why, const QString& program = {});
 

@@ -101,7 +101,7 @@ void DeviceFacts::askForClientAddress(int run)
     m_addressDeadline.start();
     m_probe = m_makeProbe(*this, [this, run](const QString& address) {
         m_clientAddress = address;
-        // Not from here: the probe is calling.
+        // Later, because the probe itself calls this.
         m_mailbox.sender().post([this, run] {
             if (run == m_run) {
                 m_addressDeadline.stop();

@@ -7,10 +7,10 @@
 
 namespace Platform {
 
-// How many requests a second are answered: so many of each client, which is an address and a port,
-// so many of each host, and so many in all. Whoever asks for more takes it from nobody else. The
-// counters have a fixed place in memory, however many addresses somebody invents; two clients that
-// share one by chance share its budget. Knows no clock: times are given to it.
+// How many requests are answered in a second. Each client (an address and a port) and each host has
+// a limit of its own, and there is one for all together, so a flood from one client doesn't use up
+// what the others may ask. The number of counters is fixed, so invented addresses take no memory;
+// two clients that share a counter by chance share its limit. The caller says what time it is.
 class AnswerBudget
 {
 public:

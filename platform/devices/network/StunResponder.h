@@ -10,8 +10,8 @@
 
 namespace Platform {
 
-// A small STUN server on a thread of its own, from its creation to its destruction. It answers so
-// much as AnswerBudget allows, from the address that it was asked at.
+// A small STUN server on a thread of its own, from its creation to its destruction. It answers
+// as many requests as AnswerBudget allows, from the address to which each was sent.
 class CLASSROOMDEVICES_EXPORT StunResponder
 {
 public:

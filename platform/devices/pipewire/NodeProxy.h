@@ -29,10 +29,8 @@ public:
 
     bool isDone() const { return m_isDone; }
     const CameraNode& node() const { return m_node; }
-    const ServerError& error() const
-    {
-        return m_error;
-    } // of the node's last start; empty if that worked
+    // Of the node's last start; empty if that worked.
+    const ServerError& error() const { return m_error; }
 
 private:
     void onInfo(const pw_node_info& info);

@@ -117,9 +117,7 @@ void PipeWireCapture::frameReceived(const FrameFormat& format, const FrameView& 
     const QImage frame = m_converter.convert(format, view, orientation, m_outputSize);
     if (frame.isNull()) {
         if (m_converter.hasGivenUp()) {
-            qCInfo(Log::camera, "The camera's frames can't be read: %s",
-                   qUtf8Printable(m_converter.problem()));
-            m_opening.setReason(DeviceState::Unreadable);
+            m_opening.framesUnreadable(m_converter.problem());
         }
         return;
     }
@@ -154,7 +152,7 @@ bool PipeWireCapture::openStream(const QString& serial)
     return true;
 }
 
-// Of an error before our time, the server says no number.
+// If the error is older than our connection, the server gives no number.
 void PipeWireCapture::setReason(const ServerError& error)
 {
     const bool mayBeBusy = error.number == 0 || error.number == EBUSY;

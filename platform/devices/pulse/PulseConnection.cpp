@@ -398,7 +398,7 @@ void PulseConnection::sendVolume(PulseKind kind)
     }
 }
 
-// Carried out, or refused: the list will tell.
+// Whether the order was carried out or refused shows in the next list.
 void PulseConnection::volumeSettled(PulseKind kind)
 {
     VolumeOrders& queue = orders(kind);

@@ -16,6 +16,17 @@ const PulseDevice* PulseSide::find(const QString& id) const
     return findDevice(devices, id);
 }
 
+DeviceState PulseSide::stateOf(const QString& id) const
+{
+    return find(id) ? DeviceState::Ready : DeviceState::Absent;
+}
+
+VolumeState PulseSide::volumeOf(const QString& id) const
+{
+    const PulseDevice* device = find(id);
+    return device ? device->volumeState() : VolumeState();
+}
+
 QString PulseSide::preferredId() const
 {
     if (find(defaultId)) {
@@ -50,6 +61,12 @@ PulseSide& PulseDevices::side(PulseKind kind)
 const PulseSide& PulseDevices::side(PulseKind kind) const
 {
     return kind == PulseKind::Speaker ? speakers : microphones;
+}
+
+QString toString(SoundServerState server, DeviceState device)
+{
+    const QString trouble = toString(server);
+    return trouble.isEmpty() ? toString(device) : trouble;
 }
 
 bool operator==(const PulseDevice& a, const PulseDevice& b)

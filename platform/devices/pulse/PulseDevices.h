@@ -20,8 +20,7 @@ struct PulseDevice : DeviceInfo
     pa_cvolume volume{};
     bool isMuted = false;
     bool isAdjustable = false;
-    // A Bluetooth headset whose microphone is in use plays in telephone quality.
-    bool isTelephone = false;
+    bool isTelephone = false; // a Bluetooth headset in the mode that sounds like a telephone
 
     VolumeState volumeState() const;
 };
@@ -35,6 +34,8 @@ struct PulseSide
     quint64 settledOrder = 0;
 
     const PulseDevice* find(const QString& id) const;
+    DeviceState stateOf(const QString& id) const;  // Absent, or Ready to be opened
+    VolumeState volumeOf(const QString& id) const; // 0 if it is absent
     // For users who chose nothing: the default device, or the first if there is no default.
     QString preferredId() const;
     QString defaultName() const; // null without a default
@@ -52,6 +53,9 @@ struct PulseDevices
     PulseSide& side(PulseKind kind);
     const PulseSide& side(PulseKind kind) const;
 };
+
+// The state of a device as reports call it. Trouble of its server says more than its own state.
+QString toString(SoundServerState server, DeviceState device);
 
 bool operator==(const PulseDevice& a, const PulseDevice& b);
 bool operator==(const PulseSide& a, const PulseSide& b);

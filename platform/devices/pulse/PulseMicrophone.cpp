@@ -14,6 +14,7 @@ namespace Platform {
 namespace {
 
 constexpr int MaxVolume = 150;
+constexpr std::chrono::seconds RetryDelay(1);
 
 } // namespace
 
@@ -23,13 +24,11 @@ PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& 
       m_listener(listener),
       m_report(report),
       m_volume(MaxVolume),
-      m_capture(std::make_shared<PulseCapture>(m_server->connection()))
+      m_capture(std::make_shared<PulseCapture>(m_server->connection())),
+      m_retry(RetryDelay, [this] { updateCapture(); })
 {
     PulseConnection& connection = m_server->connection();
     connection.run([&connection, capture = m_capture] { connection.add(capture); });
-    m_retry.setSingleShot(true);
-    m_retry.setInterval(RetryMs);
-    QObject::connect(&m_retry, &QTimer::timeout, &m_context, [this] { updateCapture(); });
     QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
     update();
 }
@@ -53,7 +52,7 @@ QString PulseMicrophone::currentName() const
 void PulseMicrophone::setCurrent(const QString& id)
 {
     m_chosenId = id;
-    m_hasFailed = false;
+    m_retry.forgetFailure();
     m_mailbox.sender().post([this] { update(); });
 }
 
@@ -65,7 +64,7 @@ DeviceState PulseMicrophone::state() const
     if (!device()) {
         return DeviceState::Absent;
     }
-    if (m_hasFailed) {
+    if (m_retry.hasFailed()) {
         return DeviceState::Failed;
     }
     if (!m_isCapturing) {
@@ -79,10 +78,7 @@ DeviceState PulseMicrophone::state() const
 
 DeviceState PulseMicrophone::stateOf(const QString& id) const
 {
-    if (id == m_id) {
-        return state();
-    }
-    return m_server->devices().microphones.find(id) ? DeviceState::Ready : DeviceState::Absent;
+    return id == m_id ? state() : m_server->devices().microphones.stateOf(id);
 }
 
 void PulseMicrophone::open()
@@ -109,8 +105,7 @@ void PulseMicrophone::setListening(bool on)
 
 int PulseMicrophone::volumeOf(const QString& id) const
 {
-    const PulseDevice* device = m_server->devices().microphones.find(id);
-    return device ? m_volume.percentOf(device->volumeState()) : 0;
+    return m_volume.percentOf(m_server->devices().microphones.volumeOf(id));
 }
 
 void PulseMicrophone::setVolume(int percent)
@@ -135,13 +130,13 @@ void PulseMicrophone::update()
     m_default.take(microphones.defaultName());
     const SoundServerState serverState = m_server->devices().server;
     const bool isListChanged = !(m_list == list) || m_serverState != serverState;
-    // Without a server not even the chosen one is missing: nobody knows of it.
+    // Without a server, nobody knows whether the chosen one is there: none is the current one.
     const bool isServerThere = toString(serverState).isEmpty();
     const QString id = isServerThere ? m_chosenId.value_or(microphones.preferredId()) : QString();
     const bool isOther = m_id != id;
     if (isOther) {
         endCapture();
-        m_hasFailed = false;
+        m_retry.forgetFailure();
         m_hasHeardSound = false;
     }
     m_list = list;
@@ -193,9 +188,8 @@ void PulseMicrophone::updateCapture()
     const bool isWanted = m_isOpen && device();
     if (!isWanted) {
         endCapture();
-        m_retry.stop();
-        m_hasFailed = false;
-    } else if (!m_isCapturing && !m_retry.isActive()) {
+        m_retry.cancel();
+    } else if (!m_isCapturing && !m_retry.isWaiting()) {
         startCapture();
     }
     updateWorkState();
@@ -228,15 +222,16 @@ void PulseMicrophone::startCapture()
     events.metered.deliveryChanged = [this, post](bool delivers) {
         post([this, delivers] {
             m_hasStalled = !delivers;
-            m_hasFailed = m_hasFailed && !delivers;
+            if (delivers) {
+                m_retry.forgetFailure();
+            }
             updateWorkState();
         });
     };
     events.failed = [this, post] {
         post([this] {
             endCapture();
-            m_hasFailed = true;
-            m_retry.start();
+            m_retry.streamBroke();
             updateWorkState();
         });
     };
@@ -297,8 +292,7 @@ void PulseMicrophone::recordMeasurement() const
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);
-    const QString trouble = toString(m_serverState);
-    figures.insert(QStringLiteral("state"), trouble.isEmpty() ? toString(state()) : trouble);
+    figures.insert(QStringLiteral("state"), toString(m_serverState, state()));
     m_report.recordMeasurement(QStringLiteral("microphone"), figures);
 }
 

@@ -7,9 +7,9 @@
 #include "platform/backend/MicrophoneBackend.h"
 #include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/sound/DeviceVolume.h"
+#include "platform/devices/sound/StreamRetry.h"
 
 #include <QObject>
-#include <QTimer>
 #include <memory>
 #include <optional>
 
@@ -25,8 +25,6 @@ class ReportSink;
 class PulseMicrophone final : public MicrophoneBackend
 {
 public:
-    static constexpr int RetryMs = 1000; // if a stream broke although its device is there
-
     PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
     ~PulseMicrophone() override;
 
@@ -79,12 +77,11 @@ private:
     bool m_isCapturing = false;
     int m_opening = 0; // drops the messages of earlier openings
     bool m_hasStalled = false;
-    bool m_hasFailed = false;
     bool m_hasHeardSound = false;
     bool m_wasUsable = false;     // when the listener was called last
     bool m_hadHeardSound = false; // likewise
     QString m_listeningOn;
-    QTimer m_retry;
+    StreamRetry m_retry;
     QObject m_context; // ends the signal connections
     Mailbox m_mailbox;
 };

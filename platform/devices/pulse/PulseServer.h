@@ -23,7 +23,7 @@ public:
     ~PulseServer() override;
 
     PulseConnection& connection() { return *m_connection; }
-    // The server answered, or it doesn't.
+    // Whether it is known if the server answers.
     bool isKnown() const { return m_devices.server != SoundServerState::Starting; }
     const PulseDevices& devices() const { return m_devices; }
     // Returns the number of the order; see PulseSide::settledOrder.

@@ -49,16 +49,12 @@ DeviceState PulseSpeaker::state() const
 
 DeviceState PulseSpeaker::stateOf(const QString& id) const
 {
-    if (id == m_id) {
-        return state();
-    }
-    return m_server->devices().speakers.find(id) ? DeviceState::Ready : DeviceState::Absent;
+    return id == m_id ? state() : m_server->devices().speakers.stateOf(id);
 }
 
 int PulseSpeaker::volumeOf(const QString& id) const
 {
-    const PulseDevice* device = m_server->devices().speakers.find(id);
-    return device ? m_volume.percentOf(device->volumeState()) : 0;
+    return m_volume.percentOf(m_server->devices().speakers.volumeOf(id));
 }
 
 void PulseSpeaker::setVolume(int percent)
@@ -124,8 +120,7 @@ void PulseSpeaker::recordMeasurement() const
         figures.insert(QStringLiteral("device"), currentName());
     }
     m_default.addTo(figures);
-    const QString trouble = toString(m_serverState);
-    figures.insert(QStringLiteral("state"), trouble.isEmpty() ? toString(state()) : trouble);
+    figures.insert(QStringLiteral("state"), toString(m_serverState, state()));
     m_report.recordMeasurement(QStringLiteral("speaker"), figures);
 }
 

@@ -100,8 +100,7 @@ void V4l2Capture::firstFrameArrived()
 
 void V4l2Capture::framesUnreadable(const QString& problem)
 {
-    qCInfo(Log::camera, "The camera's frames can't be read: %s", qUtf8Printable(problem));
-    m_opening.setReason(DeviceState::Unreadable);
+    m_opening.framesUnreadable(problem);
 }
 
 void V4l2Capture::streamEnded(DeviceState state, const QString& error, const QString& program)

@@ -229,7 +229,7 @@ void tst_StunResponder::floodTakesFromNobodyElse()
         clients.push_back(std::make_unique<Client>(server, QHostAddress(address)));
     }
     const QByteArray request = StunClient().createRequest()->datagram;
-    // Little by little, so that no queue overflows: what is missing, a limit has kept back.
+    // In small portions, so that no queue overflows: only a limit can be why answers are missing.
     int floodAnswers = 0;
     for (int round = 0; round < FloodRounds; ++round) {
         for (int count = 0; count < 50; ++count) {

@@ -7,6 +7,7 @@
 #include "tests/devices/ThreadCount.h"
 
 #include <QtTest>
+#include <cerrno>
 
 using namespace Platform;
 
@@ -76,6 +77,29 @@ QStringList PipeWireCameraTest::openFiles()
                              .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
     result.sort();
     return result;
+}
+
+void PipeWireCameraTest::addErrors()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("busy") << EBUSY << QStringLiteral("busy");
+    QTest::newRow("denied") << EACCES << QStringLiteral("denied");
+    QTest::newRow("not permitted") << EPERM << QStringLiteral("denied");
+    QTest::newRow("other") << EIO << QStringLiteral("failed");
+}
+
+void PipeWireCameraTest::failAndReopen(CameraProcess& camera, int error)
+{
+    makeBackend();
+    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+    camera.command("error " + QByteArray::number(error));
+    // The server gives no reason while the stream runs.
+    QTRY_COMPARE(stateName(), QStringLiteral("silent"));
+    m_backend->stop();
+    m_backend->start();
 }
 
 PipeWireCameraTest::Camera PipeWireCameraTest::plug(const QString& name, const QString& description,

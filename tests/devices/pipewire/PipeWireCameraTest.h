@@ -46,6 +46,10 @@ protected:
     static int cameraThreads();                         // of this process
     static QStringList openFiles();
 
+    // What a camera reports, and the state that this becomes: "error" and "expected".
+    static void addErrors();
+    // Makes the camera fail while it is open, and opens it again.
+    void failAndReopen(CameraProcess& camera, int error);
     static Camera plug(const QString& name, const QString& description,
                        const QStringList& arguments = {});
     void makeBackend();

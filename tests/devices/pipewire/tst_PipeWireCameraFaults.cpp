@@ -97,12 +97,7 @@ void tst_PipeWireCameraFaults::retriesHungStart()
 
 void tst_PipeWireCameraFaults::reportsErrors_data()
 {
-    QTest::addColumn<int>("error");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("busy") << EBUSY << QStringLiteral("busy");
-    QTest::newRow("denied") << EACCES << QStringLiteral("denied");
-    QTest::newRow("not permitted") << EPERM << QStringLiteral("denied");
-    QTest::newRow("other") << EIO << QStringLiteral("failed");
+    addErrors();
 }
 
 void tst_PipeWireCameraFaults::reportsErrors()
@@ -110,15 +105,7 @@ void tst_PipeWireCameraFaults::reportsErrors()
     QFETCH(int, error);
     QFETCH(QString, expected);
     Camera camera = plug(NameA, QStringLiteral("Camera"));
-    makeBackend();
-    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
-    m_backend->start();
-    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
-    camera->command("error " + QByteArray::number(error));
-    QTRY_COMPARE(stateName(),
-                 QStringLiteral("silent")); // the server gives no reason while the stream runs
-    m_backend->stop();
-    m_backend->start();
+    failAndReopen(*camera, error);
     QTRY_COMPARE(stateName(), expected);
     QCOMPARE(toString(m_backend->cause().kind), expected);
     QTRY_VERIFY(m_watcher.log.contains(QStringLiteral("fails")));

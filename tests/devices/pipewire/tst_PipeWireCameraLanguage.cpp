@@ -28,12 +28,7 @@ private Q_SLOTS:
 
 void tst_PipeWireCameraLanguage::knowsTheCause_data()
 {
-    QTest::addColumn<int>("error");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("busy") << EBUSY << QStringLiteral("busy");
-    QTest::newRow("denied") << EACCES << QStringLiteral("denied");
-    QTest::newRow("not permitted") << EPERM << QStringLiteral("denied");
-    QTest::newRow("other") << EIO << QStringLiteral("failed");
+    addErrors();
 }
 
 void tst_PipeWireCameraLanguage::knowsTheCause()
@@ -41,14 +36,7 @@ void tst_PipeWireCameraLanguage::knowsTheCause()
     QFETCH(int, error);
     QFETCH(QString, expected);
     const Camera camera = plug(NameA, QStringLiteral("Camera"));
-    makeBackend();
-    QTRY_COMPARE_WITH_TIMEOUT(ids().size(), 1, LongMs);
-    m_backend->start();
-    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
-    camera->command("error " + QByteArray::number(error));
-    QTRY_COMPARE(stateName(), QStringLiteral("silent"));
-    m_backend->stop();
-    m_backend->start();
+    failAndReopen(*camera, error);
     QTRY_COMPARE(stateName(), expected);
     QCOMPARE(toString(m_backend->cause().kind), expected);
 }

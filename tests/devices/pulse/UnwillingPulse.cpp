@@ -69,6 +69,16 @@ std::optional<pa_operation*> struck(pa_context* context, Reply badReply)
                    }));
 }
 
+// Asks for a list; a bad reply ends it.
+template <typename Callback>
+pa_operation* listed(const char* name, pa_context* context, Callback callback, void* data)
+{
+    const auto fault =
+        struck(context, [=](pa_context* from) { callback(from, nullptr, -1, data); });
+    using Query = pa_operation* (*)(pa_context*, Callback, void*);
+    return fault ? *fault : original<Query>(name)(context, callback, data);
+}
+
 } // namespace
 
 void arm(Fault fault, int callsBefore)
@@ -127,21 +137,13 @@ pa_operation* pa_context_get_server_info(pa_context* context, pa_server_info_cb_
 pa_operation* pa_context_get_sink_info_list(pa_context* context, pa_sink_info_cb_t callback,
                                             void* data)
 {
-    const auto fault =
-        struck(context, [=](pa_context* from) { callback(from, nullptr, -1, data); });
-    return fault ? *fault
-                 : original<decltype(&::pa_context_get_sink_info_list)>(
-                       "pa_context_get_sink_info_list")(context, callback, data);
+    return listed("pa_context_get_sink_info_list", context, callback, data);
 }
 
 pa_operation* pa_context_get_source_info_list(pa_context* context, pa_source_info_cb_t callback,
                                               void* data)
 {
-    const auto fault =
-        struck(context, [=](pa_context* from) { callback(from, nullptr, -1, data); });
-    return fault ? *fault
-                 : original<decltype(&::pa_context_get_source_info_list)>(
-                       "pa_context_get_source_info_list")(context, callback, data);
+    return listed("pa_context_get_source_info_list", context, callback, data);
 }
 
 int pa_stream_connect_playback(pa_stream* stream, const char* device, const pa_buffer_attr* buffer,

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 
+#include "host/Languages.h"
 #include "host/report/Redaction.h"
 #include "host/report/ReportJson.h"
 #include "host/report/ReportWriter.h"
@@ -19,6 +20,9 @@ private Q_SLOTS:
     void whatSaysNothingOfAPersonStays_data();
     void whatSaysNothingOfAPersonStays();
     void equalTextsHaveEqualCodes();
+    void keyIsMadeForHashOnly_data();
+    void keyIsMadeForHashOnly();
+    void saysWhyThereIsNoKey();
     void noFileIsBelieved_data();
     void noFileIsBelieved();
     void onlyKnownWordsStay();
@@ -102,6 +106,41 @@ void tst_Redaction::equalTextsHaveEqualCodes()
     QCOMPARE(account(report), account(redacted(Options::Redaction::Hash)));
     QVERIFY(account(report) != report.facts.value(QStringLiteral("nickname")).toString());
     QVERIFY(account(report) != account(redacted(Options::Redaction::Hash, "another key")));
+}
+
+void tst_Redaction::keyIsMadeForHashOnly_data()
+{
+    QTest::addColumn<Options::Redaction>("level");
+    QTest::addColumn<bool>("needsKey");
+    QTest::newRow("none") << Options::Redaction::None << false;
+    QTest::newRow("personal") << Options::Redaction::Personal << false;
+    QTest::newRow("hash") << Options::Redaction::Hash << true;
+}
+
+void tst_Redaction::keyIsMadeForHashOnly()
+{
+    QFETCH(Options::Redaction, level);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("key"));
+    QString problem;
+    const std::optional<Redaction> first = Redaction::withKeyIn(file, level, &problem);
+    QVERIFY2(first, qPrintable(problem));
+    QTEST(QFileInfo::exists(file), "needsKey");
+    const std::optional<Redaction> second = Redaction::withKeyIn(file, level, &problem);
+    QVERIFY2(second, qPrintable(problem));
+    QCOMPARE(ReportJson::toJson(first->redacted(sampleReport())),
+             ReportJson::toJson(second->redacted(sampleReport())));
+}
+
+void tst_Redaction::saysWhyThereIsNoKey()
+{
+    Languages languages;
+    QCOMPARE(languages.use(QStringLiteral("en")), QString());
+    const QTemporaryDir folder; // is no file
+    QString problem;
+    QVERIFY(!Redaction::withKeyIn(folder.path(), Options::Redaction::Hash, &problem));
+    QVERIFY2(problem.contains(folder.path()), qPrintable(problem));
+    QVERIFY(Redaction::withKeyIn(folder.path(), Options::Redaction::Personal, &problem));
 }
 
 void tst_Redaction::noFileIsBelieved_data()

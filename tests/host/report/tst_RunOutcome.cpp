@@ -133,7 +133,7 @@ void tst_RunOutcome::network()
     QTEST(static_cast<int>(check.verdict), "verdict");
 }
 
-// In the language of the terminal: the step's own text for no delay is no word of it.
+// The reason is said in the language of the terminal. The step's own text, "N/A", doesn't show.
 void tst_RunOutcome::networkWithoutDelay()
 {
     const auto textFor = [](const QJsonObject& figures) {
@@ -149,6 +149,10 @@ void tst_RunOutcome::networkWithoutDelay()
     QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoAnswer"));
     figures.insert(QStringLiteral("state"), QStringLiteral("noSuchHost"));
     QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoSuchHost"));
+    figures.insert(QStringLiteral("state"), QStringLiteral("refused"));
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_Refused"));
+    figures.insert(QStringLiteral("state"), QStringLiteral("noRoute"));
+    QCOMPARE(textFor(figures), failedWith("ID_Host_Reason_NoRoute"));
     QCOMPARE(textFor({}), failedWith("ID_Host_Reason_NoAnswer"));
 }
 

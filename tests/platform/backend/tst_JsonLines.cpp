@@ -35,7 +35,7 @@ void tst_JsonLines::findsLines_data()
     row("ab.list[1]", 6);
     row("ab.list[1].x", 7);
     row("last", 9);
-    // What isn't there has the line of what it would be in.
+    // A path that doesn't exist has the line of its nearest parent.
     row("ab.none", 3);
     row("ab.list[7]", 5);
     row("ab.list[1].none.deeper", 6);

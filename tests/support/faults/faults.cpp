@@ -85,9 +85,20 @@ time_t clockOffset()
     return seconds != 0 && nowMs() - startMs > FaultPlan::valueOf("FAULT_CLOCK_MS") ? seconds : 0;
 }
 
-mode_t modeIn(int flags, va_list arguments)
+// arguments: what follows the flags of open().
+int opened(const char* name, const char* path, int flags, va_list arguments)
 {
-    return (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+    const bool makesFile = (flags & (O_CREAT | O_TMPFILE)) != 0;
+    const mode_t mode = makesFile ? va_arg(arguments, mode_t) : 0;
+    if (failedOpen(path) != 0) {
+        return -1;
+    }
+    return original<int (*)(const char*, int, ...)>(name)(path, flags, mode);
+}
+
+int openedAnew(const char* name, char* path, int flags)
+{
+    return failedOpen(path) != 0 ? -1 : original<int (*)(char*, int)>(name)(path, flags);
 }
 
 } // namespace
@@ -108,34 +119,28 @@ int open(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = modeIn(flags, arguments);
+    const int result = opened("open", path, flags, arguments);
     va_end(arguments);
-    if (failedOpen(path) != 0) {
-        return -1;
-    }
-    return original<int (*)(const char*, int, ...)>("open")(path, flags, mode);
+    return result;
 }
 
 int open64(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = modeIn(flags, arguments);
+    const int result = opened("open64", path, flags, arguments);
     va_end(arguments);
-    if (failedOpen(path) != 0) {
-        return -1;
-    }
-    return original<int (*)(const char*, int, ...)>("open64")(path, flags, mode);
+    return result;
 }
 
 int mkostemp(char* path, int flags)
 {
-    return failedOpen(path) != 0 ? -1 : original<decltype(&::mkostemp)>("mkostemp")(path, flags);
+    return openedAnew("mkostemp", path, flags);
 }
 
 int mkostemp64(char* path, int flags)
 {
-    return failedOpen(path) != 0 ? -1 : original<decltype(&::mkostemp)>("mkostemp64")(path, flags);
+    return openedAnew("mkostemp64", path, flags);
 }
 
 ssize_t read(int file, void* buffer, size_t size)
