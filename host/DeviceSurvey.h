@@ -31,10 +31,14 @@ struct DeviceSurvey
     Devices microphones;
     Devices speakers;
     Platform::SoundServerState soundServer = Platform::SoundServerState::Running;
+    Platform::SoundServerState cameraServer = Platform::SoundServerState::Running;
+    bool areCamerasDenied = false;
+
+    bool isServerMissing() const; // so a list may lack devices
 
     // Runs the event loop until the lists don't change any more, for a few seconds at most.
     static DeviceSurvey of(Platform::Engine& engine);
 
     QString toText() const; // a table for a terminal
-    QJsonObject toJson() const;
+    QJsonObject toJson() const; // with the report's words
 };

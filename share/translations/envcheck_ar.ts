@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1: تتعذر قراءته كملف إعدادات؛ ضع هناك ملفًا نصيًا فيه أسطر مثل server=HOST أو احذفه</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>خدمة الكاميرا لا تعمل</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>خدمة الكاميرا لا تستجيب</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>الكاميرات</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>يعرض الكاميرات والميكروفونات والسماعات وحالاتها.</translation>
+        <translation>يسرد الكاميرات والميكروفونات ومكبرات الصوت مع حالاتها. رمز الخروج 0: القوائم كاملة حتى إن لم يُعثر على شيء؛ 69: خدمة الكاميرا أو الصوت لا تعمل أو لا تستجيب.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

@@ -502,6 +502,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>%1: als Konfigurationsdatei nicht lesbar; legen Sie dort eine Textdatei mit Zeilen wie server=HOST ab oder entfernen Sie sie</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Der Kameradienst läuft nicht</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Der Kameradienst antwortet nicht</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Kameras</translation>
@@ -812,7 +820,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Listet Kameras, Mikrofone und Lautsprecher mit ihrem Zustand auf.</translation>
+        <translation>Listet Kameras, Mikrofone und Lautsprecher mit ihrem Zustand auf. Exit-Code 0: Die Listen sind vollständig, auch wenn nichts gefunden wurde; 69: Der Kamera- oder Tondienst läuft nicht oder antwortet nicht.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

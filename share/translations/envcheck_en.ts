@@ -502,6 +502,14 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>%1: it can't be read as a configuration file; put a text file with lines such as server=HOST there, or remove it</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>The camera service is not running</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>The camera service does not answer</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Cameras</translation>
@@ -812,7 +820,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Lists the cameras, microphones and speakers with their states.</translation>
+        <translation>Lists the cameras, microphones and speakers with their states. Exit code 0: the lists are complete, also if nothing was found; 69: the camera or sound service is not running or does not answer.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

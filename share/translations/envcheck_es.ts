@@ -502,6 +502,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>%1: no se puede leer como archivo de configuración; ponga ahí un archivo de texto con líneas como server=HOST o elimínelo</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>El servicio de cámara no está en marcha</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>El servicio de cámara no responde</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Cámaras</translation>
@@ -812,7 +820,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Muestra las cámaras, los micrófonos y los altavoces con su estado.</translation>
+        <translation>Muestra las cámaras, los micrófonos y los altavoces con su estado. Código de salida 0: las listas están completas, aunque no se haya encontrado nada; 69: el servicio de cámara o de sonido no está en marcha o no responde.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

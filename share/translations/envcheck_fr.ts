@@ -502,6 +502,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>%1 : illisible comme fichier de configuration ; mettez-y un fichier texte avec des lignes comme server=HOST, ou supprimez-le</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Le service de caméra est arrêté</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Le service de caméra ne répond pas</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Caméras</translation>
@@ -812,7 +820,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Affiche les caméras, les micros et les haut-parleurs avec leur état.</translation>
+        <translation>Affiche les caméras, les micros et les haut-parleurs avec leur état. Code de sortie 0 : les listes sont complètes, même si rien n'a été trouvé ; 69 : le service de caméra ou de son est arrêté ou ne répond pas.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1：設定ファイルとして読み込めません。server=HOST のような行を含むテキストファイルを置くか、削除してください</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>カメラサービスが動いていません</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>カメラサービスが応答しません</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>カメラ</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>カメラ、マイク、スピーカーとその状態を一覧表示します。</translation>
+        <translation>カメラ、マイク、スピーカーとその状態を一覧表示します。終了コード 0：一覧は完全です（何も見つからない場合を含む）。69：カメラサービスまたは音声サービスが動いていないか、応答しません。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1: 설정 파일로 읽을 수 없습니다. server=HOST 같은 줄이 있는 텍스트 파일을 두거나 삭제하세요</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>카메라 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>카메라 서비스가 응답하지 않음</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>카메라</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>카메라, 마이크, 스피커와 그 상태를 나열합니다.</translation>
+        <translation>카메라, 마이크, 스피커와 그 상태를 나열합니다. 종료 코드 0: 목록이 완전함(아무것도 찾지 못한 경우 포함), 69: 카메라 또는 소리 서비스가 실행되고 있지 않거나 응답하지 않음.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

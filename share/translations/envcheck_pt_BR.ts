@@ -502,6 +502,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>%1: não pode ser lido como arquivo de configuração; coloque ali um arquivo de texto com linhas como server=HOST ou remova-o</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>O serviço de câmera não está em execução</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>O serviço de câmera não responde</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Câmeras</translation>
@@ -812,7 +820,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Lista as câmeras, os microfones e os alto-falantes com seu estado.</translation>
+        <translation>Mostra as câmeras, os microfones e os alto-falantes com o estado de cada um. Código de saída 0: as listas estão completas, mesmo que nada tenha sido encontrado; 69: o serviço de câmera ou de som não está em execução ou não responde.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

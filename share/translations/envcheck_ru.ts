@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1: не читается как файл конфигурации; поместите туда текстовый файл со строками вида server=HOST или удалите его</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Служба камер не работает</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Служба камер не отвечает</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Камеры</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Показывает камеры, микрофоны и динамики и их состояние.</translation>
+        <translation>Показывает камеры, микрофоны и динамики с их состоянием. Код выхода 0: списки полные, даже если ничего не найдено; 69: служба камер или звука не работает или не отвечает.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

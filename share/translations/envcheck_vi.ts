@@ -502,6 +502,14 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>%1: không đọc được như một tệp cấu hình; hãy đặt vào đó một tệp văn bản có các dòng như server=HOST, hoặc xóa nó</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Dịch vụ camera không chạy</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Dịch vụ camera không phản hồi</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Camera</translation>
@@ -812,7 +820,7 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Liệt kê camera, micrô và loa cùng trạng thái.</translation>
+        <translation>Liệt kê camera, micrô và loa cùng trạng thái của chúng. Mã thoát 0: danh sách đầy đủ, kể cả khi không tìm thấy gì; 69: dịch vụ camera hoặc âm thanh không chạy hoặc không phản hồi.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1：无法作为配置文件读取；请放置一个含有 server=HOST 这类行的文本文件，或将其删除</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>摄像头服务没有运行</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>摄像头服务没有响应</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>摄像头</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>列出摄像头、麦克风和扬声器及其状态。</translation>
+        <translation>列出摄像头、麦克风和扬声器及其状态。退出代码 0：列表完整（即使没有找到设备）；69：摄像头服务或声音服务没有运行或没有响应。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>

@@ -502,6 +502,14 @@
         <source></source>
         <translation>%1：無法作為設定檔讀取；請放置一個含有 server=HOST 這類行的文字檔，或將其刪除</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>攝影機服務沒有執行</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>攝影機服務沒有回應</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>攝影機</translation>
@@ -812,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>列出攝影機、麥克風和喇叭及其狀態。</translation>
+        <translation>列出攝影機、麥克風和喇叭及其狀態。結束代碼 0：清單完整（即使沒有找到裝置）；69：攝影機服務或聲音服務沒有執行或沒有回應。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
