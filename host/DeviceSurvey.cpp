@@ -4,7 +4,6 @@
 
 #include "host/Console.h"
 #include "host/TextTable.h"
-#include "host/report/ReportWords.h"
 #include "platform/backend/Engine.h"
 
 #include <QElapsedTimer>
@@ -133,34 +132,39 @@ QString textOf(Platform::DeviceState state)
     return qtTrId(ids.value(state));
 }
 
-// The word for why a list is empty; null if it isn't.
-QJsonValue causeOf(const DeviceSurvey::Devices& devices, Platform::SoundServerState server,
-                   bool isDenied = false)
+std::optional<Cause> absence(const DeviceSurvey::Devices& devices,
+                             Platform::SoundServerState server, bool isDenied = false)
 {
     using State = Platform::SoundServerState;
     if (!devices.empty()) {
-        return {};
+        return std::nullopt;
     }
     switch (server) {
     case State::Lost:
-        return ReportWords::of(Cause::ServerLost);
+        return Cause::ServerLost;
     case State::Starting: // nobody waits longer for it here
     case State::Silent:
-        return ReportWords::of(Cause::ServerSilent);
+        return Cause::ServerSilent;
     case State::Running:
         break;
     }
-    return ReportWords::of(isDenied ? Cause::Denied : Cause::Absent);
+    return isDenied ? Cause::Denied : Cause::Absent;
+}
+
+// The word for why a list is empty; null if it isn't.
+QJsonValue wordOf(std::optional<Cause> absence)
+{
+    return absence ? QJsonValue(ReportWords::of(*absence)) : QJsonValue();
 }
 
 // Why the list of cameras is empty.
 QString cameraAbsenceText(const DeviceSurvey& survey)
 {
-    const QString word = causeOf(survey.cameras, survey.cameraServer).toString();
-    if (word == ReportWords::of(Cause::ServerLost)) {
+    const std::optional<Cause> cause = survey.absenceOf(CheckKind::Camera);
+    if (cause == Cause::ServerLost) {
         return qtTrId("ID_Host_Devices_CameraServerLost");
     }
-    if (word == ReportWords::of(Cause::ServerSilent)) {
+    if (cause == Cause::ServerSilent) {
         return qtTrId("ID_Host_Devices_CameraServerSilent");
     }
     return qtTrId(survey.areCamerasDenied ? "ID_Host_State_Denied" : "ID_Host_Devices_None");
@@ -232,14 +236,29 @@ QString DeviceSurvey::toText() const
 
 QJsonObject DeviceSurvey::toJson() const
 {
+    const QJsonObject causes{
+        {QStringLiteral("cameras"), wordOf(absenceOf(CheckKind::Camera))},
+        {QStringLiteral("microphones"), wordOf(absenceOf(CheckKind::Microphone))},
+        {QStringLiteral("speakers"), wordOf(absenceOf(CheckKind::Speaker))}};
     return {{QStringLiteral("cameras"), toArray(cameras)},
             {QStringLiteral("microphones"), toArray(microphones)},
             {QStringLiteral("speakers"), toArray(speakers)},
-            {QStringLiteral("causes"),
-             QJsonObject{
-                 {QStringLiteral("cameras"), causeOf(cameras, cameraServer, areCamerasDenied)},
-                 {QStringLiteral("microphones"), causeOf(microphones, soundServer)},
-                 {QStringLiteral("speakers"), causeOf(speakers, soundServer)}}}};
+            {QStringLiteral("causes"), causes}};
+}
+
+std::optional<Cause> DeviceSurvey::absenceOf(CheckKind kind) const
+{
+    switch (kind) {
+    case CheckKind::Camera:
+        return absence(cameras, cameraServer, areCamerasDenied);
+    case CheckKind::Microphone:
+        return absence(microphones, soundServer);
+    case CheckKind::Speaker:
+        return absence(speakers, soundServer);
+    case CheckKind::Network:
+        break;
+    }
+    return std::nullopt;
 }
 
 bool DeviceSurvey::isServerMissing() const

@@ -674,6 +674,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Pictures</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Used by</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Picture rate</translation>
@@ -1002,6 +1006,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Go through every step automatically and save a picture of each in FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Measure without a window and without a person; --json FILE (- for standard output) writes the report. Exit codes: 0 works, 1 needs fixing, 69 a service or server is missing.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Also write the log to the terminal.</translation>
@@ -1010,9 +1018,17 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Show the version.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Unattended: ended before everything was measured</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Finished with problems</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Unattended: something needs fixing</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1025,6 +1041,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>The session was ended by the classroom</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Unattended: a service is missing, so not everything could be measured</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Unattended: everything that was measured works</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1101,6 +1125,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Addresses, names and accounts are left out.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>The microphone is too loud and distorts, so lower its volume.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>The microphone hums, so try another socket or cable, and keep it away from power supplies.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1313,6 +1345,18 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>unknown command '%1': see --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Needs fixing</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Not measured</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Works</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>
