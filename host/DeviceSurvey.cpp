@@ -6,10 +6,13 @@
 #include "host/TextTable.h"
 #include "platform/backend/Engine.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QMap>
 #include <QTimer>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -27,13 +30,22 @@ public:
     Watch()
     {
         m_quiet.setSingleShot(true);
-        QObject::connect(&m_quiet, &QTimer::timeout, &m_loop, &QEventLoop::quit);
+        QObject::connect(&m_quiet, &QTimer::timeout, &m_quiet, [this] {
+            if (m_areServersKnown() || m_clock.elapsed() >= FirstAnswerMs) {
+                m_loop.quit();
+            } else {
+                m_quiet.start(QuietMs);
+            }
+        });
     }
 
     virtual ~Watch() = default;
 
-    void waitForLists()
+    // One server may answer later than the other one.
+    void waitForLists(std::function<bool()> areServersKnown)
     {
+        m_areServersKnown = std::move(areServersKnown);
+        m_clock.start();
         QTimer::singleShot(LongestMs, &m_loop, &QEventLoop::quit);
         m_quiet.start(FirstAnswerMs);
         m_loop.exec();
@@ -66,6 +78,8 @@ private:
 
     QEventLoop m_loop;
     QTimer m_quiet;
+    QElapsedTimer m_clock;
+    std::function<bool()> m_areServersKnown;
 };
 
 DeviceSurvey::Devices surveyCameras(const Platform::CameraBackend& backend)
@@ -118,6 +132,44 @@ QString textOf(Platform::DeviceState state)
     return qtTrId(ids.value(state));
 }
 
+std::optional<Cause> absence(const DeviceSurvey::Devices& devices,
+                             Platform::SoundServerState server, bool isDenied = false)
+{
+    using State = Platform::SoundServerState;
+    if (!devices.empty()) {
+        return std::nullopt;
+    }
+    switch (server) {
+    case State::Lost:
+        return Cause::ServerLost;
+    case State::Starting: // nobody waits longer for it here
+    case State::Silent:
+        return Cause::ServerSilent;
+    case State::Running:
+        break;
+    }
+    return isDenied ? Cause::Denied : Cause::Absent;
+}
+
+// The word for why a list is empty; null if it isn't.
+QJsonValue wordOf(std::optional<Cause> absence)
+{
+    return absence ? QJsonValue(ReportWords::of(*absence)) : QJsonValue();
+}
+
+// Why the list of cameras is empty.
+QString cameraAbsenceText(const DeviceSurvey& survey)
+{
+    const std::optional<Cause> cause = survey.absenceOf(CheckKind::Camera);
+    if (cause == Cause::ServerLost) {
+        return qtTrId("ID_Host_Devices_CameraServerLost");
+    }
+    if (cause == Cause::ServerSilent) {
+        return qtTrId("ID_Host_Devices_CameraServerSilent");
+    }
+    return qtTrId(survey.areCamerasDenied ? "ID_Host_State_Denied" : "ID_Host_Devices_None");
+}
+
 // Why a list of sound devices is empty.
 QString absenceText(Platform::SoundServerState state)
 {
@@ -150,12 +202,18 @@ DeviceSurvey DeviceSurvey::of(Platform::Engine& engine)
     const auto camera = engine.createCamera(watch);
     const auto microphone = engine.createMicrophone(watch);
     const auto speaker = engine.createSpeaker(watch);
-    watch.waitForLists();
+    watch.waitForLists([&engine, &camera] {
+        using State = Platform::SoundServerState;
+        return engine.soundServerState() != State::Starting &&
+               camera->serverState() != State::Starting;
+    });
     DeviceSurvey result;
     result.cameras = surveyCameras(*camera);
     result.microphones = surveySound(*microphone, microphone->devices());
     result.speakers = surveySound(*speaker, engine.speakers());
     result.soundServer = engine.soundServerState();
+    result.cameraServer = camera->serverState();
+    result.areCamerasDenied = camera->state() == Platform::DeviceState::Denied;
     return result;
 }
 
@@ -163,7 +221,7 @@ QString DeviceSurvey::toText() const
 {
     TextTable table;
     const QString silence = absenceText(soundServer);
-    addTo(table, qtTrId("ID_Host_Devices_Cameras"), cameras, qtTrId("ID_Host_Devices_None"));
+    addTo(table, qtTrId("ID_Host_Devices_Cameras"), cameras, cameraAbsenceText(*this));
     addTo(table, qtTrId("ID_Host_Devices_Microphones"), microphones, silence);
     addTo(table, qtTrId("ID_Host_Devices_Speakers"), speakers, silence);
     return table.toText();
@@ -171,7 +229,33 @@ QString DeviceSurvey::toText() const
 
 QJsonObject DeviceSurvey::toJson() const
 {
+    const QJsonObject causes{
+        {QStringLiteral("cameras"), wordOf(absenceOf(CheckKind::Camera))},
+        {QStringLiteral("microphones"), wordOf(absenceOf(CheckKind::Microphone))},
+        {QStringLiteral("speakers"), wordOf(absenceOf(CheckKind::Speaker))}};
     return {{QStringLiteral("cameras"), toArray(cameras)},
             {QStringLiteral("microphones"), toArray(microphones)},
-            {QStringLiteral("speakers"), toArray(speakers)}};
+            {QStringLiteral("speakers"), toArray(speakers)},
+            {QStringLiteral("causes"), causes}};
+}
+
+std::optional<Cause> DeviceSurvey::absenceOf(CheckKind kind) const
+{
+    switch (kind) {
+    case CheckKind::Camera:
+        return absence(cameras, cameraServer, areCamerasDenied);
+    case CheckKind::Microphone:
+        return absence(microphones, soundServer);
+    case CheckKind::Speaker:
+        return absence(speakers, soundServer);
+    case CheckKind::Network:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool DeviceSurvey::isServerMissing() const
+{
+    using State = Platform::SoundServerState;
+    return soundServer != State::Running || cameraServer != State::Running;
 }

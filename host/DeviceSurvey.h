@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/report/ReportWords.h"
 #include "platform/backend/DeviceInfo.h"
 #include "platform/backend/SoundServerState.h"
 
@@ -31,10 +32,15 @@ struct DeviceSurvey
     Devices microphones;
     Devices speakers;
     Platform::SoundServerState soundServer = Platform::SoundServerState::Running;
+    Platform::SoundServerState cameraServer = Platform::SoundServerState::Running;
+    bool areCamerasDenied = false;
 
     // Runs the event loop until the lists don't change any more, for a few seconds at most.
     static DeviceSurvey of(Platform::Engine& engine);
 
-    QString toText() const; // a table for a terminal
-    QJsonObject toJson() const;
+    QString toText() const;     // a table for a terminal
+    QJsonObject toJson() const; // with the report's words
+    // Why a list of devices is empty; nothing if it isn't.
+    std::optional<Cause> absenceOf(CheckKind kind) const;
+    bool isServerMissing() const; // so a list may lack devices
 };

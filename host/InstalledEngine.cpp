@@ -110,6 +110,16 @@ QJsonObject InstalledEngine::results() const
     return m_results();
 }
 
+// Without a person nothing is chosen that could be remembered.
+QString InstalledEngine::settingsFolder(const Options& options, const QString& dataFolder)
+{
+    if (!options.isUnattended) {
+        return dataFolder;
+    }
+    m_unusedSettings = std::make_unique<QTemporaryDir>();
+    return m_unusedSettings->path();
+}
+
 void InstalledEngine::installScripted(const Options& options)
 {
     QString error;
@@ -135,8 +145,8 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     config.account = options.account;
     config.nickname = options.nickname;
     config.resultsPath = runningResults(options);
-    config.reportUrl = options.reportUrl;
-    config.settingsFolder = dataFolder;
+    config.reportUrl = options.isUnattended ? QString() : options.reportUrl;
+    config.settingsFolder = settingsFolder(options, dataFolder);
     config.cacheFolder = dataFolder;
     auto made = std::make_unique<Platform::DeviceEngine>(config);
     Platform::DeviceEngine& engine = *made;

@@ -6,7 +6,9 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QTemporaryDir>
 #include <functional>
+#include <memory>
 
 struct Options;
 
@@ -36,6 +38,7 @@ public:
     QJsonObject results() const; // of the run so far
 
 private:
+    QString settingsFolder(const Options& options, const QString& dataFolder);
     void installScripted(const Options& options);
     void installDevices(const Options& options, const QString& dataFolder);
     void fail(const QString& error, ExitCode code);
@@ -44,4 +47,5 @@ private:
     ExitCode m_errorCode = ExitCode::AllPassed;
     std::function<void(std::function<void()>)> m_prepare; // null if there is nothing to collect
     std::function<QJsonObject()> m_results;
+    std::unique_ptr<QTemporaryDir> m_unusedSettings; // removed after the engine
 };

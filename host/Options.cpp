@@ -15,6 +15,9 @@
 namespace {
 
 constexpr int MaxPort = 65535;
+constexpr const char* CheckName = "check"; // the command that needs no name
+const QLatin1String JsonOption("--json");
+const QLatin1String ReportOption("--report");
 
 // Bits for the commands that accept an option.
 enum CommandBit : unsigned {
@@ -65,6 +68,7 @@ constexpr Definition Definitions[] = {
     {"report", InCheck, "FILE", "ID_Host_Option_Report"},
     {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
+    {"unattended", InCheck, nullptr, "ID_Host_Option_Unattended"},
     {"json", InDevices | InNetwork | InHistory, nullptr, "ID_Host_Option_Json"},
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
     {"port", InServe, "N", "ID_Host_Option_Port"},
@@ -135,6 +139,7 @@ public:
         readNumbers();
         readReportOptions();
         readOutputs();
+        readUnattended();
     }
 
 private:
@@ -161,7 +166,9 @@ private:
     void readCommand()
     {
         QStringList texts = m_parser.positionalArguments();
-        if (!texts.isEmpty()) {
+        if (!texts.isEmpty() && texts.first() == QLatin1String(CheckName)) {
+            texts.removeFirst();
+        } else if (!texts.isEmpty()) {
             const auto* found = std::find_if(
                 std::begin(CommandNames) + 1, std::end(CommandNames),
                 [&texts](const CommandName& c) { return texts.first() == QLatin1String(c.name); });
@@ -294,6 +301,16 @@ private:
         }
     }
 
+    void readUnattended()
+    {
+        m_options.isUnattended = isSet("unattended");
+        for (const char* other : {"tour", "results", "report-url", "quiet"}) {
+            if (m_options.isUnattended && isSet(other)) {
+                failAtBoth("--unattended", qPrintable(QLatin1String("--") + option(other)));
+            }
+        }
+    }
+
     // Only endings that fit the format: in "results.xlsx", for example, nobody would look for JSON.
     // Folders get their own message elsewhere.
     void checkEnding(const char* name, const QStringList& endings)
@@ -321,6 +338,21 @@ private:
     const QCommandLineParser& m_parser;
     Options& m_options;
 };
+
+// With --unattended, --json names a file: the report. For other commands it has no value.
+QStringList withJsonFile(const QStringList& arguments)
+{
+    if (!arguments.contains(QLatin1String("--unattended"))) {
+        return arguments;
+    }
+    QStringList result = arguments;
+    for (QString& argument : result) {
+        if (argument == JsonOption || argument.startsWith(JsonOption + QLatin1Char('='))) {
+            argument.replace(0, JsonOption.size(), ReportOption);
+        }
+    }
+    return result;
+}
 
 QString usageOf(const CommandName& command)
 {
@@ -392,7 +424,7 @@ Options Options::parse(const QStringList& arguments)
     Options options;
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(withJsonFile(arguments))) {
         options.error = qtTrId("ID_Host_Usage_SeeHelp").arg(parser.errorText());
         return options;
     }

@@ -29,7 +29,8 @@ struct Options
     QString reportUrl;
     QString tourFolder;
     bool isVerbose = false;
-    bool isQuiet = false; // no window with the outcome
+    bool isQuiet = false;      // no window with the outcome
+    bool isUnattended = false; // the check: without a window, and without a person
 
     bool isJson = false; // devices, network, history
     int count = 0;       // network: how many figures; 0 means no limit

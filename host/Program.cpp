@@ -20,6 +20,7 @@
 #include "host/commands/NetworkCommand.h"
 #include "host/commands/ReportCommand.h"
 #include "host/commands/ServeCommand.h"
+#include "host/commands/UnattendedCommand.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -74,7 +75,8 @@ ExitCode runCommand(const Options& options, const QString& language)
         Console::print(Options::helpText(options.helpFor));
         return ExitCode::AllPassed;
     case Options::Command::Check:
-        return CheckCommand(options).run(language);
+        return options.isUnattended ? UnattendedCommand(options).run(language)
+                                    : CheckCommand(options).run(language);
     case Options::Command::Devices:
         return DevicesCommand::run(options);
     case Options::Command::Network:
@@ -89,8 +91,13 @@ ExitCode runCommand(const Options& options, const QString& language)
     return ExitCode::WrongUsage;
 }
 
-// Reads the options before the application object is made, which depends on them. For a check, also
-// sets the line for a display that can't be opened: the texts aren't there later.
+bool hasWindows(const Options& options)
+{
+    return options.command == Options::Command::Check && !options.isUnattended;
+}
+
+// Reads the options before the application object is made, which depends on them. For the dialog,
+// also sets the line for a display that can't be opened: the texts aren't there later.
 ExitCode readOptions(const QStringList& arguments, char* argv[], Options& options,
                      QString& displayProblem)
 {
@@ -107,7 +114,7 @@ ExitCode readOptions(const QStringList& arguments, char* argv[], Options& option
         Console::printError(problem);
         return ExitCode::WrongUsage;
     }
-    if (options.command == Options::Command::Check) {
+    if (hasWindows(options)) {
         displayProblem = DisplayOpening::problem();
         if (!DisplayOpening::hasDisplay()) {
             Console::printError(displayProblem);
@@ -159,7 +166,7 @@ ExitCode Program::run(int argc, char* argv[])
     // Qt has its own --platform option, so it sees only the name of the program.
     int shownCount = 1;
     ScreenFit::takeFactorsAsTheyAre();
-    const bool isCheck = options.command == Options::Command::Check;
+    const bool isCheck = hasWindows(options);
     const DisplayLoss displayLoss(options.isVerbose);
     auto opening = isCheck ? std::make_unique<DisplayOpening>(displayProblem) : nullptr;
     const std::unique_ptr<QCoreApplication> application =

@@ -30,6 +30,9 @@ public:
     // Whether a window with the outcome is opened after a run that ended so.
     static bool opensWindow(const Options& options, const RunOutcome& outcome);
 
+    // Writes into a file, or to standard output. Returns one line if it can't be written.
+    static QString writeTo(const QString& place, const QByteArray& content);
+
 private:
     bool isTour() const { return !m_options.tourFolder.isEmpty(); }
     bool prepareFiles();
@@ -37,7 +40,6 @@ private:
     bool prepareRedaction();
     ExitCode open(const QString& language);
     void print(const QString& text) const;
-    static QString writeTo(const QString& place, const QByteArray& content);
     bool write(const Report& report) const;
     void remember(const Report& report, bool isWritten) const;
     bool writeResults(const QJsonObject& results) const;

@@ -24,5 +24,5 @@ ExitCode DevicesCommand::run(const Options& options)
     }
     Console::print(options.isJson ? Console::plainJson(QJsonDocument(survey.toJson()))
                                   : survey.toText());
-    return ExitCode::AllPassed;
+    return survey.isServerMissing() ? ExitCode::Unavailable : ExitCode::AllPassed;
 }

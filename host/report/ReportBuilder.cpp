@@ -238,14 +238,8 @@ void addGrade(Report& report, const QJsonObject& figures)
     }
 }
 
-} // namespace
-
-Report ReportBuilder::build(const Run& run, const QJsonObject& document, const RunOutcome& outcome,
-                            const Platform::SystemFacts& facts)
+Report emptyReport(const ReportBuilder::Run& run, const Platform::SystemFacts& facts)
 {
-    const QJsonObject results = document.value(ResultKeys::Results).toObject();
-    const QJsonObject measurements = document.value(ResultKeys::Measurements).toObject();
-    const QJsonObject later = document.value(ResultKeys::Later).toObject();
     Report report;
     report.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     report.programVersion = QCoreApplication::applicationVersion();
@@ -254,11 +248,23 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
     report.language = run.language;
     report.platform = run.platform;
     report.scenario = run.scenario;
-    report.outcome = endOf(outcome.exitCode);
     addFacts(report, facts);
     if (run.platform == Options::Platform::Devices) {
         addFact(report, "computer", QSysInfo::machineHostName());
     }
+    return report;
+}
+
+} // namespace
+
+Report ReportBuilder::build(const Run& run, const QJsonObject& document, const RunOutcome& outcome,
+                            const Platform::SystemFacts& facts)
+{
+    const QJsonObject results = document.value(ResultKeys::Results).toObject();
+    const QJsonObject measurements = document.value(ResultKeys::Measurements).toObject();
+    const QJsonObject later = document.value(ResultKeys::Later).toObject();
+    Report report = emptyReport(run, facts);
+    report.outcome = endOf(outcome.exitCode);
     for (const CheckOutcome& check : outcome.checks) {
         const QString key = ReportWords::of(check.check);
         report.checks.push_back(checkOf(check, results.value(key).toObject(),
@@ -267,4 +273,25 @@ Report ReportBuilder::build(const Run& run, const QJsonObject& document, const R
     }
     addGrade(report, measurements.value(ReportWords::of(CheckKind::Network)).toObject());
     return report;
+}
+
+Report ReportBuilder::build(const Run& run, RunEnd outcome, const std::vector<ReportCheck>& checks,
+                            const QJsonObject& networkFigures, const Platform::SystemFacts& facts)
+{
+    Report report = emptyReport(run, facts);
+    report.outcome = outcome;
+    report.checks = checks;
+    addGrade(report, networkFigures);
+    return report;
+}
+
+std::vector<Measurement> ReportBuilder::measuredOf(CheckKind check, const QJsonObject& figures)
+{
+    std::vector<Measurement> result;
+    for (const Measurement& measurement : measurementsOf(check, figures, true)) {
+        if (measurement.reason != ReportWords::of(Reason::NotRecorded)) {
+            result.push_back(measurement);
+        }
+    }
+    return result;
 }

@@ -25,4 +25,10 @@ struct Run
 Report build(const Run& run, const QJsonObject& document, const RunOutcome& outcome,
              const Platform::SystemFacts& facts);
 
+// Of a run without a person: with one check for each device.
+Report build(const Run& run, RunEnd outcome, const std::vector<ReportCheck>& checks,
+             const QJsonObject& networkFigures, const Platform::SystemFacts& facts);
+// The figures that there are, and those that failed.
+std::vector<Measurement> measuredOf(CheckKind check, const QJsonObject& figures);
+
 } // namespace ReportBuilder

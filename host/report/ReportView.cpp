@@ -62,9 +62,9 @@ private:
     template <typename Value> // Verdict or RunEnd
     static Mark mark(Value value)
     {
-        return value == Value::Passed   ? Mark::Good
-               : value == Value::Failed ? Mark::Bad
-                                        : Mark::Notice;
+        return value == Value::Passed || value == Value::Works    ? Mark::Good
+               : value == Value::Failed || value == Value::Faulty ? Mark::Bad
+                                                                  : Mark::Notice;
     }
 
     static Mark mark(NetworkGrade::Level level)
@@ -170,7 +170,8 @@ private:
         addSection(m_texts.of(check.kind));
         add("ID_Host_Report_Result", m_texts.of(check.verdict), mark(check.verdict));
         const bool isNetwork = check.kind == CheckKind::Network;
-        if (!isNetwork) {
+        const bool wasAsked = !isNetwork && isAttended(check.verdict);
+        if (wasAsked) {
             add("ID_Host_Report_Answer", m_texts.of(check.answer));
         }
         if (!check.device.isEmpty()) {
@@ -184,7 +185,7 @@ private:
         }
         addMeasurements(check);
         // All that the check knows about a speaker is whether the sound was recognised.
-        if (check.kind == CheckKind::Speaker) {
+        if (check.kind == CheckKind::Speaker && wasAsked) {
             add("ID_Host_Report_RightSound", m_texts.of(check.deviceState));
         }
         addLater(check);

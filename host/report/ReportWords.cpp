@@ -28,6 +28,10 @@ const std::vector<Word<RunEnd>>& table()
         {RunEnd::Failed, "failed", "ID_Host_Outcome_Failed"},
         {RunEnd::LeftEarly, "leftEarly", "ID_Host_Outcome_LeftEarly"},
         {RunEnd::PutOut, "putOut", "ID_Host_Outcome_PutOut"},
+        {RunEnd::Works, "works", "ID_Host_Outcome_Works"},
+        {RunEnd::Faulty, "faulty", "ID_Host_Outcome_Faulty"},
+        {RunEnd::Unavailable, "unavailable", "ID_Host_Outcome_Unavailable"},
+        {RunEnd::BrokenOff, "brokenOff", "ID_Host_Outcome_BrokenOff"},
     };
     return words;
 }
@@ -39,6 +43,9 @@ const std::vector<Word<Verdict>>& table()
         {Verdict::Passed, "passed", "ID_CheckResultPage_Normal"},
         {Verdict::Failed, "failed", "ID_CheckResultPage_Abnormal"},
         {Verdict::NotTested, "notTested", "ID_CameraPage_NotDetected"},
+        {Verdict::Works, "works", "ID_Host_Verdict_Works"},
+        {Verdict::Faulty, "faulty", "ID_Host_Verdict_Faulty"},
+        {Verdict::Unmeasured, "unmeasured", "ID_Host_Verdict_Unmeasured"},
     };
     return words;
 }
@@ -96,6 +103,7 @@ const std::vector<Word<FigureName>>& table()
         {FigureName::BlackShare, "blackShare", "ID_Host_Figure_Black"},
         {FigureName::FrozenShare, "frozenShare", "ID_Host_Figure_Frozen"},
         {FigureName::Brightness, "brightness", "ID_Host_Figure_Brightness"},
+        {FigureName::Program, "program", "ID_Host_Figure_Program"},
         {FigureName::VolumeBefore, "volumeBefore", "ID_Host_Figure_VolumeBefore"},
         {FigureName::VolumeAfter, "volumeAfter", "ID_Host_Figure_VolumeAfter"},
         {FigureName::MutedBefore, "mutedBefore", "ID_Host_Figure_MutedBefore"},
@@ -173,6 +181,8 @@ const std::vector<Word<Cause>>& table()
         {Cause::NotSeen, "notSeen", "ID_Host_Remedy_NotSeen"},
         {Cause::NotHeard, "notHeard", "ID_Host_Remedy_NotHeard"},
         {Cause::SelfNotHeard, "selfNotHeard", "ID_Host_Remedy_SelfNotHeard"},
+        {Cause::Clipping, "clipping", "ID_Host_Remedy_Clipping"},
+        {Cause::Hum, "hum", "ID_Host_Remedy_Hum"},
     };
     return words;
 }

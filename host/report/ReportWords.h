@@ -12,8 +12,10 @@
 #include <vector>
 
 enum class CheckKind { Network, Camera, Speaker, Microphone };
-enum class RunEnd { Passed, Failed, LeftEarly, PutOut };
-enum class Verdict { Passed, Failed, NotTested };
+// The last four are of a run without a person.
+enum class RunEnd { Passed, Failed, LeftEarly, PutOut, Works, Faulty, Unavailable, BrokenOff };
+// The last three are of a run without a person: nobody said that it passed.
+enum class Verdict { Passed, Failed, NotTested, Works, Faulty, Unmeasured };
 enum class Answer { Yes, No, None };
 enum class SeenState { Works, Fails, Unknown };
 enum class FigureStatus { Measured, NotMeasured, Failed };
@@ -34,6 +36,7 @@ enum class FigureName {
     BlackShare,
     FrozenShare,
     Brightness,
+    Program,
     VolumeBefore,
     VolumeAfter,
     MutedBefore,
@@ -103,7 +106,26 @@ enum class Cause {
     NotSeen, // the answer was no, although the device seemed to work
     NotHeard,
     SelfNotHeard,
+    Clipping,
+    Hum,
 };
+
+constexpr bool isGood(Verdict verdict)
+{
+    return verdict == Verdict::Passed || verdict == Verdict::Works;
+}
+
+constexpr bool isBad(Verdict verdict)
+{
+    return verdict == Verdict::Failed || verdict == Verdict::Faulty;
+}
+
+// Whether a person answered.
+constexpr bool isAttended(Verdict verdict)
+{
+    return verdict == Verdict::Passed || verdict == Verdict::Failed ||
+           verdict == Verdict::NotTested;
+}
 
 // Answers and measurements that can't both be true.
 enum class Contradiction {

@@ -14,40 +14,27 @@ using HtmlPage::escaped;
 // The colour alone tells nothing to those who don't see it, or print in grey.
 QString signOf(Verdict verdict)
 {
-    switch (verdict) {
-    case Verdict::Passed:
-        return QStringLiteral("\u2713");
-    case Verdict::Failed:
-        return QStringLiteral("\u2717");
-    case Verdict::NotTested:
-        break;
-    }
-    return QStringLiteral("?");
+    return isGood(verdict)  ? QStringLiteral("\u2713")
+           : isBad(verdict) ? QStringLiteral("\u2717")
+                            : QStringLiteral("?");
 }
 
 QString classOf(Verdict verdict)
 {
-    switch (verdict) {
-    case Verdict::Passed:
-        return QStringLiteral("good");
-    case Verdict::Failed:
-        return QStringLiteral("bad");
-    case Verdict::NotTested:
-        break;
-    }
-    return QStringLiteral("notice");
+    return isGood(verdict)  ? QStringLiteral("good")
+           : isBad(verdict) ? QStringLiteral("bad")
+                            : QStringLiteral("notice");
 }
 
 // One failed check makes the whole computer fail.
 Verdict verdictOf(const RoomRow& row)
 {
-    const auto has = [&row](Verdict verdict) {
-        return std::any_of(row.checks.begin(), row.checks.end(),
-                           [verdict](const RoomRow::Check& c) { return c.verdict == verdict; });
-    };
-    return has(Verdict::Failed)      ? Verdict::Failed
-           : has(Verdict::NotTested) ? Verdict::NotTested
-                                     : Verdict::Passed;
+    const auto& checks = row.checks;
+    const bool isAnyBad = std::any_of(checks.begin(), checks.end(),
+                                      [](const RoomRow::Check& c) { return isBad(c.verdict); });
+    const bool areAllGood = std::all_of(checks.begin(), checks.end(),
+                                        [](const RoomRow::Check& c) { return isGood(c.verdict); });
+    return isAnyBad ? Verdict::Failed : areAllGood ? Verdict::Passed : Verdict::NotTested;
 }
 
 } // namespace
@@ -77,7 +64,7 @@ QString RoomMap::tileOf(const RoomRow& row, Verdict verdict) const
     stream << "<li class=\"" << classOf(verdict) << "\"><details><summary>" << signOf(verdict)
            << " <bdi>" << escaped(row.computer) << "</bdi>";
     for (const RoomRow::Check& check : row.checks) {
-        if (check.verdict == Verdict::Failed) {
+        if (isBad(check.verdict)) {
             stream << "<br>" << escaped(m_texts.of(check.kind));
         }
     }

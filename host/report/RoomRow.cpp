@@ -4,6 +4,7 @@
 
 #include "host/Console.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -27,12 +28,18 @@ QJsonValue jsonOf(std::optional<double> number)
     return number ? QJsonValue(*number) : QJsonValue();
 }
 
+// Of several devices the first that doesn't work.
 RoomRow::Check checkOf(const Report& report, CheckKind kind)
 {
     const ReportCheck* check = report.check(kind);
     if (!check) {
         return {kind, Verdict::NotTested, {}, {}};
     }
+    const auto bad =
+        std::find_if(report.checks.begin(), report.checks.end(), [kind](const ReportCheck& other) {
+            return other.kind == kind && isBad(other.verdict);
+        });
+    check = bad == report.checks.end() ? check : &*bad;
     return {kind, check->verdict, Console::plainLine(check->device), check->causes};
 }
 
@@ -90,9 +97,7 @@ int RoomRow::badness() const
     int sum = grade ? static_cast<int>(*grade) : 0;
     sum += Contradiction * std::min(contradictions, MostContradictions);
     for (const Check& check : checks) {
-        sum += check.verdict == Verdict::Failed      ? Failed
-               : check.verdict == Verdict::NotTested ? NotTested
-                                                     : 0;
+        sum += isBad(check.verdict) ? Failed : isGood(check.verdict) ? 0 : NotTested;
     }
     return sum;
 }

@@ -5,6 +5,8 @@
 #include "host/TextTable.h"
 #include "host/report/Figures.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LongestDevice = 24;
@@ -78,15 +80,26 @@ void RoomTable::add(const Report& report, const QString& name)
 QString RoomTable::totals() const
 {
     TextTable table;
-    QStringList verdicts = {QString()};
+    // Those of runs without a person only if there are such runs.
+    std::vector<Verdict> shown;
     for (const auto& verdict : ReportWords::table<Verdict>()) {
-        verdicts << m_texts.of(verdict.value);
+        const bool isThere =
+            std::any_of(m_counts.begin(), m_counts.end(), [&verdict](const auto& count) {
+                return count.first.second == verdict.value;
+            });
+        if (isAttended(verdict.value) || isThere) {
+            shown.push_back(verdict.value);
+        }
+    }
+    QStringList verdicts = {QString()};
+    for (const Verdict verdict : shown) {
+        verdicts << m_texts.of(verdict);
     }
     table.addRow(verdicts);
     for (const auto& check : ReportWords::table<CheckKind>()) {
         QStringList cells = {m_texts.of(check.value)};
-        for (const auto& verdict : ReportWords::table<Verdict>()) {
-            const auto found = m_counts.find({check.value, verdict.value});
+        for (const Verdict verdict : shown) {
+            const auto found = m_counts.find({check.value, verdict});
             cells << QString::number(found == m_counts.end() ? 0 : found->second);
         }
         table.addRow(cells);

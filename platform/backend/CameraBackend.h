@@ -4,6 +4,7 @@
 
 #include "platform/backend/CameraCause.h"
 #include "platform/backend/DeviceInfo.h"
+#include "platform/backend/SoundServerState.h"
 
 #include <QImage>
 #include <QSize>
@@ -45,6 +46,9 @@ public:
     virtual bool delivers() const = 0;
     // Why the started camera shows no picture; none while it is stopped.
     virtual CameraCause cause() const = 0;
+    // Whether the service answers that the list comes from, also while no camera is
+    // started. Running unless a back end knows better.
+    virtual SoundServerState serverState() const { return SoundServerState::Running; }
 
     virtual void start() = 0;
     virtual void stop() = 0;                             // no frame comes after this call

@@ -11,6 +11,11 @@ SoundServerState Engine::soundServerState() const
     return SoundServerState::Running;
 }
 
+bool Engine::hasOwnChoices() const
+{
+    return false;
+}
+
 void Engine::deliver(std::chrono::milliseconds /*limit*/)
 {
 }

@@ -42,6 +42,11 @@ public:
     // The folder of the settings stores. It may not exist yet.
     virtual QString settingsFolder() const = 0;
 
+    // Whether each session of cameras and microphones chooses its device for itself, so that
+    // several devices can be used side by side. Otherwise the engine has one choice for all
+    // sessions.
+    virtual bool hasOwnChoices() const;
+
     // The program ends: waits until what is on its way to a server has arrived or failed, at most
     // for the limit. Does nothing unless an engine has something to deliver.
     virtual void deliver(std::chrono::milliseconds limit);

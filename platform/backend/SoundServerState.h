@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-// Whether the service that microphones and speakers belong to answers.
+// Whether the service that microphones and speakers belong to answers, or that of the cameras.
 enum class SoundServerState {
     Starting, // it was asked just now
     Running,

@@ -41,6 +41,7 @@ public:
     SystemFacts& systemFacts() override;
     ReportSink& reportSink() override;
     QString settingsFolder() const override;
+    bool hasOwnChoices() const override { return true; }
     void deliver(std::chrono::milliseconds limit) override;
 
     QJsonObject results() const; // of the run so far, see ResultDocument

@@ -53,18 +53,42 @@ Scenario::Action readCamera(JsonFields& fields)
     return [id, feed](ScriptedEngine& engine) { engine.cameras().setFeed(id, feed); };
 }
 
+QJsonObject readSound(JsonFields& fields)
+{
+    constexpr int QuietestDb = -200;
+    const std::pair<const char*, const char*> shares[] = {{"clippedPercent", "clippedShare"},
+                                                          {"humPercent", "humShare"}};
+    QJsonObject figures;
+    JsonFields sound = fields.object("sound");
+    for (const char* key : {"peakDb", "noiseFloorDb"}) {
+        if (sound.contains(key)) {
+            figures.insert(QLatin1String(key), integer(sound, key, QuietestDb, 0, 0));
+        }
+    }
+    for (const auto& [key, figure] : shares) {
+        if (sound.contains(key)) {
+            figures.insert(QLatin1String(figure),
+                           integer(sound, key, 0, MaxPercent, 0) / double(MaxPercent));
+        }
+    }
+    sound.rejectOthers();
+    return figures;
+}
+
 Scenario::Action readMicrophone(JsonFields& fields)
 {
     const auto levels = readLevels(fields);
     const bool isAdjustable = fields.flag("adjustable", true);
     const int volume = integer(fields, "volume", 0, ScriptedMicrophones::MaxVolume, MaxPercent);
     const bool isMuted = fields.flag("muted", false);
+    const QJsonObject sound = readSound(fields);
     const QString id = fields.text("id", MaxIdLength);
-    return [id, levels, isAdjustable, volume, isMuted](ScriptedEngine& engine) {
+    return [id, levels, isAdjustable, volume, isMuted, sound](ScriptedEngine& engine) {
         engine.microphones().setLevelCurve(id, levels);
         engine.microphones().setAdjustable(id, isAdjustable);
         engine.microphones().setVolume(id, volume);
         engine.microphones().setMuted(id, isMuted);
+        engine.microphones().setSound(id, sound);
     };
 }
 

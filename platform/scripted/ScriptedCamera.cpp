@@ -70,6 +70,11 @@ CameraCause ScriptedCamera::cause() const
     return currentCause();
 }
 
+SoundServerState ScriptedCamera::serverState() const
+{
+    return m_devices.isServerLost() ? SoundServerState::Lost : SoundServerState::Running;
+}
+
 void ScriptedCamera::start()
 {
     m_session.call("start");

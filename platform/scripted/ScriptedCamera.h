@@ -26,6 +26,7 @@ public:
     DeviceList devices() const override;
     bool delivers() const override;
     CameraCause cause() const override;
+    SoundServerState serverState() const override;
 
     void start() override;
     void stop() override;

@@ -200,6 +200,10 @@ void ScriptedMicrophone::addSound(QJsonObject& figures) const
     for (const char* key : {"clippedShare", "humShare", "humHz", "bandwidthHz"}) {
         figures.insert(QLatin1String(key), notMeasured());
     }
+    const QJsonObject sound = m_devices.sound();
+    for (auto it = sound.begin(); it != sound.end(); ++it) {
+        figures.insert(it.key(), it.value());
+    }
 }
 
 void ScriptedMicrophone::recordMeasurement()

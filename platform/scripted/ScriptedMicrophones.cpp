@@ -105,6 +105,16 @@ int ScriptedMicrophones::audibleVolumeOf(const QString& id) const
     return input.isMuted ? 0 : input.volume;
 }
 
+QJsonObject ScriptedMicrophones::sound() const
+{
+    return current().sound;
+}
+
+void ScriptedMicrophones::setSound(const QString& id, const QJsonObject& figures)
+{
+    m_inputs[id].sound = figures;
+}
+
 bool ScriptedMicrophones::isMuted() const
 {
     return current().isMuted;

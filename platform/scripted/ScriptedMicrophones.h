@@ -4,6 +4,7 @@
 
 #include "platform/scripted/ScriptedDevices.h"
 
+#include <QJsonObject>
 #include <QMap>
 
 namespace Platform {
@@ -35,6 +36,8 @@ public:
     void setAdjustable(const QString& id, bool isAdjustable);
     void setVolume(const QString& id, int percent);
     void setMuted(const QString& id, bool isMuted); // a muted one hears nothing
+    // What was measured of its sound, such as "humShare", in place of what follows from the levels.
+    void setSound(const QString& id, const QJsonObject& figures);
 
     // Acts as if the current microphone had measured this level, which may be any number.
     void emitLevel(double level);
@@ -47,6 +50,7 @@ public:
     int volume() const;
     int audibleVolumeOf(const QString& id) const; // 0 while it is muted
     bool isMuted() const;
+    QJsonObject sound() const;
     void setVolumeByUser(int percent); // also unmutes
 
 Q_SIGNALS:
@@ -62,6 +66,7 @@ private:
         bool isAdjustable = true;
         int volume = 100;
         bool isMuted = false;
+        QJsonObject sound;
     };
 
     Input current() const { return m_inputs.value(currentId()); }

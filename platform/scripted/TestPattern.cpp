@@ -3,6 +3,7 @@
 #include "platform/scripted/TestPattern.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -51,6 +52,9 @@ QImage TestPattern::picture(const QSize& size, const QString& name, int frame)
     const int barLeft = (area.width() - barWidth) * (frame % BarSteps) / BarSteps;
     painter.fillRect(barLeft, 0, barWidth, area.height(), QColor(255, 255, 255, 110));
 
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        return picture; // there are no fonts
+    }
     QFont font = painter.font();
     font.setPixelSize(std::max(1, area.height() / FontShare));
     font.setBold(true);

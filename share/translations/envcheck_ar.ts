@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1: تتعذر قراءته كملف إعدادات؛ ضع هناك ملفًا نصيًا فيه أسطر مثل server=HOST أو احذفه</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>خدمة الكاميرا لا تعمل</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>خدمة الكاميرا لا تستجيب</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>الكاميرات</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>عدد الصور</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>البرنامج المستخدم لها</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>معدل الصور</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>يعرض الكاميرات والميكروفونات والسماعات وحالاتها.</translation>
+        <translation>يسرد الكاميرات والميكروفونات ومكبرات الصوت مع حالاتها. رمز الخروج 0: القوائم كاملة حتى إن لم يُعثر على شيء؛ 69: خدمة الكاميرا أو الصوت لا تعمل أو لا تستجيب.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>المرور بكل الخطوات تلقائيًا وحفظ صورة لكل منها في FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>يقيس دون نافذة ودون شخص؛ ‎--json ملف‎ (و- للإخراج القياسي) يكتب التقرير. رموز الخروج: 0 يعمل، 1 يحتاج إلى إصلاح، 69 خدمة أو خادم غير موجود.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>كتابة السجل في الطرفية أيضًا.</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>عرض الإصدار.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>دون شخص: انتهى قبل قياس كل شيء</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>اكتمل مع مشكلات</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>دون شخص: هناك ما يحتاج إلى إصلاح</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>أنهى الصف الجلسة</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>دون شخص: إحدى الخدمات غير موجودة، لذلك لم يُقَس كل شيء</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>دون شخص: كل ما قيس يعمل</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>حُذفت العناوين والأسماء والحسابات.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>صوت الميكروفون مرتفع جدًا ومشوَّه، فاخفض مستوى صوته.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>في الميكروفون طنين، فجرّب مقبسًا أو كابلًا آخر وأبعده عن مزوّدات الطاقة.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>أمر غير معروف «%1»: انظر --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>يحتاج إلى إصلاح</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>لم يُقَس</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>يعمل</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>%1: als Konfigurationsdatei nicht lesbar; legen Sie dort eine Textdatei mit Zeilen wie server=HOST ab oder entfernen Sie sie</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Der Kameradienst läuft nicht</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Der Kameradienst antwortet nicht</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Kameras</translation>
@@ -662,6 +670,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Bilder</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Benutzt von</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Bildrate</translation>
@@ -808,7 +820,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Listet Kameras, Mikrofone und Lautsprecher mit ihrem Zustand auf.</translation>
+        <translation>Listet Kameras, Mikrofone und Lautsprecher mit ihrem Zustand auf. Exit-Code 0: Die Listen sind vollständig, auch wenn nichts gefunden wurde; 69: Der Kamera- oder Tondienst läuft nicht oder antwortet nicht.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Geht automatisch durch alle Schritte und speichert von jedem ein Bild in FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Misst ohne Fenster und ohne Person; --json DATEI (- für die Standardausgabe) schreibt den Bericht. Exit-Codes: 0 funktioniert, 1 zu beheben, 69 ein Dienst oder Server fehlt.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Schreibt auch das Protokoll ins Terminal.</translation>
@@ -998,9 +1014,17 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Zeigt die Version.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Unbeaufsichtigt: beendet, bevor alles gemessen war</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Mit Problemen beendet</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Unbeaufsichtigt: Etwas ist zu beheben</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>Die Sitzung wurde vom Klassenzimmer beendet</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Unbeaufsichtigt: Ein Dienst fehlt, deshalb konnte nicht alles gemessen werden</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Unbeaufsichtigt: Alles Gemessene funktioniert</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Adressen, Namen und Konten sind weggelassen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>Das Mikrofon ist zu laut und verzerrt: Stellen Sie es leiser.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>Das Mikrofon brummt: Versuchen Sie einen anderen Anschluss oder ein anderes Kabel, und halten Sie es von Netzteilen fern.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>unbekannter Befehl „%1“: siehe --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Zu beheben</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Nicht gemessen</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Funktioniert</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>%1: it can't be read as a configuration file; put a text file with lines such as server=HOST there, or remove it</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>The camera service is not running</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>The camera service does not answer</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Cameras</translation>
@@ -662,6 +670,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Pictures</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Used by</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Picture rate</translation>
@@ -808,7 +820,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Lists the cameras, microphones and speakers with their states.</translation>
+        <translation>Lists the cameras, microphones and speakers with their states. Exit code 0: the lists are complete, also if nothing was found; 69: the camera or sound service is not running or does not answer.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Go through every step automatically and save a picture of each in FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Measure without a window and without a person; --json FILE (- for standard output) writes the report. Exit codes: 0 works, 1 needs fixing, 69 a service or server is missing.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Also write the log to the terminal.</translation>
@@ -998,9 +1014,17 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Show the version.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Unattended: ended before everything was measured</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Finished with problems</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Unattended: something needs fixing</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>The session was ended by the classroom</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Unattended: a service is missing, so not everything could be measured</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Unattended: everything that was measured works</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Addresses, names and accounts are left out.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>The microphone is too loud and distorts, so lower its volume.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>The microphone hums, so try another socket or cable, and keep it away from power supplies.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>unknown command '%1': see --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Needs fixing</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Not measured</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Works</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

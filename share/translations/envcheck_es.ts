@@ -498,6 +498,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>%1: no se puede leer como archivo de configuración; ponga ahí un archivo de texto con líneas como server=HOST o elimínelo</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>El servicio de cámara no está en marcha</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>El servicio de cámara no responde</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Cámaras</translation>
@@ -662,6 +670,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Imágenes</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>En uso por</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Imágenes por segundo</translation>
@@ -808,7 +820,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Muestra las cámaras, los micrófonos y los altavoces con su estado.</translation>
+        <translation>Muestra las cámaras, los micrófonos y los altavoces con su estado. Código de salida 0: las listas están completas, aunque no se haya encontrado nada; 69: el servicio de cámara o de sonido no está en marcha o no responde.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Recorre todos los pasos automáticamente y guarda una imagen de cada uno en FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Mide sin ventana y sin una persona; --json ARCHIVO (- para la salida estándar) escribe el informe. Códigos de salida: 0 funciona, 1 hay que arreglar algo, 69 falta un servicio o servidor.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Escribe también el registro en el terminal.</translation>
@@ -998,9 +1014,17 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Muestra la versión.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Sin supervisión: terminó antes de medirlo todo</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Terminada con problemas</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Sin supervisión: hay algo que arreglar</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>El aula cerró la sesión</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Sin supervisión: falta un servicio, por lo que no se pudo medir todo</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Sin supervisión: todo lo medido funciona</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Se omiten direcciones, nombres y cuentas.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>El micrófono está demasiado alto y distorsiona: baje su volumen.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>El micrófono zumba: pruebe otra toma u otro cable y aléjelo de las fuentes de alimentación.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>comando desconocido «%1»: vea --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Hay que arreglarlo</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>No medido</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Funciona</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

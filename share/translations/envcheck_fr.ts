@@ -498,6 +498,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>%1 : illisible comme fichier de configuration ; mettez-y un fichier texte avec des lignes comme server=HOST, ou supprimez-le</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Le service de caméra est arrêté</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Le service de caméra ne répond pas</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Caméras</translation>
@@ -662,6 +670,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Images</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Utilisée par</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Images par seconde</translation>
@@ -808,7 +820,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Affiche les caméras, les micros et les haut-parleurs avec leur état.</translation>
+        <translation>Affiche les caméras, les micros et les haut-parleurs avec leur état. Code de sortie 0 : les listes sont complètes, même si rien n'a été trouvé ; 69 : le service de caméra ou de son est arrêté ou ne répond pas.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Parcourt toutes les étapes automatiquement et enregistre une image de chacune dans FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Mesure sans fenêtre et sans personne ; --json FICHIER (- pour la sortie standard) écrit le rapport. Codes de sortie : 0 fonctionne, 1 à corriger, 69 un service ou un serveur manque.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Écrit aussi le journal dans le terminal.</translation>
@@ -998,9 +1014,17 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Affiche la version.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Sans surveillance : arrêté avant que tout soit mesuré</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Terminé avec des problèmes</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Sans surveillance : quelque chose est à corriger</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>La session a été fermée par la classe</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Sans surveillance : un service manque, tout n'a donc pas pu être mesuré</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Sans surveillance : tout ce qui a été mesuré fonctionne</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Adresses, noms et comptes sont omis.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>Le micro est trop fort et sature : baissez son volume.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>Le micro ronfle : essayez une autre prise ou un autre câble et éloignez-le des alimentations.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>commande inconnue « %1 » : voir --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>À corriger</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Non mesuré</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Fonctionne</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1：設定ファイルとして読み込めません。server=HOST のような行を含むテキストファイルを置くか、削除してください</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>カメラサービスが動いていません</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>カメラサービスが応答しません</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>カメラ</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>映像のフレーム数</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>使用中のプログラム</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>フレームレート</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>カメラ、マイク、スピーカーとその状態を一覧表示します。</translation>
+        <translation>カメラ、マイク、スピーカーとその状態を一覧表示します。終了コード 0：一覧は完全です（何も見つからない場合を含む）。69：カメラサービスまたは音声サービスが動いていないか、応答しません。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>すべての手順を自動で進め、それぞれの画像を FOLDER に保存します。</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>ウィンドウも操作する人もなしで測定します。--json ファイル（- は標準出力）でレポートを書き込みます。終了コード：0 動作、1 対処が必要、69 サービスまたはサーバーがない。</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>ログをターミナルにも出力します。</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>バージョンを表示します。</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>無人実行：すべてを測定する前に終了しました</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>問題ありで完了</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>無人実行：対処が必要な項目があります</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>教室側がセッションを終了</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>無人実行：サービスが足りないため、すべては測定できませんでした</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>無人実行：測定したものはすべて動作しています</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>アドレス、名前、アカウントは省かれています。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>マイクの音量が大きすぎて音が割れています。マイクの音量を下げてください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>マイクにハム音（ブーンという雑音）が入っています。別の端子やケーブルを試し、電源から離してください。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>不明なコマンド「%1」。--help を参照してください</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>対処が必要</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>未測定</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>動作しています</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1: 설정 파일로 읽을 수 없습니다. server=HOST 같은 줄이 있는 텍스트 파일을 두거나 삭제하세요</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>카메라 서비스가 실행되고 있지 않음</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>카메라 서비스가 응답하지 않음</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>카메라</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>영상 프레임 수</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>사용 중인 프로그램</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>영상 프레임 속도</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>카메라, 마이크, 스피커와 그 상태를 나열합니다.</translation>
+        <translation>카메라, 마이크, 스피커와 그 상태를 나열합니다. 종료 코드 0: 목록이 완전함(아무것도 찾지 못한 경우 포함), 69: 카메라 또는 소리 서비스가 실행되고 있지 않거나 응답하지 않음.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>모든 단계를 자동으로 진행하며 각 단계의 스크린샷을 FOLDER에 저장합니다.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>창과 사람 없이 측정합니다. --json 파일(-은 표준 출력)로 보고서를 씁니다. 종료 코드: 0 작동함, 1 조치 필요, 69 서비스 또는 서버가 없음.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>로그를 터미널에도 씁니다.</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>버전을 표시합니다.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>무인 실행: 모두 측정하기 전에 종료됨</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>문제가 있는 상태로 완료</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>무인 실행: 조치가 필요한 항목이 있음</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>교실에서 세션을 종료함</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>무인 실행: 서비스가 없어 모든 항목을 측정하지 못함</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>무인 실행: 측정한 항목이 모두 작동함</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>주소, 이름, 계정은 제외되었습니다.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>마이크 소리가 너무 커서 찢어지니 마이크 음량을 낮추세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>마이크에서 웅 하는 소리가 나니 다른 단자나 케이블을 사용해 보고 전원 장치에서 멀리 두세요.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>알 수 없는 명령 ‘%1’. --help를 참고하세요</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>조치 필요</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>측정 안 됨</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>작동함</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>%1: não pode ser lido como arquivo de configuração; coloque ali um arquivo de texto com linhas como server=HOST ou remova-o</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>O serviço de câmera não está em execução</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>O serviço de câmera não responde</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Câmeras</translation>
@@ -662,6 +670,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Imagens</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Em uso por</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Imagens por segundo</translation>
@@ -808,7 +820,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Lista as câmeras, os microfones e os alto-falantes com seu estado.</translation>
+        <translation>Mostra as câmeras, os microfones e os alto-falantes com o estado de cada um. Código de saída 0: as listas estão completas, mesmo que nada tenha sido encontrado; 69: o serviço de câmera ou de som não está em execução ou não responde.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Percorre todas as etapas automaticamente e salva uma imagem de cada uma em FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Mede sem janela e sem uma pessoa; --json ARQUIVO (- para a saída padrão) grava o relatório. Códigos de saída: 0 funciona, 1 precisa de correção, 69 falta um serviço ou servidor.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Grava também o log no terminal.</translation>
@@ -998,9 +1014,17 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Mostra a versão.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Sem supervisão: encerrado antes de medir tudo</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Concluída com problemas</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Sem supervisão: algo precisa de correção</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>A sala encerrou a sessão</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Sem supervisão: falta um serviço, por isso nem tudo pôde ser medido</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Sem supervisão: tudo o que foi medido funciona</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Endereços, nomes e contas foram omitidos.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>O microfone está alto demais e distorce: diminua o volume dele.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>O microfone tem zumbido: tente outra entrada ou outro cabo e afaste-o de fontes de alimentação.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>comando desconhecido “%1”: veja --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Precisa de correção</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Não medido</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Funciona</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1: не читается как файл конфигурации; поместите туда текстовый файл со строками вида server=HOST или удалите его</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Служба камер не работает</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Служба камер не отвечает</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Камеры</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>Всего кадров</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Используется программой</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Частота кадров</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Показывает камеры, микрофоны и динамики и их состояние.</translation>
+        <translation>Показывает камеры, микрофоны и динамики с их состоянием. Код выхода 0: списки полные, даже если ничего не найдено; 69: служба камер или звука не работает или не отвечает.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>Автоматически пройти все шаги и сохранить снимок каждого в FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Измеряет без окна и без участия человека; --json ФАЙЛ (- для стандартного вывода) записывает отчёт. Коды выхода: 0 работает, 1 нужно исправить, 69 нет службы или сервера.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Выводить журнал и в терминал.</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>Показать версию.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Без участия человека: прервано до конца измерений</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Завершено с проблемами</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Без участия человека: что-то нужно исправить</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>Сеанс завершён классом</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Без участия человека: нет одной из служб, поэтому измерено не всё</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Без участия человека: всё измеренное работает</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Адреса, имена и учётные записи опущены.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>Микрофон слишком громкий и искажает звук: уменьшите его громкость.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>Микрофон гудит: попробуйте другой разъём или кабель и уберите его подальше от блоков питания.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>неизвестная команда «%1»: см. --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Нужно исправить</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Не измерено</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Работает</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

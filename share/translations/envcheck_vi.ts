@@ -498,6 +498,14 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>%1: không đọc được như một tệp cấu hình; hãy đặt vào đó một tệp văn bản có các dòng như server=HOST, hoặc xóa nó</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>Dịch vụ camera không chạy</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>Dịch vụ camera không phản hồi</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>Camera</translation>
@@ -662,6 +670,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Số hình</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>Đang được dùng bởi</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>Tốc độ hình</translation>
@@ -808,7 +820,7 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>Liệt kê camera, micrô và loa cùng trạng thái.</translation>
+        <translation>Liệt kê camera, micrô và loa cùng trạng thái của chúng. Mã thoát 0: danh sách đầy đủ, kể cả khi không tìm thấy gì; 69: dịch vụ camera hoặc âm thanh không chạy hoặc không phản hồi.</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Tự động đi qua mọi bước và lưu hình của từng bước vào FOLDER.</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>Đo không cần cửa sổ và không cần người; --json TỆP (- là đầu ra chuẩn) ghi báo cáo. Mã thoát: 0 hoạt động, 1 cần khắc phục, 69 thiếu dịch vụ hoặc máy chủ.</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>Ghi cả nhật ký ra cửa sổ dòng lệnh.</translation>
@@ -998,9 +1014,17 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Hiển thị phiên bản.</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>Không có người: kết thúc trước khi đo xong</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>Hoàn tất, có vấn đề</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>Không có người: có thứ cần khắc phục</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>Lớp học đã kết thúc phiên</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>Không có người: thiếu một dịch vụ nên chưa đo được mọi thứ</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>Không có người: mọi thứ đã đo đều hoạt động</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>Địa chỉ, tên và tài khoản đã được bỏ đi.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>Micrô quá to và bị méo tiếng, hãy giảm âm lượng của nó.</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>Micrô bị ù, hãy thử cổng hoặc cáp khác và để nó xa các bộ nguồn.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>không có lệnh “%1”: xem --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>Cần khắc phục</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>Chưa đo</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>Hoạt động</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1：无法作为配置文件读取；请放置一个含有 server=HOST 这类行的文本文件，或将其删除</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>摄像头服务没有运行</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>摄像头服务没有响应</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>摄像头</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>画面数</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>使用它的程序</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>帧率</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>列出摄像头、麦克风和扬声器及其状态。</translation>
+        <translation>列出摄像头、麦克风和扬声器及其状态。退出代码 0：列表完整（即使没有找到设备）；69：摄像头服务或声音服务没有运行或没有响应。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>自动走完所有步骤，并把每一步的画面保存到 FOLDER。</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>不打开窗口、无需有人在场即可测量；--json 文件（- 表示标准输出）写入报告。退出代码：0 正常工作，1 需要处理，69 缺少服务或服务器。</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>同时将日志写到终端。</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>显示版本。</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>无人值守：测量完成前已结束</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>已完成，但有问题</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>无人值守：有项目需要处理</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>课堂结束了会话</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>无人值守：缺少某项服务，因此未能测量全部项目</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>无人值守：测量的各项均正常工作</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>已去除地址、名称和账号。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>麦克风音量过大，声音失真，请调低麦克风音量。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>麦克风有电流嗡声，请换一个插口或线缆，并让它远离电源适配器。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>未知命令“%1”：请参阅 --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>需要处理</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>未测量</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>正常工作</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -498,6 +498,14 @@
         <source></source>
         <translation>%1：無法作為設定檔讀取；請放置一個含有 server=HOST 這類行的文字檔，或將其刪除</translation>
     </message>
+    <message id="ID_Host_Devices_CameraServerLost">
+        <source></source>
+        <translation>攝影機服務沒有執行</translation>
+    </message>
+    <message id="ID_Host_Devices_CameraServerSilent">
+        <source></source>
+        <translation>攝影機服務沒有回應</translation>
+    </message>
     <message id="ID_Host_Devices_Cameras">
         <source></source>
         <translation>攝影機</translation>
@@ -662,6 +670,10 @@
         <source></source>
         <translation>畫面數</translation>
     </message>
+    <message id="ID_Host_Figure_Program">
+        <source></source>
+        <translation>使用它的程式</translation>
+    </message>
     <message id="ID_Host_Figure_Rate">
         <source></source>
         <translation>影格率</translation>
@@ -808,7 +820,7 @@
     </message>
     <message id="ID_Host_Help_Devices">
         <source></source>
-        <translation>列出攝影機、麥克風和喇叭及其狀態。</translation>
+        <translation>列出攝影機、麥克風和喇叭及其狀態。結束代碼 0：清單完整（即使沒有找到裝置）；69：攝影機服務或聲音服務沒有執行或沒有回應。</translation>
     </message>
     <message id="ID_Host_Help_ExitCodes">
         <source></source>
@@ -990,6 +1002,10 @@
         <source></source>
         <translation>自動走完所有步驟，並把每一步的畫面儲存到 FOLDER。</translation>
     </message>
+    <message id="ID_Host_Option_Unattended">
+        <source></source>
+        <translation>不開啟視窗、無需有人在場即可測量；--json 檔案（- 表示標準輸出）寫入報告。結束代碼：0 運作正常，1 需要處理，69 缺少服務或伺服器。</translation>
+    </message>
     <message id="ID_Host_Option_Verbose">
         <source></source>
         <translation>同時將記錄寫到終端機。</translation>
@@ -998,9 +1014,17 @@
         <source></source>
         <translation>顯示版本。</translation>
     </message>
+    <message id="ID_Host_Outcome_BrokenOff">
+        <source></source>
+        <translation>無人值守：測量完成前已結束</translation>
+    </message>
     <message id="ID_Host_Outcome_Failed">
         <source></source>
         <translation>已完成，但有問題</translation>
+    </message>
+    <message id="ID_Host_Outcome_Faulty">
+        <source></source>
+        <translation>無人值守：有項目需要處理</translation>
     </message>
     <message id="ID_Host_Outcome_LeftEarly">
         <source></source>
@@ -1013,6 +1037,14 @@
     <message id="ID_Host_Outcome_PutOut">
         <source></source>
         <translation>課堂端已結束這次連線</translation>
+    </message>
+    <message id="ID_Host_Outcome_Unavailable">
+        <source></source>
+        <translation>無人值守：缺少某項服務，因此未能測量全部項目</translation>
+    </message>
+    <message id="ID_Host_Outcome_Works">
+        <source></source>
+        <translation>無人值守：測量的各項均運作正常</translation>
     </message>
     <message id="ID_Host_OutputNotWritten">
         <source></source>
@@ -1089,6 +1121,14 @@
     <message id="ID_Host_Redacted_Personal">
         <source></source>
         <translation>已移除位址、名稱和帳號。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Clipping">
+        <source></source>
+        <translation>麥克風音量過大，聲音失真，請調低麥克風音量。</translation>
+    </message>
+    <message id="ID_Host_Remedy_Hum">
+        <source></source>
+        <translation>麥克風有電流嗡聲，請換一個插孔或線材，並讓它遠離電源供應器。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1301,6 +1341,18 @@
     <message id="ID_Host_Usage_UnknownCommand">
         <source></source>
         <translation>未知的指令「%1」：請參閱 --help</translation>
+    </message>
+    <message id="ID_Host_Verdict_Faulty">
+        <source></source>
+        <translation>需要處理</translation>
+    </message>
+    <message id="ID_Host_Verdict_Unmeasured">
+        <source></source>
+        <translation>未測量</translation>
+    </message>
+    <message id="ID_Host_Verdict_Works">
+        <source></source>
+        <translation>運作正常</translation>
     </message>
     <message id="ID_Host_Yes">
         <source></source>

@@ -299,7 +299,7 @@ void tst_Options::helpNamesEveryOption_data()
     QTest::addColumn<QString>("options");
     QTest::newRow("check") << Options::Command::Check
                            << "platform scenario language server account nickname cdn results "
-                              "report report-url tour redact quiet verbose help version";
+                              "report report-url tour unattended redact quiet verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network

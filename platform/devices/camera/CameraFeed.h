@@ -13,7 +13,12 @@ namespace Platform {
 class EndingThreads;
 class FrameSlot;
 
-enum class CameraServer { Answers, Denies, Lost };
+enum class CameraServer {
+    Answers,
+    Denies,
+    Lost,
+    Missing, // none answers, and the list comes from the system itself
+};
 
 // What one user of the cameras gets from a system: the list, and the frames of one camera, which go
 // into the slot. Used on the GUI thread; nothing here waits, and the destructor only asks its

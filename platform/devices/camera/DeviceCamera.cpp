@@ -134,6 +134,16 @@ CameraCause DeviceCamera::cause() const
     return {kind, kind == Kind::Busy ? m_program : QString()};
 }
 
+SoundServerState DeviceCamera::serverState() const
+{
+    // The system itself lists cameras, too: then nobody misses the server.
+    const bool isMissed = m_server == CameraServer::Missing && m_devices.empty();
+    if (m_server == CameraServer::Lost || isMissed) {
+        return SoundServerState::Lost;
+    }
+    return m_isListed ? SoundServerState::Running : SoundServerState::Starting;
+}
+
 void DeviceCamera::start()
 {
     if (!m_isStarted) {
@@ -286,8 +296,11 @@ void DeviceCamera::notifyWorkState()
 CameraCause::Kind DeviceCamera::expectedCause() const
 {
     using Kind = CameraCause::Kind;
-    if (m_server != CameraServer::Answers) {
-        return m_server == CameraServer::Denies ? Kind::Denied : Kind::ServerLost;
+    if (m_server == CameraServer::Denies) {
+        return Kind::Denied;
+    }
+    if (m_server == CameraServer::Lost) {
+        return Kind::ServerLost;
     }
     if (!m_isListed) {
         return Kind::Starting;

@@ -35,6 +35,7 @@ public:
     DeviceState stateOf(const QString& id) const override;
     bool delivers() const override;
     CameraCause cause() const override;
+    SoundServerState serverState() const override;
 
     void start() override;
     void stop() override;

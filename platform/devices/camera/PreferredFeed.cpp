@@ -39,7 +39,7 @@ public:
     void frameArrived() override { m_frames->frameArrived(); }
     void serverMissing() override
     {
-        m_sender.post([owner = m_owner] { owner->useSecond(); });
+        m_sender.post([owner = m_owner] { owner->onServerMissing(); });
     }
 
 private:
@@ -109,11 +109,13 @@ void PreferredFeed::onList(bool isFirst, const List& list)
 {
     if (!isFirst) {
         m_secondList = list;
-        tell(list);
+        m_secondList.server = m_isFirstMissing ? CameraServer::Missing : list.server;
+        tell(m_secondList);
         considerFirst();
         return;
     }
     m_firstList = list;
+    m_isFirstMissing = false;
     m_hasFirstListed = m_hasFirstListed || !list.devices.empty();
     if (m_second) {
         considerFirst();
@@ -125,6 +127,12 @@ void PreferredFeed::onList(bool isFirst, const List& list)
     } else if (list.server == CameraServer::Answers && !m_patience.isActive()) {
         m_patience.start();
     }
+}
+
+void PreferredFeed::onServerMissing()
+{
+    m_isFirstMissing = true;
+    useSecond();
 }
 
 void PreferredFeed::patienceEnded()

@@ -50,6 +50,7 @@ private:
     };
 
     void onList(bool isFirst, const List& list);
+    void onServerMissing();
     void onState(bool isFirst, const State& state);
     void patienceEnded();
     void useSecond();
@@ -72,6 +73,7 @@ private:
     List m_firstList;
     List m_secondList;
     bool m_hasFirstListed = false; // any camera
+    bool m_isFirstMissing = false; // its server doesn't answer
     bool m_hasWaited = false;      // for the first one to list all cameras
     QTimer m_patience;
     QTimer m_release;

@@ -77,7 +77,12 @@ void MicrophoneAnalysis::endPiece()
         m_figures.peak = std::max(m_figures.peak, m_peak);
         m_figures.clipped += m_clipped;
         m_figures.quietestPower = std::min(m_figures.quietestPower, m_power / count);
-        if (!m_isHeard) {
+        if (!m_isHeard && !m_figures.hasQuietPiece) {
+            m_figures.hasQuietPiece = true;
+            m_figures.quietPower = m_figures.hum50 = m_figures.hum60 = 0.0;
+        }
+        // A hum as loud as speech is sound without a pause.
+        if (!m_isHeard || !m_figures.hasQuietPiece) {
             m_figures.quietPower += m_power / count;
             m_figures.hum50 += humPower(50.0);
             m_figures.hum60 += humPower(60.0);

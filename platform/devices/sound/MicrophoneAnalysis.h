@@ -31,6 +31,7 @@ private:
         double quietPower = 0.0; // sum over the pieces in which nothing was heard
         double hum50 = 0.0;      // power in the same pieces
         double hum60 = 0.0;
+        bool hasQuietPiece = false; // until then, the three above are of all pieces
         double bandwidth = 0.0;
     };
 

@@ -88,6 +88,19 @@ private Q_SLOTS:
                  qPrintable(QString::number(value(analysis, "humShare"))));
     }
 
+    // As loud as speech it is heard all the time, but the first pause tells what is hum.
+    void detectsLoudHum()
+    {
+        MicrophoneAnalysis analysis(Rate);
+        const auto hum = [](unsigned i) { return tone(i, 50.0, 0.3); };
+        feed(analysis, 1.0, true, hum);
+        QVERIFY(value(analysis, "humShare") > 0.95);
+        feed(analysis, 0.5, false, [](unsigned i) { return tone(i, 997.0, 0.01); });
+        QCOMPARE(value(analysis, "humShare"), 0.0);
+        feed(analysis, 1.0, true, hum);
+        QCOMPARE(value(analysis, "humShare"), 0.0);
+    }
+
     void measuresTheBandwidth()
     {
         MicrophoneAnalysis analysis(Rate);

@@ -43,19 +43,25 @@ void tst_NetworkCommand::networkCauses_data()
     QTest::addColumn<QString>("cause");
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("wrapper");
     // Nobody listens on the port of "discard" there.
     QTest::newRow("refused") << "--server 127.0.0.1:9"
                              << "refused"
-                             << "the server refuses, " << 1;
+                             << "the server refuses, " << 1 << "";
+    // A network of its own, without any interface that is up.
+    QTest::newRow("no route") << "--server 192.0.2.1"
+                              << "noRoute"
+                              << "no way to the server, " << 1
+                              << "exec unshare --map-root-user --net \"$0\" \"$@\"";
     QTest::newRow("no server") << ""
                                << "noServer"
-                               << "not measured: no server" << 69;
+                               << "not measured: no server" << 69 << "";
     QTest::newRow("no answer") << "--scenario network-unmeasured"
                                << "noAnswer"
-                               << "no answer, " << 1;
+                               << "no answer, " << 1 << "";
     QTest::newRow("good") << "--scenario all-well"
                           << ""
-                          << "delay " << 0;
+                          << "delay " << 0 << "";
 }
 
 // As it comes, in the words of the report.
@@ -64,11 +70,12 @@ void tst_NetworkCommand::networkCauses()
     QFETCH(QString, arguments);
     QFETCH(QString, cause);
     QFETCH(QString, text);
+    QFETCH(QString, wrapper);
     const QStringList all = words("network --count 1") + words(qPrintable(arguments));
-    const Run lines = run(all);
+    const Run lines = finished(*started(all, wrapper));
     QVERIFY2(lines.out.contains(text), qPrintable(lines.out));
     QTEST(lines.code, "code");
-    const Run json = run(all + words("--json"));
+    const Run json = finished(*started(all + words("--json"), wrapper));
     QTEST(json.code, "code");
     QCOMPARE(json.out.count(QLatin1Char('\n')), 1);
     const QJsonObject line = QJsonDocument::fromJson(json.out.toUtf8()).object();

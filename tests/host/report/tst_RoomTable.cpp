@@ -17,6 +17,7 @@ class tst_RoomTable : public QObject
 private Q_SLOTS:
     void nameOfTheComputer();
     void badness();
+    void withoutPerson();
     void table();
     void nothingToShow_data();
     void nothingToShow();
@@ -87,6 +88,40 @@ void tst_RoomTable::badness()
     QVERIFY(of(good) < of(sampleReport()));
     QVERIFY(of(flagged) < of(untested));
     QVERIFY(of(untested) < of(failed));
+}
+
+// One check for each device: the one that doesn't work counts, and its verdict has a column.
+void tst_RoomTable::withoutPerson()
+{
+    Report report = sampleReport();
+    report.outcome = RunEnd::Faulty;
+    for (ReportCheck& check : report.checks) {
+        check.verdict = Verdict::Works;
+        check.causes.clear();
+        check.contradictions.clear();
+    }
+    ReportCheck broken;
+    broken.kind = CheckKind::Camera;
+    broken.verdict = Verdict::Faulty;
+    broken.device = QStringLiteral("Second camera");
+    broken.causes = {Cause::Black};
+    report.checks.push_back(broken);
+    const RoomRow row = RoomRow::of(report, {});
+    QCOMPARE(row.checks[1].verdict, Verdict::Faulty);
+    QCOMPARE(row.checks[1].device, broken.device);
+    QCOMPARE(row.causes(), QStringLiteral("camera:black"));
+    QVERIFY(row.badness() > RoomRow::of(bareReport(), {}).badness());
+    const QStringList lines =
+        shown(Options::Format::Room, {failedReport(), report}).split(QLatin1Char('\n'));
+    QCOMPARE(lines.filter(QStringLiteral("Camera ")).last().simplified(),
+             QStringLiteral("Camera 0 1 0 0 1"));
+    const QString map = shown(Options::Format::Map, {report});
+    QVERIFY(map.contains(QLatin1String("<li class=\"bad\">")));
+    QVERIFY(map.contains(QLatin1String("Second camera")));
+    const QString text = shown(Options::Format::Text, {report});
+    QVERIFY2(text.contains(QLatin1String("Unattended: something needs fixing")), qPrintable(text));
+    QVERIFY2(!text.contains(QLatin1String("Answer")), qPrintable(text));
+    QVERIFY(shown(Options::Format::Csv, {report}).contains(QLatin1String(",faulty,works,faulty,")));
 }
 
 void tst_RoomTable::table()

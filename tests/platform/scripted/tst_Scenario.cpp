@@ -105,7 +105,8 @@ void tst_Scenario::setsUpDevices()
         ],
         "microphones": [
             { "id": "m1", "name": "Mic", "volume": 120, "adjustable": false,
-              "levels": [[0, 0.2], [100, 0.4], [200, 0.0]] }
+              "levels": [[0, 0.2], [100, 0.4], [200, 0.0]],
+              "sound": { "noiseFloorDb": -40, "humPercent": 80 } }
         ],
         "speakers": [ { "id": "s1", "name": "Speaker", "volume": 30, "state": "failed" } ],
         "current": { "camera": "c2", "speaker": "" }
@@ -132,6 +133,8 @@ void tst_Scenario::setsUpDevices()
     QCOMPARE(engine.microphones().levelAt(50), 0.3);
     QCOMPARE(engine.microphones().levelAt(150), 0.2);
     QCOMPARE(engine.microphones().levelAt(250), 0.3); // again from the start
+    QCOMPARE(engine.microphones().sound(), (QJsonObject{{QStringLiteral("noiseFloorDb"), -40},
+                                                        {QStringLiteral("humShare"), 0.8}}));
 
     QVERIFY(engine.scriptedSpeakers().currentState() == Platform::DeviceState::Off);
     engine.scriptedSpeakers().choose(QStringLiteral("s1"));
@@ -301,6 +304,10 @@ void tst_Scenario::namesFileLineAndField_data()
         "2: cameras[0].width: must be a whole number from 1 to 8192");
     row("not whole", "{\"network\": [{\n\"delayMs\": 1.5 }]}",
         "2: network[0].delayMs: must be a whole number from -1 to 60000");
+    row("hum",
+        "{\"microphones\": [{ \"id\": \"a\", \"name\": \"A\",\n\"sound\": { \"humPercent\": 101 } "
+        "}]}",
+        "2: microphones[0].sound.humPercent: must be a whole number from 0 to 100");
     row("loud", "{\"microphones\": [{ \"id\": \"a\", \"name\": \"A\",\n\"levels\": [[0, 1.1]] }]}",
         "2: microphones[0].levels[0]: must be [milliseconds, level]");
     row("backwards",

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "host/commands/UnattendedCommand.h"
+
+#include "host/Console.h"
+#include "host/Folders.h"
+#include "host/InstalledEngine.h"
+#include "host/ProgramEnd.h"
+#include "host/TextTable.h"
+#include "host/commands/CheckCommand.h"
+#include "host/report/Figures.h"
+#include "host/report/Redaction.h"
+#include "host/report/Remedies.h"
+#include "host/report/ReportBuilder.h"
+#include "host/report/ReportFile.h"
+#include "host/report/ReportWriter.h"
+#include "host/unattended/UnattendedCheck.h"
+#include "platform/backend/Engine.h"
+#include "platform/backend/ResultKeys.h"
+
+#include <QFileInfo>
+
+namespace {
+
+template <typename Value>
+QString textOf(Value value)
+{
+    return qtTrId(ReportWords::textId(value));
+}
+
+// What stands beside the verdict: the device, or delay and loss.
+QString detailOf(const ReportCheck& check)
+{
+    const auto figure = [&check](FigureName name, Figures::Unit unit) {
+        const Measurement* found = check.measurement(name);
+        const bool isMeasured = found && found->status == FigureStatus::Measured;
+        return isMeasured ? Figures::toText(found->value.toDouble(), unit) : QString();
+    };
+    if (check.kind != CheckKind::Network) {
+        return Console::plainLine(check.device);
+    }
+    const QString delay = figure(FigureName::Delay, Figures::Unit::Ms);
+    return delay.isEmpty()
+               ? delay
+               : delay + QStringLiteral(", ") + figure(FigureName::Loss, Figures::Unit::Percent);
+}
+
+ExitCode codeOf(RunEnd outcome)
+{
+    switch (outcome) {
+    case RunEnd::Works:
+        return ExitCode::AllPassed;
+    case RunEnd::Unavailable:
+        return ExitCode::Unavailable;
+    case RunEnd::BrokenOff:
+        return ExitCode::LeftEarly;
+    default:
+        return ExitCode::SomeFailed;
+    }
+}
+
+} // namespace
+
+UnattendedCommand::UnattendedCommand(const Options& options) : m_options(options)
+{
+}
+
+ExitCode UnattendedCommand::run(const QString& language)
+{
+    if (!prepare()) {
+        return ExitCode::CannotWrite;
+    }
+    InstalledEngine installed(m_options, Folders::data());
+    if (!installed.error().isEmpty()) {
+        Console::printError(installed.error());
+        return installed.errorCode();
+    }
+    ReportBuilder::Run run{QDateTime::currentDateTime(),
+                           {},
+                           language,
+                           m_options.platform,
+                           QFileInfo(m_options.scenario).completeBaseName()};
+    if (!installed.prepare()) {
+        return ExitCode::LeftEarly;
+    }
+    UnattendedCheck check(installed.engine(), [&installed](CheckKind kind) {
+        return installed.results()
+            .value(Platform::ResultKeys::Measurements)[ReportWords::of(kind)]
+            .toObject();
+    });
+    check.run();
+    ProgramEnd::begin();
+    run.finished = QDateTime::currentDateTime();
+    const Redaction redaction(m_options.redaction, m_redactionKey);
+    const Report report = redaction.redacted(
+        ReportBuilder::build(run, check.outcome(), check.checks(), check.networkFigures(),
+                             installed.engine().systemFacts()));
+    print(report);
+    return write(report) ? codeOf(report.outcome) : ExitCode::CannotWrite;
+}
+
+bool UnattendedCommand::prepare()
+{
+    QString problem;
+    const bool isFile = !m_options.reportFile.isEmpty() && m_options.reportFile != Options::Output;
+    if (isFile) {
+        problem = ReportFile::problemOfWriting(m_options.reportFile);
+    }
+    if (problem.isEmpty() && m_options.redaction == Options::Redaction::Hash) {
+        m_redactionKey = ReportFile::redactionKey(Folders::redactionKey(), &problem);
+    }
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+    return problem.isEmpty();
+}
+
+void UnattendedCommand::print(const Report& report) const
+{
+    TextTable table;
+    for (const ReportCheck& check : report.checks) {
+        table.addRow({textOf(check.kind), textOf(check.verdict), detailOf(check)});
+    }
+    const QString text =
+        table.toText() + textOf(report.outcome) + QLatin1Char('\n') + Remedies::toText(report);
+    if (m_options.usesOutput()) {
+        Console::printAside(text);
+    } else {
+        Console::print(text);
+    }
+}
+
+bool UnattendedCommand::write(const Report& report) const
+{
+    if (m_options.reportFile.isEmpty()) {
+        return true;
+    }
+    const QString problem = CheckCommand::writeTo(
+        m_options.reportFile,
+        ReportWriter::toFormat(report, ReportWriter::formatOf(m_options.reportFile),
+                               report.language));
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+    return problem.isEmpty();
+}
