@@ -34,6 +34,7 @@ enum class FigureName {
     BlackShare,
     FrozenShare,
     Brightness,
+    Modes,
     VolumeBefore,
     VolumeAfter,
     MutedBefore,
