@@ -16,7 +16,7 @@ namespace {
 constexpr int UsualRounds = 5;
 constexpr int SettleMs = 700;
 constexpr int RoundMs = 2000;
-constexpr int SmokeRoundMs = 500;
+constexpr int SmokeRoundMs = 200;
 constexpr double MaxRatioToSink = 0.4;
 constexpr double MaxRatioToPlayer = 0.35;
 
@@ -38,7 +38,7 @@ constexpr Camera Cameras[] = {{"YUY2, 1280 x 720", "YUY2", {1280, 720}},
 
 // The share of a core that showing the camera takes, in percent; nothing if it shows nothing.
 std::optional<double> costOf(const Contestant& contestant, const Camera& camera,
-                             const QString& node, int roundMs)
+                             const QString& node, bool isSmoke)
 {
     const bool isJpeg = qstrcmp(camera.pixelFormat, "MJPG") == 0;
     Viewer viewer(
@@ -48,11 +48,11 @@ std::optional<double> costOf(const Contestant& contestant, const Camera& camera,
         return {};
     }
     viewer.go();
-    QTest::qWait(SettleMs);
+    QTest::qWait(isSmoke ? SmokeRoundMs : SettleMs);
     const double before = viewer.processorMs();
     QElapsedTimer clock;
     clock.start();
-    QTest::qWait(roundMs);
+    QTest::qWait(isSmoke ? SmokeRoundMs : RoundMs);
     const double used = viewer.processorMs() - before;
     const double result = 100.0 * used / static_cast<double>(clock.elapsed());
     if (qIsNaN(viewer.stop()) || used <= 0.0) {
@@ -92,8 +92,8 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
             {"fakesink", {}}, {"own", {}}, {"ximagesink", {}}, {"mediaplayer", {}}};
         for (int round = 0; round < options.rounds(); ++round) {
             for (Contestant& contestant : contestants) {
-                const std::optional<double> cost = costOf(
-                    contestant, camera, stage.node(), options.isSmoke() ? SmokeRoundMs : RoundMs);
+                const std::optional<double> cost =
+                    costOf(contestant, camera, stage.node(), options.isSmoke());
                 if (!cost) {
                     return {};
                 }

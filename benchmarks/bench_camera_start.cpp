@@ -65,7 +65,7 @@ std::optional<bool> measure(CameraStage& stage, const BenchmarkOptions& options)
     const double own = Statistics(contestants[0].delays).median();
     const double peer = Statistics(contestants[1].delays).median();
     const double busy = Statistics(contestants[0].busy).median();
-    std::printf("Ratio %.2f; %.1f ms of %.1f ms allowed; GUI thread kept %.2f ms.\n", own / peer,
+    std::printf("\nRatio %.2f; %.1f ms of %.1f ms allowed; GUI thread kept %.2f ms.\n", own / peer,
                 own, MaxRatio * peer + FrameMs, busy);
     return own <= MaxRatio * peer + FrameMs && busy <= MaxBusyMs;
 }
