@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkOptions.h"
 
+#include "benchmarks/BusyMeter.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <cstdio>
@@ -15,6 +17,9 @@ namespace {
 constexpr int SmokeRounds = 2;
 constexpr int MinRounds = 2; // the first is often discarded
 constexpr int MaxRounds = 100000;
+constexpr int MaxAttempts = 3;
+constexpr int NotMeasured = 2;
+constexpr int NotJudged = 3;
 
 [[noreturn]] void refuse(const char* option, const char* remedy)
 {
@@ -39,6 +44,7 @@ BenchmarkOptions::BenchmarkOptions(const QCoreApplication& application, int usua
     parser.addHelpOption();
     parser.process(application);
 
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // each table when it is ready
     m_isSmoke = parser.isSet(smoke);
     m_rounds = m_isSmoke ? SmokeRounds : parser.value(rounds).toInt();
     if (m_rounds < MinRounds || m_rounds > MaxRounds) {
@@ -50,6 +56,27 @@ BenchmarkOptions::BenchmarkOptions(const QCoreApplication& application, int usua
     }
     m_server = kind == QLatin1String("pipewire") ? SoundServer::Kind::PipeWire
                                                  : SoundServer::Kind::PulseAudio;
+}
+
+int BenchmarkOptions::judge(const std::function<std::optional<bool>()>& measure) const
+{
+    for (int attempt = 1;; ++attempt) {
+        const BusyMeter busy;
+        const std::optional<bool> isWithinBounds = measure();
+        if (!isWithinBounds) {
+            return NotMeasured;
+        }
+        std::printf("Machine: threads waited for a processor in %.0f %% of the time.\n",
+                    100.0 * busy.share());
+        if (m_isSmoke || busy.wasQuiet()) {
+            return verdict(*isWithinBounds);
+        }
+        if (attempt == MaxAttempts) {
+            std::puts("NOT JUDGED: the machine was never quiet.");
+            return NotJudged;
+        }
+        std::puts("The machine was busy: once more.");
+    }
 }
 
 int BenchmarkOptions::verdict(bool isWithinBounds) const

@@ -4,6 +4,9 @@
 
 #include "tests/support/SoundServer.h"
 
+#include <functional>
+#include <optional>
+
 class QCoreApplication;
 
 // What the programs that measure sound take:
@@ -17,6 +20,10 @@ public:
     int rounds() const { return m_rounds; }
     TestSupport::SoundServer::Kind server() const { return m_server; }
     bool isSmoke() const { return m_isSmoke; }
+    // Measures until the machine was quiet, at most a few times, and says how busy it was. The
+    // function returns whether the bounds were kept, or nothing if it couldn't measure. Gives the
+    // exit code; a machine that was never quiet is not judged.
+    int judge(const std::function<std::optional<bool>()>& measure) const;
     // Prints whether the bounds were kept and gives the exit code. A smoke run measures too little
     // to say so.
     int verdict(bool isWithinBounds) const;

@@ -30,9 +30,10 @@ std::map<int, qint64> framesIn(const QByteArray& output)
     return result;
 }
 
-Viewer::Viewer(const QString& kind, const QString& node)
+Viewer::Viewer(const QString& kind, const QString& node, const QStringList& more)
 {
-    start(QCoreApplication::applicationDirPath() + QStringLiteral("/camera_viewer"), {kind, node});
+    start(QCoreApplication::applicationDirPath() + QStringLiteral("/camera_viewer"),
+          QStringList{kind, node} + more);
     waitForStarted();
 }
 
@@ -113,28 +114,20 @@ bool CameraStage::start()
         std::fprintf(stderr, "%s\n", qPrintable(m_server.problem()));
         return false;
     }
-    m_display.setProcessChannelMode(QProcess::SeparateChannels);
-    m_display.start(QStringLiteral("Xvfb"),
-                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                     QStringLiteral("0"), QStringLiteral("1280x900x24"),
-                     QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                     QStringLiteral("-noreset")});
-    QByteArray number;
-    if (!QTest::qWaitFor(
-            [&] {
-                number += m_display.readAllStandardOutput();
-                return number.endsWith('\n');
-            },
-            TimeoutMs)) {
-        std::fputs("No virtual display came up\n", stderr);
+    if (!m_display.start()) {
         return false;
     }
-    qputenv("DISPLAY", ":" + number.trimmed());
-    qputenv("QT_QPA_PLATFORM", "xcb");
+    return plug(QStringLiteral("YUY2"), QSize(1280, 720));
+}
+
+bool CameraStage::plug(const QString& pixelFormat, const QSize& size)
+{
+    m_camera.reset();
     m_camera = std::make_unique<TestSupport::CameraProcess>(
         node(), QStringLiteral("Camera"),
-        QStringList{QStringLiteral("--width"), QStringLiteral("1280"), QStringLiteral("--height"),
-                    QStringLiteral("720"), QStringLiteral("--rate"), QString::number(Rate),
+        QStringList{QStringLiteral("--pixel-format"), pixelFormat, QStringLiteral("--width"),
+                    QString::number(size.width()), QStringLiteral("--height"),
+                    QString::number(size.height()), QStringLiteral("--rate"), QString::number(Rate),
                     QStringLiteral("--numbered"), QStringLiteral("--log-frames")});
     const bool isReady =
         QTest::qWaitFor([this] { return m_camera->output().contains("paused"); }, TimeoutMs);
@@ -157,7 +150,5 @@ int runCameraBenchmark(
     QCoreApplication application(argc, argv);
     const BenchmarkOptions options(application, usualRounds);
     CameraStage stage;
-    const std::optional<bool> isWithinBounds =
-        stage.start() ? measure(stage, options) : std::nullopt;
-    return isWithinBounds ? options.verdict(*isWithinBounds) : NotMeasured;
+    return stage.start() ? options.judge([&] { return measure(stage, options); }) : NotMeasured;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "benchmarks/VirtualDisplay.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/PipeWireServer.h"
 
@@ -23,7 +24,7 @@ class Viewer final : public TestSupport::TestProcess
     Q_DISABLE_COPY(Viewer)
 
 public:
-    Viewer(const QString& kind, const QString& node);
+    Viewer(const QString& kind, const QString& node, const QStringList& more = {});
     ~Viewer() override;
 
     bool waitUntilReady();
@@ -39,7 +40,7 @@ private:
     QByteArray m_output;
 };
 
-// A server, a display, and a camera that sends 30 numbered frames of 1280 x 720 a second.
+// A server, a display, and a camera that sends 30 numbered frames a second.
 class CameraStage
 {
 public:
@@ -53,10 +54,12 @@ public:
     bool start(); // prints why not
     TestSupport::CameraProcess& camera() { return *m_camera; }
     QString node() const;
+    // Another camera in its place: by default YUY2 of 1280 x 720.
+    bool plug(const QString& pixelFormat, const QSize& size);
 
 private:
     TestSupport::PipeWireServer m_server;
-    TestSupport::TestProcess m_display;
+    VirtualDisplay m_display;
     std::unique_ptr<TestSupport::CameraProcess> m_camera;
 };
 

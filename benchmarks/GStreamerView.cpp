@@ -32,11 +32,12 @@ private:
     QImage m_frame;
 };
 
-std::unique_ptr<View> GStreamerView::make(const QString& kind, const QString& node)
+std::unique_ptr<View> GStreamerView::make(const QString& kind, const QString& node, bool isJpeg)
 {
-    const QByteArray source = "pipewiresrc target-object=" + node.toUtf8() + " ! video/x-raw ! ";
-    const QByteArray scaled =
-        source + "videoscale ! video/x-raw,width=306,height=172 ! videoconvert ! ";
+    const QByteArray source = "pipewiresrc target-object=" + node.toUtf8() +
+                              (isJpeg ? " ! image/jpeg ! " : " ! video/x-raw ! ");
+    const QByteArray scaled = source + (isJpeg ? "jpegdec ! " : "") +
+                              "videoscale ! video/x-raw,width=306,height=172 ! videoconvert ! ";
     const QByteArray appsink = "appsink name=sink sync=false max-buffers=1 drop=true";
     if (kind == QLatin1String("appsink")) {
         return std::make_unique<GStreamerView>(source + appsink, false);

@@ -13,7 +13,8 @@
 class GStreamerView final : public View
 {
 public:
-    static std::unique_ptr<View> make(const QString& kind, const QString& node); // null: no such
+    static std::unique_ptr<View> make(const QString& kind, const QString& node,
+                                      bool isJpeg); // null: no such
 
     explicit GStreamerView(const QByteArray& pipeline, bool isPainted);
     ~GStreamerView() override;

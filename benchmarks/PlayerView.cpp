@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/PlayerView.h"
 
-PlayerView::PlayerView(const QString& node)
-    : m_source(
-          QStringLiteral("gst-pipeline: pipewiresrc target-object=%1 ! video/x-raw ! videoscale ! "
-                         "video/x-raw,width=306,height=172 ! videoconvert ! "
-                         "ximagesink name=\"qtvideosink\"")
-              .arg(node))
+PlayerView::PlayerView(const QString& node, bool isJpeg)
+    : m_source(QStringLiteral("gst-pipeline: pipewiresrc target-object=%1 ! %2 ! videoscale ! "
+                              "video/x-raw,width=306,height=172 ! videoconvert ! "
+                              "ximagesink name=\"qtvideosink\"")
+                   .arg(node, isJpeg ? QStringLiteral("image/jpeg ! jpegdec")
+                                     : QStringLiteral("video/x-raw")))
 {
     m_widget.resize(View::Size);
     m_widget.show();

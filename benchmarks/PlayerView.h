@@ -11,7 +11,7 @@
 class PlayerView final : public View
 {
 public:
-    explicit PlayerView(const QString& node);
+    PlayerView(const QString& node, bool isJpeg);
 
     void go() override;
     void stop() override;

@@ -24,6 +24,7 @@ public:
         const double at = share * static_cast<double>(m_values.size() - 1);
         return m_values[static_cast<std::size_t>(std::lround(at))];
     }
+    double p10() const { return quantile(0.1); }
     double median() const { return quantile(0.5); }
     double p90() const { return quantile(0.9); }
     double maximum() const { return quantile(1.0); }

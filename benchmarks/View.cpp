@@ -27,6 +27,9 @@ void View::tellReady()
 
 void View::tellPainted(const QImage& frame, bool isMirrored)
 {
+    if (isSilent) {
+        return;
+    }
     constexpr int Row = 4;
     constexpr int Bits = TestSupport::CameraPattern::NumberBits;
     int number = 0;

@@ -17,7 +17,11 @@ public:
     virtual void stop() = 0;
 
     static void tellReady();
+    static void setSilent() { isSilent = true; } // tells of no frames, which costs time, too
     // Reads the frame's number from its upper edge, a block for each bit.
     static void tellPainted(const QImage& frame, bool isMirrored);
     static void tellArrived(); // a frame that isn't painted
+
+private:
+    static inline bool isSilent = false;
 };

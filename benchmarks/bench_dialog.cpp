@@ -59,13 +59,14 @@ int main(int argc, char** argv)
     Platform::EngineRegistry::install(std::make_unique<Platform::DeviceEngine>(config));
 
     const int rounds = options.rounds();
-    bool isGood = measureOpening(application, rounds);
-    isGood = measureClosing(application, server, qMax(1, rounds / RoundsPerClosing)) && isGood;
-    isGood = measureLeftovers(application, server, camera, rounds * OpeningsPerRound,
-                              options.isSmoke() ? CalmMs : IconNamesMs) &&
-             isGood;
-
+    const int exitCode = options.judge([&]() -> std::optional<bool> {
+        bool isGood = measureOpening(application, rounds);
+        isGood = measureClosing(application, server, qMax(1, rounds / RoundsPerClosing)) && isGood;
+        return measureLeftovers(application, server, camera, rounds * OpeningsPerRound,
+                                options.isSmoke() ? CalmMs : IconNamesMs) &&
+               isGood;
+    });
     Platform::FileWriter::waitForWritten(DialogStage::TimeoutMs);
     Platform::EngineRegistry::uninstall();
-    return options.verdict(isGood);
+    return exitCode;
 }

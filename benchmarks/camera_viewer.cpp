@@ -14,22 +14,22 @@
 
 // Shows a camera in one of several ways, in a process of its own, so that a benchmark can measure
 // it from outside:
-//     camera_viewer own|appsink|widget|fakesink|ximagesink|mediaplayer NODE
+//     camera_viewer own|appsink|widget|fakesink|ximagesink|mediaplayer NODE [raw|jpeg] [silent]
 // Takes "go", "stop" and "quit" on the standard input. Says "ready" once it may be told to go,
 // "frame NUMBER NANOSECONDS" when one was painted, and after a stop "busy MILLISECONDS": how long
 // the handler of one event kept the GUI thread at most.
 
 namespace {
 
-std::unique_ptr<View> makeView(const QString& kind, const QString& node)
+std::unique_ptr<View> makeView(const QString& kind, const QString& node, bool isJpeg)
 {
     if (kind == QLatin1String("own")) {
         return std::make_unique<OwnView>(node);
     }
     if (kind == QLatin1String("mediaplayer")) {
-        return std::make_unique<PlayerView>(node);
+        return std::make_unique<PlayerView>(node, isJpeg);
     }
-    return GStreamerView::make(kind, node);
+    return GStreamerView::make(kind, node, isJpeg);
 }
 
 } // namespace
@@ -38,7 +38,11 @@ int main(int argc, char** argv)
 {
     HandlerMeter<QApplication> application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    const std::unique_ptr<View> view = makeView(arguments.value(1), arguments.value(2));
+    if (arguments.value(4) == QLatin1String("silent")) {
+        View::setSilent();
+    }
+    const std::unique_ptr<View> view = makeView(arguments.value(1), arguments.value(2),
+                                                arguments.value(3) == QLatin1String("jpeg"));
     if (!view) {
         std::fputs("camera_viewer: say own, appsink, widget, fakesink, ximagesink or mediaplayer,"
                    " and the name of a node\n",

@@ -24,6 +24,7 @@ const std::vector<Figure> CameraFigures = {
     {FigureName::Height, Unit::Pixels},     {FigureName::FirstPicture, Unit::Ms},
     {FigureName::Pictures, Unit::None},     {FigureName::BlackShare, Unit::Share},
     {FigureName::FrozenShare, Unit::Share}, {FigureName::Brightness, Unit::Share},
+    {FigureName::Modes, Unit::None},
 };
 
 const std::vector<Figure> SpeakerFigures = {

@@ -104,6 +104,7 @@ const std::vector<Word<FigureName>>& table()
         {FigureName::FrozenShare, "frozenShare", "ID_Host_Figure_Frozen"},
         {FigureName::Brightness, "brightness", "ID_Host_Figure_Brightness"},
         {FigureName::Program, "program", "ID_Host_Figure_Program"},
+        {FigureName::Modes, "modes", "ID_Host_Figure_Modes"},
         {FigureName::VolumeBefore, "volumeBefore", "ID_Host_Figure_VolumeBefore"},
         {FigureName::VolumeAfter, "volumeAfter", "ID_Host_Figure_VolumeAfter"},
         {FigureName::MutedBefore, "mutedBefore", "ID_Host_Figure_MutedBefore"},

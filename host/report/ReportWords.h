@@ -37,6 +37,7 @@ enum class FigureName {
     FrozenShare,
     Brightness,
     Program,
+    Modes,
     VolumeBefore,
     VolumeAfter,
     MutedBefore,

@@ -642,6 +642,10 @@
         <source></source>
         <translation>فقد الحزم</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>أوضاع الكاميرا</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>غيّر المستخدم مستوى الصوت</translation>

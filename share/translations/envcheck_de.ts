@@ -642,6 +642,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Paketverlust</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Modi der Kamera</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Lautstärke vom Benutzer geändert</translation>

@@ -642,6 +642,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Packet loss</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Camera modes</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Volume moved by the user</translation>

@@ -642,6 +642,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Pérdida de paquetes</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Modos de la cámara</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Volumen cambiado por el usuario</translation>

@@ -642,6 +642,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Perte de paquets</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Modes de la caméra</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Volume modifié par l’utilisateur</translation>

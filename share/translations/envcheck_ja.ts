@@ -642,6 +642,10 @@
         <source></source>
         <translation>パケット損失</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>カメラのモード</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>ユーザーが音量を変更</translation>

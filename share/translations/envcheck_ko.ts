@@ -642,6 +642,10 @@
         <source></source>
         <translation>패킷 손실</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>카메라 모드</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>사용자가 볼륨을 조절함</translation>

@@ -642,6 +642,10 @@
         <source></source>
         <translation>Потери пакетов</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Режимы камеры</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Громкость изменена пользователем</translation>

@@ -642,6 +642,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Tỷ lệ mất gói</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>Các chế độ của camera</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>Người dùng đã chỉnh âm lượng</translation>

@@ -642,6 +642,10 @@
         <source></source>
         <translation>丢包率</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>摄像头模式</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>用户调过音量</translation>

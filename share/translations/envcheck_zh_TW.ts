@@ -642,6 +642,10 @@
         <source></source>
         <translation>封包遺失率</translation>
     </message>
+    <message id="ID_Host_Figure_Modes">
+        <source></source>
+        <translation>攝影機模式</translation>
+    </message>
     <message id="ID_Host_Figure_MovedByUser">
         <source></source>
         <translation>使用者調過音量</translation>

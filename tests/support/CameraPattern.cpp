@@ -59,6 +59,12 @@ int CameraPattern::maxBytes() const
     return m_pixelFormat == Mjpg ? m_size.width() * m_size.height() * 3 : frame(0).size();
 }
 
+void CameraPattern::setFormat(PixelFormat pixelFormat, const QSize& size)
+{
+    m_pixelFormat = pixelFormat;
+    setSize(size);
+}
+
 void CameraPattern::setSize(const QSize& size)
 {
     m_size = size;

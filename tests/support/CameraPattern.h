@@ -29,6 +29,7 @@ public:
     int maxBytes() const;
 
     void setSize(const QSize& size);
+    void setFormat(PixelFormat pixelFormat, const QSize& size);
     void setColor(const QColor& color) { m_color = color; }
     void setBlack() { m_isBlack = true; }
     void setNumbered(bool on) { m_isNumbered = on; }

@@ -93,7 +93,7 @@ const pw_stream_events VirtualCamera::Events = [] {
     };
     events.param_changed = [](void* data, uint32_t id, const spa_pod* parameter) {
         if (id == SPA_PARAM_Format && parameter) {
-            self(data)->onFormatChanged();
+            self(data)->onFormatChanged(parameter);
         }
     };
     events.add_buffer = [](void* data, pw_buffer* buffer) {
@@ -174,14 +174,23 @@ bool VirtualCamera::connect()
     if (!m_stream) {
         return false;
     }
-    uint8_t memory[1024];
+    uint8_t memory[16384];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    const spa_pod* parameters[] = {format(builder, SPA_PARAM_EnumFormat)};
+    std::vector<const spa_pod*> parameters;
+    for (const Options::Mode& mode : m_options.modes) {
+        m_pattern.setFormat(mode.pixelFormat, mode.size);
+        m_options.rate = mode.rate;
+        parameters.push_back(format(builder, SPA_PARAM_EnumFormat));
+    }
+    if (parameters.empty()) {
+        parameters.push_back(format(builder, SPA_PARAM_EnumFormat));
+    }
     const int flags =
         PW_STREAM_FLAG_DRIVER |
         (m_options.isDriverMemory ? PW_STREAM_FLAG_ALLOC_BUFFERS : PW_STREAM_FLAG_MAP_BUFFERS);
     return pw_stream_connect(m_stream, PW_DIRECTION_OUTPUT, PW_ID_ANY,
-                             static_cast<pw_stream_flags>(flags), parameters, 1) >= 0;
+                             static_cast<pw_stream_flags>(flags), parameters.data(),
+                             static_cast<uint32_t>(parameters.size())) >= 0;
 }
 
 const spa_pod* VirtualCamera::format(spa_pod_builder& builder, uint32_t parameter) const
@@ -262,8 +271,38 @@ void VirtualCamera::onStateChanged(pw_stream_state state)
     std::fflush(stdout);
 }
 
-void VirtualCamera::onFormatChanged()
+// What the reader chose.
+void VirtualCamera::adopt(const spa_pod* format)
 {
+    spa_video_info info{};
+    spa_format_parse(format, &info.media_type, &info.media_subtype);
+    const bool isJpeg = info.media_subtype == SPA_MEDIA_SUBTYPE_mjpg;
+    if (isJpeg) {
+        spa_format_video_mjpg_parse(format, &info.info.mjpg);
+    } else {
+        spa_format_video_raw_parse(format, &info.info.raw);
+    }
+    const spa_rectangle size = isJpeg ? info.info.mjpg.size : info.info.raw.size;
+    const spa_fraction rate = isJpeg ? info.info.mjpg.framerate : info.info.raw.framerate;
+    for (const Options::Mode& mode : m_options.modes) {
+        const bool isFormat = isJpeg ? mode.pixelFormat == CameraPattern::Mjpg
+                                     : spaFormat(mode.pixelFormat) == info.info.raw.format;
+        if (isFormat && mode.size == QSize(int(size.width), int(size.height)) &&
+            uint32_t(mode.rate) * rate.denom == rate.num) {
+            m_pattern.setFormat(mode.pixelFormat, mode.size);
+            m_options.rate = mode.rate;
+        }
+    }
+    std::printf("size %ux%u rate %u %s\n", size.width, size.height, rate.num,
+                isJpeg ? "jpeg" : "raw");
+    std::fflush(stdout);
+}
+
+void VirtualCamera::onFormatChanged(const spa_pod* format)
+{
+    if (!m_options.modes.empty()) {
+        adopt(format);
+    }
     uint8_t memory[1024];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
     const int usualKind = m_options.isDriverMemory ? SPA_DATA_DmaBuf : SPA_DATA_MemFd;

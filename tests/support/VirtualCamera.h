@@ -8,6 +8,7 @@
 #include <memory>
 #include <pipewire/pipewire.h>
 #include <spa/pod/builder.h>
+#include <vector>
 
 namespace TestSupport {
 
@@ -25,6 +26,14 @@ public:
         QString busPath;      // if there is one, the camera belongs to a device that has it
         QString capabilities; // of that device
         int rate = 30;
+        // If there are any, the reader has the choice between them.
+        struct Mode
+        {
+            CameraPattern::PixelFormat pixelFormat;
+            QSize size;
+            int rate;
+        };
+        std::vector<Mode> modes;
         uint32_t transform = 0; // a SPA_META_TRANSFORMATION value
         bool isStalled = false;
         bool isRefusing = false;     // wants a kind of memory that no reader has
@@ -48,7 +57,8 @@ private:
     void onInput();
     void obey(const QByteArray& line);
     void onStateChanged(pw_stream_state state);
-    void onFormatChanged();
+    void onFormatChanged(const spa_pod* format);
+    void adopt(const spa_pod* format);
     void onProcess();
     void resize(const QSize& size);
 

@@ -4,9 +4,28 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <cstdio>
 
 using namespace TestSupport;
+
+namespace {
+
+std::vector<VirtualCamera::Options::Mode> modesOf(const QString& text)
+{
+    std::vector<VirtualCamera::Options::Mode> result;
+    const QRegularExpression form(QStringLiteral("(\\w+):(\\d+)x(\\d+)@(\\d+)"));
+    for (auto match = form.globalMatch(text); match.hasNext();) {
+        const QRegularExpressionMatch mode = match.next();
+        CameraPattern::PixelFormat format = CameraPattern::Yuy2;
+        CameraPattern::pixelFormatFromName(mode.captured(1), format);
+        result.push_back({format, QSize(mode.captured(2).toInt(), mode.captured(3).toInt()),
+                          mode.captured(4).toInt()});
+    }
+    return result;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -28,6 +47,7 @@ int main(int argc, char* argv[])
     option("transform", "number", "0");
     option("pixel-format", "name", "YUY2");
     option("color", "RRGGBB", "c82828");
+    option("modes", "FORMAT:WIDTHxHEIGHT@RATE,...", "");
     for (const char* name : {"stalled", "driver-memory", "refusing", "unreadable", "for-graphics",
                              "broken", "numbered", "log-frames"}) {
         parser.addOption({QLatin1String(name), QLatin1String(name)});
@@ -52,6 +72,7 @@ int main(int argc, char* argv[])
     options.description = text("description");
     options.role = text("role");
     options.rate = number("rate");
+    options.modes = modesOf(text("modes"));
     options.isRefusing = isSet("refusing");
     options.transform = static_cast<uint32_t>(number("transform"));
     options.isStalled = isSet("stalled");

@@ -73,6 +73,14 @@ bool CameraList::isReadable(const QString& serial) const
     });
 }
 
+CameraModes CameraList::modesOf(const QString& serial) const
+{
+    const auto it = std::find_if(m_nodes.begin(), m_nodes.end(), [&serial](const auto& entry) {
+        return entry.second.serial == serial;
+    });
+    return it == m_nodes.end() ? CameraModes() : it->second.modes;
+}
+
 QString CameraList::preferredId() const
 {
     QString result;

@@ -28,6 +28,7 @@ public:
     bool contains(const QString& id) const { return serialOf(id).has_value(); }
     // False if the camera with this serial offers formats and none can be shown.
     bool isReadable(const QString& serial) const;
+    CameraModes modesOf(const QString& serial) const;
     std::optional<QString> serialOf(const QString& id) const;
     QString preferredId() const; // empty if there is none
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/camera/CameraModes.h"
+
 #include <QString>
 #include <QtGlobal>
 #include <optional>
@@ -23,6 +25,7 @@ struct CameraNode
     bool hasFormats = false;
     bool hasColor = false;   // one of the formats has
     bool isReadable = false; // one of the formats can be shown
+    CameraModes modes;       // empty if the system tells none before the camera is open
 };
 
 } // namespace Platform

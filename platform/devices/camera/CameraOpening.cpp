@@ -30,6 +30,15 @@ void CameraOpening::close()
     dropStream();
 }
 
+// A stream that fails is opened again anyway.
+void CameraOpening::reopen()
+{
+    if (m_phase == Phase::Starting || m_phase == Phase::Running) {
+        dropStream();
+        openIfPresent();
+    }
+}
+
 void CameraOpening::forgetCamera()
 {
     dropStream();

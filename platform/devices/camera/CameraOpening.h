@@ -54,6 +54,7 @@ public:
     // From the user
     void open(int generation, const QString& id); // now, or once it is there
     void close();
+    void reopen(); // because something else is wanted of the stream
     int generation() const { return m_generation; }
 
     // From the list

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int MaxEdge = 8192;          // no camera sends more; a larger size is a broken one
 constexpr int MaxStride = 8 * MaxEdge; // twice the longest row, in bytes
+constexpr int HalfOfBoth = 128;        // of 256
 
 int halfUp(int value)
 {
@@ -54,6 +55,13 @@ const libyuv::YuvConstants* constantsOf(YuvColor color)
 int rgbBytes(PixelFormat pixelFormat)
 {
     return pixelFormat == PixelFormat::Rgb || pixelFormat == PixelFormat::Bgr ? 3 : 4;
+}
+
+// From twice as many rows on, the mean of two neighbouring rows looks like one of them, and takes
+// twice the memory reads.
+libyuv::FilterMode filterFor(int sourceRows, int rows)
+{
+    return sourceRows >= 2 * rows ? libyuv::kFilterLinear : libyuv::kFilterBilinear;
 }
 
 // The plane's stride, or 0 if the plane is too short for all rows.
@@ -182,32 +190,54 @@ QImage FrameConverter::tryToConvert(const FrameFormat& format, const FrameView& 
     return isScaled ? oriented(size, orientation) : QImage();
 }
 
-// A packed format can't be scaled horizontally before it is unpacked. Vertically it can, and then
-// there is less to unpack.
-void FrameConverter::scaleRows(const Source& source, int rowBytes, int rows)
+bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
 {
-    const FrameView::Plane& plane = source.view.planes[0];
-    libyuv::ScalePlane(plane.data, strideOf(plane, rowBytes, source.height()), rowBytes,
-                       source.height(), sized(m_rows, rowBytes, rows), rowBytes, rowBytes, rows,
-                       libyuv::kFilterBox);
+    if (strideOf(source.view.planes[0], halfUp(source.width()) * 4, source.height()) == 0) {
+        return false;
+    }
+    const bool isMuchSmaller =
+        halfUp(source.width()) >= size.width() && source.height() >= 2 * size.height();
+    return isMuchSmaller ? thinPacked422(source, size) : unpackAndScale422(source, size);
 }
 
-bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
+// Two neighbours share four bytes, which are picked as one pixel of a format of four bytes. The
+// mean of the two is a pixel of the result.
+bool FrameConverter::thinPacked422(const Source& source, const QSize& size)
+{
+    const FrameView::Plane& plane = source.view.planes[0];
+    const int halfWidth = halfUp(source.width());
+    const int width = size.width();
+    const int rows = size.height();
+    uchar* const picked = sized(m_rows, width * 4, rows);
+    libyuv::ARGBScale(plane.data, strideOf(plane, halfWidth * 4, source.height()), halfWidth,
+                      source.height(), picked, width * 4, width, rows, libyuv::kFilterNone);
+    uchar* const pairs = sized(m_full[0], 2 * width, rows);
+    uchar* const u = sized(m_small[1], width, rows);
+    uchar* const v = sized(m_small[2], width, rows);
+    const auto unpack =
+        source.format.pixelFormat == PixelFormat::Yuy2 ? libyuv::YUY2ToI422 : libyuv::UYVYToI422;
+    unpack(picked, width * 4, pairs, 2 * width, u, width, v, width, 2 * width, rows);
+    uchar* const left = sized(m_full[1], width, rows);
+    uchar* const right = sized(m_full[2], width, rows);
+    uchar* const y = sized(m_small[0], width, rows);
+    libyuv::SplitUVPlane(pairs, 2 * width, left, width, right, width, width, rows);
+    libyuv::InterpolatePlane(left, width, right, width, y, width, width, rows, HalfOfBoth);
+    return libyuv::I444ToARGBMatrix(y, width, u, width, v, width, sized(m_argb, width * 4, rows),
+                                    width * 4, constantsOf(source.format.color), width, rows) == 0;
+}
+
+bool FrameConverter::unpackAndScale422(const Source& source, const QSize& size)
 {
     const int width = source.width();
     const int halfWidth = halfUp(width);
-    const int rowBytes = halfWidth * 4;
     const int rows = size.height();
-    if (strideOf(source.view.planes[0], rowBytes, source.height()) == 0) {
-        return false;
-    }
-    scaleRows(source, rowBytes, rows);
+    scaleRows(source, halfWidth * 4, rows);
     uchar* const y = sized(m_full[0], width, rows);
     uchar* const u = sized(m_full[1], halfWidth, rows);
     uchar* const v = sized(m_full[2], halfWidth, rows);
     const auto unpack =
         source.format.pixelFormat == PixelFormat::Yuy2 ? libyuv::YUY2ToI422 : libyuv::UYVYToI422;
-    unpack(m_rows.data(), rowBytes, y, width, u, halfWidth, v, halfWidth, width, rows);
+    unpack(m_rows.data(), halfWidth * 4, y, width, u, halfWidth, v, halfWidth, width, rows);
 
     const int smallWidth = size.width();
     const int smallHalf = halfUp(smallWidth);
@@ -215,11 +245,11 @@ bool FrameConverter::scalePacked422(const Source& source, const QSize& size)
     uchar* const smallU = sized(m_small[1], smallHalf, rows);
     uchar* const smallV = sized(m_small[2], smallHalf, rows);
     libyuv::ScalePlane(y, width, width, rows, smallY, smallWidth, smallWidth, rows,
-                       libyuv::kFilterBox);
+                       libyuv::kFilterBilinear);
     libyuv::ScalePlane(u, halfWidth, halfWidth, rows, smallU, smallHalf, smallHalf, rows,
-                       libyuv::kFilterBox);
+                       libyuv::kFilterNone);
     libyuv::ScalePlane(v, halfWidth, halfWidth, rows, smallV, smallHalf, smallHalf, rows,
-                       libyuv::kFilterBox);
+                       libyuv::kFilterNone);
     return libyuv::I422ToARGBMatrix(smallY, smallWidth, smallU, smallHalf, smallV, smallHalf,
                                     sized(m_argb, smallWidth * 4, rows), smallWidth * 4,
                                     constantsOf(source.format.color), smallWidth, rows) == 0;
@@ -239,8 +269,10 @@ bool FrameConverter::scaleNv12(const Source& source, const QSize& size)
     const int uvWidth = halfUp(width) * 2;
     uchar* const y = sized(m_small[0], width, height);
     uchar* const uv = sized(m_small[1], uvWidth, halfUp(height));
-    libyuv::NV12Scale(view.planes[0].data, yStride, view.planes[1].data, uvStride, source.width(),
-                      source.height(), y, width, uv, uvWidth, width, height, libyuv::kFilterBox);
+    libyuv::ScalePlane(view.planes[0].data, yStride, source.width(), source.height(), y, width,
+                       width, height, filterFor(source.height(), height));
+    libyuv::UVScale(view.planes[1].data, uvStride, halfUp(source.width()), halfUp(source.height()),
+                    uv, uvWidth, halfUp(width), halfUp(height), libyuv::kFilterNone);
     return libyuv::NV12ToARGBMatrix(y, width, uv, uvWidth, sized(m_argb, width * 4, height),
                                     width * 4, constantsOf(source.format.color), width,
                                     height) == 0;
@@ -263,9 +295,12 @@ bool FrameConverter::scaleI420(const Source& source, const QSize& size)
     uchar* const y = sized(m_small[0], width, height);
     uchar* const u = sized(m_small[1], smallHalf, halfUp(height));
     uchar* const v = sized(m_small[2], smallHalf, halfUp(height));
-    libyuv::I420Scale(view.planes[0].data, yStride, view.planes[1].data, uStride,
-                      view.planes[2].data, vStride, source.width(), source.height(), y, width, u,
-                      smallHalf, v, smallHalf, width, height, libyuv::kFilterBox);
+    libyuv::ScalePlane(view.planes[0].data, yStride, source.width(), source.height(), y, width,
+                       width, height, filterFor(source.height(), height));
+    libyuv::ScalePlane(view.planes[1].data, uStride, halfWidth, halfHeight, u, smallHalf, smallHalf,
+                       halfUp(height), libyuv::kFilterNone);
+    libyuv::ScalePlane(view.planes[2].data, vStride, halfWidth, halfHeight, v, smallHalf, smallHalf,
+                       halfUp(height), libyuv::kFilterNone);
     return libyuv::I420ToARGBMatrix(y, width, u, smallHalf, v, smallHalf,
                                     sized(m_argb, width * 4, height), width * 4,
                                     constantsOf(source.format.color), width, height) == 0;
@@ -273,34 +308,62 @@ bool FrameConverter::scaleI420(const Source& source, const QSize& size)
 
 bool FrameConverter::scaleRgb(const Source& source, const QSize& size)
 {
-    const PixelFormat pixelFormat = source.format.pixelFormat;
-    const int width = source.width();
-    const int rowBytes = width * rgbBytes(pixelFormat);
-    const int rows = size.height();
-    if (strideOf(source.view.planes[0], rowBytes, source.height()) == 0) {
+    const FrameView::Plane& plane = source.view.planes[0];
+    const int bytes = rgbBytes(source.format.pixelFormat);
+    const int stride = strideOf(plane, source.width() * bytes, source.height());
+    if (stride == 0) {
         return false;
     }
-    scaleRows(source, rowBytes, rows);
-    // libyuv names formats by the 32-bit word, not in memory order: its ARGB is our BGRX.
-    uchar* const full = sized(m_full[0], width * 4, rows);
+    return bytes == 4 ? scaleRgb32(source, stride, size) : scaleRgb24(source, size);
+}
+
+// Scaling doesn't mind the order of the four bytes.
+bool FrameConverter::scaleRgb32(const Source& source, int stride, const QSize& size)
+{
+    const int width = size.width();
+    const int height = size.height();
+    uchar* const small = sized(m_small[0], width * 4, height);
+    libyuv::ARGBScale(source.view.planes[0].data, stride, source.width(), source.height(), small,
+                      width * 4, width, height, filterFor(source.height(), height));
     const auto unpack = [&](auto function) {
-        function(m_rows.data(), rowBytes, full, width * 4, width, rows);
+        return function(small, width * 4, sized(m_argb, width * 4, height), width * 4, width,
+                        height) == 0;
     };
-    if (pixelFormat == PixelFormat::Bgrx) {
-        unpack(libyuv::ARGBCopy);
-    } else if (pixelFormat == PixelFormat::Rgbx) {
-        unpack(libyuv::ABGRToARGB);
-    } else if (pixelFormat == PixelFormat::Xrgb) {
-        unpack(libyuv::BGRAToARGB);
-    } else if (pixelFormat == PixelFormat::Xbgr) {
-        unpack(libyuv::RGBAToARGB);
-    } else if (pixelFormat == PixelFormat::Rgb) {
-        unpack(libyuv::RAWToARGB);
-    } else {
-        unpack(libyuv::RGB24ToARGB);
+    // libyuv names formats by the 32-bit word, not in memory order: its ARGB is our BGRX.
+    switch (source.format.pixelFormat) {
+    case PixelFormat::Rgbx:
+        return unpack(libyuv::ABGRToARGB);
+    case PixelFormat::Xrgb:
+        return unpack(libyuv::BGRAToARGB);
+    case PixelFormat::Xbgr:
+        return unpack(libyuv::RGBAToARGB);
+    default:
+        return unpack(libyuv::ARGBCopy);
     }
+}
+
+// A format that can't be scaled horizontally before it is unpacked. Vertically it can, and then
+// there is less to unpack.
+bool FrameConverter::scaleRgb24(const Source& source, const QSize& size)
+{
+    const int width = source.width();
+    const int rows = size.height();
+    scaleRows(source, width * 3, rows);
+    uchar* const full = sized(m_full[0], width * 4, rows);
+    const auto unpack =
+        source.format.pixelFormat == PixelFormat::Rgb ? libyuv::RAWToARGB : libyuv::RGB24ToARGB;
+    unpack(m_rows.data(), width * 3, full, width * 4, width, rows);
     return libyuv::ARGBScale(full, width * 4, width, rows, sized(m_argb, size.width() * 4, rows),
-                             size.width() * 4, size.width(), rows, libyuv::kFilterBox) == 0;
+                             size.width() * 4, size.width(), rows, libyuv::kFilterBilinear) == 0;
+}
+
+void FrameConverter::scaleRows(const Source& source, int rowBytes, int rows)
+{
+    const FrameView::Plane& plane = source.view.planes[0];
+    const bool isMuchSmaller = source.height() >= 2 * rows;
+    libyuv::ScalePlane(plane.data, strideOf(plane, rowBytes, source.height()), rowBytes,
+                       source.height(), sized(m_rows, rowBytes, rows), rowBytes, rowBytes, rows,
+                       isMuchSmaller ? libyuv::kFilterNone : libyuv::kFilterBilinear);
 }
 
 bool FrameConverter::scaleJpeg(const QSize& size)
@@ -309,7 +372,7 @@ bool FrameConverter::scaleJpeg(const QSize& size)
     return !full.isEmpty() &&
            libyuv::ARGBScale(m_full[0].data(), full.width() * 4, full.width(), full.height(),
                              sized(m_argb, size.width() * 4, size.height()), size.width() * 4,
-                             size.width(), size.height(), libyuv::kFilterBox) == 0;
+                             size.width(), size.height(), libyuv::kFilterBilinear) == 0;
 }
 
 QImage FrameConverter::oriented(const QSize& size, const FrameOrientation& orientation)

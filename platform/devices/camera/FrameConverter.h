@@ -35,9 +35,13 @@ private:
     QImage tryToConvert(const FrameFormat& format, const FrameView& view,
                         const FrameOrientation& orientation, const QSize& bound);
     bool scalePacked422(const Source& source, const QSize& size);
+    bool thinPacked422(const Source& source, const QSize& size);
+    bool unpackAndScale422(const Source& source, const QSize& size);
     bool scaleNv12(const Source& source, const QSize& size);
     bool scaleI420(const Source& source, const QSize& size);
     bool scaleRgb(const Source& source, const QSize& size);
+    bool scaleRgb32(const Source& source, int stride, const QSize& size);
+    bool scaleRgb24(const Source& source, const QSize& size);
     bool scaleJpeg(const QSize& size);
     void scaleRows(const Source& source, int rowBytes, int rows);
     QImage oriented(const QSize& size, const FrameOrientation& orientation);

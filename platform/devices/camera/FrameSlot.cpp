@@ -16,6 +16,7 @@ int FrameSlot::open()
     m_timeout = StallTimeout();
     forgetFrames();
     m_statistics.start(m_now());
+    m_modes.clear();
     m_isOpen = true;
     return ++m_generation;
 }
@@ -56,7 +57,11 @@ bool FrameSlot::isBlack() const
 QJsonObject FrameSlot::figures() const
 {
     const std::scoped_lock lock(m_mutex);
-    return m_statistics.figures();
+    QJsonObject result = m_statistics.figures();
+    if (!m_modes.isEmpty()) {
+        result.insert(QStringLiteral("modes"), m_modes);
+    }
+    return result;
 }
 
 void FrameSlot::notificationArrived()
@@ -69,6 +74,14 @@ void FrameSlot::setHeld(bool isHeld)
 {
     const std::scoped_lock lock(m_mutex);
     m_isHeld = isHeld;
+}
+
+void FrameSlot::setModes(int generation, const QString& text)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (takes(generation)) {
+        m_modes = text;
+    }
 }
 
 void FrameSlot::setRate(int generation, double framesPerSecond)

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QJsonObject>
+#include <QString>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -36,6 +37,7 @@ public:
     void setHeld(bool isHeld);
 
     // camera thread
+    void setModes(int generation, const QString& text); // for the figures
     void setRate(int generation, double framesPerSecond);
     void expectFrames(int generation); // the stream runs: silence counts from now on
     void interrupt(int generation);    // drops the frame, because the stream ended
@@ -55,6 +57,7 @@ private:
     std::optional<Clock::time_point> m_blackSince;
     bool m_isBlack = false;
     FrameStatistics m_statistics;
+    QString m_modes;
     int m_generation = 0;
     bool m_isOpen = false;
     bool m_isHeld = false;

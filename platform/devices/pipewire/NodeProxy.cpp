@@ -3,6 +3,7 @@
 #include "platform/devices/pipewire/NodeProxy.h"
 
 #include "platform/devices/pipewire/NodeProperties.h"
+#include "platform/devices/pipewire/OfferedModes.h"
 #include "platform/devices/pipewire/StreamFormat.h"
 
 #include <spa/param/video/format-utils.h>
@@ -130,6 +131,7 @@ void NodeProxy::onFormat(const spa_pod* format)
     if (mediaSubtype != SPA_MEDIA_SUBTYPE_raw) {
         m_node.hasColor = true;
         m_node.isReadable = m_node.isReadable || mediaSubtype == SPA_MEDIA_SUBTYPE_mjpg;
+        OfferedModes::read(format, m_node.modes);
         return;
     }
     const spa_pod_prop* const property =
@@ -152,6 +154,9 @@ void NodeProxy::onFormat(const spa_pod* format)
         m_node.hasColor = m_node.hasColor || !isGray(ids[i]);
         m_node.isReadable =
             m_node.isReadable || (!isForGraphics && pixelFormatOf(ids[i]) != PixelFormat::None);
+    }
+    if (!isForGraphics) {
+        OfferedModes::read(format, m_node.modes);
     }
 }
 

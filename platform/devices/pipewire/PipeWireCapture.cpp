@@ -10,8 +10,7 @@ namespace Platform {
 
 namespace {
 
-// If a camera offers several sizes: enough for a sharp preview on any screen.
-const QSize PreferredSize(640, 480);
+constexpr QSize UsualPreview(306, 172); // until the preview says its size
 
 } // namespace
 
@@ -30,6 +29,21 @@ PipeWireCapture::~PipeWireCapture()
 {
     close();
     m_connection.removeObserver(this);
+}
+
+// On a sharper screen, another mode may be the best one.
+void PipeWireCapture::setOutputSize(const QSize& pixels)
+{
+    m_outputSize = pixels;
+    if (m_stream && bestMode(m_serial) != m_mode) {
+        m_opening.reopen();
+    }
+}
+
+std::optional<CameraMode> PipeWireCapture::bestMode(const QString& serial) const
+{
+    return m_connection.cameras().modesOf(serial).forPreview(m_outputSize.isEmpty() ? UsualPreview
+                                                                                    : m_outputSize);
 }
 
 void PipeWireCapture::camerasChanged()
@@ -142,7 +156,9 @@ bool PipeWireCapture::openStream(const QString& serial)
     }
     m_serial = serial;
     m_didRun = false;
-    m_stream = std::make_unique<PipeWireStream>(m_connection.context(), serial, PreferredSize,
+    m_mode = bestMode(serial);
+    m_slot->setModes(m_opening.generation(), m_connection.cameras().modesOf(serial).text());
+    m_stream = std::make_unique<PipeWireStream>(m_connection.context(), serial, m_mode,
                                                 *static_cast<PipeWireStream::Listener*>(this));
     m_opening.startBegan();
     const ServerError error = m_connection.errorOf(serial);

@@ -28,7 +28,7 @@ public:
 
     void open(int generation, const QString& id) { m_opening.open(generation, id); }
     void close() { m_opening.close(); }
-    void setOutputSize(const QSize& pixels) { m_outputSize = pixels; }
+    void setOutputSize(const QSize& pixels);
 
     void camerasChanged() override;
     void serverMissing() override;
@@ -37,6 +37,7 @@ public:
     void connectionLost() override;
 
 private:
+    std::optional<CameraMode> bestMode(const QString& serial) const;
     void cameraEnded(const ServerError& error);
     void streamBlocked(const ServerError& error, DeviceState otherwise);
     void setReason(const ServerError& error);
@@ -59,8 +60,9 @@ private:
     std::shared_ptr<CameraFeed::Listener> m_listener;
     FrameConverter m_converter;
     QSize m_outputSize;
-    QString m_serial;      // of the camera that the stream is for
-    bool m_didRun = false; // the stream
+    QString m_serial;                 // of the camera that the stream is for
+    std::optional<CameraMode> m_mode; // that the stream asked for
+    bool m_didRun = false;            // the stream
     std::unique_ptr<PipeWireStream> m_stream;
     CameraOpening m_opening;
     LoopTimer m_timer;

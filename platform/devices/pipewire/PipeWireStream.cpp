@@ -12,6 +12,7 @@ namespace Platform {
 
 namespace {
 
+constexpr spa_rectangle UsualSize{640, 480};
 constexpr spa_rectangle SmallestSize{1, 1};
 constexpr spa_rectangle LargestSize{8192, 8192};
 constexpr spa_fraction UsualRate{30, 1};
@@ -21,12 +22,11 @@ constexpr int BufferCount = 4;
 constexpr int FewestBuffers = 2;
 constexpr int MostBuffers = 16;
 
-void addFormats(spa_pod_builder& builder)
+void addFormats(spa_pod_builder& builder, const std::vector<uint32_t>& formats)
 {
     spa_pod_builder_prop(&builder, SPA_FORMAT_VIDEO_format, 0);
     spa_pod_frame choice{};
     spa_pod_builder_push_choice(&builder, &choice, SPA_CHOICE_Enum, 0);
-    const std::vector<uint32_t>& formats = readableFormats();
     spa_pod_builder_id(&builder, formats.front()); // a choice starts with its default
     for (const uint32_t format : formats) {
         spa_pod_builder_id(&builder, format);
@@ -34,20 +34,48 @@ void addFormats(spa_pod_builder& builder)
     spa_pod_builder_pop(&builder, &choice);
 }
 
-const spa_pod* offer(spa_pod_builder& builder, uint32_t mediaSubtype,
-                     const spa_rectangle& preferred)
+void beginOffer(spa_pod_builder& builder, spa_pod_frame& frame, uint32_t mediaSubtype)
 {
-    spa_pod_frame frame{};
     spa_pod_builder_push_object(&builder, &frame, SPA_TYPE_OBJECT_Format, SPA_PARAM_EnumFormat);
     spa_pod_builder_add(&builder, SPA_FORMAT_mediaType, SPA_POD_Id(SPA_MEDIA_TYPE_video),
                         SPA_FORMAT_mediaSubtype, SPA_POD_Id(mediaSubtype), 0);
+}
+
+const spa_pod* offerOfAll(spa_pod_builder& builder, uint32_t mediaSubtype)
+{
+    spa_pod_frame frame{};
+    beginOffer(builder, frame, mediaSubtype);
     if (mediaSubtype == SPA_MEDIA_SUBTYPE_raw) {
-        addFormats(builder);
+        addFormats(builder, readableFormats());
     }
     spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_size,
-                        SPA_POD_CHOICE_RANGE_Rectangle(&preferred, &SmallestSize, &LargestSize),
+                        SPA_POD_CHOICE_RANGE_Rectangle(&UsualSize, &SmallestSize, &LargestSize),
                         SPA_FORMAT_VIDEO_framerate,
                         SPA_POD_CHOICE_RANGE_Fraction(&UsualRate, &LowestRate, &HighestRate), 0);
+    return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
+}
+
+const spa_pod* offerOf(spa_pod_builder& builder, const CameraMode& mode)
+{
+    const bool isRaw = mode.pixelFormat != PixelFormat::Mjpg;
+    const spa_rectangle size{static_cast<uint32_t>(mode.size.width()),
+                             static_cast<uint32_t>(mode.size.height())};
+    const spa_fraction rate{static_cast<uint32_t>(mode.rate.numerator),
+                            static_cast<uint32_t>(mode.rate.denominator)};
+    spa_pod_frame frame{};
+    beginOffer(builder, frame,
+               isRaw ? uint32_t{SPA_MEDIA_SUBTYPE_raw} : uint32_t{SPA_MEDIA_SUBTYPE_mjpg});
+    if (isRaw) {
+        addFormats(builder, formatsOf(mode.pixelFormat));
+    }
+    spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_size, SPA_POD_Rectangle(&size), 0);
+    if (rate.num > 0) {
+        spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_framerate, SPA_POD_Fraction(&rate), 0);
+    } else {
+        spa_pod_builder_add(&builder, SPA_FORMAT_VIDEO_framerate,
+                            SPA_POD_CHOICE_RANGE_Fraction(&UsualRate, &LowestRate, &HighestRate),
+                            0);
+    }
     return static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame));
 }
 
@@ -134,7 +162,7 @@ const pw_core_events PipeWireStream::CoreEvents = [] {
 }();
 
 PipeWireStream::PipeWireStream(pw_context* context, const QString& serial,
-                               const QSize& preferredSize, Listener& listener)
+                               const std::optional<CameraMode>& preferred, Listener& listener)
     : m_listener(listener),
       m_core(pw_context_connect(context, nullptr, 0)),
       m_errorTimer(pw_context_get_main_loop(context), [this] { m_listener.streamEnded(m_error); })
@@ -150,7 +178,7 @@ PipeWireStream::PipeWireStream(pw_context* context, const QString& serial,
     m_stream = pw_stream_new(m_core, "camera check", properties);
     if (m_stream) {
         pw_stream_add_listener(m_stream, &m_hook, &Events, this);
-        connectTo(preferredSize);
+        connectTo(preferred);
     }
 }
 
@@ -172,18 +200,21 @@ quint32 PipeWireStream::nodeId() const
     return m_stream ? pw_stream_get_node_id(m_stream) : PW_ID_ANY;
 }
 
-void PipeWireStream::connectTo(const QSize& preferredSize)
+// The server takes the first offer that the camera can keep.
+void PipeWireStream::connectTo(const std::optional<CameraMode>& preferred)
 {
-    uint8_t memory[2048];
+    uint8_t memory[4096];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    const spa_rectangle preferred{static_cast<uint32_t>(preferredSize.width()),
-                                  static_cast<uint32_t>(preferredSize.height())};
-    const spa_pod* offers[] = {offer(builder, SPA_MEDIA_SUBTYPE_raw, preferred),
-                               offer(builder, SPA_MEDIA_SUBTYPE_mjpg, preferred)};
+    std::vector<const spa_pod*> offers;
+    if (preferred) {
+        offers.push_back(offerOf(builder, *preferred));
+    }
+    offers.push_back(offerOfAll(builder, SPA_MEDIA_SUBTYPE_raw));
+    offers.push_back(offerOfAll(builder, SPA_MEDIA_SUBTYPE_mjpg));
     pw_stream_connect(
         m_stream, PW_DIRECTION_INPUT, PW_ID_ANY,
         static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS),
-        offers, std::size(offers));
+        offers.data(), static_cast<uint32_t>(offers.size()));
 }
 
 void PipeWireStream::onServerError(int result)

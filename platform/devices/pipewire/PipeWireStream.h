@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/FrameFormat.h"
+#include "platform/devices/camera/CameraModes.h"
 #include "platform/devices/pipewire/LoopTimer.h"
 #include "platform/devices/pipewire/ServerError.h"
 
@@ -31,8 +31,9 @@ public:
         ~Listener() = default;
     };
 
-    PipeWireStream(pw_context* context, const QString& serial, const QSize& preferredSize,
-                   Listener& listener);
+    // Takes other modes, too: another program may have agreed on one.
+    PipeWireStream(pw_context* context, const QString& serial,
+                   const std::optional<CameraMode>& preferred, Listener& listener);
     ~PipeWireStream();
     PipeWireStream(const PipeWireStream&) = delete;
     PipeWireStream& operator=(const PipeWireStream&) = delete;
@@ -40,7 +41,7 @@ public:
     quint32 nodeId() const;
 
 private:
-    void connectTo(const QSize& preferredSize);
+    void connectTo(const std::optional<CameraMode>& preferred);
     void onServerError(int result);
     void onStateChanged(pw_stream_state state, const char* error);
     void onFormatChanged(const spa_pod* format);

@@ -41,6 +41,17 @@ const std::vector<uint32_t>& readableFormats()
     return formats;
 }
 
+std::vector<uint32_t> formatsOf(PixelFormat pixelFormat)
+{
+    std::vector<uint32_t> result;
+    for (const Format& format : Formats) {
+        if (format.pixelFormat == pixelFormat) {
+            result.push_back(format.spaFormat);
+        }
+    }
+    return result;
+}
+
 PixelFormat pixelFormatOf(uint32_t spaFormat)
 {
     const auto* const it =

@@ -4,6 +4,7 @@
 
 #include "platform/devices/camera/DeviceFileUser.h"
 #include "platform/devices/camera/FrameSlot.h"
+#include "platform/devices/v4l2/CapsModes.h"
 
 #include <cerrno>
 #include <gst/app/gstappsink.h>
@@ -18,10 +19,8 @@ namespace {
 
 const QString NoFormat = QStringLiteral("The camera offers no format that can be shown");
 constexpr GstClockTime PollPeriod = 50 * GST_MSECOND;
-// The first caps are preferred if there is a choice: enough for a sharp preview on any screen.
+constexpr QSize UsualPreview(306, 172); // until the preview says its size
 constexpr const char* ReadableCaps =
-    "video/x-raw, format=(string){ YUY2, UYVY, NV12, I420, RGB, BGR, RGBx, BGRx, xRGB, xBGR }, "
-    "width=640, height=480, framerate=(fraction)[ 1/1, 30/1 ]; "
     "video/x-raw, format=(string){ YUY2, UYVY, NV12, I420, RGB, BGR, RGBx, BGRx, xRGB, xBGR }; "
     "image/jpeg";
 
@@ -33,39 +32,11 @@ struct Unref
 using Element = std::unique_ptr<GstElement, Unref<GstElement>>;
 using Bus = std::unique_ptr<GstBus, Unref<GstBus>>;
 
-struct Failure
+struct UnrefCaps
 {
-    DeviceState state;
-    QString text;
+    void operator()(GstCaps* caps) const { gst_caps_unref(caps); }
 };
-
-PixelFormat pixelFormatOf(GstVideoFormat format)
-{
-    switch (format) {
-    case GST_VIDEO_FORMAT_YUY2:
-        return PixelFormat::Yuy2;
-    case GST_VIDEO_FORMAT_UYVY:
-        return PixelFormat::Uyvy;
-    case GST_VIDEO_FORMAT_NV12:
-        return PixelFormat::Nv12;
-    case GST_VIDEO_FORMAT_I420:
-        return PixelFormat::I420;
-    case GST_VIDEO_FORMAT_RGB:
-        return PixelFormat::Rgb;
-    case GST_VIDEO_FORMAT_BGR:
-        return PixelFormat::Bgr;
-    case GST_VIDEO_FORMAT_RGBx:
-        return PixelFormat::Rgbx;
-    case GST_VIDEO_FORMAT_BGRx:
-        return PixelFormat::Bgrx;
-    case GST_VIDEO_FORMAT_xRGB:
-        return PixelFormat::Xrgb;
-    case GST_VIDEO_FORMAT_xBGR:
-        return PixelFormat::Xbgr;
-    default:
-        return PixelFormat::None;
-    }
-}
+using Caps = std::unique_ptr<GstCaps, UnrefCaps>;
 
 YuvColor colorOf(const GstVideoColorimetry& colorimetry)
 {
@@ -98,28 +69,6 @@ DeviceState stateOf(const GError& error, const QString& text)
     return DeviceState::Failed;
 }
 
-std::optional<Failure> failureOn(GstBus* bus)
-{
-    GstMessage* const message =
-        gst_bus_pop_filtered(bus, static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS));
-    if (!message) {
-        return std::nullopt;
-    }
-    Failure result{DeviceState::Failed, QStringLiteral("The camera sends no more frames")};
-    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR) {
-        GError* error = nullptr;
-        gchar* details = nullptr;
-        gst_message_parse_error(message, &error, &details);
-        result.text = QString::fromUtf8(error->message) + QLatin1Char(' ') +
-                      QString::fromUtf8(details).simplified();
-        result.state = stateOf(*error, result.text);
-        g_error_free(error);
-        g_free(details);
-    }
-    gst_message_unref(message);
-    return result;
-}
-
 bool isGStreamerReady()
 {
     static std::once_flag once;
@@ -149,17 +98,25 @@ Element makeSink()
     return sink;
 }
 
-// A driver's formats are known only once it is open.
-bool canAgree(GstElement* sink)
+// What of the camera's formats can be shown. A driver's formats are known only once it is open.
+Caps offeredTo(GstElement* sink)
 {
     GstPad* const pad = gst_element_get_static_pad(sink, "sink");
-    GstCaps* const readable = gst_caps_from_string(ReadableCaps);
-    GstCaps* const offered = gst_pad_peer_query_caps(pad, readable);
-    const bool result = gst_caps_is_empty(offered) == 0;
-    gst_caps_unref(offered);
-    gst_caps_unref(readable);
+    const Caps readable(gst_caps_from_string(ReadableCaps));
+    Caps result(gst_pad_peer_query_caps(pad, readable.get()));
     gst_object_unref(pad);
     return result;
+}
+
+bool canAgree(GstElement* sink)
+{
+    return gst_caps_is_empty(offeredTo(sink).get()) == 0;
+}
+
+void limitTo(GstElement* sink, const CameraMode& mode)
+{
+    const Caps caps(CapsModes::capsOf(mode));
+    g_object_set(sink, "caps", caps.get(), nullptr);
 }
 
 FrameView::Plane planeOf(const GstVideoFrame& frame, guint index)
@@ -237,26 +194,98 @@ void V4l2Stream::tell(Function function)
     m_sender.post([function, listener = &m_listener] { function(*listener); });
 }
 
+std::optional<V4l2Stream::Failure> V4l2Stream::failureOn(GstBus* bus)
+{
+    GstMessage* const message =
+        gst_bus_pop_filtered(bus, static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS));
+    if (!message) {
+        return std::nullopt;
+    }
+    Failure result{DeviceState::Failed, QStringLiteral("The camera sends no more frames")};
+    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR) {
+        GError* error = nullptr;
+        gchar* details = nullptr;
+        gst_message_parse_error(message, &error, &details);
+        result.text = QString::fromUtf8(error->message) + QLatin1Char(' ') +
+                      QString::fromUtf8(details).simplified();
+        result.state = stateOf(*error, result.text);
+        g_error_free(error);
+        g_free(details);
+    }
+    gst_message_unref(message);
+    return result;
+}
+
+// Opens the driver, asks what it offers, and starts it with the best mode for the preview.
+std::optional<V4l2Stream::Failure> V4l2Stream::startPipeline(GstElement* pipeline, GstElement* sink,
+                                                             GstBus* bus)
+{
+    const auto reach = [&](GstState state) {
+        return isInterruptionRequested() ||
+               gst_element_set_state(pipeline, state) != GST_STATE_CHANGE_FAILURE;
+    };
+    bool isReached = reach(GST_STATE_READY);
+    if (isReached) {
+        m_modes = CapsModes::modesOf(offeredTo(sink).get());
+        m_slot->setModes(m_generation, m_modes.text());
+        m_mode = bestMode();
+        if (m_mode) {
+            limitTo(sink, *m_mode);
+        }
+        isReached = reach(GST_STATE_PLAYING);
+    }
+    if (isReached) {
+        return std::nullopt;
+    }
+    return failureOn(bus).value_or(
+        Failure{DeviceState::Failed, QStringLiteral("The camera doesn't start")});
+}
+
+// Not every driver keeps what it offers.
+void V4l2Stream::startWithAnyMode(GstElement* pipeline, GstElement* sink)
+{
+    m_modes = CameraModes();
+    m_mode.reset();
+    gst_element_set_state(pipeline, GST_STATE_READY);
+    const Caps caps(gst_caps_from_string(ReadableCaps));
+    g_object_set(sink, "caps", caps.get(), nullptr);
+    gst_element_set_state(pipeline, GST_STATE_PLAYING);
+}
+
+std::optional<CameraMode> V4l2Stream::bestMode() const
+{
+    const QSize preview = m_outputSize;
+    return m_modes.forPreview(preview.isEmpty() ? UsualPreview : preview);
+}
+
 void V4l2Stream::play(GstElement* pipeline, GstElement* sink)
 {
     const Bus bus(gst_element_get_bus(pipeline));
     if (isInterruptionRequested()) {
         return;
     }
-    if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE) {
-        const Failure failure = failureOn(bus.get()).value_or(
-            Failure{DeviceState::Failed, QStringLiteral("The camera doesn't start")});
-        fail(failure.text, failure.state);
+    if (const std::optional<Failure> failure = startPipeline(pipeline, sink, bus.get())) {
+        fail(failure->text, failure->state);
         return;
     }
     tell([](Listener& listener) { listener.streamRuns(); });
     while (!isInterruptionRequested()) {
+        if (bestMode() != m_mode) { // the preview is on a sharper screen now
+            gst_element_set_state(pipeline, GST_STATE_READY);
+            m_mode = bestMode();
+            limitTo(sink, *m_mode);
+            gst_element_set_state(pipeline, GST_STATE_PLAYING);
+        }
         GstSample* const sample = gst_app_sink_try_pull_sample(GST_APP_SINK(sink), PollPeriod);
         if (sample) {
             deliver(sample);
             gst_sample_unref(sample);
         }
         if (const std::optional<Failure> failure = failureOn(bus.get())) {
+            if (failure->state == DeviceState::Failed && m_mode && !m_hasFrame) {
+                startWithAnyMode(pipeline, sink);
+                continue;
+            }
             const bool isUnreadable = failure->state == DeviceState::Failed && !canAgree(sink);
             fail(isUnreadable ? NoFormat : failure->text,
                  isUnreadable ? DeviceState::Unreadable : failure->state);
@@ -292,7 +321,8 @@ void V4l2Stream::deliver(GstSample* sample)
     } else {
         GstVideoFrame frame;
         if (gst_video_frame_map(&frame, &info, buffer, GST_MAP_READ) != 0) {
-            format.pixelFormat = pixelFormatOf(GST_VIDEO_INFO_FORMAT(&info));
+            format.pixelFormat =
+                CapsModes::pixelFormatOf(gst_video_format_to_string(GST_VIDEO_INFO_FORMAT(&info)));
             view.planeCount = static_cast<int>(GST_VIDEO_FRAME_N_PLANES(&frame));
             for (guint i = 0; i < GST_VIDEO_FRAME_N_PLANES(&frame) && i < view.planes.size(); ++i) {
                 view.planes[i] = planeOf(frame, i);

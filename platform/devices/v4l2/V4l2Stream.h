@@ -3,12 +3,15 @@
 #pragma once
 
 #include "platform/backend/Mailbox.h"
+#include "platform/devices/camera/CameraModes.h"
 #include "platform/devices/camera/FrameConverter.h"
 #include "platform/devices/v4l2/V4l2Parts.h"
 
 #include <QThread>
 #include <atomic>
+#include <optional>
 
+typedef struct _GstBus GstBus;
 typedef struct _GstSample GstSample;
 
 namespace Platform {
@@ -48,11 +51,21 @@ protected:
     void run() override; // until an interruption is requested
 
 private:
+    struct Failure
+    {
+        DeviceState state;
+        QString text;
+    };
+
+    static std::optional<Failure> failureOn(GstBus* bus);
     void open();
     void fail(const QString& text, DeviceState state = DeviceState::Failed);
     template <typename Function>
     void tell(Function function);
+    std::optional<Failure> startPipeline(GstElement* pipeline, GstElement* sink, GstBus* bus);
+    void startWithAnyMode(GstElement* pipeline, GstElement* sink);
     void play(GstElement* pipeline, GstElement* sink);
+    std::optional<CameraMode> bestMode() const;
     void deliver(GstSample* sample);
 
     const V4l2Parts m_parts;
@@ -64,6 +77,8 @@ private:
     Listener& m_listener;
     std::atomic<QSize> m_outputSize;
     FrameConverter m_converter;
+    CameraModes m_modes;
+    std::optional<CameraMode> m_mode; // that the camera is asked for
     bool m_hasFrame = false;
 };
 

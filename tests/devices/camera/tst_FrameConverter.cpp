@@ -4,6 +4,9 @@
 #include "tests/devices/camera/JpegSample.h"
 #include "tests/support/CameraPattern.h"
 
+#include <QBuffer>
+#include <QLinearGradient>
+#include <QPainter>
 #include <QProcess>
 #include <QtTest>
 
@@ -65,6 +68,139 @@ bool isNear(QRgb actual, QRgb expected)
            qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
 }
 
+// Soft shades, slanted edges and thin lines in all colors.
+QImage sceneOf(const QSize& size)
+{
+    QImage result(size, QImage::Format_RGB32);
+    QLinearGradient shades(0, 0, size.width(), size.height());
+    shades.setColorAt(0, QColor(210, 190, 160));
+    shades.setColorAt(0.5, QColor(70, 110, 150));
+    shades.setColorAt(1, QColor(30, 60, 40));
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(result.rect(), shades);
+    painter.scale(size.width() / 100.0, size.height() / 100.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(220, 170, 150));
+    painter.drawEllipse(QRectF(35, 15, 30, 50));
+    painter.setBrush(QColor(150, 30, 40));
+    painter.drawPolygon(QPolygonF({{20, 100}, {50, 62}, {85, 100}}));
+    painter.setPen(QPen(Qt::white, 0.8));
+    painter.drawLine(QPointF(2, 90), QPointF(98, 5));
+    return result;
+}
+
+// The matrix of BT.601, for video's range.
+void toYuv(QRgb pixel, double& y, double& u, double& v)
+{
+    const double red = qRed(pixel);
+    const double green = qGreen(pixel);
+    const double blue = qBlue(pixel);
+    y = 16 + 0.257 * red + 0.504 * green + 0.098 * blue;
+    u = 128 - 0.148 * red - 0.291 * green + 0.439 * blue;
+    v = 128 + 0.439 * red - 0.368 * green - 0.071 * blue;
+}
+
+// One plane of a scene, 0 to 2 for Y, U and V: a sample for each block of pixels.
+QByteArray planeOf(const QImage& scene, int plane, const QSize& block)
+{
+    QByteArray result;
+    for (int top = 0; top < scene.height(); top += block.height()) {
+        for (int left = 0; left < scene.width(); left += block.width()) {
+            double yuv[3] = {};
+            toYuv(scene.pixel(left, top), yuv[0], yuv[1], yuv[2]);
+            result.append(static_cast<char>(qRound(yuv[plane])));
+        }
+    }
+    return result;
+}
+
+// Mixes samples of planes: each letter of the order is Y, U or V.
+QByteArray packed(const QImage& scene, const char* order)
+{
+    const QImage even = scene.copy(0, 0, (scene.width() + 1) / 2 * 2, scene.height());
+    const QByteArray y = planeOf(even, 0, {1, 1});
+    const QByteArray u = planeOf(even, 1, {2, 1});
+    const QByteArray v = planeOf(even, 2, {2, 1});
+    QByteArray result;
+    for (int i = 0; i < u.size(); ++i) {
+        int luma = 2 * i;
+        for (const char* letter = order; *letter != '\0'; ++letter) {
+            result.append(*letter == 'Y' ? y.at(luma++) : *letter == 'U' ? u.at(i) : v.at(i));
+        }
+    }
+    return result;
+}
+
+QByteArray semiPlanar(const QImage& scene)
+{
+    const QByteArray u = planeOf(scene, 1, {2, 2});
+    const QByteArray v = planeOf(scene, 2, {2, 2});
+    QByteArray result = planeOf(scene, 0, {1, 1});
+    for (int i = 0; i < u.size(); ++i) {
+        result.append(u.at(i)).append(v.at(i));
+    }
+    return result;
+}
+
+// Each letter of the order is R, G, B or an unused byte.
+QByteArray rgb(const QImage& scene, const char* order)
+{
+    QByteArray result;
+    for (int y = 0; y < scene.height(); ++y) {
+        for (int x = 0; x < scene.width(); ++x) {
+            const QRgb pixel = scene.pixel(x, y);
+            for (const char* letter = order; *letter != '\0'; ++letter) {
+                const int value = *letter == 'R'   ? qRed(pixel)
+                                  : *letter == 'G' ? qGreen(pixel)
+                                  : *letter == 'B' ? qBlue(pixel)
+                                                   : 0x5a;
+                result.append(static_cast<char>(value));
+            }
+        }
+    }
+    return result;
+}
+
+QByteArray jpegOf(const QImage& scene)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    scene.save(&buffer, "JPG", 92);
+    return buffer.data();
+}
+
+QByteArray encoded(const QImage& scene, PixelFormat format)
+{
+    switch (format) {
+    case PixelFormat::None:
+        return {};
+    case PixelFormat::Yuy2:
+        return packed(scene, "YUYV");
+    case PixelFormat::Uyvy:
+        return packed(scene, "UYVY");
+    case PixelFormat::Nv12:
+        return semiPlanar(scene);
+    case PixelFormat::I420:
+        return planeOf(scene, 0, {1, 1}) + planeOf(scene, 1, {2, 2}) + planeOf(scene, 2, {2, 2});
+    case PixelFormat::Bgrx:
+        return rgb(scene, "BGRx");
+    case PixelFormat::Rgbx:
+        return rgb(scene, "RGBx");
+    case PixelFormat::Xrgb:
+        return rgb(scene, "xRGB");
+    case PixelFormat::Xbgr:
+        return rgb(scene, "xBGR");
+    case PixelFormat::Rgb:
+        return rgb(scene, "RGB");
+    case PixelFormat::Bgr:
+        return rgb(scene, "BGR");
+    case PixelFormat::Mjpg:
+        return jpegOf(scene);
+    }
+    return {};
+}
+
 } // namespace
 
 class tst_FrameConverter : public QObject
@@ -92,6 +228,8 @@ private Q_SLOTS:
     void readsTheJpegsOfAnEncoder();
     void trustsTheJpegsOwnSize();
     void averagesWhatItScales();
+    void looksLikeTheSource_data();
+    void looksLikeTheSource();
 };
 
 void tst_FrameConverter::fits_data()
@@ -357,6 +495,64 @@ void tst_FrameConverter::averagesWhatItScales()
     const QImage result = converter.convert(format, viewOf(bytes, 128), {}, QSize(16, 16));
     QCOMPARE(result.size(), QSize(16, 16));
     QVERIFY(qAbs(qGreen(result.pixel(7, 7)) - 128) < 10);
+}
+
+void tst_FrameConverter::looksLikeTheSource_data()
+{
+    QTest::addColumn<int>("pixelFormat");
+    QTest::addColumn<QSize>("source");
+    const auto row = [](const char* name, PixelFormat format) {
+        for (const QSize& size :
+             {QSize(1280, 720), QSize(1281, 721), QSize(640, 480), QSize(620, 350), QSize(611, 349),
+              QSize(320, 180), QSize(161, 99), QSize(400, 1000)}) {
+            QTest::addRow("%s %dx%d", name, size.width(), size.height()) << int(format) << size;
+        }
+    };
+    row("YUY2", PixelFormat::Yuy2);
+    row("UYVY", PixelFormat::Uyvy);
+    row("NV12", PixelFormat::Nv12);
+    row("I420", PixelFormat::I420);
+    row("BGRX", PixelFormat::Bgrx);
+    row("RGBX", PixelFormat::Rgbx);
+    row("XRGB", PixelFormat::Xrgb);
+    row("XBGR", PixelFormat::Xbgr);
+    row("RGB", PixelFormat::Rgb);
+    row("BGR", PixelFormat::Bgr);
+    row("JPEG", PixelFormat::Mjpg);
+}
+
+// Compared with the mean of the area of each pixel, which needs many times the processor time.
+void tst_FrameConverter::looksLikeTheSource()
+{
+    constexpr double MaxMeanDifference = 3.0; // of 255
+    constexpr double MaxShareOff = 0.03;      // edges may fall on a neighbouring pixel
+    QFETCH(int, pixelFormat);
+    QFETCH(QSize, source);
+    const auto format = static_cast<PixelFormat>(pixelFormat);
+    const QImage scene = sceneOf(source);
+    FrameConverter converter;
+    const QImage actual = converter.convert({format, YuvColor::Bt601, source},
+                                            viewOf(encoded(scene, format), 0), {}, {306, 172});
+    QVERIFY(!actual.isNull());
+    const QImage expected =
+        scene.scaled(actual.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .mirrored(true, false);
+    qint64 sum = 0;
+    int off = 0;
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            const QRgb a = actual.pixel(x, y);
+            const QRgb b = expected.pixel(x, y);
+            const int difference =
+                qAbs(qRed(a) - qRed(b)) + qAbs(qGreen(a) - qGreen(b)) + qAbs(qBlue(a) - qBlue(b));
+            sum += difference;
+            off += difference > 3 * 24 ? 1 : 0;
+        }
+    }
+    const double pixels = double(actual.width()) * actual.height();
+    const double mean = double(sum) / 3.0 / pixels;
+    QVERIFY2(mean <= MaxMeanDifference, qPrintable(QString::number(mean)));
+    QVERIFY2(off / pixels <= MaxShareOff, qPrintable(QString::number(off / pixels)));
 }
 
 QTEST_GUILESS_MAIN(tst_FrameConverter)

@@ -48,6 +48,9 @@ private Q_SLOTS:
     void uprightsTurnedSensors();
     void mapsDriverMemory();
     void followsFormatChanges();
+    void choosesTheMode_data();
+    void choosesTheMode();
+    void changesTheModeForASharperScreen();
     void recordsMeasurements();
 };
 
@@ -190,6 +193,64 @@ void tst_PipeWireFrames::followsFormatChanges()
     // The preview may change its size, too.
     m_backend->setOutputSize(2 * PreviewSize);
     QTRY_COMPARE(m_backend->latestFrame().size(), QSize(611, 344));
+}
+
+void tst_PipeWireFrames::choosesTheMode_data()
+{
+    QTest::addColumn<QString>("modes");
+    QTest::addColumn<QByteArray>("agreed");
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const char* modes, const char* agreed, const char* told) {
+        QTest::newRow(name) << QString::fromLatin1(modes) << QByteArray(agreed)
+                            << QString::fromLatin1(told);
+    };
+    row("webcam",
+        "YUY2:1920x1080@5,YUY2:640x480@30,YUY2:320x240@30,MJPG:1920x1080@30,MJPG:320x240@30",
+        "size 320x240 rate 30 raw",
+        "YUY2 1920x1080 5/s, MJPG 1920x1080 30/s, YUY2 640x480 30/s, YUY2 320x240 30/s, "
+        "MJPG 320x240 30/s");
+    row("1080p stick", "YUY2:1920x1080@5,MJPG:1920x1080@30,MJPG:1280x720@30",
+        "size 1280x720 rate 30 jpeg",
+        "YUY2 1920x1080 5/s, MJPG 1920x1080 30/s, MJPG 1280x720 30/s");
+    row("4K", "NV12:3840x2160@30,NV12:1920x1080@30,MJPG:640x360@30", "size 1920x1080 rate 30 raw",
+        "NV12 3840x2160 30/s, NV12 1920x1080 30/s, MJPG 640x360 30/s");
+    row("slow", "YUY2:1280x720@10,YUY2:640x480@15", "size 640x480 rate 15 raw",
+        "YUY2 1280x720 10/s, YUY2 640x480 15/s");
+    row("small", "YUY2:160x120@30,YUY2:176x144@30", "size 176x144 rate 30 raw",
+        "YUY2 176x144 30/s, YUY2 160x120 30/s");
+    row("infrared, too", "GRAY8:640x360@30,MJPG:1280x720@30", "size 1280x720 rate 30 jpeg",
+        "MJPG 1280x720 30/s");
+    row("rates", "YUY2:640x480@60,YUY2:640x480@30,YUY2:640x480@15", "size 640x480 rate 30 raw",
+        "YUY2 640x480 60/s");
+}
+
+void tst_PipeWireFrames::choosesTheMode()
+{
+    QFETCH(QString, modes);
+    QFETCH(QByteArray, agreed);
+    const Camera camera = plug(NameA, QStringLiteral("Camera"), {QStringLiteral("--modes"), modes});
+    makeBackend();
+    m_backend->start();
+    QTRY_VERIFY_WITH_TIMEOUT(m_backend->delivers(), LongMs);
+    QVERIFY2(camera->output().contains(agreed), camera->output().constData());
+    QVERIFY(shows(m_backend->latestFrame(), Red));
+    m_backend->stop();
+    QTEST(figures().value(QStringLiteral("modes")).toString(), "told");
+}
+
+void tst_PipeWireFrames::changesTheModeForASharperScreen()
+{
+    const Camera camera =
+        plug(NameA, QStringLiteral("Camera"),
+             {QStringLiteral("--modes"), QStringLiteral("YUY2:1280x720@30,YUY2:320x180@30")});
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), PreviewSize, LongMs);
+    QVERIFY(camera->output().contains("size 320x180"));
+    m_backend->setOutputSize(2 * PreviewSize);
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), 2 * PreviewSize, LongMs);
+    QVERIFY(camera->output().contains("size 1280x720"));
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
 }
 
 void tst_PipeWireFrames::recordsMeasurements()

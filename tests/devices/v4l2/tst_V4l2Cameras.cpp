@@ -36,6 +36,9 @@ private Q_SLOTS:
     void recognizesACameraByItsPlace();
     void showsFrames_data();
     void showsFrames();
+    void choosesTheMode_data();
+    void choosesTheMode();
+    void followsTheOutputSize_data();
     void followsTheOutputSize();
     void switchesCameras();
     void reopensReturningCamera();
@@ -102,7 +105,7 @@ void tst_V4l2Cameras::showsFrames_data()
     QTest::newRow("another size")
         << QByteArray(" ! capsfilter caps=video/x-raw,width=1281,height=721,framerate=5/1")
         << QSize(306, 172);
-    QTest::newRow("what it prefers") << QByteArray() << fitted; // 640 x 480
+    QTest::newRow("any size") << QByteArray() << PreviewSize;
 }
 
 void tst_V4l2Cameras::showsFrames()
@@ -132,14 +135,73 @@ void tst_V4l2Cameras::showsFrames()
              QJsonValue(QStringLiteral("working")));
 }
 
-void tst_V4l2Cameras::followsTheOutputSize()
+void tst_V4l2Cameras::choosesTheMode_data()
 {
+    QTest::addColumn<QByteArray>("modes");
+    QTest::addColumn<QSize>("expected");
+    QTest::addColumn<QString>("told");
+    const auto raw = [](const char* size, const char* rates) {
+        return QByteArray("video/x-raw,format=YUY2,") + size + ",framerate=" + rates + ";";
+    };
+    QTest::newRow("webcam") << raw("width=1280,height=720", "10/1") +
+                                   raw("width=640,height=480", "{(fraction)15/1,(fraction)30/1}") +
+                                   raw("width=320,height=240", "30/1")
+                            << QSize(320, 240)
+                            << QStringLiteral("YUY2 1280x720 10/s, YUY2 640x480 30/s, "
+                                              "YUY2 320x240 30/s");
+    QTest::newRow("slow") << raw("width=640,height=480", "5/1") +
+                                 raw("width=800,height=600", "10/1")
+                          << QSize(800, 600)
+                          << QStringLiteral("YUY2 800x600 10/s, YUY2 640x480 5/s");
+    QTest::newRow("small") << raw("width=160,height=120", "30/1") +
+                                  raw("width=176,height=144", "30/1")
+                           << QSize(176, 144)
+                           << QStringLiteral("YUY2 176x144 30/s, YUY2 160x120 30/s");
+    QTest::newRow("steps") << raw("width=[160,640,32],height=[120,480,8]", "[1/1,60/1]")
+                           << QSize(320, 176) << QStringLiteral("YUY2 160x120-640x480 60/s");
+}
+
+void tst_V4l2Cameras::choosesTheMode()
+{
+    QFETCH(QByteArray, modes);
+    QFETCH(QSize, expected);
+    m_makeSource = [modes](const QString&) {
+        return makeElement(Bars + " ! capsfilter caps=\"" + modes + "\"");
+    };
     m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
     makeBackend();
     m_backend->start();
-    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), QSize(229, 172), LongMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames > 0, LongMs);
+    m_backend->stop();
+    const QJsonObject figures = m_report.measurements.value(QStringLiteral("camera"));
+    QCOMPARE(figures.value(QStringLiteral("width")).toInt(), expected.width());
+    QCOMPARE(figures.value(QStringLiteral("height")).toInt(), expected.height());
+    QTEST(figures.value(QStringLiteral("modes")).toString(), "told");
+}
+
+void tst_V4l2Cameras::followsTheOutputSize_data()
+{
+    QTest::addColumn<QByteArray>("caps");
+    QTest::addColumn<QSize>("small");
+    QTest::addColumn<QSize>("large");
+    QTest::newRow("another mode") << QByteArray() << PreviewSize << 2 * PreviewSize;
+    QTest::newRow("one mode") << QByteArray(" ! capsfilter caps=video/x-raw,width=640,height=480")
+                              << QSize(229, 172) << QSize(459, 344);
+}
+
+void tst_V4l2Cameras::followsTheOutputSize()
+{
+    QFETCH(QByteArray, caps);
+    QFETCH(QSize, small);
+    QFETCH(QSize, large);
+    m_makeSource = [caps](const QString&) { return makeElement(Bars + caps); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_backend->latestFrame().size(), small, LongMs);
     m_backend->setOutputSize(2 * PreviewSize);
-    QTRY_COMPARE(m_backend->latestFrame().size(), QSize(459, 344));
+    QTRY_COMPARE(m_backend->latestFrame().size(), large);
+    QCOMPARE(stateName(), QStringLiteral("working"));
 }
 
 void tst_V4l2Cameras::switchesCameras()
