@@ -136,6 +136,7 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     config.nickname = options.nickname;
     config.resultsPath = runningResults(options);
     config.reportUrl = options.reportUrl;
+    config.isProcessOwn = true;
     config.settingsFolder = dataFolder;
     config.cacheFolder = dataFolder;
     auto made = std::make_unique<Platform::DeviceEngine>(config);
