@@ -146,6 +146,7 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     config.nickname = options.nickname;
     config.resultsPath = runningResults(options);
     config.reportUrl = options.isUnattended ? QString() : options.reportUrl;
+    config.isProcessOwn = true;
     config.settingsFolder = settingsFolder(options, dataFolder);
     config.cacheFolder = dataFolder;
     auto made = std::make_unique<Platform::DeviceEngine>(config);

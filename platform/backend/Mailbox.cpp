@@ -3,21 +3,21 @@
 #include "platform/backend/Mailbox.h"
 
 #include <QMetaObject>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QObject>
+
+#include <mutex>
 
 namespace Platform {
 
 struct Mailbox::Sender::Shared
 {
-    QMutex mutex;
+    std::mutex mutex;
     std::unique_ptr<QObject> receiver; // null after close(); deleting it drops its posted events
 };
 
 void Mailbox::Sender::post(Letter letter) const
 {
-    const QMutexLocker lock(&m_shared->mutex);
+    const std::scoped_lock lock(m_shared->mutex);
     if (m_shared->receiver) {
         QMetaObject::invokeMethod(m_shared->receiver.get(), std::move(letter),
                                   Qt::QueuedConnection);
@@ -39,7 +39,7 @@ void Mailbox::close()
 {
     std::unique_ptr<QObject> receiver;
     {
-        const QMutexLocker lock(&m_sender.m_shared->mutex);
+        const std::scoped_lock lock(m_sender.m_shared->mutex);
         receiver = std::move(m_sender.m_shared->receiver);
     }
 }

@@ -4,14 +4,13 @@
 
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/Log.h"
+#include "platform/backend/ScratchFolder.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 namespace Platform {
@@ -49,8 +48,7 @@ std::optional<QByteArray> edited(const QString& path, const QByteArray& present,
                                  const QMap<QString, QVariant>& changes)
 {
     // Beside the file: if this disk is full, nothing can be written anyway.
-    const QTemporaryDir folder(QFileInfo(path).absolutePath() +
-                               QStringLiteral("/.envcheck-XXXXXX"));
+    const ScratchFolder folder(QFileInfo(path).absolutePath());
     const QString copy = folder.filePath(QStringLiteral("copy.ini"));
     if (!folder.isValid() || !writeFile(copy, present)) {
         return std::nullopt;
@@ -77,7 +75,7 @@ std::optional<QByteArray> edited(const QString& path, const QByteArray& present,
 // All values that were set, also those that are written: the next write makes up for a failed one.
 struct SettingsStore::Changes
 {
-    QMutex mutex;
+    std::mutex mutex;
     QMap<QString, QVariant> values;
     bool areNew = false; // something was set since the last write began
 };
@@ -97,7 +95,7 @@ void SettingsStore::setValue(const QString& key, const QVariant& value)
 {
     m_values.insert(key, value);
     {
-        const QMutexLocker lock(&m_changes->mutex);
+        const std::scoped_lock lock(m_changes->mutex);
         m_changes->values.insert(key, value);
         m_changes->areNew = true;
     }
@@ -105,7 +103,7 @@ void SettingsStore::setValue(const QString& key, const QVariant& value)
     FileWriter::update(m_path, [path = m_path, changes = m_changes](const QByteArray& present) {
         QMap<QString, QVariant> values;
         {
-            const QMutexLocker lock(&changes->mutex);
+            const std::scoped_lock lock(changes->mutex);
             if (!std::exchange(changes->areNew, false)) {
                 return std::optional(present);
             }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/WholeFile.h"
 
+#include "platform/backend/Leftovers.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,6 +20,7 @@ namespace Platform {
 namespace {
 
 constexpr mode_t OwnersFolder = 0700;
+constexpr int Attempts = 3; // another program may take a new file for a leftover
 
 // An open file, closed at the end of its scope.
 class Descriptor
@@ -53,6 +56,42 @@ bool writeAll(int file, const QByteArray& content)
         done += static_cast<int>(std::max<ssize_t>(written, 0));
     }
     return true;
+}
+
+// The name is new (O_EXCL), so it is no link that somebody has put there; its mode is 0600.
+int openNew(QByteArray* name, const QByteArray& folder)
+{
+    for (int i = 0; i < Attempts; ++i) {
+        *name = Leftovers::nameIn(folder);
+        const int file = ::mkostemp(name->data(), O_CLOEXEC);
+        if (file < 0 || Leftovers::claim(file)) {
+            return file;
+        }
+        ::close(file);
+    }
+    errno = EBUSY;
+    return -1;
+}
+
+// Why not; empty if the target has the new content.
+QString replace(const QByteArray& target, const QByteArray& folder, const QByteArray& content)
+{
+    QByteArray name;
+    Descriptor file(openNew(&name, folder));
+    if (!file.isOpen()) {
+        return lastError();
+    }
+    // close() may tell of a failed write, but the lock stays until the file has its name.
+    const Descriptor lock(::fcntl(file.number(), F_DUPFD_CLOEXEC, 0));
+    const bool isWritten = lock.isOpen() && writeAll(file.number(), content) &&
+                           ::fdatasync(file.number()) == 0 && file.close() &&
+                           std::rename(name.constData(), target.constData()) == 0;
+    if (isWritten) {
+        return {};
+    }
+    const QString reason = lastError();
+    ::unlink(name.constData());
+    return reason;
 }
 
 // The file itself, behind links.
@@ -111,22 +150,10 @@ QString WholeFile::write(const QString& path, const QByteArray& content)
     if (!wrong.isEmpty()) {
         return wrong;
     }
-    const QString target = targetOf(path);
-    // The name is new (O_EXCL), so it is no link that somebody has put there; its mode is 0600.
-    QByteArray name =
-        QFile::encodeName(QFileInfo(target).absolutePath() + QStringLiteral("/.envcheck-XXXXXX"));
-    Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
-    if (!file.isOpen()) {
-        return lastError();
-    }
-    const bool isWritten =
-        writeAll(file.number(), content) && ::fdatasync(file.number()) == 0 && file.close() &&
-        std::rename(name.constData(), QFile::encodeName(target).constData()) == 0;
-    if (isWritten) {
-        return {};
-    }
-    const QString reason = lastError();
-    ::unlink(name.constData());
+    const QByteArray target = QFile::encodeName(targetOf(path));
+    const QByteArray folder = QFile::encodeName(QFileInfo(targetOf(path)).absolutePath());
+    const QString reason = replace(target, folder, content);
+    Leftovers::removeFrom(folder);
     return reason;
 }
 

@@ -15,6 +15,15 @@ namespace Platform {
 
 namespace {
 
+constexpr qint64 MaxHeadBytes = qint64(256) * 1024;
+
+OutboxLimits limitsOf(const DeviceEngineConfig& config)
+{
+    OutboxLimits limits;
+    limits.maxHeadBytes = config.isProcessOwn ? MaxHeadBytes : 0;
+    return limits;
+}
+
 QString shownServer(const DeviceEngineConfig& config)
 {
     if (config.server.isEmpty()) {
@@ -69,8 +78,9 @@ private:
 
 DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
     : m_config(config),
-      m_reports(std::make_unique<ReportOutbox>(
-          config.resultsPath, config.settingsFolder + QLatin1String("/reports"), config.reportUrl)),
+      m_reports(std::make_unique<ReportOutbox>(config.resultsPath,
+                                               config.settingsFolder + QLatin1String("/reports"),
+                                               config.reportUrl, limitsOf(config))),
       m_facts(std::make_unique<DeviceFacts>(
           config, shownServer(config),
           [this](NetworkProbe::Listener& listener, DeviceFacts::AddressHandler handler) {

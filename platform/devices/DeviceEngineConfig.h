@@ -14,12 +14,13 @@ struct DeviceEngineConfig
     QString nameservers;          // for its DNS records: "ADDRESS:PORT,…"; empty: the system's
     QString cdnFirstPart;
     QString cdnSecondPart;
-    QString account;        // empty: the operating system's user
-    QString nickname;       // likewise
-    QString resultsPath;    // the results' JSON document; empty: kept in memory
-    QString reportUrl;      // http or https; empty: reports stay in the journal
-    QString settingsFolder; // the settings stores, the journal and the outbox
-    QString cacheFolder;    // its volume's free space is a fact to show
+    QString account;           // empty: the operating system's user
+    QString nickname;          // likewise
+    QString resultsPath;       // the results' JSON document; empty: kept in memory
+    QString reportUrl;         // http or https; empty: reports stay in the journal
+    bool isProcessOwn = false; // nobody else in it speaks to the report server: floods may be cut
+    QString settingsFolder;    // the settings stores, the journal and the outbox
+    QString cacheFolder;       // its volume's free space is a fact to show
 };
 
 } // namespace Platform

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 struct Fault;
 
 // The outcome of a fault over all its repetitions.
@@ -14,14 +16,25 @@ struct FaultResult
     int signalCount = 0;
     qint64 longestGapMs = -1; // -1: not measured
     QStringList failures;
-    qint64 ms = 0;
+    bool isDone = false; // all repetitions have ended
 };
 
-// Runs one fault in a process of its own, so that a crash or a hang ends that fault alone.
+// Runs faults in a process of their own, so that a crash or a hang ends one fault alone: those
+// after it get another process.
 namespace FaultProcess {
 
-constexpr int LongGapsCode = 3; // what it ends with if more than 1 of 100 gaps is too long
+// In a line of the process: the fault, and whether this was its last line.
+const QString FaultKey = QStringLiteral("fault");
+const QString DoneKey = QStringLiteral("isDone");
 
-FaultResult run(const Fault& fault, quint32 seed, int repetitions);
+// In place of a number of repetitions: those of the table.
+constexpr int Quick = 0;
+constexpr int Full = -1;
+
+// A result for each fault, in their order.
+std::vector<FaultResult> run(const std::vector<const Fault*>& faults, quint32 seed,
+                             int repetitions);
+
+int repetitionsOf(const Fault& fault, int repetitions);
 
 } // namespace FaultProcess

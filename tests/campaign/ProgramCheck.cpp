@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/campaign/ProgramCheck.h"
 
+#include "platform/backend/WholeFile.h"
 #include "tests/campaign/ReportProof.h"
 #include "tests/campaign/ScriptedFaults.h"
 
@@ -161,6 +162,21 @@ void ProgramCheck::judgeFolder(const ProgramRun::Result& result, Expect expected
     const bool isLeft = result.code < 0 || result.code >= FirstErrorCode || !m_own;
     const QString left = isLeft ? QString() : leftover();
     m_injection.require(left.isEmpty(), QStringLiteral("left behind: ") + left);
+}
+
+void ProgramCheck::expectNothingLeftByTheNextWrite()
+{
+    QStringList folders{m_home};
+    QDirIterator all(m_home, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        folders << all.next();
+    }
+    for (const QString& folder : folders) {
+        const QString problem =
+            Platform::WholeFile::write(folder + QStringLiteral("/next"), QByteArray());
+        m_injection.require(problem.isEmpty(), problem);
+    }
+    m_injection.require(leftover().isEmpty(), QStringLiteral("left behind: ") + leftover());
 }
 
 QString ProgramCheck::leftover() const

@@ -36,6 +36,8 @@ public:
     // Waits for its end, and judges.
     void finish(Expect expected);
     void judge(const ProgramRun::Result& result, Expect expected);
+    // For a home in which programs were killed.
+    void expectNothingLeftByTheNextWrite();
 
 private:
     void prepare();

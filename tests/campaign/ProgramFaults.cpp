@@ -202,6 +202,7 @@ void ProgramFaults::killWhileWriting(Injection& injection)
         injection.count(1);
         check->finish(Expect::Whole);
     }
+    checks.front()->expectNothingLeftByTheNextWrite();
 }
 
 // Forth and back, by seconds and by years.

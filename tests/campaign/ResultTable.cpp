@@ -32,7 +32,6 @@ void ResultTable::add(const Fault& fault, const FaultResult& result)
     ++m_faults;
     m_injections += result.injections;
     m_signals += result.signalCount;
-    m_ms += result.ms;
     m_hasFailure = m_hasFailure || !result.failures.isEmpty();
 }
 

@@ -12,6 +12,7 @@
 class ResultTable
 {
 public:
+    void setDuration(qint64 ms) { m_ms = ms; }
     void add(const Fault& fault, const FaultResult& result);
     bool hasFailure() const { return m_hasFailure; }
     QString row(const Fault& fault, const FaultResult& result) const;

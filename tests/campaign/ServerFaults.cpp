@@ -15,7 +15,6 @@ namespace {
 
 constexpr int FreezeMs = 600;
 constexpr int AwayMs = 3000;
-constexpr int BackOffMs = 2000; // longest pause between two attempts to reach a lost sound server
 constexpr int StormRounds = 200;
 constexpr Step DeviceSteps[] = {Step::Camera, Step::Speaker, Step::Microphone};
 
@@ -68,7 +67,6 @@ void ServerFaults::startLate(CheckRun& run, Step /*step*/)
     run.unmetered([&run] { run.rig().kill(); });
     run.wait(AwayMs);
     restart(run);
-    run.wait(BackOffMs);
     expectUsual(run);
 }
 

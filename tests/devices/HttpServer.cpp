@@ -94,6 +94,10 @@ void HttpServer::answer(QTcpSocket* socket)
         socket->write("HTTP/1.1 200 OK\r\n");
         writeEvery(socket, 1, "X-Name: value\r\n");
         break;
+    case Behaviour::HeaderFlood:
+        socket->write("HTTP/1.1 200 OK\r\n");
+        flood(socket);
+        break;
     case Behaviour::Fail:
         socket->write("HTTP/1.1 500 Out of order\r\nContent-Length: 0\r\n\r\n");
         break;
@@ -107,6 +111,20 @@ void HttpServer::answer(QTcpSocket* socket)
         socket->abort();
         break;
     }
+}
+
+// As fast as the other side reads.
+void HttpServer::flood(QTcpSocket* socket)
+{
+    constexpr int Lines = 4096;
+    const QByteArray headers = QByteArray("X-Name: value\r\n").repeated(Lines);
+    QObject::connect(socket, &QTcpSocket::bytesWritten, socket,
+                     [this, socket, headers](qint64 taken) {
+                         m_flooded += taken;
+                         if (socket->bytesToWrite() == 0) {
+                             socket->write(headers);
+                         }
+                     });
 }
 
 void HttpServer::writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text)

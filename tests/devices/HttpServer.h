@@ -15,7 +15,17 @@ class HttpServer
 public:
     static constexpr int LateMs = 300;
 
-    enum class Behaviour { Take, TakeLate, SlowBody, EndlessHeaders, Fail, Redirect, Hang, HangUp };
+    enum class Behaviour {
+        Take,
+        TakeLate,
+        SlowBody,
+        EndlessHeaders,
+        HeaderFlood,
+        Fail,
+        Redirect,
+        Hang,
+        HangUp
+    };
 
     HttpServer();
     ~HttpServer();
@@ -31,16 +41,19 @@ public:
         QByteArray body;
     };
     const QList<Request>& requests() const { return m_requests; }
+    qint64 flooded() const { return m_flooded; } // bytes of headers that were taken
 
 private:
     void takeConnection();
     void read(QTcpSocket* socket);
     void answer(QTcpSocket* socket);
+    void flood(QTcpSocket* socket);
     static void writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text);
 
     QTcpServer m_server;
     quint16 m_port = 0;
     Behaviour m_behaviour = Behaviour::Take;
+    qint64 m_flooded = 0;
     QHash<QTcpSocket*, QByteArray> m_received;
     QList<Request> m_requests;
 };

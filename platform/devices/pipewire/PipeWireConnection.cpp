@@ -3,6 +3,7 @@
 #include "platform/devices/pipewire/PipeWireConnection.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/ServerSockets.h"
 #include "platform/devices/camera/DeviceFileUser.h"
 #include "platform/devices/pipewire/NodeProperties.h"
 
@@ -15,6 +16,7 @@ namespace Platform {
 namespace {
 
 constexpr std::chrono::milliseconds ReconnectDelay(300);
+constexpr std::chrono::milliseconds AppearedDelay(20); // the socket is there before anybody listens
 constexpr std::chrono::milliseconds BurstWindow(50);
 // They have the file open for those who read through them.
 const QStringList ServerPrograms = {QStringLiteral("pipewire"), QStringLiteral("wireplumber")};
@@ -56,8 +58,16 @@ PipeWireConnection::PipeWireConnection(pw_main_loop* mainLoop)
       m_loop(pw_main_loop_get_loop(mainLoop)),
       m_reconnectTimer(m_loop, [this] { connectToServer(); }),
       m_lossTimer(m_loop, [this] { onServerGone(); }),
-      m_announceTimer(m_loop, [this] { announce(); })
+      m_announceTimer(m_loop, [this] { announce(); }),
+      m_socket(ServerSockets::ofPipeWire())
 {
+    const auto onReadable = [](void* data, int, uint32_t) {
+        static_cast<PipeWireConnection*>(data)->onSocketStirred();
+    };
+    if (m_socket.descriptor() >= 0) {
+        m_socketEvent =
+            pw_loop_add_io(m_loop, m_socket.descriptor(), SPA_IO_IN, false, onReadable, this);
+    }
 }
 
 PipeWireConnection::~PipeWireConnection()
@@ -65,6 +75,9 @@ PipeWireConnection::~PipeWireConnection()
     disconnectFromServer();
     if (m_context) {
         pw_context_destroy(m_context);
+    }
+    if (m_socketEvent) {
+        pw_loop_destroy_source(m_loop, m_socketEvent);
     }
 }
 
@@ -130,6 +143,8 @@ PipeWireConnection::nodeWith(const QString& serial) const
 
 void PipeWireConnection::connectToServer()
 {
+    m_isTriedSoon = false;
+    m_socket.renew();
     if (!m_context) {
         m_context = pw_context_new(m_loop, nullptr, 0);
     }
@@ -192,6 +207,14 @@ void PipeWireConnection::onServerGone()
     m_isListed = false;
     announce();
     m_reconnectTimer.startOnce(ReconnectDelay);
+}
+
+void PipeWireConnection::onSocketStirred()
+{
+    if (m_socket.hasAppeared() && m_reconnectTimer.isActive() && !m_isTriedSoon) {
+        m_isTriedSoon = true;
+        m_reconnectTimer.startOnce(AppearedDelay);
+    }
 }
 
 void PipeWireConnection::onRoundTripDone(int sequence)

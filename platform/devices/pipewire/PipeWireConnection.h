@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/SocketWatch.h"
 #include "platform/devices/camera/CameraFeed.h"
 #include "platform/devices/camera/CameraList.h"
 #include "platform/devices/pipewire/CameraReaders.h"
@@ -77,6 +78,7 @@ private:
     void connectToServer();
     void disconnectFromServer();
     void onServerGone();
+    void onSocketStirred();
     void onRoundTripDone(int sequence);
     void onGlobal(quint32 id, const char* type, const spa_dict* properties);
     void onGlobalRemoved(quint32 id);
@@ -109,6 +111,9 @@ private:
     LoopTimer m_reconnectTimer;
     LoopTimer m_lossTimer;
     LoopTimer m_announceTimer;
+    SocketWatch m_socket; // the server's
+    spa_source* m_socketEvent = nullptr;
+    bool m_isTriedSoon = false;
 };
 
 } // namespace Platform

@@ -3,6 +3,7 @@
 #include "platform/devices/pulse/PulseConnection.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/ServerSockets.h"
 
 #include <algorithm>
 #include <pulse/introspect.h>
@@ -17,6 +18,7 @@ namespace {
 
 constexpr unsigned FirstBackOffMs = 250;
 constexpr unsigned LastBackOffMs = 2000;
+constexpr unsigned AppearedBackOffMs = 20; // the socket is there before anybody listens
 // Pause between two queries of the device list, so that many changes at once don't keep us busy.
 constexpr unsigned PauseMs = 20;
 // For all replies of a round. Without them it is begun again.
@@ -87,8 +89,17 @@ PulseConnection::PulseConnection(Publish publish)
               }),
       m_deadline(api(), [this] { failRound(); }),
       m_watch(api(), [this] { watch(); }),
-      m_backOffMs(FirstBackOffMs)
+      m_backOffMs(FirstBackOffMs),
+      m_socket(ServerSockets::ofPulse())
 {
+    if (m_socket.descriptor() >= 0) {
+        m_socketEvent = api()->io_new(
+            api(), m_socket.descriptor(), PA_IO_EVENT_INPUT,
+            [](pa_mainloop_api*, pa_io_event*, int, pa_io_event_flags_t, void* self) {
+                static_cast<PulseConnection*>(self)->socketStirred();
+            },
+            this);
+    }
     // On the sound thread, because creating a context may ask the X display for the server.
     run([this] {
         connect();
@@ -103,6 +114,9 @@ PulseConnection::~PulseConnection()
     dropClients();
     m_round.clear();
     m_context.reset();
+    if (m_socketEvent) {
+        api()->io_free(m_socketEvent);
+    }
 }
 
 pa_context* PulseConnection::context() const
@@ -123,6 +137,7 @@ void PulseConnection::remove(const std::shared_ptr<Client>& client)
 
 void PulseConnection::connect()
 {
+    m_socket.renew();
     m_context.reset(pa_context_new(api(), PulseClientName));
     if (!m_context) {
         disconnected();
@@ -190,6 +205,18 @@ void PulseConnection::disconnected()
     m_publish(m_devices);
 
     m_retry.startOnce(nextBackOffMs());
+}
+
+// A server of this machine may have come: it is tried soon, and again often at first.
+void PulseConnection::socketStirred()
+{
+    if (!m_socket.hasAppeared() || context() || m_backOffMs <= 2 * AppearedBackOffMs) {
+        return;
+    }
+    m_backOffMs = AppearedBackOffMs;
+    if (m_retry.isActive()) {
+        m_retry.startOnce(nextBackOffMs());
+    }
 }
 
 // Until a list has arrived.

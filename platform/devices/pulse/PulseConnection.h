@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/SocketWatch.h"
 #include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/pulse/PulseHandles.h"
 #include "platform/devices/pulse/PulseLoop.h"
@@ -60,6 +61,7 @@ private:
 
     void connect();
     void disconnected();
+    void socketStirred();
     void dropClients();
     void contextStateChanged();
     void refresh();
@@ -92,6 +94,8 @@ private:
     PulseTimer m_deadline;
     PulseTimer m_watch; // asks the server now and then
     unsigned m_backOffMs;
+    SocketWatch m_socket; // the server's
+    pa_io_event* m_socketEvent = nullptr;
     std::vector<std::shared_ptr<Client>> m_clients;
 
     PulseDevices m_devices; // the last published ones

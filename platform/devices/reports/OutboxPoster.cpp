@@ -5,6 +5,7 @@
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/Log.h"
 #include "platform/backend/WholeFile.h"
+#include "platform/devices/reports/FloodGate.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -19,6 +20,9 @@ namespace Platform {
 namespace {
 
 constexpr qint64 MaxReportBytes = qint64(64) * 1024;
+constexpr std::chrono::milliseconds HeadWatch(100);
+constexpr int HttpPort = 80;
+constexpr int HttpsPort = 443;
 constexpr int FirstSuccess = 200;
 constexpr int FirstBeyondSuccess = 300;
 
@@ -152,6 +156,25 @@ void OutboxPoster::postNext()
     reply->setReadBufferSize(1);
     connect(reply, &QNetworkReply::metaDataChanged, reply, end);
     connect(reply, &QNetworkReply::finished, reply, end);
+    if (m_limits.maxHeadBytes > 0) {
+        watchHead(reply);
+    }
+}
+
+// Qt reads headers without end, a core at a time.
+void OutboxPoster::watchHead(QNetworkReply* reply)
+{
+    const bool isEncrypted = m_url.scheme() == QLatin1String("https");
+    const auto port = quint16(m_url.port(isEncrypted ? HttpsPort : HttpPort));
+    auto* const watch = new QTimer(reply);
+    connect(watch, &QTimer::timeout, reply, [this, reply, port] {
+        if (m_reply == reply && FloodGate::cutAbove(m_limits.maxHeadBytes, port)) {
+            release();
+            retryLater(QStringLiteral("its answer has more than %1 KiB of headers")
+                           .arg(m_limits.maxHeadBytes / 1024));
+        }
+    });
+    watch->start(HeadWatch);
 }
 
 QNetworkRequest OutboxPoster::request(const Report& report) const
@@ -169,8 +192,7 @@ void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
     if (m_reply != reply) {
         return; // it has ended already
     }
-    m_reply = nullptr;
-    reply->deleteLater(); // ends the connection
+    release();
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (status >= FirstSuccess && status < FirstBeyondSuccess) {
         forget(fileName);
@@ -183,6 +205,11 @@ void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
     retryLater(status > 0 ? QStringLiteral("status %1").arg(status)
                : hasError ? reply->errorString()
                           : QStringLiteral("no answer in time"));
+}
+
+void OutboxPoster::release()
+{
+    std::exchange(m_reply, nullptr)->deleteLater(); // ends the connection
 }
 
 void OutboxPoster::retryLater(const QString& reason)

@@ -25,6 +25,9 @@ struct OutboxLimits
     std::chrono::milliseconds longestRetry = std::chrono::hours(1);
     // From the connection to the answer.
     std::chrono::milliseconds postTimeout = std::chrono::seconds(15);
+    // Of an answer, TLS included. Cuts every connection of the process to the server's port that
+    // has received more; 0 cuts none.
+    qint64 maxHeadBytes = 0;
 };
 
 // Posts the reports of an outbox folder, one after the other, and removes each one that the server
@@ -56,7 +59,9 @@ private:
     void writeRuns() const;
     void postNext();
     QNetworkRequest request(const Report& report) const;
+    void watchHead(QNetworkReply* reply);
     void finish(QNetworkReply* reply, const QString& fileName);
+    void release();
     bool isSettled() const;
     void tellSettled();
     void retryLater(const QString& reason);

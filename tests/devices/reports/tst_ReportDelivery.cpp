@@ -30,6 +30,7 @@ private Q_SLOTS:
     void deliveryEndsWithAFailure();
     void answerIsAllThatIsRead();
     void endlessHeadersAreCutOff();
+    void floodOfHeadersIsCutOff();
     void repeatedPostIsKnown();
 
 private:
@@ -132,6 +133,28 @@ void tst_ReportDelivery::endlessHeadersAreCutOff()
     ReportOutbox reports({}, m_folder->path(), m_server->url(), quickLimits());
     reports.postCode(QStringLiteral("manager"), 7);
     QTRY_VERIFY(m_server->requests().size() >= 2); // given up, and tried again
+    QCOMPARE(outbox().size(), 1);
+}
+
+// Long before the time limit of 15 s.
+void tst_ReportDelivery::floodOfHeadersIsCutOff()
+{
+    constexpr qint64 MostBytes = qint64(16) * 1024 * 1024; // the kernel's buffers are most of it
+    constexpr int EnoughMs = 3000;
+    OutboxLimits limits;
+    limits.firstRetry = 1h;
+    limits.maxHeadBytes = 256 * 1024;
+    m_server->setBehaviour(HttpServer::Behaviour::HeaderFlood);
+    ReportOutbox reports({}, m_folder->path(), m_server->url(), limits);
+    QElapsedTimer clock;
+    clock.start();
+    reports.postCode(QStringLiteral("manager"), 7);
+    const std::future<void> delivery =
+        std::async(std::launch::async, [&reports] { reports.deliver(1h); });
+    QTRY_VERIFY_WITH_TIMEOUT(delivery.wait_for(0s) == std::future_status::ready, 20000);
+    qInfo("%lld ms, %lld bytes", clock.elapsed(), m_server->flooded());
+    QVERIFY2(clock.elapsed() < EnoughMs, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY2(m_server->flooded() < MostBytes, qPrintable(QString::number(m_server->flooded())));
     QCOMPARE(outbox().size(), 1);
 }
 
