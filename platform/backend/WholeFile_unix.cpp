@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/WholeFile.h"
 
+#include "platform/backend/BoundedRead.h"
 #include "platform/backend/Leftovers.h"
 
 #include <QFile>
@@ -136,12 +137,7 @@ QString WholeFile::read(const QString& path, QByteArray* content, qint64 maxByte
     if (!file.open(opened.number(), QIODevice::ReadOnly)) {
         return file.errorString();
     }
-    *content = file.read(maxBytes + 1);
-    if (content->size() > maxBytes) {
-        content->clear();
-        return qtTrId("ID_Engine_File_TooLarge").arg(maxBytes / 1024 / 1024);
-    }
-    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
+    return readBounded(file, maxBytes, content);
 }
 
 QString WholeFile::write(const QString& path, const QByteArray& content)

@@ -5,6 +5,7 @@
 #include "platform/backend/ResultDocument.h"
 #include "platform/backend/ResultKeys.h"
 #include "platform/backend/StallTimeout.h"
+#include "platform/scripted/MissingFigure.h"
 #include "platform/scripted/ScriptedCameras.h"
 #include "platform/scripted/TestPattern.h"
 
@@ -277,6 +278,7 @@ void ScriptedCamera::recordMeasurement()
                        TestPattern::brightness(sample) * (1 - m_blackFrames / pictures));
         figures.insert(QStringLiteral("blackShare"), m_blackFrames / pictures);
         figures.insert(QStringLiteral("frozenShare"), m_frozenFrames / pictures);
+        figures.insert(QStringLiteral("modes"), missingFigure());
     }
     m_document.recordMeasurement(QStringLiteral("camera"), figures);
 }

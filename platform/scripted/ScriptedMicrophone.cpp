@@ -4,6 +4,7 @@
 
 #include "platform/backend/LevelScale.h"
 #include "platform/backend/ResultDocument.h"
+#include "platform/scripted/MissingFigure.h"
 #include "platform/scripted/ScriptedMicrophones.h"
 
 #include <algorithm>
@@ -17,15 +18,10 @@ constexpr int LevelPeriodMs = 33;
 constexpr double NoiseFloor = 0.02;
 constexpr double MsPerSecond = 1000;
 
-QJsonObject notMeasured()
-{
-    return {{QStringLiteral("notMeasured"), QStringLiteral("scripted")}};
-}
-
 QJsonValue decibelsOf(std::optional<double> level)
 {
     return level ? std::round(10.0 * LevelScale::decibelsOf(*level)) / 10.0
-                 : QJsonValue(notMeasured());
+                 : QJsonValue(missingFigure());
 }
 
 bool canHear(DeviceState state)
@@ -198,7 +194,7 @@ void ScriptedMicrophone::addSound(QJsonObject& figures) const
     figures.insert(QStringLiteral("peakDb"), decibelsOf(m_loudest));
     figures.insert(QStringLiteral("noiseFloorDb"), decibelsOf(m_quietest));
     for (const char* key : {"clippedShare", "humShare", "humHz", "bandwidthHz"}) {
-        figures.insert(QLatin1String(key), notMeasured());
+        figures.insert(QLatin1String(key), missingFigure());
     }
     const QJsonObject sound = m_devices.sound();
     for (auto it = sound.begin(); it != sound.end(); ++it) {

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <limits>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void refusesWhatIsNoFile_data();
     void refusesWhatIsNoFile();
     void refusesWhatIsTooLarge();
+    void takesMemoryForWhatThereIs();
 
 private:
     QString path(const char* name = "file") const
@@ -165,6 +167,15 @@ void tst_WholeFile::refusesWhatIsNoFile()
     QCOMPARE(WholeFile::problem(name), reason);
     QCOMPARE(WholeFile::read(name, &read), reason);
     QCOMPARE(WholeFile::write(name, "x"), reason);
+}
+
+// The most that may come is more than any memory.
+void tst_WholeFile::takesMemoryForWhatThereIs()
+{
+    QCOMPARE(WholeFile::write(path(), "content"), QString());
+    QByteArray content;
+    QCOMPARE(WholeFile::read(path(), &content, std::numeric_limits<qint64>::max() / 2), QString());
+    QCOMPARE(content, QByteArray("content"));
 }
 
 void tst_WholeFile::refusesWhatIsTooLarge()

@@ -108,6 +108,7 @@ void tst_ScriptedReports::recordsWhatItMeasured()
     QCOMPARE(value("camera", "brightness"), QJsonValue(0.0));
     QCOMPARE(value("microphone", "soundHeard"), QJsonValue(false));
     const QJsonObject scripted{{QStringLiteral("notMeasured"), QStringLiteral("scripted")}};
+    QCOMPARE(value("camera", "modes"), QJsonValue(scripted));
     for (const char* key :
          {"peakDb", "noiseFloorDb", "clippedShare", "humShare", "humHz", "bandwidthHz"}) {
         QCOMPARE(value("microphone", key), QJsonValue(scripted)); // there is no level curve
