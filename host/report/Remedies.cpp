@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/report/Remedies.h"
 
+#include "host/Console.h"
 #include "host/report/Contradictions.h"
 #include "platform/backend/NetworkLimits.h"
 #include "platform/backend/ResultKeys.h"
@@ -16,6 +17,8 @@ namespace NetworkLimits = Platform::NetworkLimits;
 namespace ResultKeys = Platform::ResultKeys;
 
 using Causes = std::vector<Cause>;
+
+const QString Colon = QStringLiteral(": ");
 
 // What the engine says of the device, if it is a trouble.
 std::optional<Cause> engineCause(CheckKind kind, const QJsonObject& figures)
@@ -141,12 +144,20 @@ Causes Remedies::causesOf(const ReportCheck& check, const QJsonObject& figures)
     return check.kind == CheckKind::Network ? ofNetwork(check, figures) : ofDevice(check, figures);
 }
 
+QString Remedies::deviceAmong(const Report& report, const ReportCheck& check)
+{
+    const auto count =
+        std::count_if(report.checks.begin(), report.checks.end(),
+                      [&check](const ReportCheck& other) { return other.kind == check.kind; });
+    return count > 1 ? check.device : QString();
+}
+
 std::vector<Remedies::Remedy> Remedies::of(const Report& report)
 {
     std::vector<Remedy> remedies;
     for (const ReportCheck& check : report.checks) {
         for (const Cause cause : check.causes) {
-            remedies.push_back({check.kind, cause});
+            remedies.push_back({check.kind, cause, deviceAmong(report, check)});
         }
     }
     return remedies;
@@ -156,9 +167,10 @@ QString Remedies::toText(const Report& report)
 {
     QString text;
     for (const Remedy& remedy : of(report)) {
-        text += QStringLiteral("  %1: %2\n")
-                    .arg(qtTrId(ReportWords::textId(remedy.check)),
-                         qtTrId(ReportWords::textId(remedy.cause)));
+        const QString device =
+            remedy.device.isEmpty() ? QString() : Console::plainLine(remedy.device) + Colon;
+        text += QStringLiteral("  ") + qtTrId(ReportWords::textId(remedy.check)) + Colon + device +
+                qtTrId(ReportWords::textId(remedy.cause)) + QLatin1Char('\n');
     }
     return text.isEmpty() ? text : qtTrId("ID_Host_Remedy") + QStringLiteral(":\n") + text;
 }

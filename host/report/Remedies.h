@@ -12,7 +12,12 @@ struct Remedy
 {
     CheckKind check = CheckKind::Network;
     Cause cause = Cause::Failed;
+    QString device; // as of deviceAmong()
 };
+
+// The name of the check's device, foreign text, if the report has several checks of its kind; else
+// empty.
+QString deviceAmong(const Report& report, const ReportCheck& check);
 
 // figures: what was measured, as the document of the run keeps it. The most telling cause first. A
 // network that passed without a server has that as its cause.

@@ -13,6 +13,8 @@ namespace {
 
 using Mark = ReportView::Mark;
 
+const QString Colon = QStringLiteral(": ");
+
 struct FactCaption
 {
     const char* key;
@@ -74,20 +76,30 @@ private:
                                                     : Mark::Notice;
     }
 
+    QString named(CheckKind kind, const QString& device) const
+    {
+        return device.isEmpty() ? m_texts.of(kind) : m_texts.of(kind) + Colon + device;
+    }
+
+    QString nameOf(const ReportCheck& check) const
+    {
+        return named(check.kind, Remedies::deviceAmong(m_report, check));
+    }
+
     void addSummary()
     {
         addSection(m_texts.text("ID_Host_Report_Summary"));
         add("ID_Host_Report_Outcome", m_texts.of(m_report.outcome), mark(m_report.outcome));
         for (const Remedies::Remedy& remedy : Remedies::of(m_report)) {
             add("ID_Host_Remedy",
-                m_texts.of(remedy.check) + QStringLiteral(": ") + m_texts.of(remedy.cause),
+                named(remedy.check, remedy.device) + Colon + m_texts.of(remedy.cause),
                 Mark::Notice);
         }
         for (const ReportCheck& check : m_report.checks) {
-            add(m_texts.of(check.kind), m_texts.of(check.verdict), mark(check.verdict));
+            add(nameOf(check), m_texts.of(check.verdict), mark(check.verdict));
             for (const Contradiction flag : check.contradictions) {
-                add("ID_Host_Report_Contradiction",
-                    m_texts.of(check.kind) + QStringLiteral(": ") + m_texts.of(flag), Mark::Notice);
+                add("ID_Host_Report_Contradiction", nameOf(check) + Colon + m_texts.of(flag),
+                    Mark::Notice);
             }
         }
         addGradeLevel();
@@ -167,7 +179,7 @@ private:
 
     void addCheck(const ReportCheck& check)
     {
-        addSection(m_texts.of(check.kind));
+        addSection(nameOf(check));
         add("ID_Host_Report_Result", m_texts.of(check.verdict), mark(check.verdict));
         const bool isNetwork = check.kind == CheckKind::Network;
         const bool wasAsked = !isNetwork && isAttended(check.verdict);

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void everySentenceIsItsOwn_data();
     void everySentenceIsItsOwn();
     void terminalAndReportSayTheSame();
+    void severalDevicesAreNamed();
     void nothingToSay();
 
 private:
@@ -246,6 +247,24 @@ void tst_Remedies::terminalAndReportSayTheSame()
         QCOMPARE(text.count(sentence), 2); // in the summary and at the check
         QCOMPARE(html.count(sentence), 2);
     }
+}
+
+// Without a person, every device of a kind is checked.
+void tst_Remedies::severalDevicesAreNamed()
+{
+    Report report = sampleReport();
+    report.checks[1].device = id("Front \u202E<b>");
+    report.checks[1].causes = {Cause::Black};
+    QVERIFY(!Remedies::toText(report).contains(id("Front")));
+    report.checks.insert(report.checks.begin() + 2, report.checks[1]);
+    report.checks[2].device = id("Back");
+    const QString terminal = Remedies::toText(report);
+    QVERIFY2(terminal.contains(id("  Camera: Back: ")), qPrintable(terminal));
+    QVERIFY2(terminal.contains(id("  Camera: Front ")), qPrintable(terminal));
+    QVERIFY(!terminal.contains(QChar(0x202E)));
+    const QString html = ReportWriter::htmlOf(report, TwinTexts(id("en")));
+    QCOMPARE(html.count(id("Camera: Back")), 4); // remedy, verdict, contradiction, section
+    QVERIFY(!html.contains(id("<b>")));
 }
 
 void tst_Remedies::nothingToSay()
