@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <algorithm>
 
 namespace Platform {
 
@@ -39,7 +40,8 @@ QString load(const QString& path, QByteArray* content)
     if (!file.open(QIODevice::ReadOnly)) {
         return qtTrId("ID_Engine_Scenario_NotRead").arg(file.errorString());
     }
-    *content = file.read(MaxFileBytes + 1);
+    // Memory for what there is, not for what there may be.
+    *content = file.read(std::min(file.size(), MaxFileBytes) + 1);
     if (content->size() > MaxFileBytes) {
         return qtTrId("ID_Engine_Scenario_TooLarge");
     }

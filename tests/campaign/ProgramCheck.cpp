@@ -167,9 +167,13 @@ void ProgramCheck::judgeFolder(const ProgramRun::Result& result, Expect expected
 void ProgramCheck::expectNothingLeftByTheNextWrite()
 {
     QStringList folders{m_home};
-    QDirIterator all(m_home, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    QDirIterator all(m_home, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
+                     QDirIterator::Subdirectories);
     while (all.hasNext()) {
-        folders << all.next();
+        const QString folder = all.next();
+        if (!folder.contains(QLatin1String("/.envcheck-"))) { // it goes with its folder's write
+            folders << folder;
+        }
     }
     for (const QString& folder : folders) {
         const QString problem =
