@@ -174,7 +174,7 @@ QString cameraAbsenceText(const DeviceSurvey& survey)
 QString absenceText(Platform::SoundServerState state)
 {
     using State = Platform::SoundServerState;
-    // Nobody waits longer here for a server that starts.
+    // The survey is over: a server that is still starting has not answered.
     const char* id = Platform::textId(state == State::Starting ? State::Silent : state);
     return qtTrId(id ? id : "ID_Host_Devices_None");
 }

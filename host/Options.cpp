@@ -311,8 +311,8 @@ private:
         }
     }
 
-    // Only endings that fit the format: in "results.xlsx", for example, nobody would look for JSON.
-    // Folders get their own message elsewhere.
+    // An ending that doesn't fit the format, such as "results.xlsx", is refused. A folder gets its
+    // own message elsewhere.
     void checkEnding(const char* name, const QStringList& endings)
     {
         const QFileInfo file(value(name));

@@ -9,7 +9,7 @@
 
 struct Report;
 
-// The check with --unattended: needs no window, no display and nobody who answers. GUI thread only.
+// The check with --unattended. It opens no window and asks no person. GUI thread only.
 class UnattendedCommand
 {
 public:

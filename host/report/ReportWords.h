@@ -14,7 +14,7 @@
 enum class CheckKind { Network, Camera, Speaker, Microphone };
 // The last four are of a run without a person.
 enum class RunEnd { Passed, Failed, LeftEarly, PutOut, Works, Faulty, Unavailable, BrokenOff };
-// The last three are of a run without a person: nobody said that it passed.
+// The last three are verdicts of an unattended check, which asks no person.
 enum class Verdict { Passed, Failed, NotTested, Works, Faulty, Unmeasured };
 enum class Answer { Yes, No, None };
 enum class SeenState { Works, Fails, Unknown };

@@ -7,8 +7,8 @@
 #include <QJsonObject>
 #include <vector>
 
-// What the figures of a trial say by themselves. docs/report-format.md says where the limits come
-// from.
+// The verdict on a device that follows from its figures alone, and its causes. The source of each
+// limit is in docs/report-format.md.
 struct TrialVerdict
 {
     // Not one sample above the last bit of 16: 20 log10(1 / 32768).

@@ -157,8 +157,8 @@ void UnattendedCheck::finish(Entry& entry, bool hasEnded)
     entry.trial.reset();
 }
 
-// One device of a kind after the other, where the engine has one choice for all: of speakers, that
-// is every engine.
+// Devices of a kind are measured one after the other if the engine has one chosen device for all
+// sessions. For speakers, every engine has.
 bool UnattendedCheck::mayStart(const Entry& entry) const
 {
     const CheckKind kind = entry.trial->kind();

@@ -8,8 +8,8 @@
 
 namespace Platform {
 
-// Where libpulse and libpipewire look for a server of this machine, by the environment. Addresses
-// in their configuration files and on other machines are left out.
+// The local sockets on which libpulse and libpipewire look for a server, as the environment says.
+// Addresses in their configuration files and on other machines are left out.
 namespace ServerSockets {
 
 std::vector<QByteArray> ofPulse();

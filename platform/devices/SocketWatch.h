@@ -11,8 +11,8 @@
 namespace Platform {
 
 // Notices when a server's socket, or the folder that it stands in, appears on this machine, so that
-// nobody has to wait for the next try. On one thread; never waits for the folder's disk but in
-// renew(). If the system allows no watch, the descriptor is -1 and nothing is noticed.
+// the next try can come at once. For one thread. Only renew() may wait for the folder's disk. If
+// the system allows no watch, the descriptor is -1 and nothing is noticed.
 class SocketWatch
 {
 public:

@@ -40,10 +40,7 @@ private Q_SLOTS:
         m_watch->renew();
         QVERIFY(QDir().mkdir(m_runtime));
         QVERIFY(m_watch->hasAppeared());
-        m_watch->renew();
-        QLocalServer server;
-        QVERIFY(server.listen(m_socket));
-        QVERIFY(m_watch->hasAppeared());
+        noticeTheServer();
     }
 
     void noticesARenamedSocket()
@@ -66,10 +63,7 @@ private Q_SLOTS:
         m_watch->renew();
         QVERIFY(QDir().mkdir(m_runtime));
         QVERIFY(m_watch->hasAppeared());
-        m_watch->renew();
-        QLocalServer server;
-        QVERIFY(server.listen(m_socket));
-        QVERIFY(m_watch->hasAppeared());
+        noticeTheServer();
     }
 
     void otherFilesDontCount()
@@ -91,6 +85,14 @@ private Q_SLOTS:
     }
 
 private:
+    void noticeTheServer()
+    {
+        m_watch->renew();
+        QLocalServer server;
+        QVERIFY(server.listen(m_socket));
+        QVERIFY(m_watch->hasAppeared());
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_runtime;
     QString m_socket;
