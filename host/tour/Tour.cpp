@@ -3,7 +3,6 @@
 #include "host/tour/Tour.h"
 
 #include "host/tour/LayoutInspector.h"
-#include "host/tour/WindowPlaces.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -20,6 +19,8 @@ constexpr int TickMs = 40;
 constexpr int SettleTicks = 3; // a widget that becomes ready is painted a moment later
 constexpr int StopDeadlineMs = 15000;
 constexpr int DeadlineTicks = StopDeadlineMs / TickMs; // a machine that stands still doesn't count
+// A compositor shows a window some time after Qt calls it visible.
+constexpr int MostPicturesOfStop = 10;
 
 // The dialog of the check, also while a question is open.
 QWidget* openDialog()
@@ -126,31 +127,25 @@ void Tour::step()
 void Tour::goOn()
 {
     m_ticks = 0;
+    m_picturesOfStop = 0;
     ++m_next;
 }
 
 void Tour::inspect(const DialogView& view, const TourStop& stop, const QImage& screen)
 {
+    const bool isWithScreen = ScreenCamera::isThere();
+    const WindowPlaces places =
+        isWithScreen ? WindowPlaces::onScreen(view, screen) : WindowPlaces::asToldByQt(view);
+    const bool isShown = !places.dialog.isEmpty() && (!stop.anchor || !places.popup.isEmpty());
+    if (isWithScreen && !isShown && ++m_picturesOfStop < MostPicturesOfStop) {
+        return; // the next step takes another one
+    }
     QStringList problems;
     const QWidgetList windows = view.windows();
     for (const QWidget* window : windows) {
         problems += LayoutInspector::inspect(window);
     }
-    const bool isWithScreen = ScreenCamera::isThere();
-    const WindowPlaces places =
-        isWithScreen ? WindowPlaces::onScreen(view, screen) : WindowPlaces::asToldByQt(view);
-    const QWidget* anchor = stop.anchor ? stop.anchor(view) : nullptr;
-    QJsonObject place;
-    if (isWithScreen && places.dialog.isEmpty()) {
-        problems << QStringLiteral("far: the dialog isn't on the picture of the screen");
-    } else if (stop.anchor && (!anchor || places.popup.isEmpty())) {
-        problems << QStringLiteral("far: the popup isn't there");
-    } else if (anchor) {
-        problems += LayoutInspector::inspectPopup(places.popup, places.of(*anchor), places.scale);
-        const QPointF offset = QPointF(places.popup.topLeft() - places.dialog.topLeft());
-        place = {{QStringLiteral("x"), offset.x() / places.scale},
-                 {QStringLiteral("y"), offset.y() / places.scale}};
-    }
+    const QJsonObject place = inspectPlaces(view, stop, places, &problems);
     const QPixmap picture =
         isWithScreen ? QPixmap::fromImage(places.cutOut(screen)) : view.picture();
     if (!QApplication::activePopupWidget()) {
@@ -158,6 +153,27 @@ void Tour::inspect(const DialogView& view, const TourStop& stop, const QImage& s
     }
     save(stop, picture, problems, place);
     goOn();
+}
+
+QJsonObject Tour::inspectPlaces(const DialogView& view, const TourStop& stop,
+                                const WindowPlaces& places, QStringList* problems)
+{
+    const QWidget* anchor = stop.anchor ? stop.anchor(view) : nullptr;
+    if (ScreenCamera::isThere() && places.dialog.isEmpty()) {
+        *problems << QStringLiteral("far: the dialog isn't on the picture of the screen");
+        return {};
+    }
+    if (stop.anchor && (!anchor || places.popup.isEmpty())) {
+        *problems << QStringLiteral("far: the popup isn't there");
+        return {};
+    }
+    if (!anchor) {
+        return {};
+    }
+    *problems += LayoutInspector::inspectPopup(places.popup, places.of(*anchor), places.scale);
+    const QPointF offset = QPointF(places.popup.topLeft() - places.dialog.topLeft());
+    return {{QStringLiteral("x"), offset.x() / places.scale},
+            {QStringLiteral("y"), offset.y() / places.scale}};
 }
 
 void Tour::save(const TourStop& stop, const QPixmap& picture, QStringList problems,

@@ -5,6 +5,7 @@
 #include "host/tour/ContactSheet.h"
 #include "host/tour/ScreenCamera.h"
 #include "host/tour/TourScript.h"
+#include "host/tour/WindowPlaces.h"
 
 #include <QJsonArray>
 #include <QObject>
@@ -36,6 +37,9 @@ public:
 private:
     void step();
     void inspect(const DialogView& view, const TourStop& stop, const QImage& screen);
+    // The place of the popup in the dialog; empty without one.
+    static QJsonObject inspectPlaces(const DialogView& view, const TourStop& stop,
+                                     const WindowPlaces& places, QStringList* problems);
     void save(const TourStop& stop, const QPixmap& picture, QStringList problems,
               const QJsonObject& place);
     void goOn();
@@ -50,6 +54,7 @@ private:
     size_t m_next = 0;
     int m_ticks = 0; // since the act; 0 before it
     int m_readyTicks = 0;
+    int m_picturesOfStop = 0; // of the screen
     int m_pictureCount = 0;
     QStringList m_problems;
     QJsonArray m_findings; // per picture
