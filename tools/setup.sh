@@ -15,7 +15,7 @@ run_packages=(
 test_packages=(
     qtbase5-private-dev coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
     libspa-0.2-modules libc-l10n umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
-    postgresql sqlite3
+    postgresql sqlite3 openssl
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file abigail-tools appstream desktop-file-utils
     bash-completion zsh fish

@@ -3,12 +3,19 @@
 #include "tests/devices/HttpServer.h"
 
 #include <QRegularExpression>
+#include <QSslSocket>
 #include <QTcpSocket>
 #include <QTimer>
 
-HttpServer::HttpServer()
+#include <utility>
+
+HttpServer::HttpServer() : HttpServer(std::make_unique<QTcpServer>())
 {
-    QObject::connect(&m_server, &QTcpServer::newConnection, &m_server,
+}
+
+HttpServer::HttpServer(std::unique_ptr<QTcpServer> listener) : m_server(std::move(listener))
+{
+    QObject::connect(m_server.get(), &QTcpServer::newConnection, m_server.get(),
                      [this] { takeConnection(); });
     listen();
 }
@@ -24,27 +31,27 @@ HttpServer::~HttpServer()
 
 void HttpServer::listen()
 {
-    m_server.listen(QHostAddress::LocalHost, m_port);
-    m_port = m_server.serverPort();
+    m_server->listen(QHostAddress::LocalHost, m_port);
+    m_port = m_server->serverPort();
 }
 
 void HttpServer::refuse()
 {
-    m_server.close();
+    m_server->close();
     const QList<QTcpSocket*> sockets = m_received.keys();
     for (QTcpSocket* socket : sockets) {
         socket->abort();
     }
 }
 
-QString HttpServer::url() const
+QString HttpServer::url(const QString& scheme) const
 {
-    return QStringLiteral("http://127.0.0.1:%1/reports?from=check").arg(m_port);
+    return QStringLiteral("%1://127.0.0.1:%2/reports?from=check").arg(scheme).arg(m_port);
 }
 
 void HttpServer::takeConnection()
 {
-    while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+    while (QTcpSocket* socket = m_server->nextPendingConnection()) {
         m_received.insert(socket, {});
         QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { read(socket); });
         QObject::connect(socket, &QTcpSocket::disconnected, socket, [this, socket] {
@@ -118,13 +125,19 @@ void HttpServer::flood(QTcpSocket* socket)
 {
     constexpr int Lines = 4096;
     const QByteArray headers = QByteArray("X-Name: value\r\n").repeated(Lines);
-    QObject::connect(socket, &QTcpSocket::bytesWritten, socket,
-                     [this, socket, headers](qint64 taken) {
-                         m_flooded += taken;
-                         if (socket->bytesToWrite() == 0) {
-                             socket->write(headers);
-                         }
-                     });
+    auto* const encrypted = qobject_cast<QSslSocket*>(socket);
+    const auto writeMore = [this, socket, encrypted, headers](qint64 taken) {
+        m_flooded += taken;
+        if (socket->bytesToWrite() == 0 &&
+            (!encrypted || encrypted->encryptedBytesToWrite() == 0)) {
+            socket->write(headers);
+        }
+    };
+    if (encrypted) {
+        QObject::connect(encrypted, &QSslSocket::encryptedBytesWritten, socket, writeMore);
+    } else {
+        QObject::connect(socket, &QTcpSocket::bytesWritten, socket, writeMore);
+    }
 }
 
 void HttpServer::writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text)

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QTcpServer>
+#include <memory>
 
 class QTcpSocket;
 
@@ -27,12 +28,13 @@ public:
         HangUp
     };
 
-    HttpServer();
+    HttpServer(); // without encryption
+    explicit HttpServer(std::unique_ptr<QTcpServer> listener);
     ~HttpServer();
 
     void listen(); // always on the same port
     void refuse(); // as a server that isn't there
-    QString url() const;
+    QString url(const QString& scheme = QStringLiteral("http")) const;
     void setBehaviour(Behaviour behaviour) { m_behaviour = behaviour; }
 
     struct Request
@@ -50,7 +52,7 @@ private:
     void flood(QTcpSocket* socket);
     static void writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text);
 
-    QTcpServer m_server;
+    std::unique_ptr<QTcpServer> m_server;
     quint16 m_port = 0;
     Behaviour m_behaviour = Behaviour::Take;
     qint64 m_flooded = 0;
