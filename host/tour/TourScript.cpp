@@ -301,6 +301,15 @@ bool showsLabel(const DialogView& view, const char* name, const QString& text)
     return label && label->text() == text;
 }
 
+// A busy machine may show each second for no more than a moment.
+bool isCountingDown(const DialogView& view)
+{
+    const auto isAt = [&view](int seconds) {
+        return showsLabel(view, "label_Record", qtTrId("ID_MicrophonePage_OfS").arg(seconds));
+    };
+    return isAt(4) || isAt(3) || isAt(2);
+}
+
 Stops microphoneStates(ScriptedEngine& engine)
 {
     auto& microphones = engine.microphones();
@@ -320,10 +329,8 @@ Stops microphoneStates(ScriptedEngine& engine)
                   microphones.rename(id, name);
               },
               always};
-    stops += {"microphone-recording", clicking("Btn_Record"), [](const DialogView& view) {
-                  return isLevelLit(view) &&
-                         showsLabel(view, "label_Record", qtTrId("ID_MicrophonePage_OfS").arg(4));
-              }};
+    stops += {"microphone-recording", clicking("Btn_Record"),
+              [](const DialogView& view) { return isLevelLit(view) && isCountingDown(view); }};
     stops += {"microphone-recorded", nothing, [](const DialogView& view) {
                   return showsLabel(view, "label_Record", qtTrId("ID_MicrophonePage_Again"));
               }};
