@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 # Sourced by run, test and .ci/run: the Debian packages that each needs, and how they get here.
 
+. tools/progress.sh
+
 run_packages=(
     cmake ninja-build g++ ccache pkg-config
     qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
@@ -22,7 +24,7 @@ test_packages=(
     openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct
 )
 benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
-    gstreamer1.0-pipewire gstreamer1.0-x)
+    gstreamer1.0-pipewire gstreamer1.0-x python3-matplotlib)
 ci_packages=(clang-format clang-tidy)
 fuzz_packages=(clang libclang-rt-dev)
 # The posix threads alone: only with them has the cross compiler std::thread.
@@ -49,15 +51,11 @@ install_packages()
         apt=(sudo "${apt[@]}")
     fi
     echo "Installing ${#missing[@]} packages: ${missing[*]}"
-    local log
-    log=$(mktemp)
-    if ! { "${apt[@]}" update -qq && "${apt[@]}" install -y -qq --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
-        tail -n 20 "$log" >&2
-        rm -f "$log"
+    if ! "${apt[@]}" update -qq ||
+        ! with_progress "Packages" "the build" "${apt[@]}" install -y -q --no-install-recommends "${missing[@]}"; then
         echo "The packages could not be installed: see above." >&2
         exit 69
     fi
-    rm -f "$log"
 }
 
 display_pids=()
