@@ -4,6 +4,7 @@
 include(CMakePackageConfigHelpers)
 
 set(include_folder ${CMAKE_INSTALL_INCLUDEDIR}/envcheck)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # envcheck_install_package(NAME NAMESPACE): the CMake package of the targets exported as NAMETargets.
 function(envcheck_install_package name)
@@ -11,7 +12,7 @@ function(envcheck_install_package name)
     install(EXPORT ${name}Targets NAMESPACE ${name}:: DESTINATION ${folder})
     configure_package_config_file(cmake/${name}Config.cmake.in
         ${PROJECT_BINARY_DIR}/${name}Config.cmake
-        INSTALL_DESTINATION ${folder} PATH_VARS ENVCHECK_PROGRAM_FOLDER)
+        INSTALL_DESTINATION ${folder} PATH_VARS ENVCHECK_DATA_FOLDER)
     write_basic_package_version_file(${PROJECT_BINARY_DIR}/${name}ConfigVersion.cmake
         COMPATIBILITY SameMajorVersion)
     install(FILES
@@ -28,7 +29,7 @@ envcheck_install_package(EnvCheck)
 install(FILES cmake/EnvCheckDeploy.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/EnvCheck)
 
 # The pictures of the client, below the names that the library has for them.
-set(picture_folder ${ENVCHECK_PROGRAM_FOLDER}/pictures)
+set(picture_folder ${ENVCHECK_DATA_FOLDER}/pictures)
 install(FILES cmake/client-pictures.qrc host/resources/invite_more.svg
     host/resources/radiobutton_checked_disabled.svg DESTINATION ${picture_folder})
 foreach(state checked unchecked)
@@ -97,9 +98,16 @@ endif()
 file(RELATIVE_PATH to_program /${CMAKE_INSTALL_BINDIR} /${ENVCHECK_PROGRAM_FOLDER}/envcheck)
 file(RELATIVE_PATH to_engine /${CMAKE_INSTALL_LIBDIR} /${engine_folder})
 file(RELATIVE_PATH to_library /${ENVCHECK_PROGRAM_FOLDER} /${CMAKE_INSTALL_LIBDIR})
-file(CREATE_LINK ${to_program} ${PROJECT_BINARY_DIR}/link-envcheck SYMBOLIC)
-install(FILES ${PROJECT_BINARY_DIR}/link-envcheck
-    DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME envcheck)
+file(RELATIVE_PATH to_data /${ENVCHECK_PROGRAM_FOLDER} /${ENVCHECK_DATA_FOLDER})
+
+# envcheck_install_link(TARGET FOLDER NAME)
+function(envcheck_install_link target folder name)
+    file(CREATE_LINK ${target} ${PROJECT_BINARY_DIR}/link-${name} SYMBOLIC)
+    install(FILES ${PROJECT_BINARY_DIR}/link-${name} DESTINATION ${folder} RENAME ${name})
+endfunction()
+envcheck_install_link(${to_program} ${CMAKE_INSTALL_BINDIR} envcheck)
+envcheck_install_link(${to_data}/html ${ENVCHECK_PROGRAM_FOLDER} html)
+envcheck_install_link(${to_data}/translations ${ENVCHECK_PROGRAM_FOLDER} translations)
 set_target_properties(${engine_libraries} PROPERTIES INSTALL_RPATH $ORIGIN)
 set_target_properties(EnvCheck PROPERTIES INSTALL_RPATH $ORIGIN/${to_engine})
 set_target_properties(envcheck PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/${to_library}")

@@ -21,11 +21,14 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
-# Where the program is installed, with what it looks for beside itself.
+# Where the program is installed, and the texts and sounds. It looks for them beside itself: elsewhere
+# than on Windows it finds links there, because they are the same for every kind of machine.
 if(WIN32)
     set(ENVCHECK_PROGRAM_FOLDER ${CMAKE_INSTALL_BINDIR})
+    set(ENVCHECK_DATA_FOLDER ${CMAKE_INSTALL_BINDIR})
 else()
     set(ENVCHECK_PROGRAM_FOLDER ${CMAKE_INSTALL_LIBDIR}/envcheck)
+    set(ENVCHECK_DATA_FOLDER ${CMAKE_INSTALL_DATADIR}/envcheck)
 endif()
 
 find_program(CCACHE_PROGRAM ccache)

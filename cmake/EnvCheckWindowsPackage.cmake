@@ -24,7 +24,6 @@ foreach(runtime libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
     install(FILES ${file} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
 
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES
     /usr/share/common-licenses/LGPL-3
     /usr/share/common-licenses/GPL-3

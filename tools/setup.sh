@@ -27,6 +27,7 @@ benchmark_packages=(qtmultimedia5-dev libqt5multimedia5-plugins
     gstreamer1.0-pipewire gstreamer1.0-x python3-matplotlib)
 ci_packages=(clang-format clang-tidy)
 fuzz_packages=(clang libclang-rt-dev)
+debian_packages=(debhelper dpkg-dev git lintian mmdebstrap)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(
     g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 fonts-wine unzip make dpkg-dev

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
-# Unpacks the Debian package into an empty folder, runs the program from there, and builds and runs
+# Installs into an empty folder, runs the program from there, and builds and runs
 # the example and the client of docs/integration.md against it. Usage: package.sh SOURCE_FOLDER BUILD_FOLDER
 set -euo pipefail
 source=$1
@@ -11,11 +11,8 @@ trap 'rm -rf "$folder"' EXIT
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME=$folder/home
 mkdir "$HOME"
 
-(cd "$build" && cpack -G DEB -B "$folder/package" >"$folder/cpack.log") || { cat "$folder/cpack.log"; exit 1; }
-package=$(echo "$folder"/package/*.deb)
-dpkg-deb --info "$package"
-dpkg-deb -x "$package" "$folder/unpacked"
-usr=$folder/unpacked/usr
+usr=$folder/usr
+cmake --install "$build" --prefix "$usr" >"$folder/install.log" || { cat "$folder/install.log"; exit 1; }
 
 desktop-file-validate "$usr/share/applications/envcheck.desktop"
 appstreamcli validate --no-net --pedantic "$usr/share/metainfo/org.example.envcheck.metainfo.xml"
