@@ -249,6 +249,7 @@ std::optional<Cause> DeviceSurvey::absenceOf(CheckKind kind) const
     case CheckKind::Speaker:
         return absence(speakers, soundServer);
     case CheckKind::Network:
+    case CheckKind::Loop:
         break;
     }
     return std::nullopt;

@@ -69,6 +69,7 @@ constexpr Definition Definitions[] = {
     {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
     {"unattended", InCheck, nullptr, "ID_Host_Option_Unattended"},
+    {"loop", InCheck, nullptr, "ID_Host_Option_Loop"},
     {"json", InDevices | InNetwork | InHistory, nullptr, "ID_Host_Option_Json"},
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
     {"port", InServe, "N", "ID_Host_Option_Port"},
@@ -304,6 +305,10 @@ private:
     void readUnattended()
     {
         m_options.isUnattended = isSet("unattended");
+        m_options.hasLoop = isSet("loop");
+        if (m_options.hasLoop && !m_options.isUnattended) {
+            fail(qtTrId("ID_Host_Usage_Needs").arg(option("loop"), option("unattended")));
+        }
         for (const char* other : {"tour", "results", "report-url", "quiet"}) {
             if (m_options.isUnattended && isSet(other)) {
                 failAtBoth("--unattended", qPrintable(QLatin1String("--") + option(other)));

@@ -31,6 +31,7 @@ struct Options
     bool isVerbose = false;
     bool isQuiet = false;      // no window with the outcome
     bool isUnattended = false; // the check: without a window, and without a person
+    bool hasLoop = false;      // with a sweep on the speaker
 
     bool isJson = false; // devices, network, history
     int count = 0;       // network: how many figures; 0 means no limit

@@ -29,7 +29,9 @@ QStringList headOf(const ReportTexts& texts)
     QStringList cells = {texts.caption("ID_Host_Report_Time"),
                          texts.caption("ID_Host_Report_Outcome")};
     for (const auto& check : ReportWords::table<CheckKind>()) {
-        cells << texts.of(check.value);
+        if (isStep(check.value)) {
+            cells << texts.of(check.value);
+        }
     }
     return cells << texts.caption("ID_Host_Report_Title");
 }
@@ -38,7 +40,9 @@ QStringList cellsOf(const RunHistory::Run& run, const ReportTexts& texts)
 {
     QStringList cells = {ReportTexts::timeOf(run.finished), textOf<RunEnd>(texts, run.outcome)};
     for (const auto& check : ReportWords::table<CheckKind>()) {
-        cells << textOf<Verdict>(texts, run.verdicts.value(QLatin1String(check.word)));
+        if (isStep(check.value)) {
+            cells << textOf<Verdict>(texts, run.verdicts.value(QLatin1String(check.word)));
+        }
     }
     const bool hasReport = !run.report.isEmpty() && QFileInfo::exists(run.report);
     return cells << (hasReport ? Console::plainLine(run.report) : Nothing);

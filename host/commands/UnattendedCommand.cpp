@@ -28,9 +28,31 @@ QString textOf(Value value)
     return qtTrId(ReportWords::textId(value));
 }
 
+// Both devices, and delay and level or why there are none.
+QString loopDetailOf(const ReportCheck& check)
+{
+    QStringList parts;
+    for (const Measurement& measurement : check.measurements) {
+        const Figures::Figure* figure = Figures::find(check.kind, measurement.key);
+        if (measurement.status != FigureStatus::Measured) {
+            const auto reason = ReportWords::find<Reason>(measurement.reason);
+            parts << (reason ? textOf(*reason) : Console::plainLine(measurement.reason));
+        } else if (measurement.value.isString()) {
+            parts << Console::plainLine(measurement.value.toString());
+        } else if (figure) {
+            parts << Figures::toText(measurement.value.toDouble(), figure->unit);
+        }
+    }
+    parts.removeAll(QString()); // redacted
+    return parts.join(QStringLiteral(", "));
+}
+
 // What stands beside the verdict: the device, or delay and loss.
 QString detailOf(const ReportCheck& check)
 {
+    if (check.kind == CheckKind::Loop) {
+        return loopDetailOf(check);
+    }
     const auto figure = [&check](FigureName name, Figures::Unit unit) {
         const Measurement* found = check.measurement(name);
         const bool isMeasured = found && found->status == FigureStatus::Measured;
@@ -83,11 +105,14 @@ ExitCode UnattendedCommand::run(const QString& language)
     if (!installed.prepare()) {
         return ExitCode::LeftEarly;
     }
-    UnattendedCheck check(installed.engine(), [&installed](CheckKind kind) {
+    const auto figures = [&installed](CheckKind kind) {
         return installed.results()
             .value(Platform::ResultKeys::Measurements)[ReportWords::of(kind)]
             .toObject();
-    });
+    };
+    UnattendedCheck check(installed.engine(), figures,
+                          m_options.hasLoop ? UnattendedCheck::Noise::Sweep
+                                            : UnattendedCheck::Noise::None);
     check.run();
     ProgramEnd::begin();
     run.finished = QDateTime::currentDateTime();

@@ -77,6 +77,7 @@ Flags Contradictions::of(const ReportCheck& check)
 {
     switch (check.kind) {
     case CheckKind::Network:
+    case CheckKind::Loop:
         break;
     case CheckKind::Camera:
         return ofCamera(check);

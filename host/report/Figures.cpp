@@ -45,6 +45,13 @@ const std::vector<Figure> MicrophoneFigures = {
     {FigureName::DefaultAfter, Unit::None},
 };
 
+const std::vector<Figure> LoopFigures = {
+    {FigureName::LoopSpeaker, Unit::None},
+    {FigureName::LoopMicrophone, Unit::None},
+    {FigureName::LoopDelay, Unit::Ms},
+    {FigureName::LoopLevel, Unit::Decibels},
+};
+
 QString number(double value, int decimals)
 {
     QString text = QString::number(value, 'f', decimals);
@@ -72,6 +79,8 @@ const std::vector<Figure>& Figures::of(CheckKind check)
         return SpeakerFigures;
     case CheckKind::Microphone:
         return MicrophoneFigures;
+    case CheckKind::Loop:
+        return LoopFigures;
     }
     return NetworkFigures;
 }

@@ -107,6 +107,7 @@ Cause fallback(const ReportCheck& check)
     case CheckKind::Microphone:
         return works ? Cause::SelfNotHeard : Cause::Silent;
     case CheckKind::Network:
+    case CheckKind::Loop:
         break;
     }
     return Cause::Failed;
@@ -137,6 +138,16 @@ Causes ofDevice(const ReportCheck& check, const QJsonObject& figures)
     return causes;
 }
 
+// What prevents the loop is told of the device itself, if it is known there.
+bool isToldOfDevice(const Report& report, const ReportCheck& check, Cause cause)
+{
+    return check.kind == CheckKind::Loop && std::any_of(report.checks.begin(), report.checks.end(),
+                                                        [cause](const ReportCheck& other) {
+                                                            return other.kind != CheckKind::Loop &&
+                                                                   other.has(cause);
+                                                        });
+}
+
 } // namespace
 
 Causes Remedies::causesOf(const ReportCheck& check, const QJsonObject& figures)
@@ -157,6 +168,9 @@ std::vector<Remedies::Remedy> Remedies::of(const Report& report)
     std::vector<Remedy> remedies;
     for (const ReportCheck& check : report.checks) {
         for (const Cause cause : check.causes) {
+            if (isToldOfDevice(report, check, cause)) {
+                continue;
+            }
             remedies.push_back({check.kind, cause, deviceAmong(report, check)});
         }
     }

@@ -61,12 +61,16 @@ private:
         add(m_texts.caption(captionId), value, mark);
     }
 
-    template <typename Value> // Verdict or RunEnd
-    static Mark mark(Value value)
+    static Mark mark(Verdict verdict)
     {
-        return value == Value::Passed || value == Value::Works    ? Mark::Good
-               : value == Value::Failed || value == Value::Faulty ? Mark::Bad
-                                                                  : Mark::Notice;
+        return isGood(verdict) ? Mark::Good : isBad(verdict) ? Mark::Bad : Mark::Notice;
+    }
+
+    static Mark mark(RunEnd end)
+    {
+        return end == RunEnd::Passed || end == RunEnd::Works    ? Mark::Good
+               : end == RunEnd::Failed || end == RunEnd::Faulty ? Mark::Bad
+                                                                : Mark::Notice;
     }
 
     static Mark mark(NetworkGrade::Level level)

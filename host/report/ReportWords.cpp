@@ -16,6 +16,7 @@ const std::vector<Word<CheckKind>>& table()
         {CheckKind::Camera, ResultKeys::Camera.data(), "ID_Camera_Check"},
         {CheckKind::Speaker, ResultKeys::Speaker.data(), "ID_CheckResultPage_Headphone"},
         {CheckKind::Microphone, ResultKeys::Microphone.data(), "ID_Microphone_Check"},
+        {CheckKind::Loop, ResultKeys::Loop.data(), "ID_Host_Check_Loop"},
     };
     return words;
 }
@@ -46,6 +47,9 @@ const std::vector<Word<Verdict>>& table()
         {Verdict::Works, "works", "ID_Host_Verdict_Works"},
         {Verdict::Faulty, "faulty", "ID_Host_Verdict_Faulty"},
         {Verdict::Unmeasured, "unmeasured", "ID_Host_Verdict_Unmeasured"},
+        {Verdict::Heard, "heard", "ID_Host_Verdict_Heard"},
+        {Verdict::NotHeard, "notHeard", "ID_Host_Verdict_NotHeard"},
+        {Verdict::NotTried, "notTried", "ID_Host_Verdict_NotTried"},
     };
     return words;
 }
@@ -121,6 +125,10 @@ const std::vector<Word<FigureName>>& table()
         {FigureName::HumShare, "humShare", "ID_Host_Figure_HumShare"},
         {FigureName::HumFrequency, "humHz", "ID_Host_Figure_HumFrequency"},
         {FigureName::Bandwidth, "bandwidthHz", "ID_Host_Figure_Bandwidth"},
+        {FigureName::LoopSpeaker, "loopSpeaker", "ID_CheckResultPage_Headphone"},
+        {FigureName::LoopMicrophone, "loopMicrophone", "ID_Microphone_Check"},
+        {FigureName::LoopDelay, "loopDelayMs", "ID_Host_Figure_LoopDelay"},
+        {FigureName::LoopLevel, "loopLevelDb", "ID_Host_Figure_LoopLevel"},
     };
     return words;
 }
@@ -147,6 +155,9 @@ const std::vector<Word<Reason>>& table()
         {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
         {Reason::ServerLost, "serverLost", "ID_Host_Reason_ServerLost"},
         {Reason::ServerSilent, "serverSilent", "ID_Host_Reason_ServerSilent"},
+        {Reason::Muted, "muted", "ID_Host_Reason_Muted"},
+        {Reason::VolumeZero, "volumeZero", "ID_Host_Reason_VolumeZero"},
+        {Reason::NotOffered, "notOffered", "ID_Host_Reason_NotOffered"},
     };
     return words;
 }
@@ -184,6 +195,7 @@ const std::vector<Word<Cause>>& table()
         {Cause::SelfNotHeard, "selfNotHeard", "ID_Host_Remedy_SelfNotHeard"},
         {Cause::Clipping, "clipping", "ID_Host_Remedy_Clipping"},
         {Cause::Hum, "hum", "ID_Host_Remedy_Hum"},
+        {Cause::LoopNotHeard, "loopNotHeard", "ID_Host_Remedy_LoopNotHeard"},
     };
     return words;
 }

@@ -11,11 +11,23 @@
 #include <optional>
 #include <vector>
 
-enum class CheckKind { Network, Camera, Speaker, Microphone };
+// The last one isn't a step of the dialog: a sweep from the speaker to the microphone.
+enum class CheckKind { Network, Camera, Speaker, Microphone, Loop };
 // The last four are of a run without a person.
 enum class RunEnd { Passed, Failed, LeftEarly, PutOut, Works, Faulty, Unavailable, BrokenOff };
-// The last three are verdicts of an unattended check, which asks no person.
-enum class Verdict { Passed, Failed, NotTested, Works, Faulty, Unmeasured };
+// From Works on, they are verdicts of an unattended check, which asks no person; the last three are
+// those of the acoustic loop.
+enum class Verdict {
+    Passed,
+    Failed,
+    NotTested,
+    Works,
+    Faulty,
+    Unmeasured,
+    Heard,
+    NotHeard,
+    NotTried
+};
 enum class Answer { Yes, No, None };
 enum class SeenState { Works, Fails, Unknown };
 enum class FigureStatus { Measured, NotMeasured, Failed };
@@ -54,6 +66,10 @@ enum class FigureName {
     HumShare,
     HumFrequency,
     Bandwidth,
+    LoopSpeaker,
+    LoopMicrophone,
+    LoopDelay,
+    LoopLevel,
 };
 
 // Why there is no figure. An engine may also use its own words.
@@ -76,6 +92,9 @@ enum class Reason {
     NoServer, // none is configured
     ServerLost,
     ServerSilent,
+    Muted,
+    VolumeZero,
+    NotOffered, // the engine can't
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
@@ -109,16 +128,22 @@ enum class Cause {
     SelfNotHeard,
     Clipping,
     Hum,
+    LoopNotHeard,
 };
+
+constexpr bool isStep(CheckKind kind)
+{
+    return kind != CheckKind::Loop;
+}
 
 constexpr bool isGood(Verdict verdict)
 {
-    return verdict == Verdict::Passed || verdict == Verdict::Works;
+    return verdict == Verdict::Passed || verdict == Verdict::Works || verdict == Verdict::Heard;
 }
 
 constexpr bool isBad(Verdict verdict)
 {
-    return verdict == Verdict::Failed || verdict == Verdict::Faulty;
+    return verdict == Verdict::Failed || verdict == Verdict::Faulty || verdict == Verdict::NotHeard;
 }
 
 // Whether a person answered.

@@ -62,7 +62,9 @@ RoomRow RoomRow::of(const Report& report, const QString& name)
     row.redaction = report.redaction;
     row.outcome = report.outcome;
     for (const auto& check : ReportWords::table<CheckKind>()) {
-        row.checks.push_back(checkOf(report, check.value));
+        if (isStep(check.value) || report.check(check.value)) {
+            row.checks.push_back(checkOf(report, check.value));
+        }
     }
     row.delayMs = figureOf(report, FigureName::Delay);
     row.jitterMs = figureOf(report, FigureName::Jitter);

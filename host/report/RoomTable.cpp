@@ -38,7 +38,9 @@ QStringList RoomTable::head() const
                          m_texts.caption("ID_Host_Report_Time"),
                          m_texts.caption("ID_Host_Report_Outcome")};
     for (const auto& check : ReportWords::table<CheckKind>()) {
-        cells << m_texts.of(check.value);
+        if (isStep(check.value)) {
+            cells << m_texts.of(check.value);
+        }
     }
     return cells << m_texts.of(FigureName::Delay) << m_texts.of(FigureName::Loss)
                  << m_texts.caption("ID_Host_Grade")
@@ -57,7 +59,9 @@ QStringList RoomTable::cellsOf(const RoomRow& row) const
 {
     QStringList cells = {row.computer, ReportTexts::timeOf(row.finished), m_texts.of(row.outcome)};
     for (const RoomRow::Check& check : row.checks) {
-        cells << cellOf(check);
+        if (isStep(check.kind)) {
+            cells << cellOf(check);
+        }
     }
     const QString causes = row.causes();
     return cells << numberOf(row.delayMs, Figures::Unit::Ms)
@@ -98,11 +102,15 @@ QString RoomTable::totals() const
     table.addRow(verdicts);
     for (const auto& check : ReportWords::table<CheckKind>()) {
         QStringList cells = {m_texts.of(check.value)};
+        bool isThere = isStep(check.value);
         for (const Verdict verdict : shown) {
             const auto found = m_counts.find({check.value, verdict});
+            isThere = isThere || found != m_counts.end();
             cells << QString::number(found == m_counts.end() ? 0 : found->second);
         }
-        table.addRow(cells);
+        if (isThere) {
+            table.addRow(cells);
+        }
     }
     return table.toText();
 }

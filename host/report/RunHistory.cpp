@@ -33,6 +33,8 @@ ChangeSubject subjectOf(CheckKind check)
         return ChangeSubject::Speaker;
     case CheckKind::Microphone:
         return ChangeSubject::Microphone;
+    case CheckKind::Loop:
+        break;
     }
     return ChangeSubject::System;
 }

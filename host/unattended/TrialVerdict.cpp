@@ -110,6 +110,7 @@ Causes causesOf(CheckKind kind, const QJsonObject& figures)
 {
     switch (kind) {
     case CheckKind::Network:
+    case CheckKind::Loop: // has verdicts of its own
         break;
     case CheckKind::Camera:
         return ofCamera(figures);
@@ -121,12 +122,26 @@ Causes causesOf(CheckKind kind, const QJsonObject& figures)
     return ofNetwork(figures);
 }
 
+TrialVerdict ofLoop(const QJsonObject& figures)
+{
+    const Verdict verdict = ReportWords::find<Verdict>(figures.value(ResultKeys::State).toString())
+                                .value_or(Verdict::NotTried);
+    if (verdict == Verdict::NotHeard) {
+        return {verdict, {Cause::LoopNotHeard}};
+    }
+    const auto cause = ReportWords::find<Cause>(figures.value(ResultKeys::Cause).toString());
+    return {verdict, cause ? Causes{*cause} : Causes()};
+}
+
 } // namespace
 
 TrialVerdict TrialVerdict::of(CheckKind kind, const QJsonObject& figures, bool hasEnded)
 {
     if (!hasEnded) {
         return {};
+    }
+    if (kind == CheckKind::Loop) {
+        return ofLoop(figures);
     }
     const Causes causes = causesOf(kind, figures);
     const bool hasNoServer = causes == Causes{Cause::NoServer};

@@ -6,6 +6,7 @@
 #include "host/TerminationSignals.h"
 #include "host/report/ReportBuilder.h"
 #include "host/unattended/CameraTrial.h"
+#include "host/unattended/LoopTrial.h"
 #include "host/unattended/MicrophoneTrial.h"
 #include "host/unattended/NetworkTrial.h"
 #include "host/unattended/SpeakerTrial.h"
@@ -23,8 +24,8 @@ constexpr int LookEveryMs = 50;
 
 } // namespace
 
-UnattendedCheck::UnattendedCheck(Platform::Engine& engine, Trial::Figures figures)
-    : m_engine(engine), m_figures(std::move(figures))
+UnattendedCheck::UnattendedCheck(Platform::Engine& engine, Trial::Figures figures, Noise noise)
+    : m_engine(engine), m_figures(std::move(figures)), m_noise(noise)
 {
 }
 
@@ -39,6 +40,9 @@ void UnattendedCheck::run()
     const DeviceSurvey survey = DeviceSurvey::of(m_engine);
     if (!TerminationSignals::haveArrived()) {
         addDevices(survey);
+        if (m_noise == Noise::Sweep) {
+            addLoop(survey);
+        }
         startNext();
         QEventLoop loop;
         QTimer look;
@@ -80,7 +84,7 @@ RunEnd UnattendedCheck::outcome() const
     }
     const bool doAllWork =
         std::all_of(m_checks.begin(), m_checks.end(),
-                    [](const ReportCheck& check) { return check.verdict == Verdict::Works; });
+                    [](const ReportCheck& check) { return isGood(check.verdict); });
     return doAllWork ? RunEnd::Works : RunEnd::Faulty;
 }
 
@@ -105,6 +109,20 @@ void UnattendedCheck::addDevices(const DeviceSurvey& survey)
     add(CheckKind::Microphone, survey.microphones, [this](const Platform::DeviceInfo& device) {
         return std::make_unique<MicrophoneTrial>(m_engine, device, m_figures);
     });
+}
+
+// The chosen devices as they are before the trials choose others.
+void UnattendedCheck::addLoop(const DeviceSurvey& survey)
+{
+    const auto chosen = [](const DeviceSurvey::Devices& devices) {
+        const auto found =
+            std::find_if(devices.begin(), devices.end(),
+                         [](const DeviceSurvey::Device& device) { return device.isCurrent; });
+        return found == devices.end() ? Platform::DeviceInfo() : found->info;
+    };
+    m_entries.emplace_back();
+    m_entries.back().trial =
+        std::make_unique<LoopTrial>(m_engine, chosen(survey.speakers), chosen(survey.microphones));
 }
 
 void UnattendedCheck::addAbsence(CheckKind kind, Cause cause)
@@ -147,9 +165,9 @@ void UnattendedCheck::finish(Entry& entry, bool hasEnded)
     entry.check.device = entry.trial->device();
     entry.check.verdict = verdict.verdict;
     entry.check.causes = verdict.causes;
-    entry.check.deviceState = verdict.verdict == Verdict::Works    ? SeenState::Works
-                              : verdict.verdict == Verdict::Faulty ? SeenState::Fails
-                                                                   : SeenState::Unknown;
+    entry.check.deviceState = isGood(verdict.verdict)  ? SeenState::Works
+                              : isBad(verdict.verdict) ? SeenState::Fails
+                                                       : SeenState::Unknown;
     entry.check.measurements = ReportBuilder::measuredOf(kind, figures);
     if (kind == CheckKind::Network) {
         m_networkFigures = figures;
@@ -158,10 +176,17 @@ void UnattendedCheck::finish(Entry& entry, bool hasEnded)
 }
 
 // Devices of a kind are measured one after the other if the engine has one chosen device for all
-// sessions. For speakers, every engine has.
+// sessions. For speakers, every engine has. The sweep comes when no microphone is measured any
+// more, and no speaker is chosen.
 bool UnattendedCheck::mayStart(const Entry& entry) const
 {
     const CheckKind kind = entry.trial->kind();
+    if (kind == CheckKind::Loop) {
+        return std::all_of(m_entries.begin(), m_entries.end(), [](const Entry& other) {
+            return other.isFinished || (other.trial->kind() != CheckKind::Speaker &&
+                                        other.trial->kind() != CheckKind::Microphone);
+        });
+    }
     return (m_engine.hasOwnChoices() && kind != CheckKind::Speaker) ||
            std::none_of(m_entries.begin(), m_entries.end(), [kind](const Entry& other) {
                return other.isStarted && !other.isFinished && other.trial->kind() == kind;

@@ -23,7 +23,9 @@ public:
     // For all trials together. What isn't over by then counts as not measured.
     static constexpr int LongestMs = 20000;
 
-    UnattendedCheck(Platform::Engine& engine, Trial::Figures figures);
+    enum class Noise { None, Sweep }; // a sweep on the chosen speaker
+
+    UnattendedCheck(Platform::Engine& engine, Trial::Figures figures, Noise noise);
     ~UnattendedCheck();
     UnattendedCheck(const UnattendedCheck&) = delete;
     UnattendedCheck& operator=(const UnattendedCheck&) = delete;
@@ -36,7 +38,8 @@ public:
     bool isServiceMissing() const;
     RunEnd outcome() const;
     QJsonObject networkFigures() const { return m_networkFigures; }
-    // One for each device, and one for a kind that has none; in the order of the kinds.
+    // One for each device, one for a kind that has none, and one for the sweep; in the order of the
+    // kinds.
     const std::vector<ReportCheck>& checks() const { return m_checks; }
 
 private:
@@ -49,6 +52,7 @@ private:
     };
 
     void addDevices(const DeviceSurvey& survey);
+    void addLoop(const DeviceSurvey& survey);
     void addAbsence(CheckKind kind, Cause cause);
     void startNext();
     void finishOver();
@@ -58,6 +62,7 @@ private:
 
     Platform::Engine& m_engine;
     Trial::Figures m_figures;
+    Noise m_noise;
     std::vector<Entry> m_entries;
     std::vector<ReportCheck> m_checks;
     QJsonObject m_networkFigures;

@@ -18,6 +18,7 @@ inline const QLatin1String Network("network");
 inline const QLatin1String Camera("camera");
 inline const QLatin1String Speaker("speaker");
 inline const QLatin1String Microphone("microphone");
+inline const QLatin1String Loop("loop"); // from the speaker to the microphone
 
 // The results of a device: an AnswerCode, a StateCode, a name.
 inline const QLatin1String UserState("userState");

@@ -130,6 +130,12 @@ std::unique_ptr<NetworkProbe> DeviceEngine::createNetworkProbe(NetworkProbe::Lis
     return probe(listener, {}, m_reports.get());
 }
 
+std::unique_ptr<AcousticLoop> DeviceEngine::createAcousticLoop(const QString& speakerId,
+                                                               const QString& microphoneId)
+{
+    return m_sound->createAcousticLoop(speakerId, microphoneId);
+}
+
 DeviceList DeviceEngine::speakers() const
 {
     return m_sound->speakers();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ClassroomDevices/ClassroomDevicesExport.h"
+#include "platform/backend/AcousticLoop.h"
 #include "platform/backend/Engine.h"
 #include "platform/devices/DeviceEngineConfig.h"
 
@@ -17,7 +18,7 @@ class SoundSystem;
 class StunResponder;
 
 // The engine of this machine: its devices, its network, its user.
-class CLASSROOMDEVICES_EXPORT DeviceEngine final : public Engine
+class CLASSROOMDEVICES_EXPORT DeviceEngine final : public Engine, public AcousticLoopMaker
 {
 public:
     explicit DeviceEngine(const DeviceEngineConfig& config);
@@ -35,6 +36,8 @@ public:
     std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                 PlayerBackend::Listener& listener) override;
     std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) override;
+    std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
+                                                     const QString& microphoneId) override;
 
     DeviceList speakers() const override;
     SoundServerState soundServerState() const override;

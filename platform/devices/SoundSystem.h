@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/AcousticLoop.h"
 #include "platform/backend/MicrophoneBackend.h"
 #include "platform/backend/PlayerBackend.h"
 #include "platform/backend/SoundServerState.h"
@@ -27,6 +28,8 @@ public:
     // Null if no player can be created.
     virtual std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                         PlayerBackend::Listener& listener) = 0;
+    virtual std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
+                                                             const QString& microphoneId) = 0;
     virtual DeviceList speakers() const = 0;
     virtual SoundServerState serverState() const = 0;
 };

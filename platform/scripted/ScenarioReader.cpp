@@ -78,6 +78,24 @@ Scenario::Action readSounds(JsonFields& root)
     };
 }
 
+// Without the field a loop isn't tried.
+void readLoop(JsonFields& root, Scenario& scenario)
+{
+    constexpr int MaxDelayMs = 2000;
+    constexpr int QuietestDb = -200;
+    if (!root.contains("loop")) {
+        return;
+    }
+    using Result = LoopOutcome::Result;
+    JsonFields loop = root.object("loop");
+    LoopOutcome outcome;
+    outcome.result = loop.flag("heard", true) ? Result::Heard : Result::NotHeard;
+    outcome.delayMs = integer(loop, "delayMs", 0, MaxDelayMs, 100);
+    outcome.levelDb = integer(loop, "levelDb", QuietestDb, 0, -30);
+    loop.rejectOthers();
+    scenario.setup.push_back([outcome](ScriptedEngine& engine) { engine.setLoop(outcome); });
+}
+
 } // namespace
 
 ScenarioReader::ScenarioReader(JsonProblem& problem) : m_problem(problem)
@@ -93,6 +111,7 @@ Scenario ScenarioReader::read(const QJsonObject& document)
     scenario.setup.push_back(readSounds(root));
     ScenarioDeviceReader devices(m_problem);
     devices.readLists(root, scenario);
+    readLoop(root, scenario);
     const ScriptedNetwork::Series series = readNetwork(root);
     scenario.setup.push_back(
         [series](ScriptedEngine& engine) { engine.network().setSeries(series); });

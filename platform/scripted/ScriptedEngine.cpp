@@ -4,6 +4,7 @@
 
 #include "platform/backend/EngineRegistry.h"
 #include "platform/scripted/ScriptedCamera.h"
+#include "platform/scripted/ScriptedLoop.h"
 #include "platform/scripted/ScriptedMicrophone.h"
 #include "platform/scripted/ScriptedNetworkProbe.h"
 #include "platform/scripted/ScriptedPlayer.h"
@@ -68,6 +69,13 @@ std::unique_ptr<PlayerBackend> ScriptedEngine::createPlayer(const QString& path,
 std::unique_ptr<NetworkProbe> ScriptedEngine::createNetworkProbe(NetworkProbe::Listener& listener)
 {
     return std::make_unique<ScriptedNetworkProbe>(m_network, m_log, m_reports.document(), listener);
+}
+
+std::unique_ptr<AcousticLoop> ScriptedEngine::createAcousticLoop(const QString& speakerId,
+                                                                 const QString& microphoneId)
+{
+    return std::make_unique<ScriptedLoop>(m_speakers, speakerId, m_microphones, microphoneId, m_log,
+                                          m_loop);
 }
 
 DeviceList ScriptedEngine::speakers() const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ClassroomScripted/ClassroomScriptedExport.h"
+#include "platform/backend/AcousticLoop.h"
 #include "platform/backend/Engine.h"
 #include "platform/scripted/CallLog.h"
 #include "platform/scripted/Scenario.h"
@@ -23,7 +24,7 @@ class Timeline;
 // every call of the library is logged. A new engine has no device, measures nothing and knows no
 // facts. Changes reach the listeners from the event loop, so a test runs it (QTRY_VERIFY,
 // QCoreApplication::processEvents()) before it looks. Frames need a QGuiApplication.
-class CLASSROOMSCRIPTED_EXPORT ScriptedEngine final : public Engine
+class CLASSROOMSCRIPTED_EXPORT ScriptedEngine final : public Engine, public AcousticLoopMaker
 {
 public:
     explicit ScriptedEngine(const Scenario& scenario = {});
@@ -45,6 +46,9 @@ public:
     // The number of cameras, microphones, speakers, players and probes that exist now.
     int livingSessions() const { return m_log.livingSessions(); }
 
+    // What comes of an acoustic loop on devices that are in order. Until then it isn't tried.
+    void setLoop(const LoopOutcome& outcome) { m_loop = outcome; }
+
     void setSettingsFolder(const QString& folder) { m_settingsFolder = folder; }
 
     std::unique_ptr<CameraBackend> createCamera(CameraBackend::Listener& listener) override;
@@ -54,6 +58,8 @@ public:
     std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                 PlayerBackend::Listener& listener) override;
     std::unique_ptr<NetworkProbe> createNetworkProbe(NetworkProbe::Listener& listener) override;
+    std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
+                                                     const QString& microphoneId) override;
     DeviceList speakers() const override;
     SystemFacts& systemFacts() override { return m_facts; }
     ReportSink& reportSink() override { return m_reports; }
@@ -67,6 +73,7 @@ private:
     ScriptedNetwork m_network;
     ScriptedFacts m_facts;
     ScriptedReports m_reports;
+    LoopOutcome m_loop{LoopOutcome::Result::NotTried, 0, 0, QStringLiteral("scripted")};
     QTemporaryDir m_privateFolder; // used unless the host names the user's own settings
     QString m_settingsFolder;
     std::unique_ptr<Timeline> m_timeline;

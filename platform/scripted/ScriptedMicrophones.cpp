@@ -117,7 +117,12 @@ void ScriptedMicrophones::setSound(const QString& id, const QJsonObject& figures
 
 bool ScriptedMicrophones::isMuted() const
 {
-    return current().isMuted;
+    return isMuted(currentId());
+}
+
+bool ScriptedMicrophones::isMuted(const QString& id) const
+{
+    return m_inputs.value(id).isMuted;
 }
 
 void ScriptedMicrophones::setVolumeByUser(int percent)

@@ -49,7 +49,8 @@ public:
     bool isAdjustable() const;
     int volume() const;
     int audibleVolumeOf(const QString& id) const; // 0 while it is muted
-    bool isMuted() const;
+    bool isMuted() const;                         // the current one
+    bool isMuted(const QString& id) const;
     QJsonObject sound() const;
     void setVolumeByUser(int percent); // also unmutes
 

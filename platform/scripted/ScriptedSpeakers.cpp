@@ -50,7 +50,12 @@ int ScriptedSpeakers::audibleVolumeOf(const QString& id) const
 
 bool ScriptedSpeakers::isMuted() const
 {
-    return m_muted.contains(currentId());
+    return isMuted(currentId());
+}
+
+bool ScriptedSpeakers::isMuted(const QString& id) const
+{
+    return m_muted.contains(id);
 }
 
 void ScriptedSpeakers::setVolumeByUser(int percent)

@@ -39,7 +39,8 @@ public:
 
     int volume() const;                           // of the current speaker
     int audibleVolumeOf(const QString& id) const; // 0 while it is muted
-    bool isMuted() const;
+    bool isMuted() const;                         // the current one
+    bool isMuted(const QString& id) const;
     void setVolumeByUser(int percent); // also unmutes
     bool playerFails() const { return m_playerFails; }
     int soundLength(const QString& fileName) const; // -1 if none was set

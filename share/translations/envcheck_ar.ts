@@ -478,6 +478,10 @@
         <source></source>
         <translation>لم يتغير شيء منذ ذلك الحين.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>الحلقة الصوتية</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: يجب أن يكون كل سطر KEY=VALUE، مثل server=HOST، أو تعليقًا بعد فاصلة منقوطة؛ صحّحه هناك</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>تذبذب التأخر</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>التأخير من السماعة إلى الميكروفون</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>المستوى عند الميكروفون</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>لغة النصوص، مثل en أو zh_CN؛ وهي افتراضيًا لغة النظام.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>مع ‎--unattended‎: يشغّل أيضًا لمدة ثانية نغمة خافتة صاعدة على السماعة المحددة ويبحث عنها في الميكروفون المحدد. هذا يُحدث صوتًا.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>الاسم المستعار المعروض؛ وهو افتراضيًا مستخدم النظام.</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>الجهاز لا يستجيب</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>الجهاز مكتوم</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>الخادم لا يستجيب</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>لا طريق إلى الخادم</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>هذا المحرك لا يستطيع ذلك</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>لا ترسل الكاميرا أي تنسيق يمكن عرضه</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>مستوى الصوت 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>استُبدلت العناوين والأسماء والحسابات برموز قصيرة.</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>في الميكروفون طنين، فجرّب مقبسًا أو كابلًا آخر وأبعده عن مزوّدات الطاقة.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>لم يسمع الميكروفون السماعة، فارفع مستوى الصوت لكليهما وتحقق من أنهما في سماعة الرأس نفسها أو في الغرفة نفسها.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>لا يُستخدم %1 مع %2: احذف أحدهما</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>يحتاج ‎--%1‎ إلى ‎--%2‎: أضفه أو احذف ‎--%1‎</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>لا يُستخدم --%1 مع %2: انظر --help</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>يحتاج إلى إصلاح</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>سُمعت</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>لم تُسمع</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>لم تُجرَّب</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Seither hat sich nichts geändert.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Akustische Schleife</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: jede Zeile muss KEY=VALUE lauten, etwa server=HOST, oder ein Kommentar nach einem Semikolon sein; bitte dort berichtigen</translation>
@@ -637,6 +641,14 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Schwankung (Jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Verzögerung vom Lautsprecher zum Mikrofon</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Pegel am Mikrofon</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Sprache der Texte, etwa en oder zh_CN; sonst die des Systems.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>Mit --unattended: spielt zusätzlich eine Sekunde lang einen leisen, steigenden Ton auf dem gewählten Lautsprecher und sucht ihn im gewählten Mikrofon. Das ist zu hören.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Anzeigename; sonst der Benutzer des Systems.</translation>
@@ -1074,6 +1090,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>das Gerät antwortet nicht</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>das Gerät ist stummgeschaltet</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>der Server antwortet nicht</translation>
@@ -1081,6 +1101,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>es gibt keinen Weg zum Server</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>diese Engine kann es nicht</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>die Kamera sendet kein Format, das angezeigt werden kann</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>die Lautstärke ist 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Adressen, Namen und Konten sind durch kurze Codes ersetzt.</translation>
@@ -1133,6 +1161,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>Das Mikrofon brummt: Versuchen Sie einen anderen Anschluss oder ein anderes Kabel, und halten Sie es von Netzteilen fern.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>Das Mikrofon hat den Lautsprecher nicht gehört: Stellen Sie beide lauter und prüfen Sie, ob beide zum selben Headset gehören oder im selben Raum stehen.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>%1 passt nicht zu %2: lassen Sie eines weg</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 braucht --%2: fügen Sie es hinzu, oder lassen Sie --%1 weg</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 passt nicht zu %2: siehe --help</translation>
@@ -1349,6 +1385,18 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Zu beheben</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Gehört</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Nicht gehört</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Nicht versucht</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Nothing has changed since then.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Acoustic loop</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: every line must be KEY=VALUE, such as server=HOST, or a comment after a semicolon; correct it there</translation>
@@ -637,6 +641,14 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Jitter</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Delay from speaker to microphone</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Level at the microphone</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Language of the texts, such as en or zh_CN; the system's by default.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>With --unattended: also play a quiet rising tone on the chosen speaker for a second, and listen for it with the chosen microphone. It makes noise.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Nickname to show; the system's user by default.</translation>
@@ -1074,6 +1090,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>the device did not answer</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>the device is muted</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>the server did not answer</translation>
@@ -1081,6 +1101,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>there is no way to the server</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>this engine can't do it</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>the camera sends no format that can be shown</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>the volume is at 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Addresses, names and accounts are replaced by short codes.</translation>
@@ -1133,6 +1161,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>The microphone hums, so try another socket or cable, and keep it away from power supplies.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>The microphone didn't hear the speaker, so turn up both, and check that both belong to the same headset or stand in the same room.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>%1 can't be used with %2: leave one out</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 needs --%2: add it, or leave --%1 out</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 can't be used with %2: see --help</translation>
@@ -1349,6 +1385,18 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Needs fixing</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Heard</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Not heard</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Not tried</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

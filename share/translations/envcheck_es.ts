@@ -478,6 +478,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Nada ha cambiado desde entonces.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Bucle acústico</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: cada línea debe ser KEY=VALUE, como server=HOST, o un comentario tras un punto y coma; corríjalo ahí</translation>
@@ -637,6 +641,14 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Fluctuación (jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Retardo del altavoz al micrófono</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Nivel en el micrófono</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Idioma de los textos, como en o zh_CN; por defecto, el del sistema.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>Con --unattended: reproduce además durante un segundo un tono suave ascendente en el altavoz elegido y lo busca con el micrófono elegido. Se oye.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Apodo que se muestra; por defecto, el usuario del sistema.</translation>
@@ -1074,6 +1090,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>el dispositivo no responde</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>el dispositivo está silenciado</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>el servidor no responde</translation>
@@ -1081,6 +1101,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>no hay ruta al servidor</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>este motor no puede hacerlo</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>la cámara no envía ningún formato que se pueda mostrar</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>el volumen está en 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Direcciones, nombres y cuentas se sustituyen por códigos cortos.</translation>
@@ -1133,6 +1161,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>El micrófono zumba: pruebe otra toma u otro cable y aléjelo de las fuentes de alimentación.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>El micrófono no oyó el altavoz: suba el volumen de ambos y compruebe que pertenecen a los mismos auriculares o están en la misma sala.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>%1 no se puede usar con %2: quite una de las dos</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 necesita --%2: añádalo o quite --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 no se puede usar con %2: vea --help</translation>
@@ -1349,6 +1385,18 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Hay que arreglarlo</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Oído</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>No oído</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>No probado</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Rien n’a changé depuis.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Boucle acoustique</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1 : chaque ligne doit être KEY=VALUE, comme server=HOST, ou un commentaire après un point-virgule ; corrigez-la à cet endroit</translation>
@@ -637,6 +641,14 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Gigue</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Délai du haut-parleur au microphone</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Niveau au microphone</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Langue des textes, comme en ou zh_CN ; par défaut, celle du système.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>Avec --unattended : joue aussi pendant une seconde un son faible qui monte sur le haut-parleur choisi, et le cherche avec le microphone choisi. Cela s'entend.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Pseudo à afficher ; par défaut, l’utilisateur du système.</translation>
@@ -1074,6 +1090,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>l’appareil ne répond pas</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>le son de l'appareil est coupé</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>le serveur ne répond pas</translation>
@@ -1081,6 +1101,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>il n’y a aucun chemin vers le serveur</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>ce moteur ne sait pas le faire</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>la caméra n'envoie aucun format affichable</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>le volume est à 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Adresses, noms et comptes sont remplacés par des codes courts.</translation>
@@ -1133,6 +1161,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>Le micro ronfle : essayez une autre prise ou un autre câble et éloignez-le des alimentations.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>Le microphone n'a pas entendu le haut-parleur : augmentez le volume des deux et vérifiez qu'ils appartiennent au même casque ou se trouvent dans la même pièce.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>%1 ne va pas avec %2 : supprimez l’une des deux</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 a besoin de --%2 : ajoutez-le, ou omettez --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 ne va pas avec %2 : voir --help</translation>
@@ -1349,6 +1385,18 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>À corriger</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Entendu</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Non entendu</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Non essayé</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@
         <source></source>
         <translation>その後の変更はありません。</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>音響ループ</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1：各行は server=HOST のような KEY=VALUE か、セミコロンで始まるコメントにしてください</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>ジッター</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>スピーカーからマイクまでの遅延</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>マイクでのレベル</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>テキストの言語（en、zh_CN など）。既定はシステムの言語。</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>--unattended と併用：選択中のスピーカーで小さな上昇音を 1 秒間再生し、選択中のマイクで聞き取れるか調べます。音が出ます。</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>表示するニックネーム。既定はシステムのユーザー。</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>機器が応答しません</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>機器がミュートになっています</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>サーバーが応答しません</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>サーバーへの経路がありません</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>このエンジンでは実行できません</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>カメラが表示できる形式の映像を送っていません</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>音量が 0 です</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>アドレス、名前、アカウントは短い記号に置き換えられています。</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>マイクにハム音（ブーンという雑音）が入っています。別の端子やケーブルを試し、電源から離してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>マイクにスピーカーの音が届きませんでした。両方の音量を上げ、同じヘッドセットか同じ部屋にあるか確認してください。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>%1 は %2 と一緒に使えません。どちらかを外してください</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 には --%2 が必要です。追加するか、--%1 を外してください</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 は %2 では使えません。--help を参照してください</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>対処が必要</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>聞こえた</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>聞こえない</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>未実行</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@
         <source></source>
         <translation>그 이후로 변경된 것이 없습니다.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>음향 루프</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: 각 줄은 server=HOST 같은 KEY=VALUE이거나 세미콜론 뒤의 주석이어야 합니다. 파일에서 바로잡으세요</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>지터</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>스피커에서 마이크까지의 지연</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>마이크에서의 레벨</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>en, zh_CN 같은 텍스트 언어. 기본값은 시스템 언어입니다.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>--unattended와 함께: 선택한 스피커로 1초 동안 작은 상승음을 재생하고 선택한 마이크에서 찾습니다. 소리가 납니다.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>표시할 닉네임. 기본값은 시스템 사용자입니다.</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>장치가 응답하지 않음</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>장치가 음소거됨</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>서버가 응답하지 않음</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>서버로 가는 경로가 없습니다</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>이 엔진은 할 수 없음</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>카메라가 표시할 수 있는 형식을 보내지 않음</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>볼륨이 0임</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>주소, 이름, 계정은 짧은 코드로 바뀌었습니다.</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>마이크에서 웅 하는 소리가 나니 다른 단자나 케이블을 사용해 보고 전원 장치에서 멀리 두세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>마이크가 스피커 소리를 듣지 못했으니 둘 다 볼륨을 높이고 같은 헤드셋이나 같은 방에 있는지 확인하세요.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>%1과(와) %2은(는) 함께 쓸 수 없습니다. 하나를 빼세요</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1에는 --%2이(가) 필요합니다. 추가하거나 --%1을(를) 빼세요</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1은(는) %2에 쓸 수 없습니다. --help를 참고하세요</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>조치 필요</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>들림</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>들리지 않음</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>시도 안 함</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

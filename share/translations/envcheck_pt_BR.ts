@@ -478,6 +478,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Nada mudou desde então.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Circuito acústico</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: cada linha deve ser KEY=VALUE, como server=HOST, ou um comentário após ponto e vírgula; corrija-a ali</translation>
@@ -637,6 +641,14 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Variação (jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Atraso do alto-falante ao microfone</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Nível no microfone</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Idioma dos textos, como en ou zh_CN; por padrão, o do sistema.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>Com --unattended: toca também por um segundo um tom baixo e crescente no alto-falante escolhido e o procura no microfone escolhido. Isso faz barulho.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Apelido a mostrar; por padrão, o usuário do sistema.</translation>
@@ -1074,6 +1090,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>o dispositivo não responde</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>o dispositivo está mudo</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>o servidor não responde</translation>
@@ -1081,6 +1101,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>não há rota até o servidor</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>este mecanismo não consegue fazer isso</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>a câmera não envia nenhum formato que possa ser exibido</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>o volume está em 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Endereços, nomes e contas foram trocados por códigos curtos.</translation>
@@ -1133,6 +1161,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>O microfone tem zumbido: tente outra entrada ou outro cabo e afaste-o de fontes de alimentação.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>O microfone não ouviu o alto-falante: aumente o volume dos dois e verifique se pertencem ao mesmo headset ou estão na mesma sala.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>%1 não combina com %2: retire uma das duas</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 precisa de --%2: adicione-o ou retire --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 não combina com %2: veja --help</translation>
@@ -1349,6 +1385,18 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Precisa de correção</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Ouvido</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Não ouvido</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Não tentado</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

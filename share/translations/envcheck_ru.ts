@@ -478,6 +478,10 @@
         <source></source>
         <translation>С тех пор ничего не изменилось.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Акустическая петля</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: каждая строка должна иметь вид KEY=VALUE, например server=HOST, или быть комментарием после точки с запятой; исправьте там</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Джиттер</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Задержка от динамика до микрофона</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Уровень на микрофоне</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>Язык текстов, например en или zh_CN; по умолчанию язык системы.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>С --unattended: дополнительно секунду воспроизводит тихий нарастающий тон на выбранном динамике и ищет его в выбранном микрофоне. Это слышно.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Показываемый псевдоним; по умолчанию пользователь системы.</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>устройство не отвечает</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>звук устройства отключён</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>сервер не отвечает</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>нет пути к серверу</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>этот движок так не умеет</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>камера не передаёт формат, который можно показать</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>громкость равна 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Адреса, имена и учётные записи заменены короткими кодами.</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>Микрофон гудит: попробуйте другой разъём или кабель и уберите его подальше от блоков питания.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>Микрофон не услышал динамик: сделайте громче оба и проверьте, что они относятся к одной гарнитуре или стоят в одной комнате.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>%1 не сочетается с %2: уберите одно из них</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>для --%1 нужен --%2: добавьте его или уберите --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 не сочетается с %2: см. --help</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Нужно исправить</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Слышно</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Не слышно</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Не проверялось</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Không có gì thay đổi kể từ đó.</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>Vòng âm thanh</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1: mỗi dòng phải có dạng KEY=VALUE, ví dụ server=HOST, hoặc là chú thích sau dấu chấm phẩy; hãy sửa tại đó</translation>
@@ -637,6 +641,14 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>Độ dao động trễ (jitter)</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>Độ trễ từ loa đến micrô</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>Mức âm tại micrô</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Ngôn ngữ của văn bản, ví dụ en hoặc zh_CN; mặc định là ngôn ngữ của hệ thống.</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>Cùng với --unattended: phát thêm một âm nhỏ tăng dần trong một giây trên loa đã chọn và tìm nó bằng micrô đã chọn. Việc này gây tiếng động.</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>Biệt danh hiển thị; mặc định là người dùng của hệ thống.</translation>
@@ -1074,6 +1090,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>thiết bị không phản hồi</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>thiết bị đang tắt tiếng</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>máy chủ không phản hồi</translation>
@@ -1081,6 +1101,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>không có đường tới máy chủ</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>bộ máy này không làm được</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>camera không gửi định dạng nào hiển thị được</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>âm lượng bằng 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>Địa chỉ, tên và tài khoản được thay bằng mã ngắn.</translation>
@@ -1133,6 +1161,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>Micrô bị ù, hãy thử cổng hoặc cáp khác và để nó xa các bộ nguồn.</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>Micrô không nghe thấy loa, hãy tăng âm lượng cả hai và kiểm tra xem chúng có thuộc cùng một tai nghe hoặc ở cùng một phòng không.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>%1 không đi cùng %2: hãy bỏ một trong hai</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 cần --%2: hãy thêm vào hoặc bỏ --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 không dùng được với %2: xem --help</translation>
@@ -1349,6 +1385,18 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>Cần khắc phục</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>Nghe thấy</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>Không nghe thấy</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>Chưa thử</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@
         <source></source>
         <translation>自那时起没有变化。</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>声音回路</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1：每一行必须是 KEY=VALUE（例如 server=HOST）或以分号开头的注释；请在该文件中改正</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>抖动</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>从扬声器到麦克风的延迟</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>麦克风处的电平</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>文本的语言，例如 en 或 zh_CN；默认为系统语言。</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>与 --unattended 一起使用：还会在选中的扬声器上播放一秒钟轻微的上升音，并用选中的麦克风寻找它。会发出声音。</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>要显示的昵称；默认为系统用户。</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>设备没有响应</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>设备已静音</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>服务器没有响应</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>没有到服务器的路由</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>此引擎无法做到</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>摄像头未发送可显示的格式</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>音量为 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>地址、名称和账号已替换为短代码。</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>麦克风有电流嗡声，请换一个插口或线缆，并让它远离电源适配器。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>麦克风没有听到扬声器，请调高两者的音量，并确认它们属于同一副耳机或在同一个房间。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>%1 不能与 %2 同时使用：请去掉其中一个</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 需要 --%2：请加上它，或去掉 --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 不能用于 %2：请参阅 --help</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>需要处理</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>听到</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>未听到</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>未尝试</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -478,6 +478,10 @@
         <source></source>
         <translation>自那時起沒有變更。</translation>
     </message>
+    <message id="ID_Host_Check_Loop">
+        <source></source>
+        <translation>聲音迴路</translation>
+    </message>
     <message id="ID_Host_Config_BadLine">
         <source></source>
         <translation>%1：每一行必須是 KEY=VALUE（例如 server=HOST）或以分號開頭的註解；請在該檔案中更正</translation>
@@ -637,6 +641,14 @@
     <message id="ID_Host_Figure_Jitter">
         <source></source>
         <translation>抖動</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopDelay">
+        <source></source>
+        <translation>從喇叭到麥克風的延遲</translation>
+    </message>
+    <message id="ID_Host_Figure_LoopLevel">
+        <source></source>
+        <translation>麥克風處的音量</translation>
     </message>
     <message id="ID_Host_Figure_Loss">
         <source></source>
@@ -962,6 +974,10 @@
         <source></source>
         <translation>文字的語言，例如 en 或 zh_CN；預設為系統語言。</translation>
     </message>
+    <message id="ID_Host_Option_Loop">
+        <source></source>
+        <translation>與 --unattended 一起使用：還會在選取的喇叭上播放一秒鐘輕微的上升音，並用選取的麥克風尋找它。會發出聲音。</translation>
+    </message>
     <message id="ID_Host_Option_Nickname">
         <source></source>
         <translation>要顯示的暱稱；預設為系統使用者。</translation>
@@ -1074,6 +1090,10 @@
         <source></source>
         <translation>裝置沒有回應</translation>
     </message>
+    <message id="ID_Host_Reason_Muted">
+        <source></source>
+        <translation>裝置已靜音</translation>
+    </message>
     <message id="ID_Host_Reason_NoAnswer">
         <source></source>
         <translation>伺服器沒有回應</translation>
@@ -1081,6 +1101,10 @@
     <message id="ID_Host_Reason_NoRoute">
         <source></source>
         <translation>沒有到伺服器的路由</translation>
+    </message>
+    <message id="ID_Host_Reason_NotOffered">
+        <source></source>
+        <translation>此引擎無法做到</translation>
     </message>
     <message id="ID_Host_Reason_NotRecorded">
         <source></source>
@@ -1118,6 +1142,10 @@
         <source></source>
         <translation>攝影機未傳送可顯示的格式</translation>
     </message>
+    <message id="ID_Host_Reason_VolumeZero">
+        <source></source>
+        <translation>音量為 0</translation>
+    </message>
     <message id="ID_Host_Redacted_Hash">
         <source></source>
         <translation>位址、名稱和帳號已替換為短代碼。</translation>
@@ -1133,6 +1161,10 @@
     <message id="ID_Host_Remedy_Hum">
         <source></source>
         <translation>麥克風有電流嗡聲，請換一個插孔或線材，並讓它遠離電源供應器。</translation>
+    </message>
+    <message id="ID_Host_Remedy_LoopNotHeard">
+        <source></source>
+        <translation>麥克風沒有聽到喇叭，請調高兩者的音量，並確認它們屬於同一副耳機或在同一個房間。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerSilent">
         <source></source>
@@ -1322,6 +1354,10 @@
         <source></source>
         <translation>%1 不能與 %2 同時使用：請去掉其中一個</translation>
     </message>
+    <message id="ID_Host_Usage_Needs">
+        <source></source>
+        <translation>--%1 需要 --%2：請加上它，或去掉 --%1</translation>
+    </message>
     <message id="ID_Host_Usage_OtherCommand">
         <source></source>
         <translation>--%1 不能用於 %2：請參閱 --help</translation>
@@ -1349,6 +1385,18 @@
     <message id="ID_Host_Verdict_Faulty">
         <source></source>
         <translation>需要處理</translation>
+    </message>
+    <message id="ID_Host_Verdict_Heard">
+        <source></source>
+        <translation>聽到</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotHeard">
+        <source></source>
+        <translation>未聽到</translation>
+    </message>
+    <message id="ID_Host_Verdict_NotTried">
+        <source></source>
+        <translation>未嘗試</translation>
     </message>
     <message id="ID_Host_Verdict_Unmeasured">
         <source></source>

@@ -60,11 +60,12 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void camerasAndSound();
+    void loop();
     void servicesAreGone();
 
 private:
     void plug(const char* name, const std::function<double(double)>& wave);
-    Report run(int expectedCode);
+    Report run(int expectedCode, const QStringList& more = {});
     static const ReportCheck* checkOf(const Report& report, const char* device);
     static QString causes(const ReportCheck* check);
 
@@ -119,16 +120,17 @@ void tst_UnattendedRun::plug(const char* name, const std::function<double(double
     QVERIFY(m_players.back()->waitForStarted());
 }
 
-Report tst_UnattendedRun::run(int expectedCode)
+Report tst_UnattendedRun::run(int expectedCode, const QStringList& more)
 {
     QProcess process;
     process.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
     QElapsedTimer clock;
     clock.start();
     process.start(QStringLiteral(ENVCHECK_PROGRAM),
-                  {QStringLiteral("check"), QStringLiteral("--unattended"),
-                   QStringLiteral("--json"), QStringLiteral("-"), QStringLiteral("--server"),
-                   m_coturn->server().toString()});
+                  QStringList{QStringLiteral("check"), QStringLiteral("--unattended"),
+                              QStringLiteral("--json"), QStringLiteral("-"),
+                              QStringLiteral("--server"), m_coturn->server().toString()} +
+                      more);
     const bool hasEnded = process.waitForFinished(TimeoutMs);
     m_ms = clock.elapsed();
     QString problem;
@@ -206,6 +208,27 @@ void tst_UnattendedRun::camerasAndSound()
     QCOMPARE(m_sound->state(), before);
     QVERIFY(!QFile::exists(m_folder.filePath(QStringLiteral("envcheck/devices.ini"))));
     QTRY_VERIFY_WITH_TIMEOUT(desk.output().trimmed().endsWith("paused"), TimeoutMs);
+}
+
+// The default speaker and the default microphone, with nothing between them and with a loop.
+void tst_UnattendedRun::loop()
+{
+    m_players.clear();
+    const QStringList before = m_sound->state();
+    const Report without = run(1, {QStringLiteral("--loop")});
+    QCOMPARE(without.check(CheckKind::Loop)->verdict, Verdict::NotHeard);
+    m_sound->control({QStringLiteral("load-module"), QStringLiteral("module-loopback"),
+                      QStringLiteral("source=speaker_a.monitor"), QStringLiteral("sink=voice"),
+                      QStringLiteral("latency_msec=100")});
+    const Report with = run(1, {QStringLiteral("--loop")}); // there is no camera
+    const ReportCheck* check = with.check(CheckKind::Loop);
+    QCOMPARE(check->verdict, Verdict::Heard);
+    const double delayMs = check->measurement(FigureName::LoopDelay)->value.toDouble();
+    QVERIFY2(delayMs > 80 && delayMs < 300, qPrintable(QString::number(delayMs)));
+    QCOMPARE(check->measurement(FigureName::LoopSpeaker)->value.toString(),
+             QStringLiteral("Test Speaker A"));
+    QCOMPARE(m_sound->state(), before);
+    QVERIFY2(m_ms < 16000, qPrintable(QString::number(m_ms)));
 }
 
 void tst_UnattendedRun::servicesAreGone()

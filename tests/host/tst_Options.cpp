@@ -256,6 +256,10 @@ void tst_Options::wrongOnes_data()
                                     << "pdf";
     QTest::newRow("unknown redaction") << "report a --redact some"
                                        << "some";
+    QTest::newRow("loop with a person") << "--loop"
+                                        << "--unattended";
+    QTest::newRow("loop of another command") << "devices --loop"
+                                             << "--loop";
     QTest::newRow("an argument too many") << "devices all"
                                           << "all";
     QTest::newRow("option of another command") << "--json"
@@ -297,9 +301,10 @@ void tst_Options::helpNamesEveryOption_data()
 {
     QTest::addColumn<Options::Command>("command");
     QTest::addColumn<QString>("options");
-    QTest::newRow("check") << Options::Command::Check
-                           << "platform scenario language server account nickname cdn results "
-                              "report report-url tour unattended redact quiet verbose help version";
+    QTest::newRow("check")
+        << Options::Command::Check
+        << "platform scenario language server account nickname cdn results "
+           "report report-url tour unattended loop redact quiet verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network

@@ -33,6 +33,8 @@ struct Devices
 
 } // namespace
 
+Q_DECLARE_METATYPE(Verdict)
+
 // The program with --unattended, without a display, on scripted devices.
 class tst_UnattendedCommand : public QObject
 {
@@ -43,6 +45,9 @@ private Q_SLOTS:
     void init();
     void findings_data();
     void findings();
+    void loop_data();
+    void loop();
+    void noNoiseUnlessAskedFor();
     void severalDevices();
     void signalEndsIt();
     void wrongUsage_data();
@@ -211,6 +216,72 @@ void tst_UnattendedCommand::findings()
     }
     // The table is for people, so it doesn't stand where the document goes.
     QVERIFY(m_error.contains(QLatin1String("Unattended: ")));
+}
+
+void tst_UnattendedCommand::loop_data()
+{
+    QTest::addColumn<QByteArray>("run");
+    QTest::addColumn<Verdict>("verdict");
+    QTest::addColumn<QString>("cause");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<int>("code");
+    const auto row = [this](const char* name, const Devices& devices, const char* loop,
+                            Verdict verdict, const char* cause, const char* reason) {
+        QTest::newRow(name) << QByteArray(name) << verdict << QString::fromLatin1(cause)
+                            << QString::fromLatin1(reason) << (verdict == Verdict::Heard ? 0 : 1);
+        QByteArray scenario = devices.scenario();
+        scenario.insert(1, loop);
+        m_findings[name] = started(
+            scenario, {QStringLiteral("--loop"), QStringLiteral("--json"), QStringLiteral("-")});
+    };
+    const char* heard = R"( "loop": { "delayMs": 123, "levelDb": -31 },)";
+    row("heard", {}, heard, Verdict::Heard, "", "");
+    row("not heard", {}, R"( "loop": { "heard": false },)", Verdict::NotHeard, "loopNotHeard", "");
+    row("not in the scenario", {}, "", Verdict::NotTried, "", "scripted");
+    Devices devices;
+    devices.speakers = R"("speakers": [ { "id": "s", "name": "Speaker", "muted": true } ])";
+    row("muted loop", devices, heard, Verdict::NotTried, "muted", "muted");
+    devices.speakers = R"("speakers": [])";
+    row("no speaker", devices, heard, Verdict::NotTried, "absent", "absent");
+    devices = {};
+    devices.microphones = R"("microphones": [ { "id": "m", "name": "Mic", "state": "failed" } ])";
+    row("broken microphone", devices, heard, Verdict::NotTried, "failed", "failed");
+}
+
+void tst_UnattendedCommand::loop()
+{
+    QFETCH(QByteArray, run);
+    QFETCH(Verdict, verdict);
+    QFETCH(QString, cause);
+    QFETCH(QString, reason);
+    m_run = std::move(m_findings.at(run));
+    const int code = finish();
+    QTEST(code, "code");
+    const Report report = this->report();
+    const ReportCheck* check = report.check(CheckKind::Loop);
+    QVERIFY(check);
+    QCOMPARE(check->verdict, verdict);
+    QCOMPARE(check->causes.empty() ? QString() : ReportWords::of(check->causes.front()), cause);
+    const Measurement* delay = check->measurement(FigureName::LoopDelay);
+    QCOMPARE(delay ? delay->reason : QString(), reason);
+    QCOMPARE(check->measurement(FigureName::LoopLevel) != nullptr, verdict == Verdict::Heard);
+    if (verdict == Verdict::Heard) {
+        QCOMPARE(delay->value.toDouble(), 123.0);
+        QVERIFY2(m_error.contains(QLatin1String("Speaker, Mic, 123 ms, -31 dB")),
+                 qPrintable(m_error));
+    }
+    // What is wrong with a device is told once.
+    const QString remedy = QStringLiteral("The device is muted");
+    QCOMPARE(m_error.count(remedy), cause == QLatin1String("muted") ? 1 : 0);
+}
+
+void tst_UnattendedCommand::noNoiseUnlessAskedFor()
+{
+    QByteArray scenario = Devices().scenario();
+    scenario.insert(1, R"( "loop": { "heard": false },)");
+    start(scenario, {QStringLiteral("--json"), QStringLiteral("-")});
+    QCOMPARE(finish(), 0);
+    QVERIFY(!report().check(CheckKind::Loop));
 }
 
 // Each has its own check. Those that are in order don't hide the one that isn't.

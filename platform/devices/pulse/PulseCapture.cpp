@@ -36,10 +36,9 @@ void PulseCapture::open(const QString& microphoneId, std::shared_ptr<MicrophoneA
         events.failed();
         return;
     }
-    m_failed = std::move(events.failed);
+    m_events = std::move(events);
     m_microphoneId = microphoneId;
-    m_meter.emplace(Rate, std::move(analysis), std::move(events.metered),
-                    CaptureMeter::Clock::now());
+    m_meter.emplace(Rate, std::move(analysis), m_events.metered, CaptureMeter::Clock::now());
     const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, Rate, Channels};
     m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
     if (!m_stream) {
@@ -152,6 +151,9 @@ void PulseCapture::take(const float* samples, std::size_t frames)
     CaptureMeter::mixToMono(samples, frames, m_mono);
     listenBack(now); // first, because its delay is heard
     m_meter->add(samples, m_mono, now);
+    if (m_events.recorded) {
+        m_events.recorded(m_mono, now);
+    }
 }
 
 void PulseCapture::listenBack(CaptureMeter::Clock::time_point now)
@@ -180,7 +182,7 @@ void PulseCapture::fail()
 {
     if (m_meter) {
         close();
-        m_failed();
+        m_events.failed();
     }
 }
 

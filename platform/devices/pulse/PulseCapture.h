@@ -25,6 +25,9 @@ public:
     {
         CaptureMeter::Events metered;
         std::function<void()> failed; // the stream broke
+        // Each piece of sound, mixed to one channel; may be null.
+        std::function<void(const std::vector<float>& mono, CaptureMeter::Clock::time_point now)>
+            recorded;
     };
 
     explicit PulseCapture(PulseConnection& connection);
@@ -45,7 +48,7 @@ private:
     void fail();
 
     PulseConnection& m_connection;
-    std::function<void()> m_failed;
+    Events m_events;
     QString m_microphoneId;
     QString m_speakerId;
     PulseStreamHandle m_stream;

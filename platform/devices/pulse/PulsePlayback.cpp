@@ -156,6 +156,9 @@ void PulsePlayback::feed()
             pa_stream_cancel_write(m_stream.get());
             break;
         }
+        if (m_written == 0) {
+            m_begin = std::chrono::steady_clock::now();
+        }
         pa_stream_write(m_stream.get(), memory, count * sizeof(float), nullptr, 0,
                         PA_SEEK_RELATIVE);
         m_written += count;

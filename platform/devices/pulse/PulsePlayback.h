@@ -4,6 +4,7 @@
 
 #include "platform/devices/pulse/PulseConnection.h"
 
+#include <chrono>
 #include <functional>
 
 namespace Platform {
@@ -26,6 +27,8 @@ public:
     void playOn(const QString& speakerId); // moves there if it is playing already
     void soundAdvanced();
     void stop();
+    // When the first sample was handed to the server; long ago if none was.
+    std::chrono::steady_clock::time_point begin() const { return m_begin; }
     void connectionLost() override;
 
 private:
@@ -41,6 +44,7 @@ private:
     PulseStreamHandle m_stream;
     std::size_t m_start = 0;   // position in the sound at which the stream began
     std::size_t m_written = 0; // position up to which it was written
+    std::chrono::steady_clock::time_point m_begin;
     bool m_isDraining = false;
     bool m_isOver = false;
 };

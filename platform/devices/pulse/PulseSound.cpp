@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseSound.h"
 
+#include "platform/devices/pulse/PulseAcousticLoop.h"
 #include "platform/devices/pulse/PulseMicrophone.h"
 #include "platform/devices/pulse/PulsePlayer.h"
 #include "platform/devices/pulse/PulseServer.h"
@@ -30,6 +31,12 @@ std::unique_ptr<PlayerBackend> PulseSound::createPlayer(const QString& path, flo
                                                         PlayerBackend::Listener& listener)
 {
     return std::make_unique<PulsePlayer>(server(), path, volume, listener, m_report);
+}
+
+std::unique_ptr<AcousticLoop> PulseSound::createAcousticLoop(const QString& speakerId,
+                                                             const QString& microphoneId)
+{
+    return std::make_unique<PulseAcousticLoop>(server(), speakerId, microphoneId);
 }
 
 DeviceList PulseSound::speakers() const

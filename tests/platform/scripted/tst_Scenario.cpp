@@ -325,6 +325,10 @@ void tst_Scenario::namesFileLineAndField_data()
     row("answered more than sent",
         "{\"network\": [{ \"delayMs\": 1, \"sent\": 5,\n\"answered\": 6 }]}",
         "2: network[0].answered: must be a whole number from 0 to 5");
+    row("loop", "{\"loop\": {\n\"delayMs\": 2001 }}",
+        "2: loop.delayMs: must be a whole number from 0 to 2000");
+    row("field of a loop", "{\"loop\": {\n\"level\": -3 }}",
+        "2: loop.level: is not a known field here");
     row("event", "{\"timeline\": [{ \"atMs\": 1,\n\"event\": \"explode\" }]}",
         "2: timeline[0].event: must be one of plug, unplug, rename, state, choose, volume, "
         "mute, pictures, cameraServer, levels, network, report, userInfo, breakdown, kickOut");
