@@ -4,6 +4,7 @@
 #include "benchmarks/DialogClosing.h"
 #include "benchmarks/DialogLeftovers.h"
 #include "benchmarks/DialogOpening.h"
+#include "benchmarks/DialogRest.h"
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/devices/DeviceEngine.h"
@@ -16,7 +17,8 @@
 #include <memory>
 
 // The dialog on real devices: how fast it opens, beside a QWizard of as many widgets of the same
-// kinds; how fast it closes with its streams open; and what it leaves behind.
+// kinds; what its pages take at rest; how fast it closes with its streams open; and what it leaves
+// behind.
 
 using TestSupport::SoundServer;
 
@@ -26,6 +28,8 @@ constexpr int UsualRounds = 50;
 constexpr int OpeningsPerRound = 20;
 constexpr int RoundsPerClosing = 5;
 constexpr int CalmMs = 1500;
+constexpr int RestMs = 5000; // of each page
+constexpr int SmokeRestMs = 200;
 constexpr int IconNamesMs = 31000; // Qt cleans its cache of icons at most every 30 s
 
 } // namespace
@@ -61,6 +65,7 @@ int main(int argc, char** argv)
     const int rounds = options.rounds();
     const int exitCode = options.judge([&]() -> std::optional<bool> {
         bool isGood = measureOpening(application, rounds);
+        isGood = measureRest(application, options.isSmoke() ? SmokeRestMs : RestMs) && isGood;
         isGood = measureClosing(application, server, qMax(1, rounds / RoundsPerClosing)) && isGood;
         return measureLeftovers(application, server, camera, rounds * OpeningsPerRound,
                                 options.isSmoke() ? CalmMs : IconNamesMs) &&
