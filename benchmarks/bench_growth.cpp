@@ -177,19 +177,14 @@ bool Growth::measureChanges()
     return share <= MaxShareOfCore;
 }
 
-std::size_t heapBytes()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
-
 // Without Qt's cache of drawn icons. Only a timer of the cache drops their names.
-std::size_t calmHeapBytes(int calmMs)
+std::size_t heapBytes(int calmMs)
 {
     QPixmapCache::setCacheLimit(0);
     settle(calmMs);
     QPixmapCache::setCacheLimit(UsualCacheKb);
-    return heapBytes();
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
 }
 
 bool Growth::measureOpenings()
@@ -207,14 +202,14 @@ bool Growth::measureOpenings()
     openOnce();
     std::puts("| openings | heap, KB | growth, bytes an opening |\n|---|---|---|");
     const int calmMs = m_options.isSmoke() ? SmokeCalmMs : IconNamesMs;
-    const std::size_t before = calmHeapBytes(calmMs);
+    const std::size_t before = heapBytes(calmMs);
     double growth = 0;
     int openings = 0;
     for (const int count : steps(1, 1000)) {
         for (; openings < count; ++openings) {
             openOnce();
         }
-        const std::size_t now = calmHeapBytes(calmMs);
+        const std::size_t now = heapBytes(calmMs);
         growth = (static_cast<double>(now) - static_cast<double>(before)) / count;
         std::printf("| %d | %.0f | %.0f |\n", count, static_cast<double>(now) / 1024, growth);
     }
