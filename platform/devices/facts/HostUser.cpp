@@ -16,10 +16,14 @@ constexpr size_t BufferSize = size_t(64) * 1024;
 
 HostUser HostUser::current()
 {
+    return withId(getuid());
+}
+
+HostUser HostUser::withId(uid_t id)
+{
     std::vector<char> buffer(BufferSize);
     passwd entry = {};
     passwd* found = nullptr;
-    const uid_t id = getuid();
     if (getpwuid_r(id, &entry, buffer.data(), buffer.size(), &found) != 0 || !found) {
         return {QString::number(id), {}};
     }

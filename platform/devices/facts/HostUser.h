@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <sys/types.h>
 
 namespace Platform {
 
@@ -12,8 +13,9 @@ struct HostUser
     QString loginName; // the number where the user has no name
     QString realName;  // may be empty
 
-    // Asks the user database, which may be a slow server: not for the GUI thread.
+    // These ask the user database, which may be a slow server: not for the GUI thread.
     static HostUser current();
+    static HostUser withId(uid_t id);
 };
 
 } // namespace Platform

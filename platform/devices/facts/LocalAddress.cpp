@@ -18,8 +18,12 @@ bool isReachable(const QHostAddress& address)
 
 QString LocalAddress::find()
 {
+    return bestOf(QNetworkInterface::allAddresses());
+}
+
+QString LocalAddress::bestOf(const QList<QHostAddress>& addresses)
+{
     QString version6;
-    const QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
     for (const QHostAddress& address : addresses) {
         if (!isReachable(address)) {
             continue;

@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QString>
+
+class QHostAddress;
 
 namespace Platform {
 namespace LocalAddress {
 
-// An address of this machine that others may reach, IPv4 first, otherwise the loopback address.
-QString find();
+QString find(); // the best one of this machine
+
+// One that others may reach, IPv4 first, otherwise the loopback address.
+QString bestOf(const QList<QHostAddress>& addresses);
 
 } // namespace LocalAddress
 } // namespace Platform

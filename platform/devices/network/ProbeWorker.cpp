@@ -202,13 +202,14 @@ void ProbeWorker::sendProbe()
 // False if the socket is of no use any more.
 bool ProbeWorker::write(const QByteArray& datagram)
 {
-    if (m_socket->write(datagram) == datagram.size()) {
+    const qint64 written = m_socket->write(datagram);
+    if (written == datagram.size()) {
         return true;
     }
-    // The kernel reports the refusal of an earlier datagram in place of sending this one.
-    if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
+    // The kernel reports the refusal of an earlier datagram once, in place of sending this one. Qt
+    // has no error of its own for that.
+    if (written < 0 && m_socket->write(datagram) == datagram.size()) {
         setRefused();
-        m_socket->write(datagram);
         return true;
     }
     if (m_socket->error() == QAbstractSocket::NetworkError) {

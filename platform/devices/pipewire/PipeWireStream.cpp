@@ -123,8 +123,7 @@ bool isCorrupted(const spa_buffer& buffer)
 // Never more than the block holds: the sender may claim too much.
 FrameView::Plane planeOf(const spa_data& block)
 {
-    if (!block.data || !block.chunk || block.chunk->stride < 0 ||
-        (block.chunk->flags & SPA_CHUNK_FLAG_CORRUPTED) != 0) {
+    if (!block.data || !block.chunk || (block.chunk->flags & SPA_CHUNK_FLAG_CORRUPTED) != 0) {
         return {};
     }
     const uint32_t offset = std::min(block.chunk->offset, block.maxsize);

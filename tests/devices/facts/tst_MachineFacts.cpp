@@ -30,7 +30,10 @@ private Q_SLOTS:
     void availableBytes();
     void folderThatIsNotThereYet();
     void localAddress();
+    void bestAddress_data();
+    void bestAddress();
     void user();
+    void userWithoutAName();
 };
 
 namespace {
@@ -136,6 +139,33 @@ void tst_MachineFacts::localAddress()
     QCOMPARE(address.isLoopback(), isAlone);
 }
 
+void tst_MachineFacts::bestAddress_data()
+{
+    QTest::addColumn<QString>("addresses");
+    QTest::addColumn<QString>("best");
+    QTest::newRow("IPv4 behind IPv6") << "::1 2001:db8::1 192.0.2.1 192.0.2.2"
+                                      << "192.0.2.1";
+    QTest::newRow("IPv6 alone") << "127.0.0.1 fe80::1 2001:db8::1 2001:db8::2"
+                                << "2001:db8::1";
+    QTest::newRow("nobody gave one") << "127.0.0.1 169.254.3.4 2001:db8::1"
+                                     << "2001:db8::1";
+    QTest::newRow("no network") << "127.0.0.1 ::1 fe80::1"
+                                << "127.0.0.1";
+    QTest::newRow("nothing at all") << ""
+                                    << "127.0.0.1";
+}
+
+void tst_MachineFacts::bestAddress()
+{
+    QFETCH(QString, addresses);
+    QList<QHostAddress> list;
+    const QStringList texts = addresses.split(QLatin1Char(' '));
+    for (const QString& text : texts) {
+        list << QHostAddress(text);
+    }
+    QTEST(LocalAddress::bestOf(list), "best");
+}
+
 void tst_MachineFacts::user()
 {
     const HostUser user = HostUser::current();
@@ -148,6 +178,17 @@ void tst_MachineFacts::user()
     QCOMPARE(user.loginName, QString::fromLocal8Bit(entry->pw_name));
     QCOMPARE(user.realName,
              QString::fromLocal8Bit(entry->pw_gecos).section(QLatin1Char(','), 0, 0).trimmed());
+}
+
+void tst_MachineFacts::userWithoutAName()
+{
+    uid_t id = 3000000000;
+    while (getpwuid(id)) {
+        ++id;
+    }
+    const HostUser user = HostUser::withId(id);
+    QCOMPARE(user.loginName, QString::number(id));
+    QVERIFY(user.realName.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_MachineFacts)

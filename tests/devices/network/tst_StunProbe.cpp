@@ -29,6 +29,7 @@ private Q_SLOTS:
     void verdictsComeOnTime();
     void impairedPaths();
     void serverIsKilledAndComesBack();
+    void silenceOpensAnotherSocket();
     void worksOverIpv6();
     void nameIsLookedUp();
     void unknownName();
@@ -51,6 +52,7 @@ namespace {
 constexpr int ToleranceMs = 5;
 constexpr int TolerancePoints = 5;
 constexpr int FirstVerdictWithinMs = 1000;
+constexpr int SilenceMs = 3000; // from then on the address is looked up anew
 // The window, and the deadline of the last probe that left it.
 constexpr int SettledVerdicts = 8;
 constexpr int SettledWithinMs = 15000;
@@ -177,6 +179,17 @@ void tst_StunProbe::serverIsKilledAndComesBack()
     QVERIFY(measurement.figures().delayMs >= 0 && measurement.figures().delayMs <= ToleranceMs);
     QVERIFY(measurement.figures().sent >= 49);
     QCOMPARE(measurement.clientAddresses().size(), 1);
+}
+
+void tst_StunProbe::silenceOpensAnotherSocket()
+{
+    QSet<int> ports;
+    OddServer server([&ports](OddServer&, const QNetworkDatagram& request) {
+        ports.insert(request.senderPort());
+    });
+    const Measurement measurement(server.server());
+    QTRY_COMPARE(ports.size(), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(ports.size() > 1, 3 * SilenceMs);
 }
 
 void tst_StunProbe::worksOverIpv6()

@@ -47,6 +47,29 @@ GstElement* makeFailingElement(GstResourceError code, const QByteArray& details)
     return result;
 }
 
+GstElement* makeElementWithBrokenStart(int brokenFrames)
+{
+    GstElement* const result = makeElement(Bars + " ! jpegenc");
+    GstPad* const pad = gst_element_get_static_pad(result, "src");
+    gst_pad_add_probe(
+        pad, GST_PAD_PROBE_TYPE_BUFFER,
+        [](GstPad*, GstPadProbeInfo* info, gpointer data) {
+            constexpr gssize BytesLeft = 10;
+            auto* broken = static_cast<int*>(data);
+            if (*broken == 0) {
+                return GST_PAD_PROBE_REMOVE;
+            }
+            --*broken;
+            GstBuffer* const buffer = gst_buffer_make_writable(GST_PAD_PROBE_INFO_BUFFER(info));
+            gst_buffer_resize(buffer, 0, BytesLeft);
+            info->data = buffer;
+            return GST_PAD_PROBE_OK;
+        },
+        new int(brokenFrames), [](gpointer data) { delete static_cast<int*>(data); });
+    gst_object_unref(pad);
+    return result;
+}
+
 int sourcesAlive()
 {
     return alive;

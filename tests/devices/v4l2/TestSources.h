@@ -14,6 +14,8 @@ inline const QByteArray Bars("videotestsrc is-live=true pattern=smpte100");
 GstElement* makeElement(const QByteArray& description);
 // Fails at its first frame, as a driver may.
 GstElement* makeFailingElement(GstResourceError code, const QByteArray& details);
-int sourcesAlive(); // of these two
+// JPEGs, and so many of the first ones end after a few bytes.
+GstElement* makeElementWithBrokenStart(int brokenFrames);
+int sourcesAlive(); // of all these
 
 } // namespace TestSupport

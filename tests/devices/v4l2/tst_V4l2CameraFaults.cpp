@@ -26,6 +26,7 @@ private Q_SLOTS:
     void reportsSourceThatDoesNotStart();
     void reportsFormatsThatCantBeShown_data();
     void reportsFormatsThatCantBeShown();
+    void bearsAFewBrokenFrames();
     void waitsForHungStart();
 };
 
@@ -147,6 +148,18 @@ void tst_V4l2CameraFaults::reportsFormatsThatCantBeShown()
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("unreadable"), LongMs);
     QVERIFY(m_backend->cause().kind == CameraCause::Kind::Unreadable);
+}
+
+void tst_V4l2CameraFaults::bearsAFewBrokenFrames()
+{
+    constexpr int Few = 5;
+    m_makeSource = [](const QString&) { return makeElementWithBrokenStart(Few); };
+    m_sockets->plug(device(QStringLiteral("/dev/video0"), PlaceA, QStringLiteral("Camera")));
+    makeBackend();
+    m_backend->start();
+    const QString unreadable = QStringLiteral("unreadable");
+    QTRY_VERIFY_WITH_TIMEOUT(m_watcher.doesWork || stateName() == unreadable, LongMs);
+    QCOMPARE(stateName(), QStringLiteral("working"));
 }
 
 void tst_V4l2CameraFaults::waitsForHungStart()
