@@ -190,7 +190,8 @@ bool CheckCommand::writeResults(const QJsonObject& results) const
     if (m_options.resultsFile.isEmpty()) {
         return true;
     }
-    const QString problem = writeTo(m_options.resultsFile, QJsonDocument(results).toJson());
+    const QString problem =
+        writeTo(m_options.resultsFile, Console::plainJson(QJsonDocument(results)).toUtf8());
     if (!problem.isEmpty()) {
         Console::printError(problem);
     }

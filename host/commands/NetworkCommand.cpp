@@ -78,11 +78,15 @@ private:
         return "ID_Host_Network_NoAnswer";
     }
 
+    // Without an answer, nothing is known until the first request is overdue: it counts as lost
+    // then.
+    bool isLossKnown() const { return m_last.answered > 0 || m_last.lossPercent > 0; }
+
     QString line() const
     {
         if (m_last.delayMs < 0) {
             return qtTrId(noFigureId())
-                .arg(m_last.lossPercent)
+                .arg(isLossKnown() ? QString::number(m_last.lossPercent) : QStringLiteral("–"))
                 .arg(m_last.sent)
                 .arg(m_last.answered);
         }
@@ -97,6 +101,20 @@ private:
                      : qtTrId("ID_Host_NotMeasured").arg(qtTrId("ID_Host_Reason_NoServer")));
     }
 
+    // null stands for what isn't known.
+    void removeUnknown(QJsonObject& object) const
+    {
+        if (m_last.delayMs < 0) {
+            for (const FigureName name :
+                 {FigureName::Delay, FigureName::Delay5, FigureName::Delay95, FigureName::Jitter}) {
+                object.insert(ReportWords::of(name), QJsonValue());
+            }
+        }
+        if (!isLossKnown()) {
+            object.insert(ReportWords::of(FigureName::Loss), QJsonValue());
+        }
+    }
+
     // The words are those of the report.
     QString jsonLine() const
     {
@@ -106,6 +124,7 @@ private:
                                               : Verdict::Failed;
         QJsonObject object = Platform::toJson(m_last);
         object.remove(Platform::ResultKeys::State);
+        removeUnknown(object);
         object.insert(QStringLiteral("verdict"), ReportWords::of(verdict));
         object.insert(Platform::ResultKeys::Cause,
                       verdict == Verdict::Passed ? QJsonValue() : QJsonValue(cause()));

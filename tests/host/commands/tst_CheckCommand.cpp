@@ -22,6 +22,7 @@ private Q_SLOTS:
     void checkPutOut();
     void resultsAndReportGoWhereAsked();
     void documentOnOutput();
+    void resultsCantSteerTheTerminal();
     void unwritablePlaces_data();
     void unwritablePlaces();
     void diskFull();
@@ -80,6 +81,24 @@ void tst_CheckCommand::resultsAndReportGoWhereAsked()
 }
 
 // The result table goes to standard error then.
+// A device may be named by anybody.
+void tst_CheckCommand::resultsCantSteerTheTerminal()
+{
+    QFile scenario(file("steering.json"));
+    QVERIFY(scenario.open(QIODevice::WriteOnly));
+    scenario.write(R"({ "base": "all-well", "cameras": [ { "id": "c",)"
+                   R"( "name": "a\u001b\u009b31m\u202e\u2066b" } ] })");
+    scenario.close();
+    const Run result =
+        run({QStringLiteral("--scenario"), scenario.fileName(), QStringLiteral("--tour"),
+             file("tour"), QStringLiteral("--results"), QStringLiteral("-")});
+    QVERIFY2(result.out.startsWith(QLatin1Char('{')), qPrintable(result.out + result.error));
+    QVERIFY2(result.out.contains(QLatin1String("31m\\u202e\\u2066b")), qPrintable(result.out));
+    for (const QChar c : {QChar(0x1b), QChar(0x9b), QChar(0x202e), QChar(0x2066)}) {
+        QVERIFY(!result.out.contains(c));
+    }
+}
+
 void tst_CheckCommand::documentOnOutput()
 {
     const Run report = run({QStringLiteral("--scenario"), quickEnd(), QStringLiteral("--report"),
