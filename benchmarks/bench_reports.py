@@ -1,12 +1,13 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
-"""Time and memory of the room table for 1 to 100,000 reports, as a table and as a drawing.
+"""Time and memory of the room table for 1 to 100,000 reports. draw_growth.py draws the table.
 
-Usage: bench_reports.py PROGRAM [--smoke] [--svg FILE]
-Ends with 1 if 10,000 reports take more than a second, or any number more than 64 MB above one."""
+Usage: bench_reports.py PROGRAM [--smoke]
+Ends with 1 if 10,000 reports take more than a second, or any number more than 64 MB above one; with 3
+if the machine was too busy to judge that."""
 import argparse
-import math
+import collections
 import os
 import statistics
 import subprocess
@@ -15,6 +16,8 @@ import tempfile
 import time
 import uuid
 
+from busy_meter import BusyMeter, judge
+
 COUNTS = (1, 10, 100, 1000, 10000, 100000)
 SMOKE_COUNTS = (1, 10)
 ROUNDS = 5
@@ -22,6 +25,8 @@ MANY = 10000
 MOST_SECONDS = 1.0
 MOST_EXTRA_MB = 64
 KIB_PER_MB = 1024
+
+Row = collections.namedtuple("Row", "count seconds processor megabytes busy")
 
 
 def sample(program, folder):
@@ -48,7 +53,7 @@ def write_reports(text, folder, count):
 
 
 def measure(program, names, count):
-    """Seconds and MB of one run."""
+    """Seconds, seconds of processors, and MB of one run."""
     with open(names, encoding="utf-8") as file:
         head = "".join(file.readline() for _ in range(count))
     with tempfile.NamedTemporaryFile("w", encoding="utf-8") as some:
@@ -62,72 +67,45 @@ def measure(program, names, count):
         child.returncode = os.waitstatus_to_exitcode(status)
     if child.returncode != 0:
         sys.exit("The program ended with %d" % child.returncode)
-    return seconds, usage.ru_maxrss / KIB_PER_MB
+    return seconds, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / KIB_PER_MB
 
 
-def curve(values, left, low, high, colour):
-    """Values over the counts, both logarithmic, in a field of 300 by 200."""
-    width, height, top = 300, 200, 20
-    points = []
-    for index, value in enumerate(values):
-        share = (math.log10(value) - low) / (high - low)
-        points.append("%.1f,%.1f" % (left + width * index / (len(COUNTS) - 1),
-                                     top + height * (1 - share)))
-    dots = "".join('<circle cx="%s" cy="%s" r="3" fill="%s"/>' % (*p.split(","), colour)
-                   for p in points)
-    return '<polyline points="%s" fill="none" stroke="%s" stroke-width="2"/>%s' % (
-        " ".join(points), colour, dots)
+def measure_row(program, names, count):
+    busy = BusyMeter()
+    runs = [measure(program, names, count) for _ in range(ROUNDS)]
+    return Row(count, statistics.median(run[0] for run in runs),
+               statistics.median(run[1] for run in runs), max(run[2] for run in runs), busy.share())
 
 
-def field(title, unit, left, low, high):
-    """The axes of one curve, with a line for each power of ten."""
-    parts = ['<text x="%d" y="12" font-weight="bold">%s</text>' % (left, title)]
-    for power in range(low, high + 1):
-        y = 220 - 200 * (power - low) / (high - low)
-        parts.append('<path d="M%d %.1fh300" stroke="#ccc"/><text x="%d" y="%.1f" '
-                     'text-anchor="end">%g %s</text>' % (left, y, left - 5, y + 4, 10 ** power, unit))
-    for index, count in enumerate(COUNTS):
-        parts.append('<text x="%.1f" y="236" text-anchor="middle">%s</text>' % (
-            left + 300 * index / (len(COUNTS) - 1), "{:,}".format(count)))
-    return "".join(parts)
+def measure_all(program, names, counts):
+    """Prints a line for each number of reports."""
+    print("| reports | s | s of the processors | MB | threads waited |\n|---|---|---|---|---|")
+    rows = []
+    for count in counts:
+        rows.append(measure_row(program, names, count))
+        print("| {:,} | {:.3f} | {:.3f} | {:.1f} | {:.0%} |".format(*rows[-1]), flush=True)
+    return rows
 
 
-def drawing(rows):
-    seconds = [row[1] for row in rows]
-    megabytes = [row[2] for row in rows]
-    return ('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 780 250" '
-            'font-family="sans-serif" font-size="11"><rect width="780" height="250" fill="#fff"/>'
-            + field("Time of the room table, by number of reports", "s", 60, -2, 2)
-            + curve(seconds, 60, -2, 2, "#1f5fa8")
-            + field("Largest memory", "MB", 450, 0, 3) + curve(megabytes, 450, 0, 3, "#c62f0d")
-            + "</svg>\n")
+def are_within_bounds(rows):
+    is_fast = all(row.seconds <= MOST_SECONDS for row in rows if row.count <= MANY)
+    is_small = all(row.megabytes <= rows[0].megabytes + MOST_EXTRA_MB for row in rows)
+    return is_fast and is_small
 
 
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("program")
     parser.add_argument("--smoke", action="store_true")
-    parser.add_argument("--svg")
     options = parser.parse_args()
     counts = SMOKE_COUNTS if options.smoke else COUNTS
-    rows = []
     with tempfile.TemporaryDirectory() as folder:
         os.environ.update(HOME=folder, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
         names = write_reports(sample(options.program, folder), folder, counts[-1])
-        print("| reports | s | MB |\n|---|---|---|")
-        for count in counts:
-            runs = [measure(options.program, names, count) for _ in range(ROUNDS)]
-            rows.append((count, statistics.median(run[0] for run in runs),
-                         max(run[1] for run in runs)))
-            print("| {:,} | {:.3f} | {:.1f} |".format(*rows[-1]), flush=True)
-    if options.smoke:
-        return
-    if options.svg:
-        with open(options.svg, "w", encoding="utf-8") as file:
-            file.write(drawing(rows))
-    is_fast = all(seconds <= MOST_SECONDS for count, seconds, _ in rows if count <= MANY)
-    is_small = all(megabytes <= rows[0][2] + MOST_EXTRA_MB for _, _, megabytes in rows)
-    sys.exit(0 if is_fast and is_small else 1)
+        if options.smoke:
+            measure_all(options.program, names, counts)
+            return 0
+        return judge(lambda: are_within_bounds(measure_all(options.program, names, counts)))
 
 
-main()
+sys.exit(main())

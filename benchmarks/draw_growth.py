@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The EnvCheck authors
 # SPDX-License-Identifier: MIT
-"""Draws the growth tables of a document: each table between its "growth" markers whose first column
-counts something becomes a picture in PICTURE, both axes logarithmic.
+"""Draws the growth tables of a document: each table between its "growth" and "reports" markers whose
+first column counts something becomes a picture in PICTURE, both axes logarithmic.
 
     benchmarks/draw_growth.py docs/benchmarks.md docs/images/growth.svg
 
@@ -24,9 +24,9 @@ WIDTH, HEIGHT = 5.2, 3.2  # inches of one picture
 
 
 def number(cell):
-    """The figure at the start of a cell, or None."""
-    match = re.match(r"-?\d[\d,]*(\.\d+)?", cell)
-    return float(match.group().replace(",", "")) if match else None
+    """The figure of a cell, or None if there is anything else in it."""
+    is_figure = re.fullmatch(r"-?\d[\d,]*(\.\d+)?", cell)
+    return float(cell.replace(",", "")) if is_figure else None
 
 
 def tables(text):
@@ -43,7 +43,8 @@ def tables(text):
 def draw(axes, names, rows):
     for column, name in enumerate(names[1:], 1):
         points = [(row[0], row[column]) for row in rows if row[column] is not None and row[column] > 0]
-        axes.plot(*zip(*points), marker="o", markersize=3, label=name)
+        if points:
+            axes.plot(*zip(*points), marker="o", markersize=3, label=name)
     axes.set_xscale("log")
     axes.set_yscale("log")
     axes.set_xlabel(names[0])

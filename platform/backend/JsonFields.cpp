@@ -7,6 +7,44 @@
 
 namespace Platform {
 
+namespace {
+
+// The values of fields that were looked up; undefined ones have the fallback.
+
+QString textOf(const QJsonValue& field, const JsonFields& fields, const char* key, int maxLength,
+               const QString& fallback)
+{
+    if (field.isUndefined()) {
+        return fallback;
+    }
+    const QString text = field.toString();
+    if (!field.isString() || text.size() > maxLength) {
+        fields.problem().set(fields.path(key),
+                             maxLength == JsonFields::AnyLength
+                                 ? qtTrId("ID_Engine_Json_Text")
+                                 : qtTrId("ID_Engine_Json_ShortText").arg(maxLength));
+        return fallback;
+    }
+    return text;
+}
+
+QString wordOf(const QJsonValue& field, const JsonFields& fields, const char* key,
+               const QStringList& words, const QString& fallback)
+{
+    if (field.isUndefined()) {
+        return fallback;
+    }
+    const QString word = field.toString();
+    if (!words.contains(word)) {
+        fields.problem().set(fields.path(key),
+                             qtTrId("ID_Engine_Json_Word").arg(words.join(QStringLiteral(", "))));
+        return fallback;
+    }
+    return word;
+}
+
+} // namespace
+
 void JsonProblem::set(const QString& fieldPath, const QString& what)
 {
     if (!isSet()) {
@@ -53,24 +91,12 @@ QString JsonFields::path(const char* key) const
 
 QString JsonFields::text(const char* key, int maxLength)
 {
-    require(key);
-    return text(key, maxLength, {});
+    return textOf(value(key, true), *this, key, maxLength, {});
 }
 
 QString JsonFields::text(const char* key, int maxLength, const QString& fallback)
 {
-    const QJsonValue field = value(key, false);
-    if (field.isUndefined()) {
-        return fallback;
-    }
-    const QString text = field.toString();
-    if (!field.isString() || text.size() > maxLength) {
-        m_problem.set(path(key), maxLength == AnyLength
-                                     ? qtTrId("ID_Engine_Json_Text")
-                                     : qtTrId("ID_Engine_Json_ShortText").arg(maxLength));
-        return fallback;
-    }
-    return text;
+    return textOf(value(key, false), *this, key, maxLength, fallback);
 }
 
 qint64 JsonFields::number(const char* key, qint64 min, qint64 max)
@@ -120,23 +146,12 @@ QJsonValue JsonFields::any(const char* key)
 
 QString JsonFields::word(const char* key, const QStringList& words)
 {
-    require(key);
-    return word(key, words, words.constFirst());
+    return wordOf(value(key, true), *this, key, words, words.constFirst());
 }
 
 QString JsonFields::word(const char* key, const QStringList& words, const QString& fallback)
 {
-    const QJsonValue field = value(key, false);
-    if (field.isUndefined()) {
-        return fallback;
-    }
-    const QString word = field.toString();
-    if (!words.contains(word)) {
-        m_problem.set(path(key),
-                      qtTrId("ID_Engine_Json_Word").arg(words.join(QStringLiteral(", "))));
-        return fallback;
-    }
-    return word;
+    return wordOf(value(key, false), *this, key, words, fallback);
 }
 
 JsonFields JsonFields::object(const char* key)
@@ -213,7 +228,7 @@ void JsonFields::rejectOthers()
 bool JsonFields::isTaken(const QString& key) const
 {
     return std::any_of(m_asked.begin(), m_asked.end(), [&key](const std::string& asked) {
-        return key == QLatin1String(asked.c_str());
+        return key == QLatin1String(asked.data(), static_cast<int>(asked.size()));
     });
 }
 
