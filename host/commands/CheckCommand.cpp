@@ -74,8 +74,7 @@ bool CheckCommand::prepareTour()
 bool CheckCommand::prepareFiles()
 {
     for (const QString& file : {m_options.resultsFile, m_options.reportFile}) {
-        const bool isFile = !file.isEmpty() && file != Options::Output;
-        const QString problem = isFile ? ReportFile::problemOfWriting(file) : QString();
+        const QString problem = problemOfWritingTo(file);
         if (!problem.isEmpty()) {
             Console::printError(problem);
             return false;
@@ -173,6 +172,12 @@ void CheckCommand::print(const QString& text) const
     } else {
         Console::print(text);
     }
+}
+
+QString CheckCommand::problemOfWritingTo(const QString& place)
+{
+    const bool isFile = !place.isEmpty() && place != Options::Output;
+    return isFile ? ReportFile::problemOfWriting(place) : QString();
 }
 
 // Returns one line if it can't be written.

@@ -30,6 +30,8 @@ public:
     // Whether a window with the outcome is opened after a run that ended so.
     static bool opensWindow(const Options& options, const RunOutcome& outcome);
 
+    // Why what is named can't be written; empty if nothing is, or standard output.
+    static QString problemOfWritingTo(const QString& place);
     // Writes into a file, or to standard output. Returns one line if it can't be written.
     static QString writeTo(const QString& place, const QByteArray& content);
 

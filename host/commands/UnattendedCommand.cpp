@@ -126,11 +126,7 @@ ExitCode UnattendedCommand::run(const QString& language)
 
 bool UnattendedCommand::prepare()
 {
-    QString problem;
-    const bool isFile = !m_options.reportFile.isEmpty() && m_options.reportFile != Options::Output;
-    if (isFile) {
-        problem = ReportFile::problemOfWriting(m_options.reportFile);
-    }
+    QString problem = CheckCommand::problemOfWritingTo(m_options.reportFile);
     if (problem.isEmpty() && m_options.redaction == Options::Redaction::Hash) {
         m_redactionKey = ReportFile::redactionKey(Folders::redactionKey(), &problem);
     }

@@ -27,7 +27,27 @@ private Q_SLOTS:
     void breakdownWhileClosing();
     void breakdownAfterAVeto();
     void frameDestroyedDuringTheQuestion();
+
+private:
+    void endSession(bool isKickout);
+    void watchTheOrder(bool& wasClosedFirst);
 };
+
+void tst_ContentPageEnd::endSession(bool isKickout)
+{
+    isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
+}
+
+// Frame, page and question are gone before the dialog is told to close.
+void tst_ContentPageEnd::watchTheOrder(bool& wasClosedFirst)
+{
+    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
+    connect(m_frame, &ContentPage::closeDialog, m_frame,
+            [&wasClosedFirst, shown, frame = m_frame.data()] {
+                wasClosedFirst =
+                    frame->isHidden() && shown->isHidden() && !QApplication::activeModalWidget();
+            });
+}
 
 void tst_ContentPageEnd::engineEndsTheSession_data()
 {
@@ -41,13 +61,10 @@ void tst_ContentPageEnd::engineEndsTheSession()
     QFETCH(bool, isKickout);
     QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
     bool wasClosedFirst = false;
-    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
-        wasClosedFirst = !frame->isVisible() && shown->isHidden();
-    });
+    watchTheOrder(wasClosedFirst);
     QuestionAnswerer question(QMessageBox::No);
-    isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
+    endSession(isKickout);
     QTRY_COMPARE(closeDialog.count(), 1);
     QVERIFY(wasClosedFirst);
     QVERIFY(destroyed.count() == 1 || destroyed.wait());
@@ -66,15 +83,9 @@ void tst_ContentPageEnd::breakdownWinsOverTheQuestion()
     QFETCH(bool, isKickout);
     QSignalSpy closeDialog(m_frame, &ContentPage::closeDialog);
     QSignalSpy destroyed(m_frame, &QObject::destroyed);
-    const QPointer<QWidget> shown = stack("stackedWidget")->currentWidget();
     bool wasClosedFirst = false;
-    connect(m_frame, &ContentPage::closeDialog, m_frame, [&, frame = m_frame.data()] {
-        wasClosedFirst =
-            frame->isHidden() && shown->isHidden() && !QApplication::activeModalWidget();
-    });
-    QuestionAnswerer question([this, isKickout](QMessageBox*) {
-        isKickout ? m_engine->facts().kickOut() : m_engine->facts().breakDown();
-    });
+    watchTheOrder(wasClosedFirst);
+    QuestionAnswerer question([this, isKickout](QMessageBox*) { endSession(isKickout); });
     m_frame->close();
     QCOMPARE(question.count(), 1);
     QVERIFY(wasClosedFirst);
