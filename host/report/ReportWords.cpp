@@ -147,6 +147,7 @@ const std::vector<Word<Reason>>& table()
         {Reason::NoServer, "noServer", "ID_Host_Reason_NoServer"},
         {Reason::ServerLost, "serverLost", "ID_Host_Reason_ServerLost"},
         {Reason::ServerSilent, "serverSilent", "ID_Host_Reason_ServerSilent"},
+        {Reason::NotBuilt, "notBuilt", "ID_Host_Reason_NotBuilt"},
     };
     return words;
 }
@@ -173,6 +174,7 @@ const std::vector<Word<Cause>>& table()
         {Cause::Unplugged, "unplugged", "ID_Host_Remedy_Unplugged"},
         {Cause::ServerLost, "serverLost", "ID_Host_Remedy_ServerLost"},
         {Cause::ServerSilent, "serverSilent", "ID_Host_Remedy_ServerSilent"},
+        {Cause::NotBuilt, "notBuilt", "ID_Host_Remedy_NotBuilt"},
         {Cause::Failed, "failed", "ID_Host_Remedy_Failed"},
         {Cause::Unreadable, "unreadable", "ID_Host_Remedy_Unreadable"},
         {Cause::Silent, "silent", "ID_Host_Remedy_Silent"},

@@ -76,6 +76,7 @@ enum class Reason {
     NoServer, // none is configured
     ServerLost,
     ServerSilent,
+    NotBuilt, // the engine can't use such devices on this system
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
@@ -98,6 +99,7 @@ enum class Cause {
     Unplugged,
     ServerLost,   // of pictures or sound on this machine
     ServerSilent, // likewise: it doesn't answer
+    NotBuilt,     // the engine can't use such devices on this system
     Failed,
     Unreadable, // the camera works, but sends no format that can be shown
     Silent,
