@@ -102,6 +102,10 @@ run_in_wine "$bin/envcheck.exe" network --json --count 3 --server "127.0.0.1:$(f
     >"$folder/refused.json" || status=$?
 [ $status -eq 1 ] || { cat "$folder/refused.json"; fail "network where nobody listens: exit code $status"; }
 status=0
+run_in_wine "$bin/envcheck.exe" check --unattended --server "127.0.0.1:$port" \
+    --report "$(windows_path "$folder/unattended.json")" >"$folder/unattended.log" 2>&1 || status=$?
+[ $status -eq 69 ] || { cat "$folder/unattended.log"; fail "check --unattended: exit code $status"; }
+status=0
 run_in_wine "$bin/envcheck.exe" devices --json >"$folder/devices.json" || status=$?
 [ $status -eq 69 ] || { cat "$folder/devices.json"; fail "devices: exit code $status"; }
 python3 - "$folder" <<'PY'
@@ -114,6 +118,10 @@ assert refused[0]["sent"] >= 8 and refused[2]["sent"] >= 27, refused
 assert refused[2]["lossPercent"] == 100 and refused[2]["cause"] == "refused", refused
 devices = json.load(open(f"{sys.argv[1]}/devices.json"))
 assert set(devices["causes"].values()) == {"notBuilt"}, devices
+report = json.load(open(f"{sys.argv[1]}/unattended.json", encoding="utf-8"))
+checks = {check["check"]: (check["verdict"], check.get("causes")) for check in report["checks"]}
+assert checks.pop("network")[0] == "works", report
+assert len(checks) == 3 and all(causes == ["notBuilt"] for _, causes in checks.values()), checks
 print("network:", answered[2])
 print("network where nobody listens:", refused[0], refused[2])
 PY
