@@ -15,9 +15,11 @@ endforeach()
 file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/qt.conf CONTENT "[Paths]\nPrefix=.\nPlugins=.\n")
 install(FILES ${PROJECT_BINARY_DIR}/qt.conf DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-foreach(library Core Gui Widgets Svg)
+foreach(library Core Gui Network Svg Widgets)
     install(FILES ${qt_folder}/bin/Qt5${library}.dll DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
+install(FILES ${qt_folder}/bin/libcares.dll ${qt_folder}/bin/libnice-stun.dll
+    DESTINATION ${CMAKE_INSTALL_BINDIR})
 foreach(runtime libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime}.dll
         OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -30,6 +32,9 @@ install(FILES
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses)
 install(FILES ${qt_folder}/share/utf8proc/LICENSE.md
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses RENAME utf8proc.md)
+install(FILES ${qt_folder}/share/c-ares/LICENSE.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses RENAME c-ares.md)
+install(DIRECTORY ${qt_folder}/share/libnice DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses)
 
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_FILE_NAME EnvCheck-${PROJECT_VERSION}-win64)

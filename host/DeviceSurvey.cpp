@@ -145,6 +145,8 @@ std::optional<Cause> absence(const DeviceSurvey::Devices& devices,
     case State::Starting: // nobody waits longer for it here
     case State::Silent:
         return Cause::ServerSilent;
+    case State::NotBuilt:
+        return Cause::NotBuilt;
     case State::Running:
         break;
     }
@@ -166,6 +168,9 @@ QString cameraAbsenceText(const DeviceSurvey& survey)
     }
     if (cause == Cause::ServerSilent) {
         return qtTrId("ID_Host_Devices_CameraServerSilent");
+    }
+    if (cause == Cause::NotBuilt) {
+        return qtTrId("ID_Host_Reason_NotBuilt");
     }
     return qtTrId(survey.areCamerasDenied ? "ID_Host_State_Denied" : "ID_Host_Devices_None");
 }

@@ -120,8 +120,9 @@ Causes ofDevice(const ReportCheck& check, const QJsonObject& figures)
     }
     const std::optional<Cause> told = engineCause(check.kind, figures);
     if (check.kind == CheckKind::Speaker && LumSpeaker::isNoneDeviceText(check.device)) {
-        const bool isServer = told == Cause::ServerLost || told == Cause::ServerSilent;
-        return {isServer ? *told : Cause::Absent};
+        const bool isOfTheSystem =
+            told == Cause::ServerLost || told == Cause::ServerSilent || told == Cause::NotBuilt;
+        return {isOfTheSystem ? *told : Cause::Absent};
     }
     Causes causes;
     if (told) {

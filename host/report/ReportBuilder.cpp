@@ -91,7 +91,8 @@ Measurement missing(const QString& key, const QJsonObject& figures, bool wasOpen
                         Reason::Busy, Reason::ServerLost, Reason::ServerSilent})) {
         return failed(key, ReportWords::of(*state));
     }
-    const bool isIdle = isOneOf(state, {Reason::Absent, Reason::Off, Reason::Silent});
+    const bool isIdle =
+        isOneOf(state, {Reason::Absent, Reason::Off, Reason::Silent, Reason::NotBuilt});
     return notMeasured(key, ReportWords::of(isIdle ? *state : Reason::NotRecorded));
 }
 

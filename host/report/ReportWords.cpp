@@ -158,6 +158,7 @@ const std::vector<Word<Reason>>& table()
         {Reason::Muted, "muted", "ID_Host_Reason_Muted"},
         {Reason::VolumeZero, "volumeZero", "ID_Host_Reason_VolumeZero"},
         {Reason::NotOffered, "notOffered", "ID_Host_Reason_NotOffered"},
+        {Reason::NotBuilt, "notBuilt", "ID_Host_Reason_NotBuilt"},
     };
     return words;
 }
@@ -184,6 +185,7 @@ const std::vector<Word<Cause>>& table()
         {Cause::Unplugged, "unplugged", "ID_Host_Remedy_Unplugged"},
         {Cause::ServerLost, "serverLost", "ID_Host_Remedy_ServerLost"},
         {Cause::ServerSilent, "serverSilent", "ID_Host_Remedy_ServerSilent"},
+        {Cause::NotBuilt, "notBuilt", "ID_Host_Remedy_NotBuilt"},
         {Cause::Failed, "failed", "ID_Host_Remedy_Failed"},
         {Cause::Unreadable, "unreadable", "ID_Host_Remedy_Unreadable"},
         {Cause::Silent, "silent", "ID_Host_Remedy_Silent"},

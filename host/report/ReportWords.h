@@ -95,6 +95,7 @@ enum class Reason {
     Muted,
     VolumeZero,
     NotOffered, // the engine can't
+    NotBuilt, // the engine can't use such devices on this system
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
@@ -117,6 +118,7 @@ enum class Cause {
     Unplugged,
     ServerLost,   // of pictures or sound on this machine
     ServerSilent, // likewise: it doesn't answer
+    NotBuilt,     // the engine can't use such devices on this system
     Failed,
     Unreadable, // the camera works, but sends no format that can be shown
     Silent,

@@ -70,7 +70,7 @@ bool UnattendedCheck::isServiceMissing() const
 {
     return std::any_of(m_checks.begin(), m_checks.end(), [](const ReportCheck& check) {
         return check.has(Cause::NoServer) || check.has(Cause::ServerLost) ||
-               check.has(Cause::ServerSilent);
+               check.has(Cause::ServerSilent) || check.has(Cause::NotBuilt);
     });
 }
 

@@ -55,6 +55,8 @@ const char* textIdOf(const Platform::CameraCause& cause)
         return "ID_Engine_Camera_Failed";
     case Kind::Unreadable:
         return "ID_Engine_Camera_Unreadable";
+    case Kind::NotBuilt:
+        return "ID_Engine_Camera_NotBuilt";
     }
     return nullptr;
 }

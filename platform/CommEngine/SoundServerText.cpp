@@ -17,5 +17,6 @@ bool SoundServerText::isOne(const QString& text)
 {
     using State = Platform::SoundServerState;
     return text == qtTrId(Platform::textId(State::Lost)) ||
-           text == qtTrId(Platform::textId(State::Silent));
+           text == qtTrId(Platform::textId(State::Silent)) ||
+           text == qtTrId(Platform::textId(State::NotBuilt));
 }

@@ -32,6 +32,8 @@ QString toString(CameraCause::Kind kind)
         return QStringLiteral("failed");
     case Kind::Unreadable:
         return QStringLiteral("unreadable");
+    case Kind::NotBuilt:
+        return QStringLiteral("notBuilt");
     }
     return {};
 }

@@ -25,6 +25,7 @@ struct CameraCause
         ServerLost, // the service that brings the pictures doesn't run
         Failed,     // it broke
         Unreadable, // it works, but sends no format that can be shown
+        NotBuilt,   // the engine can't use the cameras of this system
     };
 
     static constexpr std::chrono::seconds BlackTime{2};

@@ -57,6 +57,9 @@ QString MachineFacts::processorName(const QString& cpuInfoPath)
 
 qint64 MachineFacts::availableBytes(const QString& folder)
 {
+    if (folder.isEmpty()) {
+        return -1; // MinGW's library would throw below
+    }
     QFileInfo existing(folder);
     while (!existing.exists() && existing.absolutePath() != existing.absoluteFilePath()) {
         existing.setFile(existing.absolutePath());

@@ -11,6 +11,8 @@ QString toString(SoundServerState state)
         return QStringLiteral("serverLost");
     case SoundServerState::Silent:
         return QStringLiteral("serverSilent");
+    case SoundServerState::NotBuilt:
+        return QStringLiteral("notBuilt");
     case SoundServerState::Starting:
     case SoundServerState::Running:
         break;
@@ -25,6 +27,8 @@ const char* textId(SoundServerState state)
         return "ID_Engine_SoundServerLost";
     case SoundServerState::Silent:
         return "ID_Engine_SoundServerSilent";
+    case SoundServerState::NotBuilt:
+        return "ID_Engine_SoundNotBuilt";
     case SoundServerState::Starting:
     case SoundServerState::Running:
         break;

@@ -146,6 +146,11 @@
         <translation>الكاميرا لا تستجيب.
 افصلها ثم صِلها من جديد، أو أعد تشغيل الكمبيوتر.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>لا يستطيع هذا البرنامج استخدام الكاميرات على هذا النظام.
+جرّب الكاميرا في برنامج آخر.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>خدمة الكاميرا في هذا الكمبيوتر لا تعمل.
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>لا يوجد ملف ولا سيناريو مرفق بهذا الاسم (المتوفر: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>لا صوت: هذا النظام غير مدعوم</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>لا طريق إلى الخادم</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>غير مدعوم على هذا النظام</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>هذا المحرك لا يستطيع ذلك</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>فُصل الجهاز أثناء الفحص، فصِله من جديد وتحقق من الكابل.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>لا يستطيع هذا البرنامج استخدام مثل هذه الأجهزة على هذا النظام، لذا جرّب جهازك في برنامج آخر.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

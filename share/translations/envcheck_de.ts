@@ -146,6 +146,11 @@ Stecken Sie sie neu ein oder wählen Sie eine andere.</translation>
         <translation>Die Kamera antwortet nicht.
 Stecken Sie sie neu ein oder starten Sie den Computer neu.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Dieses Programm kann auf diesem System keine Kameras verwenden.
+Probieren Sie Ihre in einem anderen Programm aus.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>Der Kameradienst dieses Computers läuft nicht.
@@ -349,6 +354,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>es gibt weder diese Datei noch ein mitgeliefertes Szenario dieses Namens (es gibt %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Kein Ton: System wird nicht unterstützt</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>es gibt keinen Weg zum Server</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>wird auf diesem System nicht unterstützt</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>diese Engine kann es nicht</translation>
@@ -1669,6 +1682,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>Das Gerät wurde während der Prüfung getrennt: Schließen Sie es wieder an und prüfen Sie das Kabel.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Dieses Programm kann solche Geräte auf diesem System nicht verwenden, probieren Sie Ihres also in einem anderen Programm aus.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

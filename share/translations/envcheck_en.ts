@@ -146,6 +146,11 @@ Unplug it and plug it in again, or choose another one.</translation>
         <translation>The camera does not answer.
 Unplug it and plug it in again, or restart the computer.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>This program can't use cameras on this system.
+Try yours in another program.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>The camera service of this computer is not running.
@@ -349,6 +354,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>no such file, and no bundled scenario of this name (there are %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>No sound: this system is not supported</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>there is no way to the server</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>not supported on this system</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>this engine can't do it</translation>
@@ -1669,6 +1682,10 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>The device was unplugged during the check, so plug it in again and check its cable.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>This program can't use such devices on this system, so try yours in another program.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

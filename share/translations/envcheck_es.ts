@@ -146,6 +146,11 @@ Desconéctela y vuelva a conectarla, o elija otra.</translation>
         <translation>La cámara no responde.
 Desconéctela y vuelva a conectarla, o reinicie el equipo.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Este programa no puede usar cámaras en este sistema.
+Pruebe la suya en otro programa.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>El servicio de cámara de este equipo no está en marcha.
@@ -349,6 +354,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>no hay archivo ni escenario incluido con este nombre (hay %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Sin sonido: sistema no admitido</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>no hay ruta al servidor</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>no se admite en este sistema</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>este motor no puede hacerlo</translation>
@@ -1669,6 +1682,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>El dispositivo se desconectó durante la prueba: vuelva a conectarlo y revise el cable.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Este programa no puede usar estos dispositivos en este sistema, así que pruebe el suyo en otro programa.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

@@ -146,6 +146,11 @@ Débranchez-la puis rebranchez-la, ou choisissez-en une autre.</translation>
         <translation>La caméra ne répond pas.
 Débranchez-la puis rebranchez-la, ou redémarrez l'ordinateur.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Ce programme ne peut pas utiliser de caméras sur ce système.
+Essayez la vôtre dans un autre programme.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>Le service de caméra de cet ordinateur est arrêté.
@@ -349,6 +354,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>ni fichier ni scénario fourni de ce nom (il y a %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Pas de son : système non pris en charge</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>il n’y a aucun chemin vers le serveur</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>non pris en charge sur ce système</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>ce moteur ne sait pas le faire</translation>
@@ -1669,6 +1682,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>L'appareil a été débranché pendant le test : rebranchez-le et vérifiez son câble.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Ce programme ne peut pas utiliser ce type d'appareil sur ce système : essayez le vôtre dans un autre programme.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

@@ -146,6 +146,11 @@
         <translation>カメラが応答しません。
 接続し直すか、パソコンを再起動してください。</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>このプログラムは、このシステムではカメラを使えません。
+別のプログラムでお試しください。</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>このパソコンのカメラサービスが動いていません。
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>その名前のファイルも付属のシナリオもありません（あるもの: %1）</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>音声なし：このシステムには未対応です</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>サーバーへの経路がありません</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>このシステムには対応していません</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>このエンジンでは実行できません</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>確認中に機器が外れました。接続し直し、ケーブルを確認してください。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>このプログラムは、このシステムではこの種類の機器を使えないため、別のプログラムでお試しください。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

@@ -146,6 +146,11 @@
         <translation>카메라가 응답하지 않습니다.
 다시 연결하거나 컴퓨터를 다시 시작하세요.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>이 프로그램은 이 시스템에서 카메라를 사용할 수 없습니다.
+다른 프로그램에서 확인해 보세요.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>이 컴퓨터의 카메라 서비스가 실행되고 있지 않습니다.
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>그런 파일도, 그런 이름의 기본 제공 시나리오도 없습니다(있는 것: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>소리 없음: 지원하지 않는 시스템입니다</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>서버로 가는 경로가 없습니다</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>이 시스템에서 지원되지 않음</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>이 엔진은 할 수 없음</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>점검 중에 장치가 빠졌으니 다시 연결하고 케이블을 확인하세요.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>이 프로그램은 이 시스템에서 이런 장치를 사용할 수 없으므로 다른 프로그램에서 확인해 보세요.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

@@ -146,6 +146,11 @@ Desconecte-a e conecte-a de novo, ou escolha outra.</translation>
         <translation>A câmera não responde.
 Desconecte-a e conecte-a de novo, ou reinicie o computador.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Este programa não pode usar câmeras neste sistema.
+Teste a sua em outro programa.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>O serviço de câmera deste computador não está em execução.
@@ -349,6 +354,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>não há arquivo nem cenário incluído com este nome (há %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Sem som: sistema sem suporte</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>não há rota até o servidor</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>sem suporte neste sistema</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>este mecanismo não consegue fazer isso</translation>
@@ -1669,6 +1682,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>O dispositivo foi desconectado durante o teste: conecte-o de novo e verifique o cabo.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Este programa não pode usar esses dispositivos neste sistema, então teste o seu em outro programa.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

@@ -146,6 +146,11 @@
         <translation>Камера не отвечает.
 Подключите её заново или перезагрузите компьютер.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Эта программа не может использовать камеры в этой системе.
+Проверьте камеру в другой программе.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>Служба камер этого компьютера не работает.
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>нет ни такого файла, ни встроенного сценария с этим именем (есть %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Нет звука: система не поддерживается</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>нет пути к серверу</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>не поддерживается в этой системе</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>этот движок так не умеет</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>Устройство отключилось во время проверки: подключите его снова и проверьте кабель.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Эта программа не может использовать такие устройства в этой системе, поэтому проверьте своё в другой программе.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

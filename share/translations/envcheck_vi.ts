@@ -146,6 +146,11 @@ Hãy rút ra rồi cắm lại, hoặc chọn camera khác.</translation>
         <translation>Camera không phản hồi.
 Hãy rút ra rồi cắm lại, hoặc khởi động lại máy tính.</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>Chương trình này không dùng được camera trên hệ thống này.
+Hãy thử camera trong chương trình khác.</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>Dịch vụ camera không chạy.
@@ -349,6 +354,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>không có tệp này, cũng không có kịch bản có sẵn nào tên như vậy (hiện có: %1)</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>Không có âm thanh: chưa hỗ trợ hệ thống</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>không có đường tới máy chủ</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>không được hỗ trợ trên hệ thống này</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>bộ máy này không làm được</translation>
@@ -1669,6 +1682,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>Thiết bị bị rút ra trong lúc kiểm tra, hãy cắm lại và kiểm tra dây cáp.</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>Chương trình này không dùng được loại thiết bị này trên hệ thống này, nên hãy thử thiết bị trong chương trình khác.</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

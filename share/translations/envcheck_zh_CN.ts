@@ -146,6 +146,11 @@
         <translation>摄像头没有响应。
 请拔下后重新插上，或重启电脑。</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>此程序无法在此系统上使用摄像头。
+请在其他程序中试用。</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>这台电脑的摄像头服务没有运行。
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>没有这个文件，也没有这个名称的内置脚本（现有：%1）</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>没有声音：不支持此系统</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>没有到服务器的路由</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>不支持此系统</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>此引擎无法做到</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>设备在检测过程中断开了，请重新连接并检查线缆。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>此程序无法在此系统上使用这类设备，请在其他程序中试用。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

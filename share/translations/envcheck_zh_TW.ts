@@ -146,6 +146,11 @@
         <translation>攝影機沒有回應。
 請拔除後重新接上，或重新啟動電腦。</translation>
     </message>
+    <message id="ID_Engine_Camera_NotBuilt">
+        <source></source>
+        <translation>此程式無法在此系統上使用攝影機。
+請在其他程式中試用。</translation>
+    </message>
     <message id="ID_Engine_Camera_ServerLost">
         <source></source>
         <translation>這台電腦的攝影機服務沒有執行。
@@ -349,6 +354,10 @@
     <message id="ID_Engine_Scenario_Unknown">
         <source></source>
         <translation>沒有這個檔案，也沒有這個名稱的內建腳本（現有：%1）</translation>
+    </message>
+    <message id="ID_Engine_SoundNotBuilt">
+        <source></source>
+        <translation>沒有聲音：不支援此系統</translation>
     </message>
     <message id="ID_Engine_SoundServerLost">
         <source></source>
@@ -1102,6 +1111,10 @@
         <source></source>
         <translation>沒有到伺服器的路由</translation>
     </message>
+    <message id="ID_Host_Reason_NotBuilt">
+        <source></source>
+        <translation>不支援此系統</translation>
+    </message>
     <message id="ID_Host_Reason_NotOffered">
         <source></source>
         <translation>此引擎無法做到</translation>
@@ -1669,6 +1682,10 @@
     <message id="ID_Host_Remedy_Unplugged">
         <source></source>
         <translation>裝置在檢測過程中被拔除，請重新接上並檢查線材。</translation>
+    </message>
+    <message id="ID_Host_Remedy_NotBuilt">
+        <source></source>
+        <translation>此程式無法在此系統上使用這類裝置，請在其他程式中試用。</translation>
     </message>
     <message id="ID_Host_Remedy_ServerLost">
         <source></source>

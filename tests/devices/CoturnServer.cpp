@@ -10,25 +10,18 @@ CoturnServer::CoturnServer(const QString& address)
 {
 }
 
-CoturnServer::~CoturnServer()
-{
-    kill();
-}
-
 bool CoturnServer::start()
 {
-    m_process.setStandardOutputFile(m_folder.filePath(QStringLiteral("log")));
-    m_process.setStandardErrorFile(m_folder.filePath(QStringLiteral("errors")));
-    m_process.start(QStringLiteral("turnserver"),
-                    {QStringLiteral("-n"), QStringLiteral("--no-auth"),
-                     QStringLiteral("--stun-only"), QStringLiteral("--listening-ip=") + m_address,
-                     QStringLiteral("--listening-port=%1").arg(m_port), QStringLiteral("--no-tls"),
-                     QStringLiteral("--no-dtls"), QStringLiteral("--no-cli"),
-                     QStringLiteral("--no-tcp"),
-                     QStringLiteral("--pidfile=") + m_folder.filePath(QStringLiteral("pid")),
-                     QStringLiteral("--log-file=stdout"), QStringLiteral("--simple-log"),
-                     QStringLiteral("--userdb=") + m_folder.filePath(QStringLiteral("db"))});
-    if (m_port == 0 || !m_process.waitForStarted()) {
+    // Paths are those of its own folder.
+    const bool hasStarted = m_process.start(
+        QStringLiteral("turnserver"),
+        {QStringLiteral("-n"), QStringLiteral("--no-auth"), QStringLiteral("--stun-only"),
+         QStringLiteral("--listening-ip=") + m_address,
+         QStringLiteral("--listening-port=%1").arg(m_port), QStringLiteral("--no-tls"),
+         QStringLiteral("--no-dtls"), QStringLiteral("--no-cli"), QStringLiteral("--no-tcp"),
+         QStringLiteral("--pidfile=pid"), QStringLiteral("--log-file=stdout"),
+         QStringLiteral("--simple-log"), QStringLiteral("--userdb=db")});
+    if (m_port == 0 || !hasStarted) {
         return false;
     }
     // A binding request without attributes (RFC 5389): type, length, magic cookie, transaction.
@@ -39,7 +32,6 @@ bool CoturnServer::start()
 void CoturnServer::kill()
 {
     m_process.kill();
-    m_process.waitForFinished();
 }
 
 Platform::StunServer CoturnServer::server() const

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcess>
-#include <QTemporaryDir>
+#include "tests/devices/ServerProcess.h"
 
 namespace Platform {
 struct StunServer;
@@ -14,7 +13,6 @@ class CoturnServer
 {
 public:
     explicit CoturnServer(const QString& address = QStringLiteral("127.0.0.1"));
-    ~CoturnServer();
 
     bool start(); // true once it answers; always on the same port
     void kill();
@@ -23,6 +21,5 @@ public:
 private:
     const QString m_address;
     const quint16 m_port;
-    QTemporaryDir m_folder;
-    QProcess m_process;
+    ServerProcess m_process;
 };

@@ -13,8 +13,7 @@ bool NameServer::start(const QStringList& records)
         QStringLiteral("--no-resolv"),          QStringLiteral("--no-hosts"),
         QStringLiteral("--bind-interfaces"),    QStringLiteral("--listen-address=127.0.0.1"),
         QStringLiteral("--local=/test/"),       QStringLiteral("--port=%1").arg(m_port)};
-    m_process.start(QStringLiteral("dnsmasq"), options + records);
-    if (m_port == 0 || !m_process.waitForStarted()) {
+    if (m_port == 0 || !m_process.start(QStringLiteral("dnsmasq"), options + records)) {
         return false;
     }
     // A question for the address of the root: identity, flags, one question, name, type, class.
@@ -22,12 +21,6 @@ bool NameServer::start(const QStringList& records)
                                                     "0000010001");
     return TestSupport::waitForUdpAnswer(m_process, QHostAddress(QHostAddress::LocalHost), m_port,
                                          question);
-}
-
-NameServer::~NameServer()
-{
-    m_process.kill();
-    m_process.waitForFinished();
 }
 
 QString NameServer::address() const

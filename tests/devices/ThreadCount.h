@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
+#ifdef Q_OS_WIN
+int threadCount(const char* name); // of this process; ThreadCount_windows.cpp
+#else
 #include <QDir>
 #include <QFile>
 
@@ -17,3 +22,4 @@ inline int threadCount(const char* name)
     }
     return count;
 }
+#endif

@@ -2,23 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/devices/ServerProcess.h"
+
 #include <QElapsedTimer>
 #include <QHostAddress>
-#include <QProcess>
 #include <QUdpSocket>
 
 namespace TestSupport {
 
 // Sends the request again and again until a server that was just started answers. False if it ends,
 // or says nothing for ten seconds.
-inline bool waitForUdpAnswer(const QProcess& server, const QHostAddress& address, quint16 port,
+inline bool waitForUdpAnswer(const ServerProcess& server, const QHostAddress& address, quint16 port,
                              const QByteArray& request)
 {
     constexpr int StartTimeoutMs = 10000;
     constexpr int AnswerTimeoutMs = 50;
     QElapsedTimer clock;
     clock.start();
-    while (clock.elapsed() < StartTimeoutMs && server.state() == QProcess::Running) {
+    while (clock.elapsed() < StartTimeoutMs && server.isRunning()) {
         QUdpSocket socket;
         socket.bind(address, 0);
         socket.writeDatagram(request, address, port);

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void everyDeviceHasItsState();
     void foreignNames();
     void soundServerIsTheCause();
+    void unsupportedSystem();
     void nothingIsOpenedOrMoved();
 
 private:
@@ -98,6 +99,23 @@ void tst_DeviceSurvey::soundServerIsTheCause()
                                              "Speakers\n    The sound service is not running\n"));
     survey.soundServer = Platform::SoundServerState::Silent;
     QVERIFY(survey.toText().endsWith(QLatin1String("    The sound service does not answer\n")));
+}
+
+void tst_DeviceSurvey::unsupportedSystem()
+{
+    using State = Platform::SoundServerState;
+    DeviceSurvey survey;
+    survey.soundServer = State::NotBuilt;
+    survey.cameraServer = State::NotBuilt;
+    QCOMPARE(survey.toText(),
+             QStringLiteral("Cameras\n    not supported on this system\n"
+                            "Microphones\n    No sound: this system is not supported\n"
+                            "Speakers\n    No sound: this system is not supported\n"));
+    const QJsonObject causes = survey.toJson().value(QLatin1String("causes")).toObject();
+    for (const char* list : {"cameras", "microphones", "speakers"}) {
+        QCOMPARE(causes.value(QLatin1String(list)).toString(), QStringLiteral("notBuilt"));
+    }
+    QVERIFY(survey.isServerMissing());
 }
 
 void tst_DeviceSurvey::nothingIsOpenedOrMoved()

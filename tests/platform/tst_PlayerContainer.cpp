@@ -28,6 +28,7 @@ const std::pair<Kind, const char*> Causes[] = {{Kind::Starting, "ID_Engine_Camer
                                                {Kind::Stalled, "ID_Engine_Camera_Stalled"},
                                                {Kind::Black, "ID_Engine_Camera_Black"},
                                                {Kind::Unplugged, "ID_Engine_Camera_Unplugged"},
+                                               {Kind::NotBuilt, "ID_Engine_Camera_NotBuilt"},
                                                {Kind::ServerLost, "ID_Engine_Camera_ServerLost"},
                                                {Kind::Failed, "ID_Engine_Camera_Failed"},
                                                {Kind::Unreadable, "ID_Engine_Camera_Unreadable"}};

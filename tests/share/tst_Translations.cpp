@@ -108,6 +108,7 @@ constexpr Place PLACES[] = {
     // In the place of the camera's picture, also below the ring of the start.
     {"ID_Engine_Camera_Absent ID_Engine_Camera_Black ID_Engine_Camera_Busy ID_Engine_Camera_BusyBy "
      "ID_Engine_Camera_Denied ID_Engine_Camera_Failed ID_Engine_Camera_Hung "
+     "ID_Engine_Camera_NotBuilt "
      "ID_Engine_Camera_ServerLost ID_Engine_Camera_Stalled ID_Engine_Camera_Unplugged "
      "ID_Engine_Camera_Unreadable",
      13, 274, 130},
@@ -116,7 +117,8 @@ constexpr Place PLACES[] = {
     {"ID_Engine_TelephoneQuality", 12, 200},
     // Entries of the device lists.
     {"ID_Engine_NoCamera ID_Engine_NoMicrophone ID_Engine_NoSpeaker ID_Engine_NoSpeakerSelected "
-     "ID_Engine_NotConnected ID_Engine_SoundServerLost ID_Engine_SoundServerSilent",
+     "ID_Engine_NotConnected ID_Engine_SoundNotBuilt ID_Engine_SoundServerLost "
+     "ID_Engine_SoundServerSilent",
      12, 270},
     // Dialog, question and welcome page.
     {"ID_Kestrel_SystemTesting", 17, 300},

@@ -1,13 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/backend/MachineFacts.h"
+#include "platform/devices/facts/HostUser.h"
+#include "platform/devices/facts/LocalAddress.h"
 
 #include <QDir>
+#include <QHostAddress>
+#include <QNetworkInterface>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <windows.h>
+// Must follow windows.h.
+#include <lm.h>
+#define SECURITY_WIN32
+#include <security.h>
 
 using namespace Platform;
 
@@ -21,6 +30,8 @@ private Q_SLOTS:
     void processorName();
     void availableBytes();
     void unknownVolume();
+    void user();
+    void localAddress();
 };
 
 namespace {
@@ -79,6 +90,39 @@ void tst_WindowsFacts::availableBytes()
 void tst_WindowsFacts::unknownVolume()
 {
     QCOMPARE(MachineFacts::availableBytes(QStringLiteral("Q:/not/there")), qint64(-1));
+    QCOMPARE(MachineFacts::availableBytes(QString()), qint64(-1));
+}
+
+// The name for people comes from the directory of a domain, else from this machine's accounts.
+void tst_WindowsFacts::user()
+{
+    const HostUser user = HostUser::current();
+    QVERIFY(!user.loginName.isEmpty());
+    QCOMPARE(user.loginName, qEnvironmentVariable("USERNAME"));
+    std::array<wchar_t, 256> said = {};
+    ULONG size = said.size();
+    QString expected;
+    LPBYTE account = nullptr;
+    if (GetUserNameExW(NameDisplay, said.data(), &size)) {
+        expected = QString::fromWCharArray(said.data());
+    } else if (NetUserGetInfo(nullptr, reinterpret_cast<LPCWSTR>(user.loginName.utf16()), 2,
+                              &account) == NERR_Success) {
+        const wchar_t* name = reinterpret_cast<const USER_INFO_2*>(account)->usri2_full_name;
+        expected = name ? QString::fromWCharArray(name) : QString();
+        NetApiBufferFree(account);
+    }
+    QCOMPARE(user.realName, expected.trimmed());
+}
+
+void tst_WindowsFacts::localAddress()
+{
+    const QHostAddress address(LocalAddress::find());
+    const QList<QHostAddress> all = QNetworkInterface::allAddresses();
+    QVERIFY(all.contains(address));
+    const bool isAlone = std::all_of(all.begin(), all.end(), [](const QHostAddress& each) {
+        return each.isLoopback() || each.isLinkLocal();
+    });
+    QCOMPARE(address.isLoopback(), isAlone);
 }
 
 QTEST_GUILESS_MAIN(tst_WindowsFacts)

@@ -29,7 +29,9 @@ echo "$(stat -c %s "$zip") bytes: $(basename "$zip"), with"
 for wanted in bin/EnvCheck.dll lib/libEnvCheck.dll.a include/envcheck/agent/EnvCheckAgent.h \
     lib/cmake/EnvCheck/EnvCheckConfig.cmake bin/envcheck.exe bin/Qt5Widgets.dll bin/Qt5Svg.dll \
     bin/platforms/qwindows.dll bin/imageformats/qsvg.dll bin/qt.conf \
-    bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm; do
+    bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm \
+    bin/ClassroomDevices.dll bin/Qt5Network.dll bin/libcares.dll bin/libnice-stun.dll \
+    share/doc/EnvCheck/licenses/c-ares.md share/doc/EnvCheck/licenses/libnice/COPYING.LGPL; do
     grep -qxF "$wanted" "$folder/content" || fail "Not in the zip: $wanted"
 done
 for wanted in "$source"/share/sounds/*.mp3 "$build"/bin/translations/*.qm; do
@@ -81,6 +83,71 @@ status=0
 run_in_wine "$bin/envcheck.exe" --platform scripted --scenario kicked-out \
     --report "$(windows_path "$place/out.json")" || status=$?
 [ $status -eq 3 ] || fail "A user who is put out: exit code $status"
+
+# The network, on a real STUN server and where nobody listens.
+free_port() { python3 -c 'import socket; s = socket.socket(type=socket.SOCK_DGRAM); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])'; }
+port=$(free_port)
+mkdir "$folder/coturn"
+(cd "$folder/coturn" && exec turnserver -n --no-auth --stun-only --listening-ip=127.0.0.1 \
+    --listening-port="$port" --no-tls --no-dtls --no-cli --no-tcp --pidfile=pid --log-file=stdout \
+    --userdb=db >log 2>&1) &
+coturn=$!
+trap 'kill $coturn 2>/dev/null || true; rm -rf "$folder"' EXIT
+status=0
+run_in_wine "$bin/envcheck.exe" network --json --count 3 --server "127.0.0.1:$port" \
+    >"$folder/network.json" || status=$?
+[ $status -eq 0 ] || { cat "$folder/network.json"; fail "network: exit code $status"; }
+status=0
+run_in_wine "$bin/envcheck.exe" network --json --count 3 --server "127.0.0.1:$(free_port)" \
+    >"$folder/refused.json" || status=$?
+[ $status -eq 1 ] || { cat "$folder/refused.json"; fail "network where nobody listens: exit code $status"; }
+status=0
+run_in_wine "$bin/envcheck.exe" check --unattended --server "127.0.0.1:$port" \
+    --report "$(windows_path "$folder/unattended.json")" >"$folder/unattended.log" 2>&1 || status=$?
+[ $status -eq 69 ] || { cat "$folder/unattended.log"; fail "check --unattended: exit code $status"; }
+status=0
+run_in_wine "$bin/envcheck.exe" devices --json >"$folder/devices.json" || status=$?
+[ $status -eq 69 ] || { cat "$folder/devices.json"; fail "devices: exit code $status"; }
+python3 - "$folder" <<'PY'
+import json, sys
+def lines(name): return [json.loads(line) for line in open(f"{sys.argv[1]}/{name}.json")]
+answered = lines("network")
+assert len(answered) == 3 and answered[2]["lossPercent"] == 0 and answered[2]["answered"] >= 25, answered
+refused = lines("refused")
+assert refused[0]["sent"] >= 8 and refused[2]["sent"] >= 27, refused
+assert refused[2]["lossPercent"] == 100 and refused[2]["cause"] == "refused", refused
+devices = json.load(open(f"{sys.argv[1]}/devices.json"))
+assert set(devices["causes"].values()) == {"notBuilt"}, devices
+report = json.load(open(f"{sys.argv[1]}/unattended.json", encoding="utf-8"))
+checks = {check["check"]: (check["verdict"], check.get("causes")) for check in report["checks"]}
+assert checks.pop("network")[0] == "works", report
+assert len(checks) == 3 and all(causes == ["notBuilt"] for _, causes in checks.values()), checks
+print("network:", answered[2])
+print("network where nobody listens:", refused[0], refused[2])
+PY
+
+# The responder, asked from outside of Wine.
+port=$(free_port)
+wine_seconds=20 run_in_wine "$bin/envcheck.exe" serve --port "$port" >"$folder/serve.log" 2>&1 &
+serve=$!
+python3 - "$port" <<'PY'
+import socket, sys, time
+client = socket.socket(type=socket.SOCK_DGRAM)
+client.settimeout(0.5)
+for attempt in range(30):
+    client.sendto(bytes.fromhex("000100002112a442") + b"transaction1", ("127.0.0.1", int(sys.argv[1])))
+    try:
+        answer = client.recv(1500)
+        assert answer[:2] == b"\x01\x01" and answer[8:20] == b"transaction1", answer
+        print("serve answers with", answer.hex())
+        sys.exit()
+    except ConnectionRefusedError:
+        time.sleep(0.5)
+    except TimeoutError:
+        pass
+sys.exit("serve doesn't answer")
+PY
+wait $serve || true # it was ended
 
 # Decoys. That one is found at all is shown by a program that doesn't search safely.
 decoys=$folder/decoys

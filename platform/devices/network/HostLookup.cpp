@@ -3,12 +3,11 @@
 #include "platform/devices/network/HostLookup.h"
 
 #include "platform/backend/DetachedThread.h"
+#include "platform/devices/network/NetworkSystem.h"
 
 #include <QUrl>
 
 #include <memory>
-#include <netdb.h>
-#include <sys/socket.h>
 
 namespace Platform {
 
@@ -16,14 +15,14 @@ namespace {
 
 HostLookup::Answer lookUp(const QByteArray& name)
 {
+    NetworkSystem::begin();
     addrinfo hints = {};
     hints.ai_socktype = SOCK_DGRAM; // else every address comes once for each kind
     hints.ai_flags = AI_ADDRCONFIG;
     addrinfo* found = nullptr;
     const int failure = ::getaddrinfo(name.constData(), nullptr, &hints, &found);
     if (failure != 0) {
-        const bool isUnknown = failure == EAI_NONAME || failure == EAI_NODATA;
-        return {{}, QString::fromLocal8Bit(::gai_strerror(failure)), isUnknown};
+        return {{}, NetworkSystem::textOf(failure), NetworkSystem::isUnknownName(failure)};
     }
     const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> list(found, &::freeaddrinfo);
     HostLookup::Answer answer;

@@ -3,12 +3,10 @@
 #include "platform/devices/network/ProbeWorker.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/network/ProbeSocket.h"
 #include "platform/devices/network/ServerLookup.h"
 
-#include <QNetworkDatagram>
-#include <QNetworkProxy>
 #include <QTimerEvent>
-#include <QUdpSocket>
 #include <algorithm>
 
 namespace Platform {
@@ -21,7 +19,6 @@ constexpr int VerdictIntervalMs = 1000;
 constexpr ProbeWindow::Time LookupInterval = std::chrono::seconds(1);
 // So long without an answer, and the address is looked up anew.
 constexpr ProbeWindow::Time SilenceLimit = ProbeWindow::Deadline + std::chrono::seconds(1);
-constexpr qint64 MaxDatagramSize = 1500;
 constexpr int MaxDatagramsAtOnce = 64; // a flood must not hold up the timers
 
 } // namespace
@@ -103,14 +100,11 @@ void ProbeWorker::openNext()
         return;
     }
     const QHostAddress address = m_addresses.takeFirst();
-    m_socket = std::make_unique<QUdpSocket>();
-    m_socket->setProxy(QNetworkProxy::NoProxy);
-    connect(m_socket.get(), &QUdpSocket::readyRead, this, &ProbeWorker::readDatagrams);
-    // Connected, so that the kernel drops what comes from another address or port, even a flood.
-    m_socket->connectToHost(address, m_port);
+    m_socket = std::make_unique<ProbeSocket>(address, m_port);
+    connect(m_socket.get(), &ProbeSocket::readyRead, this, &ProbeWorker::readDatagrams);
     m_lastSign = now();
     m_isRefused = false;
-    if (m_socket->state() != QAbstractSocket::ConnectedState) {
+    if (!m_socket->isOpen()) {
         m_wayProblem = NetworkProblem::NoRoute;
         qCDebug(Log::network).noquote()
             << "No way to" << address.toString() << "-" << m_socket->errorString();
@@ -202,21 +196,21 @@ void ProbeWorker::sendProbe()
 // False if the socket is of no use any more.
 bool ProbeWorker::write(const QByteArray& datagram)
 {
-    const qint64 written = m_socket->write(datagram);
-    if (written == datagram.size()) {
+    using Outcome = ProbeSocket::Outcome;
+    switch (m_socket->send(datagram)) {
+    case Outcome::Done:
+    case Outcome::Later:
         return true;
-    }
-    // The kernel reports the refusal of an earlier datagram once, in place of sending this one. Qt
-    // has no error of its own for that.
-    if (written < 0 && m_socket->write(datagram) == datagram.size()) {
+    case Outcome::Refused:
         setRefused();
         return true;
-    }
-    if (m_socket->error() == QAbstractSocket::NetworkError) {
+    case Outcome::NoRoute:
         m_wayProblem = NetworkProblem::NoRoute;
+        return false;
+    case Outcome::Broken:
+        break;
     }
-    return m_socket->error() == QAbstractSocket::TemporaryError ||
-           m_socket->error() == QAbstractSocket::SocketResourceError;
+    return false;
 }
 
 void ProbeWorker::setRefused()
@@ -228,14 +222,15 @@ void ProbeWorker::setRefused()
 void ProbeWorker::readDatagrams()
 {
     for (int count = 0; count < MaxDatagramsAtOnce; ++count) {
-        const QNetworkDatagram datagram = m_socket->receiveDatagram(MaxDatagramSize);
-        if (!datagram.isValid()) {
-            if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
-                setRefused();
-            }
+        QByteArray datagram;
+        const ProbeSocket::Outcome outcome = m_socket->receive(datagram);
+        if (outcome == ProbeSocket::Outcome::Refused) {
+            setRefused();
+        }
+        if (outcome != ProbeSocket::Outcome::Done) {
             return;
         }
-        take(datagram.data());
+        take(datagram);
     }
 }
 

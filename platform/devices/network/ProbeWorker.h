@@ -14,10 +14,9 @@
 #include <functional>
 #include <memory>
 
-class QUdpSocket;
-
 namespace Platform {
 
+class ProbeSocket;
 class ServerLookup;
 
 // Sends the probes and reads the answers, on the thread that it was moved to. A failed lookup, a
@@ -84,7 +83,7 @@ private:
     quint16 m_port = 0;               // of that one
     NetworkProblem m_problem = NetworkProblem::None;
     NetworkProblem m_wayProblem = NetworkProblem::None; // until the next answer
-    std::unique_ptr<QUdpSocket> m_socket;
+    std::unique_ptr<ProbeSocket> m_socket;
     ProbeWindow::Time m_lastSign{0}; // of life: an answer, or the socket's opening
     bool m_isRefused = false;
     bool m_hasClientAddress = false;

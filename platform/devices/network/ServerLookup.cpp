@@ -3,6 +3,7 @@
 #include "platform/devices/network/ServerLookup.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/network/NetworkSystem.h"
 #include "platform/devices/network/SrvOrder.h"
 
 #include <QRandomGenerator>
@@ -11,7 +12,6 @@
 #include <QUrl>
 
 #include <ares.h>
-#include <arpa/nameser.h>
 
 namespace Platform {
 
@@ -20,6 +20,10 @@ namespace {
 constexpr int TickMs = 20;
 constexpr int TryMs = 700; // and then once more
 constexpr int Tries = 2;
+// RFC 1035 and RFC 2782; the systems' headers differ.
+constexpr int InternetClass = 1;
+constexpr int SrvType = 33;
+constexpr auto NoSocket = qintptr(ARES_SOCKET_BAD);
 
 quint32 byChance(quint32 most)
 {
@@ -66,13 +70,14 @@ ServerLookup::~ServerLookup()
 
 void ServerLookup::start(const QString& nameservers)
 {
+    NetworkSystem::begin();
     static const int library = ares_library_init(ARES_LIB_INIT_ALL);
     ares_options options = {};
     options.timeout = TryMs;
     options.tries = Tries;
     options.sock_state_cb_data = this;
     options.sock_state_cb = [](void* self, ares_socket_t socket, int isRead, int isWritten) {
-        static_cast<ServerLookup*>(self)->watch(socket, isRead != 0, isWritten != 0);
+        static_cast<ServerLookup*>(self)->watch(qintptr(socket), isRead != 0, isWritten != 0);
     };
     const int known = ARES_OPT_TIMEOUTMS | ARES_OPT_TRIES | ARES_OPT_SOCK_STATE_CB;
     if (library != ARES_SUCCESS || ares_init_options(&m_channel, &options, known) != ARES_SUCCESS) {
@@ -85,14 +90,14 @@ void ServerLookup::start(const QString& nameservers)
     }
     const QByteArray question = "_stun._udp." + QUrl::toAce(m_domain);
     ares_query(
-        m_channel, question.constData(), ns_c_in, ns_t_srv,
+        m_channel, question.constData(), InternetClass, SrvType,
         [](void* self, int status, int, unsigned char* answer, int size) {
             static_cast<ServerLookup*>(self)->take(status, answer, size);
         },
         this);
 }
 
-void ServerLookup::watch(int socket, bool isRead, bool isWritten)
+void ServerLookup::watch(qintptr socket, bool isRead, bool isWritten)
 {
     for (const bool isWriting : {false, true}) {
         std::unique_ptr<QSocketNotifier>& notifier = m_notifiers[{socket, isWriting}];
@@ -104,7 +109,7 @@ void ServerLookup::watch(int socket, bool isRead, bool isWritten)
             notifier = std::make_unique<QSocketNotifier>(socket, isWriting ? QSocketNotifier::Write
                                                                            : QSocketNotifier::Read);
             connect(notifier.get(), &QSocketNotifier::activated, this, [this, socket, isWriting] {
-                process(isWriting ? ARES_SOCKET_BAD : socket, isWriting ? socket : ARES_SOCKET_BAD);
+                process(isWriting ? NoSocket : socket, isWriting ? socket : NoSocket);
             });
         }
     }
@@ -115,13 +120,13 @@ void ServerLookup::timerEvent(QTimerEvent*)
     if (!m_isAnswered && m_clock.elapsed() >= DeadlineMs) {
         ares_cancel(m_channel);
     }
-    process(ARES_SOCKET_BAD, ARES_SOCKET_BAD);
+    process(NoSocket, NoSocket);
 }
 
-void ServerLookup::process(int readSocket, int writtenSocket)
+void ServerLookup::process(qintptr readSocket, qintptr writtenSocket)
 {
     if (!m_isAnswered) {
-        ares_process_fd(m_channel, readSocket, writtenSocket);
+        ares_process_fd(m_channel, ares_socket_t(readSocket), ares_socket_t(writtenSocket));
     }
     if (m_isAnswered && m_done) {
         finish();

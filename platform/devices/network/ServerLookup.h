@@ -42,15 +42,15 @@ protected:
 
 private:
     void start(const QString& nameservers);
-    void watch(int socket, bool isRead, bool isWritten);
-    void process(int readSocket, int writtenSocket);
+    void watch(qintptr socket, bool isRead, bool isWritten);
+    void process(qintptr readSocket, qintptr writtenSocket);
     void take(int status, const unsigned char* answer, int size);
     void finish();
 
     const QString m_domain;
     Done m_done;
     ares_channeldata* m_channel = nullptr;
-    std::map<std::pair<int, bool>, std::unique_ptr<QSocketNotifier>> m_notifiers; // true: write
+    std::map<std::pair<qintptr, bool>, std::unique_ptr<QSocketNotifier>> m_notifiers; // true: write
     QBasicTimer m_timer;
     QElapsedTimer m_clock;
     bool m_isAnswered = false;

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/StunAnswerer.h"
 
+#include "platform/devices/network/SocketAddress.h"
+
 #include <QHostAddress>
-#include <algorithm>
-#include <cstring>
-#include <netinet/in.h>
 #include <stun/stunagent.h>
 
 namespace Platform {
@@ -13,28 +12,6 @@ namespace Platform {
 namespace {
 
 constexpr int MaxAnswerSize = 512;
-
-socklen_t fill(sockaddr_storage& storage, const QHostAddress& address, quint16 port)
-{
-    // A socket for both protocols gives addresses of IPv4 as ones of IPv6.
-    bool isIPv4 = false;
-    const quint32 plainAddress = address.toIPv4Address(&isIPv4);
-    if (isIPv4) {
-        sockaddr_in plain = {};
-        plain.sin_family = AF_INET;
-        plain.sin_port = htons(port);
-        plain.sin_addr.s_addr = htonl(plainAddress);
-        std::memcpy(&storage, &plain, sizeof(plain));
-        return sizeof(plain);
-    }
-    sockaddr_in6 plain = {};
-    plain.sin6_family = AF_INET6;
-    plain.sin6_port = htons(port);
-    const Q_IPV6ADDR bytes = address.toIPv6Address();
-    std::memcpy(&plain.sin6_addr, &bytes, sizeof(bytes));
-    std::memcpy(&storage, &plain, sizeof(plain));
-    return sizeof(plain);
-}
 
 } // namespace
 
@@ -64,11 +41,11 @@ QByteArray StunAnswerer::answer(const QByteArray& datagram, const QHostAddress& 
     StunMessage response;
     size_t length = 0;
     if (isKnown) {
-        sockaddr_storage mapped = {};
-        const socklen_t mappedLength = fill(mapped, sender, port);
+        const SocketAddress mapped(sender, port);
         if (stun_agent_init_response(m_agent.get(), &response, buffer, MaxAnswerSize, &request) &&
-            stun_message_append_xor_addr(&response, STUN_ATTRIBUTE_XOR_MAPPED_ADDRESS, &mapped,
-                                         mappedLength) == STUN_MESSAGE_RETURN_SUCCESS) {
+            stun_message_append_xor_addr(&response, STUN_ATTRIBUTE_XOR_MAPPED_ADDRESS,
+                                         &mapped.storage,
+                                         mapped.size) == STUN_MESSAGE_RETURN_SUCCESS) {
             length = stun_agent_finish_message(m_agent.get(), &response, nullptr, 0);
         }
     } else {

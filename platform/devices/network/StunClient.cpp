@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/StunClient.h"
 
+#include "platform/devices/network/NetworkSystem.h"
+
 #include <QRandomGenerator>
 #include <QtEndian>
 #include <algorithm>
@@ -9,7 +11,6 @@
 #include <cstring>
 #include <stun/stunagent.h>
 #include <stun/usages/bind.h>
-#include <sys/socket.h>
 
 namespace Platform {
 

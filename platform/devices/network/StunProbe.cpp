@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/StunProbe.h"
 
+#include "platform/devices/ThreadName.h"
 #include "platform/devices/network/ProbeWorker.h"
 
 namespace Platform {
@@ -27,7 +28,7 @@ StunProbe::StunProbe(const StunServer& server, Listener& listener, AddressHandle
     worker->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::started, worker, &ProbeWorker::start);
     QObject::connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
-    m_thread.setObjectName(QStringLiteral("StunProbe"));
+    ThreadName::set(m_thread, QStringLiteral("StunProbe"));
     m_thread.start();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/StunResponder.h"
 
+#include "platform/devices/ThreadName.h"
 #include "platform/devices/network/ResponderWorker.h"
 
 #include <memory>
@@ -18,7 +19,7 @@ StunResponder::StunResponder(const QHostAddress& address, quint16 port)
     m_server = {address.toString(), worker->port()};
     worker->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, worker.release(), &QObject::deleteLater);
-    m_thread.setObjectName(QStringLiteral("StunResponder"));
+    ThreadName::set(m_thread, QStringLiteral("StunResponder"));
     m_thread.start();
 }
 

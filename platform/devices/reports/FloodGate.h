@@ -11,7 +11,7 @@ namespace Platform {
 namespace FloodGate {
 
 // Cuts the TCP connections of this process to a server's port that have received more bytes. True
-// if there was one.
+// if there was one. On Windows it can't be known, and none is cut.
 bool cutAbove(qint64 maxBytes, quint16 port);
 
 } // namespace FloodGate

@@ -6,6 +6,7 @@
 #include "platform/backend/FileWriter.h"
 #include "platform/backend/Log.h"
 #include "platform/backend/WebAddress.h"
+#include "platform/devices/ThreadName.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -120,7 +121,7 @@ void ReportOutbox::startPosting(const QUrl& url, const OutboxLimits& limits)
     m_poster->moveToThread(m_thread.get());
     QObject::connect(m_thread.get(), &QThread::started, m_poster, &OutboxPoster::start);
     QObject::connect(m_thread.get(), &QThread::finished, m_poster, &QObject::deleteLater);
-    m_thread->setObjectName(QStringLiteral("ReportOutbox"));
+    ThreadName::set(*m_thread, QStringLiteral("ReportOutbox"));
     m_thread->start();
 }
 

@@ -125,6 +125,7 @@ void tst_MachineFacts::folderThatIsNotThereYet()
     QTemporaryDir folder;
     const qint64 bytes = MachineFacts::availableBytes(folder.filePath(QStringLiteral("a/b/c d")));
     QVERIFY(std::abs(bytes - statBytes(folder.path())) < SlackBytes);
+    QCOMPARE(MachineFacts::availableBytes(QString()), qint64(-1));
 }
 
 void tst_MachineFacts::localAddress()

@@ -175,7 +175,7 @@ void tst_Remedies::noSpeaker()
     ReportCheck check = failedCheck(CheckKind::Speaker, Answer::No, SeenState::Fails);
     check.device = qtTrId("ID_Engine_NoSpeaker");
     QCOMPARE(words(Remedies::causesOf(check, figures("volumeAfter", 0))), id("absent"));
-    for (const QString& server : {id("serverLost"), id("serverSilent")}) {
+    for (const QString& server : {id("serverLost"), id("serverSilent"), id("notBuilt")}) {
         QCOMPARE(words(Remedies::causesOf(check, figures("state", server))), server);
     }
 }
@@ -196,7 +196,7 @@ void tst_Remedies::enginesWordsAreKnown_data()
 {
     QTest::addColumn<QString>("word");
     for (const char* word : {"starting", "busy", "denied", "hung", "stalled", "black", "unplugged",
-                             "serverLost", "serverSilent", "failed", "unreadable"}) {
+                             "serverLost", "serverSilent", "failed", "unreadable", "notBuilt"}) {
         QTest::newRow(word) << id(word);
     }
 }
