@@ -642,6 +642,10 @@
         <source></source>
         <translation>Джиттер</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Уровень</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Задержка от динамика до микрофона</translation>
