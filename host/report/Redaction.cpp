@@ -4,6 +4,7 @@
 
 #include "host/SoundNames.h"
 #include "host/report/ReportFile.h"
+#include "host/report/ReportSeries.h"
 #include "platform/backend/ResultKeys.h"
 
 #include <QMessageAuthenticationCode>
@@ -107,7 +108,10 @@ QJsonObject Redaction::redactedValues(const QJsonObject& values) const
     for (auto value = result.begin(); value != result.end(); ++value) {
         const QString word = value.value().toString();
         const bool isWord = ReportWords::find<Reason>(word) || ReportWords::find<Cause>(word);
-        if (!PlainKeys.contains(value.key()) && !isWord) {
+        const std::optional<ReportSeries> series = ReportSeries::of(value.key(), value.value());
+        if (series) {
+            value.value() = series->toJson();
+        } else if (!PlainKeys.contains(value.key()) && !isWord) {
             value.value() = replacedValue(value.value());
         }
     }
@@ -148,7 +152,11 @@ void Redaction::redactMeasurements(std::vector<Measurement>& measurements) const
         const bool isSound =
             ReportWords::find<FigureName>(measurement.key) == FigureName::SoundPlayed &&
             SoundNames::textId(measurement.value.toString());
-        if (!isSound) {
+        const std::optional<ReportSeries> series =
+            ReportSeries::of(measurement.key, measurement.value);
+        if (series) {
+            measurement.value = series->toJson();
+        } else if (!isSound) {
             measurement.value = replacedValue(measurement.value);
         }
         if (!ReportWords::find<Reason>(measurement.reason)) {

@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    void addSection(const QString& title) { m_view.sections.push_back({title, {}}); }
+    void addSection(const QString& title) { m_view.sections.push_back({title, {}, {}}); }
 
     void add(const QString& caption, const QString& value, Mark mark = Mark::Plain)
     {
@@ -205,6 +205,7 @@ private:
             add("ID_Host_Report_RightSound", m_texts.of(check.deviceState));
         }
         addLater(check);
+        addPlots(check);
         if (isNetwork && m_report.grade) {
             addGrade();
         }
@@ -215,13 +216,36 @@ private:
         QStringList figures;
         for (const Measurement& measurement : check.later) {
             const QString value = m_texts.valueOf(check.kind, measurement);
-            if (!value.isEmpty()) {
+            if (!value.isEmpty() && !isPlotted(measurement)) {
                 figures << m_texts.captionOf(check.kind, measurement.key) + QStringLiteral(": ") +
                                value;
             }
         }
         if (!figures.isEmpty()) {
             add("ID_Host_Report_Later", figures.join(QStringLiteral("; ")));
+        }
+    }
+
+    // Also if it wasn't measured: the figure itself says why.
+    static bool isPlotted(const Measurement& measurement)
+    {
+        return ReportSeries::kindOf(measurement.key) &&
+               (measurement.status != FigureStatus::Measured ||
+                ReportSeries::of(measurement.key, measurement.value));
+    }
+
+    // The later ones are longer, and begin at the same time.
+    void addPlots(const ReportCheck& check)
+    {
+        for (const Measurement& measurement : check.measurements) {
+            const auto later = std::find_if(
+                check.later.begin(), check.later.end(),
+                [&measurement](const Measurement& each) { return each.key == measurement.key; });
+            const QJsonValue value = later == check.later.end() ? measurement.value : later->value;
+            if (const auto series = ReportSeries::of(measurement.key, value)) {
+                m_view.sections.back().plots.push_back(
+                    {m_texts.caption(series->kind->captionId), *series});
+            }
         }
     }
 
@@ -241,7 +265,7 @@ private:
         for (const Measurement& measurement : check.measurements) {
             const QString value = m_texts.valueOf(check.kind, measurement);
             // Shows no row for a redacted name.
-            if (!value.isEmpty()) {
+            if (!value.isEmpty() && !isPlotted(measurement)) {
                 add(m_texts.captionOf(check.kind, measurement.key), value);
             }
         }

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "host/report/Report.h"
+#include "host/report/ReportSeries.h"
 
 class ReportTexts;
 
-// A report as people read it, in one language. Text and HTML both show exactly this.
+// A report as people read it, in one language. Text and HTML both show exactly this, but for the
+// plots.
 struct ReportView
 {
     enum class Mark { Plain, Good, Bad, Notice };
@@ -18,10 +20,18 @@ struct ReportView
         Mark mark = Mark::Plain;
     };
 
+    // How a figure went; for pages that can draw it.
+    struct Plot
+    {
+        QString caption;
+        ReportSeries series;
+    };
+
     struct Section
     {
         QString title;
         std::vector<Row> rows;
+        std::vector<Plot> plots;
     };
 
     QString language;

@@ -8,6 +8,7 @@
 #include "host/report/ReportJson.h"
 #include "host/report/ReportTexts.h"
 #include "host/report/ReportView.h"
+#include "host/report/SeriesPlot.h"
 #include "host/report/TwinTexts.h"
 
 #include <QFileInfo>
@@ -85,12 +86,23 @@ QString foldedOf(const QString& title, const QString& content)
            QStringLiteral("</details>\n");
 }
 
+QString plotsOf(const ReportView::Section& section, bool isRightToLeft)
+{
+    QString html;
+    for (const ReportView::Plot& plot : section.plots) {
+        html += SeriesPlot::toHtml(plot.series, plot.caption,
+                                   isRightToLeft ? SeriesPlot::Direction::RightToLeft
+                                                 : SeriesPlot::Direction::LeftToRight);
+    }
+    return html;
+}
+
 // The first section says what is wrong and what to do; the others are folded.
 QString sectionsOf(const ReportView& view)
 {
     QString html;
     for (const ReportView::Section& section : view.sections) {
-        const QString table = tableOf(section);
+        const QString table = tableOf(section) + plotsOf(section, view.isRightToLeft);
         html += html.isEmpty() ? QStringLiteral("<h2>%1</h2>\n").arg(escaped(section.title)) + table
                                : foldedOf(section.title, table);
     }

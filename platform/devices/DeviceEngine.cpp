@@ -3,6 +3,7 @@
 #include "platform/devices/DeviceEngine.h"
 
 #include "platform/backend/Log.h"
+#include "platform/backend/NetworkSeries.h"
 #include "platform/backend/StunServer.h"
 #include "platform/devices/CameraSystem.h"
 #include "platform/devices/SoundSystem.h"
@@ -65,7 +66,7 @@ private:
     {
         const NetworkFigures now = figures();
         if (m_sink && now.sent > 0) {
-            m_sink->recordMeasurement(QStringLiteral("network"), toJson(now));
+            m_sink->recordMeasurement(QStringLiteral("network"), m_series.add(now));
         }
         m_listener.networkFiguresChanged();
     }
@@ -73,6 +74,7 @@ private:
     std::shared_ptr<StunResponder> m_responder;
     NetworkProbe::Listener& m_listener;
     ReportSink* m_sink;
+    NetworkSeries m_series;
     StunProbe m_probe;
 };
 

@@ -137,6 +137,7 @@ void ScriptedCamera::onCurrentChanged()
     }
     m_frame = 0;
     m_pictures = 0;
+    m_rate = {};
     m_blackFrames = 0;
     m_frozenFrames = 0;
     m_picture = {};
@@ -153,6 +154,7 @@ void ScriptedCamera::onFrame()
         m_firstFrameMs = m_startClock.elapsed();
     }
     ++m_pictures;
+    m_rate.add(static_cast<double>(m_startClock.elapsed()) / MsPerSecond);
     m_hasFrame = true;
     m_blackFrames += feed.pictures == ScriptedCameras::Pictures::Black ? 1 : 0;
     m_frozenFrames += isFrozen ? 1 : 0;
@@ -279,6 +281,9 @@ void ScriptedCamera::recordMeasurement()
         figures.insert(QStringLiteral("blackShare"), m_blackFrames / pictures);
         figures.insert(QStringLiteral("frozenShare"), m_frozenFrames / pictures);
         figures.insert(QStringLiteral("modes"), missingFigure());
+    }
+    if (!m_rate.series().isEmpty()) {
+        figures.insert(QLatin1String(SeriesKeys::Rate), m_rate.series().toJson());
     }
     m_document.recordMeasurement(QStringLiteral("camera"), figures);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/CameraBackend.h"
+#include "platform/backend/RateSeries.h"
 #include "platform/scripted/ScriptedSession.h"
 
 #include <QElapsedTimer>
@@ -58,6 +59,7 @@ private:
     QElapsedTimer m_blackClock; // since the first of the black frames
     int m_frame = 0;
     int m_pictures = 0;
+    RateSeries m_rate;
     int m_blackFrames = 0;
     int m_frozenFrames = 0;
     mutable QImage m_picture; // painted on demand

@@ -172,6 +172,7 @@ void ScriptedMicrophone::measure(double level)
     if (m_isOpen && canHear(m_devices.currentState()) && std::isfinite(level)) {
         m_loudest = std::max(m_loudest.value_or(level), level);
         m_quietest = std::min(m_quietest.value_or(level), level);
+        noteLevel(level);
         m_hasHeard = m_hasHeard || level > NoiseFloor;
         notifyWorkState();
     }
@@ -183,6 +184,25 @@ void ScriptedMicrophone::startMeasuring()
     m_openClock.start();
     m_loudest.reset();
     m_quietest.reset();
+    m_secondPeak.reset();
+    m_second = 0;
+    m_levelsOverTime = {};
+}
+
+// The loudest level of each second. A scenario may be silent for a while: then there are gaps.
+void ScriptedMicrophone::noteLevel(double level)
+{
+    const auto second = static_cast<int>(m_openClock.elapsed() / qint64(MsPerSecond));
+    m_second = std::max(m_second, second - TimeSeries::MaxValues - 1);
+    for (; m_second < second; ++m_second) {
+        if (m_secondPeak) {
+            m_levelsOverTime.add(decibelsOf(m_secondPeak).toDouble());
+        } else {
+            m_levelsOverTime.addGap();
+        }
+        m_secondPeak.reset();
+    }
+    m_secondPeak = std::max(m_secondPeak.value_or(level), level);
 }
 
 // A scenario gives levels and no samples: figures that need samples are not measured.
@@ -195,6 +215,9 @@ void ScriptedMicrophone::addSound(QJsonObject& figures) const
     figures.insert(QStringLiteral("noiseFloorDb"), decibelsOf(m_quietest));
     for (const char* key : {"clippedShare", "humShare", "humHz", "bandwidthHz"}) {
         figures.insert(QLatin1String(key), missingFigure());
+    }
+    if (!m_levelsOverTime.isEmpty()) {
+        figures.insert(QLatin1String(SeriesKeys::Level), m_levelsOverTime.toJson());
     }
     const QJsonObject sound = m_devices.sound();
     for (auto it = sound.begin(); it != sound.end(); ++it) {

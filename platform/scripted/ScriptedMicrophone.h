@@ -5,6 +5,7 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/FoundVolume.h"
 #include "platform/backend/MicrophoneBackend.h"
+#include "platform/backend/TimeSeries.h"
 #include "platform/scripted/ScriptedSession.h"
 
 #include <QElapsedTimer>
@@ -49,6 +50,7 @@ private:
     void runLevels();
     void notifyWorkState();
     void startMeasuring();
+    void noteLevel(double level);
     void addSound(QJsonObject& figures) const;
     void recordMeasurement();
 
@@ -61,6 +63,9 @@ private:
     bool m_hasHeard = false;
     std::optional<double> m_loudest; // since it was opened
     std::optional<double> m_quietest;
+    std::optional<double> m_secondPeak; // of the second under way
+    int m_second = 0;
+    TimeSeries m_levelsOverTime;
 };
 
 } // namespace Platform

@@ -80,7 +80,7 @@ void ScriptedNetworkProbe::measure()
         m_figures.delay95Ms = percentile(delays, 95);
     }
     m_timer.start(PeriodMs);
-    m_document.recordMeasurement(QStringLiteral("network"), toJson(m_figures));
+    m_document.recordMeasurement(QStringLiteral("network"), m_series.add(m_figures));
     m_listener.networkFiguresChanged();
 }
 

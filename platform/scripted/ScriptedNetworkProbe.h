@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/backend/NetworkProbe.h"
+#include "platform/backend/NetworkSeries.h"
 #include "platform/scripted/LoggedSession.h"
 
 #include <QObject>
@@ -39,6 +40,7 @@ private:
     QTimer m_timer;
     std::size_t m_next = 0;
     NetworkFigures m_figures;
+    NetworkSeries m_series;
 };
 
 } // namespace Platform

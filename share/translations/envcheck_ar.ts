@@ -651,6 +651,10 @@
         <source></source>
         <translation>تذبذب التأخر</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>المستوى</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>التأخير من السماعة إلى الميكروفون</translation>

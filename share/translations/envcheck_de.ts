@@ -651,6 +651,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Schwankung (Jitter)</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Pegel</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Verzögerung vom Lautsprecher zum Mikrofon</translation>

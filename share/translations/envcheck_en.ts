@@ -651,6 +651,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Jitter</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Level</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Delay from speaker to microphone</translation>

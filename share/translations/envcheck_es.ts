@@ -651,6 +651,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Fluctuación (jitter)</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Nivel</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Retardo del altavoz al micrófono</translation>

@@ -651,6 +651,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Gigue</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Niveau</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Délai du haut-parleur au microphone</translation>

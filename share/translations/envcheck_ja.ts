@@ -651,6 +651,10 @@
         <source></source>
         <translation>ジッター</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>音量レベル</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>スピーカーからマイクまでの遅延</translation>

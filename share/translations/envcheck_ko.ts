@@ -651,6 +651,10 @@
         <source></source>
         <translation>지터</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>레벨</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>스피커에서 마이크까지의 지연</translation>

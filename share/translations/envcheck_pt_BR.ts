@@ -651,6 +651,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Variação (jitter)</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Nível</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Atraso do alto-falante ao microfone</translation>

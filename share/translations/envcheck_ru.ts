@@ -651,6 +651,10 @@
         <source></source>
         <translation>Джиттер</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Уровень</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Задержка от динамика до микрофона</translation>

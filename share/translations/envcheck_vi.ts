@@ -651,6 +651,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Độ dao động trễ (jitter)</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>Mức âm</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>Độ trễ từ loa đến micrô</translation>

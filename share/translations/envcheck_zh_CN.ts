@@ -651,6 +651,10 @@
         <source></source>
         <translation>抖动</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>电平</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>从扬声器到麦克风的延迟</translation>

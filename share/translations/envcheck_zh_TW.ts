@@ -651,6 +651,10 @@
         <source></source>
         <translation>抖動</translation>
     </message>
+    <message id="ID_Host_Figure_Level">
+        <source></source>
+        <translation>音量</translation>
+    </message>
     <message id="ID_Host_Figure_LoopDelay">
         <source></source>
         <translation>從喇叭到麥克風的延遲</translation>

@@ -62,6 +62,7 @@ void FrameStatistics::add(const Sample& sample, const QSize& sourceSize, Clock::
         ++m_frozen;
     }
     ++m_frames;
+    m_rate.add(milliseconds(now - m_start) / 1000.0);
     m_last = now;
     m_lastHash = sample.hash;
     m_size = sourceSize;
@@ -87,6 +88,9 @@ QJsonObject FrameStatistics::figures() const
     result.insert(QStringLiteral("frozenShare"),
                   m_frames > 1 ? rounded(double(m_frozen) / (m_frames - 1)) : 0.0);
     result.insert(QStringLiteral("brightness"), rounded(m_brightness / m_frames));
+    if (!m_rate.series().isEmpty()) {
+        result.insert(QLatin1String(SeriesKeys::Rate), m_rate.series().toJson());
+    }
     return result;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/RateSeries.h"
+
 #include <QJsonObject>
 #include <QSize>
 #include <chrono>
@@ -31,7 +33,8 @@ public:
     void add(const Sample& sample, const QSize& sourceSize, Clock::time_point now);
     int frames() const { return m_frames; }
     // In the words of the report: "pictures"; if there are any also "rate", "width", "height",
-    // "firstPictureMs", "blackShare", "frozenShare", "brightness".
+    // "firstPictureMs", "blackShare", "frozenShare", "brightness", and after a second
+    // "rateOverTime".
     QJsonObject figures() const;
 
 private:
@@ -44,6 +47,7 @@ private:
     int m_black = 0;
     int m_frozen = 0;
     double m_brightness = 0.0;
+    RateSeries m_rate;
 };
 
 } // namespace Platform

@@ -13,6 +13,7 @@ namespace {
 
 // 0.1 s holds whole periods of all frequencies measured below, so that none leaks into another.
 constexpr double PieceSeconds = 0.1;
+constexpr int PiecesPerSecond = 10;
 constexpr int HumHarmonics = 3;
 constexpr float FullScale = 0.999F;
 constexpr double SilentPower = 1e-12; // -120 dBFS
@@ -88,12 +89,23 @@ void MicrophoneAnalysis::endPiece()
             m_figures.hum60 += humPower(60.0);
         }
         measureBandwidth();
+        noteLevel(m_power / count);
     }
     m_piece.clear();
     m_isHeard = false;
     m_power = 0.0;
     m_peak = 0.0;
     m_clipped = 0.0;
+}
+
+void MicrophoneAnalysis::noteLevel(double power)
+{
+    m_figures.secondPower += power;
+    if (++m_figures.secondPieces == PiecesPerSecond) {
+        m_figures.levels.add(roundedDecibels(m_figures.secondPower / PiecesPerSecond));
+        m_figures.secondPower = 0.0;
+        m_figures.secondPieces = 0;
+    }
 }
 
 void MicrophoneAnalysis::measureBandwidth()
@@ -133,13 +145,17 @@ QJsonObject MicrophoneAnalysis::figures() const
     const double hum = is60 ? m_figures.hum60 : m_figures.hum50;
     const double share =
         m_figures.quietPower > SilentPower ? std::min(1.0, hum / m_figures.quietPower) : 0.0;
-    return {{QStringLiteral("seconds"), std::round(10.0 * m_figures.seconds) / 10.0},
-            {QStringLiteral("peakDb"), roundedDecibels(m_figures.peak * m_figures.peak)},
-            {QStringLiteral("noiseFloorDb"), roundedDecibels(m_figures.quietestPower)},
-            {QStringLiteral("clippedShare"), m_figures.clipped / m_figures.samples},
-            {QStringLiteral("humHz"), is60 ? 60 : 50},
-            {QStringLiteral("humShare"), std::round(1000.0 * share) / 1000.0},
-            {QStringLiteral("bandwidthHz"), m_figures.bandwidth}};
+    QJsonObject result{{QStringLiteral("seconds"), std::round(10.0 * m_figures.seconds) / 10.0},
+                       {QStringLiteral("peakDb"), roundedDecibels(m_figures.peak * m_figures.peak)},
+                       {QStringLiteral("noiseFloorDb"), roundedDecibels(m_figures.quietestPower)},
+                       {QStringLiteral("clippedShare"), m_figures.clipped / m_figures.samples},
+                       {QStringLiteral("humHz"), is60 ? 60 : 50},
+                       {QStringLiteral("humShare"), std::round(1000.0 * share) / 1000.0},
+                       {QStringLiteral("bandwidthHz"), m_figures.bandwidth}};
+    if (!m_figures.levels.isEmpty()) {
+        result.insert(QLatin1String(SeriesKeys::Level), m_figures.levels.toJson());
+    }
+    return result;
 }
 
 } // namespace Platform

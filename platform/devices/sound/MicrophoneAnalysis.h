@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/TimeSeries.h"
 #include "platform/devices/sound/Spectrum.h"
 
 #include <QJsonObject>
@@ -33,9 +34,13 @@ private:
         double hum60 = 0.0;
         bool hasQuietPiece = false; // until then, the three above are of all pieces
         double bandwidth = 0.0;
+        double secondPower = 0.0; // sum over the pieces of the second under way
+        int secondPieces = 0;
+        TimeSeries levels;
     };
 
     void endPiece();
+    void noteLevel(double power);
     void measureBandwidth();
     double powerAt(double frequency) const; // in the last piece
     double humPower(double mainsHz) const;  // of the mains frequency and its first harmonics

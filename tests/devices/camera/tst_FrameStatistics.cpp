@@ -3,6 +3,7 @@
 #include "platform/devices/camera/FrameStatistics.h"
 
 #include <QImage>
+#include <QJsonArray>
 #include <QtTest>
 
 using namespace Platform;
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void samplesFrames();
     void tellsNothingOfNothing();
     void countsAndAverages();
+    void countsEachSecond();
 };
 
 void tst_FrameStatistics::samplesFrames()
@@ -66,6 +68,19 @@ void tst_FrameStatistics::countsAndAverages()
     QCOMPARE(statistics.figures(), expected);
     statistics.start(start);
     QCOMPARE(statistics.frames(), 0);
+}
+
+void tst_FrameStatistics::countsEachSecond()
+{
+    FrameStatistics statistics;
+    const FrameStatistics::Clock::time_point start{};
+    statistics.start(start);
+    for (int i = 0; i < 25; ++i) {
+        statistics.add(sampleOf(qRgb(i, 0, 0)), QSize(4, 4), start + i * 100ms);
+    }
+    statistics.add(sampleOf(qRgb(99, 0, 0)), QSize(4, 4), start + 4100ms);
+    const QJsonValue rates = statistics.figures().value(QStringLiteral("rateOverTime"));
+    QCOMPARE(rates["values"].toArray(), (QJsonArray{10, 10, 5, 0}));
 }
 
 QTEST_GUILESS_MAIN(tst_FrameStatistics)

@@ -3,6 +3,7 @@
 #include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/sound/SoundMath.h"
 
+#include <QJsonArray>
 #include <QTest>
 #include <cmath>
 #include <random>
@@ -50,6 +51,17 @@ private Q_SLOTS:
         QCOMPARE(value(analysis, "noiseFloorDb"), -120.0);
         QCOMPARE(value(analysis, "humShare"), 0.0);
         QCOMPARE(value(analysis, "bandwidthHz"), 0.0);
+    }
+
+    void measuresTheLevelOfEachSecond()
+    {
+        MicrophoneAnalysis analysis(Rate);
+        feed(analysis, 0.9, false, [](unsigned) { return 0.0; });
+        QVERIFY(!analysis.figures().contains(QStringLiteral("levelOverTime")));
+        feed(analysis, 0.1, false, [](unsigned) { return 0.0; });
+        feed(analysis, 1.5, true, [](unsigned i) { return tone(i, 1000.0, 0.1); });
+        const QJsonValue levels = analysis.figures().value(QStringLiteral("levelOverTime"));
+        QCOMPARE(levels["values"].toArray(), (QJsonArray{-120.0, -23.0}));
     }
 
     void measuresLoudnessAndClipping()

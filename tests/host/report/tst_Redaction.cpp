@@ -7,6 +7,7 @@
 #include "host/report/ReportWriter.h"
 #include "tests/host/report/SampleReport.h"
 
+#include <QJsonArray>
 #include <QtTest>
 
 class tst_Redaction : public QObject
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void nothingOfAPersonIsLeft();
     void whatSaysNothingOfAPersonStays_data();
     void whatSaysNothingOfAPersonStays();
+    void seriesStay();
     void equalTextsHaveEqualCodes();
     void keyIsMadeForHashOnly_data();
     void keyIsMadeForHashOnly();
@@ -93,6 +95,33 @@ void tst_Redaction::whatSaysNothingOfAPersonStays()
     QCOMPARE(camera->measurement(QStringLiteral("width"))->reason, QStringLiteral("hung"));
     QCOMPARE(camera->contradictions, before.check(CheckKind::Camera)->contradictions);
     QCOMPARE(report.changes.at(1).before, QStringLiteral("good"));
+}
+
+// But for what somebody hid in them.
+void tst_Redaction::seriesStay()
+{
+    const QString key = QStringLiteral("delayOverTime");
+    const auto series = [](const QJsonValue& value) {
+        return QJsonObject{{QStringLiteral("stepSeconds"), 1},
+                           {QStringLiteral("values"), QJsonArray{value, QJsonValue()}}};
+    };
+    QJsonObject padded = series(37);
+    padded.insert(QStringLiteral("who"), QStringLiteral("Robin"));
+    const Redaction redaction(Options::Redaction::Personal, {});
+    Report report = sampleReport();
+    std::vector<Measurement>& measurements = report.checks.front().measurements;
+    measurements.push_back({key, FigureStatus::Measured, padded, {}});
+    QCOMPARE(redaction.redacted(report).checks.front().measurements.back().value,
+             QJsonValue(series(37)));
+    measurements.back().value = series(QStringLiteral("Robin"));
+    QCOMPARE(redaction.redacted(report).checks.front().measurements.back().value,
+             QJsonValue(QString()));
+    const QJsonObject document{
+        {QStringLiteral("measurements"),
+         QJsonObject{{QStringLiteral("network"), QJsonObject{{key, padded}}}}}};
+    QCOMPARE(redaction.redactedResults(document).value(
+                 QStringLiteral("measurements"))[QStringLiteral("network")][key],
+             QJsonValue(series(37)));
 }
 
 void tst_Redaction::equalTextsHaveEqualCodes()

@@ -9,6 +9,7 @@
 #include "host/report/TwinTexts.h"
 #include "tests/host/report/SampleReport.h"
 
+#include <QJsonArray>
 #include <QXmlStreamReader>
 #include <QtTest>
 
@@ -33,6 +34,8 @@ private Q_SLOTS:
     void verdictsAreMarked();
     void whatIsLeftOutHasNoRow();
     void pageBeginsWithWhatToDo();
+    void plotsStandInThePageAlone();
+    void badSeriesIsNoPlot();
     void formats_data();
     void formats();
 };
@@ -73,7 +76,57 @@ QString visibleText(QString page)
     return reader.hasError() ? QString() : text.simplified();
 }
 
+// The sample with a course of the delay.
+Report withSeries(const QJsonArray& values)
+{
+    Report report = sampleReport();
+    report.checks.front().measurements.push_back(
+        {QStringLiteral("delayOverTime"),
+         FigureStatus::Measured,
+         QJsonObject{{QStringLiteral("stepSeconds"), 1}, {QStringLiteral("values"), values}},
+         {}});
+    return report;
+}
+
+QString htmlOf(const Report& report, const char* language)
+{
+    return QString::fromUtf8(
+        ReportWriter::toFormat(report, Options::Format::Html, QLatin1String(language)));
+}
+
 } // namespace
+
+void tst_ReportWriter::plotsStandInThePageAlone()
+{
+    const Report report = withSeries({37, 912, QJsonValue(), 40});
+    QCOMPARE(textOf(report, QStringLiteral("en")), textOf(sampleReport(), QStringLiteral("en")));
+    const QString page = htmlOf(report, "en");
+    QCOMPARE(page.count(QLatin1String("<svg")), 1);
+    QVERIFY(page.contains(QStringLiteral("37 ms – 912 ms")));
+    QVERIFY(!page.contains(QLatin1String("delayOverTime")));
+    QVERIFY(!visibleText(page).isEmpty());
+    // Folded, behind what is wrong.
+    QVERIFY(page.indexOf(QLatin1String("<details")) < page.indexOf(QLatin1String("<svg")));
+    // In Arabic the time goes to the left; in the English twin to the right.
+    const QString arabic = htmlOf(report, "ar");
+    QCOMPARE(arabic.count(QLatin1String("<svg")), 2);
+    QVERIFY(arabic.contains(QLatin1String("d=\"M530.0 ")));
+    QVERIFY(arabic.contains(QLatin1String("d=\"M70.0 ")));
+    // Those after the verdict have the whole run.
+    Report later = report;
+    later.checks.front().later = {
+        withSeries({1, 2, 3, 4, 5, 6}).checks.front().measurements.back()};
+    QVERIFY(htmlOf(later, "en").contains(QLatin1String(">5 s<")));
+    QCOMPARE(htmlOf(later, "en").count(QLatin1String("<svg")), 1);
+}
+
+void tst_ReportWriter::badSeriesIsNoPlot()
+{
+    const QString page = htmlOf(withSeries({1, QStringLiteral("</svg><script>")}), "en");
+    QVERIFY(!page.contains(QLatin1String("<svg")));
+    QVERIFY(!page.contains(QLatin1String("<script")));
+    QVERIFY(page.contains(QLatin1String("&lt;/svg&gt;")));
+}
 
 void tst_ReportWriter::everyLanguageHasItsTwin_data()
 {
