@@ -95,7 +95,7 @@ enum class Reason {
     Muted,
     VolumeZero,
     NotOffered, // the engine can't
-    NotBuilt, // the engine can't use such devices on this system
+    NotBuilt,   // the engine can't use such devices on this system
 };
 
 // What a user can do something about. Engines record those of devices under the same words.
