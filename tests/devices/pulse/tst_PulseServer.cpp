@@ -37,6 +37,21 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(server.speakerId(), id("speaker_b"), TimeoutMs);
         QVERIFY(!server.hasSpeakerFailed());
     }
+
+    void orderForAnAbsentSpeakerIsSettledToo()
+    {
+        PulseServer server;
+        const auto speakers = [&server] { return server.devices().speakers; };
+        const auto isSettled = [&speakers](quint64 order) {
+            return speakers().settledOrder >= order;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(speakers().find(id("speaker_b")), TimeoutMs);
+        const quint64 absent = server.setVolume(PulseKind::Speaker, id("gone"), 70);
+        QTRY_VERIFY_WITH_TIMEOUT(isSettled(absent), TimeoutMs);
+        const quint64 present = server.setVolume(PulseKind::Speaker, id("speaker_b"), 30);
+        QTRY_VERIFY_WITH_TIMEOUT(isSettled(present), TimeoutMs);
+        QCOMPARE(qRound(speakers().find(id("speaker_b"))->volumeState().percent), 30);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_PulseServer)
