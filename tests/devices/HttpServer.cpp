@@ -125,19 +125,22 @@ void HttpServer::flood(QTcpSocket* socket)
 {
     constexpr int Lines = 4096;
     const QByteArray headers = QByteArray("X-Name: value\r\n").repeated(Lines);
-    auto* const encrypted = qobject_cast<QSslSocket*>(socket);
-    const auto writeMore = [this, socket, encrypted, headers](qint64 taken) {
+    const auto take = [this, socket, headers](qint64 taken, qint64 waiting) {
         m_flooded += taken;
-        if (socket->bytesToWrite() == 0 &&
-            (!encrypted || encrypted->encryptedBytesToWrite() == 0)) {
+        if (waiting == 0) {
             socket->write(headers);
         }
     };
-    if (encrypted) {
-        QObject::connect(encrypted, &QSslSocket::encryptedBytesWritten, socket, writeMore);
-    } else {
-        QObject::connect(socket, &QTcpSocket::bytesWritten, socket, writeMore);
+#ifndef QT_NO_SSL
+    if (auto* const encrypted = qobject_cast<QSslSocket*>(socket)) {
+        QObject::connect(
+            encrypted, &QSslSocket::encryptedBytesWritten, socket,
+            [take, encrypted](qint64 taken) { take(taken, encrypted->encryptedBytesToWrite()); });
+        return;
     }
+#endif
+    QObject::connect(socket, &QTcpSocket::bytesWritten, socket,
+                     [take, socket](qint64 taken) { take(taken, socket->bytesToWrite()); });
 }
 
 void HttpServer::writeEvery(QTcpSocket* socket, int intervalMs, const QByteArray& text)

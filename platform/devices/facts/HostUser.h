@@ -13,9 +13,11 @@ struct HostUser
     QString loginName; // the number where the user has no name
     QString realName;  // may be empty
 
-    // These ask the user database, which may be a slow server: not for the GUI thread.
+    // Both ask the user database, which may be a slow server: not for the GUI thread.
     static HostUser current();
+#ifdef Q_OS_UNIX
     static HostUser withId(uid_t id);
+#endif
 };
 
 } // namespace Platform
