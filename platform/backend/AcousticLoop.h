@@ -40,6 +40,7 @@ public:
 class CLASSROOMBACKEND_EXPORT AcousticLoopMaker
 {
 public:
+    // Null if it can't on this system.
     virtual std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
                                                              const QString& microphoneId) = 0;
 

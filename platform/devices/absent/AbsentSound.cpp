@@ -24,6 +24,12 @@ std::unique_ptr<PlayerBackend> AbsentSound::createPlayer(const QString& /*path*/
     return nullptr;
 }
 
+std::unique_ptr<AcousticLoop> AbsentSound::createAcousticLoop(const QString& /*speakerId*/,
+                                                              const QString& /*microphoneId*/)
+{
+    return nullptr;
+}
+
 std::unique_ptr<SoundSystem> createSoundSystem(const DeviceEngineConfig& /*config*/,
                                                ReportSink& report)
 {

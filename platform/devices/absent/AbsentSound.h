@@ -17,6 +17,8 @@ public:
     std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) override;
     std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
                                                 PlayerBackend::Listener& listener) override;
+    std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
+                                                     const QString& microphoneId) override;
     DeviceList speakers() const override { return {}; }
     SoundServerState serverState() const override { return SoundServerState::NotBuilt; }
 

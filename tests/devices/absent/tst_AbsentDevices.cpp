@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cameraSaysWhy();
     void resultsSayWhy();
     void noPlayer();
+    void noAcousticLoop();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -107,6 +108,11 @@ void tst_AbsentDevices::noPlayer()
 {
     Listener listener;
     QVERIFY(!m_engine->createPlayer(QStringLiteral("any.mp3"), 1.0F, listener));
+}
+
+void tst_AbsentDevices::noAcousticLoop()
+{
+    QVERIFY(!m_engine->createAcousticLoop(QStringLiteral("speaker"), QStringLiteral("microphone")));
 }
 
 QTEST_GUILESS_MAIN(tst_AbsentDevices)
