@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/DialogLeftovers.h"
 
+#include "benchmarks/CalmHeap.h"
 #include "tests/support/CameraProcess.h"
 #include "tests/support/SoundServer.h"
 
 #include <QDir>
-#include <QPixmapCache>
 #include <QProcess>
 #include <array>
 #include <cstdio>
-#include <malloc.h>
 #include <map>
 #include <unistd.h>
 
@@ -20,7 +19,6 @@ namespace {
 
 constexpr int WarmUpOpenings = 20;
 constexpr int OpeningsPerLongOne = 25; // the others don't wait for frames and sound
-constexpr int UsualCacheKb = 10240;
 constexpr double MaxGrowthBytes = 512.0;
 
 int lineCount(const QByteArray& text)
@@ -69,11 +67,7 @@ struct Possessions
     static Possessions ofNow(TestSupport::SoundServer& server, TestSupport::CameraProcess& camera,
                              int calmMs)
     {
-        // Qt caches up to ten megabytes of drawn icons, and each opening adds new ones. Only a
-        // timer of the cache drops their names, and clear() would stop it.
-        QPixmapCache::setCacheLimit(0);
-        settle(calmMs);
-        QPixmapCache::setCacheLimit(UsualCacheKb);
+        CalmHeap::dropIcons(calmMs);
         camera.readAll(); // its output isn't growth of the dialog
         Possessions result;
         const auto list = [&server](const char* kind) {
@@ -86,8 +80,7 @@ struct Possessions
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         result.descriptors = openDescriptors();
         result.threads = entries("/proc/self/task").size();
-        const struct mallinfo2 info = mallinfo2();
-        result.heap = info.uordblks + info.hblkhd;
+        result.heap = CalmHeap::bytes();
         return result;
     }
 };
@@ -132,10 +125,7 @@ bool measureLeftovers(Application& application, TestSupport::SoundServer& server
                 isGood = showCamera() && playSound(server) && record(server) && isGood;
                 return;
             }
-            for (const char* label : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
-                click(label);
-                QCoreApplication::processEvents();
-            }
+            visitDevicePages();
         });
     };
     for (int i = 0; i < WarmUpOpenings; ++i) {

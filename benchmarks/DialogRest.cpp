@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/DialogRest.h"
 
+#include "benchmarks/ProcessorClock.h"
 #include "tests/support/TestProcess.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,6 @@
 #include <QTimer>
 #include <array>
 #include <cstdio>
-#include <ctime>
 #include <unistd.h>
 
 using namespace DialogStage;
@@ -40,13 +40,6 @@ void wait(int ms)
     QEventLoop loop; // QTest::qWait() wakes up a hundred times a second
     QTimer::singleShot(ms, &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-double processorMs()
-{
-    timespec now = {};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return 1e3 * static_cast<double>(now.tv_sec) + 1e-6 * static_cast<double>(now.tv_nsec);
 }
 
 // Resident, with the shared pages of libraries.
@@ -82,9 +75,9 @@ bool measureRest(Application& application, int msOfPage)
         for (const Page& page : Pages) {
             click(page.label);
             wait(StartMs);
-            const double before = processorMs();
+            const ProcessorClock clock(ProcessorClock::Of::Process);
             wait(msOfPage);
-            const double percent = 100.0 * (processorMs() - before) / msOfPage;
+            const double percent = 100.0 * clock.elapsedMs() / msOfPage;
             std::printf("| %s | %.2f | %.1f |\n", page.name, percent,
                         memoryMb(QStringLiteral("self")));
             isGood = isGood && (page.moves || percent <= MaxPercent);

@@ -110,6 +110,14 @@ void DialogStage::runDialog(Application& application, const std::function<void()
     settle(SettleMs);
 }
 
+void DialogStage::visitDevicePages()
+{
+    for (const char* label : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
+        click(label);
+        QCoreApplication::processEvents();
+    }
+}
+
 bool DialogStage::showCamera()
 {
     click("label_CameraCheck");

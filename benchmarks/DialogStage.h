@@ -43,6 +43,8 @@ void callLater(const std::function<void()>& function);
 // Runs the dialog; once it is painted runs the script, then ends the session.
 void runDialog(Application& application, const std::function<void()>& script);
 
+// Opens the three steps with devices, one after the other.
+void visitDevicePages();
 // Each opens a step and waits until its device works; false after TimeoutMs.
 bool showCamera();
 bool playSound(TestSupport::SoundServer& server);

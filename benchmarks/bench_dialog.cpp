@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkOptions.h"
+#include "benchmarks/CalmHeap.h"
 #include "benchmarks/DialogClosing.h"
 #include "benchmarks/DialogLeftovers.h"
 #include "benchmarks/DialogOpening.h"
@@ -30,7 +31,6 @@ constexpr int RoundsPerClosing = 5;
 constexpr int CalmMs = 1500;
 constexpr int RestMs = 5000; // of each page
 constexpr int SmokeRestMs = 200;
-constexpr int IconNamesMs = 31000; // Qt cleans its cache of icons at most every 30 s
 
 } // namespace
 
@@ -68,7 +68,7 @@ int main(int argc, char** argv)
         isGood = measureRest(application, options.isSmoke() ? SmokeRestMs : RestMs) && isGood;
         isGood = measureClosing(application, server, qMax(1, rounds / RoundsPerClosing)) && isGood;
         return measureLeftovers(application, server, camera, rounds * OpeningsPerRound,
-                                options.isSmoke() ? CalmMs : IconNamesMs) &&
+                                options.isSmoke() ? CalmMs : CalmHeap::IconNamesMs) &&
                isGood;
     });
     Platform::FileWriter::waitForWritten(DialogStage::TimeoutMs);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "agent/EnvCheckAgent.h"
 #include "benchmarks/BenchmarkOptions.h"
+#include "benchmarks/CalmHeap.h"
 #include "benchmarks/DialogStage.h"
+#include "benchmarks/ProcessorClock.h"
 #include "benchmarks/Statistics.h"
-#include "benchmarks/ThreadClock.h"
 #include "platform/backend/EngineRegistry.h"
 #include "platform/devices/network/ProbeWindow.h"
 #include "platform/scripted/ScriptedEngine.h"
@@ -12,10 +13,8 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QEventLoop>
-#include <QPixmapCache>
 #include <QTimer>
 #include <cstdio>
-#include <malloc.h>
 #include <memory>
 #include <vector>
 
@@ -31,8 +30,6 @@ namespace {
 
 constexpr int UsualRounds = 5;
 constexpr int WarmUpOpenings = 20;
-constexpr int UsualCacheKb = 10240;
-constexpr int IconNamesMs = 31000; // Qt cleans its cache of icons at most every 30 s
 constexpr int SmokeCalmMs = 500;
 constexpr int SmokeSteps = 2;            // of each curve
 constexpr double MaxRatioToBox = 3.0;    // a change of 1,000 devices and more beside a QComboBox
@@ -104,7 +101,7 @@ double fillBoxMs(int entries)
     for (int i = 0; i < entries; ++i) {
         box.addItem(speaker(i).name);
     }
-    const ThreadClock clock;
+    const ProcessorClock clock(ProcessorClock::Of::Thread);
     box.clear();
     for (int i = 0; i < entries; ++i) {
         box.addItem(speaker(i).name, speaker(i).id);
@@ -123,13 +120,13 @@ bool Growth::measureDevices()
         std::vector<double> renames;
         std::vector<double> boxes;
         runDialog(m_application, [&] {
-            const ThreadClock opening;
+            const ProcessorClock opening(ProcessorClock::Of::Thread);
             click("label_SoundCheck");
             processAll();
             openMs = opening.elapsedMs();
             for (int i = 0; i < m_options.rounds(); ++i) {
                 engine.scriptedSpeakers().rename(speaker(0).id, QStringLiteral("Name %1").arg(i));
-                const ThreadClock renaming;
+                const ProcessorClock renaming(ProcessorClock::Of::Thread);
                 processAll();
                 renames.push_back(renaming.elapsedMs());
                 boxes.push_back(fillBoxMs(count));
@@ -165,7 +162,7 @@ bool Growth::measureChanges()
                 ++changes;
             });
             timer.start(1000 / perSecond);
-            const ThreadClock clock;
+            const ProcessorClock clock(ProcessorClock::Of::Thread);
             QEventLoop loop; // qWait() sleeps between two rounds
             QTimer::singleShot(MeasureMs, &loop, &QEventLoop::quit);
             loop.exec();
@@ -177,31 +174,22 @@ bool Growth::measureChanges()
     return share <= MaxShareOfCore;
 }
 
-// Without Qt's cache of drawn icons. Only a timer of the cache drops their names.
 std::size_t heapBytes(int calmMs)
 {
-    QPixmapCache::setCacheLimit(0);
-    settle(calmMs);
-    QPixmapCache::setCacheLimit(UsualCacheKb);
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
+    CalmHeap::dropIcons(calmMs);
+    return CalmHeap::bytes();
 }
 
 bool Growth::measureOpenings()
 {
     ScriptedEngine& engine = install(1);
     const auto openOnce = [this, &engine] {
-        runDialog(m_application, [] {
-            for (const char* label : {"label_CameraCheck", "label_SoundCheck", "label_MicCheck"}) {
-                click(label);
-                processAll();
-            }
-        });
+        runDialog(m_application, visitDevicePages);
         engine.clearCalls(); // its log, which no other engine has
     };
     openOnce();
     std::puts("| openings | heap, KB | growth, bytes an opening |\n|---|---|---|");
-    const int calmMs = m_options.isSmoke() ? SmokeCalmMs : IconNamesMs;
+    const int calmMs = m_options.isSmoke() ? SmokeCalmMs : CalmHeap::IconNamesMs;
     const std::size_t before = heapBytes(calmMs);
     double growth = 0;
     int openings = 0;
@@ -225,7 +213,7 @@ bool Growth::measureProbes() const
     double eachUs = 0;
     for (const int count : steps(10, 100000)) {
         Platform::ProbeWindow window;
-        const ThreadClock clock;
+        const ProcessorClock clock(ProcessorClock::Of::Thread);
         double delays = 0;
         for (int i = 0; i < count; ++i) {
             const Time sent = i * Time(100000);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkOptions.h"
 #include "benchmarks/MonitorEar.h"
+#include "benchmarks/ProcessorClock.h"
 #include "benchmarks/Statistics.h"
 #include "platform/devices/pulse/PulseSound.h"
 #include "tests/support/MemoryReport.h"
@@ -15,7 +16,6 @@
 #include <QTest>
 #include <cstdio>
 #include <cstring>
-#include <ctime>
 #include <memory>
 
 // Measures the delay from a sound at the microphone to the value of the bar, and what the bar costs
@@ -146,14 +146,9 @@ double costPercent(int milliseconds)
 {
     const SoundSource voice(QStringLiteral("voice"),
                             TestSupport::tone(milliseconds / 1000.0, 300.0, -20));
-    timespec before = {};
-    timespec after = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+    const ProcessorClock clock(ProcessorClock::Of::Thread);
     QTest::qWait(milliseconds);
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
-    const double seconds = static_cast<double>(after.tv_sec - before.tv_sec) +
-                           1e-9 * static_cast<double>(after.tv_nsec - before.tv_nsec);
-    return 100.0 * seconds / (milliseconds / 1000.0);
+    return 100.0 * clock.elapsedMs() / milliseconds;
 }
 
 // What one of the two showed and took, over all blocks.
