@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/DeviceSurvey.h"
 #include "platform/devices/DeviceEngine.h"
+#include "tests/support/NoListener.h"
 
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -29,10 +30,7 @@ private:
 
 namespace {
 
-class Listener : public CameraBackend::Listener,
-                 public MicrophoneBackend::Listener,
-                 public SpeakerBackend::Listener,
-                 public PlayerBackend::Listener
+class Listener : public TestSupport::NoListener, public CameraBackend::Listener
 {
 public:
     virtual ~Listener() = default;
@@ -42,18 +40,6 @@ public:
     void cameraWorkStateChanged(const QString&, bool) override {}
     void cameraCauseChanged() override {}
     void frameArrived() override {}
-    void microphoneListChanged() override {}
-    void currentMicrophoneChanged(const QString&) override {}
-    void levelMeasured(double) override {}
-    void microphoneVolumeChanged(int) override {}
-    void microphoneInfoChanged() override {}
-    void microphoneWorkStateChanged(const QString&, bool) override {}
-    void systemVolumeChanged(float) override {}
-    void speakerListChanged() override {}
-    void currentSpeakerChanged(const QString&) override {}
-    void speakerVolumeChanged(int) override {}
-    void speakerWorkStateChanged(bool) override {}
-    void playbackFinished() override {}
 };
 
 } // namespace
