@@ -22,7 +22,7 @@ QString number(double value)
     return QString::number(value, 'f', 1);
 }
 
-// Where the time begins and ends, as the page is read.
+// The ends of the time axis: it runs in the direction in which the page is read.
 struct TimeAxis
 {
     explicit TimeAxis(SeriesPlot::Direction direction)

@@ -42,7 +42,7 @@ LoopOutcome SweepRecording::outcome(Clock::time_point playedAt) const
     return {LoopOutcome::Result::Heard, std::max(0.0, delay.count()), match->peakDb, {}};
 }
 
-// Within a piece, each sample came so much earlier than the last one as the sound says.
+// A piece arrived when its last sample was there; the others came earlier by their place in it.
 SweepRecording::Clock::time_point SweepRecording::arrivalOf(std::size_t sample) const
 {
     const auto piece = std::find_if(m_pieces.begin(), m_pieces.end(),
