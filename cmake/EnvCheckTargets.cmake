@@ -51,6 +51,18 @@ target_compile_definitions(EnvCheckOptions INTERFACE
 target_compile_options(EnvCheckOptions INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<BOOL:${ENVCHECK_WARNINGS_AS_ERRORS}>:-Werror>)
+# envcheck_precompile(TARGET [HEADER...]): what most sources of a large target include, beside HEADER. They
+# include it themselves, too, as builds without precompiled headers show.
+function(envcheck_precompile target)
+    if(ENVCHECK_PRECOMPILED_HEADERS)
+        target_precompile_headers(${target} PRIVATE
+            <QCoreApplication> <QDateTime> <QFile> <QJsonArray> <QJsonDocument> <QJsonObject> <QMap>
+            <QObject> <QString> <QStringList> <QTimer> <QVariant>
+            <algorithm> <chrono> <functional> <map> <memory> <mutex> <optional> <vector>
+            ${ARGN})
+    endif()
+endfunction()
+
 if(ENVCHECK_SANITIZERS)
     target_compile_options(EnvCheckOptions INTERFACE
         -fsanitize=${ENVCHECK_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
