@@ -77,17 +77,6 @@ QByteArray Viewer::takeOutput()
     return std::exchange(m_output, {});
 }
 
-double Viewer::processorMs() const
-{
-    clockid_t clock{};
-    timespec used{};
-    if (clock_getcpuclockid(static_cast<pid_t>(processId()), &clock) != 0 ||
-        clock_gettime(clock, &used) != 0) {
-        return qQNaN();
-    }
-    return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) * 1e-6;
-}
-
 bool Viewer::waitFor(const QByteArray& text)
 {
     const bool isThere = QTest::qWaitFor(

@@ -32,7 +32,6 @@ public:
     bool waitForFrame();
     double stop(); // how long one handler kept the GUI thread at most
     QByteArray takeOutput();
-    double processorMs() const; // used so far, by all threads
 
 private:
     bool waitFor(const QByteArray& text);

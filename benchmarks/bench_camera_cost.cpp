@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkOptions.h"
 #include "benchmarks/CameraStage.h"
+#include "benchmarks/ProcessorClock.h"
 #include "benchmarks/Statistics.h"
 
 #include <QElapsedTimer>
@@ -49,11 +50,11 @@ std::optional<double> costOf(const Contestant& contestant, const Camera& camera,
     }
     viewer.go();
     QTest::qWait(isSmoke ? SmokeRoundMs : SettleMs);
-    const double before = viewer.processorMs();
+    const ProcessorClock processor(viewer.processId());
     QElapsedTimer clock;
     clock.start();
     QTest::qWait(isSmoke ? SmokeRoundMs : RoundMs);
-    const double used = viewer.processorMs() - before;
+    const double used = processor.elapsedMs();
     const double result = 100.0 * used / static_cast<double>(clock.elapsed());
     if (qIsNaN(viewer.stop()) || used <= 0.0) {
         std::fprintf(stderr, "%s shows nothing\n", contestant.kind);

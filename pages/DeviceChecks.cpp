@@ -11,6 +11,7 @@
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmapCache>
 
 #include <iterator>
 
@@ -28,6 +29,22 @@ constexpr int FocusMargin = 4;
 constexpr QSize SmallHandSize(31, 38);
 constexpr QSize BigHandSize(38, 48);
 constexpr QPoint HandOffset(10, 0);
+
+// Qt keeps it after the first time: the hand moves as long as its page lives.
+QPixmap handPicture(bool isSmall, qreal ratio)
+{
+    const QString size = isSmall ? QStringLiteral("small") : QStringLiteral("big");
+    const QString key = QStringLiteral("DeviceChecks hand %1 %2").arg(size).arg(ratio);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(QStringLiteral(":/Kestrel/Images/hand_%1.png").arg(size))
+                      .scaled((isSmall ? SmallHandSize : BigHandSize) * ratio, Qt::KeepAspectRatio,
+                              Qt::SmoothTransformation);
+        picture.setDevicePixelRatio(ratio);
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
 
 } // namespace
 
@@ -114,13 +131,7 @@ void placeHand(QLabel* hand, const QWidget* button)
 
 void showHand(QLabel* hand, bool isSmall)
 {
-    const QString size = isSmall ? QStringLiteral("small") : QStringLiteral("big");
-    const qreal ratio = hand->devicePixelRatioF();
-    QPixmap picture = QPixmap(QStringLiteral(":/Kestrel/Images/hand_%1.png").arg(size))
-                          .scaled((isSmall ? SmallHandSize : BigHandSize) * ratio,
-                                  Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(ratio);
-    hand->setPixmap(picture);
+    hand->setPixmap(handPicture(isSmall, hand->devicePixelRatioF()));
 }
 
 } // namespace DeviceChecks

@@ -16,7 +16,7 @@ public:
     public:
         virtual void microphoneListChanged() = 0;
         virtual void currentMicrophoneChanged(const QString& id) = 0;
-        virtual void levelMeasured(double level) = 0; // 0 to 1, at least 30 a second while open
+        virtual void levelMeasured(double level) = 0; // 0 to 1, 30 a second or more; 0 only once
         virtual void microphoneVolumeChanged(int percent) = 0; // by setVolume()
         virtual void microphoneInfoChanged() = 0;              // name, mute or adjustability
         virtual void microphoneWorkStateChanged(const QString& id, bool works) = 0;

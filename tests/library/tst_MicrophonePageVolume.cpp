@@ -13,6 +13,23 @@
 using Platform::DeviceState;
 using TestSupport::MicrophonePageTest;
 
+namespace {
+
+class PaintCounter : public QObject
+{
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
 // The level, the volume, and the tip about a loud microphone.
 class tst_MicrophonePageVolume : public MicrophonePageTest
 {
@@ -21,6 +38,7 @@ class tst_MicrophonePageVolume : public MicrophonePageTest
 private Q_SLOTS:
     void level_data();
     void level();
+    void levelIsPaintedOnlyIfItChangesThePicture();
     void userVolume();
     void volumeFollowsTheMicrophone();
     void mutedMicrophoneIsAtZero();
@@ -73,6 +91,28 @@ void tst_MicrophonePageVolume::level()
     m_engine->microphones().emitLevel(level);
     turn();
     QTEST(front->value(), "shown");
+}
+
+// A segment is 10 of 210 pixels wide. Values come up to 60 times a second.
+void tst_MicrophonePageVolume::levelIsPaintedOnlyIfItChangesThePicture()
+{
+    makeShownPage(Mic::Works);
+    auto* bars = childOf<QWidget>(*m_page, "w_intensity")->layout();
+    PaintCounter paints;
+    bars->itemAt(1)->widget()->installEventFilter(&paints);
+    const auto paintsOf = [this, &paints](std::initializer_list<double> levels) {
+        paints.count = 0;
+        for (const double level : levels) {
+            m_engine->microphones().emitLevel(level);
+            turn();
+        }
+        return paints.count;
+    };
+    QCOMPARE(paintsOf({0.5}), 1);
+    QCOMPARE(paintsOf({0.5, 0.51, 0.53, 0.5, 0.49, 0.48}), 0);
+    QCOMPARE(paintsOf({0.6, 0.7}), 2);
+    QCOMPARE(paintsOf({0.0}), 1);
+    QCOMPARE(paintsOf({0.0, 0.0, 0.0}), 0);
 }
 
 void tst_MicrophonePageVolume::userVolume()

@@ -12,7 +12,8 @@ namespace Platform {
 
 namespace {
 
-// A noticeable rise is published at once, all else as often as an eye can follow.
+// A noticeable rise is published at once, all else as often as an eye can follow. Silence is
+// published once: nothing changes until it ends.
 constexpr std::chrono::milliseconds LevelInterval(19);
 constexpr double NoticeableRise = 0.02;
 
@@ -75,7 +76,9 @@ void CaptureMeter::resetMeters()
 
 void CaptureMeter::publish(double level, Clock::time_point now)
 {
-    if (level > m_lastLevel + NoticeableRise || now - m_lastLevelTime >= LevelInterval) {
+    const bool isStillSilent = level == 0.0 && m_lastLevel == 0.0;
+    const bool isDue = !isStillSilent && now - m_lastLevelTime >= LevelInterval;
+    if (level > m_lastLevel + NoticeableRise || isDue) {
         m_lastLevel = level;
         m_lastLevelTime = now;
         m_events.levelMeasured(level);

@@ -58,7 +58,7 @@ private:
     std::vector<LevelMeter> m_meters; // one per channel
     Clock::time_point m_lastSample;
     Clock::time_point m_lastLevelTime;
-    double m_lastLevel = 0.0;
+    double m_lastLevel = -1.0; // none was told yet
     bool m_isHeard = false;
     std::optional<bool> m_delivers; // no value: not known yet
 };

@@ -66,7 +66,8 @@ private Q_SLOTS:
     void tellsWhetherItHeardSound()
     {
         m_microphone->open();
-        QTRY_VERIFY(m_listener->levels.size() > 20);
+        QTRY_COMPARE(m_listener->levels, QList<double>{0.0});
+        QTest::qWait(400);
         QVERIFY(!m_microphone->hasHeardSound());
         QVERIFY(m_microphone->state() == DeviceState::Silent);
         {
@@ -173,7 +174,7 @@ private Q_SLOTS:
     {
         m_microphone->open();
         m_microphone->setListening(true);
-        QTRY_VERIFY(m_listener->levels.size() > 10);
+        QTRY_VERIFY(!m_listener->levels.isEmpty());
         GapMeter gaps;
         m_microphone->setListening(false);
         m_microphone->close();

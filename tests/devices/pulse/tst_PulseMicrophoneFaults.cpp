@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         m_microphone->open();
         m_microphone->setListening(true);
-        QTRY_VERIFY(m_listener->levels.size() > 10);
+        QTRY_VERIFY(!m_listener->levels.isEmpty());
         GapMeter gaps;
         m_server->kill();
         QTRY_VERIFY(m_listener->isCurrent(QString()));

@@ -54,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(room.isBuilt());
         m_microphone->setCurrent(id("room_microphone"));
         listenOn("room_speaker");
-        QTRY_VERIFY(m_listener->levels.size() > 20);
+        QTRY_COMPARE(playbacks(), 1);
         const QString fault = TestSupport::measuredFault([&room] {
             std::vector<double> delays = room.measureDelays(Bursts);
             if (delays.size() != Bursts) {

@@ -69,6 +69,18 @@ private Q_SLOTS:
                  qPrintable(QString::number(m_levels.size())));
     }
 
+    // Nobody is woken up for a bar that stays empty.
+    void publishesSilenceOnce()
+    {
+        feed(milliseconds(1000), 0.0, 0.0);
+        QCOMPARE(m_levels, QList<double>{0.0});
+        feed(milliseconds(200), 0.1, 0.1);
+        QVERIFY(m_levels.size() > 5);
+        feed(milliseconds(3000), 0.0, 0.0); // the bar falls first
+        QCOMPARE(m_levels.count(0.0), 2);
+        QCOMPARE(m_levels.last(), 0.0);
+    }
+
     void publishesARiseAtOnce()
     {
         feed(milliseconds(200), 0.0, 0.0);
