@@ -97,6 +97,7 @@ void tst_MicrophonePageVolume::level()
 void tst_MicrophonePageVolume::levelIsPaintedOnlyIfItChangesThePicture()
 {
     makeShownPage(Mic::Works);
+    QVERIFY(QTest::qWaitForWindowExposed(m_page->window()));
     auto* bars = childOf<QWidget>(*m_page, "w_intensity")->layout();
     PaintCounter paints;
     bars->itemAt(1)->widget()->installEventFilter(&paints);
