@@ -26,7 +26,7 @@ constexpr const char* Variable = "SSL_CERT_FILE"; // as OpenSSL, Python, Go and 
 void Platform::ServerTrust::addTo(QNetworkRequest& request)
 {
     const QString path = qEnvironmentVariable(Variable);
-    if (path.isEmpty()) {
+    if (path.isEmpty() || request.url().scheme() != QLatin1String("https")) {
         return;
     }
     QByteArray content;
@@ -37,9 +37,8 @@ void Platform::ServerTrust::addTo(QNetworkRequest& request)
             << Variable << "names no certificates:" << path << problem;
         return;
     }
-    // With authorities of its own, a configuration no longer looks up those of the system.
     QSslConfiguration trust = request.sslConfiguration();
-    trust.setCaCertificates(QSslConfiguration::systemCaCertificates() + own);
+    trust.setCaCertificates(own);
     request.setSslConfiguration(trust);
 }
 
