@@ -62,7 +62,7 @@ set(backends ClassroomScripted)
 if(ENVCHECK_DEVICES)
     list(APPEND engine_libraries ClassroomDevices)
     list(APPEND backends ClassroomDevices)
-    install(FILES platform/devices/DeviceEngine.h platform/devices/DeviceEngineConfig.h
+    install(FILES platform/devices/DeliveryOutcome.h platform/devices/DeviceEngine.h platform/devices/DeviceEngineConfig.h
         DESTINATION ${include_folder}/platform/devices)
 endif()
 if(WIN32)

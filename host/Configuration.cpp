@@ -3,6 +3,7 @@
 #include "host/Configuration.h"
 
 #include "host/Options.h"
+#include "host/ReportToken.h"
 #include "platform/backend/StunServer.h"
 #include "platform/backend/WebAddress.h"
 
@@ -15,6 +16,7 @@ namespace {
 
 const QString ServerKey = QStringLiteral("server");
 const QString ReportUrlKey = QStringLiteral("report-url");
+const QString ReportTokenKey = QStringLiteral("report-token-file");
 constexpr qint64 MaxBytes = qint64(64) * 1024; // a larger file is no configuration
 
 } // namespace
@@ -67,6 +69,18 @@ void Configuration::complete(Options& options)
             refuse(url, ReportUrlKey, qtTrId("ID_Host_Takes_WebAddress"));
         }
     }
+    completeToken(options);
+}
+
+// Whoever has a token in the environment needs no file.
+void Configuration::completeToken(Options& options)
+{
+    const bool hasVariable = !qEnvironmentVariableIsEmpty(ReportToken::Variable);
+    if (options.reportUrl.isEmpty() && !options.reportTokenFile.isEmpty()) {
+        fail(ExitCode::WrongUsage, qtTrId("ID_Host_Usage_Needs").arg(ReportTokenKey, ReportUrlKey));
+    } else if (!options.reportUrl.isEmpty() && options.reportTokenFile.isEmpty() && !hasVariable) {
+        options.reportTokenFile = find(ReportTokenKey).text;
+    }
 }
 
 // The first file that has the key counts, also if its value is empty.
@@ -104,7 +118,7 @@ QMap<QString, QString> Configuration::read(const QString& file)
     const QStringList keys = settings.allKeys();
     QMap<QString, QString> content;
     for (const QString& key : keys) {
-        if (key != ServerKey && key != ReportUrlKey) {
+        if (key != ServerKey && key != ReportUrlKey && key != ReportTokenKey) {
             fail(ExitCode::BadInput, qtTrId("ID_Host_Config_UnknownKey").arg(file, key));
             continue;
         }

@@ -34,6 +34,7 @@ private:
         QString file; // where it was found; empty: nowhere
     };
 
+    void completeToken(Options& options);
     Value find(const QString& key);
     const QMap<QString, QString>& contentOf(const QString& file);
     QMap<QString, QString> read(const QString& file);

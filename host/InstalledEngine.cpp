@@ -59,6 +59,7 @@ void useTexts(const Options& options, Platform::ScriptedFacts& facts)
 } // namespace
 
 InstalledEngine::InstalledEngine(const Options& options, const QString& dataFolder)
+    : m_options(options)
 {
     if (options.platform == Options::Platform::Scripted) {
         installScripted(options);
@@ -71,8 +72,13 @@ InstalledEngine::~InstalledEngine()
 {
     ProgramEnd::begin();
     if (m_results) { // an engine is installed
-        const int deliveryMs = std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs());
-        engine().deliver(std::chrono::milliseconds(deliveryMs));
+        const std::chrono::milliseconds limit(
+            std::min(ProgramEnd::DeliveryMs, ProgramEnd::remainingMs()));
+        if (m_deliver) {
+            ReportUpload::finish(m_deliver, m_options.reportUrl, limit);
+        } else {
+            engine().deliver(limit);
+        }
     }
     // Write first: the scripted engine removes the folder of its settings.
     Platform::FileWriter::waitForWritten(ProgramEnd::remainingMs());
@@ -110,6 +116,13 @@ QJsonObject InstalledEngine::results() const
     return m_results();
 }
 
+void InstalledEngine::post(const Report& report) const
+{
+    if (m_post) {
+        m_post(ReportUpload::documentOf(report, m_options));
+    }
+}
+
 // Without a person nothing is chosen that could be remembered.
 QString InstalledEngine::settingsFolder(const Options& options, const QString& dataFolder)
 {
@@ -145,7 +158,9 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     config.account = options.account;
     config.nickname = options.nickname;
     config.resultsPath = runningResults(options);
-    config.reportUrl = options.isUnattended ? QString() : options.reportUrl;
+    config.reportUrl = options.reportUrl;
+    config.reportToken = options.reportToken;
+    config.reportsFolder = dataFolder + QStringLiteral("/reports");
     config.isProcessOwn = true;
     config.settingsFolder = settingsFolder(options, dataFolder);
     config.cacheFolder = dataFolder;
@@ -154,6 +169,14 @@ void InstalledEngine::installDevices(const Options& options, const QString& data
     Platform::EngineRegistry::install(std::move(made));
     m_prepare = [&engine](std::function<void()> done) { engine.prepare(std::move(done)); };
     m_results = [&engine] { return engine.results(); };
+    if (!options.reportUrl.isEmpty()) {
+        m_post = [&engine](const QByteArray& report) {
+            engine.postReport(report, std::chrono::milliseconds(ProgramEnd::remainingMs()));
+        };
+        m_deliver = [&engine](std::chrono::milliseconds limit) {
+            return engine.deliverReports(limit);
+        };
+    }
 }
 #else
 void InstalledEngine::installDevices(const Options&, const QString&)

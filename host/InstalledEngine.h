@@ -3,14 +3,14 @@
 #pragma once
 
 #include "host/ExitCode.h"
+#include "host/Options.h"
+#include "host/report/ReportUpload.h"
 
 #include <QJsonObject>
 #include <QString>
 #include <QTemporaryDir>
 #include <functional>
 #include <memory>
-
-struct Options;
 
 namespace Platform {
 class Engine;
@@ -36,6 +36,9 @@ public:
     bool prepare();
     Platform::Engine& engine() const;
     QJsonObject results() const; // of the run so far
+    // Posts the report of the run, if there is an address to post to. For the end of the program:
+    // waits for the disk.
+    void post(const Report& report) const;
 
 private:
     QString settingsFolder(const Options& options, const QString& dataFolder);
@@ -47,5 +50,8 @@ private:
     ExitCode m_errorCode = ExitCode::AllPassed;
     std::function<void(std::function<void()>)> m_prepare; // null if there is nothing to collect
     std::function<QJsonObject()> m_results;
+    std::function<void(const QByteArray&)> m_post; // null if nothing is posted
+    ReportUpload::Deliver m_deliver;               // likewise
+    const Options m_options;
     std::unique_ptr<QTemporaryDir> m_unusedSettings; // removed after the engine
 };

@@ -67,6 +67,7 @@ constexpr Definition Definitions[] = {
     {"results", InCheck, "FILE", "ID_Host_Option_Results"},
     {"report", InCheck, "FILE", "ID_Host_Option_Report"},
     {"report-url", InCheck, "URL", "ID_Host_Option_ReportUrl"},
+    {"report-token-file", InCheck, "FILE", "ID_Host_Option_ReportTokenFile"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
     {"unattended", InCheck, nullptr, "ID_Host_Option_Unattended"},
     {"loop", InCheck, nullptr, "ID_Host_Option_Loop"},
@@ -208,6 +209,7 @@ private:
         readFile("files-from", m_options.filesFrom);
         readFile("results", m_options.resultsFile);
         readFile("report", m_options.reportFile);
+        readFile("report-token-file", m_options.reportTokenFile);
         readFile("tour", m_options.tourFolder);
         readFile("scenario", m_options.scenario);
     }
@@ -234,8 +236,11 @@ private:
             if (m_options.scenario.isEmpty()) {
                 m_options.scenario = QLatin1String(Options::DefaultScenario);
             }
-            if (isSet("server")) {
-                failAtBoth("--server", isSet("scenario") ? "--scenario" : "--platform scripted");
+            for (const char* real : {"server", "report-url", "report-token-file"}) {
+                if (isSet(real)) {
+                    failAtBoth(qPrintable(QLatin1String("--") + option(real)),
+                               isSet("scenario") ? "--scenario" : "--platform scripted");
+                }
             }
         }
     }
@@ -288,6 +293,7 @@ private:
             failAt("redact", oneOf("none, personal, hash"));
         }
         m_options.redaction = level.value_or(Options::Redaction::None);
+        m_options.isRedactionGiven = isSet("redact");
     }
 
     void readOutputs()
@@ -309,7 +315,7 @@ private:
         if (m_options.hasLoop && !m_options.isUnattended) {
             fail(qtTrId("ID_Host_Usage_Needs").arg(option("loop"), option("unattended")));
         }
-        for (const char* other : {"tour", "results", "report-url", "quiet"}) {
+        for (const char* other : {"tour", "results", "quiet"}) {
             if (m_options.isUnattended && isSet(other)) {
                 failAtBoth("--unattended", qPrintable(QLatin1String("--") + option(other)));
             }

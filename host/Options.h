@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -27,6 +28,8 @@ struct Options
     QString resultsFile; // "-" is standard output
     QString reportFile;  // empty: the default place
     QString reportUrl;
+    QString reportTokenFile;
+    QByteArray reportToken; // never from the command line, see ReportToken
     QString tourFolder;
     bool isVerbose = false;
     bool isQuiet = false;      // no window with the outcome
@@ -40,6 +43,7 @@ struct Options
     QString filesFrom;   // report: a file with names of reports, or "-"
     Format format = Format::Text;
     Redaction redaction = Redaction::None;
+    bool isRedactionGiven = false;
 
     Command helpFor = Command::Check; // for Command::Help
     QString error;                    // empty, or one line with the problem and what to do

@@ -11,6 +11,7 @@
 #include "host/Options.h"
 #include "host/ProgramEnd.h"
 #include "host/ProgramLook.h"
+#include "host/ReportToken.h"
 #include "host/ScreenFit.h"
 #include "host/System.h"
 #include "host/TerminationSignals.h"
@@ -61,8 +62,15 @@ ExitCode configure(Options& options)
     configuration.complete(options);
     if (!configuration.error().isEmpty()) {
         Console::printError(configuration.error());
+        return configuration.errorCode();
     }
-    return configuration.errorCode();
+    const ReportToken token(options);
+    ReportToken::hideVariable();
+    if (!token.error().isEmpty()) {
+        Console::printError(token.error());
+    }
+    options.reportToken = token.value();
+    return token.errorCode();
 }
 
 ExitCode runCommand(const Options& options, const QString& language)

@@ -21,6 +21,9 @@ void write(std::FILE* file, const QString& text); // UTF-8 unless it is a termin
 // Empty, or one line: the system lets the program open too few files.
 QString problemOfLimits();
 
+// Whether the permissions of a file let every user of the machine read or write it.
+bool isOpenToOthers(const QString& path);
+
 // Whether the process was stopped, and went on, since the last call.
 bool hasBeenStopped();
 

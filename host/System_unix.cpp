@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/System.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <array>
 #include <csignal>
@@ -81,6 +83,11 @@ QString System::problemOfLimits()
                      .arg(count)
                      .arg(tried.size())
                      .arg(UsualFiles);
+}
+
+bool System::isOpenToOthers(const QString& path)
+{
+    return (QFile::permissions(path) & (QFile::ReadOther | QFile::WriteOther)) != 0;
 }
 
 bool System::hasBeenStopped()

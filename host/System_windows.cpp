@@ -80,6 +80,12 @@ QString System::problemOfLimits()
     return {};
 }
 
+// There, a folder decides for its files, and those of users are closed to others.
+bool System::isOpenToOthers(const QString& /*path*/)
+{
+    return false;
+}
+
 bool System::hasBeenStopped()
 {
     return false;

@@ -17,7 +17,7 @@ run_packages=(
 test_packages=(
     qtbase5-private-dev coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
     libspa-0.2-modules libc-l10n umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
-    postgresql sqlite3 openssl
+    postgresql sqlite3 openssl apache2-bin libapache2-mod-wsgi-py3 python3-psycopg2
     dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file abigail-tools appstream desktop-file-utils
     bash-completion zsh fish

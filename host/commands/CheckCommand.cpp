@@ -141,6 +141,10 @@ ExitCode CheckCommand::open(const QString& language)
         print(outcome.withDevicesOf(shown).toText() + Remedies::toText(shown));
         isWritten = write(shown);
         isWritten = writeResults(m_redaction->redactedResults(results)) && isWritten;
+        // A tour is no run of a user.
+        if (!isTour()) {
+            installed.post(shown);
+        }
     };
     DisplayLoss::setSaving(save);
     runDialog(wasPutOut);

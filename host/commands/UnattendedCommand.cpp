@@ -121,7 +121,9 @@ ExitCode UnattendedCommand::run(const QString& language)
         ReportBuilder::build(run, check.outcome(), check.checks(), check.networkFigures(),
                              installed.engine().systemFacts()));
     print(report);
-    return write(report) ? codeOf(report.outcome) : ExitCode::CannotWrite;
+    const bool isWritten = write(report);
+    installed.post(report);
+    return isWritten ? codeOf(report.outcome) : ExitCode::CannotWrite;
 }
 
 bool UnattendedCommand::prepare()

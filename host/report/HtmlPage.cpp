@@ -15,7 +15,7 @@ const char* const Style =
     "@media print{:root{color-scheme:light;--ground:#fff;--text:#232323;--faint:#595959;"
     "--line:#e5e5e5;--good:#007a55;--bad:#c62f0d;--notice:#8a5a00}"
     "details::details-content{content-visibility:visible;block-size:auto}"
-    "table,li{break-inside:avoid}}"
+    "tr,li{break-inside:avoid}h1,h2,summary{break-after:avoid}summary{list-style:none}}"
     "body{font:14px/1.5 sans-serif;color:var(--text);background:var(--ground);max-width:46em;"
     "margin:2em auto;padding:0 1em}body.wide{max-width:none}"
     "h1{font-size:1.5em}h2{font-size:1.1em;margin:1.5em 0 .3em}"

@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 namespace {
 
@@ -22,8 +23,12 @@ using ReportReader::Read;
 // What may be read and not yet handed over, in KiB of files.
 constexpr int ReadAheadKiB = 512;
 constexpr int BytesPerKiB = 1024;
+// Of one thread at a time: to wake another one for each small file would take longer than to read
+// it.
+constexpr int BlockFiles = 16;
+constexpr int BlockKiB = 128;
 
-// The files in their order. Each is taken by one thread, and its result waits for its turn.
+// The files in their order. A thread takes a block of them, and what it read waits for its turn.
 class ReadAhead
 {
 public:
@@ -35,22 +40,25 @@ public:
     // Until no file is left; on any thread.
     void work()
     {
-        for (Place place = take(); place.index < m_files.size(); place = take()) {
-            Result result{read(place.index), place.weight};
-            const std::lock_guard<std::mutex> lock(m_resultsLock);
-            m_results.emplace(place.index, std::move(result));
-            m_hasResult.notify_one();
+        for (Block block = take(); block.count > 0; block = take()) {
+            for (int i = 0; i < block.count; ++i) {
+                block.reads.push_back(read(block.first + i));
+            }
+            const std::lock_guard<std::mutex> lock(m_blocksLock);
+            m_blocks.emplace(block.first, std::move(block));
+            m_hasBlock.notify_one();
         }
     }
 
-    Read waitFor(int index)
+    // The files from this one on; first is where the last block ended.
+    std::vector<Read> waitFor(int first)
     {
-        std::unique_lock<std::mutex> lock(m_resultsLock);
-        m_hasResult.wait(lock, [this, index] { return m_results.count(index) > 0; });
-        auto node = m_results.extract(index);
+        std::unique_lock<std::mutex> lock(m_blocksLock);
+        m_hasBlock.wait(lock, [this, first] { return m_blocks.count(first) > 0; });
+        auto node = m_blocks.extract(first);
         lock.unlock();
         m_budget.release(node.mapped().weight);
-        return std::move(node.mapped().read);
+        return std::move(node.mapped().reads);
     }
 
     Read read(int index) const
@@ -65,29 +73,29 @@ public:
     }
 
 private:
-    struct Place
+    struct Block
     {
-        int index = 0;
+        int first = 0;
+        int count = 0; // 0: no file is left
         int weight = 0;
+        std::vector<Read> reads;
     };
 
-    struct Result
-    {
-        Read read;
-        int weight = 0;
-    };
-
-    // In order, so the file that is waited for always has its share of the memory.
-    Place take()
+    // In order, so the block that is waited for always has its share of the memory.
+    Block take()
     {
         const std::lock_guard<std::mutex> lock(m_takeLock);
-        if (m_next == m_files.size()) {
-            return {m_next, 0};
+        Block block;
+        block.first = m_next;
+        while (m_next < m_files.size() && block.count < BlockFiles && block.weight < BlockKiB) {
+            const qint64 size = QFileInfo(m_files.at(m_next)).size() / BytesPerKiB + 1;
+            block.weight += static_cast<int>(std::min<qint64>(size, ReadAheadKiB));
+            ++block.count;
+            ++m_next;
         }
-        const qint64 size = QFileInfo(m_files.at(m_next)).size() / BytesPerKiB + 1;
-        const int weight = static_cast<int>(std::min<qint64>(size, ReadAheadKiB));
-        m_budget.acquire(weight);
-        return {m_next++, weight};
+        block.weight = std::min(block.weight, ReadAheadKiB);
+        m_budget.acquire(block.weight);
+        return block;
     }
 
     const QStringList m_files;
@@ -95,9 +103,9 @@ private:
     QSemaphore m_budget{ReadAheadKiB};
     std::mutex m_takeLock;
     int m_next = 0;
-    std::mutex m_resultsLock;
-    std::condition_variable m_hasResult;
-    std::map<int, Result> m_results; // by index
+    std::mutex m_blocksLock;
+    std::condition_variable m_hasBlock;
+    std::map<int, Block> m_blocks; // by their first file
 };
 
 } // namespace
@@ -111,7 +119,13 @@ void ReportReader::readAll(const QStringList& files, const Redaction& redaction,
     while (threads < wanted && Platform::DetachedThread::run([ahead] { ahead->work(); })) {
         ++threads;
     }
-    for (int i = 0; i < files.size(); ++i) {
-        handOver(threads > 0 ? ahead->waitFor(i) : ahead->read(i));
+    for (int i = 0; threads == 0 && i < files.size(); ++i) {
+        handOver(ahead->read(i));
+    }
+    for (int next = 0; threads > 0 && next < files.size();) {
+        for (const Read& read : ahead->waitFor(next)) {
+            handOver(read);
+            ++next;
+        }
     }
 }

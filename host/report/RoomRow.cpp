@@ -88,6 +88,14 @@ QString RoomRow::causes() const
     return words.join(QLatin1Char(' '));
 }
 
+QString RoomRow::loopWord() const
+{
+    const auto loop = std::find_if(checks.begin(), checks.end(), [](const Check& check) {
+        return check.kind == CheckKind::Loop;
+    });
+    return loop == checks.end() ? QString() : ReportWords::of(loop->verdict);
+}
+
 // A failed check outweighs everything that wasn't tested, that outweighs the contradictions, and
 // those outweigh the grade.
 int RoomRow::badness() const
@@ -129,5 +137,6 @@ std::vector<RoomRow::Field> RoomRow::fields() const
             {"operating_system", operatingSystem},
             {"program_version", programVersion},
             {"platform", ReportWords::of(platform)},
-            {"redaction", ReportWords::of(redaction)}};
+            {"redaction", ReportWords::of(redaction)},
+            {"loop", loopWord()}};
 }

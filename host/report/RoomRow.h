@@ -48,4 +48,7 @@ struct RoomRow
     QString causes() const; // such as "network:slow camera:busy"
     int badness() const;    // the greater, the sooner somebody should look
     std::vector<Field> fields() const;
+
+private:
+    QString loopWord() const; // empty unless it was asked for
 };

@@ -234,6 +234,10 @@ bool JsonFields::isTaken(const QString& key) const
 
 QJsonValue JsonFields::value(const char* key, bool isRequired)
 {
+    constexpr std::size_t UsualCount = 8;
+    if (m_asked.empty()) {
+        m_asked.reserve(UsualCount);
+    }
     m_asked.emplace_back(key);
     const QJsonValue field = m_object.value(QLatin1String(key));
     if (isRequired && field.isUndefined()) {

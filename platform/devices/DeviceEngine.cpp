@@ -25,6 +25,12 @@ OutboxLimits limitsOf(const DeviceEngineConfig& config)
     return limits;
 }
 
+QString reportsFolderOf(const DeviceEngineConfig& config)
+{
+    return config.reportsFolder.isEmpty() ? config.settingsFolder + QLatin1String("/reports")
+                                          : config.reportsFolder;
+}
+
 QString shownServer(const DeviceEngineConfig& config)
 {
     if (config.server.isEmpty()) {
@@ -80,9 +86,9 @@ private:
 
 DeviceEngine::DeviceEngine(const DeviceEngineConfig& config)
     : m_config(config),
-      m_reports(std::make_unique<ReportOutbox>(config.resultsPath,
-                                               config.settingsFolder + QLatin1String("/reports"),
-                                               config.reportUrl, limitsOf(config))),
+      m_reports(std::make_unique<ReportOutbox>(config.resultsPath, reportsFolderOf(config),
+                                               config.reportUrl, limitsOf(config),
+                                               config.reportToken)),
       m_facts(std::make_unique<DeviceFacts>(
           config, shownServer(config),
           [this](NetworkProbe::Listener& listener, DeviceFacts::AddressHandler handler) {
@@ -166,6 +172,16 @@ QString DeviceEngine::settingsFolder() const
 void DeviceEngine::deliver(std::chrono::milliseconds limit)
 {
     m_reports->deliver(limit);
+}
+
+void DeviceEngine::postReport(const QByteArray& report, std::chrono::milliseconds limit)
+{
+    m_reports->postReport(report, limit);
+}
+
+DeliveryOutcome DeviceEngine::deliverReports(std::chrono::milliseconds limit)
+{
+    return m_reports->deliver(limit);
 }
 
 QJsonObject DeviceEngine::results() const

@@ -5,6 +5,7 @@
 #include "ClassroomDevices/ClassroomDevicesExport.h"
 #include "platform/backend/AcousticLoop.h"
 #include "platform/backend/Engine.h"
+#include "platform/devices/DeliveryOutcome.h"
 #include "platform/devices/DeviceEngineConfig.h"
 
 #include <functional>
@@ -46,6 +47,13 @@ public:
     QString settingsFolder() const override;
     bool hasOwnChoices() const override { return true; }
     void deliver(std::chrono::milliseconds limit) override;
+
+    // Posts a whole report to the address of the reports, if there is one. For the end of the
+    // program: waits for the disk, at most for the limit, so that the report is kept whatever
+    // happens to its post.
+    void postReport(const QByteArray& report, std::chrono::milliseconds limit);
+    // As deliver(), and says what came of it.
+    DeliveryOutcome deliverReports(std::chrono::milliseconds limit);
 
     QJsonObject results() const; // of the run so far, see ResultDocument
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace Platform {
@@ -19,8 +20,10 @@ struct DeviceEngineConfig
     QString resultsPath;       // the results' JSON document; empty: kept in memory
     QString reportUrl;         // http or https; empty: reports stay in the journal
     bool isProcessOwn = false; // nobody else in it speaks to the report server: floods may be cut
-    QString settingsFolder;    // the settings stores, the journal and the outbox
+    QString settingsFolder;    // the settings stores
     QString cacheFolder;       // its volume's free space is a fact to show
+    QString reportsFolder;     // the journal and the outbox; empty: "reports" in settingsFolder
+    QByteArray reportToken;    // goes along with every report as a bearer token; empty: none
 };
 
 } // namespace Platform

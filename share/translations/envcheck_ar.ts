@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: المفتاح %2 غير معروف؛ المفاتيح هي server وreport-url</translation>
+        <translation>%1: المفتاح %2 غير معروف؛ المفاتيح هي server وreport-url وreport-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>كتابة التقرير في FILE بدلًا من المكان الافتراضي؛ وامتداده (.json أو .html أو .txt) يحدد صيغته، والعلامة - تعني الإخراج القياسي بصيغة JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>الملف الذي فيه الرمز المميّز الذي يطلبه خادم التقارير. لا يقرؤه إلا أنت أو مجموعة.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>العنوان الذي تُرسل إليه رموز التقرير.</translation>
+        <translation>العنوان الذي يُرسل إليه التقرير ورموزه. ومن دون ‎--redact‎ لا يتضمن أسماء ولا عناوين.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>عنوان http أو https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: هذا ليس رمزًا مميّزًا؛ المطلوب سطر واحد من الحروف اللاتينية والأرقام و- . _ ~ + /، مع = في آخره</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: لا يُرسل الرمز المميّز إلا عبر https؛ استخدم عنوان https أو استغنِ عن الرمز</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>تعذّرت قراءة %1: %2؛ اذكر ملفًا فيه الرمز المميّز لخادم التقارير</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>في %1 رمز مميّز، ويستطيع كل مستخدم قراءته أو الكتابة فيه؛ غيّر ذلك بالأمر: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>عدد الصور %1 في %2؛ ويعرضها index.html كلها.</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2؛ اذكر مجلدًا آخر</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>لم يصل التقرير إلى %1: %2. إنه محفوظ، وسيرسله التشغيل التالي مرة أخرى.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>لا جواب في الوقت المحدد</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>لا يقبل %1 التقرير: %2. ولن يُرسل مرة أخرى.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>يجري إرسال التقرير إلى %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>الرمز المميّز غائب أو خاطئ (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

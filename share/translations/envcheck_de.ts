@@ -505,7 +505,7 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: unbekannter Schlüssel %2; es gibt server und report-url</translation>
+        <translation>%1: unbekannter Schlüssel %2; es gibt server, report-url und report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Schreibt den Bericht in FILE statt an den üblichen Ort; die Endung (.json, .html oder .txt) bestimmt das Format, - ist die Standardausgabe, als JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Datei mit dem Token, das der Berichtsserver verlangt. Nur Sie oder eine Gruppe dürfen sie lesen.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Adresse, an die Berichtscodes gesendet werden.</translation>
+        <translation>Adresse, an die der Bericht und seine Codes gesendet werden. Ohne --redact fehlen darin Namen und Adressen.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>eine Adresse mit http oder https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: Das ist kein Token; erwartet wird eine Zeile aus Buchstaben, Ziffern und - . _ ~ + /, mit = am Ende</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: Ein Token wird nur über https gesendet; nehmen Sie eine Adresse mit https oder kein Token</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>%1 lässt sich nicht lesen: %2; nennen Sie eine Datei mit dem Token des Berichtsservers</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 enthält ein Token, und jeder Benutzer darf die Datei lesen oder schreiben; das ändert: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>%1 Bilder liegen in %2; index.html zeigt sie alle.</translation>
@@ -1358,6 +1378,26 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; nennen Sie einen anderen Ordner</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>Der Bericht ist bei %1 nicht angekommen: %2. Er bleibt aufbewahrt, und der nächste Lauf sendet ihn noch einmal.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>keine Antwort in der Zeit</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 nimmt den Bericht nicht an: %2. Er wird nicht noch einmal gesendet.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Der Bericht wird an %1 gesendet …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>das Token fehlt oder ist falsch (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

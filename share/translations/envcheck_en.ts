@@ -505,7 +505,7 @@ Choose another camera, or another format in its settings.</translation>
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: unknown key %2; the keys are server and report-url</translation>
+        <translation>%1: unknown key %2; the keys are server, report-url and report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>Write the report to FILE instead of the default place; the ending of its name (.json, .html or .txt) sets the format, and - is standard output, as JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>The file with the token that the report server asks for. Only you, or a group, may read it.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>The address to post report codes to.</translation>
+        <translation>The address to post the report and its codes to. Without --redact, names and addresses are left out of it.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>an http or https address</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: this is no token; it takes one line of letters, digits and - . _ ~ + /, with = at its end</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: a token is sent over https only; take an https address, or no token</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>%1 can't be read: %2; name a file with the token of the report server</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 has a token, and every user may read or write it; change that with: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>%1 pictures are in %2; index.html shows them all.</translation>
@@ -1358,6 +1378,26 @@ Choose another camera, or another format in its settings.</translation>
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; name another folder</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>The report has not arrived at %1: %2. It is kept, and the next run sends it again.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>no answer in time</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 does not take the report: %2. It is not sent again.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Sending the report to %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>the token is missing or wrong (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

@@ -505,7 +505,7 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: clave desconocida %2; las claves son server y report-url</translation>
+        <translation>%1: clave desconocida %2; las claves son server, report-url y report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Escribe el informe en FILE en lugar del sitio habitual; la extensión (.json, .html o .txt) indica el formato, y - es la salida estándar, como JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Archivo con el token que pide el servidor de informes. Solo usted o un grupo pueden leerlo.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Dirección a la que se envían los códigos de informe.</translation>
+        <translation>Dirección a la que se envían el informe y sus códigos. Sin --redact no lleva nombres ni direcciones.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>una dirección http o https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: no es un token; debe ser una línea de letras, cifras y - . _ ~ + /, con = al final</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: un token solo se envía por https; use una dirección https o ningún token</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>no se puede leer %1: %2; indique un archivo con el token del servidor de informes</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 contiene un token y cualquier usuario puede leerlo o escribirlo; cámbielo con: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>%1 imágenes guardadas en %2; index.html las muestra todas.</translation>
@@ -1358,6 +1378,26 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; indique otra carpeta</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>El informe no ha llegado a %1: %2. Se conserva y la próxima ejecución lo envía otra vez.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>no hubo respuesta a tiempo</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 no acepta el informe: %2. No se envía otra vez.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Enviando el informe a %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>falta el token o es incorrecto (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

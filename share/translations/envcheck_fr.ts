@@ -505,7 +505,7 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1 : clé inconnue %2 ; les clés sont server et report-url</translation>
+        <translation>%1 : clé inconnue %2 ; les clés sont server, report-url et report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>Écrit le rapport dans FILE au lieu de l’endroit habituel ; l’extension (.json, .html ou .txt) donne le format, et - est la sortie standard, en JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Fichier contenant le jeton que demande le serveur de rapports. Vous seul, ou un groupe, pouvez le lire.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Adresse à laquelle envoyer les codes de rapport.</translation>
+        <translation>Adresse à laquelle envoyer le rapport et ses codes. Sans --redact, il ne contient ni noms ni adresses.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>une adresse http ou https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1 : ce n’est pas un jeton ; il faut une ligne de lettres, de chiffres et de - . _ ~ + /, avec = à la fin</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1 : un jeton n’est envoyé que par https ; prenez une adresse https, ou aucun jeton</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>impossible de lire %1 : %2 ; indiquez un fichier contenant le jeton du serveur de rapports</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 contient un jeton, et tout utilisateur peut le lire ou l’écrire ; changez cela par : chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>%1 images se trouvent dans %2 ; index.html les montre toutes.</translation>
@@ -1358,6 +1378,26 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1 : %2 ; indiquez un autre dossier</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>Le rapport n’est pas arrivé à %1 : %2. Il est conservé, et la prochaine exécution l’enverra de nouveau.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>pas de réponse à temps</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 n’accepte pas le rapport : %2. Il ne sera pas envoyé de nouveau.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Envoi du rapport à %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>le jeton manque ou est faux (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1：不明なキー %2。使えるキーは server と report-url です</translation>
+        <translation>%1：不明なキー %2。使えるキーは server、report-url、report-token-file です</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>レポートを既定の場所ではなく FILE に書き込みます。拡張子（.json、.html、.txt）で形式が決まります。- は標準出力で、JSON です。</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>レポートサーバーが求めるトークンのファイル。読み取れるのは本人またはグループだけにします。</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>レポートコードの送信先アドレス。</translation>
+        <translation>レポートとそのコードの送信先アドレス。--redact がなければ、名前とアドレスは除かれます。</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>http または https のアドレス</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1：トークンではありません。英数字と - . _ ~ + /（末尾に =）からなる 1 行にしてください</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1：トークンは https でのみ送信します。https のアドレスにするか、トークンを外してください</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>%1 を読み込めません：%2。レポートサーバーのトークンのファイルを指定してください</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 にはトークンがあり、すべてのユーザーが読み書きできます。次のように変更してください：chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>画像 %1 枚を %2 に保存しました。index.html ですべて見られます。</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1：%2。別のフォルダーを指定してください</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>レポートは %1 に届きませんでした：%2。保存されており、次回の実行で再送信します。</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>時間内に応答がありません</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 はレポートを受け付けません：%2。再送信しません。</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>レポートを %1 に送信しています…</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>トークンがないか、正しくありません（HTTP %1）</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

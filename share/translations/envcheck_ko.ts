@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: 알 수 없는 키 %2. 키는 server와 report-url입니다</translation>
+        <translation>%1: 알 수 없는 키 %2. 키는 server, report-url, report-token-file입니다</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>보고서를 기본 위치 대신 FILE에 씁니다. 확장자(.json, .html, .txt)로 형식이 정해지고, -는 표준 출력(JSON)입니다.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>보고서 서버가 요구하는 토큰이 든 파일. 본인이나 그룹만 읽을 수 있어야 합니다.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>보고서 코드를 보낼 주소.</translation>
+        <translation>보고서와 그 코드를 보낼 주소. --redact가 없으면 이름과 주소를 빼고 보냅니다.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>http 또는 https 주소</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: 토큰이 아닙니다. 글자, 숫자와 - . _ ~ + /(끝에는 =)로 된 한 줄이어야 합니다</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: 토큰은 https로만 보냅니다. https 주소를 쓰거나 토큰을 빼세요</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>%1: 읽을 수 없습니다(%2). 보고서 서버의 토큰이 든 파일을 지정하세요</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1에 토큰이 있는데 모든 사용자가 읽거나 쓸 수 있습니다. 다음으로 바꾸세요: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>스크린샷 %1개를 %2에 저장했습니다. index.html에서 모두 볼 수 있습니다.</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2. 다른 폴더를 지정하세요</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>보고서가 %1에 도착하지 않았습니다: %2. 보관해 두었다가 다음 실행 때 다시 보냅니다.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>제시간에 응답이 없음</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1에서 보고서를 받지 않습니다: %2. 다시 보내지 않습니다.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>보고서를 %1(으)로 보내는 중…</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>토큰이 없거나 틀림(HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

@@ -505,7 +505,7 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: chave desconhecida %2; as chaves são server e report-url</translation>
+        <translation>%1: chave desconhecida %2; as chaves são server, report-url e report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Grava o relatório em FILE em vez do lugar padrão; a extensão (.json, .html ou .txt) define o formato, e - é a saída padrão, como JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Arquivo com o token que o servidor de relatórios pede. Só você, ou um grupo, pode lê-lo.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Endereço para o qual enviar os códigos de relatório.</translation>
+        <translation>Endereço para o qual enviar o relatório e seus códigos. Sem --redact, ele vai sem nomes e endereços.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>um endereço http ou https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: isto não é um token; ele é uma linha de letras, dígitos e - . _ ~ + /, com = no fim</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: um token só é enviado por https; use um endereço https ou nenhum token</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>não é possível ler %1: %2; indique um arquivo com o token do servidor de relatórios</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 contém um token, e qualquer usuário pode ler ou gravar o arquivo; mude isso com: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>%1 imagens estão em %2; index.html mostra todas.</translation>
@@ -1358,6 +1378,26 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; indique outra pasta</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>O relatório não chegou a %1: %2. Ele fica guardado, e a próxima execução o envia de novo.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>sem resposta a tempo</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 não aceita o relatório: %2. Ele não será enviado de novo.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Enviando o relatório para %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>o token falta ou está errado (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

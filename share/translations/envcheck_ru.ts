@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: неизвестный ключ %2; есть ключи server и report-url</translation>
+        <translation>%1: неизвестный ключ %2; есть ключи server, report-url и report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>Записать отчёт в FILE вместо обычного места; расширение (.json, .html или .txt) задаёт формат, а - означает стандартный вывод, как JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Файл с токеном, который требует сервер отчётов. Читать его может только владелец или группа.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Адрес, на который отправляются коды отчёта.</translation>
+        <translation>Адрес, на который отправляются отчёт и его коды. Без --redact в нём нет имён и адресов.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>адрес http или https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: это не токен; нужна одна строка из латинских букв, цифр и знаков - . _ ~ + /, с = в конце</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: токен отправляется только по https; укажите адрес https или уберите токен</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>не удаётся прочитать %1: %2; укажите файл с токеном сервера отчётов</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>в %1 лежит токен, а читать или изменять файл может любой пользователь; исправьте: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>Снимков: %1, папка %2; все они показаны в index.html.</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; укажите другую папку</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>Отчёт не дошёл до %1: %2. Он сохранён, и следующий запуск отправит его ещё раз.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>нет ответа в срок</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 не принимает отчёт: %2. Повторно он не отправляется.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Отчёт отправляется на %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>токена нет или он неверен (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

@@ -505,7 +505,7 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1: không có khóa %2; các khóa là server và report-url</translation>
+        <translation>%1: không có khóa %2; các khóa là server, report-url và report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Ghi báo cáo vào FILE thay cho nơi mặc định; phần đuôi (.json, .html hoặc .txt) quyết định định dạng, còn - là đầu ra chuẩn, dạng JSON.</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>Tệp chứa token mà máy chủ báo cáo yêu cầu. Chỉ bạn hoặc một nhóm được đọc tệp này.</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>Địa chỉ để gửi mã báo cáo.</translation>
+        <translation>Địa chỉ để gửi báo cáo và mã của nó. Nếu không có --redact, báo cáo không chứa tên và địa chỉ.</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>một địa chỉ http hoặc https</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1: đây không phải token; cần một dòng gồm chữ cái, chữ số và - . _ ~ + /, với = ở cuối</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1: token chỉ được gửi qua https; hãy dùng địa chỉ https hoặc bỏ token</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>không đọc được %1: %2; hãy nêu tệp chứa token của máy chủ báo cáo</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 chứa token mà mọi người dùng đều đọc hoặc ghi được; hãy đổi bằng: chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>Đã lưu %1 hình vào %2; index.html hiển thị tất cả.</translation>
@@ -1358,6 +1378,26 @@ Hãy chọn camera hoặc định dạng khác.</translation>
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1: %2; hãy nêu thư mục khác</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>Báo cáo chưa đến được %1: %2. Báo cáo được giữ lại và lần chạy sau sẽ gửi lại.</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>không có trả lời kịp thời</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 không nhận báo cáo: %2. Báo cáo sẽ không được gửi lại.</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>Đang gửi báo cáo đến %1 …</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>thiếu token hoặc token sai (HTTP %1)</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

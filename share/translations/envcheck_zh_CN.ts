@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1：未知的键 %2；可用的键是 server 和 report-url</translation>
+        <translation>%1：未知的键 %2；可用的键是 server、report-url 和 report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>将报告写入 FILE 而不是默认位置；扩展名（.json、.html 或 .txt）决定格式，- 表示标准输出，为 JSON。</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>存放报告服务器所需令牌的文件。只有您本人或用户组可以读取。</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>发送报告代码的地址。</translation>
+        <translation>发送报告及其代码的地址。不带 --redact 时，其中不含姓名和地址。</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>http 或 https 地址</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1：这不是令牌；它应为一行，由字母、数字和 - . _ ~ + / 组成，末尾可有 =</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1：令牌只通过 https 发送；请使用 https 地址，或不用令牌</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>无法读取 %1：%2；请指定存放报告服务器令牌的文件</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 含有令牌，而所有用户都能读写它；请用以下命令更改：chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>已将 %1 张画面保存到 %2；可在 index.html 中查看全部。</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1：%2；请指定其他文件夹</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>报告未送达 %1：%2。报告已保留，下次运行时会再次发送。</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>未及时应答</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 不接受该报告：%2。不会再次发送。</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>正在将报告发送到 %1…</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>缺少令牌或令牌错误（HTTP %1）</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

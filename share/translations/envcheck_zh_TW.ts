@@ -505,7 +505,7 @@
     </message>
     <message id="ID_Host_Config_UnknownKey">
         <source></source>
-        <translation>%1：未知的鍵 %2；可用的鍵是 server 和 report-url</translation>
+        <translation>%1：未知的鍵 %2；可用的鍵是 server、report-url 和 report-token-file</translation>
     </message>
     <message id="ID_Host_Config_Unreadable">
         <source></source>
@@ -1015,9 +1015,13 @@
         <source></source>
         <translation>將報告寫入 FILE 而不是預設位置；副檔名（.json、.html 或 .txt）決定格式，- 代表標準輸出，為 JSON。</translation>
     </message>
+    <message id="ID_Host_Option_ReportTokenFile">
+        <source></source>
+        <translation>存放報告伺服器所需權杖的檔案。只有您本人或群組可以讀取。</translation>
+    </message>
     <message id="ID_Host_Option_ReportUrl">
         <source></source>
-        <translation>傳送報告代碼的網址。</translation>
+        <translation>傳送報告及其代碼的網址。不帶 --redact 時，其中不含姓名和位址。</translation>
     </message>
     <message id="ID_Host_Option_Results">
         <source></source>
@@ -1347,6 +1351,22 @@
         <source></source>
         <translation>http 或 https 網址</translation>
     </message>
+    <message id="ID_Host_Token_NoToken">
+        <source></source>
+        <translation>%1：這不是權杖；它應為一行，由字母、數字和 - . _ ~ + / 組成，結尾可有 =</translation>
+    </message>
+    <message id="ID_Host_Token_NotEncrypted">
+        <source></source>
+        <translation>%1：權杖只透過 https 傳送；請使用 https 網址，或不用權杖</translation>
+    </message>
+    <message id="ID_Host_Token_NotRead">
+        <source></source>
+        <translation>無法讀取 %1：%2；請指定存放報告伺服器權杖的檔案</translation>
+    </message>
+    <message id="ID_Host_Token_Open">
+        <source></source>
+        <translation>%1 含有權杖，而所有使用者都能讀寫它；請用以下命令變更：chmod o= %1</translation>
+    </message>
     <message id="ID_Host_Tour_Done">
         <source></source>
         <translation>已將 %1 張畫面儲存到 %2；可在 index.html 中檢視全部。</translation>
@@ -1358,6 +1378,26 @@
     <message id="ID_Host_Tour_NotWritten">
         <source></source>
         <translation>%1：%2；請指定其他資料夾</translation>
+    </message>
+    <message id="ID_Host_Upload_Kept">
+        <source></source>
+        <translation>報告未送達 %1：%2。報告已保留，下次執行時會再次傳送。</translation>
+    </message>
+    <message id="ID_Host_Upload_NoAnswer">
+        <source></source>
+        <translation>未及時回應</translation>
+    </message>
+    <message id="ID_Host_Upload_Refused">
+        <source></source>
+        <translation>%1 不接受該報告：%2。不會再次傳送。</translation>
+    </message>
+    <message id="ID_Host_Upload_Sending">
+        <source></source>
+        <translation>正在將報告傳送到 %1…</translation>
+    </message>
+    <message id="ID_Host_Upload_WrongToken">
+        <source></source>
+        <translation>缺少權杖或權杖錯誤（HTTP %1）</translation>
     </message>
     <message id="ID_Host_Usage_EmptyName">
         <source></source>

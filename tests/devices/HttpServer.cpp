@@ -49,6 +49,12 @@ QString HttpServer::url(const QString& scheme) const
     return QStringLiteral("%1://127.0.0.1:%2/reports?from=check").arg(scheme).arg(m_port);
 }
 
+void HttpServer::setStatus(const QByteArray& status)
+{
+    m_behaviour = Behaviour::Status;
+    m_status = status;
+}
+
 void HttpServer::takeConnection()
 {
     while (QTcpSocket* socket = m_server->nextPendingConnection()) {
@@ -113,6 +119,9 @@ void HttpServer::answer(QTcpSocket* socket)
                       "Content-Length: 0\r\n\r\n");
         break;
     case Behaviour::Hang:
+        break;
+    case Behaviour::Status:
+        socket->write("HTTP/1.1 " + m_status + "\r\nContent-Length: 0\r\n\r\n");
         break;
     case Behaviour::HangUp:
         socket->abort();

@@ -25,7 +25,8 @@ public:
         Fail,
         Redirect,
         Hang,
-        HangUp
+        HangUp,
+        Status
     };
 
     HttpServer(); // without encryption
@@ -36,6 +37,8 @@ public:
     void refuse(); // as a server that isn't there
     QString url(const QString& scheme = QStringLiteral("http")) const;
     void setBehaviour(Behaviour behaviour) { m_behaviour = behaviour; }
+    // Answers so, such as "404 Not Found"; behind that may be headers.
+    void setStatus(const QByteArray& status);
 
     struct Request
     {
@@ -55,6 +58,7 @@ private:
     std::unique_ptr<QTcpServer> m_server;
     quint16 m_port = 0;
     Behaviour m_behaviour = Behaviour::Take;
+    QByteArray m_status;
     qint64 m_flooded = 0;
     QHash<QTcpSocket*, QByteArray> m_received;
     QList<Request> m_requests;

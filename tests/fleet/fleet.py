@@ -4,7 +4,6 @@
 """Runs docs/fleet.md as it stands, against SQLite and a PostgreSQL server of its own.
 
 Usage: fleet.py DOCUMENT PROGRAM"""
-import glob
 import json
 import os
 import re
@@ -12,9 +11,11 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.append(os.path.join(os.path.dirname(__file__), "../support"))
+from postgresql import Server  # pylint: disable=wrong-import-position
+
 FOLDER_MODE = 0o755
 COMPUTERS = 20
-SERVER_USER = "postgres"
 
 
 def blocks(document):
@@ -41,45 +42,21 @@ def report(number):
         camera["causes"] = ["busy"]
     if number == 5:
         camera["contradictions"] = ["yesToBlackPicture"]
+    checks = [network, camera, check("speaker"), check("microphone", "notTested")]
+    if number % 4 == 1:
+        checks.append(check("loop", "notHeard" if number == 9 else "heard"))
     time = "2026-03-%02dT08:30:00.000Z" % (1 + number % 3)
     return {"format": "envcheck-report", "version": 1, "id": "run-%d" % number,
             "programVersion": "1.0.0", "started": time, "finished": time, "language": "en",
             "platform": "devices", "redaction": "none",
             "outcome": "failed" if is_busy else "passed",
             "system": {"computer": "pc-%02d" % number, "account": "=robin"},
-            "checks": [network, camera, check("speaker"), check("microphone", "notTested")]}
+            "checks": checks}
 
 
 def shell(script, folder, environment):
     return subprocess.run(["bash", "-euo", "pipefail", "-c", script], cwd=folder, env=environment,
                           check=True, stdout=subprocess.PIPE, text=True).stdout
-
-
-class Server:
-    """A PostgreSQL server that only this test reaches. It doesn't run as root."""
-
-    def __init__(self, folder):
-        self.programs = sorted(glob.glob("/usr/lib/postgresql/*/bin"))[-1]
-        self.folder = os.path.join(folder, "server")
-        os.mkdir(self.folder)
-        self.prefix = []
-        if os.getuid() == 0:
-            subprocess.run(["chown", SERVER_USER, self.folder], check=True)
-            self.prefix = ["runuser", "-u", SERVER_USER, "--"]
-        self.run("initdb", "-D", self.folder + "/data", "-U", SERVER_USER, "--auth=trust",
-                 "--locale=C.UTF-8")
-
-    def run(self, program, *arguments):
-        subprocess.run([*self.prefix, os.path.join(self.programs, program), *arguments],
-                       cwd=self.folder, check=True, stdout=subprocess.DEVNULL)
-
-    def __enter__(self):
-        self.run("pg_ctl", "-D", self.folder + "/data", "-w", "-l", self.folder + "/log", "-o",
-                 "-k %s -c listen_addresses= -c fsync=off" % self.folder, "start")
-        return self
-
-    def __exit__(self, *_):
-        self.run("pg_ctl", "-D", self.folder + "/data", "-w", "-m", "immediate", "stop")
 
 
 def answers(command, query, folder, environment):
@@ -94,7 +71,7 @@ def check_questions(questions, folder, environment):
         print(query, one, sep="")
         assert one, "no answer: " + query
         assert one == other, "PostgreSQL says\n" + other
-    assert len(questions) == 6, len(questions)
+    assert len(questions) == 7, len(questions)
 
 
 def loaded(folder, environment):
@@ -140,10 +117,9 @@ def main():
         for number in range(COMPUTERS):
             with open("%s/%d.json" % (reports, number), "w", encoding="utf-8") as file:
                 json.dump(report(number), file)
-        environment = dict(os.environ, HOME=folder, PGTZ="UTC", PGUSER=SERVER_USER,
-                           PGDATABASE=SERVER_USER, PGHOST=folder + "/server",
-                           PATH=os.path.dirname(program) + ":" + os.environ["PATH"])
-        with Server(folder):
+        with Server(folder) as server:
+            environment = dict(os.environ, **server.environment(), HOME=folder,
+                               PATH=os.path.dirname(program) + ":" + os.environ["PATH"])
             run_document(text, folder, environment)
 
 

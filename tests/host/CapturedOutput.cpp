@@ -4,16 +4,16 @@
 
 #include <QFile>
 
-#include <cstdio>
 #include <unistd.h>
 
-CapturedOutput::CapturedOutput(const QString& path) : m_path(path)
+CapturedOutput::CapturedOutput(const QString& path, std::FILE* stream)
+    : m_path(path), m_stream(stream)
 {
-    std::fflush(stdout);
-    m_terminal = dup(STDOUT_FILENO);
+    std::fflush(m_stream);
+    m_terminal = dup(fileno(m_stream));
     QFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-        dup2(file.handle(), STDOUT_FILENO);
+        dup2(file.handle(), fileno(m_stream));
     }
 }
 
@@ -25,8 +25,8 @@ CapturedOutput::~CapturedOutput()
 QString CapturedOutput::text()
 {
     if (m_terminal >= 0) {
-        std::fflush(stdout);
-        dup2(m_terminal, STDOUT_FILENO);
+        std::fflush(m_stream);
+        dup2(m_terminal, fileno(m_stream));
         close(m_terminal);
         m_terminal = -1;
     }

@@ -4,11 +4,13 @@
 
 #include <QString>
 
+#include <cstdio>
+
 // What is printed while this lives goes into a file instead.
 class CapturedOutput
 {
 public:
-    explicit CapturedOutput(const QString& path);
+    explicit CapturedOutput(const QString& path, std::FILE* stream = stdout);
     ~CapturedOutput();
     CapturedOutput(const CapturedOutput&) = delete;
     CapturedOutput& operator=(const CapturedOutput&) = delete;
@@ -17,5 +19,6 @@ public:
 
 private:
     QString m_path;
+    std::FILE* m_stream;
     int m_terminal = -1;
 };

@@ -4,6 +4,7 @@
 #include "host/Configuration.h"
 #include "host/Languages.h"
 #include "host/Options.h"
+#include "host/ReportToken.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void emptyValueHides();
     void scriptedDevicesTakeNothing();
     void reportUrlIsOfTheCheck();
+    void tokenFile();
     void badFiles_data();
     void badFiles();
     void unusedFileIsNotRead();
@@ -173,6 +175,33 @@ void tst_Configuration::reportUrlIsOfTheCheck()
     QCOMPARE(options.reportUrl, QString());
 }
 
+// The environment has a token already, or nothing is posted: then the file isn't looked for.
+void tst_Configuration::tokenFile()
+{
+    written("system.conf",
+            "server=s.test\nreport-url=https://s.test\nreport-token-file=/etc/token\n");
+    Options options;
+    QCOMPARE(configured(options).error(), QString());
+    QCOMPARE(options.reportTokenFile, id("/etc/token"));
+    Options named;
+    named.reportTokenFile = id("mine");
+    QCOMPARE(configured(named).error(), QString());
+    QCOMPARE(named.reportTokenFile, id("mine"));
+    qputenv(ReportToken::Variable, "abc");
+    Options withVariable;
+    QCOMPARE(configured(withVariable).error(), QString());
+    QCOMPARE(withVariable.reportTokenFile, QString());
+    qunsetenv(ReportToken::Variable);
+    written("user.conf", "report-url=\n");
+    Options without;
+    QCOMPARE(configured(without).error(), QString());
+    QCOMPARE(without.reportTokenFile, QString());
+    without.reportTokenFile = id("mine");
+    const Configuration needless = configured(without);
+    QVERIFY2(needless.error().contains(id("--report-url")), qPrintable(needless.error()));
+    QCOMPARE(needless.errorCode(), ExitCode::WrongUsage);
+}
+
 void tst_Configuration::badFiles_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -183,7 +212,8 @@ void tst_Configuration::badFiles_data()
     row("no server", "server=http://u.test\n", "server=http://u.test: it takes HOST");
     row("bad port", "server=u.test:0\n", "server=u.test:0: it takes HOST");
     row("no address", "report-url=ftp://u.test\n", "report-url=ftp://u.test: it takes an http");
-    row("unknown key", "sever=u.test\n", "unknown key sever; the keys are server and report-url");
+    row("unknown key", "sever=u.test\n",
+        "unknown key sever; the keys are server, report-url and report-token-file");
     row("key in a section", "[network]\nserver=u.test\n", "unknown key network/server");
     row("no key", "=u.test\n", "unknown key");
     row("no value", "server\n", "every line must be KEY=VALUE");

@@ -97,6 +97,8 @@ void tst_Options::textOptions_data()
                           << "folder";
     QTest::newRow("report-url") << "report-url"
                                 << "https://example.org/x";
+    QTest::newRow("report-token-file") << "report-token-file"
+                                       << "token";
 }
 
 void tst_Options::textOptions()
@@ -105,14 +107,16 @@ void tst_Options::textOptions()
     QFETCH(QString, value);
     const Options options = parsed({QStringLiteral("--%1=%2").arg(name, value)});
     QCOMPARE(options.error, QString());
-    const QMap<QString, QString> values = {{QStringLiteral("language"), options.language},
-                                           {QStringLiteral("account"), options.account},
-                                           {QStringLiteral("nickname"), options.nickname},
-                                           {QStringLiteral("cdn"), options.cdn},
-                                           {QStringLiteral("results"), options.resultsFile},
-                                           {QStringLiteral("report"), options.reportFile},
-                                           {QStringLiteral("tour"), options.tourFolder},
-                                           {QStringLiteral("report-url"), options.reportUrl}};
+    const QMap<QString, QString> values = {
+        {QStringLiteral("language"), options.language},
+        {QStringLiteral("account"), options.account},
+        {QStringLiteral("nickname"), options.nickname},
+        {QStringLiteral("cdn"), options.cdn},
+        {QStringLiteral("results"), options.resultsFile},
+        {QStringLiteral("report"), options.reportFile},
+        {QStringLiteral("tour"), options.tourFolder},
+        {QStringLiteral("report-url"), options.reportUrl},
+        {QStringLiteral("report-token-file"), options.reportTokenFile}};
     for (auto it = values.begin(); it != values.end(); ++it) {
         QCOMPARE(it.value(), it.key() == name ? value : QString());
     }
@@ -196,6 +200,8 @@ void tst_Options::commandOptions()
     QCOMPARE(parsed(words("report a --format text")).format, Options::Format::Text);
     QCOMPARE(parsed(words("--redact personal")).redaction, Options::Redaction::Personal);
     QCOMPARE(parsed(words("--redact none")).redaction, Options::Redaction::None);
+    QVERIFY(parsed(words("--redact none")).isRedactionGiven);
+    QVERIFY(!parsed(words("--quiet")).isRedactionGiven);
 }
 
 void tst_Options::helpAndVersion()
@@ -232,6 +238,12 @@ void tst_Options::wrongOnes_data()
                                    << "--results";
     QTest::newRow("empty report") << "--report="
                                   << "--report";
+    QTest::newRow("address of scripted ones") << "--scenario x --report-url https://a"
+                                              << "--report-url";
+    QTest::newRow("token of scripted ones") << "--platform scripted --report-token-file x"
+                                            << "--report-token-file";
+    QTest::newRow("empty token file") << "--report-token-file="
+                                      << "--report-token-file";
     QTest::newRow("empty tour") << "--tour="
                                 << "--tour";
     for (const char* server : {"stun.example.org:x", "example.org:", "::1", "stun:example.org:0",
@@ -301,10 +313,10 @@ void tst_Options::helpNamesEveryOption_data()
 {
     QTest::addColumn<Options::Command>("command");
     QTest::addColumn<QString>("options");
-    QTest::newRow("check")
-        << Options::Command::Check
-        << "platform scenario language server account nickname cdn results "
-           "report report-url tour unattended loop redact quiet verbose help version";
+    QTest::newRow("check") << Options::Command::Check
+                           << "platform scenario language server account nickname cdn results "
+                              "report report-url report-token-file tour unattended loop redact "
+                              "quiet verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network

@@ -62,11 +62,12 @@ mapfile -t commands < <(envcheck --help | sed -n '1s/.*\[\([a-z|]*\)\]$/\1/p' | 
 [ "${#commands[@]}" -ge 5 ] || { echo "The help names no commands"; exit 1; }
 expect 'envcheck ' "${commands[@]}"
 expect 'envcheck dev' devices
-expect 'envcheck --re' --redact --report --report-url --results
+expect 'envcheck --re' --redact --report --report-token-file --report-url --results
 expect 'envcheck devices --j' --json
 expect 'envcheck serve --p' --port
 expect 'envcheck report o' one.json
 expect 'envcheck --report o' one.json
+expect 'envcheck --report-token-file o' one.json
 expect 'envcheck --redact p' personal
 expect 'envcheck report --format js' json jsonl
 languages=()

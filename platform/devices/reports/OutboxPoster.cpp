@@ -6,6 +6,7 @@
 #include "platform/backend/Log.h"
 #include "platform/backend/WholeFile.h"
 #include "platform/devices/reports/FloodGate.h"
+#include "platform/devices/reports/ServerTrust.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -19,31 +20,62 @@ namespace Platform {
 
 namespace {
 
-constexpr qint64 MaxReportBytes = qint64(64) * 1024;
+constexpr qint64 MaxReportBytes = qint64(4) * 1024 * 1024; // a larger file is no report
 constexpr std::chrono::milliseconds HeadWatch(100);
 constexpr int HttpPort = 80;
 constexpr int HttpsPort = 443;
-constexpr int FirstSuccess = 200;
-constexpr int FirstBeyondSuccess = 300;
 
+// Of a code, or of a whole report.
 bool isReport(const QByteArray& content)
 {
     const QJsonObject report = QJsonDocument::fromJson(content).object();
-    return QDateTime::fromString(report.value(QLatin1String("time")).toString(), Qt::ISODateWithMs)
-        .isValid();
+    const bool isWhole = report.contains(QLatin1String("format"));
+    const QLatin1String time = isWhole ? QLatin1String("finished") : QLatin1String("time");
+    return QDateTime::fromString(report.value(time).toString(), Qt::ISODateWithMs).isValid();
+}
+
+// What a status means for the report that was posted.
+enum class Answer { Taken, NeverTaken, WrongToken, TryLater };
+
+Answer answerOf(int status)
+{
+    constexpr int FirstSuccess = 200;
+    constexpr int FirstBeyondSuccess = 300;
+    switch (status) {
+    case 401:
+    case 403:
+        return Answer::WrongToken;
+    case 409: // the server has it already
+        return Answer::Taken;
+    case 413: // too large
+    case 422: // no report by the server's rules
+        return Answer::NeverTaken;
+    default:
+        return status >= FirstSuccess && status < FirstBeyondSuccess ? Answer::Taken
+                                                                     : Answer::TryLater;
+    }
 }
 
 } // namespace
 
-OutboxPoster::OutboxPoster(const QUrl& url, const QString& folder, const OutboxLimits& limits)
-    : m_url(url),
+OutboxPoster::OutboxPoster(const ReportServer& server, const QString& folder,
+                           const OutboxLimits& limits)
+    : m_server(server),
       m_folder(folder),
       m_limits(limits),
       m_runsPath(folder + QStringLiteral("-runs.json")),
       m_retry(limits.firstRetry),
       m_retryTimer(this),
+      m_request(server.url),
       m_network(this)
 {
+    m_request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    // Nobody else may get the report or the token.
+    m_request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                           QNetworkRequest::ManualRedirectPolicy);
+    if (!server.token.isEmpty()) {
+        m_request.setRawHeader("Authorization", "Bearer " + server.token);
+    }
     m_retryTimer.setSingleShot(true);
     connect(&m_retryTimer, &QTimer::timeout, this, &OutboxPoster::postNext);
 }
@@ -52,6 +84,7 @@ OutboxPoster::~OutboxPoster() = default;
 
 void OutboxPoster::start()
 {
+    ServerTrust::addTo(m_request);
     readFolder();
     postNext();
 }
@@ -70,7 +103,7 @@ void OutboxPoster::add(const QString& fileName, const QByteArray& report)
     }
 }
 
-void OutboxPoster::whenSettled(std::function<void()> settled)
+void OutboxPoster::whenSettled(Settled settled)
 {
     m_settled.push_back(std::move(settled));
     tellSettled();
@@ -78,14 +111,15 @@ void OutboxPoster::whenSettled(std::function<void()> settled)
 
 bool OutboxPoster::isSettled() const
 {
-    return !m_reply && (m_reports.empty() || m_retryTimer.isActive());
+    return !m_reply && (m_reports.empty() || m_retryTimer.isActive() || m_isTurnedAway);
 }
 
 void OutboxPoster::tellSettled()
 {
     if (isSettled()) {
-        for (const std::function<void()>& settled : std::exchange(m_settled, {})) {
-            settled();
+        m_outcome.waiting = int(m_reports.size());
+        for (const Settled& settled : std::exchange(m_settled, {})) {
+            settled(m_outcome);
         }
     }
 }
@@ -98,7 +132,8 @@ void OutboxPoster::readFolder()
         folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString& name : names) {
         QByteArray content;
-        const QString problem = WholeFile::read(folder.filePath(name), &content);
+        const QString problem =
+            WholeFile::read(folder.filePath(name), &content, MaxReportBytes + 1);
         if (!problem.isEmpty()) {
             qCWarning(Log::reports).noquote()
                 << "Not posted:" << folder.filePath(name) << "-" << problem;
@@ -113,7 +148,7 @@ void OutboxPoster::readFolder()
             drop(name, "it has waited for too many runs");
             continue;
         }
-        m_reports.push_back({name, content, count});
+        m_reports.push_back({name, {}, count});
     }
     // The names begin with the time, but a clock may have been wrong.
     std::stable_sort(m_reports.begin(), m_reports.end(),
@@ -141,13 +176,32 @@ void OutboxPoster::writeRuns() const
     FileWriter::replace(m_runsPath, QJsonDocument(runs).toJson(QJsonDocument::Compact));
 }
 
+// Of the report to post now; empty if there is none. Those that are gone were posted by another
+// run.
+QByteArray OutboxPoster::nextContent()
+{
+    while (!m_reply && !m_isTurnedAway && !m_reports.empty()) {
+        QByteArray content = m_reports.front().content;
+        if (content.isEmpty()) {
+            const QString path = QDir(m_folder).filePath(m_reports.front().fileName);
+            WholeFile::read(path, &content, MaxReportBytes);
+        }
+        if (!content.isEmpty()) {
+            return content;
+        }
+        m_reports.pop_front();
+    }
+    return {};
+}
+
 void OutboxPoster::postNext()
 {
-    if (m_reply || m_reports.empty()) {
+    const QByteArray content = nextContent();
+    if (content.isEmpty()) {
         tellSettled();
         return;
     }
-    QNetworkReply* reply = m_network.post(request(m_reports.front()), m_reports.front().content);
+    QNetworkReply* reply = m_network.post(request(content), content);
     m_reply = reply;
     const auto end = [this, reply, name = m_reports.front().fileName] { finish(reply, name); };
     // Qt's own timeout starts anew with every byte.
@@ -164,8 +218,8 @@ void OutboxPoster::postNext()
 // Qt reads headers without end, a core at a time.
 void OutboxPoster::watchHead(QNetworkReply* reply)
 {
-    const bool isEncrypted = m_url.scheme() == QLatin1String("https");
-    const auto port = quint16(m_url.port(isEncrypted ? HttpsPort : HttpPort));
+    const bool isEncrypted = m_server.url.scheme() == QLatin1String("https");
+    const auto port = quint16(m_server.url.port(isEncrypted ? HttpsPort : HttpPort));
     auto* const watch = new QTimer(reply);
     connect(watch, &QTimer::timeout, reply, [this, reply, port] {
         if (m_reply == reply && FloodGate::cutAbove(m_limits.maxHeadBytes, port)) {
@@ -177,13 +231,13 @@ void OutboxPoster::watchHead(QNetworkReply* reply)
     watch->start(HeadWatch);
 }
 
-QNetworkRequest OutboxPoster::request(const Report& report) const
+QNetworkRequest OutboxPoster::request(const QByteArray& content) const
 {
-    QNetworkRequest request(m_url);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    QNetworkRequest request = m_request;
     // A report whose answer got lost is posted again; by this the server knows it.
-    const QJsonObject content = QJsonDocument::fromJson(report.content).object();
-    request.setRawHeader("Idempotency-Key", content.value(QLatin1String("id")).toString().toUtf8());
+    const QJsonObject report = QJsonDocument::fromJson(content).object();
+    const QString id = report.value(QLatin1String("id")).toString().simplified();
+    request.setRawHeader("Idempotency-Key", id.toUtf8());
     return request;
 }
 
@@ -194,17 +248,34 @@ void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
     }
     release();
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (status >= FirstSuccess && status < FirstBeyondSuccess) {
+    const Answer answer = answerOf(status);
+    if (answer != Answer::Taken) {
+        const bool hasError = status == 0 && reply->error() != QNetworkReply::NoError;
+        m_outcome.status = status;
+        m_outcome.reason = hasError ? reply->errorString() : QString();
+    }
+    switch (answer) {
+    case Answer::NeverTaken:
+        ++m_outcome.refused;
+        noteFailure(QStringLiteral("status %1, for good").arg(status));
+        [[fallthrough]];
+    case Answer::Taken:
         forget(fileName);
         m_reports.pop_front();
         m_retry = m_limits.firstRetry;
         postNext();
         return;
+    case Answer::WrongToken:
+        m_isTurnedAway = true;
+        noteFailure(QStringLiteral("status %1, nothing more is posted").arg(status));
+        tellSettled();
+        return;
+    case Answer::TryLater:
+        retryLater(status > 0                   ? QStringLiteral("status %1").arg(status)
+                   : m_outcome.reason.isEmpty() ? QStringLiteral("no answer in time")
+                                                : m_outcome.reason);
+        return;
     }
-    const bool hasError = reply->error() != QNetworkReply::NoError;
-    retryLater(status > 0 ? QStringLiteral("status %1").arg(status)
-               : hasError ? reply->errorString()
-                          : QStringLiteral("no answer in time"));
 }
 
 void OutboxPoster::release()
@@ -214,13 +285,18 @@ void OutboxPoster::release()
 
 void OutboxPoster::retryLater(const QString& reason)
 {
-    qCInfo(Log::reports).noquote()
-        << "The report server at" << m_url.toDisplayString() << "took no report -" << reason;
+    noteFailure(reason);
     // Another report first next time, in case the server dislikes this one.
     std::rotate(m_reports.begin(), m_reports.begin() + 1, m_reports.end());
     m_retryTimer.start(m_retry);
     m_retry = std::min(m_retry * 2, m_limits.longestRetry);
     tellSettled();
+}
+
+void OutboxPoster::noteFailure(const QString& reason) const
+{
+    qCInfo(Log::reports).noquote()
+        << "The report server at" << m_server.url.toDisplayString() << "took no report -" << reason;
 }
 
 // The one that is being posted stays at the front.

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/DeliveryOutcome.h"
+
 #include <QJsonObject>
 #include <QNetworkAccessManager>
+#include <QNetworkRequest>
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
@@ -30,46 +33,57 @@ struct OutboxLimits
     qint64 maxHeadBytes = 0;
 };
 
+// Where reports go.
+struct ReportServer
+{
+    QUrl url;
+    QByteArray token; // goes along as a bearer token (RFC 6750); empty: none
+};
+
 // Posts the reports of an outbox folder, one after the other, and removes each one that the server
-// took. Lives on a thread of its own, since reading the folder and starting TLS take time.
+// took. Once the server wants another token, it posts nothing more. Lives on a thread of its own,
+// since reading the folder and starting TLS take time.
 class OutboxPoster : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY(OutboxPoster)
 
 public:
-    OutboxPoster(const QUrl& url, const QString& folder, const OutboxLimits& limits);
+    OutboxPoster(const ReportServer& server, const QString& folder, const OutboxLimits& limits);
     ~OutboxPoster() override;
 
     void start(); // with what earlier runs left
     void add(const QString& fileName, const QByteArray& report);
     // Calls settled as soon as no post is under way, nor one to come before the next retry.
-    void whenSettled(std::function<void()> settled);
+    using Settled = std::function<void(const DeliveryOutcome& outcome)>;
+    void whenSettled(Settled settled);
 
 private:
     struct Report
     {
         QString fileName;
-        QByteArray content;
-        int runs = 0; // that found it waiting
+        QByteArray content; // empty: in the file
+        int runs = 0;       // that found it waiting
     };
 
     void readFolder();
     QJsonObject readRuns() const;
     void writeRuns() const;
     void postNext();
-    QNetworkRequest request(const Report& report) const;
+    QByteArray nextContent();
+    QNetworkRequest request(const QByteArray& content) const;
     void watchHead(QNetworkReply* reply);
     void finish(QNetworkReply* reply, const QString& fileName);
     void release();
     bool isSettled() const;
     void tellSettled();
     void retryLater(const QString& reason);
+    void noteFailure(const QString& reason) const;
     void dropSurplus();
     void forget(const QString& fileName);
     void drop(const QString& fileName, const char* reason);
 
-    const QUrl m_url;
+    const ReportServer m_server;
     const QString m_folder;
     const OutboxLimits m_limits;
     const QString m_runsPath;
@@ -77,7 +91,10 @@ private:
     std::chrono::milliseconds m_retry;
     QNetworkReply* m_reply = nullptr; // of the post under way
     QTimer m_retryTimer;
-    std::vector<std::function<void()>> m_settled;
+    std::vector<Settled> m_settled;
+    DeliveryOutcome m_outcome;
+    bool m_isTurnedAway = false; // the server wants another token
+    QNetworkRequest m_request;   // without what differs between reports
     QNetworkAccessManager m_network;
 };
 

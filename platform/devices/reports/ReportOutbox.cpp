@@ -33,10 +33,21 @@ QByteArray withLine(const QByteArray& journal, const QByteArray& line)
     return whole.mid(whole.indexOf('\n', whole.size() - MaxJournalBytes) + 1);
 }
 
+QString now()
+{
+    return QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+}
+
+QString newId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
 } // namespace
 
 ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
-                           const QString& reportUrl, const OutboxLimits& limits)
+                           const QString& reportUrl, const OutboxLimits& limits,
+                           const QByteArray& token)
     : m_results(resultsPath), m_folder(folder)
 {
     if (reportUrl.isEmpty()) {
@@ -50,7 +61,7 @@ ReportOutbox::ReportOutbox(const QString& resultsPath, const QString& folder,
                "https://HOST/PATH";
         return;
     }
-    startPosting(*url, limits);
+    startPosting({*url, token}, limits);
 }
 
 ReportOutbox::~ReportOutbox()
@@ -77,7 +88,7 @@ void ReportOutbox::postCode(const QString& managerName, int code)
 {
     m_results.recordCode(code);
 
-    const QString time = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    const QString time = now();
     const QString line =
         QStringLiteral("%1 %2 %3\n").arg(time, QString::number(code), managerName.simplified());
     FileWriter::update(m_folder + JournalName, [text = line.toUtf8()](const QByteArray& journal) {
@@ -86,37 +97,75 @@ void ReportOutbox::postCode(const QString& managerName, int code)
     if (!m_poster) {
         return;
     }
-    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     const QJsonObject content{{QStringLiteral("version"), ReportVersion},
-                              {QStringLiteral("id"), id},
+                              {QStringLiteral("id"), newId()},
                               {QStringLiteral("time"), time},
                               {QStringLiteral("manager"), managerName},
                               {QStringLiteral("code"), code}};
     const QByteArray report = QJsonDocument(content).toJson(QJsonDocument::Compact);
-    // Colons in a file name are trouble elsewhere; the names still sort by time.
-    QString fileName = time + QLatin1Char('-') + id + QStringLiteral(".json");
-    fileName.remove(QLatin1Char(':'));
-    FileWriter::replace(m_folder + OutboxName + QLatin1Char('/') + fileName, report);
-    QMetaObject::invokeMethod(
-        m_poster, [poster = m_poster, fileName, report] { poster->add(fileName, report); });
+    const QString fileName = newFileName();
+    FileWriter::replace(pathOf(fileName), report);
+    add(fileName, report);
 }
 
-void ReportOutbox::deliver(std::chrono::milliseconds limit)
+void ReportOutbox::postReport(const QByteArray& report, std::chrono::milliseconds limit)
 {
     if (!m_poster) {
         return;
     }
-    const auto settled = std::make_shared<std::promise<void>>();
-    const std::future<void> isSettled = settled->get_future();
-    QMetaObject::invokeMethod(m_poster, [poster = m_poster, settled] {
-        poster->whenSettled([settled] { settled->set_value(); });
-    });
-    isSettled.wait_for(limit);
+    const QString fileName = newFileName();
+    const QString path = pathOf(fileName);
+    const QString problem = FileWriter::replaceNow(path, report, int(limit.count()));
+    if (!problem.isEmpty()) {
+        qCWarning(Log::reports).noquote()
+            << "Not kept in case it doesn't arrive:" << path << "-" << problem;
+    }
+    add(fileName, report);
 }
 
-void ReportOutbox::startPosting(const QUrl& url, const OutboxLimits& limits)
+// The names sort by time, also within a millisecond. Colons in them are trouble elsewhere.
+QString ReportOutbox::newFileName()
 {
-    m_poster = new OutboxPoster(url, m_folder + OutboxName, limits);
+    return QStringLiteral("%1-%2-%3.json")
+        .arg(now().remove(QLatin1Char(':')))
+        .arg(m_count++, 4, 10, QLatin1Char('0'))
+        .arg(newId());
+}
+
+QString ReportOutbox::pathOf(const QString& fileName) const
+{
+    return m_folder + OutboxName + QLatin1Char('/') + fileName;
+}
+
+void ReportOutbox::add(const QString& fileName, const QByteArray& report)
+{
+    QMetaObject::invokeMethod(
+        m_poster, [poster = m_poster, fileName, report] { poster->add(fileName, report); });
+}
+
+DeliveryOutcome ReportOutbox::deliver(std::chrono::milliseconds limit)
+{
+    if (!m_poster) {
+        return {};
+    }
+    const auto settled = std::make_shared<std::promise<DeliveryOutcome>>();
+    std::future<DeliveryOutcome> outcome = settled->get_future();
+    QMetaObject::invokeMethod(m_poster, [poster = m_poster, settled] {
+        poster->whenSettled([settled](const DeliveryOutcome& settledOutcome) {
+            settled->set_value(settledOutcome);
+        });
+    });
+    if (outcome.wait_for(limit) == std::future_status::ready) {
+        return outcome.get();
+    }
+    DeliveryOutcome unknown;
+    unknown.isUnderWay = true;
+    return unknown;
+}
+
+void ReportOutbox::startPosting(const ReportServer& server, const OutboxLimits& limits)
+{
+    m_poster = new OutboxPoster(server, m_folder + OutboxName, limits);
     m_thread = std::make_unique<QThread>();
     m_poster->moveToThread(m_thread.get());
     QObject::connect(m_thread.get(), &QThread::started, m_poster, &OutboxPoster::start);

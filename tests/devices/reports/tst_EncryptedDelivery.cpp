@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QSslConfiguration>
 #include <QTemporaryDir>
 #include <QTest>
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void cleanup();
 
     void knownServerTakesAReport();
+    void knownByTheEnvironment();
+    void namedFileWithoutCertificates();
     void strangersCertificateIsRefused();
     void floodOfHeadersIsCutOff();
 
@@ -56,6 +59,7 @@ OutboxLimits oneTry()
 void tst_EncryptedDelivery::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    qunsetenv("SSL_CERT_FILE");
     auto listener = std::make_unique<EncryptedListener>();
     m_certificate = listener->certificate();
     QVERIFY(!m_certificate.isNull());
@@ -98,6 +102,30 @@ void tst_EncryptedDelivery::knownServerTakesAReport()
     post(oneTry());
     QCOMPARE(m_server->requests().size(), 1);
     QCOMPARE(waitingReports(), 0);
+}
+
+// The authority of a school, without the rights to install it.
+void tst_EncryptedDelivery::knownByTheEnvironment()
+{
+    QFile file(m_folder->filePath(QStringLiteral("authority.pem")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_certificate.toPem()) > 0);
+    file.close();
+    qputenv("SSL_CERT_FILE", file.fileName().toLocal8Bit());
+    post(oneTry());
+    qunsetenv("SSL_CERT_FILE");
+    QCOMPARE(m_server->requests().size(), 1);
+    QCOMPARE(waitingReports(), 0);
+}
+
+void tst_EncryptedDelivery::namedFileWithoutCertificates()
+{
+    const QRegularExpression warning(QStringLiteral("^SSL_CERT_FILE names no certificates: /"));
+    QTest::ignoreMessage(QtWarningMsg, warning);
+    qputenv("SSL_CERT_FILE", m_folder->filePath(QStringLiteral("none.pem")).toLocal8Bit());
+    post(oneTry());
+    qunsetenv("SSL_CERT_FILE");
+    QVERIFY(m_server->requests().isEmpty());
+    QCOMPARE(waitingReports(), 1);
 }
 
 void tst_EncryptedDelivery::strangersCertificateIsRefused()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void verdictsAreMarked();
     void whatIsLeftOutHasNoRow();
     void pageBeginsWithWhatToDo();
+    void printedTitleStaysWithItsTable();
     void plotsStandInThePageAlone();
     void badSeriesIsNoPlot();
     void formats_data();
@@ -95,6 +96,16 @@ QString htmlOf(const Report& report, const char* language)
 }
 
 } // namespace
+
+// No title is the last line of a printed page, and rows stay whole.
+void tst_ReportWriter::printedTitleStaysWithItsTable()
+{
+    const QString page = htmlOf(sampleReport(), QStringLiteral("en"));
+    const QString style = page.mid(page.indexOf(QLatin1String("@media print")));
+    QVERIFY(style.contains(QLatin1String("summary{break-after:avoid}")));
+    QVERIFY(style.contains(QLatin1String("tr,li{break-inside:avoid}")));
+    QVERIFY(!style.contains(QLatin1String("table,")));
+}
 
 void tst_ReportWriter::plotsStandInThePageAlone()
 {
