@@ -12,8 +12,9 @@ namespace {
 
 // Always two channels: servers mix a device down to one channel in different ways.
 constexpr std::size_t Channels = CaptureMeter::Channels;
+constexpr unsigned Rate = SoundCapture::Rate;
 constexpr unsigned FragmentMs = 5;
-constexpr std::size_t SmallestPiece = Channels * PulseCapture::Rate * FragmentMs / 1000 / 2;
+constexpr std::size_t SmallestPiece = Channels * Rate * FragmentMs / 1000 / 2;
 constexpr pa_usec_t WatchIntervalUs =
     std::chrono::microseconds(CaptureMeter::WatchInterval).count();
 constexpr std::chrono::milliseconds ListenRetry(250);
@@ -33,7 +34,7 @@ void PulseCapture::open(const QString& microphoneId, std::shared_ptr<MicrophoneA
     close();
     pa_context* context = m_connection.context();
     if (!context) {
-        events.failed();
+        events.failed(DeviceState::Failed);
         return;
     }
     m_events = std::move(events);
@@ -182,7 +183,7 @@ void PulseCapture::fail()
 {
     if (m_meter) {
         close();
-        m_events.failed();
+        m_events.failed(DeviceState::Failed);
     }
 }
 

@@ -4,31 +4,18 @@
 
 #include "platform/devices/pulse/ListenBack.h"
 #include "platform/devices/pulse/PulseConnection.h"
-#include "platform/devices/sound/CaptureMeter.h"
+#include "platform/devices/sound/SoundCapture.h"
 
-#include <functional>
 #include <optional>
 
 namespace Platform {
-
-class MicrophoneAnalysis;
 
 // Records one microphone: passes its sound to the meter and, if wanted, to the speaker. Sound
 // thread only, except for the constructor.
 class PulseCapture final : public PulseConnection::Client
 {
 public:
-    static constexpr unsigned Rate = 48000;
-
-    // What happens after open(), called on the sound thread.
-    struct Events
-    {
-        CaptureMeter::Events metered;
-        std::function<void()> failed; // the stream broke
-        // Each piece of sound, mixed to one channel; may be null.
-        std::function<void(const std::vector<float>& mono, CaptureMeter::Clock::time_point now)>
-            recorded;
-    };
+    using Events = SoundCapture::Events;
 
     explicit PulseCapture(PulseConnection& connection);
     ~PulseCapture() override;

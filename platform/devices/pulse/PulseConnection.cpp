@@ -30,14 +30,14 @@ constexpr int SilentAfterTicks = 3;
 // Servers show this sink if they have no real one.
 constexpr char DummySink[] = "auto_null";
 
-PulseKind kindOf(const pa_sink_info&)
+SoundKind kindOf(const pa_sink_info&)
 {
-    return PulseKind::Speaker;
+    return SoundKind::Speaker;
 }
 
-PulseKind kindOf(const pa_source_info&)
+SoundKind kindOf(const pa_source_info&)
 {
-    return PulseKind::Microphone;
+    return SoundKind::Microphone;
 }
 
 bool isNone(const pa_sink_info& sink)
@@ -190,7 +190,7 @@ void PulseConnection::disconnected()
     m_deadline.stop();
     m_pause.stop();
     m_silentTicks = 0;
-    for (const PulseKind kind : {PulseKind::Speaker, PulseKind::Microphone}) {
+    for (const SoundKind kind : {SoundKind::Speaker, SoundKind::Microphone}) {
         VolumeOrders& lost = orders(kind);
         for (std::optional<VolumeOrder>* order : {&lost.underWay, &lost.next}) {
             if (*order) {
@@ -245,6 +245,7 @@ void PulseConnection::startRound()
 {
     m_isStale = false;
     m_arriving = {};
+    m_arrivingVolumes = {};
     m_arriving.isConnected = true;
     m_arriving.server = SoundServerState::Running;
     m_arriving.speakers.settledOrder = m_speakerOrders.settled;
@@ -307,18 +308,18 @@ void PulseConnection::deviceArrived(pa_context* /*context*/, const Info* info, i
 }
 
 template <typename Info>
-void PulseConnection::takeDevice(PulseKind kind, const Info& info)
+void PulseConnection::takeDevice(SoundKind kind, const Info& info)
 {
-    PulseDevice device;
+    SoundDevice device;
     device.id = QString::fromUtf8(info.name);
     device.name = QString::fromUtf8(info.description);
     if (device.name.trimmed().isEmpty()) {
         device.name = device.id;
     }
-    device.volume = info.volume;
-    device.isMuted = info.mute != 0;
+    device.volume = {100.0 * pa_cvolume_max(&info.volume) / PA_VOLUME_NORM, info.mute != 0};
     device.isAdjustable = isAdjustable(info);
     device.isTelephone = isTelephone(info.proplist);
+    m_arrivingVolumes.of(kind).insert(device.id, info.volume);
     m_arriving.side(kind).devices.push_back(std::move(device));
 }
 
@@ -336,6 +337,7 @@ void PulseConnection::replyArrived(bool isGood)
 void PulseConnection::finishRound()
 {
     m_backOffMs = FirstBackOffMs;
+    m_volumes = std::move(m_arrivingVolumes);
     if (!(m_arriving == m_devices)) {
         m_devices = std::move(m_arriving);
         m_publish(m_devices);
@@ -376,12 +378,12 @@ void PulseConnection::watch()
     }
 }
 
-PulseConnection::VolumeOrders& PulseConnection::orders(PulseKind kind)
+PulseConnection::VolumeOrders& PulseConnection::orders(SoundKind kind)
 {
-    return kind == PulseKind::Speaker ? m_speakerOrders : m_microphoneOrders;
+    return kind == SoundKind::Speaker ? m_speakerOrders : m_microphoneOrders;
 }
 
-void PulseConnection::setVolume(PulseKind kind, const QString& id, int percent, quint64 order)
+void PulseConnection::setVolume(SoundKind kind, const QString& id, int percent, quint64 order)
 {
     orders(kind).next = VolumeOrder{id, percent, order};
     if (!orders(kind).underWay) {
@@ -389,14 +391,14 @@ void PulseConnection::setVolume(PulseKind kind, const QString& id, int percent, 
     }
 }
 
-void PulseConnection::sendVolume(PulseKind kind)
+void PulseConnection::sendVolume(SoundKind kind)
 {
     VolumeOrders& queue = orders(kind);
     queue.underWay = std::exchange(queue.next, std::nullopt);
     if (!queue.underWay) {
         return;
     }
-    const PulseDevice* device = m_devices.side(kind).find(queue.underWay->id);
+    const SoundDevice* device = m_devices.side(kind).find(queue.underWay->id);
     if (!context() || !device) {
         queue.settled = queue.underWay->number;
         queue.underWay.reset();
@@ -405,28 +407,28 @@ void PulseConnection::sendVolume(PulseKind kind)
         }
         return;
     }
-    pa_cvolume volume = device->volume;
+    pa_cvolume volume = m_volumes.of(kind).value(device->id);
     pa_cvolume_scale(
         &volume, static_cast<pa_volume_t>(static_cast<quint64>(PA_VOLUME_NORM) *
                                           static_cast<quint64>(queue.underWay->percent) / 100U));
     const QByteArray name = device->id.toUtf8();
-    const auto unmute = kind == PulseKind::Speaker ? &pa_context_set_sink_mute_by_name
+    const auto unmute = kind == SoundKind::Speaker ? &pa_context_set_sink_mute_by_name
                                                    : &pa_context_set_source_mute_by_name;
     // Always unmute; our last state may be stale.
     release(unmute(context(), name.constData(), 0, nullptr, nullptr));
     const bool isSent =
-        kind == PulseKind::Speaker
+        kind == SoundKind::Speaker
             ? release(pa_context_set_sink_volume_by_name(context(), name.constData(), &volume,
-                                                         &volumeSet<PulseKind::Speaker>, this))
+                                                         &volumeSet<SoundKind::Speaker>, this))
             : release(pa_context_set_source_volume_by_name(
-                  context(), name.constData(), &volume, &volumeSet<PulseKind::Microphone>, this));
+                  context(), name.constData(), &volume, &volumeSet<SoundKind::Microphone>, this));
     if (!isSent) {
         volumeSettled(kind);
     }
 }
 
 // Whether the order was carried out or refused shows in the next list.
-void PulseConnection::volumeSettled(PulseKind kind)
+void PulseConnection::volumeSettled(SoundKind kind)
 {
     VolumeOrders& queue = orders(kind);
     if (queue.underWay) {
@@ -436,7 +438,7 @@ void PulseConnection::volumeSettled(PulseKind kind)
     refresh();
 }
 
-template <PulseKind Kind>
+template <SoundKind Kind>
 void PulseConnection::volumeSet(pa_context* /*context*/, int /*success*/, void* self)
 {
     static_cast<PulseConnection*>(self)->volumeSettled(Kind);

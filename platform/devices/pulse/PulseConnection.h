@@ -3,16 +3,18 @@
 #pragma once
 
 #include "platform/devices/SocketWatch.h"
-#include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/pulse/PulseHandles.h"
 #include "platform/devices/pulse/PulseLoop.h"
 #include "platform/devices/pulse/PulseTimer.h"
+#include "platform/devices/sound/SoundDevices.h"
 
+#include <QHash>
 #include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <pulse/introspect.h>
+#include <pulse/volume.h>
 #include <vector>
 
 namespace Platform {
@@ -30,7 +32,7 @@ public:
         virtual ~Client() = default;
         virtual void connectionLost() = 0; // the streams are dead; also called by the destructor
     };
-    using Publish = std::function<void(const PulseDevices&)>;
+    using Publish = std::function<void(const SoundDevices&)>;
 
     explicit PulseConnection(Publish publish);
     ~PulseConnection(); // ends the thread and every stream
@@ -43,7 +45,7 @@ public:
     void remove(const std::shared_ptr<Client>& client);
     // Sets the volume and unmutes. Orders that come while one is being carried out replace each
     // other; only the last one is sent.
-    void setVolume(PulseKind kind, const QString& id, int percent, quint64 order);
+    void setVolume(SoundKind kind, const QString& id, int percent, quint64 order);
 
 private:
     struct VolumeOrder
@@ -57,6 +59,18 @@ private:
         std::optional<VolumeOrder> underWay;
         std::optional<VolumeOrder> next;
         quint64 settled = 0;
+    };
+
+    // By device. A new volume keeps the balance of the channels.
+    struct ChannelVolumes
+    {
+        QHash<QString, pa_cvolume> speakers;
+        QHash<QString, pa_cvolume> microphones;
+
+        QHash<QString, pa_cvolume>& of(SoundKind kind)
+        {
+            return kind == SoundKind::Speaker ? speakers : microphones;
+        }
     };
 
     void connect();
@@ -75,15 +89,15 @@ private:
     void watch();
     void takeServer(const char* defaultSink, const char* defaultSource);
     template <typename Info>
-    void takeDevice(PulseKind kind, const Info& info);
+    void takeDevice(SoundKind kind, const Info& info);
     static void subscribed(pa_context*, int success, void* self);
     static void serverArrived(pa_context*, const pa_server_info* info, void* self);
     template <typename Info>
     static void deviceArrived(pa_context*, const Info*, int, void*);
-    VolumeOrders& orders(PulseKind kind);
-    void sendVolume(PulseKind kind);
-    void volumeSettled(PulseKind kind);
-    template <PulseKind Kind>
+    VolumeOrders& orders(SoundKind kind);
+    void sendVolume(SoundKind kind);
+    void volumeSettled(SoundKind kind);
+    template <SoundKind Kind>
     static void volumeSet(pa_context*, int, void*);
 
     Publish m_publish;
@@ -98,8 +112,10 @@ private:
     pa_io_event* m_socketEvent = nullptr;
     std::vector<std::shared_ptr<Client>> m_clients;
 
-    PulseDevices m_devices; // the last published ones
-    PulseDevices m_arriving;
+    SoundDevices m_devices; // the last published ones
+    SoundDevices m_arriving;
+    ChannelVolumes m_volumes; // of the last complete round
+    ChannelVolumes m_arrivingVolumes;
     std::vector<PulseOperationHandle> m_round; // the queries under way
     std::size_t m_awaitedReplies = 0;
     bool m_isSubscribed = false;

@@ -178,7 +178,7 @@ void PulsePlayback::feed()
 void PulsePlayback::finish(bool isGood)
 {
     if (!std::exchange(m_isOver, true)) {
-        m_finished(isGood);
+        m_finished(isGood ? std::nullopt : std::optional(DeviceState::Failed));
     }
 }
 

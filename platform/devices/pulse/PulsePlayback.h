@@ -3,9 +3,10 @@
 #pragma once
 
 #include "platform/devices/pulse/PulseConnection.h"
+#include "platform/devices/sound/SoundPlayback.h"
 
+#include <atomic>
 #include <chrono>
-#include <functional>
 
 namespace Platform {
 
@@ -16,9 +17,7 @@ class SoundBuffer;
 class PulsePlayback final : public PulseConnection::Client
 {
 public:
-    // finished is called once, but not after stop(): with true at the end of the sound, with false
-    // if the device or the server failed.
-    using Finished = std::function<void(bool)>;
+    using Finished = SoundPlayback::Finished;
 
     PulsePlayback(PulseConnection& connection, std::shared_ptr<SoundBuffer> sound,
                   Finished finished);
@@ -27,7 +26,7 @@ public:
     void playOn(const QString& speakerId); // moves there if it is playing already
     void soundAdvanced();
     void stop();
-    // When the first sample was handed to the server; long ago if none was.
+    // When the first sample was handed to the server; long ago if none was. From any thread.
     std::chrono::steady_clock::time_point begin() const { return m_begin; }
     void connectionLost() override;
 
@@ -44,7 +43,7 @@ private:
     PulseStreamHandle m_stream;
     std::size_t m_start = 0;   // position in the sound at which the stream began
     std::size_t m_written = 0; // position up to which it was written
-    std::chrono::steady_clock::time_point m_begin;
+    std::atomic<std::chrono::steady_clock::time_point> m_begin{};
     bool m_isDraining = false;
     bool m_isOver = false;
 };

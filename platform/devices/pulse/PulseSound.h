@@ -2,36 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/SoundSystem.h"
+#include "platform/devices/sound/ServerSound.h"
 
 namespace Platform {
 
-class PulseServer;
-class ReportSink;
-
-// The sound system of a machine with PulseAudio or PipeWire. Without users it has no connection, no
-// thread and no device list.
-class PulseSound final : public SoundSystem
+// The sound system of a machine with PulseAudio or PipeWire.
+class PulseSound final : public ServerSound
 {
 public:
-    explicit PulseSound(ReportSink& report);
-    ~PulseSound() override;
-
-    std::unique_ptr<MicrophoneBackend>
-    createMicrophone(MicrophoneBackend::Listener& listener) override;
-    std::unique_ptr<SpeakerBackend> createSpeaker(SpeakerBackend::Listener& listener) override;
-    std::unique_ptr<PlayerBackend> createPlayer(const QString& path, float volume,
-                                                PlayerBackend::Listener& listener) override;
-    std::unique_ptr<AcousticLoop> createAcousticLoop(const QString& speakerId,
-                                                     const QString& microphoneId) override;
-    DeviceList speakers() const override;
-    SoundServerState serverState() const override;
+    using ServerSound::ServerSound;
 
 private:
-    std::shared_ptr<PulseServer> server();
-
-    ReportSink& m_report;
-    std::weak_ptr<PulseServer> m_server;
+    std::shared_ptr<SoundService> createServer() const override;
 };
 
 } // namespace Platform

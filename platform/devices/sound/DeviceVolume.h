@@ -11,6 +11,11 @@ struct VolumeState
 {
     double percent = 0.0;
     bool isMuted = false;
+
+    friend bool operator==(const VolumeState& a, const VolumeState& b)
+    {
+        return a.percent == b.percent && a.isMuted == b.isMuted;
+    }
 };
 
 // The volume of the current device as the user sees it, and as it was found. Sound systems report

@@ -11,15 +11,15 @@ StreamRetry::StreamRetry(std::chrono::milliseconds delay, const std::function<vo
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, retry);
 }
 
-void StreamRetry::streamBroke()
+void StreamRetry::streamBroke(DeviceState reason)
 {
-    m_hasFailed = true;
+    m_failure = reason;
     m_timer.start();
 }
 
 void StreamRetry::cancel()
 {
-    m_hasFailed = false;
+    m_failure.reset();
     m_timer.stop();
 }
 

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/DeviceInfo.h"
+
 #include <QTimer>
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace Platform {
 
@@ -15,16 +18,16 @@ public:
     // Calls retry from the event loop, once for each failure.
     StreamRetry(std::chrono::milliseconds delay, const std::function<void()>& retry);
 
-    void streamBroke();
+    void streamBroke(DeviceState reason);
     // The device works, or is another one. A retry that waits still comes.
-    void forgetFailure() { m_hasFailed = false; }
+    void forgetFailure() { m_failure.reset(); }
     void cancel(); // the stream isn't wanted any more
 
-    bool hasFailed() const { return m_hasFailed; }
+    std::optional<DeviceState> failure() const { return m_failure; }
     bool isWaiting() const { return m_timer.isActive(); }
 
 private:
-    bool m_hasFailed = false;
+    std::optional<DeviceState> m_failure;
     QTimer m_timer;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseAcousticLoop.h"
+#include "platform/devices/sound/SoundAcousticLoop.h"
 #include "platform/devices/sound/Sweep.h"
 #include "tests/devices/SoundTest.h"
 
@@ -68,7 +68,7 @@ void tst_PulseAcousticLoop::cleanup()
 LoopOutcome tst_PulseAcousticLoop::finish(int atMostMs)
 {
     const bool hasEnded = QTest::qWaitFor([this] { return m_loop->outcome().has_value(); },
-                                          PulseAcousticLoop::LongestMs + 1000);
+                                          SoundAcousticLoop::LongestMs + 1000);
     const qint64 ms = m_clock.elapsed();
     if (!hasEnded || ms > atMostMs) {
         qWarning("It took %lld ms", ms);
@@ -234,7 +234,7 @@ void tst_PulseAcousticLoop::breaksInTheMiddle()
     } else {
         QVERIFY(m_server->cutConnection("Test sound"));
     }
-    const LoopOutcome outcome = finish(PulseAcousticLoop::LongestMs + 500);
+    const LoopOutcome outcome = finish(SoundAcousticLoop::LongestMs + 500);
     if (what == QLatin1String("freeze")) {
         m_server->thaw();
     }

@@ -24,18 +24,18 @@ private Q_SLOTS:
         };
         server.chooseSpeaker(id("speaker_b"));
         QTRY_COMPARE_WITH_TIMEOUT(server.speakerId(), id("speaker_b"), TimeoutMs);
-        server.setSpeakerFailed(id("speaker_b"), true);
-        QVERIFY(server.hasSpeakerFailed());
+        server.setSpeakerFailure(id("speaker_b"), DeviceState::Failed);
+        QVERIFY(server.speakerFailure());
 
         m_server->plugSpeaker(id("late"), id("Late"));
         QTRY_VERIFY_WITH_TIMEOUT(has(id("late")), TimeoutMs);
-        QVERIFY(server.hasSpeakerFailed());
+        QVERIFY(server.speakerFailure());
 
         m_server->unplug(m_server->speakerB());
         QTRY_VERIFY_WITH_TIMEOUT(!has(id("speaker_b")), TimeoutMs);
         m_server->plugSpeaker(id("speaker_b"), id("Repaired"));
         QTRY_COMPARE_WITH_TIMEOUT(server.speakerId(), id("speaker_b"), TimeoutMs);
-        QVERIFY(!server.hasSpeakerFailed());
+        QVERIFY(!server.speakerFailure());
     }
 
     void orderForAnAbsentSpeakerIsSettledToo()
@@ -46,11 +46,11 @@ private Q_SLOTS:
             return speakers().settledOrder >= order;
         };
         QTRY_VERIFY_WITH_TIMEOUT(speakers().find(id("speaker_b")), TimeoutMs);
-        const quint64 absent = server.setVolume(PulseKind::Speaker, id("gone"), 70);
+        const quint64 absent = server.setVolume(SoundKind::Speaker, id("gone"), 70);
         QTRY_VERIFY_WITH_TIMEOUT(isSettled(absent), TimeoutMs);
-        const quint64 present = server.setVolume(PulseKind::Speaker, id("speaker_b"), 30);
+        const quint64 present = server.setVolume(SoundKind::Speaker, id("speaker_b"), 30);
         QTRY_VERIFY_WITH_TIMEOUT(isSettled(present), TimeoutMs);
-        QCOMPARE(qRound(speakers().find(id("speaker_b"))->volumeState().percent), 30);
+        QCOMPARE(qRound(speakers().find(id("speaker_b"))->volume.percent), 30);
     }
 };
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseDevices.h"
+#include "platform/devices/sound/SoundDevices.h"
 #include "tests/devices/SoundTest.h"
 #include "tests/support/Dictionary.h"
 #include "tests/support/GapMeter.h"

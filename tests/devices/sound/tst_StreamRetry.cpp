@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+using Platform::DeviceState;
 using namespace std::chrono_literals;
 
 class tst_StreamRetry : public QObject
@@ -21,15 +22,15 @@ void tst_StreamRetry::retriesOncePerFailure()
 {
     int retries = 0;
     Platform::StreamRetry retry(0ms, [&retries] { ++retries; });
-    QVERIFY(!retry.hasFailed());
-    retry.streamBroke();
-    retry.streamBroke();
-    QVERIFY(retry.hasFailed());
+    QVERIFY(!retry.failure());
+    retry.streamBroke(DeviceState::Failed);
+    retry.streamBroke(DeviceState::Busy);
+    QVERIFY(retry.failure() == DeviceState::Busy); // the last one
     QVERIFY(retry.isWaiting());
     QCOMPARE(retries, 0); // not from inside
     QTRY_COMPARE(retries, 1);
     QVERIFY(!retry.isWaiting());
-    QVERIFY(retry.hasFailed()); // until it works
+    QVERIFY(retry.failure()); // until it works
     QCoreApplication::processEvents();
     QCOMPARE(retries, 1);
 }
@@ -39,9 +40,9 @@ void tst_StreamRetry::forgottenFailureIsStillRetried()
 {
     int retries = 0;
     Platform::StreamRetry retry(0ms, [&retries] { ++retries; });
-    retry.streamBroke();
+    retry.streamBroke(DeviceState::Failed);
     retry.forgetFailure();
-    QVERIFY(!retry.hasFailed());
+    QVERIFY(!retry.failure());
     QVERIFY(retry.isWaiting());
     QTRY_COMPARE(retries, 1);
 }
@@ -50,9 +51,9 @@ void tst_StreamRetry::canBeCancelled()
 {
     int retries = 0;
     Platform::StreamRetry retry(0ms, [&retries] { ++retries; });
-    retry.streamBroke();
+    retry.streamBroke(DeviceState::Failed);
     retry.cancel();
-    QVERIFY(!retry.hasFailed());
+    QVERIFY(!retry.failure());
     QVERIFY(!retry.isWaiting());
     QCoreApplication::processEvents();
     QCOMPARE(retries, 0);
@@ -64,11 +65,11 @@ void tst_StreamRetry::retryMayFail()
     Platform::StreamRetry* self = nullptr;
     Platform::StreamRetry retry(0ms, [&retries, &self] {
         if (++retries < 3) {
-            self->streamBroke();
+            self->streamBroke(DeviceState::Failed);
         }
     });
     self = &retry;
-    retry.streamBroke();
+    retry.streamBroke(DeviceState::Failed);
     QTRY_COMPARE(retries, 3);
     QVERIFY(!retry.isWaiting());
 }

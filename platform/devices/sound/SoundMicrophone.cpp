@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseMicrophone.h"
+#include "platform/devices/sound/SoundMicrophone.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/pulse/PulseCapture.h"
-#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/MicrophoneAnalysis.h"
+#include "platform/devices/sound/SoundCapture.h"
+#include "platform/devices/sound/SoundService.h"
 
 #include <utility>
 
@@ -13,50 +13,42 @@ namespace Platform {
 
 namespace {
 
-constexpr int MaxVolume = 150;
 constexpr std::chrono::seconds RetryDelay(1);
 
 } // namespace
 
-PulseMicrophone::PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener,
+SoundMicrophone::SoundMicrophone(std::shared_ptr<SoundService> server, Listener& listener,
                                  ReportSink& report)
     : m_server(std::move(server)),
       m_listener(listener),
       m_report(report),
-      m_volume(MaxVolume),
-      m_capture(std::make_shared<PulseCapture>(m_server->connection())),
+      m_volume(m_server->maximumVolume(SoundKind::Microphone)),
+      m_capture(m_server->createCapture()),
       m_retry(RetryDelay, [this] { updateCapture(); })
 {
-    PulseConnection& connection = m_server->connection();
-    connection.run([&connection, capture = m_capture] { connection.add(capture); });
-    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &SoundService::changed, &m_context, [this] { update(); });
     update();
 }
 
-PulseMicrophone::~PulseMicrophone()
+SoundMicrophone::~SoundMicrophone()
 {
     close();
-    PulseConnection& connection = m_server->connection();
-    connection.run([&connection, capture = m_capture] {
-        capture->close();
-        connection.remove(capture);
-    });
 }
 
-QString PulseMicrophone::currentName() const
+QString SoundMicrophone::currentName() const
 {
     const QString listed = nameIn(m_list, m_id);
     return listed.isEmpty() ? m_name : listed;
 }
 
-void PulseMicrophone::setCurrent(const QString& id)
+void SoundMicrophone::setCurrent(const QString& id)
 {
     m_chosenId = id;
     m_retry.forgetFailure();
     m_mailbox.sender().post([this] { update(); });
 }
 
-DeviceState PulseMicrophone::state() const
+DeviceState SoundMicrophone::state() const
 {
     if (m_chosenId && m_chosenId->isEmpty()) {
         return DeviceState::Off;
@@ -64,8 +56,8 @@ DeviceState PulseMicrophone::state() const
     if (!device()) {
         return DeviceState::Absent;
     }
-    if (m_retry.hasFailed()) {
-        return DeviceState::Failed;
+    if (const std::optional<DeviceState> failure = m_retry.failure()) {
+        return *failure;
     }
     if (!m_isCapturing) {
         return DeviceState::Ready;
@@ -76,18 +68,18 @@ DeviceState PulseMicrophone::state() const
     return m_hasHeardSound ? DeviceState::Working : DeviceState::Silent;
 }
 
-DeviceState PulseMicrophone::stateOf(const QString& id) const
+DeviceState SoundMicrophone::stateOf(const QString& id) const
 {
     return id == m_id ? state() : m_server->devices().microphones.stateOf(id);
 }
 
-void PulseMicrophone::open()
+void SoundMicrophone::open()
 {
     m_isOpen = true;
     updateCapture();
 }
 
-void PulseMicrophone::close()
+void SoundMicrophone::close()
 {
     if (m_isOpen && !m_isCapturing) {
         recordMeasurement(); // says why nothing was measured
@@ -97,34 +89,34 @@ void PulseMicrophone::close()
     updateListening();
 }
 
-void PulseMicrophone::setListening(bool on)
+void SoundMicrophone::setListening(bool on)
 {
     m_isListening = on;
     updateListening();
 }
 
-int PulseMicrophone::volumeOf(const QString& id) const
+int SoundMicrophone::volumeOf(const QString& id) const
 {
     return m_volume.percentOf(m_server->devices().microphones.volumeOf(id));
 }
 
-void PulseMicrophone::setVolume(int percent)
+void SoundMicrophone::setVolume(int percent)
 {
     if (device()) {
-        m_volume.await(m_server->setVolume(PulseKind::Microphone, m_id, m_volume.set(percent)));
+        m_volume.await(m_server->setVolume(SoundKind::Microphone, m_id, m_volume.set(percent)));
         m_mailbox.sender().post([this] { m_listener.microphoneVolumeChanged(volume()); });
     }
 }
 
-const PulseDevice* PulseMicrophone::device() const
+const SoundDevice* SoundMicrophone::device() const
 {
     return m_server->devices().microphones.find(m_id);
 }
 
 // As for speakers, the state changes before the listener is called.
-void PulseMicrophone::update()
+void SoundMicrophone::update()
 {
-    const PulseSide& microphones = m_server->devices().microphones;
+    const SoundSide& microphones = m_server->devices().microphones;
     const Mailbox::Sender sender = m_mailbox.sender();
     const DeviceList list = microphones.list();
     m_default.take(microphones.defaultName());
@@ -155,35 +147,35 @@ void PulseMicrophone::update()
     updateWorkState();
 }
 
-void PulseMicrophone::updateInfo(const PulseDevice* current, bool isOther)
+void SoundMicrophone::updateInfo(const SoundDevice* current, bool isOther)
 {
     const bool isArrival = isOther || (current && !m_isPresent);
     m_isPresent = current != nullptr;
     if (isArrival) {
-        m_volume.reset(current ? current->volumeState() : VolumeState());
+        m_volume.reset(current ? current->volume : VolumeState());
     }
-    const PulseDevice info = current ? *current : PulseDevice();
-    const bool isInfoChanged =
-        m_name != info.name || m_isMuted != info.isMuted || m_isAdjustable != info.isAdjustable;
+    const SoundDevice info = current ? *current : SoundDevice();
+    const bool isInfoChanged = m_name != info.name || m_isMuted != info.volume.isMuted ||
+                               m_isAdjustable != info.isAdjustable;
     if (current || isOther) {
         m_name = info.name;
-        m_isMuted = info.isMuted;
+        m_isMuted = info.volume.isMuted;
         m_isAdjustable = info.isAdjustable;
         if (isArrival || isInfoChanged) {
             m_mailbox.sender().post([this] { m_listener.microphoneInfoChanged(); });
         }
     }
     if (current && !isArrival &&
-        m_volume.take(current->volumeState(), m_server->devices().microphones.settledOrder)) {
+        m_volume.take(current->volume, m_server->devices().microphones.settledOrder)) {
         const auto percent =
-            static_cast<float>(current->isMuted ? 0.0 : current->volumeState().percent);
+            static_cast<float>(current->volume.isMuted ? 0.0 : current->volume.percent);
         m_mailbox.sender().post([this, percent] { m_listener.systemVolumeChanged(percent); });
     }
 }
 
 // Opens or closes the stream as needed. Whether the device is there is read from the device list:
 // some servers move the stream of a lost device to another one and don't report it.
-void PulseMicrophone::updateCapture()
+void SoundMicrophone::updateCapture()
 {
     const bool isWanted = m_isOpen && device();
     if (!isWanted) {
@@ -195,11 +187,11 @@ void PulseMicrophone::updateCapture()
     updateWorkState();
 }
 
-void PulseMicrophone::startCapture()
+void SoundMicrophone::startCapture()
 {
     m_isCapturing = true;
     m_hasStalled = false;
-    m_analysis = std::make_shared<MicrophoneAnalysis>(PulseCapture::Rate);
+    m_analysis = std::make_shared<MicrophoneAnalysis>(SoundCapture::Rate);
     const Mailbox::Sender sender = m_mailbox.sender();
     const int opening = ++m_opening;
     const auto post = [this, sender, opening](auto letter) {
@@ -209,7 +201,7 @@ void PulseMicrophone::startCapture()
             }
         });
     };
-    PulseCapture::Events events;
+    SoundCapture::Events events;
     events.metered.levelMeasured = [this, post](double level) {
         post([this, level] { m_listener.levelMeasured(level); });
     };
@@ -228,22 +220,19 @@ void PulseMicrophone::startCapture()
             updateWorkState();
         });
     };
-    events.failed = [this, post] {
-        post([this] {
+    events.failed = [this, post](DeviceState reason) {
+        post([this, reason] {
             endCapture();
-            m_retry.streamBroke();
+            m_retry.streamBroke(reason);
             updateWorkState();
         });
     };
-    m_server->connection().run(
-        [capture = m_capture, id = m_id, analysis = m_analysis, events = std::move(events)] {
-            capture->open(id, analysis, events);
-        });
+    m_capture->open(m_id, m_analysis, std::move(events));
     updateListening();
 }
 
 // The level drops at once. Messages that are still on their way belong to an ended opening.
-void PulseMicrophone::endCapture()
+void SoundMicrophone::endCapture()
 {
     if (!m_isCapturing) {
         return;
@@ -252,7 +241,7 @@ void PulseMicrophone::endCapture()
     m_isCapturing = false;
     ++m_opening;
     m_analysis.reset();
-    m_server->connection().run([capture = m_capture] { capture->close(); });
+    m_capture->close();
     m_mailbox.sender().post([this] {
         if (!m_isCapturing) {
             m_listener.levelMeasured(0.0);
@@ -260,16 +249,15 @@ void PulseMicrophone::endCapture()
     });
 }
 
-void PulseMicrophone::updateListening()
+void SoundMicrophone::updateListening()
 {
     const QString speakerId = m_isListening && m_isCapturing ? m_server->speakerId() : QString();
     if (std::exchange(m_listeningOn, speakerId) != speakerId) {
-        m_server->connection().run(
-            [capture = m_capture, speakerId] { capture->listenOn(speakerId); });
+        m_capture->listenOn(speakerId);
     }
 }
 
-void PulseMicrophone::updateWorkState()
+void SoundMicrophone::updateWorkState()
 {
     const bool usable = isUsable(state());
     if (m_wasUsable != usable || m_hadHeardSound != m_hasHeardSound) {
@@ -280,7 +268,7 @@ void PulseMicrophone::updateWorkState()
     }
 }
 
-void PulseMicrophone::recordMeasurement() const
+void SoundMicrophone::recordMeasurement() const
 {
     QJsonObject figures;
     if (m_analysis) {

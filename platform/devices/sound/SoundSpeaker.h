@@ -5,24 +5,24 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/SpeakerBackend.h"
-#include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/sound/DeviceVolume.h"
+#include "platform/devices/sound/SoundDevices.h"
 
 #include <QObject>
 #include <memory>
 
 namespace Platform {
 
-class PulseServer;
+class SoundService;
 class ReportSink;
 
 // The speakers of the sound server. A choice is valid in this program only; the default of the
 // server stays as it is. Every change reports the device, its volume and its mute.
-class PulseSpeaker final : public SpeakerBackend
+class SoundSpeaker final : public SpeakerBackend
 {
 public:
-    PulseSpeaker(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
-    ~PulseSpeaker() override;
+    SoundSpeaker(std::shared_ptr<SoundService> server, Listener& listener, ReportSink& report);
+    ~SoundSpeaker() override;
 
     QString currentId() const override { return m_id; }
     QString currentName() const override;
@@ -34,11 +34,11 @@ public:
     void setVolume(int percent) override;
 
 private:
-    const PulseDevice* device() const;
+    const SoundDevice* device() const;
     void update();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseServer> m_server;
+    std::shared_ptr<SoundService> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     SoundServerState m_serverState = SoundServerState::Starting;

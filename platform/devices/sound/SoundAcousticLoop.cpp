@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseAcousticLoop.h"
+#include "platform/devices/sound/SoundAcousticLoop.h"
 
-#include "platform/devices/pulse/PulseCapture.h"
-#include "platform/devices/pulse/PulsePlayback.h"
-#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/sound/SoundBuffer.h"
+#include "platform/devices/sound/SoundCapture.h"
+#include "platform/devices/sound/SoundPlayback.h"
+#include "platform/devices/sound/SoundService.h"
 #include "platform/devices/sound/Sweep.h"
 #include "platform/devices/sound/SweepRecording.h"
 
@@ -16,7 +16,7 @@ namespace Platform {
 
 namespace {
 
-constexpr unsigned Rate = PulseCapture::Rate;
+constexpr unsigned Rate = SoundCapture::Rate;
 
 std::shared_ptr<SoundBuffer> sweepSound()
 {
@@ -28,20 +28,20 @@ std::shared_ptr<SoundBuffer> sweepSound()
     return sound;
 }
 
-QString obstacleOf(const PulseDevice* device)
+QString obstacleOf(const SoundDevice* device)
 {
     if (!device) {
         return toString(DeviceState::Absent);
     }
-    if (device->isMuted) {
+    if (device->volume.isMuted) {
         return QStringLiteral("muted");
     }
-    return device->volumeState().percent > 0 ? QString() : QStringLiteral("volumeZero");
+    return device->volume.percent > 0 ? QString() : QStringLiteral("volumeZero");
 }
 
 } // namespace
 
-PulseAcousticLoop::PulseAcousticLoop(std::shared_ptr<PulseServer> server, QString speakerId,
+SoundAcousticLoop::SoundAcousticLoop(std::shared_ptr<SoundService> server, QString speakerId,
                                      QString microphoneId)
     : m_server(std::move(server)),
       m_speakerId(std::move(speakerId)),
@@ -54,19 +54,19 @@ PulseAcousticLoop::PulseAcousticLoop(std::shared_ptr<PulseServer> server, QStrin
         QObject::connect(&timer, &QTimer::timeout, &m_context, function);
     };
     after(m_deadline, LongestMs, [this] { fail(toString(DeviceState::Hung)); });
-    after(m_breakage, SettleMs, [this] { fail(toString(DeviceState::Failed)); });
+    after(m_breakage, SettleMs, [this] { fail(toString(m_breakageReason)); });
     after(m_echo, EchoMs, [this] { search(); });
     m_deadline.start();
-    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &SoundService::changed, &m_context, [this] { update(); });
     update();
 }
 
-PulseAcousticLoop::~PulseAcousticLoop()
+SoundAcousticLoop::~SoundAcousticLoop()
 {
     closeStreams();
 }
 
-void PulseAcousticLoop::update()
+void SoundAcousticLoop::update()
 {
     if (m_outcome || !m_server->isKnown()) {
         return;
@@ -79,9 +79,9 @@ void PulseAcousticLoop::update()
     }
 }
 
-QString PulseAcousticLoop::obstacle() const
+QString SoundAcousticLoop::obstacle() const
 {
-    const PulseDevices& devices = m_server->devices();
+    const SoundDevices& devices = m_server->devices();
     const QString trouble = toString(devices.server);
     if (!trouble.isEmpty()) {
         return trouble;
@@ -90,29 +90,27 @@ QString PulseAcousticLoop::obstacle() const
     return ofSpeaker.isEmpty() ? obstacleOf(devices.microphones.find(m_microphoneId)) : ofSpeaker;
 }
 
-void PulseAcousticLoop::record()
+void SoundAcousticLoop::record()
 {
-    PulseConnection& connection = m_server->connection();
     const Mailbox::Sender sender = m_mailbox.sender();
-    PulseCapture::Events events;
+    SoundCapture::Events events;
     events.metered.levelMeasured = [](double) {};
     events.metered.soundHeard = [] {};
     events.metered.deliveryChanged = [this, sender](bool delivers) {
         sender.post([this, delivers] { deliveryChanged(delivers); });
     };
-    events.failed = [this, sender] { sender.post([this] { m_breakage.start(); }); };
+    events.failed = [this, sender](DeviceState reason) {
+        sender.post([this, reason] { streamBroke(reason); });
+    };
     events.recorded = [recording = m_recording](const std::vector<float>& mono,
                                                 CaptureMeter::Clock::time_point now) {
         recording->add(mono, now);
     };
-    m_capture = std::make_shared<PulseCapture>(connection);
-    connection.run([&connection, capture = m_capture, id = m_microphoneId, events] {
-        connection.add(capture);
-        capture->open(id, std::make_shared<MicrophoneAnalysis>(Rate), events);
-    });
+    m_capture = m_server->createCapture();
+    m_capture->open(m_microphoneId, std::make_shared<MicrophoneAnalysis>(Rate), std::move(events));
 }
 
-void PulseAcousticLoop::deliveryChanged(bool delivers)
+void SoundAcousticLoop::deliveryChanged(bool delivers)
 {
     m_delivers = delivers;
     if (delivers && !m_playback && !m_outcome) {
@@ -120,42 +118,47 @@ void PulseAcousticLoop::deliveryChanged(bool delivers)
     }
 }
 
-void PulseAcousticLoop::play()
+void SoundAcousticLoop::play()
 {
-    PulseConnection& connection = m_server->connection();
-    m_playback = std::make_shared<PulsePlayback>(
-        connection, sweepSound(), [this, sender = m_mailbox.sender()](bool isGood) {
-            sender.post([this, isGood] { playbackEnded(isGood); });
-        });
-    connection.run([&connection, playback = m_playback, id = m_speakerId] {
-        connection.add(playback);
-        playback->playOn(id);
-    });
+    const auto ended = [this, sender = m_mailbox.sender()](std::optional<DeviceState> failure) {
+        sender.post([this, failure] { playbackEnded(failure); });
+    };
+    m_playback = m_server->createPlayback(sweepSound(), ended);
+    m_playback->playOn(m_speakerId);
 }
 
-void PulseAcousticLoop::playbackEnded(bool isGood)
+void SoundAcousticLoop::playbackEnded(std::optional<DeviceState> failure)
+{
+    if (failure) {
+        streamBroke(*failure);
+    } else if (!m_outcome) {
+        m_echo.start();
+    }
+}
+
+void SoundAcousticLoop::streamBroke(DeviceState reason)
 {
     if (!m_outcome) {
-        (isGood ? m_echo : m_breakage).start();
+        m_breakageReason = reason;
+        m_breakage.start();
     }
 }
 
 // On the sound thread: it has nothing else to do meanwhile, and the GUI thread never waits.
-void PulseAcousticLoop::search()
+void SoundAcousticLoop::search()
 {
     if (!m_delivers) {
         fail(toString(DeviceState::Hung));
         return;
     }
-    m_server->connection().run([this, sender = m_mailbox.sender(), capture = m_capture,
-                                playback = m_playback, recording = m_recording] {
-        capture->close();
-        const LoopOutcome found = recording->outcome(playback->begin());
-        sender.post([this, found] { finish(found); });
-    });
+    m_capture->close(
+        [this, sender = m_mailbox.sender(), begin = m_playback->begin(), recording = m_recording] {
+            const LoopOutcome found = recording->outcome(begin);
+            sender.post([this, found] { finish(found); });
+        });
 }
 
-void PulseAcousticLoop::finish(const LoopOutcome& outcome)
+void SoundAcousticLoop::finish(const LoopOutcome& outcome)
 {
     if (!m_outcome) {
         m_outcome = outcome;
@@ -166,26 +169,15 @@ void PulseAcousticLoop::finish(const LoopOutcome& outcome)
     }
 }
 
-void PulseAcousticLoop::fail(const QString& reason)
+void SoundAcousticLoop::fail(const QString& reason)
 {
     finish({LoopOutcome::Result::NotTried, 0, 0, reason});
 }
 
-void PulseAcousticLoop::closeStreams()
+void SoundAcousticLoop::closeStreams()
 {
-    PulseConnection& connection = m_server->connection();
-    if (m_capture) {
-        connection.run([&connection, capture = std::move(m_capture)] {
-            capture->close();
-            connection.remove(capture);
-        });
-    }
-    if (m_playback) {
-        connection.run([&connection, playback = std::move(m_playback)] {
-            playback->stop();
-            connection.remove(playback);
-        });
-    }
+    m_capture.reset();
+    m_playback.reset();
 }
 
 } // namespace Platform

@@ -1,79 +1,76 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulseSpeaker.h"
+#include "platform/devices/sound/SoundSpeaker.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/pulse/PulseServer.h"
+#include "platform/devices/sound/SoundService.h"
 
 #include <QJsonObject>
 #include <utility>
 
 namespace Platform {
 
-namespace {
-
-constexpr int MaxVolume = 100;
-
-} // namespace
-
-PulseSpeaker::PulseSpeaker(std::shared_ptr<PulseServer> server, Listener& listener,
+SoundSpeaker::SoundSpeaker(std::shared_ptr<SoundService> server, Listener& listener,
                            ReportSink& report)
-    : m_server(std::move(server)), m_listener(listener), m_report(report), m_volume(MaxVolume)
+    : m_server(std::move(server)),
+      m_listener(listener),
+      m_report(report),
+      m_volume(m_server->maximumVolume(SoundKind::Speaker))
 {
-    QObject::connect(m_server.get(), &PulseServer::changed, &m_context, [this] { update(); });
+    QObject::connect(m_server.get(), &SoundService::changed, &m_context, [this] { update(); });
     update();
 }
 
-PulseSpeaker::~PulseSpeaker()
+SoundSpeaker::~SoundSpeaker()
 {
     recordMeasurement();
 }
 
-QString PulseSpeaker::currentName() const
+QString SoundSpeaker::currentName() const
 {
     return nameIn(m_list, m_id);
 }
 
-void PulseSpeaker::setCurrent(const QString& id)
+void SoundSpeaker::setCurrent(const QString& id)
 {
     m_server->chooseSpeaker(id);
 }
 
-DeviceState PulseSpeaker::state() const
+DeviceState SoundSpeaker::state() const
 {
     if (!device()) {
         return DeviceState::Absent;
     }
-    return m_server->hasSpeakerFailed() ? DeviceState::Failed : DeviceState::Ready;
+    return m_server->speakerFailure().value_or(DeviceState::Ready);
 }
 
-DeviceState PulseSpeaker::stateOf(const QString& id) const
+DeviceState SoundSpeaker::stateOf(const QString& id) const
 {
     return id == m_id ? state() : m_server->devices().speakers.stateOf(id);
 }
 
-int PulseSpeaker::volumeOf(const QString& id) const
+int SoundSpeaker::volumeOf(const QString& id) const
 {
     return m_volume.percentOf(m_server->devices().speakers.volumeOf(id));
 }
 
-void PulseSpeaker::setVolume(int percent)
+void SoundSpeaker::setVolume(int percent)
 {
     if (device()) {
-        m_volume.await(m_server->setVolume(PulseKind::Speaker, m_id, m_volume.set(percent)));
+        m_volume.await(m_server->setVolume(SoundKind::Speaker, m_id, m_volume.set(percent)));
         recordMeasurement();
     }
 }
 
-const PulseDevice* PulseSpeaker::device() const
+const SoundDevice* SoundSpeaker::device() const
 {
     return m_server->devices().speakers.find(m_id);
 }
 
 // The state changes before the listener is called: it may ask anything and gets the new values.
-void PulseSpeaker::update()
+void SoundSpeaker::update()
 {
-    const PulseSide& speakers = m_server->devices().speakers;
+    const SoundSide& speakers = m_server->devices().speakers;
     const DeviceList list = speakers.list();
     m_default.take(speakers.defaultName());
     const QString id = m_server->speakerId();
@@ -93,10 +90,10 @@ void PulseSpeaker::update()
         sender.post([this] { m_listener.speakerListChanged(); });
     }
 
-    const PulseDevice* current = device();
+    const SoundDevice* current = device();
     if (isOther) {
-        m_volume.reset(current ? current->volumeState() : VolumeState());
-    } else if (current && m_volume.take(current->volumeState(), speakers.settledOrder)) {
+        m_volume.reset(current ? current->volume : VolumeState());
+    } else if (current && m_volume.take(current->volume, speakers.settledOrder)) {
         sender.post([this] { m_listener.speakerVolumeChanged(volume()); });
     }
     // Whoever refills a list of devices has to select the current device in it again.
@@ -112,7 +109,7 @@ void PulseSpeaker::update()
 }
 
 // At every change, so that a result finds what it was made of.
-void PulseSpeaker::recordMeasurement() const
+void SoundSpeaker::recordMeasurement() const
 {
     QJsonObject figures;
     if (!m_id.isEmpty()) {

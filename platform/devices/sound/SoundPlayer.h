@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/backend/DeviceInfo.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/PlayerBackend.h"
 
@@ -10,39 +11,40 @@
 #include <QTimer>
 #include <future>
 #include <memory>
+#include <optional>
 #include <thread>
 
 namespace Platform {
 
-class PulsePlayback;
-class PulseServer;
+class SoundPlayback;
+class SoundService;
 class ReportSink;
 class SoundBuffer;
 
 // Plays an MP3 file on the current speaker. A separate thread reads and decodes the file. Whatever
 // happens to the file, the device or the server, playbackFinished() comes in time.
-class PulsePlayer final : public PlayerBackend
+class SoundPlayer final : public PlayerBackend
 {
 public:
     // How long device and server may take beyond the length of the sound.
     static constexpr int GraceMs = 2000;
 
-    PulsePlayer(std::shared_ptr<PulseServer> server, const QString& path, float volume,
+    SoundPlayer(std::shared_ptr<SoundService> server, const QString& path, float volume,
                 Listener& listener, ReportSink& report);
-    ~PulsePlayer() override;
+    ~SoundPlayer() override;
 
 private:
     void startReading(const QString& path, float volume);
     void followSpeaker();
-    void playbackEnded(bool isGood);
+    void playbackEnded(std::optional<DeviceState> failure);
     void fail(const QString& reason); // in the report's words
     void finish();
 
-    std::shared_ptr<PulseServer> m_server;
+    std::shared_ptr<SoundService> m_server;
     Listener& m_listener;
     ReportSink& m_report; // what was played goes there
     std::shared_ptr<SoundBuffer> m_sound;
-    std::shared_ptr<PulsePlayback> m_playback;
+    std::unique_ptr<SoundPlayback> m_playback;
     QString m_speakerId;
     bool m_isFinished = false;
     std::thread m_reader;

@@ -5,8 +5,8 @@
 #include "platform/backend/DefaultDevice.h"
 #include "platform/backend/Mailbox.h"
 #include "platform/backend/MicrophoneBackend.h"
-#include "platform/devices/pulse/PulseDevices.h"
 #include "platform/devices/sound/DeviceVolume.h"
+#include "platform/devices/sound/SoundDevices.h"
 #include "platform/devices/sound/StreamRetry.h"
 
 #include <QObject>
@@ -16,17 +16,17 @@
 namespace Platform {
 
 class MicrophoneAnalysis;
-class PulseCapture;
-class PulseServer;
+class SoundCapture;
+class SoundService;
 class ReportSink;
 
 // The microphones of the sound server, and listening to oneself on the current speaker. Closing it
 // reports what was measured.
-class PulseMicrophone final : public MicrophoneBackend
+class SoundMicrophone final : public MicrophoneBackend
 {
 public:
-    PulseMicrophone(std::shared_ptr<PulseServer> server, Listener& listener, ReportSink& report);
-    ~PulseMicrophone() override;
+    SoundMicrophone(std::shared_ptr<SoundService> server, Listener& listener, ReportSink& report);
+    ~SoundMicrophone() override;
 
     DeviceList devices() const override { return m_list; }
     QString currentId() const override { return m_id; }
@@ -46,9 +46,9 @@ public:
     void setVolume(int percent) override;
 
 private:
-    const PulseDevice* device() const;
+    const SoundDevice* device() const;
     void update();
-    void updateInfo(const PulseDevice* current, bool isOther);
+    void updateInfo(const SoundDevice* current, bool isOther);
     void updateCapture();
     void updateListening();
     void updateWorkState();
@@ -56,7 +56,7 @@ private:
     void endCapture();
     void recordMeasurement() const;
 
-    std::shared_ptr<PulseServer> m_server;
+    std::shared_ptr<SoundService> m_server;
     Listener& m_listener;
     ReportSink& m_report;
     SoundServerState m_serverState = SoundServerState::Starting;
@@ -72,7 +72,7 @@ private:
 
     bool m_isOpen = false;
     bool m_isListening = false;
-    std::shared_ptr<PulseCapture> m_capture;
+    std::unique_ptr<SoundCapture> m_capture;
     std::shared_ptr<MicrophoneAnalysis> m_analysis;
     bool m_isCapturing = false;
     int m_opening = 0; // drops the messages of earlier openings

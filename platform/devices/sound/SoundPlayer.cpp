@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/pulse/PulsePlayer.h"
+#include "platform/devices/sound/SoundPlayer.h"
 
 #include "platform/backend/ReportSink.h"
-#include "platform/devices/pulse/PulsePlayback.h"
-#include "platform/devices/pulse/PulseServer.h"
 #include "platform/devices/sound/Mp3Decoder.h"
 #include "platform/devices/sound/SoundBuffer.h"
+#include "platform/devices/sound/SoundPlayback.h"
+#include "platform/devices/sound/SoundService.h"
 
 #include <QFileInfo>
 #include <QJsonObject>
@@ -26,7 +26,7 @@ const QLatin1String SoundKey("soundPlayed");
 
 } // namespace
 
-PulsePlayer::PulsePlayer(std::shared_ptr<PulseServer> server, const QString& path, float volume,
+SoundPlayer::SoundPlayer(std::shared_ptr<SoundService> server, const QString& path, float volume,
                          Listener& listener, ReportSink& report)
     : m_server(std::move(server)), m_listener(listener), m_report(report)
 {
@@ -37,19 +37,15 @@ PulsePlayer::PulsePlayer(std::shared_ptr<PulseServer> server, const QString& pat
     m_watchdog.start(GraceMs);
 
     startReading(path, volume);
-    QObject::connect(m_server.get(), &PulseServer::changed, &m_context,
+    QObject::connect(m_server.get(), &SoundService::changed, &m_context,
                      [this] { followSpeaker(); });
     followSpeaker();
 }
 
-PulsePlayer::~PulsePlayer()
+SoundPlayer::~SoundPlayer()
 {
-    m_sound->cancel();
-    PulseConnection& connection = m_server->connection();
-    connection.run([&connection, playback = m_playback] {
-        playback->stop();
-        connection.remove(playback);
-    });
+    m_sound->cancel(); // from here on, the reader doesn't call the playback
+    m_playback.reset();
     if (!m_reader.joinable()) {
         return;
     }
@@ -60,27 +56,19 @@ PulsePlayer::~PulsePlayer()
     }
 }
 
-void PulsePlayer::startReading(const QString& path, float volume)
+void SoundPlayer::startReading(const QString& path, float volume)
 {
-    PulseConnection& connection = m_server->connection();
     const Mailbox::Sender sender = m_mailbox.sender();
-    // The sound is created before its playback, so its callback finds the playback by this pointer.
-    const auto playback = std::make_shared<std::weak_ptr<PulsePlayback>>();
-    m_sound = std::make_shared<SoundBuffer>([this, &connection, sender, playback](bool hasEnded) {
-        connection.run([playback] {
-            if (const auto alive = playback->lock()) {
-                alive->soundAdvanced();
-            }
-        });
+    m_sound = std::make_shared<SoundBuffer>([this, sender](bool hasEnded) {
+        m_playback->soundAdvanced();
         if (hasEnded) {
             sender.post([this] { m_watchdog.start(m_sound->lengthMs() + GraceMs); });
         }
     });
-    m_playback = std::make_shared<PulsePlayback>(connection, m_sound, [this, sender](bool isGood) {
-        sender.post([this, isGood] { playbackEnded(isGood); });
-    });
-    *playback = m_playback;
-    connection.run([&connection, added = m_playback] { connection.add(added); });
+    const auto ended = [this, sender](std::optional<DeviceState> failure) {
+        sender.post([this, failure] { playbackEnded(failure); });
+    };
+    m_playback = m_server->createPlayback(m_sound, ended);
 
     // The reader shares nothing but the sound, so it can be abandoned if the disk hangs.
     std::packaged_task<void()> reading(
@@ -93,7 +81,7 @@ void PulsePlayer::startReading(const QString& path, float volume)
     }
 }
 
-void PulsePlayer::followSpeaker()
+void SoundPlayer::followSpeaker()
 {
     if (!m_server->isKnown()) {
         return;
@@ -102,23 +90,23 @@ void PulsePlayer::followSpeaker()
     if (id.isEmpty()) {
         m_mailbox.sender().post([this] { fail(toString(DeviceState::Absent)); });
     } else if (std::exchange(m_speakerId, id) != id) {
-        m_server->connection().run([playback = m_playback, id] { playback->playOn(id); });
+        m_playback->playOn(id);
     }
 }
 
-void PulsePlayer::playbackEnded(bool isGood)
+void SoundPlayer::playbackEnded(std::optional<DeviceState> failure)
 {
     if (!m_speakerId.isEmpty() && m_sound->size() > 0) {
-        m_server->setSpeakerFailed(m_speakerId, !isGood);
+        m_server->setSpeakerFailure(m_speakerId, failure);
     }
-    if (isGood && m_sound->size() > 0) {
+    if (!failure && m_sound->size() > 0) {
         finish();
     } else {
-        fail(toString(DeviceState::Failed));
+        fail(toString(failure.value_or(DeviceState::Failed)));
     }
 }
 
-void PulsePlayer::fail(const QString& reason)
+void SoundPlayer::fail(const QString& reason)
 {
     if (!m_isFinished) {
         m_report.recordMeasurement(Check,
@@ -127,7 +115,7 @@ void PulsePlayer::fail(const QString& reason)
     finish();
 }
 
-void PulsePlayer::finish()
+void SoundPlayer::finish()
 {
     if (!std::exchange(m_isFinished, true)) {
         m_watchdog.stop();

@@ -7,33 +7,29 @@
 #include "platform/devices/sound/DeviceVolume.h"
 
 #include <QString>
-#include <pulse/volume.h>
 #include <vector>
 
 namespace Platform {
 
-enum class PulseKind { Speaker, Microphone };
+enum class SoundKind { Speaker, Microphone };
 
-// Its id is the server's name of it, which outlives a replugging.
-struct PulseDevice : DeviceInfo
+// Its id outlives a replugging.
+struct SoundDevice : DeviceInfo
 {
-    pa_cvolume volume{};
-    bool isMuted = false;
+    VolumeState volume;
     bool isAdjustable = false;
     bool isTelephone = false; // a Bluetooth headset in the mode that sounds like a telephone
-
-    VolumeState volumeState() const;
 };
 
-// The devices of one kind. The server's dummy output and the monitors of speakers don't count.
-struct PulseSide
+// The devices of one kind. Stand-ins for a missing device and the monitors of speakers don't count.
+struct SoundSide
 {
-    std::vector<PulseDevice> devices;
+    std::vector<SoundDevice> devices;
     QString defaultId;
     // The volumes here contain all orders to set a volume up to this number.
     quint64 settledOrder = 0;
 
-    const PulseDevice* find(const QString& id) const;
+    const SoundDevice* find(const QString& id) const;
     DeviceState stateOf(const QString& id) const;  // Absent, or Ready to be opened
     VolumeState volumeOf(const QString& id) const; // 0 if it is absent
     // For users who chose nothing: the default device, or the first if there is no default.
@@ -43,22 +39,22 @@ struct PulseSide
 };
 
 // What the sound server has, at one moment.
-struct PulseDevices
+struct SoundDevices
 {
     bool isConnected = false;
     SoundServerState server = SoundServerState::Starting;
-    PulseSide speakers;
-    PulseSide microphones;
+    SoundSide speakers;
+    SoundSide microphones;
 
-    PulseSide& side(PulseKind kind);
-    const PulseSide& side(PulseKind kind) const;
+    SoundSide& side(SoundKind kind);
+    const SoundSide& side(SoundKind kind) const;
 };
 
 // The state of a device as reports call it. Trouble of its server says more than its own state.
 QString toString(SoundServerState server, DeviceState device);
 
-bool operator==(const PulseDevice& a, const PulseDevice& b);
-bool operator==(const PulseSide& a, const PulseSide& b);
-bool operator==(const PulseDevices& a, const PulseDevices& b);
+bool operator==(const SoundDevice& a, const SoundDevice& b);
+bool operator==(const SoundSide& a, const SoundSide& b);
+bool operator==(const SoundDevices& a, const SoundDevices& b);
 
 } // namespace Platform
