@@ -64,6 +64,13 @@ DeviceState WasapiError::stateOf(HRESULT error)
     return meaning ? meaning->state : DeviceState::Failed;
 }
 
+DeviceState WasapiError::failureOf(HRESULT error)
+{
+    const DeviceState state = stateOf(error);
+    const bool isTold = state == DeviceState::Denied || state == DeviceState::Busy;
+    return isTold ? state : DeviceState::Failed;
+}
+
 bool WasapiError::isServiceLost(HRESULT error)
 {
     const Meaning* meaning = meaningOf(error);

@@ -18,6 +18,10 @@ namespace WasapiError {
 // Failed. Failed is also the answer to what isn't known.
 DeviceState stateOf(HRESULT error);
 
+// What the user of a stream is told: Denied, Busy or Failed. Whether a device is absent is known
+// from the list of devices.
+DeviceState failureOf(HRESULT error);
+
 // Windows' audio service itself is gone, so no device can be used.
 bool isServiceLost(HRESULT error);
 
