@@ -61,6 +61,7 @@ void WasapiListenBack::openIfDue(Clock::time_point now)
         m_stream = std::move(result->stream);
         m_filter = std::make_unique<ListenBackFilter>(m_order.rate);
         m_hasStarted = false;
+        m_wasEmpty = false;
         if (!m_stream) {
             qCInfo(Log::devices) << "Listening to oneself doesn't start:"
                                  << WasapiError::toString(result->error);
@@ -69,26 +70,25 @@ void WasapiListenBack::openIfDue(Clock::time_point now)
     }
 }
 
+// An empty buffer isn't filled up with silence: what it lacked comes with the next packet. It is
+// noted once, since the filter measures again after each note.
 bool WasapiListenBack::write(const std::vector<float>& mono)
 {
     unsigned waiting = 0;
     if (FAILED(m_stream->padding(waiting))) {
         return false;
     }
-    const double fillMs = 1000.0 * waiting / m_order.rate;
-    if (m_hasStarted && waiting == 0) {
+    if (!m_hasStarted) {
+        m_hasStarted = true;
+        return put(std::vector<float>(ReserveMs * m_order.rate / 1000)) &&
+               put(m_filter->process(mono.data(), mono.size(), std::nullopt));
+    }
+    const bool isEmpty = waiting == 0;
+    if (isEmpty && !m_wasEmpty) {
         m_filter->noteUnderflow();
     }
-    if (!m_hasStarted || waiting == 0) {
-        if (!put(std::vector<float>(ReserveMs * m_order.rate / 1000))) {
-            return false;
-        }
-        waiting += ReserveMs * m_order.rate / 1000;
-    }
-    const std::vector<float>& sound = m_filter->process(
-        mono.data(), mono.size(), m_hasStarted ? std::optional(fillMs) : std::nullopt);
-    m_hasStarted = true;
-    return put(sound);
+    m_wasEmpty = isEmpty;
+    return put(m_filter->process(mono.data(), mono.size(), 1000.0 * waiting / m_order.rate));
 }
 
 // What doesn't fit in is dropped: the speaker is far behind then.

@@ -38,6 +38,7 @@ private:
     std::unique_ptr<ListenBackFilter> m_filter; // of this stream
     bool m_isOpening = false;
     bool m_hasStarted = false;
+    bool m_wasEmpty = false;      // the buffer, when the last packet came
     Clock::time_point m_openNext; // not before
     std::vector<float> m_frames;
 };

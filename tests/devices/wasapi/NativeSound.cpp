@@ -10,6 +10,8 @@ namespace TestSupport {
 namespace {
 
 constexpr int TimeoutMs = 10000;
+constexpr int RecordingMs = 20;
+constexpr int PlayingMs = 200; // a sound that a test plays mustn't tear
 
 // Such as "unix:/folder/native"; run-program sets it.
 QString address()
@@ -17,13 +19,15 @@ QString address()
     return qEnvironmentVariable("PULSE_SERVER");
 }
 
-QStringList rawFormat(const QString& device, int channels)
+QStringList rawFormat(const QString& device, int channels, int latencyMs)
 {
-    return {
-        QStringLiteral("--server=") + address(),    QStringLiteral("--raw"),
-        QStringLiteral("--device=") + device,       QStringLiteral("--format=float32le"),
-        QStringLiteral("--rate=%1").arg(SoundRate), QStringLiteral("--channels=%1").arg(channels),
-        QStringLiteral("--latency-msec=20")};
+    return {QStringLiteral("--server=") + address(),
+            QStringLiteral("--raw"),
+            QStringLiteral("--device=") + device,
+            QStringLiteral("--format=float32le"),
+            QStringLiteral("--rate=%1").arg(SoundRate),
+            QStringLiteral("--channels=%1").arg(channels),
+            QStringLiteral("--latency-msec=%1").arg(latencyMs)};
 }
 
 } // namespace
@@ -135,7 +139,7 @@ QByteArray NativeSoundServer::control(const QStringList& arguments)
 // Channels are taken as they are: the server mustn't mix them.
 NativeRecording::NativeRecording(const QString& device, int channels) : m_channels(channels)
 {
-    QStringList arguments = rawFormat(device, channels);
+    QStringList arguments = rawFormat(device, channels, RecordingMs);
     if (channels == 4) {
         arguments += QStringLiteral("--channel-map=front-left,front-right,rear-left,rear-right");
     }
@@ -173,7 +177,7 @@ QByteArray& NativeRecording::data()
 
 NativeSource::NativeSource(const QString& device, const std::vector<float>& samples)
 {
-    m_program.start(QStringLiteral("pacat"), rawFormat(device, 1));
+    m_program.start(QStringLiteral("pacat"), rawFormat(device, 1, PlayingMs));
     const auto bytes = static_cast<int>(samples.size() * sizeof(float));
     m_program.socket().write(QByteArray::number(bytes) + '\n');
     m_program.socket().write(reinterpret_cast<const char*>(samples.data()), bytes);
