@@ -24,6 +24,7 @@ namespace {
 
 constexpr int TimeoutMs = 10000;
 constexpr int Attempts = 3;
+constexpr double MaxLostSeconds = 0.1; // a fraction of the buffer
 constexpr double AlikeAtLeast = 0.95;
 constexpr double OthersAtMost = 0.5;
 constexpr int Openings = 3 * WasapiThread::MaxCount;
@@ -118,7 +119,8 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(play.outcome->count.load(), 1, TimeoutMs);
         QVERIFY(play.outcome->failure == DeviceState::Working);
         const double all = heardSeconds(first) + heardSeconds(second);
-        QVERIFY2(std::abs(all - Seconds) < 0.1, qPrintable(QString::number(all)));
+        qInfo("%.3f s heard", all);
+        QVERIFY2(std::abs(all - Seconds) < MaxLostSeconds, qPrintable(QString::number(all)));
     }
 
     void unpluggedAndPluggedAgain()
@@ -224,15 +226,18 @@ private:
         return play.playback.begin() != std::chrono::steady_clock::time_point();
     }
 
+    // Without the gaps of a busy machine.
     static double heardSeconds(NativeRecording& recording)
     {
+        constexpr std::size_t Moment = SoundRate / 100;
         const std::vector<float> samples = recording.samples();
-        const std::size_t begin = TestSupport::firstAbove(samples, TestSupport::Audible);
-        std::size_t end = samples.size();
-        while (end > begin && std::abs(samples[end - 1]) < TestSupport::Audible) {
-            --end;
+        double result = 0.0;
+        for (std::size_t from = 0; from + Moment <= samples.size(); from += Moment) {
+            const bool isHeard =
+                TestSupport::rms(samples, from, Moment) > double(TestSupport::Audible);
+            result += isHeard ? double(Moment) / SoundRate : 0.0;
         }
-        return static_cast<double>(end - begin) / SoundRate;
+        return result;
     }
 
     static bool plays(const QString& speaker)
