@@ -4,7 +4,7 @@
 
 #include "platform/devices/sound/Mp3Decoder.h"
 #include "platform/devices/sound/SoundBuffer.h"
-#include "tests/support/SoundRecording.h"
+#include "tests/support/Signals.h"
 
 #include <QDir>
 #include <cmath>
@@ -40,7 +40,7 @@ std::vector<float> readSound(const QString& path)
         return sum / format.channels;
     };
     std::vector<float> result;
-    const double step = static_cast<double>(format.rate) / SoundRecording::Rate;
+    const double step = static_cast<double>(format.rate) / SoundRate;
     for (double at = 0.0; at + 1.0 < static_cast<double>(frames); at += step) {
         const auto frame = static_cast<std::size_t>(at);
         const double part = at - std::floor(at);

@@ -11,7 +11,7 @@ namespace TestSupport {
 // The sounds of the speaker check.
 QStringList soundNames();
 QString soundPath(const QString& name);
-// One channel, at the sample rate of SoundRecording.
+// One channel, at SoundRate.
 std::vector<float> readSound(const QString& path);
 // Similarity of the recording and each of the sounds, in the order of soundNames().
 std::vector<double> compareWithSounds(const std::vector<float>& recording);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/Signals.h"
+
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QString>
@@ -10,13 +12,11 @@
 
 namespace TestSupport {
 
-constexpr float Audible = 0.003F; // -50 dBFS
-
 // Records a speaker or a microphone, beginning with its construction.
 class SoundRecording
 {
 public:
-    static constexpr int Rate = 48000;
+    static constexpr int Rate = SoundRate;
 
     // device: a source of the server, such as "speaker_a.monitor". Two channels without a map.
     explicit SoundRecording(const QString& device, const QString& channelMap = {});
@@ -62,16 +62,4 @@ private:
 std::vector<float> soundFile(const QString& path);
 // A synthetic voice that says the text.
 std::vector<float> speech(const QString& text);
-std::vector<float> silence(double seconds);
-std::vector<float> tone(double seconds, double frequency, double decibels);
-double rms(const std::vector<float>& samples, std::size_t from, std::size_t count);
-// Similarity, 0 to 1, of a sound and a recording of it. The recording is aligned by its first sound
-// and by a search for the best delay near it.
-double correlation(const std::vector<float>& recording, const std::vector<float>& sound);
-// The same for the course of the loudness, anywhere in the recording. A sound that clock drift made
-// a little longer still has the same loudness.
-double loudnessCorrelation(const std::vector<float>& recording, const std::vector<float>& sound);
-// Index of the first sample that is louder than the threshold; the size if there is none.
-std::size_t firstAbove(const std::vector<float>& samples, float threshold, std::size_t from = 0);
-
 } // namespace TestSupport

@@ -30,7 +30,8 @@ for wanted in bin/EnvCheck.dll lib/libEnvCheck.dll.a include/envcheck/agent/EnvC
     lib/cmake/EnvCheck/EnvCheckConfig.cmake bin/envcheck.exe bin/Qt5Widgets.dll bin/Qt5Svg.dll \
     bin/platforms/qwindows.dll bin/imageformats/qsvg.dll bin/qt.conf \
     bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm \
-    bin/ClassroomDevices.dll bin/Qt5Network.dll bin/libcares.dll bin/libnice-stun.dll \
+    bin/ClassroomDevices.dll bin/Qt5Network.dll bin/libcares.dll bin/libmpg123-0.dll bin/libnice-stun.dll \
+    share/doc/EnvCheck/licenses/{kissfft,libsamplerate,mpg123}/COPYING \
     share/doc/EnvCheck/licenses/c-ares.md share/doc/EnvCheck/licenses/libnice/COPYING.LGPL; do
     grep -qxF "$wanted" "$folder/content" || fail "Not in the zip: $wanted"
 done

@@ -18,15 +18,15 @@ compiler_folders()
     done
 }
 
-# start_wine FOLDER: makes FOLDER a place to run programs at: a Wine prefix and a display of its
-# own. Two programs at one place would take the focus from each other.
+# start_wine FOLDER: makes FOLDER a place to run programs at: a Wine prefix, a display and a sound
+# server of its own. Two programs at one place would take the focus from each other.
 start_wine()
 {
     local log=$1/log fonts='HKCU\Software\Wine\Fonts\Replacements'
     start_display
     echo "$DISPLAY" >"$1/display"
     : >"$1/lock"
-    mkdir "$1/prefix"
+    mkdir "$1/prefix" "$1/sound"
     WINEPREFIX=$1/prefix in_wine wineserver --persistent
     # Unmanaged windows: there is no window manager here, and Wine would wait two seconds for it at
     # every window that is shown or hidden. The font of the pages is one that Windows has.
@@ -50,7 +50,8 @@ in_wine() { WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=
 # wine_places: the folder that holds the places, each made by start_wine.
 #   ENVCHECK_WINE_PLACES
 #   wine_seconds: how long a program may take
-# run_in_wine PROGRAM ARGUMENT...: at the first place that is free.
+# run_in_wine PROGRAM ARGUMENT...: at the first place that is free. Its sound server, if a test starts
+# one, has its socket in the folder "sound" there; Wine takes it from the environment.
 run_in_wine()
 {
     local place lock status=0
@@ -58,8 +59,8 @@ run_in_wine()
         for place in "$ENVCHECK_WINE_PLACES"/*/; do
             exec {lock}<"$place/lock"
             if flock --nonblock "$lock"; then
-                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") in_wine timeout --foreground \
-                    "${wine_seconds:-1000}" wine "$@" {lock}<&- || status=$?
+                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") PULSE_SERVER=unix:${place}sound/native \
+                    in_wine timeout --foreground "${wine_seconds:-1000}" wine "$@" {lock}<&- || status=$?
                 exec {lock}<&-
                 return $status
             fi

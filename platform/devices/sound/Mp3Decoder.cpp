@@ -4,15 +4,10 @@
 
 #include "platform/backend/Log.h"
 #include "platform/devices/sound/SoundBuffer.h"
+#include "platform/devices/sound/SoundFile.h"
 
-#include <QFile>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
 #include <memory>
 #include <mpg123.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace Platform {
@@ -24,41 +19,10 @@ namespace {
 constexpr std::size_t FirstPieceSamples = 2304;
 constexpr std::size_t PieceSamples = 32768;
 
-struct FileCloser
-{
-    explicit FileCloser(int opened) : descriptor(opened) {}
-    ~FileCloser()
-    {
-        if (descriptor >= 0) {
-            ::close(descriptor);
-        }
-    }
-    FileCloser(const FileCloser&) = delete;
-    FileCloser& operator=(const FileCloser&) = delete;
-
-    int descriptor;
-};
-
 struct DecoderCloser
 {
     void operator()(mpg123_handle* handle) const { mpg123_delete(handle); }
 };
-
-// Why the file is refused; empty if it may be read.
-QString refusal(int descriptor)
-{
-    struct stat facts = {};
-    if (descriptor < 0 || ::fstat(descriptor, &facts) != 0) {
-        return QString::fromLocal8Bit(std::strerror(errno));
-    }
-    if (!S_ISREG(facts.st_mode)) {
-        return QStringLiteral("it is not a regular file");
-    }
-    if (facts.st_size > Mp3Decoder::MaxFileBytes) {
-        return QStringLiteral("it is larger than %1 bytes").arg(Mp3Decoder::MaxFileBytes);
-    }
-    return {};
-}
 
 // Returns an error, or an empty text if it read everything.
 QString readSound(int descriptor, float volume, SoundBuffer& buffer)
@@ -106,12 +70,10 @@ QString readSound(int descriptor, float volume, SoundBuffer& buffer)
 
 void Mp3Decoder::decode(const QString& path, float volume, SoundBuffer& buffer)
 {
-    // O_NONBLOCK: opening a pipe without a writer must not wait.
-    const FileCloser file(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    QString problem = refusal(file.descriptor);
+    const SoundFile file(path, MaxFileBytes);
+    QString problem = file.refusal();
     if (problem.isEmpty()) {
-        problem = readSound(file.descriptor, volume, buffer);
+        problem = readSound(file.descriptor(), volume, buffer);
     }
     if (!problem.isEmpty()) {
         qCInfo(Log::player) << "The sound" << path << "ends early:" << problem;

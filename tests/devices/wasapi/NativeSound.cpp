@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/devices/wasapi/NativeSound.h"
+
+#include <QTest>
+#include <cstring>
+
+namespace TestSupport {
+
+namespace {
+
+constexpr int TimeoutMs = 10000;
+constexpr int RecordingMs = 20;
+constexpr int PlayingMs = 200; // a sound that a test plays mustn't tear
+
+// Such as "unix:/folder/native"; run-program sets it.
+QString address()
+{
+    return qEnvironmentVariable("PULSE_SERVER");
+}
+
+QStringList rawFormat(const QString& device, int channels, int latencyMs)
+{
+    return {QStringLiteral("--server=") + address(),
+            QStringLiteral("--raw"),
+            QStringLiteral("--device=") + device,
+            QStringLiteral("--format=float32le"),
+            QStringLiteral("--rate=%1").arg(SoundRate),
+            QStringLiteral("--channels=%1").arg(channels),
+            QStringLiteral("--latency-msec=%1").arg(latencyMs)};
+}
+
+} // namespace
+
+NativeSoundServer::~NativeSoundServer()
+{
+    kill();
+}
+
+bool NativeSoundServer::start()
+{
+    const bool hasStarted = m_server.start(
+        QStringLiteral("pulseaudio"),
+        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+         QStringLiteral("--use-pid-file=no"), QStringLiteral("--exit-idle-time=-1"),
+         QStringLiteral("--realtime=no"), QStringLiteral("--high-priority=no"),
+         QStringLiteral("--log-target=stderr"),
+         QStringLiteral("--load=module-native-protocol-unix socket=%1 auth-anonymous=1 "
+                        "auth-cookie-enabled=0")
+             .arg(address().section(QLatin1Char(':'), 1))});
+    if (!hasStarted ||
+        !QTest::qWaitFor([] { return !control({QStringLiteral("info")}).isEmpty(); }, TimeoutMs)) {
+        return false;
+    }
+    const bool isWhole =
+        !plugSpeaker(QStringLiteral("speaker_a"), QStringLiteral("Test Speaker A")).isEmpty() &&
+        !plugSpeaker(QStringLiteral("voice"), QStringLiteral("Voice")).isEmpty();
+    m_speakerB = plugSpeaker(QStringLiteral("speaker_b"), QStringLiteral("Test Speaker B"));
+    m_microphoneA =
+        plugMicrophone(QStringLiteral("microphone_a"), QStringLiteral("Test Microphone A"));
+    return isWhole && !m_speakerB.isEmpty() && !m_microphoneA.isEmpty();
+}
+
+void NativeSoundServer::kill()
+{
+    if (m_server.isRunning()) {
+        m_server.order("kill", "ended");
+        m_server.end();
+    }
+}
+
+QByteArray NativeSoundServer::plugSpeaker(const QString& name, const QString& description)
+{
+    // Without norewinds this module works in blocks of two seconds.
+    return control(
+        {QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
+         QStringLiteral("norewinds=1"), QStringLiteral("sink_name=") + name,
+         QStringLiteral("rate=%1").arg(SoundRate), QStringLiteral("channels=2"),
+         QStringLiteral("sink_properties='device.description=\"%1\"'").arg(description)});
+}
+
+QByteArray NativeSoundServer::plugMicrophone(const QString& name, const QString& description)
+{
+    return control(
+        {QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
+         QStringLiteral("source_name=") + name, QStringLiteral("master=voice.monitor"),
+         QStringLiteral("source_properties='device.description=\"%1\"'").arg(description)});
+}
+
+void NativeSoundServer::unplug(const QByteArray& module)
+{
+    control({QStringLiteral("unload-module"), QString::fromLatin1(module)});
+}
+
+bool NativeSoundServer::plugBus()
+{
+    const QString front = QStringLiteral("front-left,front-right");
+    const QString rear = QStringLiteral("rear-left,rear-right");
+    const auto plug = [](const char* module, const QString& arguments, const char* description) {
+        const QStringList all = arguments.split(QLatin1Char(' '));
+        const QString kind = all.first().section(QLatin1Char('_'), 0, 0);
+        return !control(QStringList{QStringLiteral("load-module"), QString::fromLatin1(module),
+                                    QStringLiteral("%1_properties='device.description=\"%2\"'")
+                                        .arg(kind, QString::fromLatin1(description))} +
+                        all)
+                    .isEmpty();
+    };
+    const QString part = QStringLiteral("%1_name=bus_%2 master=%3 remix=no channels=2 "
+                                        "channel_map=%4 master_channel_map=%5");
+    return plug("module-null-sink",
+                QStringLiteral("sink_name=bus norewinds=1 rate=%1 channels=4 channel_map=%2,%3")
+                    .arg(SoundRate)
+                    .arg(front, rear),
+                "Bus") &&
+           plug("module-remap-sink",
+                part.arg(QStringLiteral("sink"), QStringLiteral("speaker"), QStringLiteral("bus"),
+                         front, front),
+                "Bus Speaker") &&
+           plug("module-remap-sink",
+                part.arg(QStringLiteral("sink"), QStringLiteral("voice"), QStringLiteral("bus"),
+                         front, rear),
+                "Bus Voice") &&
+           plug("module-remap-source",
+                part.arg(QStringLiteral("source"), QStringLiteral("microphone"),
+                         QStringLiteral("bus.monitor"), front, rear),
+                "Bus Microphone");
+}
+
+QByteArray NativeSoundServer::control(const QStringList& arguments)
+{
+    NativeProgram client;
+    const bool hasEnded =
+        client.start(QStringLiteral("pactl"),
+                     QStringList(QStringLiteral("--server=") + address()) + arguments) &&
+        QTest::qWaitFor([&client] { return !client.isRunning(); }, TimeoutMs);
+    return hasEnded ? client.socket().readAll().trimmed() : QByteArray();
+}
+
+// Channels are taken as they are: the server mustn't mix them.
+NativeRecording::NativeRecording(const QString& device, int channels) : m_channels(channels)
+{
+    QStringList arguments = rawFormat(device, channels, RecordingMs);
+    if (channels == 4) {
+        arguments += QStringLiteral("--channel-map=front-left,front-right,rear-left,rear-right");
+    }
+    m_program.start(QStringLiteral("parec"), arguments);
+}
+
+bool NativeRecording::waitForStart()
+{
+    return QTest::qWaitFor([this] { return !data().isEmpty(); }, TimeoutMs);
+}
+
+std::vector<float> NativeRecording::samples(int channel)
+{
+    const std::size_t frameSize = static_cast<std::size_t>(m_channels) * sizeof(float);
+    const QByteArray& all = data();
+    std::vector<float> result(static_cast<std::size_t>(all.size()) / frameSize);
+    for (std::size_t frame = 0; frame < result.size(); ++frame) {
+        const char* at = all.constData() + frame * frameSize;
+        std::memcpy(&result[frame], at + static_cast<std::size_t>(channel) * sizeof(float),
+                    sizeof(float));
+    }
+    return result;
+}
+
+double NativeRecording::seconds()
+{
+    return static_cast<double>(samples().size()) / SoundRate;
+}
+
+QByteArray& NativeRecording::data()
+{
+    m_data += m_program.socket().readAll();
+    return m_data;
+}
+
+NativeSource::NativeSource(const QString& device, const std::vector<float>& samples)
+{
+    m_program.start(QStringLiteral("pacat"), rawFormat(device, 1, PlayingMs));
+    const auto bytes = static_cast<int>(samples.size() * sizeof(float));
+    m_program.socket().write(QByteArray::number(bytes) + '\n');
+    m_program.socket().write(reinterpret_cast<const char*>(samples.data()), bytes);
+    m_program.socket().flush();
+}
+
+} // namespace TestSupport
