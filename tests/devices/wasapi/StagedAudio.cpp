@@ -136,6 +136,13 @@ public:
         m_stage->pass();
         const std::scoped_lock lock(m_stage->mutex);
         ++m_stage->lists;
+        *endpoints = nullptr;
+        if (SUCCEEDED(m_error)) {
+            m_error = m_stage->enumeratorError;
+        }
+        if (FAILED(m_error)) {
+            return m_error;
+        }
         std::vector<QString> ids;
         for (const AudioStage::Staged& staged : m_stage->all) {
             const DWORD state = staged.isPresent ? DEVICE_STATE_ACTIVE : DEVICE_STATE_UNPLUGGED;
@@ -144,7 +151,7 @@ public:
             }
         }
         *endpoints = new Endpoints(m_stage, std::move(ids));
-        return m_stage->enumeratorError;
+        return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetDefaultAudioEndpoint(EDataFlow flow, ERole role,
                                                       IMMDevice** endpoint) override
@@ -189,6 +196,7 @@ private:
     }
 
     std::shared_ptr<AudioStage> m_stage;
+    HRESULT m_error = S_OK; // guarded by the stage
 };
 
 class Factory final : public ComObject<IClassFactory>

@@ -37,7 +37,8 @@ public:
     void takeVolumeAway(const QString& id); // the endpoint has none, from the next plugging on
     Platform::VolumeState volumeOf(const QString& id) const;
 
-    void refuseEnumerator(HRESULT error); // S_OK: ends it
+    // S_OK ends it. An enumerator that was refused once has no endpoints any more.
+    void refuseEnumerator(HRESULT error);
     void refuseStreams(HRESULT error);
     void setHanging(bool hangs); // every call
     int hangingCalls() const;
