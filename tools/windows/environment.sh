@@ -50,8 +50,8 @@ in_wine() { WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=
 # wine_places: the folder that holds the places, each made by start_wine.
 #   ENVCHECK_WINE_PLACES
 #   wine_seconds: how long a program may take
-# run_in_wine PROGRAM ARGUMENT...: at the first place that is free. Its sound server, if a test starts
-# one, has its socket in the folder "sound" there; Wine takes it from the environment.
+#   wine_sound: the sound server; unless it is set, that of the place, if a test starts one there
+# run_in_wine PROGRAM ARGUMENT...: at the first place that is free.
 run_in_wine()
 {
     local place lock status=0
@@ -59,7 +59,7 @@ run_in_wine()
         for place in "$ENVCHECK_WINE_PLACES"/*/; do
             exec {lock}<"$place/lock"
             if flock --nonblock "$lock"; then
-                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") PULSE_SERVER=unix:${place}sound/native \
+                WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") PULSE_SERVER=${wine_sound:-unix:${place}sound/native} \
                     in_wine timeout --foreground "${wine_seconds:-1000}" wine "$@" {lock}<&- || status=$?
                 exec {lock}<&-
                 return $status

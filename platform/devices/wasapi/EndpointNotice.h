@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <atomic>
+#include <functional>
+
+#include <windows.h>
+// Must follow windows.h.
+#include <endpointvolume.h>
+#include <mmdeviceapi.h>
+
+namespace Platform {
+
+// Hears from Windows that an endpoint came or went, or has another name, default or volume, and
+// says only that something changed. Windows calls it on threads of its own, which must not wait,
+// and may keep it for a while after it was unregistered; so the function owns all that it uses.
+class EndpointNotice final : public IMMNotificationClient, public IAudioEndpointVolumeCallback
+{
+public:
+    explicit EndpointNotice(std::function<void()> changed);
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+
+    HRESULT STDMETHODCALLTYPE OnDeviceStateChanged(LPCWSTR id, DWORD state) override;
+    HRESULT STDMETHODCALLTYPE OnDeviceAdded(LPCWSTR id) override;
+    HRESULT STDMETHODCALLTYPE OnDeviceRemoved(LPCWSTR id) override;
+    HRESULT STDMETHODCALLTYPE OnDefaultDeviceChanged(EDataFlow flow, ERole role,
+                                                     LPCWSTR id) override;
+    HRESULT STDMETHODCALLTYPE OnPropertyValueChanged(LPCWSTR id, const PROPERTYKEY key) override;
+    HRESULT STDMETHODCALLTYPE OnNotify(PAUDIO_VOLUME_NOTIFICATION_DATA data) override;
+
+private:
+    ~EndpointNotice() = default; // by Release()
+    HRESULT changed() const;
+
+    std::atomic<ULONG> m_references{1};
+    const std::function<void()> m_changed;
+};
+
+} // namespace Platform
