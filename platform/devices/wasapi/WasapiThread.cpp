@@ -5,7 +5,6 @@
 #include "platform/backend/Log.h"
 
 #include <QLibrary>
-#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -21,7 +20,6 @@ namespace {
 struct Count
 {
     std::mutex mutex;
-    std::condition_variable fell;
     int value = 0;
 };
 
@@ -96,7 +94,6 @@ void endOne()
     Count& count = threads();
     const std::scoped_lock lock(count.mutex);
     --count.value;
-    count.fell.notify_all();
 }
 
 DWORD WINAPI threadMain(void* argument)
@@ -140,13 +137,6 @@ int WasapiThread::count()
     Count& count = threads();
     const std::scoped_lock lock(count.mutex);
     return count.value;
-}
-
-bool WasapiThread::waitForAll(std::chrono::milliseconds limit)
-{
-    Count& count = threads();
-    std::unique_lock lock(count.mutex);
-    return count.fell.wait_for(lock, limit, [&count] { return count.value == 0; });
 }
 
 } // namespace Platform

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
 #include <functional>
 
 namespace Platform {
@@ -23,8 +22,6 @@ enum class Priority {
 // then the job isn't run.
 bool run(Priority priority, std::function<void()> job);
 int count();
-// False if some still run after the limit.
-bool waitForAll(std::chrono::milliseconds limit);
 
 } // namespace WasapiThread
 } // namespace Platform
