@@ -7,6 +7,7 @@
 #include "platform/devices/pulse/PulseLoop.h"
 #include "platform/devices/pulse/PulseTimer.h"
 #include "platform/devices/sound/SoundDevices.h"
+#include "platform/devices/sound/VolumeOrder.h"
 
 #include <QHash>
 #include <cstddef>
@@ -48,12 +49,6 @@ public:
     void setVolume(SoundKind kind, const QString& id, int percent, quint64 order);
 
 private:
-    struct VolumeOrder
-    {
-        QString id;
-        int percent;
-        quint64 number;
-    };
     struct VolumeOrders
     {
         std::optional<VolumeOrder> underWay;

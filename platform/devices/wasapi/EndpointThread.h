@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/devices/sound/SoundDevices.h"
+#include "platform/devices/sound/VolumeOrder.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -39,12 +40,6 @@ public:
     bool waitForEnd(std::chrono::milliseconds limit);
 
 private:
-    struct VolumeOrder
-    {
-        QString id;
-        int percent;
-        quint64 number;
-    };
     struct VolumeOrders
     {
         std::optional<VolumeOrder> next; // guarded by m_mutex
