@@ -14,6 +14,7 @@ namespace {
 
 HANDLE handleOf(std::FILE* file)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): that is how the system gives it
     return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
 }
 

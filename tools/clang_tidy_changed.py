@@ -18,6 +18,7 @@ import sys
 import time
 
 KEPT_DAYS = 30
+GCC_ONLY = {"-fno-keep-inline-dllexport"}
 TOP = pathlib.Path.cwd()
 
 
@@ -72,14 +73,42 @@ def keys(build, files):
     return result
 
 
+def include_folders(compiler):
+    """Where a compiler looks for its own headers, as it says itself."""
+    said = subprocess.run([compiler, "-E", "-v", "-x", "c++", os.devnull],
+                          check=True, capture_output=True, text=True).stderr
+    listed = said.split("#include <...> search starts here:\n")[1].split("End of search list.")[0]
+    return [os.path.realpath(line.strip()) for line in listed.splitlines() if line.strip()]
+
+
+def database(build):
+    """The folder of a compile_commands.json that Clang understands: MinGW's is not."""
+    commands = json.loads((build / "compile_commands.json").read_text())
+    compiler = shlex.split(commands[0]["command"])[0]
+    if "mingw32" not in compiler:
+        return build
+    flags = ["--target=x86_64-w64-windows-gnu"]
+    # Clang has its own kind of the headers that belong to the compiler itself.
+    for folder in include_folders(compiler):
+        if "/gcc/" not in folder or "/c++" in folder:
+            flags += ["-isystem", folder]
+    for command in commands:
+        words = [word for word in shlex.split(command["command"]) if word not in GCC_ONLY]
+        command["command"] = shlex.join(words[:1] + flags + words[1:])
+    folder = build / "clang-tidy"
+    folder.mkdir(exist_ok=True)
+    (folder / "compile_commands.json").write_text(json.dumps(commands))
+    return folder
+
+
 def forget_old(cache):
     for entry in cache.iterdir():
         if time.time() - entry.stat().st_mtime > KEPT_DAYS * 86400:
             entry.unlink(missing_ok=True)
 
 
-def is_clean(build, file, marker):
-    run = subprocess.run(["clang-tidy", "-p", str(build), "--quiet", file],
+def is_clean(folder, file, marker):
+    run = subprocess.run(["clang-tidy", "-p", str(folder), "--quiet", file],
                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     print(run.stdout, end="", flush=True)
     if run.returncode == 0 and marker:
@@ -99,8 +128,9 @@ def main():
     for file in set(files) - set(changed):
         markers[file].touch()
     print(f"clang-tidy over {len(changed)} of {len(files)} files; the others were clean before", flush=True)
+    folder = database(build)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        verdicts = list(pool.map(lambda file: is_clean(build, file, markers[file]), changed))
+        verdicts = list(pool.map(lambda file: is_clean(folder, file, markers[file]), changed))
     return 0 if all(verdicts) else 1
 
 

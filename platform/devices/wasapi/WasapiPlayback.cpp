@@ -10,7 +10,7 @@
 
 namespace Platform {
 
-WasapiPlayback::WasapiPlayback(std::shared_ptr<SoundBuffer> sound, Finished finished)
+WasapiPlayback::WasapiPlayback(std::shared_ptr<SoundBuffer> sound, const Finished& finished)
     : m_playing(std::make_shared<WasapiPlaying>(std::move(sound), finished))
 {
     if (!WasapiThread::run(WasapiThread::Priority::RealTime,

@@ -15,7 +15,7 @@ class WasapiPlaying;
 class WasapiPlayback final : public SoundPlayback
 {
 public:
-    WasapiPlayback(std::shared_ptr<SoundBuffer> sound, Finished finished);
+    WasapiPlayback(std::shared_ptr<SoundBuffer> sound, const Finished& finished);
     ~WasapiPlayback() override;
 
     void playOn(const QString& speakerId) override;

@@ -49,7 +49,7 @@ std::unique_ptr<SoundCapture> WasapiServer::createCapture()
 std::unique_ptr<SoundPlayback> WasapiServer::createPlayback(std::shared_ptr<SoundBuffer> sound,
                                                             SoundPlayback::Finished finished)
 {
-    return std::make_unique<WasapiPlayback>(std::move(sound), std::move(finished));
+    return std::make_unique<WasapiPlayback>(std::move(sound), finished);
 }
 
 // None is to be had while too many hang. Without one, the ticks tell that Windows doesn't answer.
