@@ -176,7 +176,9 @@ class Room:
         wait_for(lambda: "delay" in content_of(results), "figures of the network")
         process.terminate()
         out, error = process.communicate(timeout=WAIT_SECONDS)
-        assert process.returncode == 2 and error == "", error
+        # A busy machine waits for the answer long enough to be told so.
+        failures = [line for line in error.splitlines() if not line.startswith("Sending the report to ")]
+        assert process.returncode == 2 and not failures, error
         return out
 
     def start_short(self, **how):
