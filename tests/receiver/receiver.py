@@ -22,6 +22,7 @@ sys.path.append(os.path.join(os.path.dirname(__file__), "../support"))
 from postgresql import SERVER_USER, Server
 
 TOKEN = "c2VjcmV0-of.the~room=="
+SENDING = "Sending the report to "
 MODULES = "/usr/lib/apache2/modules"
 WAIT_SECONDS = 20
 FRAME = """
@@ -141,6 +142,11 @@ class Receiver:
         return client.getresponse().status
 
 
+def failures_in(error):
+    """The lines of standard error, but that which tells that the program waits for an answer."""
+    return [line for line in error.splitlines() if not line.startswith(SENDING)]
+
+
 class Room:
     """A computer of the school: a home, and runs of the program in it."""
 
@@ -176,9 +182,7 @@ class Room:
         wait_for(lambda: "delay" in content_of(results), "figures of the network")
         process.terminate()
         out, error = process.communicate(timeout=WAIT_SECONDS)
-        # A busy machine waits for the answer long enough to be told so.
-        failures = [line for line in error.splitlines() if not line.startswith("Sending the report to ")]
-        assert process.returncode == 2 and not failures, error
+        assert process.returncode == 2 and failures_in(error) == [], error
         return out
 
     def start_short(self, **how):
@@ -197,8 +201,7 @@ class Room:
             assert process.returncode in ((0, 1, 69) if is_whole else (2,)), error
         for text in (out, error, *self.contents()):
             assert TOKEN not in text, "the token is told"
-        return [line for line in error.splitlines()
-                if self.receiver.url() in line and not line.startswith("Sending the report")]
+        return [line for line in failures_in(error) if self.receiver.url() in line]
 
     def contents(self):
         for path in glob.glob(self.home + "/**", recursive=True, include_hidden=True):
@@ -284,7 +287,7 @@ class Story:
         process = self.room.start_short()
         wait_for(self.room.waiting, "report in the outbox")
         for line in process.stderr:
-            if line.startswith("Sending the report"):
+            if line.startswith(SENDING):
                 break  # and so it is told, too
         process.kill()
         process.communicate()
