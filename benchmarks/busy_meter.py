@@ -32,6 +32,28 @@ class BusyMeter:
             return math.nan
 
 
+class PauseMeter:
+    """How busy the machine is while the measured program doesn't run: for one that keeps all
+    processors busy by itself. The share is that of the busiest pause."""
+    PAUSE_SECONDS = 1
+
+    def __init__(self):
+        self._shares = []
+
+    def anew(self):
+        self._shares.clear()
+        return self
+
+    def pause(self):
+        meter = BusyMeter()
+        time.sleep(self.PAUSE_SECONDS)
+        self._shares.append(meter.share())
+        return self._shares[-1]
+
+    def share(self):
+        return max(self._shares, default=math.nan)
+
+
 def judge(measure, meter=BusyMeter):
     """The exit code for measure(), which returns whether all bounds are kept, and is repeated on a
     busy machine."""

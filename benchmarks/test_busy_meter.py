@@ -7,6 +7,7 @@ import io
 import math
 import tempfile
 import unittest
+import unittest.mock
 
 import busy_meter
 
@@ -62,6 +63,15 @@ class BusyMeterTest(unittest.TestCase):
             file.flush()
             self.assertEqual(meter.share(), 1)
         self.assertTrue(math.isnan(busy_meter.BusyMeter("/nonexistent").share()))
+
+    def test_busiest_pause(self):
+        pauses = busy_meter.PauseMeter()
+        pauses.PAUSE_SECONDS = 0
+        shares = iter([0.1, 0.3, 0.2])
+        with unittest.mock.patch.object(busy_meter.BusyMeter, "share", lambda self: next(shares)):
+            self.assertEqual([pauses.pause(), pauses.pause(), pauses.pause()], [0.1, 0.3, 0.2])
+        self.assertEqual(pauses.share(), 0.3)
+        self.assertTrue(math.isnan(pauses.anew().share()))
 
 
 if __name__ == "__main__":
