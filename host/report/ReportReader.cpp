@@ -23,12 +23,13 @@ using ReportReader::Read;
 // What may be read and not yet handed over, in KiB of files.
 constexpr int ReadAheadKiB = 512;
 constexpr int BytesPerKiB = 1024;
-// Of one thread at a time: to wake another one for each small file would take longer than to read
+// At most so much is in one block: to wake a thread for each small file takes longer than to read
 // it.
 constexpr int BlockFiles = 16;
 constexpr int BlockKiB = 128;
 
-// The files in their order. A thread takes a block of them, and what it read waits for its turn.
+// Reads files on several threads, each a block of them at a time. The caller gets the blocks in the
+// order of the files.
 class ReadAhead
 {
 public:
@@ -50,7 +51,7 @@ public:
         }
     }
 
-    // The files from this one on; first is where the last block ended.
+    // The block that begins with this file: the next one after the last block.
     std::vector<Read> waitFor(int first)
     {
         std::unique_lock<std::mutex> lock(m_blocksLock);
@@ -119,13 +120,10 @@ void ReportReader::readAll(const QStringList& files, const Redaction& redaction,
     while (threads < wanted && Platform::DetachedThread::run([ahead] { ahead->work(); })) {
         ++threads;
     }
-    for (int i = 0; threads == 0 && i < files.size(); ++i) {
-        handOver(ahead->read(i));
-    }
-    for (int next = 0; threads > 0 && next < files.size();) {
-        for (const Read& read : ahead->waitFor(next)) {
-            handOver(read);
-            ++next;
-        }
+    for (int next = 0; next < files.size();) {
+        const std::vector<Read> reads =
+            threads > 0 ? ahead->waitFor(next) : std::vector<Read>{ahead->read(next)};
+        std::for_each(reads.begin(), reads.end(), handOver);
+        next += static_cast<int>(reads.size());
     }
 }

@@ -27,7 +27,7 @@ QString reasonOf(const Platform::DeliveryOutcome& outcome)
     if (outcome.isUnderWay) {
         return qtTrId("ID_Host_Upload_NoAnswer");
     }
-    if (outcome.status == 401 || outcome.status == 403) {
+    if (outcome.isTurnedAway) {
         return qtTrId("ID_Host_Upload_WrongToken").arg(outcome.status);
     }
     if (outcome.status > 0) {

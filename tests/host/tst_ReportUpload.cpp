@@ -44,6 +44,7 @@ DeliveryOutcome waiting(int status, const char* reason = "")
     DeliveryOutcome outcome;
     outcome.waiting = 1;
     outcome.status = status;
+    outcome.isTurnedAway = status == 401 || status == 403;
     outcome.reason = QString::fromLatin1(reason);
     return outcome;
 }

@@ -70,7 +70,7 @@ OutboxPoster::OutboxPoster(const ReportServer& server, const QString& folder,
       m_network(this)
 {
     m_request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    // Nobody else may get the report or the token.
+    // Redirects are not followed: another server must get neither the report nor the token.
     m_request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                            QNetworkRequest::ManualRedirectPolicy);
     if (!server.token.isEmpty()) {
@@ -111,7 +111,7 @@ void OutboxPoster::whenSettled(Settled settled)
 
 bool OutboxPoster::isSettled() const
 {
-    return !m_reply && (m_reports.empty() || m_retryTimer.isActive() || m_isTurnedAway);
+    return !m_reply && (m_reports.empty() || m_retryTimer.isActive() || m_outcome.isTurnedAway);
 }
 
 void OutboxPoster::tellSettled()
@@ -180,7 +180,7 @@ void OutboxPoster::writeRuns() const
 // run.
 QByteArray OutboxPoster::nextContent()
 {
-    while (!m_reply && !m_isTurnedAway && !m_reports.empty()) {
+    while (!m_reply && !m_outcome.isTurnedAway && !m_reports.empty()) {
         QByteArray content = m_reports.front().content;
         if (content.isEmpty()) {
             const QString path = QDir(m_folder).filePath(m_reports.front().fileName);
@@ -266,7 +266,7 @@ void OutboxPoster::finish(QNetworkReply* reply, const QString& fileName)
         postNext();
         return;
     case Answer::WrongToken:
-        m_isTurnedAway = true;
+        m_outcome.isTurnedAway = true;
         noteFailure(QStringLiteral("status %1, nothing more is posted").arg(status));
         tellSettled();
         return;

@@ -33,7 +33,7 @@ struct OutboxLimits
     qint64 maxHeadBytes = 0;
 };
 
-// Where reports go.
+// The server that reports are posted to.
 struct ReportServer
 {
     QUrl url;
@@ -93,8 +93,7 @@ private:
     QTimer m_retryTimer;
     std::vector<Settled> m_settled;
     DeliveryOutcome m_outcome;
-    bool m_isTurnedAway = false; // the server wants another token
-    QNetworkRequest m_request;   // without what differs between reports
+    QNetworkRequest m_request; // without what differs between reports
     QNetworkAccessManager m_network;
 };
 

@@ -9,8 +9,7 @@ namespace Platform {
 class ReportSink;
 class SoundService;
 
-// A sound system whose devices belong to a sound server. Without users it has no connection, no
-// thread and no device list.
+// Sound by way of a sound server. Without users it has no connection, no thread and no device list.
 class ServerSound : public SoundSystem
 {
 public:

@@ -28,7 +28,7 @@ public:
     struct Events
     {
         CaptureMeter::Events metered;
-        // The stream broke, or couldn't be opened: Failed, or Denied or Busy where the system
+        // The stream broke, or couldn't be opened: Failed, or Denied or Busy if the system
         // tells. Nothing else comes until open() is called again.
         std::function<void(DeviceState reason)> failed;
         // Each piece of sound, mixed to one channel; may be null.

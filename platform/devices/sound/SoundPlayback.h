@@ -18,7 +18,7 @@ class SoundPlayback
 public:
     // Called once on the sound thread, but not after stop() was carried out there: without a value
     // at the end of the sound, else with the reason: Failed if the device or the server broke or
-    // there is no sound to play, or Denied or Busy where the system tells.
+    // there is no sound to play, or Denied or Busy if the system tells.
     using Finished = std::function<void(std::optional<DeviceState> failure)>;
 
     virtual ~SoundPlayback() = default;

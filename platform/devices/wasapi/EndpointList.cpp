@@ -9,7 +9,7 @@
 #include <utility>
 
 #include <initguid.h>
-// Must follow initguid.h, which makes it define what it names.
+// Must follow initguid.h: only then does it define the property keys.
 #include <functiondiscoverykeys_devpkey.h>
 #include <propsys.h>
 

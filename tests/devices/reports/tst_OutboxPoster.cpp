@@ -200,6 +200,7 @@ void tst_OutboxPoster::answers()
     QCOMPARE(outcome.waiting, waiting);
     QCOMPARE(outcome.refused, refused);
     QCOMPARE(outcome.status, waiting + refused > 0 ? status.left(3).toInt() : 0);
+    QCOMPARE(outcome.isTurnedAway, status.startsWith("401") || status.startsWith("403"));
     QCOMPARE(outbox().size(), waiting);
     QCOMPARE(m_server->requests().size(), 1);
 }
