@@ -2,26 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/backend/DetachedThread.h"
 
-#include "platform/backend/Log.h"
-
 #include <future>
 #include <memory>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace Platform {
-
-bool DetachedThread::run(std::function<void()> job)
-{
-    try {
-        std::thread(std::move(job)).detach();
-        return true;
-    } catch (const std::system_error& error) {
-        qCWarning(Log::devices, "No thread can be made: %s", error.what());
-        return false;
-    }
-}
 
 bool DetachedThread::runWithin(std::chrono::milliseconds limit, std::function<void()> job)
 {

@@ -11,12 +11,15 @@
 using namespace Platform;
 using namespace std::chrono_literals;
 
+constexpr int Jobs = 500; // some are lost of so many if threads that end disturb those that begin
+
 class tst_DetachedThread : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void runsElsewhere();
+    void runsEachJob();
     void waitsForTheEnd();
     void leavesBehindWhatHangs();
 };
@@ -31,6 +34,15 @@ void tst_DetachedThread::runsElsewhere()
     }));
     QVERIFY(ended->tryAcquire(1, 10000));
     QVERIFY(*thread != QThread::currentThread());
+}
+
+void tst_DetachedThread::runsEachJob()
+{
+    for (int job = 0; job < Jobs; ++job) {
+        const auto ended = std::make_shared<QSemaphore>();
+        QVERIFY(DetachedThread::run([ended] { ended->release(); }));
+        QVERIFY2(ended->tryAcquire(1, 10000), qPrintable(QString::number(job)));
+    }
 }
 
 void tst_DetachedThread::waitsForTheEnd()
