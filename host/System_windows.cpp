@@ -92,8 +92,11 @@ bool System::hasBeenStopped()
     return false;
 }
 
+// Not by _Exit(): it ends the other threads, then tells every library of the end, and waits for
+// ever for a lock that one of those threads held. Some may hang in a driver.
 void System::leave(ExitCode code)
 {
     std::fflush(nullptr);
-    std::_Exit(static_cast<int>(code));
+    TerminateProcess(GetCurrentProcess(), static_cast<UINT>(code));
+    std::abort(); // never reached
 }
