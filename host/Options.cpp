@@ -70,6 +70,7 @@ constexpr Definition Definitions[] = {
     {"report-token-file", InCheck, "FILE", "ID_Host_Option_ReportTokenFile"},
     {"tour", InCheck, "FOLDER", "ID_Host_Option_Tour"},
     {"unattended", InCheck, nullptr, "ID_Host_Option_Unattended"},
+    {"diagnose", InCheck, "FILE.zip", "ID_Host_Option_Diagnose"},
     {"loop", InCheck, nullptr, "ID_Host_Option_Loop"},
     {"json", InDevices | InNetwork | InHistory, nullptr, "ID_Host_Option_Json"},
     {"count", InNetwork, "N", "ID_Host_Option_Count"},
@@ -209,6 +210,7 @@ private:
         readFile("files-from", m_options.filesFrom);
         readFile("results", m_options.resultsFile);
         readFile("report", m_options.reportFile);
+        readFile("diagnose", m_options.diagnosisFile);
         readFile("report-token-file", m_options.reportTokenFile);
         readFile("tour", m_options.tourFolder);
         readFile("scenario", m_options.scenario);
@@ -294,11 +296,18 @@ private:
         }
         m_options.redaction = level.value_or(Options::Redaction::None);
         m_options.isRedactionGiven = isSet("redact");
+        if (isSet("diagnose") && !m_options.isRedactionGiven) {
+            m_options.redaction = Options::Redaction::Personal; // it is made to be given away
+        }
     }
 
     void readOutputs()
     {
         checkEnding("results", {QStringLiteral("json")});
+        checkEnding("diagnose", {QStringLiteral("zip")});
+        if (m_options.diagnosisFile == Options::Output) {
+            failAt("diagnose", qtTrId("ID_Host_Takes_Ending").arg(QStringLiteral(".zip")));
+        }
         checkEnding("report", {QStringLiteral("json"), QStringLiteral("html"),
                                QStringLiteral("htm"), QStringLiteral("txt")});
         if (!m_options.resultsFile.isEmpty() &&
@@ -310,14 +319,15 @@ private:
 
     void readUnattended()
     {
-        m_options.isUnattended = isSet("unattended");
+        m_options.isUnattended = isSet("unattended") || isSet("diagnose");
         m_options.hasLoop = isSet("loop");
         if (m_options.hasLoop && !m_options.isUnattended) {
             fail(qtTrId("ID_Host_Usage_Needs").arg(option("loop"), option("unattended")));
         }
         for (const char* other : {"tour", "results", "quiet"}) {
             if (m_options.isUnattended && isSet(other)) {
-                failAtBoth("--unattended", qPrintable(QLatin1String("--") + option(other)));
+                failAtBoth(isSet("diagnose") ? "--diagnose" : "--unattended",
+                           qPrintable(QLatin1String("--") + option(other)));
             }
         }
     }
@@ -350,10 +360,16 @@ private:
     Options& m_options;
 };
 
-// With --unattended, --json names a file: the report. For other commands it has no value.
+// With --unattended or --diagnose, --json names a file: the report. For other commands it has no
+// value.
 QStringList withJsonFile(const QStringList& arguments)
 {
-    if (!arguments.contains(QLatin1String("--unattended"))) {
+    const bool isUnattended =
+        std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+            return argument == QLatin1String("--unattended") ||
+                   argument.section(QLatin1Char('='), 0, 0) == QLatin1String("--diagnose");
+        });
+    if (!isUnattended) {
         return arguments;
     }
     QStringList result = arguments;

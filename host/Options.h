@@ -24,9 +24,10 @@ struct Options
     QString server;   // Platform::StunServer reads it; empty: none is named here
     QString account;
     QString nickname;
-    QString cdn;         // "FIRST/SECOND"
-    QString resultsFile; // "-" is standard output
-    QString reportFile;  // empty: the default place
+    QString cdn;           // "FIRST/SECOND"
+    QString resultsFile;   // "-" is standard output
+    QString reportFile;    // empty: the default place
+    QString diagnosisFile; // an archive; empty: none
     QString reportUrl;
     QString reportTokenFile;
     QByteArray reportToken; // never from the command line, see ReportToken

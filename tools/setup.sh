@@ -6,7 +6,7 @@
 
 run_packages=(
     cmake ninja-build g++ ccache pkg-config
-    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
+    qtbase5-dev qtbase5-private-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libnice-dev libc-ares-dev libpulse-dev libmpg123-dev libsamplerate0-dev libkissfft-dev
     libpipewire-0.3-dev libspa-0.2-dev libyuv-dev libjpeg62-turbo-dev libutf8proc-dev
     libgstreamer1.0-dev libgstreamer-plugins-base1.0-dev libudev-dev
@@ -15,10 +15,10 @@ run_packages=(
     xvfb fonts-dejavu-core fonts-noto-core fonts-noto-cjk
 )
 test_packages=(
-    qtbase5-private-dev coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
+    coturn espeak-ng pulseaudio pulseaudio-utils pipewire pipewire-bin pipewire-pulse wireplumber
     libspa-0.2-modules libc-l10n umockdev libumockdev-dev dbus ffmpeg fluidsynth fluid-soundfont-gm
     postgresql sqlite3 openssl apache2-bin libapache2-mod-wsgi-py3 python3-psycopg2
-    dnsmasq-base python3 python3-numpy python3-scipy python3-jsonschema
+    dnsmasq-base unzip python3 python3-numpy python3-scipy python3-jsonschema
     binutils dpkg-dev file abigail-tools appstream desktop-file-utils
     bash-completion zsh fish
     openbox metacity xcompmgr xdotool x11-utils imagemagick weston qtwayland5 adwaita-qt qt5ct

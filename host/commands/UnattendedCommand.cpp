@@ -8,6 +8,8 @@
 #include "host/ProgramEnd.h"
 #include "host/TextTable.h"
 #include "host/commands/CheckCommand.h"
+#include "host/diagnosis/Diagnosis.h"
+#include "host/diagnosis/LogRecorder.h"
 #include "host/report/Figures.h"
 #include "host/report/Redaction.h"
 #include "host/report/Remedies.h"
@@ -92,6 +94,10 @@ ExitCode UnattendedCommand::run(const QString& language)
     if (!prepare()) {
         return ExitCode::CannotWrite;
     }
+    std::optional<LogRecorder> log;
+    if (!m_options.diagnosisFile.isEmpty()) {
+        log.emplace(m_options.isVerbose);
+    }
     InstalledEngine installed(m_options, Folders::data());
     if (!installed.error().isEmpty()) {
         Console::printError(installed.error());
@@ -105,6 +111,7 @@ ExitCode UnattendedCommand::run(const QString& language)
     if (!installed.prepare()) {
         return ExitCode::LeftEarly;
     }
+    const DeviceSurvey devices = log ? DeviceSurvey::of(installed.engine()) : DeviceSurvey();
     const auto figures = [&installed](CheckKind kind) {
         return installed.results()
             .value(Platform::ResultKeys::Measurements)[ReportWords::of(kind)]
@@ -117,11 +124,16 @@ ExitCode UnattendedCommand::run(const QString& language)
     ProgramEnd::begin();
     run.finished = QDateTime::currentDateTime();
     const Redaction redaction(m_options.redaction, m_redactionKey);
-    const Report report = redaction.redacted(
+    const Report plainReport =
         ReportBuilder::build(run, check.outcome(), check.checks(), check.networkFigures(),
-                             installed.engine().systemFacts()));
+                             installed.engine().systemFacts());
+    const Report report = redaction.redacted(plainReport);
     print(report);
-    const bool isWritten = write(report);
+    bool isWritten = write(report);
+    if (log) {
+        const Diagnosis diagnosis{devices, plainReport, log->content()};
+        isWritten = writeDiagnosis(diagnosis.toZip(redaction)) && isWritten;
+    }
     installed.post(report);
     return isWritten ? codeOf(report.outcome) : ExitCode::CannotWrite;
 }
@@ -129,6 +141,9 @@ ExitCode UnattendedCommand::run(const QString& language)
 bool UnattendedCommand::prepare()
 {
     QString problem = CheckCommand::problemOfWritingTo(m_options.reportFile);
+    if (problem.isEmpty()) {
+        problem = CheckCommand::problemOfWritingTo(m_options.diagnosisFile);
+    }
     if (problem.isEmpty() && m_options.redaction == Options::Redaction::Hash) {
         m_redactionKey = ReportFile::redactionKey(Folders::redactionKey(), &problem);
     }
@@ -166,4 +181,16 @@ bool UnattendedCommand::write(const Report& report) const
         Console::printError(problem);
     }
     return problem.isEmpty();
+}
+
+bool UnattendedCommand::writeDiagnosis(const QByteArray& archive) const
+{
+    const QString problem = CheckCommand::writeTo(m_options.diagnosisFile, archive);
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+        return false;
+    }
+    Console::printAside(qtTrId("ID_Host_ReportIsIn").arg(m_options.diagnosisFile) +
+                        QLatin1Char('\n'));
+    return true;
 }

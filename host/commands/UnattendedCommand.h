@@ -21,6 +21,7 @@ private:
     bool prepare();
     void print(const Report& report) const;
     bool write(const Report& report) const;
+    bool writeDiagnosis(const QByteArray& archive) const;
 
     Options m_options;
     QByteArray m_redactionKey;

@@ -8,6 +8,9 @@
 #include "platform/backend/ResultKeys.h"
 
 #include <QMessageAuthenticationCode>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -15,6 +18,13 @@ constexpr int CodeLength = 12;
 const QLatin1String Mark("#");
 // Facts of the machine that don't identify its user.
 const QStringList PlainFacts = {QStringLiteral("operatingSystem"), QStringLiteral("processor")};
+
+constexpr int LeastTextLength = 3; // a shorter one stands in many words
+const QLatin1String RemovedMark("[removed]");
+// IPv4; IPv6 and hardware addresses, but no times.
+const char* const Addresses =
+    R"((?<![\d.])(?:\d{1,3}\.){3}\d{1,3}(?!\.?\d)|)"
+    R"((?<![\w:])(?=[\da-f:]*::|(?:[\da-f]+:){4})(?:[\da-f]{0,4}:){2,7}[\da-f]{0,4}(?![\w:]))";
 
 // Whether a value of a change is a word or a figure, and no text of somebody's.
 bool isPlain(ChangedThing what, const QString& value)
@@ -116,6 +126,60 @@ QJsonObject Redaction::redactedValues(const QJsonObject& values) const
         }
     }
     return result;
+}
+
+DeviceSurvey Redaction::redacted(const DeviceSurvey& survey) const
+{
+    if (m_level == Options::Redaction::None) {
+        return survey;
+    }
+    DeviceSurvey result = survey;
+    for (DeviceSurvey::Devices* list : {&result.cameras, &result.microphones, &result.speakers}) {
+        for (DeviceSurvey::Device& device : *list) {
+            device.info.id = replaced(device.info.id);
+            device.info.name = replaced(device.info.name);
+        }
+    }
+    return result;
+}
+
+QString Redaction::redactedText(const QString& text, QStringList privateTexts) const
+{
+    if (m_level == Options::Redaction::None) {
+        return text;
+    }
+    const auto mark = [this](const QString& found) {
+        const QString code = replaced(found);
+        return code.isEmpty() ? QString(RemovedMark) : code;
+    };
+    // The longest first: another one may be a part of it.
+    privateTexts.removeDuplicates();
+    std::sort(privateTexts.begin(), privateTexts.end(),
+              [](const QString& a, const QString& b) { return a.size() > b.size(); });
+    QString result = text;
+    for (const QString& found : qAsConst(privateTexts)) {
+        if (found.size() >= LeastTextLength) {
+            result.replace(found, mark(found), Qt::CaseInsensitive);
+        }
+    }
+    static const QRegularExpression addresses(QLatin1String(Addresses),
+                                              QRegularExpression::CaseInsensitiveOption);
+    for (QRegularExpressionMatch match = addresses.match(result); match.hasMatch();
+         match = addresses.match(result, match.capturedStart() + 1)) {
+        result.replace(match.capturedStart(), match.capturedLength(), mark(match.captured()));
+    }
+    return result;
+}
+
+QStringList Redaction::privateFacts(const Report& report)
+{
+    QStringList texts;
+    for (auto fact = report.facts.begin(); fact != report.facts.end(); ++fact) {
+        if (!PlainFacts.contains(fact.key()) && fact.value().isString()) {
+            texts << fact.value().toString();
+        }
+    }
+    return texts;
 }
 
 QString Redaction::replaced(const QString& text) const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/DeviceSurvey.h"
 #include "host/Options.h"
 #include "host/report/Report.h"
 
@@ -22,6 +23,12 @@ public:
     Report redacted(const Report& report) const;
     // The document of a run, as --results writes it.
     QJsonObject redactedResults(const QJsonObject& document) const;
+    DeviceSurvey redacted(const DeviceSurvey& survey) const;
+    // Foreign text, such as a log: without these texts, if they have three characters or more, and
+    // without network addresses.
+    QString redactedText(const QString& text, QStringList privateTexts) const;
+    // The facts of a report that tell who and where its user is.
+    static QStringList privateFacts(const Report& report);
 
 private:
     QString replaced(const QString& text) const;

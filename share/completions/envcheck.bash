@@ -19,7 +19,7 @@ _envcheck()
             mapfile -t COMPREPLY < <(compgen -W "ar de en es fr ja ko pt_BR ru vi zh_CN zh_TW" -- "$cur")
             ;;
         --tour) _filedir -d ;;
-        --scenario | --results | --report | --report-token-file | --files-from) _filedir ;;
+        --scenario | --results | --report | --report-token-file | --diagnose | --files-from) _filedir ;;
         --server | --account | --nickname | --cdn | --report-url | --count | --port) ;;
         *)
             if [[ $cur == -* ]]; then

@@ -38,7 +38,7 @@ __envcheck_value redact -x -a 'none personal hash'
 __envcheck_value format -x -a 'text html json room map csv jsonl'
 __envcheck_value language -x -a 'ar de en es fr ja ko pt_BR ru vi zh_CN zh_TW'
 __envcheck_value tour -x -a '(__fish_complete_directories)'
-for name in scenario results report report-token-file files-from
+for name in scenario results report report-token-file diagnose files-from
     __envcheck_value $name -r -F
 end
 for name in server account nickname cdn report-url count port

@@ -967,6 +967,10 @@
         <source></source>
         <translation>الانتهاء بعد N قيم؛ ومن دونه يستمر الأمر حتى يُوقَف.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>يقيس كما يفعل --unattended ويجمع التقرير والأجهزة والإصدارات والسجل في FILE.zip لمن يبحث عن السبب. من دون --redact تُحذف الأسماء والعناوين.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>قراءة أسماء التقارير أيضًا من FILE، اسم في كل سطر؛ والعلامة - تعني الإدخال القياسي.</translation>

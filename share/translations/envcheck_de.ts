@@ -967,6 +967,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>Endet nach N Messwerten; sonst läuft der Befehl, bis er beendet wird.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Misst wie --unattended und packt Bericht, Geräte, Versionen und Protokoll in FILE.zip, für alle, die nach der Ursache suchen. Ohne --redact bleiben Namen und Adressen weg.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Nimmt die Namen von Berichten auch aus FILE, einen je Zeile; - ist die Standardeingabe.</translation>

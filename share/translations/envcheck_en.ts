@@ -967,6 +967,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>End after N figures; without it the command runs until it is stopped.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Measure as --unattended does, and pack report, devices, versions and the log into FILE.zip for those who look for the cause. Without --redact, names and addresses are left out.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Also take the names of reports from FILE, one on each line; - is standard input.</translation>

@@ -967,6 +967,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>Termina después de N valores; sin esta opción sigue hasta que se detiene.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Mide como --unattended y guarda el informe, los dispositivos, las versiones y el registro en FILE.zip para quien busque la causa. Sin --redact se omiten nombres y direcciones.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Toma los nombres de informes también de FILE, uno por línea; - es la entrada estándar.</translation>

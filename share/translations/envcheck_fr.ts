@@ -967,6 +967,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>S’arrête après N valeurs ; sans cette option, continue jusqu’à l’arrêt.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Mesure comme --unattended et réunit le rapport, les appareils, les versions et le journal dans FILE.zip pour ceux qui cherchent la cause. Sans --redact, noms et adresses sont omis.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Prend aussi les noms de rapports dans FILE, un par ligne ; - est l’entrée standard.</translation>

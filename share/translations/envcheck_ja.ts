@@ -967,6 +967,10 @@
         <source></source>
         <translation>N 個の値を表示したら終了します。指定しないと停止されるまで続けます。</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>--unattended と同じように測定し、レポート、機器、バージョン、ログを、原因を調べる人のために FILE.zip にまとめます。--redact がなければ、名前とアドレスは省かれます。</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>レポートの名前を FILE からも読み込みます（1 行に 1 つ）。- は標準入力です。</translation>

@@ -967,6 +967,10 @@
         <source></source>
         <translation>값 N개를 출력한 뒤 끝냅니다. 없으면 중지될 때까지 실행합니다.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>--unattended처럼 측정하고 보고서, 장치, 버전, 로그를 원인을 찾는 사람을 위해 FILE.zip에 담습니다. --redact가 없으면 이름과 주소는 빠집니다.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>보고서 이름을 FILE에서도 읽습니다(한 줄에 하나). -는 표준 입력입니다.</translation>

@@ -967,6 +967,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>Termina depois de N valores; sem esta opção, continua até ser interrompido.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Mede como --unattended e reúne o relatório, os dispositivos, as versões e o registro em FILE.zip para quem procura a causa. Sem --redact, nomes e endereços ficam de fora.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Lê também os nomes dos relatórios de FILE, um por linha; - é a entrada padrão.</translation>

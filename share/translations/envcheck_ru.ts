@@ -967,6 +967,10 @@
         <source></source>
         <translation>Завершить после N значений; иначе команда работает, пока её не остановят.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Измерить как с --unattended и упаковать отчёт, устройства, версии и журнал в FILE.zip для тех, кто ищет причину. Без --redact имена и адреса не включаются.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Брать имена отчётов также из FILE, по одному в строке; - означает стандартный ввод.</translation>

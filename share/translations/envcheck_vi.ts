@@ -967,6 +967,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>Kết thúc sau N số đo; nếu không, lệnh chạy cho đến khi bị dừng.</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>Đo như --unattended và gói báo cáo, thiết bị, phiên bản và nhật ký vào FILE.zip cho người tìm nguyên nhân. Không có --redact thì tên và địa chỉ được bỏ đi.</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>Lấy thêm tên các báo cáo từ FILE, mỗi dòng một tên; - là đầu vào chuẩn.</translation>

@@ -967,6 +967,10 @@
         <source></source>
         <translation>得到 N 个数值后结束；否则命令一直运行，直到被停止。</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>像 --unattended 一样测量，并把报告、设备、版本和日志打包到 FILE.zip，供查找原因的人使用。没有 --redact 时，不包含姓名和地址。</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>同时从 FILE 读取报告的名称，每行一个；- 表示标准输入。</translation>

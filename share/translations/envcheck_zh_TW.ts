@@ -967,6 +967,10 @@
         <source></source>
         <translation>得到 N 個數值後結束；否則指令會一直執行，直到被停止。</translation>
     </message>
+    <message id="ID_Host_Option_Diagnose">
+        <source></source>
+        <translation>像 --unattended 一樣測量，並將報告、裝置、版本和記錄檔打包到 FILE.zip，供查找原因的人使用。沒有 --redact 時，不包含姓名和位址。</translation>
+    </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
         <translation>同時從 FILE 讀取報告的名稱，每行一個；- 代表標準輸入。</translation>

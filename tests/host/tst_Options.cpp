@@ -270,6 +270,12 @@ void tst_Options::wrongOnes_data()
                                        << "some";
     QTest::newRow("loop with a person") << "--loop"
                                         << "--unattended";
+    QTest::newRow("diagnosis without its ending") << "--diagnose a.json"
+                                                  << ".zip";
+    QTest::newRow("diagnosis on the output") << "--diagnose -"
+                                             << ".zip";
+    QTest::newRow("diagnosis as a tour") << "--diagnose a.zip --tour b"
+                                         << "--tour";
     QTest::newRow("loop of another command") << "devices --loop"
                                              << "--loop";
     QTest::newRow("an argument too many") << "devices all"
@@ -313,10 +319,11 @@ void tst_Options::helpNamesEveryOption_data()
 {
     QTest::addColumn<Options::Command>("command");
     QTest::addColumn<QString>("options");
-    QTest::newRow("check") << Options::Command::Check
-                           << "platform scenario language server account nickname cdn results "
-                              "report report-url report-token-file tour unattended loop redact "
-                              "quiet verbose help version";
+    QTest::newRow("check")
+        << Options::Command::Check
+        << "platform scenario language server account nickname cdn results "
+           "report report-url report-token-file tour unattended diagnose loop redact "
+           "quiet verbose help version";
     QTest::newRow("devices") << Options::Command::Devices
                              << "platform scenario language json verbose help version";
     QTest::newRow("network") << Options::Command::Network

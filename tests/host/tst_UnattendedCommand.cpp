@@ -49,6 +49,8 @@ private Q_SLOTS:
     void loop();
     void noNoiseUnlessAskedFor();
     void severalDevices();
+    void diagnosis();
+    void diagnosisThatCantBeWritten();
     void signalEndsIt();
     void wrongUsage_data();
     void wrongUsage();
@@ -298,6 +300,32 @@ void tst_UnattendedCommand::severalDevices()
     QCOMPARE(m_error, QString());
 }
 
+void tst_UnattendedCommand::diagnosis()
+{
+    const QTemporaryDir folder;
+    const QString archive = folder.filePath(QStringLiteral("for support.zip"));
+    start(Devices().scenario(),
+          {QStringLiteral("--diagnose"), archive, QStringLiteral("--json=-")});
+    QCOMPARE(finish(), 0);
+    QVERIFY2(m_error.contains(archive), qPrintable(m_error));
+    QProcess unzip;
+    unzip.start(QStringLiteral("unzip"),
+                {QStringLiteral("-p"), archive, QStringLiteral("report.json")});
+    QVERIFY(unzip.waitForFinished(TimeoutMs));
+    QCOMPARE(QString::fromUtf8(unzip.readAllStandardOutput()), m_out);
+    QCOMPARE(report().redaction, Options::Redaction::Personal); // it is made to be given away
+    QCOMPARE(QFile::permissions(archive) & (QFile::ReadGroup | QFile::ReadOther),
+             QFile::Permissions());
+}
+
+void tst_UnattendedCommand::diagnosisThatCantBeWritten()
+{
+    start(Devices().scenario(), {QStringLiteral("--diagnose=/nowhere/a.zip")});
+    QCOMPARE(finish(), 73);
+    QVERIFY2(m_error.contains(QLatin1String("/nowhere/a.zip")), qPrintable(m_error));
+    QCOMPARE(m_error.count(QLatin1Char('\n')), 1);
+}
+
 void tst_UnattendedCommand::signalEndsIt()
 {
     const QTemporaryDir folder;
@@ -328,6 +356,7 @@ void tst_UnattendedCommand::wrongUsage_data()
     QTest::newRow("tour") << "--tour=/tmp/x";
     QTest::newRow("quiet") << "--quiet";
     QTest::newRow("no file") << "--json";
+    QTest::newRow("diagnosis") << "--diagnose=/tmp/x.json";
     QTest::newRow("ending") << "--json=/tmp/x.csv";
 }
 
