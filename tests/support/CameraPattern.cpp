@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/CameraPattern.h"
 
-#include <QBuffer>
+#include "tests/support/JpegEncoder.h"
+
 #include <QImage>
 
 namespace TestSupport {
@@ -232,10 +233,7 @@ QByteArray CameraPattern::jpeg(int number) const
             line[x] = pixel(x, y < topRows, number);
         }
     }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPG", 90);
-    return buffer.data();
+    return encodeJpeg(image, 90);
 }
 
 } // namespace TestSupport

@@ -31,7 +31,8 @@ for wanted in bin/EnvCheck.dll lib/libEnvCheck.dll.a include/envcheck/agent/EnvC
     bin/platforms/qwindows.dll bin/imageformats/qsvg.dll bin/qt.conf \
     bin/translations/envcheck_zh_CN.qm bin/translations/qtbase_zh_CN.qm \
     bin/ClassroomDevices.dll bin/Qt5Network.dll bin/libcares.dll bin/libmpg123-0.dll bin/libnice-stun.dll \
-    share/doc/EnvCheck/licenses/{kissfft,libsamplerate,mpg123}/COPYING \
+    bin/libjpeg-62.dll bin/libyuv.dll share/doc/EnvCheck/licenses/{kissfft,libsamplerate,mpg123}/COPYING \
+    share/doc/EnvCheck/licenses/libjpeg-turbo/README.ijg share/doc/EnvCheck/licenses/libyuv/LICENSE \
     share/doc/EnvCheck/licenses/c-ares.md share/doc/EnvCheck/licenses/libnice/COPYING.LGPL; do
     grep -qxF "$wanted" "$folder/content" || fail "Not in the zip: $wanted"
 done
