@@ -18,8 +18,9 @@ install(FILES ${PROJECT_BINARY_DIR}/qt.conf DESTINATION ${CMAKE_INSTALL_BINDIR})
 foreach(library Core Gui Network Svg Widgets)
     install(FILES ${qt_folder}/bin/Qt5${library}.dll DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
-install(FILES ${qt_folder}/bin/libcares.dll ${qt_folder}/bin/libmpg123-0.dll ${qt_folder}/bin/libnice-stun.dll
-    DESTINATION ${CMAKE_INSTALL_BINDIR})
+foreach(library libcares libjpeg-62 libmpg123-0 libnice-stun libyuv)
+    install(FILES ${qt_folder}/bin/${library}.dll DESTINATION ${CMAKE_INSTALL_BINDIR})
+endforeach()
 foreach(runtime libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime}.dll
         OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -34,7 +35,7 @@ install(FILES ${qt_folder}/share/utf8proc/LICENSE.md
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses RENAME utf8proc.md)
 install(FILES ${qt_folder}/share/c-ares/LICENSE.md
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses RENAME c-ares.md)
-foreach(library kissfft libnice libsamplerate mpg123)
+foreach(library kissfft libjpeg-turbo libnice libsamplerate libyuv mpg123)
     install(DIRECTORY ${qt_folder}/share/${library} DESTINATION ${CMAKE_INSTALL_DOCDIR}/licenses)
 endforeach()
 

@@ -30,7 +30,7 @@ fuzz_packages=(clang libclang-rt-dev)
 debian_packages=(debhelper dpkg-dev git lintian mmdebstrap)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(
-    g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 fonts-wine unzip make dpkg-dev
+    g++-mingw-w64-x86-64-posix mingw-w64-tools nasm wine wine64 fonts-wine unzip make dpkg-dev
     coturn dnsmasq-base python3 pulseaudio pulseaudio-utils
 )
 

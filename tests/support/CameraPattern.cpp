@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/CameraPattern.h"
 
-#include <QBuffer>
+#include "tests/support/JpegEncoder.h"
+
 #include <QImage>
 
 namespace TestSupport {
@@ -15,6 +16,8 @@ constexpr int TopShare = 8; // of the height
 constexpr int StepShare = 32;
 const QRgb Band = qRgb(0, 0, 255);
 const QRgb Bar = qRgb(255, 255, 255);
+const QRgb Red = qRgb(255, 0, 0);
+const QRgb Green = qRgb(0, 255, 0);
 const QRgb Zero = qRgb(0, 0, 0);
 
 const char* const FormatNames[] = {"YUY2", "UYVY", "NV12", "I420", "RGB",   "BGR",
@@ -104,12 +107,12 @@ QByteArray CameraPattern::frame(int number) const
         return jpeg(number);
     }
     const int height = m_size.height();
-    const int topRows = m_isNumbered ? height / TopShare : 0;
+    const int topHeight = topRows();
     const QByteArray top = row(number, true);
     const QByteArray rest = row(number, false);
     QByteArray result;
     for (int y = 0; y < height; ++y) {
-        result += y < topRows ? top : rest;
+        result += y < topHeight ? top : rest;
     }
     if (!isPlanar()) {
         return result;
@@ -121,7 +124,7 @@ QByteArray CameraPattern::frame(int number) const
         const QByteArray topChroma = chromaRow(number, true, isV);
         const QByteArray restChroma = chromaRow(number, false, isV);
         for (int y = 0; y < halfUp(height); ++y) {
-            result += 2 * y < topRows ? topChroma : restChroma;
+            result += 2 * y < topHeight ? topChroma : restChroma;
         }
     }
     return result;
@@ -139,9 +142,20 @@ CameraPattern::Yuv CameraPattern::toYuv(QRgb color)
             static_cast<uchar>(byte(128.0 + 224.0 * (r - y) / 1.402))};
 }
 
+int CameraPattern::topRows() const
+{
+    if (m_hasQuadrants) {
+        return m_size.height() / 2;
+    }
+    return m_isNumbered ? m_size.height() / TopShare : 0;
+}
+
 QRgb CameraPattern::pixel(int x, bool isTop, int number) const
 {
     const int width = m_size.width();
+    if (m_hasQuadrants) {
+        return quadrantPixel(x, isTop, number);
+    }
     if (isTop && m_isNumbered) {
         const int block = x * NumberBits / width;
         return (number >> block) & 1 ? Bar : Zero;
@@ -156,6 +170,15 @@ QRgb CameraPattern::pixel(int x, bool isTop, int number) const
     const int bar =
         width / BandShare + (number * width / StepShare) % (width - width / BandShare - barWidth);
     return x >= bar && x < bar + barWidth ? Bar : m_color.rgb();
+}
+
+QRgb CameraPattern::quadrantPixel(int x, bool isTop, int number) const
+{
+    const bool isLeft = x < m_size.width() / 2;
+    if (isTop && x < m_size.width() / BandShare) {
+        return number % 2 == 0 ? Zero : Bar;
+    }
+    return isTop ? (isLeft ? Red : Green) : (isLeft ? Band : Bar);
 }
 
 QByteArray CameraPattern::row(int number, bool isTop) const
@@ -225,17 +248,14 @@ QByteArray CameraPattern::chromaRow(int number, bool isTop, bool isV) const
 QByteArray CameraPattern::jpeg(int number) const
 {
     QImage image(m_size, QImage::Format_RGB32);
-    const int topRows = m_isNumbered ? m_size.height() / TopShare : 0;
+    const int topHeight = topRows();
     for (int y = 0; y < m_size.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < m_size.width(); ++x) {
-            line[x] = pixel(x, y < topRows, number);
+            line[x] = pixel(x, y < topHeight, number);
         }
     }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPG", 90);
-    return buffer.data();
+    return encodeJpeg(image, 90);
 }
 
 } // namespace TestSupport

@@ -33,6 +33,9 @@ public:
     void setColor(const QColor& color) { m_color = color; }
     void setBlack() { m_isBlack = true; }
     void setNumbered(bool on) { m_isNumbered = on; }
+    // Instead of all that: red and green above blue and white. The left edge of the upper half is
+    // black in even frames and white in odd ones.
+    void setQuadrants() { m_hasQuadrants = true; }
 
     QByteArray frame(int number) const;
 
@@ -44,7 +47,9 @@ private:
 
     static Yuv toYuv(QRgb color);
 
+    int topRows() const; // those that differ from the others
     QRgb pixel(int x, bool isTop, int number) const;
+    QRgb quadrantPixel(int x, bool isTop, int number) const;
     QByteArray row(int number, bool isTop) const;
     QByteArray chromaRow(int number, bool isTop, bool isV) const;
     QByteArray jpeg(int number) const;
@@ -57,6 +62,7 @@ private:
     QColor m_color = QColor(200, 40, 40);
     bool m_isNumbered = false;
     bool m_isBlack = false;
+    bool m_hasQuadrants = false;
 };
 
 } // namespace TestSupport

@@ -47,10 +47,22 @@ end_wine() { WINEPREFIX=$1/prefix in_wine wineserver --kill 2>/dev/null || true;
 # in_wine COMMAND...: quiet, and without the questions for what Wine could install.
 in_wine() { WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=' "$@"; }
 
+# put_cameras PREFIX: whoever sets ENVCHECK_WINE_CAMERAS gets that DLL as the system's, all others Wine's own.
+put_cameras()
+{
+    local system=$1/drive_c/windows/system32/mf.dll
+    [ ! -e "$system.own" ] || mv "$system.own" "$system"
+    if [ -n "${ENVCHECK_WINE_CAMERAS:-}" ]; then
+        mv "$system" "$system.own"
+        cp "$ENVCHECK_WINE_CAMERAS" "$system"
+    fi
+}
+
 # wine_places: the folder that holds the places, each made by start_wine.
 #   ENVCHECK_WINE_PLACES
 #   wine_seconds: how long a program may take
 #   wine_sound: the sound server; unless it is set, that of the place, if a test starts one there
+#   ENVCHECK_WINE_CAMERAS: an mf.dll with cameras for tests, instead of the system's
 # run_in_wine PROGRAM ARGUMENT...: at the first place that is free.
 run_in_wine()
 {
@@ -59,6 +71,7 @@ run_in_wine()
         for place in "$ENVCHECK_WINE_PLACES"/*/; do
             exec {lock}<"$place/lock"
             if flock --nonblock "$lock"; then
+                put_cameras "${place}prefix"
                 WINEPREFIX=${place}prefix DISPLAY=$(<"$place/display") PULSE_SERVER=${wine_sound:-unix:${place}sound/native} \
                     in_wine timeout --foreground "${wine_seconds:-1000}" wine "$@" {lock}<&- || status=$?
                 exec {lock}<&-

@@ -17,7 +17,8 @@ enum class CameraServer {
     Answers,
     Denies,
     Lost,
-    Missing, // none answers, and the list comes from the system itself
+    Missing,  // none answers, and the list comes from the system itself
+    NotBuilt, // the system lacks what the engine needs for cameras
 };
 
 // What one user of the cameras gets from a system: the list, and the frames of one camera, which go

@@ -136,6 +136,9 @@ CameraCause DeviceCamera::cause() const
 
 SoundServerState DeviceCamera::serverState() const
 {
+    if (m_server == CameraServer::NotBuilt) {
+        return SoundServerState::NotBuilt;
+    }
     // The system itself lists cameras, too: then nobody misses the server.
     const bool isMissed = m_server == CameraServer::Missing && m_devices.empty();
     if (m_server == CameraServer::Lost || isMissed) {
@@ -263,7 +266,9 @@ void DeviceCamera::recordMeasurement()
 {
     // If the camera was switched off, the slot still has the figures of the one before.
     QJsonObject figures = m_currentId.isEmpty() ? QJsonObject() : m_slot->figures();
-    figures.insert(QStringLiteral("state"), toString(state()));
+    const bool isNotBuilt = m_server == CameraServer::NotBuilt; // which is not that there is none
+    figures.insert(QStringLiteral("state"),
+                   isNotBuilt ? toString(CameraCause::Kind::NotBuilt) : toString(state()));
     figures.insert(QStringLiteral("device"), m_currentName);
     const QString word = toString(cause().kind);
     // Also if there is none: the one of the time before must not stay.
@@ -301,6 +306,9 @@ CameraCause::Kind DeviceCamera::expectedCause() const
     }
     if (m_server == CameraServer::Lost) {
         return Kind::ServerLost;
+    }
+    if (m_server == CameraServer::NotBuilt) {
+        return Kind::NotBuilt;
     }
     if (!m_isListed) {
         return Kind::Starting;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/devices/camera/CameraCapture.h"
 #include "platform/devices/camera/CameraList.h"
 #include "platform/devices/camera/CameraOpening.h"
 #include "platform/devices/camera/FrameSlot.h"
@@ -14,9 +15,9 @@
 
 namespace Platform {
 
-// The half of a V4l2Feed that lives on the camera thread: the list of cameras and the stream. On
-// the camera thread only.
-class V4l2Capture final : private VideoDevices::Listener,
+// The kernel's cameras, by udev and V4L2. On the camera thread only.
+class V4l2Capture final : public CameraCapture,
+                          private VideoDevices::Listener,
                           private V4l2Stream::Listener,
                           private CameraOpening::System
 {
@@ -24,13 +25,13 @@ public:
     V4l2Capture(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot,
                 std::shared_ptr<CameraFeed::Listener> listener,
                 std::shared_ptr<EndingThreads> ending);
-    virtual ~V4l2Capture();
+    ~V4l2Capture() override;
     V4l2Capture(const V4l2Capture&) = delete;
     V4l2Capture& operator=(const V4l2Capture&) = delete;
 
-    void open(int generation, const QString& id) { m_opening.open(generation, id); }
-    void close() { m_opening.close(); }
-    void setOutputSize(const QSize& pixels);
+    void open(int generation, const QString& id) override { m_opening.open(generation, id); }
+    void close() override { m_opening.close(); }
+    void setOutputSize(const QSize& pixels) override;
 
 private:
     void deviceFound(const VideoDevices::Properties& properties) override;

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/v4l2/V4l2Parts.h"
 
+#include "platform/devices/camera/ThreadedFeed.h"
 #include "platform/devices/v4l2/UdevDevices.h"
-#include "platform/devices/v4l2/V4l2Feed.h"
+#include "platform/devices/v4l2/V4l2Capture.h"
 
 #include <gst/gst.h>
 
@@ -25,9 +26,10 @@ V4l2Parts systemV4l2Parts()
 
 FeedMaker v4l2FeedMaker(const V4l2Parts& parts)
 {
-    return [parts](const auto& slot, auto listener, const auto& ending) {
-        return std::make_unique<V4l2Feed>(parts, slot, std::move(listener), ending);
+    const auto makeCapture = [parts](const auto& slot, const auto& listener, const auto& ending) {
+        return std::make_unique<V4l2Capture>(parts, slot, listener, ending);
     };
+    return threadedFeedMaker(QStringLiteral("v4l2 cameras"), makeCapture);
 }
 
 } // namespace Platform

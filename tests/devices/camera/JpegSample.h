@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include "tests/support/JpegEncoder.h"
+
 #include <QMetaType>
 #include <QRgb>
 #include <QSize>
@@ -17,17 +18,8 @@ struct JpegSample
     static constexpr QRgb Bright = qRgb(0xe0, 0x80, 0x20);
     static constexpr QRgb BrightGray = qRgb(0x92, 0x92, 0x92);
 
-    // How many samples of a block there are, beside and above each other.
-    struct Factors
-    {
-        int horizontal = 0;
-        int vertical = 0;
-    };
+    JpegSampling sampling;
 
-    Factors luma;
-    Factors chroma; // 0: there is none
-
-    bool isGray() const { return chroma.horizontal == 0; }
     QByteArray bytes() const;
 };
 

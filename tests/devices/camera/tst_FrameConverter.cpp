@@ -4,7 +4,6 @@
 #include "tests/devices/camera/JpegSample.h"
 #include "tests/support/CameraPattern.h"
 
-#include <QBuffer>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QProcess>
@@ -162,14 +161,6 @@ QByteArray rgb(const QImage& scene, const char* order)
     return result;
 }
 
-QByteArray jpegOf(const QImage& scene)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    scene.save(&buffer, "JPG", 92);
-    return buffer.data();
-}
-
 QByteArray encoded(const QImage& scene, PixelFormat format)
 {
     switch (format) {
@@ -196,7 +187,7 @@ QByteArray encoded(const QImage& scene, PixelFormat format)
     case PixelFormat::Bgr:
         return rgb(scene, "BGR");
     case PixelFormat::Mjpg:
-        return jpegOf(scene);
+        return encodeJpeg(scene, 92);
     }
     return {};
 }
@@ -411,8 +402,8 @@ void tst_FrameConverter::refusesJpegSegmentBeyondTheEnd()
 void tst_FrameConverter::readsEverySampling_data()
 {
     QTest::addColumn<JpegSample>("sample");
-    const auto row = [](const char* name, JpegSample::Factors luma, JpegSample::Factors chroma) {
-        QTest::newRow(name) << JpegSample{luma, chroma};
+    const auto row = [](const char* name, JpegFactors luma, JpegFactors chroma) {
+        QTest::newRow(name) << JpegSample{{luma, chroma}};
     };
     row("4:2:0", {2, 2}, {1, 1});
     row("4:2:2", {2, 1}, {1, 1});
@@ -439,7 +430,8 @@ void tst_FrameConverter::readsEverySampling()
         QCOMPARE(image.size(), size);
         const QRgb left = image.pixel(size.width() / 4, size.height() / 2);
         const QRgb right = image.pixel(size.width() * 3 / 4, size.height() / 2);
-        QVERIFY(isNear(left, sample.isGray() ? JpegSample::BrightGray : JpegSample::Bright));
+        QVERIFY(
+            isNear(left, sample.sampling.isGray() ? JpegSample::BrightGray : JpegSample::Bright));
         QVERIFY(isNear(right, JpegSample::Dark)); // mirrored
     }
 }

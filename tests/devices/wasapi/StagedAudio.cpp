@@ -3,7 +3,7 @@
 #include "tests/devices/wasapi/StagedAudio.h"
 
 #include "tests/devices/wasapi/AudioStage.h"
-#include "tests/devices/wasapi/ComObject.h"
+#include "tests/devices/ComObject.h"
 #include "tests/devices/wasapi/StagedVolume.h"
 
 #include <cstring>
@@ -32,7 +32,7 @@ class Properties final : public ComObject<IPropertyStore>
 {
 public:
     Properties(std::shared_ptr<AudioStage> stage, QString name)
-        : ComObject(stage->objects), m_stage(std::move(stage)), m_name(std::move(name))
+        : ComObject(stage), m_stage(std::move(stage)), m_name(std::move(name))
     {
     }
 
@@ -60,7 +60,7 @@ class Endpoint final : public ComObject<IMMDevice>
 {
 public:
     Endpoint(std::shared_ptr<AudioStage> stage, QString id)
-        : ComObject(stage->objects), m_stage(std::move(stage)), m_id(std::move(id))
+        : ComObject(stage), m_stage(std::move(stage)), m_id(std::move(id))
     {
     }
 
@@ -102,7 +102,7 @@ class Endpoints final : public ComObject<IMMDeviceCollection>
 {
 public:
     Endpoints(std::shared_ptr<AudioStage> stage, std::vector<QString> ids)
-        : ComObject(stage->objects), m_stage(std::move(stage)), m_ids(std::move(ids))
+        : ComObject(stage), m_stage(std::move(stage)), m_ids(std::move(ids))
     {
     }
 
@@ -126,7 +126,7 @@ class Enumerator final : public ComObject<IMMDeviceEnumerator>
 {
 public:
     explicit Enumerator(std::shared_ptr<AudioStage> stage)
-        : ComObject(stage->objects), m_stage(std::move(stage))
+        : ComObject(stage), m_stage(std::move(stage))
     {
     }
 
@@ -203,7 +203,7 @@ class Factory final : public ComObject<IClassFactory>
 {
 public:
     explicit Factory(std::shared_ptr<AudioStage> stage)
-        : ComObject(stage->objects), m_stage(std::move(stage))
+        : ComObject(stage), m_stage(std::move(stage))
     {
     }
 

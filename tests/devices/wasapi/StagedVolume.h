@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tests/devices/wasapi/AudioStage.h"
-#include "tests/devices/wasapi/ComObject.h"
+#include "tests/devices/ComObject.h"
 
 #include <memory>
 
@@ -14,7 +14,7 @@ class StagedVolume final : public ComObject<IAudioEndpointVolume>
 {
 public:
     StagedVolume(std::shared_ptr<AudioStage> stage, QString id)
-        : ComObject(stage->objects), m_stage(std::move(stage)), m_id(std::move(id))
+        : ComObject(stage), m_stage(std::move(stage)), m_id(std::move(id))
     {
     }
 

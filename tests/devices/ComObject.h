@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <memory>
 
 #include <windows.h>
 // Must follow windows.h.
@@ -10,18 +11,25 @@
 
 namespace TestSupport {
 
-// A COM object that counts its references, and is counted itself.
-template <typename Interface>
+// A COM object that counts its references, and is counted itself. It also answers for the bases of
+// its interface that are named.
+template <typename Interface, typename... Bases>
 class ComObject : public Interface
 {
 public:
-    explicit ComObject(std::atomic<int>& objects) : m_objects(objects) { ++m_objects; }
+    // The stage has the count of objects, and lives as long as they do.
+    template <typename Stage>
+    explicit ComObject(const std::shared_ptr<Stage>& stage) : m_objects(stage, &stage->objects)
+    {
+        ++*m_objects;
+    }
     ComObject(const ComObject&) = delete;
     ComObject& operator=(const ComObject&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override
     {
-        const bool isKnown = id == __uuidof(IUnknown) || id == __uuidof(Interface);
+        const bool isKnown = id == __uuidof(IUnknown) || id == __uuidof(Interface) ||
+                             (... || (id == __uuidof(Bases)));
         *object = isKnown ? static_cast<Interface*>(this) : nullptr;
         if (isKnown) {
             AddRef();
@@ -39,10 +47,10 @@ public:
     }
 
 protected:
-    virtual ~ComObject() { --m_objects; }
+    virtual ~ComObject() { --*m_objects; }
 
 private:
-    std::atomic<int>& m_objects; // of the stage, which the derived object holds
+    std::shared_ptr<std::atomic<int>> m_objects;
     std::atomic<ULONG> m_references{1};
 };
 

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/mediafoundation/MediaFoundation.h"
+#include "platform/devices/wasapi/ComPointer.h"
+
+#include <QString>
+#include <vector>
+
+namespace Platform {
+
+// A camera in Windows' list.
+struct CameraSource
+{
+    QString link; // Windows' symbolic link, in lower case; never empty
+    QString name; // for people; may be empty
+    ComPointer<IMFActivate> activate;
+};
+
+namespace CameraSources {
+
+// Lists all cameras; those without a link are left out. Takes any time.
+HRESULT list(const MediaFoundation& functions, std::vector<CameraSource>& sources);
+// Null, with the error, if there is none.
+ComPointer<IMFActivate> find(const MediaFoundation& functions, const QString& link, HRESULT& error);
+// The part of a link that stays the same after replugging into the same socket, and that all of
+// Windows' interfaces to a camera have in common.
+QString placeOf(const QString& link);
+
+} // namespace CameraSources
+} // namespace Platform

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/mediafoundation/MediaFoundationCamera.h"
+
+#include "platform/devices/mediafoundation/CameraSources.h"
+#include "platform/devices/mediafoundation/SampleReceiver.h"
+
+#include <algorithm>
+#include <mferror.h>
+
+namespace Platform {
+
+namespace {
+
+constexpr auto AllStreams = static_cast<DWORD>(MF_SOURCE_READER_ALL_STREAMS);
+constexpr auto VideoStream = static_cast<DWORD>(MF_SOURCE_READER_FIRST_VIDEO_STREAM);
+constexpr DWORD MaxTypes = CameraModes::MaxOffers; // a driver may have no end
+
+} // namespace
+
+MediaFoundationCamera::MediaFoundationCamera(const MediaFoundation& functions,
+                                             std::shared_ptr<SampleBox> box)
+    : m_functions(functions), m_box(std::move(box))
+{
+}
+
+// Shut down by us: the reader's own end may leave the camera on.
+MediaFoundationCamera::~MediaFoundationCamera()
+{
+    if (m_source) {
+        m_source->Shutdown();
+    }
+    m_offers.clear();
+    m_reader.reset();
+    m_source.reset();
+    if (m_activate) {
+        m_activate->ShutdownObject();
+    }
+}
+
+HRESULT MediaFoundationCamera::open(const QString& link)
+{
+    HRESULT error = S_OK;
+    m_session = MediaSession::start(m_functions, error);
+    if (m_session) {
+        error = activate(link);
+    }
+    if (SUCCEEDED(error) && !m_box->isStopped()) {
+        error = createReader();
+    }
+    if (SUCCEEDED(error) && m_reader) {
+        listOffers();
+    }
+    return error;
+}
+
+HRESULT MediaFoundationCamera::choose(const CameraMode& mode)
+{
+    const auto found = std::find_if(m_offers.begin(), m_offers.end(),
+                                    [&mode](const Offer& offer) { return offer.mode == mode; });
+    if (found == m_offers.end()) {
+        return MF_E_INVALIDMEDIATYPE;
+    }
+    const HRESULT error = m_reader->SetCurrentMediaType(VideoStream, nullptr, found->type.get());
+    if (SUCCEEDED(error)) {
+        m_format = MediaFormat::of(*found->type.get());
+    }
+    return error;
+}
+
+HRESULT MediaFoundationCamera::request()
+{
+    return m_reader->ReadSample(VideoStream, 0, nullptr, nullptr, nullptr, nullptr);
+}
+
+HRESULT MediaFoundationCamera::readFormat()
+{
+    ComPointer<IMFMediaType> type;
+    const HRESULT error = m_reader->GetCurrentMediaType(VideoStream, type.put());
+    if (SUCCEEDED(error)) {
+        m_format = MediaFormat::of(*type.get());
+    }
+    return error;
+}
+
+HRESULT MediaFoundationCamera::activate(const QString& link)
+{
+    HRESULT error = S_OK;
+    m_activate = CameraSources::find(m_functions, link, error);
+    if (!m_activate) {
+        return error;
+    }
+    return m_activate->ActivateObject(IID_IMFMediaSource, m_source.putVoid());
+}
+
+HRESULT MediaFoundationCamera::createReader()
+{
+    ComPointer<IMFAttributes> wanted;
+    HRESULT error = m_functions.createAttributes(wanted.put(), 2);
+    if (FAILED(error)) {
+        return error;
+    }
+    ComPointer<IMFSourceReaderCallback> receiver;
+    *receiver.put() = new SampleReceiver(m_box);
+    wanted->SetUnknown(MF_SOURCE_READER_ASYNC_CALLBACK, receiver.get());
+    wanted->SetUINT32(MF_READWRITE_DISABLE_CONVERTERS, TRUE); // FrameConverter does it
+    error = m_functions.createSourceReader(m_source.get(), wanted.get(), m_reader.put());
+    if (SUCCEEDED(error)) {
+        // A camera may have a second stream, for photos or of an infrared sensor.
+        m_reader->SetStreamSelection(AllStreams, FALSE);
+        error = m_reader->SetStreamSelection(VideoStream, TRUE);
+    }
+    return error;
+}
+
+void MediaFoundationCamera::listOffers()
+{
+    for (DWORD i = 0; i < MaxTypes; ++i) {
+        Offer offer;
+        if (FAILED(m_reader->GetNativeMediaType(VideoStream, i, offer.type.put()))) {
+            return;
+        }
+        const MediaFormat format = MediaFormat::of(*offer.type.get());
+        offer.mode = format.mode();
+        CameraModes::Offer known;
+        known.pixelFormat = format.frame.pixelFormat;
+        known.smallest = format.frame.size;
+        known.largest = format.frame.size;
+        known.lowest = format.rate;
+        known.highest = format.rate;
+        m_modes.add(known); // knows what can be shown
+        if (format.frame.pixelFormat != PixelFormat::None) {
+            m_offers.push_back(std::move(offer));
+        }
+    }
+}
+
+} // namespace Platform

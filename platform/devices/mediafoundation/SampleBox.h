@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/devices/mediafoundation/MediaFoundation.h"
+#include "platform/devices/wasapi/ComPointer.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+
+namespace Platform {
+
+// Where Windows leaves the newest sample of a camera, and the camera's thread waits for it.
+// Thread-safe.
+class SampleBox
+{
+public:
+    struct Delivery
+    {
+        HRESULT error = S_OK;
+        DWORD flags = 0;              // MF_SOURCE_READER_FLAG
+        ComPointer<IMFSample> sample; // null if Windows only tells something
+    };
+
+    void put(HRESULT error, DWORD flags, IMFSample* sample);
+    void stop();
+    bool isStopped() const;
+    // None if nothing came in time, or after stop().
+    std::optional<Delivery> await(std::chrono::milliseconds limit);
+
+    void end(); // by the camera's thread, which uses nothing of the camera any more
+    bool awaitEnd(std::chrono::milliseconds limit);
+
+private:
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::optional<Delivery> m_delivery; // guarded by m_mutex, as are the next ones
+    bool m_isStopped = false;
+    bool m_isEnded = false;
+};
+
+} // namespace Platform

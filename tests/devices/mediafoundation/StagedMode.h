@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QSize>
+
+namespace TestSupport {
+
+// What a staged camera can be asked to send.
+struct StagedMode
+{
+    QByteArray format =
+        "YUY2"; // YUY2, NV12, MJPG, RGB32, I420, UYVY; others send what nobody can show
+    QSize size{640, 480};
+    int rateNumerator = 30; // frames in so many seconds
+    int rateDenominator = 1;
+    int stride = 0;       // negative: bottom-up. 0: the camera says none, and rows have no padding
+    int nominalRange = 0; // as Media Foundation numbers it. 0: the camera says nothing
+    int yuvMatrix = 0;    // the same
+};
+
+} // namespace TestSupport

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/devices/mediafoundation/StagedSource.h"
+
+#include "tests/devices/mediafoundation/CameraStage.h"
+#include "tests/devices/mediafoundation/StagedFrame.h"
+#include "tests/devices/mediafoundation/StagedStream.h"
+
+// Must follow windows.h.
+#include <mferror.h>
+
+using Platform::ComPointer;
+
+namespace TestSupport {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Ticks = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // Media Foundation's unit
+
+UINT64 pair(int first, int second)
+{
+    return static_cast<UINT64>(first) << 32 | static_cast<UINT32>(second);
+}
+
+void setUnlessZero(IMFMediaType& type, const GUID& key, int value)
+{
+    if (value != 0) {
+        type.SetUINT32(key, static_cast<UINT32>(value));
+    }
+}
+
+ComPointer<IMFMediaType> typeOf(const StagedMode& mode)
+{
+    ComPointer<IMFMediaType> type;
+    MFCreateMediaType(type.put());
+    type->SetGUID(MF_MT_MAJOR_TYPE, MFMediaType_Video);
+    type->SetGUID(MF_MT_SUBTYPE, subtypeOf(mode.format));
+    type->SetUINT64(MF_MT_FRAME_SIZE, pair(mode.size.width(), mode.size.height()));
+    type->SetUINT64(MF_MT_FRAME_RATE, pair(mode.rateNumerator, mode.rateDenominator));
+    type->SetUINT32(MF_MT_INTERLACE_MODE, MFVideoInterlace_Progressive);
+    type->SetUINT32(MF_MT_ALL_SAMPLES_INDEPENDENT, TRUE);
+    setUnlessZero(*type.get(), MF_MT_DEFAULT_STRIDE, mode.stride);
+    setUnlessZero(*type.get(), MF_MT_VIDEO_NOMINAL_RANGE, mode.nominalRange);
+    setUnlessZero(*type.get(), MF_MT_YUV_MATRIX, mode.yuvMatrix);
+    return type;
+}
+
+Ticks periodOf(const StagedMode& mode)
+{
+    return Ticks(std::chrono::seconds(mode.rateDenominator)) / qMax(mode.rateNumerator, 1);
+}
+
+} // namespace
+
+StagedSource::StagedSource(std::shared_ptr<CameraStage> stage, std::shared_ptr<StagedCamera> camera)
+    : EventGenerator(stage),
+      m_stage(std::move(stage)),
+      m_camera(std::move(camera)),
+      m_modes(m_camera->modes)
+{
+    describe();
+    *m_stream.put() = new StagedStream(m_stage, *this, *m_description.get());
+    const std::scoped_lock lock(m_stage->mutex);
+    ++m_stage->opened[m_camera->link];
+}
+
+StagedSource::~StagedSource()
+{
+    endThread();
+    countAsClosed();
+}
+
+HRESULT StagedSource::GetCharacteristics(DWORD* characteristics)
+{
+    *characteristics = MFMEDIASOURCE_IS_LIVE;
+    return S_OK;
+}
+
+HRESULT StagedSource::CreatePresentationDescriptor(IMFPresentationDescriptor** descriptor)
+{
+    const std::scoped_lock lock(m_stage->mutex);
+    *descriptor = nullptr;
+    return FAILED(m_camera->readingError) ? m_camera->readingError
+                                          : m_presentation->Clone(descriptor);
+}
+
+HRESULT StagedSource::Start(IMFPresentationDescriptor* /*descriptor*/, const GUID* /*timeFormat*/,
+                            const PROPVARIANT* position)
+{
+    m_stage->pass(m_camera->hangsInStart);
+    const std::scoped_lock lock(m_stage->mutex);
+    if (m_isShutDown) {
+        return MF_E_SHUTDOWN;
+    }
+    const bool isNew = !m_thread.joinable();
+    tellOf(isNew ? MENewStream : MEUpdatedStream, m_stream.get());
+    tell(MESourceStarted, position);
+    m_stream->tell(MEStreamStarted, position);
+    if (isNew) {
+        m_isEnding = false;
+        m_thread = std::thread(&StagedSource::run, this, currentMode());
+    }
+    return S_OK;
+}
+
+HRESULT StagedSource::Stop()
+{
+    endThread();
+    tell(MESourceStopped);
+    m_stream->tell(MEStreamStopped);
+    return S_OK;
+}
+
+HRESULT StagedSource::Shutdown()
+{
+    m_stage->pass(m_camera->hangsInShutdown);
+    endThread();
+    countAsClosed();
+    closeEvents();
+    m_stream->closeEvents();
+    return S_OK;
+}
+
+void StagedSource::describe()
+{
+    std::vector<IMFMediaType*> types;
+    for (const StagedMode& mode : m_modes) {
+        m_types.push_back(typeOf(mode));
+        types.push_back(m_types.back().get());
+    }
+    MFCreateStreamDescriptor(0, static_cast<DWORD>(types.size()), types.data(),
+                             m_description.put());
+    ComPointer<IMFMediaTypeHandler> handler;
+    m_description->GetMediaTypeHandler(handler.put());
+    handler->SetCurrentMediaType(types.front());
+    IMFStreamDescriptor* description = m_description.get();
+    MFCreatePresentationDescriptor(1, &description, m_presentation.put());
+    m_presentation->SelectStream(0);
+}
+
+StagedMode StagedSource::currentMode() const
+{
+    ComPointer<IMFMediaTypeHandler> handler;
+    m_description->GetMediaTypeHandler(handler.put());
+    ComPointer<IMFMediaType> current;
+    handler->GetCurrentMediaType(current.put());
+    for (std::size_t i = 0; i < m_types.size(); ++i) {
+        DWORD parts = 0;
+        if (m_types[i]->IsEqual(current.get(), &parts) == S_OK) {
+            return m_modes[i];
+        }
+    }
+    return m_modes.front();
+}
+
+void StagedSource::run(const StagedMode& mode)
+{
+    const std::vector<QByteArray> frames = {frameOf(mode, 0), frameOf(mode, 1)};
+    const Ticks period = periodOf(mode);
+    auto due = Clock::now();
+    std::unique_lock lock(m_stage->mutex);
+    for (int number = 0; !m_isEnding; ++number) {
+        due = qMax(due + period, Clock::now());
+        if (m_stage->goesOn.wait_until(lock, due, [this] { return m_isEnding; })) {
+            return;
+        }
+        if (!m_camera->isPresent || m_camera->isSilent) {
+            continue;
+        }
+        if (m_camera->isOver) {
+            m_stream->tell(MEEndOfStream);
+            tell(MEEndOfPresentation);
+            return;
+        }
+        QByteArray frame = frames[static_cast<std::size_t>(number) % frames.size()];
+        frame.truncate(m_camera->hasBrokenFrames ? frame.size() / 3 : frame.size());
+        lock.unlock();
+        m_stream->deliver(frame, period.count() * number, period.count());
+        lock.lock();
+    }
+}
+
+void StagedSource::endThread()
+{
+    {
+        const std::scoped_lock lock(m_stage->mutex);
+        m_isEnding = true;
+        m_stage->goesOn.notify_all();
+    }
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+void StagedSource::countAsClosed()
+{
+    const std::scoped_lock lock(m_stage->mutex);
+    if (!m_isShutDown) {
+        m_isShutDown = true;
+        --m_stage->opened[m_camera->link];
+    }
+}
+
+} // namespace TestSupport
