@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/sound/SoundMath.h"
 #include "platform/devices/wasapi/WasapiCapture.h"
 #include "platform/devices/wasapi/WasapiThread.h"
+#include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
 
@@ -122,7 +122,7 @@ private:
         QVERIFY(recording.waitForStart());
         WasapiCapture capture;
         capture.listenOn(m_speaker);
-        open(capture);
+        const TestSupport::CaptureOpening opening(capture, m_microphone);
         const NativeSource source(QStringLiteral("bus_voice"), voice());
         const double until = recording.seconds() + VoiceSeconds + 0.5;
         QTRY_VERIFY_WITH_TIMEOUT(recording.seconds() > until, int(VoiceSeconds * 1000) + TimeoutMs);
@@ -152,17 +152,6 @@ private:
                                     .arg(gaps);
         qInfo("%s", qPrintable(figures));
         fault = median <= MaxDelayMs && gaps <= MaxGaps ? QString() : figures;
-    }
-
-    void open(WasapiCapture& capture) const
-    {
-        SoundCapture::Events events;
-        events.metered.levelMeasured = [](double) {};
-        events.metered.soundHeard = [] {};
-        events.metered.deliveryChanged = [](bool) {};
-        events.failed = [](DeviceState) {};
-        capture.open(m_microphone, std::make_shared<MicrophoneAnalysis>(SoundCapture::Rate),
-                     events);
     }
 
     NativeSoundServer m_server;
