@@ -31,6 +31,8 @@ public:
     // Speaker, voice and microphone once more, "bus_speaker", "bus_voice" and "bus_microphone", on
     // one clock: the channels of "bus.monitor" are, in pairs, what the speaker plays and the voice.
     bool plugBus();
+    // The server itself plays the bus' microphone on its speaker, until unplug().
+    QByteArray loopBusBack(int latencyMs);
 
     // For unplug().
     QByteArray speakerB() const { return m_speakerB; }
