@@ -92,6 +92,12 @@ void NativeSoundServer::unplug(const QByteArray& module)
     control({QStringLiteral("unload-module"), QString::fromLatin1(module)});
 }
 
+QByteArray NativeSoundServer::startTone(const QString& speaker)
+{
+    return control({QStringLiteral("load-module"), QStringLiteral("module-sine"),
+                    QStringLiteral("sink=") + speaker, QStringLiteral("frequency=440")});
+}
+
 QByteArray NativeSoundServer::loopBusBack(int latencyMs)
 {
     return control({QStringLiteral("load-module"), QStringLiteral("module-loopback"),

@@ -28,6 +28,8 @@ public:
     QByteArray plugSpeaker(const QString& name, const QString& description);
     QByteArray plugMicrophone(const QString& name, const QString& description);
     void unplug(const QByteArray& module);
+    // Plays a tone on a speaker, until unplug().
+    QByteArray startTone(const QString& speaker);
     // Speaker, voice and microphone once more, "bus_speaker", "bus_voice" and "bus_microphone", on
     // one clock: the channels of "bus.monitor" are, in pairs, what the speaker plays and the voice.
     bool plugBus();

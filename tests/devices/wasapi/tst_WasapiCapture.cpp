@@ -7,7 +7,6 @@
 #include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
-#include "tests/support/ProcessResources.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -28,9 +27,6 @@ namespace {
 constexpr int TimeoutMs = 10000;
 constexpr qint64 LongestCallMs = 100;
 constexpr int Openings = 3 * WasapiThread::MaxCount;
-constexpr int WarmUp = 10;
-constexpr int ManyOpenings = 40;
-constexpr qint64 MaxGrowthBytes = 1024;
 
 } // namespace
 
@@ -144,30 +140,6 @@ private Q_SLOTS:
             capture.close([&isClosed] { isClosed = true; });
             QTRY_VERIFY_WITH_TIMEOUT(isClosed.load(), TimeoutMs);
         }
-    }
-
-    void manyOpeningsLeaveNothing()
-    {
-        WasapiCapture capture;
-        const auto openAndClose = [&](int count) {
-            for (int i = 0; i < count; ++i) {
-                const Opening opening(capture, m_microphone);
-                QTRY_VERIFY_WITH_TIMEOUT(opening.outcome->delivers, TimeoutMs);
-                capture.close();
-            }
-            QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs);
-        };
-        openAndClose(WarmUp);
-        const int handles = ProcessResources::openHandles();
-        const int threads = ProcessResources::threads();
-        const auto bytes = qint64(ProcessResources::heapBytes());
-        openAndClose(ManyOpenings);
-        const qint64 growth = (qint64(ProcessResources::heapBytes()) - bytes) / ManyOpenings;
-        qInfo("handles %d to %d, threads %d to %d, %lld bytes an opening", handles,
-              ProcessResources::openHandles(), threads, ProcessResources::threads(), growth);
-        QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::openHandles() <= handles, TimeoutMs);
-        QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::threads() <= threads, TimeoutMs);
-        QVERIFY(growth < MaxGrowthBytes);
     }
 
 private:
