@@ -15,8 +15,9 @@ namespace {
 constexpr int Runs = 20;
 constexpr int SettledRun = 5; // by then Qt's caches are filled
 constexpr int AllAnswered = 3;
-// A lock makes its event when two threads want it for the first time, in whichever run that is.
-constexpr int MaxMoreHandles = (Runs - SettledRun) / 5;
+// A lock makes its event when two threads first want it at once, so a handle more is no leak; one
+// from every run is.
+constexpr int MaxMoreHandles = (Runs - SettledRun) / 3;
 constexpr std::size_t BytesInKb = 1024;
 constexpr std::size_t MaxGrowth = 1024 * BytesInKb;
 // Qt's cache of pixmaps keeps the names of those that were cleared: 6 KiB a run.
@@ -51,13 +52,13 @@ struct Held
     std::size_t heapBytes = ProcessResources::heapBytes();
 };
 
-void runOnce(HMODULE client, const wchar_t* pictureFolder)
+void runOnce(HMODULE client, const wchar_t* pictureFolder, bool hurries)
 {
     const HMODULE library = LoadLibraryW(L"EnvCheck.dll");
     if (!library) {
         fail("EnvCheck.dll can't be loaded");
     }
-    resolved<ClientWalkThrough>(client, "clientWalkThrough")(pictureFolder);
+    resolved<ClientWalkThrough>(client, "clientWalkThrough")(pictureFolder, hurries);
     void* agent = resolved<Instance>(library, "_ZN13EnvCheckAgent8instanceEv")();
     resolved<ShowEnvCheck>(library, "_ZN13EnvCheckAgent12showEnvCheckEP7QWidget")(agent, nullptr);
     resolved<Release>(library, "_ZN13EnvCheckAgent7releaseEv")();
@@ -87,7 +88,8 @@ int wmain(int argc, wchar_t* argv[])
     }
     Held settled;
     for (int run = 1; run <= Runs; ++run) {
-        runOnce(client, argc > 1 && run == 1 ? argv[1] : nullptr);
+        const bool isFirst = run == 1; // as a person sees it
+        runOnce(client, argc > 1 && isFirst ? argv[1] : nullptr, !isFirst);
         const Held held;
         std::printf("run %2d: %d handles, %d threads, %zu KiB, %zu KiB of them in heaps\n", run,
                     held.handles, held.threads, held.bytes / BytesInKb, held.heapBytes / BytesInKb);

@@ -26,7 +26,7 @@ void DriftControl::observe(double fillMs, double addedMs)
         return;
     }
     m_observedMs = 0.0;
-    m_targetMs = std::max(m_targetMs - DecayMs, FirstTargetMs);
+    m_targetMs = std::max(m_targetMs - DecayMs, m_firstTargetMs);
     const double tooMuchMs = m_lowestMs - m_targetMs;
     if (tooMuchMs > ExcessMs) {
         m_excessMs = tooMuchMs;

@@ -16,7 +16,8 @@ constexpr double SilenceMs = 5.0;
 
 } // namespace
 
-ListenBackFilter::ListenBackFilter(unsigned rate) : m_samplesPerMs(rate / 1000.0), m_limiter(rate)
+ListenBackFilter::ListenBackFilter(unsigned rate, double reserveMs)
+    : m_samplesPerMs(rate / 1000.0), m_limiter(rate), m_drift(reserveMs)
 {
 }
 

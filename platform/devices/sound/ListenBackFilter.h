@@ -17,7 +17,8 @@ namespace Platform {
 class ListenBackFilter
 {
 public:
-    explicit ListenBackFilter(unsigned rate);
+    // reserveMs: what the playback buffer is to hold at least when new sound is added.
+    explicit ListenBackFilter(unsigned rate, double reserveMs = DriftControl::FirstTargetMs);
 
     // fillMs: fill level of the playback buffer, without a value before the first write. The result
     // is to be written to that buffer; it is valid until the next call.

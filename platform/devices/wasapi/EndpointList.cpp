@@ -62,9 +62,10 @@ EndpointList::~EndpointList()
 HRESULT EndpointList::read(SoundDevices& devices)
 {
     HRESULT error = connect();
+    const WinePulseDevices standIns = WinePulseDevices::standIns();
     for (const SoundKind kind : {SoundKind::Speaker, SoundKind::Microphone}) {
         if (SUCCEEDED(error)) {
-            error = readSide(kind, devices.side(kind));
+            error = readSide(kind, standIns, devices.side(kind));
         }
     }
     if (FAILED(error)) {
@@ -106,7 +107,7 @@ void EndpointList::disconnect()
     }
 }
 
-HRESULT EndpointList::readSide(SoundKind kind, SoundSide& side)
+HRESULT EndpointList::readSide(SoundKind kind, const WinePulseDevices& leftOut, SoundSide& side)
 {
     ComPointer<IMMDeviceCollection> endpoints;
     UINT count = 0;
@@ -115,7 +116,6 @@ HRESULT EndpointList::readSide(SoundKind kind, SoundSide& side)
     if (SUCCEEDED(error)) {
         error = endpoints->GetCount(&count);
     }
-    const WinePulseDevices standIns = WinePulseDevices::standIns();
     Volumes present;
     for (UINT i = 0; SUCCEEDED(error) && i < count; ++i) {
         ComPointer<IMMDevice> endpoint;
@@ -124,7 +124,7 @@ HRESULT EndpointList::readSide(SoundKind kind, SoundSide& side)
         if (SUCCEEDED(error)) {
             device.id = idOf(*endpoint.get());
         }
-        if (!device.id.isEmpty() && !standIns.contain(device.id)) {
+        if (!device.id.isEmpty() && !leftOut.contain(device.id)) {
             error = readEndpoint(*endpoint.get(), volumes(kind), present, device);
             side.devices.push_back(std::move(device));
         }

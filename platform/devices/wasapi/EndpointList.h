@@ -15,6 +15,7 @@ struct IMMDeviceEnumerator;
 namespace Platform {
 
 class EndpointNotice;
+class WinePulseDevices;
 
 // The endpoints that Windows has, and their volumes. Any call may hang in a driver or in Windows'
 // audio service, and so may the destructor. Endpoint thread only, with COM.
@@ -37,7 +38,7 @@ private:
 
     HRESULT connect();
     void disconnect();
-    HRESULT readSide(SoundKind kind, SoundSide& side);
+    HRESULT readSide(SoundKind kind, const WinePulseDevices& leftOut, SoundSide& side);
     HRESULT readEndpoint(IMMDevice& endpoint, Volumes& before, Volumes& now, SoundDevice& device);
     HRESULT readVolume(IMMDevice& endpoint, EndpointVolume& volume, SoundDevice& device);
     QString defaultId(SoundKind kind) const;

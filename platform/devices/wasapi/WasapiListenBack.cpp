@@ -14,16 +14,19 @@ namespace {
 
 constexpr unsigned Channels = 2;
 constexpr std::chrono::milliseconds Buffer(60);
-// What the buffer holds before the first sound: the packets of the microphone come as irregularly
-// as Windows empties the buffer, each by up to one period.
-constexpr unsigned ReserveMs = 10;
+// What the buffer holds at least when a packet comes. Packets come as irregularly as Windows
+// empties the buffer, each by up to one period of 10 ms.
+constexpr unsigned ReserveMs = 15;
+// A speaker that runs empty before the first packet would get a delay that can't be measured: Wine
+// fills up what it hands to its server. So it starts with silence for a period more.
+constexpr std::chrono::milliseconds Silence(ReserveMs + 10);
 constexpr std::chrono::milliseconds Retry(250);
 
 } // namespace
 
 WasapiListenBack::WasapiListenBack(const QString& speakerId, unsigned rate,
                                    std::shared_ptr<WakeEvent> wake)
-    : m_order{WasapiStream::Direction::Playback, speakerId, rate, Channels, Buffer},
+    : m_order{WasapiStream::Direction::Playback, speakerId, rate, Channels, Buffer, Silence},
       m_opening(std::move(wake))
 {
 }
@@ -59,7 +62,7 @@ void WasapiListenBack::openIfDue(Clock::time_point now)
     if (std::optional<WasapiOpening::Result> result = m_opening.take()) {
         m_isOpening = false;
         m_stream = std::move(result->stream);
-        m_filter = std::make_unique<ListenBackFilter>(m_order.rate);
+        m_filter = std::make_unique<ListenBackFilter>(m_order.rate, ReserveMs);
         m_hasStarted = false;
         m_wasEmpty = false;
         if (!m_stream) {
@@ -80,7 +83,8 @@ bool WasapiListenBack::write(const std::vector<float>& mono)
     }
     if (!m_hasStarted) {
         m_hasStarted = true;
-        return put(std::vector<float>(ReserveMs * m_order.rate / 1000)) &&
+        const unsigned reserve = ReserveMs * m_order.rate / 1000;
+        return put(std::vector<float>(reserve - std::min(reserve, waiting))) &&
                put(m_filter->process(mono.data(), mono.size(), std::nullopt));
     }
     const bool isEmpty = waiting == 0;

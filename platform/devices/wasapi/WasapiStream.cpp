@@ -39,6 +39,9 @@ std::unique_ptr<WasapiStream> WasapiStream::open(const Order& order, HRESULT& er
     if (SUCCEEDED(error)) {
         error = stream->initialize();
     }
+    if (SUCCEEDED(error) && order.silence.count() > 0) {
+        error = stream->fillWithSilence();
+    }
     if (SUCCEEDED(error)) {
         error = stream->m_client->Start();
     }
@@ -98,6 +101,15 @@ HRESULT WasapiStream::initialize()
     return m_order.direction == Direction::Playback
                ? m_client->GetService(__uuidof(IAudioRenderClient), m_render.putVoid())
                : m_client->GetService(__uuidof(IAudioCaptureClient), m_capture.putVoid());
+}
+
+HRESULT WasapiStream::fillWithSilence()
+{
+    const auto wanted = static_cast<unsigned>(m_order.silence.count() * m_order.rate / 1000);
+    const unsigned frames = std::min(wanted, m_bufferFrames);
+    BYTE* memory = nullptr;
+    const HRESULT error = m_render->GetBuffer(frames, &memory);
+    return SUCCEEDED(error) ? m_render->ReleaseBuffer(frames, AUDCLNT_BUFFERFLAGS_SILENT) : error;
 }
 
 HRESULT WasapiStream::padding(unsigned& frames) const

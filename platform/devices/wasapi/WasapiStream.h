@@ -30,7 +30,8 @@ public:
         QString endpointId;
         unsigned rate = 0;
         unsigned channels = 0;
-        std::chrono::milliseconds buffer{0}; // Windows may make it longer
+        std::chrono::milliseconds buffer{0};  // Windows may make it longer
+        std::chrono::milliseconds silence{0}; // what a speaker plays first, within the buffer
     };
 
     // Opens and starts it: a speaker plays silence then. Null with the error if that fails.
@@ -56,6 +57,7 @@ private:
     explicit WasapiStream(const Order& order);
 
     HRESULT initialize();
+    HRESULT fillWithSilence();
     HRESULT activate();
     HRESULT readPacket(std::vector<float>& samples);
 

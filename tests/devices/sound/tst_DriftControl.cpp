@@ -87,6 +87,21 @@ private Q_SLOTS:
                  qPrintable(QString::number(buffer.highestMs)));
     }
 
+    void keepsAnotherReserve()
+    {
+        constexpr double ReserveMs = 15.0;
+        DriftControl control(ReserveMs);
+        PlaybackBuffer buffer{5.0};
+        buffer.run(control, 1.0002, 60.0);
+        buffer.underflows = 0;
+        buffer.run(control, 1.0002, 60.0);
+        QCOMPARE(buffer.underflows, 0);
+        QCOMPARE(control.targetMs(), ReserveMs);
+        // The lowest of the buffer is that before a packet comes.
+        QVERIFY2(std::abs(buffer.lowestMs - ReserveMs) < 1.0,
+                 qPrintable(QString::number(buffer.lowestMs)));
+    }
+
     void excessIsDropped()
     {
         DriftControl control;

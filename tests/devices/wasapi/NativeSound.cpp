@@ -10,8 +10,8 @@ namespace TestSupport {
 namespace {
 
 constexpr int TimeoutMs = 10000;
-constexpr int RecordingMs = 20;
-constexpr int PlayingMs = 200; // a sound that a test plays mustn't tear
+constexpr int RecordingMs = 200; // in pieces: each costs Wine time, which tears the sound
+constexpr int PlayingMs = 200;   // a sound that a test plays mustn't tear
 
 // Such as "unix:/folder/native"; run-program sets it.
 QString address()
@@ -92,6 +92,19 @@ void NativeSoundServer::unplug(const QByteArray& module)
     control({QStringLiteral("unload-module"), QString::fromLatin1(module)});
 }
 
+QByteArray NativeSoundServer::startTone(const QString& speaker)
+{
+    return control({QStringLiteral("load-module"), QStringLiteral("module-sine"),
+                    QStringLiteral("sink=") + speaker, QStringLiteral("frequency=440")});
+}
+
+QByteArray NativeSoundServer::loopBusBack(int latencyMs)
+{
+    return control({QStringLiteral("load-module"), QStringLiteral("module-loopback"),
+                    QStringLiteral("source=bus_microphone"), QStringLiteral("sink=bus_speaker"),
+                    QStringLiteral("latency_msec=%1").arg(latencyMs)});
+}
+
 bool NativeSoundServer::plugBus()
 {
     const QString front = QStringLiteral("front-left,front-right");
@@ -166,7 +179,8 @@ std::vector<float> NativeRecording::samples(int channel)
 
 double NativeRecording::seconds()
 {
-    return static_cast<double>(samples().size()) / SoundRate;
+    const std::size_t frameSize = static_cast<std::size_t>(m_channels) * sizeof(float);
+    return static_cast<double>(static_cast<std::size_t>(data().size()) / frameSize) / SoundRate;
 }
 
 QByteArray& NativeRecording::data()

@@ -28,9 +28,13 @@ public:
     QByteArray plugSpeaker(const QString& name, const QString& description);
     QByteArray plugMicrophone(const QString& name, const QString& description);
     void unplug(const QByteArray& module);
+    // Plays a tone on a speaker, until unplug().
+    QByteArray startTone(const QString& speaker);
     // Speaker, voice and microphone once more, "bus_speaker", "bus_voice" and "bus_microphone", on
     // one clock: the channels of "bus.monitor" are, in pairs, what the speaker plays and the voice.
     bool plugBus();
+    // The server itself plays the bus' microphone on its speaker, until unplug().
+    QByteArray loopBusBack(int latencyMs);
 
     // For unplug().
     QByteArray speakerB() const { return m_speakerB; }

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/LevelMeter.h"
-#include "platform/devices/sound/MicrophoneAnalysis.h"
 #include "platform/devices/sound/SoundMath.h"
 #include "platform/devices/wasapi/WasapiCapture.h"
 #include "platform/devices/wasapi/WasapiThread.h"
+#include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
-#include "tests/support/ProcessResources.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -18,7 +17,7 @@
 
 using namespace Platform;
 using namespace std::chrono_literals;
-using TestSupport::NativeRecording;
+using Opening = TestSupport::CaptureOpening;
 using TestSupport::NativeSoundServer;
 using TestSupport::NativeSource;
 using TestSupport::SoundRate;
@@ -28,40 +27,6 @@ namespace {
 constexpr int TimeoutMs = 10000;
 constexpr qint64 LongestCallMs = 100;
 constexpr int Openings = 3 * WasapiThread::MaxCount;
-constexpr int WarmUp = 10;
-constexpr int ManyOpenings = 40;
-constexpr qint64 MaxGrowthBytes = 1024;
-
-// One opening of the microphone, with what came of it.
-class Opening
-{
-public:
-    struct Outcome
-    {
-        std::atomic<double> level = 0.0;
-        std::atomic_bool isHeard = false;
-        std::atomic_bool delivers = false;
-        std::atomic_int stalls = 0;
-        std::atomic_int failures = 0;
-    };
-
-    Opening(WasapiCapture& capture, const QString& microphone)
-    {
-        SoundCapture::Events events;
-        events.metered.levelMeasured = [outcome = outcome](double level) {
-            outcome->level = level;
-        };
-        events.metered.soundHeard = [outcome = outcome] { outcome->isHeard = true; };
-        events.metered.deliveryChanged = [outcome = outcome](bool delivers) {
-            outcome->delivers = delivers;
-            outcome->stalls += delivers ? 0 : 1;
-        };
-        events.failed = [outcome = outcome](DeviceState) { ++outcome->failures; };
-        capture.open(microphone, std::make_shared<MicrophoneAnalysis>(SoundCapture::Rate), events);
-    }
-
-    std::shared_ptr<Outcome> outcome = std::make_shared<Outcome>();
-};
 
 } // namespace
 
@@ -175,30 +140,6 @@ private Q_SLOTS:
             capture.close([&isClosed] { isClosed = true; });
             QTRY_VERIFY_WITH_TIMEOUT(isClosed.load(), TimeoutMs);
         }
-    }
-
-    void manyOpeningsLeaveNothing()
-    {
-        WasapiCapture capture;
-        const auto openAndClose = [&](int count) {
-            for (int i = 0; i < count; ++i) {
-                const Opening opening(capture, m_microphone);
-                QTRY_VERIFY_WITH_TIMEOUT(opening.outcome->delivers, TimeoutMs);
-                capture.close();
-            }
-            QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs);
-        };
-        openAndClose(WarmUp);
-        const int handles = ProcessResources::openHandles();
-        const int threads = ProcessResources::threads();
-        const auto bytes = qint64(ProcessResources::heapBytes());
-        openAndClose(ManyOpenings);
-        const qint64 growth = (qint64(ProcessResources::heapBytes()) - bytes) / ManyOpenings;
-        qInfo("handles %d to %d, threads %d to %d, %lld bytes an opening", handles,
-              ProcessResources::openHandles(), threads, ProcessResources::threads(), growth);
-        QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::openHandles() <= handles, TimeoutMs);
-        QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::threads() <= threads, TimeoutMs);
-        QVERIFY(growth < MaxGrowthBytes);
     }
 
 private:

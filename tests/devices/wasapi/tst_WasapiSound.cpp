@@ -9,6 +9,7 @@
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
+#include "tests/support/ProcessResources.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -24,16 +25,27 @@ namespace {
 constexpr int TimeoutMs = 10000;
 constexpr int Attempts = 3;
 constexpr double AlikeAtLeast = 0.95;
+constexpr int WarmUp = 20;
+constexpr int ManyOpenings = 200;
+constexpr int LevelsOfAnOpening = 5;    // in which the speaker is opened twice
+constexpr qint64 MaxGrowthBytes = 1024; // for each opening
+// A lock makes its event when two threads first want it at once, which is no leak.
+constexpr int MaxMoreHandles = 5;
 
 class Listener final : public TestSupport::NoListener
 {
 public:
     virtual ~Listener() = default;
 
-    void levelMeasured(double measured) override { level = measured; }
+    void levelMeasured(double measured) override
+    {
+        level = measured;
+        ++levels;
+    }
     void playbackFinished() override { ++finished; }
 
     double level = -1.0;
+    int levels = 0;
     int finished = 0;
 };
 
@@ -59,8 +71,10 @@ private Q_SLOTS:
     void levelOfTheChosenMicrophone();
     void microphoneIsHeardOnTheSpeaker();
     void frozenServerHoldsNobodyUp();
+    void manyOpeningsLeaveNothing();
 
 private:
+    void openAndClose(int times);
     QString speaker(const char* name) const { return idOf(m_sound->speakers(), name); }
     QString microphone(const char* name) const { return idOf(m_microphone->devices(), name); }
     static QString idOf(const DeviceList& devices, const char* name);
@@ -185,6 +199,48 @@ void tst_WasapiSound::frozenServerHoldsNobodyUp()
     m_sound.reset();
     QVERIFY2(clock.elapsed() <= 100, qPrintable(QString::number(clock.elapsed())));
     QVERIFY(m_server.thaw());
+}
+
+// Microphone, listening to oneself, and a sound.
+void tst_WasapiSound::openAndClose(int times)
+{
+    const QString sound = TestSupport::soundPath(text("Piano.mp3"));
+    for (int i = 0; i < times; ++i) {
+        m_microphone->open();
+        const std::unique_ptr<PlayerBackend> player =
+            m_sound->createPlayer(sound, 1.0F, m_listener);
+        QTRY_VERIFY_WITH_TIMEOUT(m_microphone->state() == DeviceState::Working, TimeoutMs);
+        m_listener.levels = 0;
+        QTRY_VERIFY_WITH_TIMEOUT(m_listener.levels >= LevelsOfAnOpening, TimeoutMs);
+        m_microphone->close();
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 1, TimeoutMs); // that of the endpoints
+}
+
+void tst_WasapiSound::manyOpeningsLeaveNothing()
+{
+    m_speaker->setCurrent(speaker("Test Speaker A"));
+    m_microphone->setListening(true);
+    const QByteArray tone = m_server.startTone(text("voice"));
+    {
+        NativeRecording recording(text("speaker_a.monitor"));
+        QVERIFY(recording.waitForStart());
+        openAndClose(WarmUp);
+        const std::vector<float> heard = recording.samples();
+        QVERIFY(TestSupport::firstAbove(heard, TestSupport::Audible) < heard.size());
+    }
+    const int handles = ProcessResources::openHandles();
+    const int threads = ProcessResources::threads();
+    const auto bytes = qint64(ProcessResources::heapBytes());
+    openAndClose(ManyOpenings);
+    const qint64 growth = (qint64(ProcessResources::heapBytes()) - bytes) / ManyOpenings;
+    qInfo("handles %d to %d, threads %d to %d, %lld bytes an opening", handles,
+          ProcessResources::openHandles(), threads, ProcessResources::threads(), growth);
+    QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::openHandles() <= handles + MaxMoreHandles,
+                             TimeoutMs);
+    QTRY_VERIFY_WITH_TIMEOUT(ProcessResources::threads() <= threads, TimeoutMs);
+    QVERIFY(growth < MaxGrowthBytes);
+    m_server.unplug(tone);
 }
 
 QTEST_GUILESS_MAIN(tst_WasapiSound)
