@@ -73,6 +73,9 @@ endif()
 install(TARGETS ${engine_libraries} EXPORT ClassroomEngineTargets
     LIBRARY DESTINATION ${engine_folder}
     INCLUDES DESTINATION ${include_folder})
+if(TARGET ClassroomStun) # loaded, never linked
+    install(TARGETS ClassroomStun LIBRARY DESTINATION ${engine_folder} NAMELINK_SKIP)
+endif()
 foreach(name CommEngine CoreEngine LumMedia LumUtility LumWidgets)
     install(DIRECTORY platform/${name} ${PROJECT_BINARY_DIR}/platform/${name}
         DESTINATION ${include_folder}

@@ -69,16 +69,20 @@ void focusFirstControl(QWidget* page)
 
 } // namespace
 
-ContentPage::ContentPage(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::ContentPage>())
+// Other flags would make Qt apply all style sheets again, so the frame has them before it has
+// widgets.
+ContentPage::ContentPage(QWidget* parent)
+    : QWidget(parent, Qt::FramelessWindowHint), ui(std::make_unique<Ui::ContentPage>())
 {
     QFont font;
     font.setPixelSize(FontPixelSize);
     setFont(font);
     ui->setupUi(this);
+    ui->checkArea->addWidget(ui->checkPage);
+    ui->checkArea->addWidget(ui->resultPage);
     setObjectName(QStringLiteral("selfcheckContentPage"));
     setStyleSheet(QStringLiteral("QWidget#selfcheckContentPage{border-bottom-left-radius: 6px; "
                                  "border-bottom-right-radius: 6px;}"));
-    setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_DeleteOnClose, true);
 
     // The forms fix the places. In a language that is written from right to left they can't be

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/SocketWatch.h"
 
+#include "platform/backend/DetachedThread.h"
+
 #include <climits>
 #include <cstring>
 #include <sys/inotify.h>
@@ -36,10 +38,16 @@ SocketWatch::SocketWatch(const std::vector<QByteArray>& paths)
     }
 }
 
+// Linux waits 5 to 25 ms before it gives up a watch, and whoever ends a session waits for its
+// threads.
 SocketWatch::~SocketWatch()
 {
-    if (m_descriptor >= 0) {
-        ::close(m_descriptor);
+    if (m_descriptor < 0) {
+        return;
+    }
+    const auto close = [descriptor = m_descriptor] { ::close(descriptor); };
+    if (!DetachedThread::run(close)) {
+        close();
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QLocalServer>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <fcntl.h>
 #include <memory>
 
 using Platform::SocketWatch;
@@ -32,6 +33,15 @@ private Q_SLOTS:
         QVERIFY(server.listen(m_socket));
         QVERIFY(m_watch->hasAppeared());
         QVERIFY(!m_watch->hasAppeared()); // only once
+    }
+
+    // Elsewhere, because that takes long, and while the session ends.
+    void givesItsDescriptorBack()
+    {
+        const int descriptor = m_watch->descriptor();
+        m_watch->renew();
+        m_watch.reset();
+        QTRY_COMPARE(::fcntl(descriptor, F_GETFD), -1);
     }
 
     // A server makes the folder first, which can't be watched before it is there.

@@ -40,6 +40,10 @@ DeviceFacts::DeviceFacts(const DeviceEngineConfig& config, const QString& server
     m_addressDeadline.setInterval(AddressDeadlineMs);
     QObject::connect(&m_addressDeadline, &QTimer::timeout, &m_addressDeadline,
                      [this] { m_probe.reset(); });
+    m_addressRequest.setSingleShot(true);
+    m_addressRequest.setInterval(0);
+    QObject::connect(&m_addressRequest, &QTimer::timeout, &m_addressRequest,
+                     [this] { askForClientAddress(m_run); });
 }
 
 DeviceFacts::~DeviceFacts() = default;
@@ -55,7 +59,7 @@ void DeviceFacts::prepare(Done done)
     m_deadline.start();
     gatherUser(taken);
     gatherAvailableBytes(taken);
-    askForClientAddress(m_run);
+    m_clientAddress = LocalAddress::find(); // until a server tells a better one
 }
 
 QString DeviceFacts::nickName() const
@@ -97,7 +101,6 @@ void DeviceFacts::gatherAvailableBytes(Done taken)
 
 void DeviceFacts::askForClientAddress(int run)
 {
-    m_clientAddress = LocalAddress::find(); // until a server tells a better one
     m_addressDeadline.start();
     m_probe = m_makeProbe(*this, [this, run](const QString& address) {
         m_clientAddress = address;
@@ -121,6 +124,7 @@ void DeviceFacts::tick(int run)
 void DeviceFacts::finish()
 {
     m_deadline.stop();
+    m_addressRequest.start();
     const std::vector<Done> waiting = std::exchange(m_waiting, {});
     for (const Done& done : waiting) {
         done();

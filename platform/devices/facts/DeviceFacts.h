@@ -34,7 +34,8 @@ public:
 
     // Gathers the slow facts anew, then calls done from the event loop: when they are there, at the
     // latest after the deadline. A fact that comes later is taken still. The address as the server
-    // sees it is not waited for: until it comes, clientAddress() is the local one.
+    // sees it is not waited for: until it comes, clientAddress() is the local one. The server is
+    // asked as soon as the event loop runs after that, so that a dialog is there first.
     void prepare(Done done);
 
     void setListener(SystemFacts::Listener* listener) override { m_listener = listener; }
@@ -73,6 +74,7 @@ private:
     int m_missing = 0; // facts of this run
     std::vector<Done> m_waiting;
     QTimer m_deadline;
+    QTimer m_addressRequest;
     QTimer m_addressDeadline;
     std::unique_ptr<NetworkProbe> m_probe;
     Mailbox m_mailbox;

@@ -32,6 +32,7 @@ ProbeWorker::~ProbeWorker() = default;
 
 void ProbeWorker::start()
 {
+    m_client.prepare(); // the first probe would take longer otherwise
     m_clock.start();
     m_probeTimer.start(ProbeIntervalMs, Qt::PreciseTimer, this);
     m_verdictTimer.start(FirstVerdictMs, Qt::PreciseTimer, this);

@@ -3,9 +3,9 @@
 #include "platform/devices/network/StunAnswerer.h"
 
 #include "platform/devices/network/SocketAddress.h"
+#include "platform/devices/network/StunAgent.h"
 
 #include <QHostAddress>
-#include <stun/stunagent.h>
 
 namespace Platform {
 
@@ -15,10 +15,9 @@ constexpr int MaxAnswerSize = 512;
 
 } // namespace
 
-StunAnswerer::StunAnswerer() : m_agent(std::make_unique<stun_agent_t>())
+StunAnswerer::StunAnswerer()
+    : m_agent(std::make_unique<StunAgent>(STUN_AGENT_USAGE_IGNORE_CREDENTIALS))
 {
-    stun_agent_init(m_agent.get(), STUN_ALL_KNOWN_ATTRIBUTES, STUN_COMPATIBILITY_RFC5389,
-                    STUN_AGENT_USAGE_IGNORE_CREDENTIALS);
 }
 
 StunAnswerer::~StunAnswerer() = default;
@@ -26,14 +25,17 @@ StunAnswerer::~StunAnswerer() = default;
 QByteArray StunAnswerer::answer(const QByteArray& datagram, const QHostAddress& sender,
                                 quint16 port)
 {
+    if (!m_agent->prepare()) {
+        return {};
+    }
+    const StunAgent& stun = *m_agent;
     StunMessage request;
-    const StunValidationStatus status = stun_agent_validate(
-        m_agent.get(), &request, reinterpret_cast<const quint8*>(datagram.constData()),
+    const StunValidationStatus status = stun->validate(
+        m_agent->get(), &request, reinterpret_cast<const quint8*>(datagram.constData()),
         size_t(datagram.size()), nullptr, nullptr);
     const bool isKnown = status == STUN_VALIDATION_SUCCESS;
     if ((!isKnown && status != STUN_VALIDATION_UNKNOWN_REQUEST_ATTRIBUTE) ||
-        stun_message_get_class(&request) != STUN_REQUEST ||
-        stun_message_get_method(&request) != STUN_BINDING) {
+        stun->classOf(&request) != STUN_REQUEST || stun->methodOf(&request) != STUN_BINDING) {
         return {};
     }
     QByteArray result(MaxAnswerSize, '\0');
@@ -42,15 +44,14 @@ QByteArray StunAnswerer::answer(const QByteArray& datagram, const QHostAddress& 
     size_t length = 0;
     if (isKnown) {
         const SocketAddress mapped(sender, port);
-        if (stun_agent_init_response(m_agent.get(), &response, buffer, MaxAnswerSize, &request) &&
-            stun_message_append_xor_addr(&response, STUN_ATTRIBUTE_XOR_MAPPED_ADDRESS,
-                                         &mapped.storage,
-                                         mapped.size) == STUN_MESSAGE_RETURN_SUCCESS) {
-            length = stun_agent_finish_message(m_agent.get(), &response, nullptr, 0);
+        if (stun->initResponse(m_agent->get(), &response, buffer, MaxAnswerSize, &request) &&
+            stun->appendXorAddress(&response, STUN_ATTRIBUTE_XOR_MAPPED_ADDRESS, &mapped.storage,
+                                   mapped.size) == STUN_MESSAGE_RETURN_SUCCESS) {
+            length = stun->finishMessage(m_agent->get(), &response, nullptr, 0);
         }
     } else {
-        length = stun_agent_build_unknown_attributes_error(m_agent.get(), &response, buffer,
-                                                           MaxAnswerSize, &request);
+        length = stun->buildUnknownAttributesError(m_agent->get(), &response, buffer, MaxAnswerSize,
+                                                   &request);
     }
     result.truncate(int(length));
     return result;

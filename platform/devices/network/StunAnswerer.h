@@ -6,11 +6,13 @@
 #include <memory>
 
 class QHostAddress;
-struct stun_agent_t;
 
 namespace Platform {
 
-// Answers binding requests (RFC 8489) with the address they came from.
+class StunAgent;
+
+// Answers binding requests (RFC 8489) with the address they came from. The first may load a
+// library.
 class StunAnswerer
 {
 public:
@@ -21,7 +23,7 @@ public:
     QByteArray answer(const QByteArray& datagram, const QHostAddress& sender, quint16 port);
 
 private:
-    std::unique_ptr<stun_agent_t> m_agent;
+    std::unique_ptr<StunAgent> m_agent;
 };
 
 } // namespace Platform

@@ -3,14 +3,13 @@
 #include "platform/devices/network/StunClient.h"
 
 #include "platform/devices/network/NetworkSystem.h"
+#include "platform/devices/network/StunAgent.h"
 
 #include <QRandomGenerator>
 #include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <stun/stunagent.h>
-#include <stun/usages/bind.h>
 
 namespace Platform {
 
@@ -38,25 +37,31 @@ const quint8* bytesOf(const QByteArray& data)
 
 } // namespace
 
-StunClient::StunClient() : m_agent(std::make_unique<stun_agent_t>())
+StunClient::StunClient() : m_agent(std::make_unique<StunAgent>(NoUsageFlags))
 {
-    stun_agent_init(m_agent.get(), STUN_ALL_KNOWN_ATTRIBUTES, STUN_COMPATIBILITY_RFC5389,
-                    NoUsageFlags);
 }
 
 StunClient::~StunClient() = default;
 
+bool StunClient::prepare()
+{
+    return m_agent->prepare();
+}
+
 std::optional<StunClient::Request> StunClient::createRequest()
 {
-    Request request{newId(), QByteArray(MaxRequestSize, Qt::Uninitialized)};
-    StunMessage message = {};
-    message.agent = m_agent.get();
-    message.buffer = reinterpret_cast<quint8*>(request.datagram.data());
-    message.buffer_len = size_t(request.datagram.size());
-    if (!stun_message_init(&message, STUN_REQUEST, STUN_BINDING, request.id.data())) {
+    if (!prepare()) {
         return {};
     }
-    const size_t length = stun_agent_finish_message(m_agent.get(), &message, nullptr, 0);
+    Request request{newId(), QByteArray(MaxRequestSize, Qt::Uninitialized)};
+    StunMessage message = {};
+    message.agent = m_agent->get();
+    message.buffer = reinterpret_cast<quint8*>(request.datagram.data());
+    message.buffer_len = size_t(request.datagram.size());
+    if (!(*m_agent)->initMessage(&message, STUN_REQUEST, STUN_BINDING, request.id.data())) {
+        return {};
+    }
+    const size_t length = (*m_agent)->finishMessage(m_agent->get(), &message, nullptr, 0);
     if (length == 0) {
         return {};
     }
@@ -67,14 +72,17 @@ std::optional<StunClient::Request> StunClient::createRequest()
 void StunClient::forget(const StunId& id)
 {
     StunId copy = id; // the library's parameter isn't const
-    stun_agent_forget_transaction(m_agent.get(), copy.data());
+    if (prepare()) {
+        (*m_agent)->forgetTransaction(m_agent->get(), copy.data());
+    }
 }
 
 std::optional<StunClient::Answer> StunClient::readAnswer(const QByteArray& datagram)
 {
     StunMessage message;
-    if (stun_agent_validate(m_agent.get(), &message, bytesOf(datagram), size_t(datagram.size()),
-                            nullptr, nullptr) != STUN_VALIDATION_SUCCESS) {
+    if (!prepare() ||
+        (*m_agent)->validate(m_agent->get(), &message, bytesOf(datagram), size_t(datagram.size()),
+                             nullptr, nullptr) != STUN_VALIDATION_SUCCESS) {
         return {};
     }
     sockaddr_storage mapped = {};
@@ -82,13 +90,13 @@ std::optional<StunClient::Answer> StunClient::readAnswer(const QByteArray& datag
     socklen_t mappedLength = sizeof(mapped);
     socklen_t alternateLength = sizeof(alternate);
     const StunUsageBindReturn outcome =
-        stun_usage_bind_process(&message, reinterpret_cast<sockaddr*>(&mapped), &mappedLength,
-                                reinterpret_cast<sockaddr*>(&alternate), &alternateLength);
+        (*m_agent)->processBinding(&message, reinterpret_cast<sockaddr*>(&mapped), &mappedLength,
+                                   reinterpret_cast<sockaddr*>(&alternate), &alternateLength);
     if (outcome == STUN_USAGE_BIND_RETURN_INVALID) {
         return {};
     }
     Answer answer;
-    stun_message_id(&message, answer.id.data());
+    (*m_agent)->idOf(&message, answer.id.data());
     if (outcome == STUN_USAGE_BIND_RETURN_SUCCESS) {
         answer.clientAddress = QHostAddress(reinterpret_cast<const sockaddr*>(&mapped));
     }

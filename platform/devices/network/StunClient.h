@@ -8,9 +8,9 @@
 #include <memory>
 #include <optional>
 
-struct stun_agent_t;
-
 namespace Platform {
+
+class StunAgent;
 
 using StunId = std::array<quint8, 16>;
 
@@ -33,13 +33,17 @@ public:
     StunClient();
     ~StunClient();
 
+    // Loads what STUN messages are written and read with, which takes some milliseconds. The first
+    // of the other calls does so, too. False if it isn't there.
+    bool prepare();
+
     std::optional<Request> createRequest(); // nothing while too many are open
     void forget(const StunId& id);
     // Nothing where the datagram isn't an answer to an open request, which it closes otherwise.
     std::optional<Answer> readAnswer(const QByteArray& datagram);
 
 private:
-    std::unique_ptr<stun_agent_t> m_agent;
+    std::unique_ptr<StunAgent> m_agent;
 };
 
 } // namespace Platform

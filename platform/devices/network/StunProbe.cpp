@@ -24,12 +24,16 @@ StunProbe::StunProbe(const StunServer& server, Listener& listener, AddressHandle
             sender.post([handler, text = address.toString()] { handler(text); });
         }
     };
-    auto* worker = new ProbeWorker(server, nameservers, std::move(reports));
-    worker->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::started, worker, &ProbeWorker::start);
-    QObject::connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
-    ThreadName::set(m_thread, QStringLiteral("StunProbe"));
-    m_thread.start();
+    // Once the event loop runs: what the probe needs is loaded then, and not before a dialog is
+    // there.
+    sender.post([this, server, nameservers, reports = std::move(reports)] {
+        auto* worker = new ProbeWorker(server, nameservers, reports);
+        worker->moveToThread(&m_thread);
+        QObject::connect(&m_thread, &QThread::started, worker, &ProbeWorker::start);
+        QObject::connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
+        ThreadName::set(m_thread, QStringLiteral("StunProbe"));
+        m_thread.start();
+    });
 }
 
 StunProbe::~StunProbe()

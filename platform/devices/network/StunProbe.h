@@ -12,7 +12,8 @@ namespace Platform {
 
 struct StunServer;
 
-// Measures the way to a STUN server on a thread of its own, which ends with it.
+// Measures the way to a STUN server on a thread of its own, which ends with it. Begins when the
+// event loop runs.
 class StunProbe final : public NetworkProbe
 {
 public:

@@ -3,6 +3,7 @@
 #include "platform/devices/network/StunAnswerer.h"
 #include "platform/devices/network/StunClient.h"
 
+#include <QFile>
 #include <QTest>
 #include <vector>
 
@@ -13,6 +14,9 @@ class tst_StunClient : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+#ifndef Q_OS_WIN
+    void libraryIsLoadedForTheFirstRequest(); // the first test, because the others load it
+#endif
     void requestIsABindingRequest();
     void answerTellsTheAddress_data();
     void answerTellsTheAddress();
@@ -21,6 +25,21 @@ private Q_SLOTS:
     void openRequestsAreBounded();
     void damagedAnswers();
 };
+
+#ifndef Q_OS_WIN
+void tst_StunClient::libraryIsLoadedForTheFirstRequest()
+{
+    const auto isLoaded = [] {
+        QFile maps(QStringLiteral("/proc/self/maps"));
+        return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("/libnice.so");
+    };
+    StunClient client;
+    const StunAnswerer answerer;
+    QVERIFY(!isLoaded());
+    QVERIFY(client.createRequest());
+    QVERIFY(isLoaded());
+}
+#endif
 
 void tst_StunClient::requestIsABindingRequest()
 {

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "platform/devices/network/StunFunctions.h"
+
+namespace Platform {
+
+const StunFunctions* StunFunctions::get()
+{
+    return &classroomStunFunctions;
+}
+
+} // namespace Platform
