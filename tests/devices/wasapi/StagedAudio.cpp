@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/wasapi/StagedAudio.h"
 
-#include "tests/devices/wasapi/AudioStage.h"
 #include "tests/devices/ComObject.h"
+#include "tests/devices/wasapi/AudioStage.h"
 #include "tests/devices/wasapi/StagedVolume.h"
 
 #include <cstring>
