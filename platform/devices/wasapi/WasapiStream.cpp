@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/wasapi/WasapiStream.h"
 
+#include "platform/backend/Log.h"
 #include "platform/devices/wasapi/WasapiThread.h"
 
 #include <algorithm>
@@ -98,9 +99,25 @@ HRESULT WasapiStream::initialize()
     if (FAILED(error)) {
         return error;
     }
+    logFormat();
     return m_order.direction == Direction::Playback
                ? m_client->GetService(__uuidof(IAudioRenderClient), m_render.putVoid())
                : m_client->GetService(__uuidof(IAudioCaptureClient), m_capture.putVoid());
+}
+
+// For whoever looks for a driver's fault.
+void WasapiStream::logFormat()
+{
+    WAVEFORMATEX* mixed = nullptr;
+    if (SUCCEEDED(m_client->GetMixFormat(&mixed))) {
+        qCInfo(
+            Log::devices,
+            "A %s is opened with %u Hz, %u channels and a buffer of %u frames; Windows mixes with "
+            "%lu Hz and %d channels",
+            m_order.direction == Direction::Playback ? "speaker" : "microphone", m_order.rate,
+            m_order.channels, m_bufferFrames, mixed->nSamplesPerSec, int(mixed->nChannels));
+        CoTaskMemFree(mixed);
+    }
 }
 
 HRESULT WasapiStream::fillWithSilence()

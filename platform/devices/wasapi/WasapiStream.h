@@ -57,6 +57,7 @@ private:
     explicit WasapiStream(const Order& order);
 
     HRESULT initialize();
+    void logFormat();
     HRESULT fillWithSilence();
     HRESULT activate();
     HRESULT readPacket(std::vector<float>& samples);
