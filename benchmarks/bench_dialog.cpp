@@ -27,7 +27,7 @@ namespace {
 
 constexpr int UsualRounds = 50;
 constexpr int OpeningsPerRound = 20;
-constexpr int RoundsPerClosing = 5;
+constexpr int RoundsPerClosing = 2;
 constexpr int CalmMs = 1500;
 constexpr int RestMs = 5000; // of each page
 constexpr int SmokeRestMs = 200;
