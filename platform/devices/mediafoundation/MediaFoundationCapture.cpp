@@ -119,7 +119,10 @@ bool MediaFoundationCapture::update(const std::vector<CameraSourceThread::Camera
     std::set<QString> links;
     for (const CameraSourceThread::Camera& camera : cameras) {
         if (links.insert(camera.link).second) {
-            listed.add(static_cast<quint32>(links.size()), nodeOf(camera));
+            const auto number = static_cast<int>(links.size());
+            CameraNode node = nodeOf(camera);
+            node.priority = -number; // other programs take Windows' first one, too
+            listed.add(static_cast<quint32>(number), node);
         }
     }
     const bool isChanged = !(listed.devices() == m_cameras.devices());

@@ -22,6 +22,7 @@ class tst_MediaFoundationList : public MediaFoundationTest
 
 private Q_SLOTS:
     void listsCameras();
+    void prefersTheFirst();
     void namesThePlace_data();
     void namesThePlace();
     void followsMessages();
@@ -52,6 +53,17 @@ void tst_MediaFoundationList::listsCameras()
     QVERIFY(m_backend->serverState() == SoundServerState::Running);
     QCOMPARE(m_watcher.log.count(QStringLiteral("list")), 1);
     QCOMPARE(m_cameras->activations(LinkA), 0); // listing opens nothing
+}
+
+// Of Windows' list; ours is sorted by id.
+void tst_MediaFoundationList::prefersTheFirst()
+{
+    m_cameras->plug(LinkB, QStringLiteral("Box"));
+    m_cameras->plug(LinkA, QStringLiteral("Camera"));
+    makeBackend();
+    const QStringList expected{IdA, IdB};
+    QTRY_COMPARE_WITH_TIMEOUT(ids(), expected, LongMs);
+    QTRY_COMPARE(m_backend->currentId(), IdB);
 }
 
 void tst_MediaFoundationList::namesThePlace_data()
