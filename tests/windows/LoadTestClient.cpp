@@ -6,15 +6,14 @@
 #include "platform/backend/EngineRegistry.h"
 #include "platform/backend/FileWriter.h"
 #include "platform/scripted/ScriptedEngine.h"
+#include "tests/support/LockEvents.h"
 #include "tests/support/TimerTools.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QMutex>
 #include <QPixmapCache>
 #include <QTimer>
 #include <QTranslator>
-#include <thread>
 
 using Platform::ScriptedEngine;
 
@@ -100,15 +99,6 @@ struct Client
 };
 
 std::unique_ptr<Client> theClient;
-
-// Qt makes events for 16 locks when two threads first want one at once, which may be in any run.
-void makeLockEvents()
-{
-    QMutex mutex;
-    mutex.lock();
-    std::thread([&mutex] { mutex.tryLock(1); }).join();
-    mutex.unlock();
-}
 
 } // namespace
 

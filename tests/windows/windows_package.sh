@@ -153,7 +153,7 @@ PY
 
 # The responder, asked from outside of Wine.
 port=$(free_port)
-wine_seconds=20 run_in_wine "$bin/envcheck.exe" serve --port "$port" >"$folder/serve.log" 2>&1 &
+wine_seconds=60 run_in_wine "$bin/envcheck.exe" serve --port "$port" >"$folder/serve.log" 2>&1 &
 serve=$!
 python3 - "$port" <<'PY'
 import socket, sys, time
@@ -172,7 +172,8 @@ for attempt in range(30):
         pass
 sys.exit("serve doesn't answer")
 PY
-wait $serve || true # it was ended
+pkill -P $serve || true
+wait $serve || true
 
 # Decoys. That one is found at all is shown by a program that doesn't search safely.
 decoys=$folder/decoys

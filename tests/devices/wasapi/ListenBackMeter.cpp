@@ -20,6 +20,7 @@ constexpr float Burst = 0.2F;
 constexpr int SpeakerChannel = 0;
 constexpr int VoiceChannel = 2;
 constexpr int BusChannels = 4;
+constexpr int PieceMs = 200; // Wine's work for shorter ones tears the sound that is measured
 constexpr auto Spacing = static_cast<std::size_t>(SpacingSeconds * SoundRate);
 
 // A soft tone, which shows gaps, with loud bursts, which show the delay.
@@ -89,7 +90,7 @@ QString ListenBackFigures::toString() const
 
 std::optional<ListenBackFigures> ListenBackMeter::measure(double seconds)
 {
-    NativeRecording recording(QStringLiteral("bus.monitor"), BusChannels);
+    NativeRecording recording(QStringLiteral("bus.monitor"), BusChannels, PieceMs);
     if (!recording.waitForStart()) {
         return std::nullopt;
     }

@@ -10,8 +10,7 @@ namespace TestSupport {
 namespace {
 
 constexpr int TimeoutMs = 10000;
-constexpr int RecordingMs = 200; // in pieces: each costs Wine time, which tears the sound
-constexpr int PlayingMs = 200;   // a sound that a test plays mustn't tear
+constexpr int PlayingMs = 200; // a sound that a test plays mustn't tear
 
 // Such as "unix:/folder/native"; run-program sets it.
 QString address()
@@ -150,9 +149,10 @@ QByteArray NativeSoundServer::control(const QStringList& arguments)
 }
 
 // Channels are taken as they are: the server mustn't mix them.
-NativeRecording::NativeRecording(const QString& device, int channels) : m_channels(channels)
+NativeRecording::NativeRecording(const QString& device, int channels, int pieceMs)
+    : m_channels(channels)
 {
-    QStringList arguments = rawFormat(device, channels, RecordingMs);
+    QStringList arguments = rawFormat(device, channels, pieceMs);
     if (channels == 4) {
         arguments += QStringLiteral("--channel-map=front-left,front-right,rear-left,rear-right");
     }

@@ -52,7 +52,8 @@ private:
 class NativeRecording
 {
 public:
-    explicit NativeRecording(const QString& device, int channels = 2);
+    // pieceMs: how late it is told at most. Short pieces cost Wine time.
+    explicit NativeRecording(const QString& device, int channels = 2, int pieceMs = 20);
 
     bool waitForStart();
     std::vector<float> samples(int channel = 0); // so far

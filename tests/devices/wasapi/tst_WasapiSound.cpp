@@ -7,6 +7,7 @@
 #include "platform/devices/wasapi/WasapiThread.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/devices/wasapi/NativeSound.h"
+#include "tests/support/LockEvents.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
 #include "tests/support/ProcessResources.h"
@@ -219,6 +220,7 @@ void tst_WasapiSound::openAndClose(int times)
 
 void tst_WasapiSound::manyOpeningsLeaveNothing()
 {
+    makeLockEvents();
     m_speaker->setCurrent(speaker("Test Speaker A"));
     m_microphone->setListening(true);
     const QByteArray tone = m_server.startTone(text("voice"));
