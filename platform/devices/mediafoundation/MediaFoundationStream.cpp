@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::chrono::milliseconds ReleaseTime(2000); // for the stream before
 constexpr std::chrono::milliseconds WatchPeriod(200);
+using Clock = std::chrono::steady_clock;
 constexpr QSize UsualPreview(306, 172); // until the preview says its size
 constexpr DWORD FormatFlags = static_cast<DWORD>(MF_SOURCE_READERF_NATIVEMEDIATYPECHANGED) |
                               static_cast<DWORD>(MF_SOURCE_READERF_CURRENTMEDIATYPECHANGED);
@@ -50,14 +51,17 @@ void MediaFoundationStream::run()
 HRESULT MediaFoundationStream::play(MediaFoundationCamera& camera)
 {
     HRESULT error = start(camera);
+    auto lastDelivery = Clock::now();
     while (SUCCEEDED(error) && !m_box->isStopped()) {
         const std::optional<SampleBox::Delivery> delivery = m_box->await(WatchPeriod);
         if (delivery) {
+            lastDelivery = Clock::now();
             error = take(camera, *delivery);
         }
-        if (bestMode(camera) != m_mode) { // the preview is on a sharper screen now
+        const bool isDead = Clock::now() - lastDelivery > SilenceLimit;
+        if (isDead || bestMode(camera) != m_mode) { // or the preview is on a sharper screen now
             tell([](CameraOpening& opening) { opening.reopen(); });
-            m_mode = bestMode(camera);
+            return S_OK;
         }
     }
     return error;

@@ -23,6 +23,9 @@ class MediaFoundationCamera;
 class MediaFoundationStream
 {
 public:
+    // A stream that is silent for so long is opened anew: Windows doesn't tell of each one's end.
+    static constexpr std::chrono::milliseconds SilenceLimit{6000};
+
     struct Order
     {
         MediaFoundation functions;

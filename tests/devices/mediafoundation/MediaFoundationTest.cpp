@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The EnvCheck authors
+// SPDX-License-Identifier: MIT
+#include "tests/devices/mediafoundation/MediaFoundationTest.h"
+
+#include "platform/backend/FileWriter.h"
+#include "platform/devices/mediafoundation/MediaFoundationCapture.h"
+#include "platform/devices/wasapi/WasapiThread.h"
+
+#include <QtTest>
+
+using namespace Platform;
+
+namespace TestSupport {
+
+const QString MediaFoundationTest::LinkA =
+    QStringLiteral("\\\\?\\USB#VID_046D&PID_0825&MI_00#7&1a&0&0000#{e5323777-f976-4f5b-9b55-"
+                   "b94699c46e44}\\global");
+const QString MediaFoundationTest::LinkB =
+    QStringLiteral("\\\\?\\usb#vid_046d&pid_0825&mi_00#7&2b&0&0000#{e5323777-f976-4f5b-9b55-"
+                   "b94699c46e44}\\global");
+const QString MediaFoundationTest::IdA =
+    QStringLiteral("\\\\?\\usb#vid_046d&pid_0825&mi_00#7&1a&0&0000");
+const QString MediaFoundationTest::IdB =
+    QStringLiteral("\\\\?\\usb#vid_046d&pid_0825&mi_00#7&2b&0&0000");
+
+void MediaFoundationTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_report = MemoryReport();
+    m_watcher = CameraWatcher();
+    m_cameras = std::make_unique<StagedCameras>();
+}
+
+void MediaFoundationTest::cleanup()
+{
+    m_backend.reset();
+    m_system.reset();
+    const int sources = m_cameras ? m_cameras->opened(LinkA) + m_cameras->opened(LinkB) : 0;
+    if (sources == 0 || QTest::currentTestFailed()) {
+        m_cameras.reset(); // what hangs goes on
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, LongMs);
+    QVERIFY(!m_cameras || m_cameras->objects() == 0);
+    m_cameras.reset();
+    QVERIFY(FileWriter::waitForWritten(LongMs));
+}
+
+bool MediaFoundationTest::isNear(QRgb actual, QRgb expected)
+{
+    constexpr int Tolerance = 24;
+    return qAbs(qRed(actual) - qRed(expected)) <= Tolerance &&
+           qAbs(qGreen(actual) - qGreen(expected)) <= Tolerance &&
+           qAbs(qBlue(actual) - qBlue(expected)) <= Tolerance;
+}
+
+void MediaFoundationTest::makeSystem(const MediaFoundationLoader& load)
+{
+    m_system = std::make_unique<DeviceCameraSystem>(m_folder->path(), m_report,
+                                                    mediaFoundationFeedMaker(load));
+    m_backend = m_system->createCamera(m_watcher);
+    m_backend->setOutputSize(PreviewSize);
+}
+
+void MediaFoundationTest::makeBackend()
+{
+    makeSystem([] { return MediaFoundation::load(); });
+}
+
+void MediaFoundationTest::start()
+{
+    m_backend->start();
+    QTRY_COMPARE_WITH_TIMEOUT(stateName(), QStringLiteral("working"), LongMs);
+}
+
+} // namespace TestSupport
