@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "tests/devices/DeviceDialog.h"
-#include "tests/support/CameraProcess.h"
+#include "tests/devices/DialogCameras.h"
 #include "tests/support/GapMeter.h"
-#include "tests/support/PipeWireServer.h"
 #include "widgets/LumToolTip.h"
 
 #include <QAbstractItemView>
@@ -12,7 +11,6 @@
 #include <QPushButton>
 #include <QtTest>
 #include <algorithm>
-#include <csignal>
 #include <optional>
 
 using namespace TestSupport;
@@ -20,10 +18,17 @@ using namespace TestSupport;
 namespace {
 
 constexpr int LongMs = 8000;
+// Where nothing tells how long a thread waited for a processor, a gap counts only if it comes
+// again.
+#ifdef Q_OS_WIN
+constexpr int Attempts = 4;
+#else
+constexpr int Attempts = 1;
+#endif
 constexpr int StateCount = 5;
 constexpr int StateWidth = 410;
 constexpr int StateGap = 8;
-const QRgb Red = qRgb(0xc8, 0x28, 0x28);
+const QRgb Red = DialogCameras::Red;
 const QRgb Green = qRgb(0x28, 0xa0, 0x28);
 const QRgb Background = qRgb(242, 242, 242);
 const QString NameA = QStringLiteral("cam_a");
@@ -67,8 +72,9 @@ private Q_SLOTS:
 private:
     using Script = std::function<void()>;
 
-    std::unique_ptr<CameraProcess> plug(const QString& name, const QString& description,
-                                        const QStringList& arguments = {}) const;
+    void measureGap(const Script& action);
+    void leaveHungCamera();
+    void freezeAt(int step);
     void runDialog(const Script& script) { QVERIFY(m_dialog->run(script)); }
     template <typename T>
     T* child(const char* name) const
@@ -85,15 +91,16 @@ private:
     void keepState();
     void keepSheet() const;
 
-    std::unique_ptr<PipeWireServer> m_server;
+    std::unique_ptr<DialogCameras> m_cameras;
     std::unique_ptr<DeviceDialog> m_dialog;
+    qint64 m_gap = 0;             // the longest of a measurement
     std::vector<QImage> m_states; // a row for each language
 };
 
 void tst_CameraDialog::init()
 {
-    m_server = std::make_unique<PipeWireServer>();
-    QVERIFY2(m_server->start(), qPrintable(m_server->problem()));
+    m_cameras = std::make_unique<DialogCameras>();
+    QVERIFY2(m_cameras->start(), qPrintable(m_cameras->problem()));
     m_dialog = std::make_unique<DeviceDialog>(QStringLiteral("en"));
 }
 
@@ -105,14 +112,13 @@ void tst_CameraDialog::cleanupTestCase()
 void tst_CameraDialog::cleanup()
 {
     m_dialog.reset();
-    m_server.reset();
+    m_cameras.reset();
 }
 
 void tst_CameraDialog::tellsTwoCamerasApart()
 {
-    const auto a = plug(NameA, QStringLiteral("Front camera"));
-    const auto b = plug(NameB, QStringLiteral("Desk camera"),
-                        {QStringLiteral("--color"), QStringLiteral("28a028")});
+    m_cameras->plug(NameA, QStringLiteral("Front camera"));
+    m_cameras->plug(NameB, QStringLiteral("Desk camera"), Green);
     runDialog([this] {
         openCameraPage();
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
@@ -130,20 +136,19 @@ void tst_CameraDialog::tellsTwoCamerasApart()
 
 void tst_CameraDialog::followsPlugsWithThePopupOpen()
 {
-    auto a = plug(NameA, QStringLiteral("Front camera"));
-    std::unique_ptr<CameraProcess> b;
-    runDialog([this, &a, &b] {
+    m_cameras->plug(NameA, QStringLiteral("Front camera"));
+    runDialog([this] {
         openCameraPage();
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
         auto* const box = child<QComboBox>("cb_vd_name");
         box->showPopup();
-        b = plug(NameB, QStringLiteral("Desk camera"));
+        m_cameras->plug(NameB, QStringLiteral("Desk camera"));
         QTRY_COMPARE(box->count(), 3);
         QVERIFY(!box->view()->isVisible());
         QTRY_COMPARE(box->currentText(), QStringLiteral("Front camera"));
 
         box->showPopup();
-        a->kill();
+        m_cameras->unplug(NameA);
         QTRY_COMPARE(box->count(), 2);
         QVERIFY(!box->view()->isVisible());
         QTRY_COMPARE(box->currentIndex(), -1); // the unplugged camera stays chosen
@@ -151,7 +156,7 @@ void tst_CameraDialog::followsPlugsWithThePopupOpen()
         QTRY_VERIFY(previewShows(Background));
         keepFrame("camera-unplugged");
 
-        a = plug(NameA, QStringLiteral("Front camera"));
+        m_cameras->plug(NameA, QStringLiteral("Front camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
         QTRY_COMPARE(box->currentText(), QStringLiteral("Front camera"));
         QVERIFY(child<QPushButton>("Btn_CanSee")->isVisible());
@@ -170,21 +175,20 @@ void tst_CameraDialog::showsEveryDeviceState()
     QFETCH(QString, language);
     m_dialog.reset();
     m_dialog = std::make_unique<DeviceDialog>(language);
-    std::unique_ptr<CameraProcess> camera;
-    runDialog([this, &camera] {
+    runDialog([this] {
         openCameraPage();
         QCOMPARE(entries(), QStringList(qtTrId("ID_Engine_NoCamera")));
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QVERIFY(!balloon());
         keepState();
 
-        camera = plug(NameA, QStringLiteral("Front camera"), {QStringLiteral("--stalled")});
+        m_cameras->plug(NameA, QStringLiteral("Front camera"), Red, DialogCameras::Start::Stalled);
         QTRY_COMPARE(entries().size(), 2);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isVisible());
         QVERIFY(!child<QPushButton>("Btn_CanSee")->isEnabled());
         keepState();
 
-        camera->command("resume");
+        m_cameras->resume(NameA);
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isEnabled());
         keepState();
@@ -197,7 +201,7 @@ void tst_CameraDialog::showsEveryDeviceState()
 
         chooseInPopup(QStringLiteral("Front camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
-        camera->kill();
+        m_cameras->unplug(NameA);
         QTRY_COMPARE(child<QComboBox>("cb_vd_name")->currentIndex(), -1);
         QTRY_VERIFY(previewShows(Background));
         QVERIFY(!balloon());
@@ -208,21 +212,7 @@ void tst_CameraDialog::showsEveryDeviceState()
 
 void tst_CameraDialog::leavesHungCameraAtOnce()
 {
-    const auto camera = plug(NameA, QStringLiteral("Front camera"));
-    std::optional<GapMeter> gaps;
-    runDialog([this, &camera, &gaps] {
-        QTRY_COMPARE_WITH_TIMEOUT(entries().size(), 2, LongMs);
-        camera->sendSignal(SIGSTOP);
-        openCameraPage();
-        QTest::qWait(500);
-        gaps.emplace();
-        openSystemPage();
-        QVERIFY(gaps->longestMs() < MaxGapMs);
-        openCameraPage();
-        QTest::qWait(500);
-        gaps.emplace();
-    });
-    QVERIFY(gaps->longestMs() < MaxGapMs);
+    measureGap([this] { leaveHungCamera(); });
 }
 
 void tst_CameraDialog::neverBlocksWhileServerIsFrozen_data()
@@ -239,26 +229,71 @@ void tst_CameraDialog::neverBlocksWhileServerIsFrozen_data()
 void tst_CameraDialog::neverBlocksWhileServerIsFrozen()
 {
     QFETCH(int, step);
-    const auto a = plug(NameA, QStringLiteral("Front camera"));
-    const auto b = plug(NameB, QStringLiteral("Desk camera"),
-                        {QStringLiteral("--color"), QStringLiteral("28a028")});
+    measureGap([this, step] { freezeAt(step); });
+}
+
+// The action sets m_gap.
+void tst_CameraDialog::measureGap(const Script& action)
+{
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        if (attempt > 0) {
+            cleanup();
+            init();
+        }
+        m_gap = 0;
+        action();
+        if (QTest::currentTestFailed()) {
+            return;
+        }
+        qInfo("longest gap %lld ms", m_gap);
+        QVERIFY(m_gap > 0);
+        if (m_gap < MaxGapMs) {
+            return;
+        }
+    }
+    QVERIFY(m_gap < MaxGapMs);
+}
+
+void tst_CameraDialog::leaveHungCamera()
+{
+    m_cameras->plug(NameA, QStringLiteral("Front camera"));
+    std::optional<GapMeter> gaps;
+    runDialog([this, &gaps] {
+        QTRY_COMPARE_WITH_TIMEOUT(entries().size(), 2, LongMs);
+        m_cameras->hang(NameA);
+        openCameraPage();
+        QTest::qWait(500);
+        gaps.emplace();
+        openSystemPage();
+        m_gap = gaps->longestMs();
+        openCameraPage();
+        QTest::qWait(500);
+        gaps.emplace();
+    });
+    QVERIFY(gaps);
+    m_gap = std::max(m_gap, gaps->longestMs());
+}
+
+void tst_CameraDialog::freezeAt(int step)
+{
+    m_cameras->plug(NameA, QStringLiteral("Front camera"));
+    m_cameras->plug(NameB, QStringLiteral("Desk camera"), Green);
     // Once before: texts and fonts are loaded, which takes time whatever the cameras do.
     runDialog([this] { openCameraPage(); });
     int next = 0;
-    qint64 gap = 0;
     std::optional<GapMeter> gaps;
     const auto thawLater = [&] {
         QTest::qWait(freezeMs());
-        gap = gaps->longestMs();
+        m_gap = gaps->longestMs();
         gaps.reset();
-        m_server->thaw();
+        m_cameras->thaw();
     };
     const auto frozen = [&](const Script& action) {
         if (next++ != step) {
             action();
             return;
         }
-        m_server->freeze();
+        m_cameras->freeze();
         gaps.emplace();
         action();
         thawLater();
@@ -275,12 +310,12 @@ void tst_CameraDialog::neverBlocksWhileServerIsFrozen()
         openCameraPage();
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Green), LongMs);
         if (step == 5) {
-            m_server->freeze();
+            m_cameras->freeze();
             gaps.emplace();
         }
     };
     if (step == 0) {
-        m_server->freeze();
+        m_cameras->freeze();
         runDialog([&] {
             gaps.emplace(); // from now on only the cameras can block
             openCameraPage();
@@ -290,24 +325,10 @@ void tst_CameraDialog::neverBlocksWhileServerIsFrozen()
     } else {
         next = 1;
         runDialog(whileOpen);
-        if (step == 5) {
+        if (step == 5 && gaps) {
             thawLater();
         }
     }
-    qInfo("longest gap %lld ms", gap);
-    QVERIFY(gap > 0);
-    QVERIFY(gap < MaxGapMs);
-}
-
-std::unique_ptr<CameraProcess> tst_CameraDialog::plug(const QString& name,
-                                                      const QString& description,
-                                                      const QStringList& arguments) const
-{
-    auto result = std::make_unique<CameraProcess>(name, description, arguments);
-    if (!QTest::qWaitFor([&] { return result->output().contains("paused"); }, LongMs)) {
-        qWarning() << "The virtual camera isn't ready:" << result->output();
-    }
-    return result;
 }
 
 void tst_CameraDialog::chooseInPopup(const QString& text) const

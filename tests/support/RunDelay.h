@@ -15,7 +15,9 @@ public:
     explicit RunDelay(const QString& thread = QStringLiteral("/proc/thread-self"))
         : m_file(thread + QStringLiteral("/schedstat"))
     {
+#ifndef Q_OS_WIN // Wine would show a thread of its server
         m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+#endif
     }
 
     // 0 where the kernel keeps no such figures, or the thread is over.

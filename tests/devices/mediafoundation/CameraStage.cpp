@@ -42,6 +42,7 @@ void CameraStage::pass(const bool& hangs)
     ++hanging;
     goesOn.wait(lock, [&hangs] { return !hangs; });
     --hanging;
+    goesOn.notify_all();
 }
 
 } // namespace TestSupport

@@ -20,9 +20,9 @@ struct CameraStage;
 // shows what the engine makes of our reading of Windows, not Windows. One object at a time; any
 // thread may use it.
 //
-// Frames come at the mode's rate while somebody asks for them. They have four quadrants: red and
-// green above blue and white, in limited BT.601. The left edge of the upper half blinks black and
-// white.
+// Frames come at the mode's rate while somebody asks for them. Unless the mode has a color, they
+// have four quadrants: red and green above blue and white, in limited BT.601. The left edge of the
+// upper half blinks black and white.
 class STAGEDCAMERAS_EXPORT StagedCameras
 {
 public:

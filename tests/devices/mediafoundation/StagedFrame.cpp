@@ -52,7 +52,11 @@ QByteArray frameOf(const StagedMode& mode, int number)
     const int unpadded = CameraPattern(format, mode.size, 0).stride();
     const int stride = mode.stride == 0 ? unpadded : qAbs(mode.stride);
     CameraPattern pattern(format, mode.size, stride - unpadded);
-    pattern.setQuadrants();
+    if (mode.color == 0) {
+        pattern.setQuadrants();
+    } else {
+        pattern.setColor(mode.color);
+    }
     const QByteArray bytes = pattern.frame(number);
     return mode.stride < 0 ? turned(bytes, stride) : bytes;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QRgb>
 #include <QSize>
 
 namespace TestSupport {
@@ -18,6 +19,7 @@ struct StagedMode
     int stride = 0;       // negative: bottom-up. 0: the camera says none, and rows have no padding
     int nominalRange = 0; // as Media Foundation numbers it. 0: the camera says nothing
     int yuvMatrix = 0;    // the same
+    QRgb color = 0;       // of all but a few marks. 0: the four quadrants
 };
 
 } // namespace TestSupport

@@ -18,6 +18,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Ticks = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // Media Foundation's unit
 
+constexpr std::chrono::milliseconds ReaderLinger(500); // for commands on their way
+
 UINT64 pair(int first, int second)
 {
     return static_cast<UINT64>(first) << 32 | static_cast<UINT32>(second);
@@ -71,6 +73,18 @@ StagedSource::~StagedSource()
     countAsClosed();
 }
 
+HRESULT StagedSource::BeginGetEvent(IMFAsyncCallback* callback, IUnknown* state)
+{
+    {
+        const std::scoped_lock lock(m_stage->mutex);
+        if (!m_reader && !m_isShutDown) {
+            callback->AddRef();
+            *m_reader.put() = callback;
+        }
+    }
+    return EventGenerator::BeginGetEvent(callback, state);
+}
+
 HRESULT StagedSource::GetCharacteristics(DWORD* characteristics)
 {
     *characteristics = MFMEDIASOURCE_IS_LIVE;
@@ -117,6 +131,7 @@ HRESULT StagedSource::Shutdown()
     m_stage->pass(m_camera->hangsInShutdown);
     endThread();
     countAsClosed();
+    releaseReaderLater();
     closeEvents();
     m_stream->closeEvents();
     return S_OK;
@@ -191,6 +206,20 @@ void StagedSource::endThread()
     if (m_thread.joinable()) {
         m_thread.join();
     }
+}
+
+// Wine's source reader waits for itself, and then all others for it, if one of its own commands is
+// the last to let go of it. So it is held until these are done.
+void StagedSource::releaseReaderLater()
+{
+    std::thread([stage = m_stage, reader = std::move(m_reader)]() mutable {
+        {
+            std::unique_lock lock(stage->mutex);
+            stage->goesOn.wait(lock, [&stage] { return stage->hanging == 0; });
+        }
+        std::this_thread::sleep_for(ReaderLinger);
+        reader.reset();
+    }).detach();
 }
 
 void StagedSource::countAsClosed()

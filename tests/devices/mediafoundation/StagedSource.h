@@ -21,6 +21,7 @@ class StagedSource final : public EventGenerator<IMFMediaSource>
 public:
     StagedSource(std::shared_ptr<CameraStage> stage, std::shared_ptr<StagedCamera> camera);
 
+    HRESULT STDMETHODCALLTYPE BeginGetEvent(IMFAsyncCallback* callback, IUnknown* state) override;
     HRESULT STDMETHODCALLTYPE GetCharacteristics(DWORD* characteristics) override;
     HRESULT STDMETHODCALLTYPE
     CreatePresentationDescriptor(IMFPresentationDescriptor** descriptor) override;
@@ -37,6 +38,7 @@ private:
     StagedMode currentMode() const;
     void run(const StagedMode& mode);
     void endThread();
+    void releaseReaderLater();
     void countAsClosed();
 
     std::shared_ptr<CameraStage> m_stage;
@@ -46,6 +48,7 @@ private:
     Platform::ComPointer<IMFStreamDescriptor> m_description;
     Platform::ComPointer<IMFPresentationDescriptor> m_presentation;
     Platform::ComPointer<StagedStream> m_stream;
+    Platform::ComPointer<IMFAsyncCallback> m_reader; // of it
     std::thread m_thread;
     bool m_isEnding = false; // guarded by the stage, as are the next ones
     bool m_isShutDown = false;

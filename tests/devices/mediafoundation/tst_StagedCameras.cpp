@@ -158,15 +158,16 @@ void tst_StagedCameras::sendsAtItsRate()
 
 void tst_StagedCameras::describesItsModes()
 {
-    StagedMode bottomUp{"RGB32", QSize(320, 240), 15, 1, -1280, 0, 0};
+    StagedMode bottomUp{"RGB32", QSize(320, 240), 15, 1, -1280, 0, 0, 0};
     StagedMode wide{"NV12",
                     QSize(1920, 1080),
                     30000,
                     1001,
                     0,
                     MFNominalRange_0_255,
-                    MFVideoTransferMatrix_BT709};
-    StagedMode unknown{"H264", QSize(1280, 720), 30, 1, 0, 0, 0};
+                    MFVideoTransferMatrix_BT709,
+                    0};
+    StagedMode unknown{"H264", QSize(1280, 720), 30, 1, 0, 0, 0, 0};
     StagedCameras cameras;
     cameras.plug(Link, QStringLiteral("A"), {bottomUp, wide, unknown});
     CameraReader reader;
