@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/devices/mediafoundation/MediaFoundation.h"
-#include "platform/devices/wasapi/ComPointer.h"
+#include "platform/devices/windows/ComPointer.h"
 
 #include <QString>
 #include <vector>

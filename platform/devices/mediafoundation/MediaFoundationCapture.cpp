@@ -4,7 +4,7 @@
 
 #include "platform/devices/camera/ThreadedFeed.h"
 #include "platform/devices/mediafoundation/CameraSources.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <set>
 
@@ -49,7 +49,7 @@ MediaFoundationCapture::MediaFoundationCapture(const MediaFoundationLoader& load
     m_lookTimer.setInterval(LookPeriod);
     QObject::connect(&m_lookTimer, &QTimer::timeout, &m_lookTimer,
                      [this] { m_sources->lookAgain(); });
-    if (WasapiThread::run(WasapiThread::Priority::Usual,
+    if (DriverThread::run(DriverThread::Priority::Usual,
                           [sources = m_sources] { sources->run(); })) {
         m_lookTimer.start();
     } else {
@@ -84,7 +84,7 @@ bool MediaFoundationCapture::openStream(const QString& link)
                                              &m_opening};
     m_stream = std::make_shared<MediaFoundationStream>(order, m_lastStream.lock());
     m_stream->setOutputSize(m_outputSize);
-    if (WasapiThread::run(WasapiThread::Priority::Usual, [stream = m_stream] { stream->run(); })) {
+    if (DriverThread::run(DriverThread::Priority::Usual, [stream = m_stream] { stream->run(); })) {
         m_lastStream = m_stream;
     } else {
         m_opening.streamEnded(DeviceState::Hung); // like those that have the threads

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/devices/mediafoundation/MediaFoundation.h"
-#include "platform/devices/wasapi/ComPointer.h"
+#include "platform/devices/windows/ComPointer.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -30,6 +30,9 @@ public:
     // None if nothing came in time, or after stop().
     std::optional<Delivery> await(std::chrono::milliseconds limit);
 
+    void noteFlushed(); // Windows has done all that was asked for
+    bool awaitFlush(std::chrono::milliseconds limit);
+
     void end(); // by the camera's thread, which uses nothing of the camera any more
     bool awaitEnd(std::chrono::milliseconds limit);
 
@@ -38,6 +41,7 @@ private:
     std::condition_variable m_changed;
     std::optional<Delivery> m_delivery; // guarded by m_mutex, as are the next ones
     bool m_isStopped = false;
+    bool m_isFlushed = false;
     bool m_isEnded = false;
 };
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/devices/sound/SoundDevices.h"
-#include "platform/devices/wasapi/ComPointer.h"
 #include "platform/devices/wasapi/EndpointVolume.h"
+#include "platform/devices/windows/ComPointer.h"
 
 #include <functional>
 #include <map>

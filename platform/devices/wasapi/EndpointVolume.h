@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/devices/sound/DeviceVolume.h"
-#include "platform/devices/wasapi/ComPointer.h"
+#include "platform/devices/windows/ComPointer.h"
 
 struct IAudioEndpointVolume;
 struct IMMDevice;

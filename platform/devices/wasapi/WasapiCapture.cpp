@@ -3,7 +3,7 @@
 #include "platform/devices/wasapi/WasapiCapture.h"
 
 #include "platform/devices/wasapi/WasapiRecording.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <utility>
 
@@ -24,7 +24,7 @@ void WasapiCapture::open(const QString& microphoneId, std::shared_ptr<Microphone
     m_recording =
         std::make_shared<WasapiRecording>(microphoneId, std::move(analysis), std::move(events));
     m_recording->listenOn(m_speakerId);
-    if (!WasapiThread::run(WasapiThread::Priority::RealTime,
+    if (!DriverThread::run(DriverThread::Priority::RealTime,
                            [recording = m_recording] { recording->run(); })) {
         m_recording.reset();
         failed(DeviceState::Failed);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/wasapi/WasapiOpening.h"
 
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <mutex>
 #include <utility>
@@ -40,7 +40,7 @@ void WasapiOpening::start(const WasapiStream::Order& order)
         }
         wake->set();
     }; // what was abandoned is closed here
-    if (!WasapiThread::run(WasapiThread::Priority::Usual, job)) {
+    if (!DriverThread::run(DriverThread::Priority::Usual, job)) {
         m_shared->result = Result{nullptr, HRESULT_FROM_WIN32(WAIT_TIMEOUT)}; // others hang
         m_wake->set();
     }

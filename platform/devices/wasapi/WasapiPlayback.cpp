@@ -4,7 +4,7 @@
 
 #include "platform/devices/sound/SoundBuffer.h"
 #include "platform/devices/wasapi/WasapiPlaying.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <utility>
 
@@ -13,7 +13,7 @@ namespace Platform {
 WasapiPlayback::WasapiPlayback(std::shared_ptr<SoundBuffer> sound, const Finished& finished)
     : m_playing(std::make_shared<WasapiPlaying>(std::move(sound), finished))
 {
-    if (!WasapiThread::run(WasapiThread::Priority::RealTime,
+    if (!DriverThread::run(DriverThread::Priority::RealTime,
                            [playing = m_playing] { playing->run(); })) {
         finished(DeviceState::Failed);
     }

@@ -5,7 +5,7 @@
 #include "platform/devices/wasapi/EndpointThread.h"
 #include "platform/devices/wasapi/WasapiCapture.h"
 #include "platform/devices/wasapi/WasapiPlayback.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <chrono>
 #include <utility>
@@ -55,7 +55,7 @@ std::unique_ptr<SoundPlayback> WasapiServer::createPlayback(std::shared_ptr<Soun
 // None is to be had while too many hang. Without one, the ticks tell that Windows doesn't answer.
 void WasapiServer::startThread()
 {
-    m_hasThread = m_hasThread || WasapiThread::run(WasapiThread::Priority::Usual,
+    m_hasThread = m_hasThread || DriverThread::run(DriverThread::Priority::Usual,
                                                    [endpoints = m_endpoints] { endpoints->run(); });
 }
 

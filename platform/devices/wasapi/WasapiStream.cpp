@@ -3,7 +3,7 @@
 #include "platform/devices/wasapi/WasapiStream.h"
 
 #include "platform/backend/Log.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <algorithm>
 
@@ -51,7 +51,7 @@ std::unique_ptr<WasapiStream> WasapiStream::open(const Order& order, HRESULT& er
 
 void WasapiStream::closeElsewhere(std::unique_ptr<WasapiStream> stream)
 {
-    WasapiThread::run(WasapiThread::Priority::Usual, [open = stream.release()] { delete open; });
+    DriverThread::run(DriverThread::Priority::Usual, [open = stream.release()] { delete open; });
 }
 
 WasapiStream::WasapiStream(const Order& order) : m_order(order)

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/wasapi/ComPointer.h"
 #include "platform/devices/wasapi/WakeEvent.h"
+#include "platform/devices/windows/ComPointer.h"
 
 #include <QString>
 #include <chrono>

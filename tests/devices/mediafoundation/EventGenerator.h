@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/wasapi/ComPointer.h"
+#include "platform/devices/windows/ComPointer.h"
 #include "tests/devices/ComObject.h"
 
 // Must follow windows.h.

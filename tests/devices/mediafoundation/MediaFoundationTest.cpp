@@ -4,7 +4,7 @@
 
 #include "platform/backend/FileWriter.h"
 #include "platform/devices/mediafoundation/MediaFoundationCapture.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <QtTest>
 
@@ -39,7 +39,7 @@ void MediaFoundationTest::cleanup()
     if (sources == 0 || QTest::currentTestFailed()) {
         m_cameras.reset(); // what hangs goes on
     }
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, LongMs);
     QTRY_VERIFY(!m_cameras || m_cameras->objects() == 0); // Wine lets go of some later
     m_cameras.reset();
     QVERIFY(FileWriter::waitForWritten(LongMs));

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/mediafoundation/MediaFoundationTest.h"
 #include "tests/support/ProcessResources.h"
 
@@ -112,10 +112,10 @@ void tst_MediaFoundationFaults::leavesAHungCameraAtOnce()
     m_system.reset();
     QVERIFY(duration.elapsed() < AtOnceMs);
     QTRY_COMPARE_WITH_TIMEOUT(m_cameras->hangingCalls(), 1, LongMs);
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 1, LongMs); // what hangs, and nothing else
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 1, LongMs); // what hangs, and nothing else
     m_cameras->hangActivation(LinkA, false);
     m_cameras->hangShutdown(LinkA, false);
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, LongMs);
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, LongMs);
     QCOMPARE(m_cameras->opened(LinkA), 0); // what was opened late is closed
 }
 
@@ -126,12 +126,12 @@ void tst_MediaFoundationFaults::startsNoThreadsWithoutEnd()
     m_cameras->hangActivation(LinkA, true);
     makeBackend();
     QTRY_COMPARE_WITH_TIMEOUT(ids(), QStringList{IdA}, LongMs);
-    for (int i = 0; i < 2 * WasapiThread::MaxCount; ++i) {
+    for (int i = 0; i < 2 * DriverThread::MaxCount; ++i) {
         m_backend->start();
         m_backend->stop();
         QCoreApplication::processEvents();
     }
-    QVERIFY(WasapiThread::count() <= WasapiThread::MaxCount);
+    QVERIFY(DriverThread::count() <= DriverThread::MaxCount);
     m_backend->start();
     QTRY_COMPARE_WITH_TIMEOUT(causeName(), QStringLiteral("hung"), LongMs);
     m_cameras->hangActivation(LinkA, false);
@@ -216,7 +216,7 @@ void tst_MediaFoundationFaults::leavesNothingBehind()
         m_backend->start();
         QTRY_VERIFY_WITH_TIMEOUT(m_watcher.frames > 0, LongMs);
         m_backend->stop();
-        QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 1, LongMs); // that of the list
+        QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 1, LongMs); // that of the list
     };
     openOnce(); // what Wine keeps of the first one
     openOnce();

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/devices/wasapi/AudioStage.h"
 #include "tests/devices/ComObject.h"
+#include "tests/devices/wasapi/AudioStage.h"
 
 #include <memory>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/wasapi/WasapiEndpoint.h"
 
-#include "platform/devices/wasapi/ComPointer.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/ComPointer.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include <future>
 #include <memory>
@@ -14,7 +14,7 @@
 #include <mmdeviceapi.h>
 
 using Platform::ComPointer;
-using Platform::WasapiThread::Priority;
+using Platform::DriverThread::Priority;
 
 namespace TestSupport {
 
@@ -68,7 +68,7 @@ QString findElsewhere(EDataFlow flow, const QString& name)
 {
     const auto found = std::make_shared<std::promise<QString>>();
     std::future<QString> result = found->get_future();
-    return Platform::WasapiThread::run(Priority::Usual,
+    return Platform::DriverThread::run(Priority::Usual,
                                        [found, flow, name] { found->set_value(find(flow, name)); })
                ? result.get()
                : QString();

@@ -3,7 +3,7 @@
 #include "platform/devices/sound/LevelMeter.h"
 #include "platform/devices/sound/SoundMath.h"
 #include "platform/devices/wasapi/WasapiCapture.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int TimeoutMs = 10000;
 constexpr qint64 LongestCallMs = 100;
-constexpr int Openings = 3 * WasapiThread::MaxCount;
+constexpr int Openings = 3 * DriverThread::MaxCount;
 
 } // namespace
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     }
 
     // No stream and no thread is left.
-    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs); }
+    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, TimeoutMs); }
 
     void levelOfAKnownTone_data()
     {
@@ -112,7 +112,7 @@ private Q_SLOTS:
             capture.close();
             const Opening another(capture, m_microphone);
             longest = std::max(longest, timer.elapsed());
-            most = std::max(most, WasapiThread::count());
+            most = std::max(most, DriverThread::count());
             QTest::qWait(10); // lets it come to where it hangs
         }
         QElapsedTimer timer;
@@ -122,7 +122,7 @@ private Q_SLOTS:
         qInfo("longest call %lld ms, at most %d threads", longest, most);
         QVERIFY(m_server.thaw());
         QVERIFY(longest < LongestCallMs);
-        QVERIFY(most <= WasapiThread::MaxCount);
+        QVERIFY(most <= DriverThread::MaxCount);
         capture.listenOn({});
         QTRY_VERIFY_WITH_TIMEOUT(delivers(capture), TimeoutMs);
     }

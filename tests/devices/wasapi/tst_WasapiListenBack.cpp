@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 #include "platform/devices/wasapi/WasapiCapture.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/ListenBackMeter.h"
 #include "tests/devices/wasapi/NativeSound.h"
@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(!m_microphone.isEmpty() && !m_speaker.isEmpty());
     }
 
-    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs); }
+    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, TimeoutMs); }
 
     // It is judged by the server's own module. A busy machine tears the sound, since nothing that
     // is under Wine has real-time priority.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/SoundBuffer.h"
 #include "platform/devices/wasapi/WasapiPlayback.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
@@ -27,7 +27,7 @@ constexpr int Attempts = 3;
 constexpr double MaxLostSeconds = 0.1; // a fraction of the buffer
 constexpr double AlikeAtLeast = 0.95;
 constexpr double OthersAtMost = 0.5;
-constexpr int Openings = 3 * WasapiThread::MaxCount;
+constexpr int Openings = 3 * DriverThread::MaxCount;
 constexpr qint64 LongestCallMs = 100;
 
 // One sound that plays, with what came of it.
@@ -78,7 +78,7 @@ private Q_SLOTS:
     }
 
     // No stream and no thread is left.
-    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs); }
+    void cleanup() { QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, TimeoutMs); }
 
     void everySoundIsHeard_data()
     {
@@ -173,12 +173,12 @@ private Q_SLOTS:
             });
             QTest::qWait(10); // lets it come to where it hangs
             call([&] { another.reset(); });
-            most = std::max(most, WasapiThread::count());
+            most = std::max(most, DriverThread::count());
         }
         qInfo("longest call %lld ms, at most %d threads", longest, most);
         QVERIFY(m_server.thaw());
         QVERIFY(longest < LongestCallMs);
-        QVERIFY(most <= WasapiThread::MaxCount);
+        QVERIFY(most <= DriverThread::MaxCount);
         QTRY_VERIFY_WITH_TIMEOUT(plays(m_speakerA), TimeoutMs);
     }
 
@@ -196,7 +196,7 @@ private Q_SLOTS:
         play.playback.playOn(m_speakerA);
         QTRY_VERIFY_WITH_TIMEOUT(hasBegun(play), TimeoutMs);
         play.playback.stop();
-        QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs);
+        QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, TimeoutMs);
         QCOMPARE(play.outcome->count.load(), 0);
     }
 

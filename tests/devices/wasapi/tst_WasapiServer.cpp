@@ -3,7 +3,7 @@
 #include "platform/devices/wasapi/WasapiServer.h"
 
 #include "platform/devices/wasapi/WasapiSound.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/wasapi/StagedAudio.h"
 #include "tests/support/GapMeter.h"
 #include "tests/support/MemoryReport.h"
@@ -120,7 +120,7 @@ void tst_WasapiServer::cleanup()
     m_speaker.reset();
     m_sound.reset();
     m_audio->setHanging(false);
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, EndMs);
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, EndMs);
     QCOMPARE(m_audio->listeners(), 0);
     QCOMPARE(m_audio->objects(), 0);
     m_audio.reset();
@@ -332,14 +332,14 @@ void tst_WasapiServer::hangingSystemHoldsNobodyUp()
 void tst_WasapiServer::hangingThreadsAreFew()
 {
     m_audio->setHanging(true);
-    while (WasapiThread::count() < WasapiThread::MaxCount) {
+    while (DriverThread::count() < DriverThread::MaxCount) {
         const int before = m_audio->hangingCalls();
         WasapiServer server;
         QTRY_VERIFY(m_audio->hangingCalls() > before);
     }
     for (int i = 0; i < 3; ++i) {
         WasapiServer server;
-        QCOMPARE(WasapiThread::count(), WasapiThread::MaxCount);
+        QCOMPARE(DriverThread::count(), DriverThread::MaxCount);
     }
 }
 

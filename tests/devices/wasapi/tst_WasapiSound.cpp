@@ -4,7 +4,7 @@
 
 #include "platform/devices/sound/LevelMeter.h"
 #include "platform/devices/sound/SoundMath.h"
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 #include "tests/devices/SoundFiles.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/support/LockEvents.h"
@@ -112,7 +112,7 @@ void tst_WasapiSound::cleanup()
     m_microphone.reset();
     m_speaker.reset();
     m_sound.reset();
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 0, TimeoutMs);
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 0, TimeoutMs);
 }
 
 void tst_WasapiSound::offersRealDevicesAlone()
@@ -215,7 +215,7 @@ void tst_WasapiSound::openAndClose(int times)
         QTRY_VERIFY_WITH_TIMEOUT(m_listener.levels >= LevelsOfAnOpening, TimeoutMs);
         m_microphone->close();
     }
-    QTRY_COMPARE_WITH_TIMEOUT(WasapiThread::count(), 1, TimeoutMs); // that of the endpoints
+    QTRY_COMPARE_WITH_TIMEOUT(DriverThread::count(), 1, TimeoutMs); // that of the endpoints
 }
 
 void tst_WasapiSound::manyOpeningsLeaveNothing()

@@ -6,10 +6,10 @@
 
 namespace Platform {
 
-// Threads for what may hang in a driver or in Windows' audio service: nobody joins them, and there
+// Threads for what may hang in a driver or in a service of Windows: nobody joins them, and there
 // are never more than MaxCount. They have COM (multithreaded apartment), and keep the library
 // loaded that their code is in. Thread-safe.
-namespace WasapiThread {
+namespace DriverThread {
 
 constexpr int MaxCount = 16;
 
@@ -23,5 +23,5 @@ enum class Priority {
 bool run(Priority priority, std::function<void()> job);
 int count();
 
-} // namespace WasapiThread
+} // namespace DriverThread
 } // namespace Platform

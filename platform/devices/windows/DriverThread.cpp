@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/wasapi/WasapiThread.h"
+#include "platform/devices/windows/DriverThread.h"
 
 #include "platform/backend/Log.h"
 
@@ -32,7 +32,7 @@ Count& threads()
 
 struct Start
 {
-    WasapiThread::Priority priority;
+    DriverThread::Priority priority;
     std::function<void()> job;
 };
 
@@ -69,7 +69,7 @@ private:
 void work(const Start& start)
 {
     const HRESULT hasCom = CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-    if (start.priority == WasapiThread::Priority::RealTime) {
+    if (start.priority == DriverThread::Priority::RealTime) {
         const RealTime realTime;
         start.job();
     } else {
@@ -109,13 +109,13 @@ DWORD WINAPI threadMain(void* argument)
 
 } // namespace
 
-bool WasapiThread::run(Priority priority, std::function<void()> job)
+bool DriverThread::run(Priority priority, std::function<void()> job)
 {
     {
         Count& count = threads();
         const std::scoped_lock lock(count.mutex);
         if (count.value == MaxCount) {
-            qCInfo(Log::devices, "%d audio threads hang; no other is started", MaxCount);
+            qCInfo(Log::devices, "%d threads hang in drivers; no other is started", MaxCount);
             return false;
         }
         ++count.value;
@@ -124,7 +124,7 @@ bool WasapiThread::run(Priority priority, std::function<void()> job)
     const HANDLE thread = CreateThread(nullptr, 0, &threadMain, start.get(), 0, nullptr);
     if (!thread) {
         endOne();
-        qCWarning(Log::devices, "No audio thread can be made");
+        qCWarning(Log::devices, "No thread for a driver can be made");
         return false;
     }
     static_cast<void>(start.release()); // the thread has it
@@ -132,7 +132,7 @@ bool WasapiThread::run(Priority priority, std::function<void()> job)
     return true;
 }
 
-int WasapiThread::count()
+int DriverThread::count()
 {
     Count& count = threads();
     const std::scoped_lock lock(count.mutex);
