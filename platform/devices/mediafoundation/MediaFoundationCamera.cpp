@@ -14,6 +14,7 @@ namespace {
 
 constexpr auto AllStreams = static_cast<DWORD>(MF_SOURCE_READER_ALL_STREAMS);
 constexpr auto VideoStream = static_cast<DWORD>(MF_SOURCE_READER_FIRST_VIDEO_STREAM);
+constexpr std::chrono::milliseconds FlushTimeout(500);
 constexpr DWORD MaxTypes = CameraModes::MaxOffers; // a driver may have no end
 
 } // namespace
@@ -24,9 +25,14 @@ MediaFoundationCamera::MediaFoundationCamera(const MediaFoundation& functions,
 {
 }
 
-// Shut down by us: the reader's own end may leave the camera on.
+// The reader must have nothing to do any more: if a command of its own lets go of it last, Wine's
+// waits for itself. The source is shut down by us, because the reader's end may leave the camera
+// on.
 MediaFoundationCamera::~MediaFoundationCamera()
 {
+    if (m_reader && SUCCEEDED(m_reader->Flush(AllStreams))) {
+        m_box->awaitFlush(FlushTimeout);
+    }
     if (m_source) {
         m_source->Shutdown();
     }

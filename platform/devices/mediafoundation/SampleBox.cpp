@@ -42,6 +42,19 @@ std::optional<SampleBox::Delivery> SampleBox::await(std::chrono::milliseconds li
     return m_isStopped ? std::nullopt : std::exchange(m_delivery, std::nullopt);
 }
 
+void SampleBox::noteFlushed()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_isFlushed = true;
+    m_changed.notify_all();
+}
+
+bool SampleBox::awaitFlush(std::chrono::milliseconds limit)
+{
+    std::unique_lock lock(m_mutex);
+    return m_changed.wait_for(lock, limit, [this] { return m_isFlushed; });
+}
+
 void SampleBox::end()
 {
     const std::scoped_lock lock(m_mutex);

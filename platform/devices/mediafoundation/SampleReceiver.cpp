@@ -38,6 +38,7 @@ HRESULT SampleReceiver::OnReadSample(HRESULT error, DWORD /*stream*/, DWORD flag
 
 HRESULT SampleReceiver::OnFlush(DWORD /*stream*/)
 {
+    m_box->noteFlushed();
     return S_OK;
 }
 
