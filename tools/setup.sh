@@ -31,7 +31,7 @@ debian_packages=(debhelper dpkg-dev git lintian mmdebstrap)
 # The posix threads alone: only with them has the cross compiler std::thread.
 windows_packages=(
     g++-mingw-w64-x86-64-posix mingw-w64-tools nasm wine wine64 fonts-wine unzip make dpkg-dev
-    coturn dnsmasq-base python3 pulseaudio pulseaudio-utils
+    coturn dnsmasq-base ffmpeg python3 pulseaudio pulseaudio-utils
 )
 
 # install_packages NAME...: nothing where all are there; as root or through sudo; without either the

@@ -190,12 +190,18 @@ QByteArray& NativeRecording::data()
 }
 
 NativeSource::NativeSource(const QString& device, const std::vector<float>& samples)
+    : m_lengthMs(static_cast<int>(1000 * samples.size() / SoundRate))
 {
     m_program.start(QStringLiteral("pacat"), rawFormat(device, 1, PlayingMs));
     const auto bytes = static_cast<int>(samples.size() * sizeof(float));
     m_program.socket().write(QByteArray::number(bytes) + '\n');
     m_program.socket().write(reinterpret_cast<const char*>(samples.data()), bytes);
     m_program.socket().flush();
+}
+
+bool NativeSource::waitForEnd()
+{
+    return QTest::qWaitFor([this] { return !m_program.isRunning(); }, m_lengthMs + TimeoutMs);
 }
 
 } // namespace TestSupport

@@ -73,7 +73,10 @@ class NativeSource
 public:
     NativeSource(const QString& device, const std::vector<float>& samples);
 
+    bool waitForEnd(); // until all of it was played
+
 private:
+    int m_lengthMs;
     NativeProgram m_program;
 };
 
