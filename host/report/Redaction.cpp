@@ -26,6 +26,20 @@ const char* const Addresses =
     R"((?<![\d.])(?:\d{1,3}\.){3}\d{1,3}(?!\.?\d)|)"
     R"((?<![\w:])(?=[\da-f:]*::|(?:[\da-f]+:){4})(?:[\da-f]{0,4}:){2,7}[\da-f]{0,4}(?![\w:]))";
 
+// The text, but not as a part of a longer word: "mic" isn't found in "microphone". Other scripts
+// than ours may have no gaps between words.
+QRegularExpression wholeWords(const QString& text)
+{
+    static const QRegularExpression latin(QStringLiteral("[A-Za-z0-9]"));
+    const auto edge = [](const QString& sign, const char* pattern) {
+        return latin.match(sign).hasMatch() ? QLatin1String(pattern) : QLatin1String();
+    };
+    return QRegularExpression(
+        edge(text.left(1), "(?<![A-Za-z0-9])") + QRegularExpression::escape(text) +
+            edge(text.right(1), "(?![A-Za-z0-9])"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+}
+
 // Whether a value of a change is a word or a figure, and no text of somebody's.
 bool isPlain(ChangedThing what, const QString& value)
 {
@@ -159,7 +173,7 @@ QString Redaction::redactedText(const QString& text, QStringList privateTexts) c
     QString result = text;
     for (const QString& found : qAsConst(privateTexts)) {
         if (found.size() >= LeastTextLength) {
-            result.replace(found, mark(found), Qt::CaseInsensitive);
+            result.replace(wholeWords(found), mark(found));
         }
     }
     static const QRegularExpression addresses(QLatin1String(Addresses),

@@ -24,8 +24,8 @@ public:
     // The document of a run, as --results writes it.
     QJsonObject redactedResults(const QJsonObject& document) const;
     DeviceSurvey redacted(const DeviceSurvey& survey) const;
-    // Foreign text, such as a log: without these texts, if they have three characters or more, and
-    // without network addresses.
+    // Foreign text, such as a log: without these texts, if they have three characters or more and
+    // stand for themselves, and without network addresses.
     QString redactedText(const QString& text, QStringList privateTexts) const;
     // The facts of a report that tell who and where its user is.
     static QStringList privateFacts(const Report& report);

@@ -18,6 +18,7 @@ namespace {
 
 using Files = std::map<QString, QByteArray>;
 
+const char* const ChineseName = "安娜的麦克风";
 const char* const Name = "Anna\u2019s Headset (2)";
 
 Files filesIn(QByteArray archive)
@@ -48,7 +49,8 @@ Diagnosis diagnosisWith(const QString& log)
     diagnosis.report.facts = {{QStringLiteral("account"), QStringLiteral("anna@example.org")},
                               {QStringLiteral("nickname"), QStringLiteral("An")},
                               {QStringLiteral("processor"), QStringLiteral("Fast")}};
-    diagnosis.devices.microphones = {device(QStringLiteral("usb-1234"), QString::fromUtf8(Name))};
+    diagnosis.devices.microphones = {device(QStringLiteral("usb-1234"), QString::fromUtf8(Name)),
+                                     device(QStringLiteral("mic"), QString::fromUtf8(ChineseName))};
     diagnosis.log = log.toUtf8();
     return diagnosis;
 }
@@ -110,6 +112,9 @@ void tst_Diagnosis::logWithout_data()
     QTest::newRow("name of a device") << QString::fromUtf8(Name);
     QTest::newRow("name in other case") << QString::fromUtf8(Name).toUpper();
     QTest::newRow("id of a device") << "usb-1234";
+    QTest::newRow("short id") << "mic";
+    QTest::newRow("name without gaps around it")
+        << QString::fromUtf8(ChineseName) + QStringLiteral("坏了");
     QTest::newRow("account") << "anna@example.org";
     QTest::newRow("folder of the user") << QDir::homePath();
     if (QSysInfo::machineHostName().size() > 2) {
@@ -128,7 +133,10 @@ void tst_Diagnosis::logWithout()
     const QString log =
         logOf(QStringLiteral("before %1 after %1, end\n").arg(text), Options::Redaction::Personal);
     QString bare = text;
-    bare.remove(QLatin1String(":3478")).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
+    bare.remove(QString::fromUtf8("坏了"))
+        .remove(QLatin1String(":3478"))
+        .remove(QLatin1Char('['))
+        .remove(QLatin1Char(']'));
     QVERIFY2(!log.contains(bare, Qt::CaseInsensitive), qPrintable(log));
     QCOMPARE(log.count(QLatin1String("[removed]")), 2);
     QVERIFY(log.startsWith(QLatin1String("before ")) && log.endsWith(QLatin1String(", end\n")));
@@ -141,6 +149,7 @@ void tst_Diagnosis::logKeeps_data()
     QTest::newRow("version") << "Windows 10.0.19045, Qt 5.15.8";
     QTest::newRow("error") << "0x88890004 (device invalidated)";
     QTest::newRow("a name of two letters stands in many words") << "An answer";
+    QTest::newRow("an id in a longer word") << "A microphone is opened";
     QTest::newRow("scope") << "Log::devices, std::thread";
     QTest::newRow("what isn't private") << "Fast";
 }
