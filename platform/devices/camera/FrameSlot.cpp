@@ -3,6 +3,7 @@
 #include "platform/devices/camera/FrameSlot.h"
 
 #include "platform/backend/CameraCause.h"
+#include "platform/backend/Log.h"
 
 namespace Platform {
 
@@ -81,6 +82,7 @@ void FrameSlot::setModes(int generation, const QString& text)
     const std::scoped_lock lock(m_mutex);
     if (takes(generation)) {
         m_modes = text;
+        qCInfo(Log::camera, "The camera offers %s", qUtf8Printable(text));
     }
 }
 

@@ -75,8 +75,6 @@ HRESULT MediaFoundationStream::start(MediaFoundationCamera& camera)
     }
     m_order.slot->setModes(m_order.generation, camera.modes().text());
     m_mode = bestMode(camera);
-    qCInfo(Log::camera, "The camera offers %s; %d x %d is chosen",
-           qUtf8Printable(camera.modes().text()), m_mode.size.width(), m_mode.size.height());
     error = camera.choose(m_mode);
     if (SUCCEEDED(error)) {
         error = camera.request();

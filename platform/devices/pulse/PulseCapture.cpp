@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulseCapture.h"
 
+#include "platform/devices/pulse/PulseLog.h"
+
 #include <pulse/rtclock.h>
 #include <pulse/timeval.h>
 #include <utility>
@@ -104,6 +106,8 @@ void PulseCapture::streamStateChanged()
         // PipeWire takes another device if the named one has just gone.
         if (QString::fromUtf8(pa_stream_get_device_name(m_stream.get())) != m_microphoneId) {
             fail();
+        } else {
+            PulseLog::formatOf(*m_stream, SoundKind::Microphone);
         }
         break;
     case PA_STREAM_FAILED:

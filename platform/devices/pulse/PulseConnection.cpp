@@ -4,6 +4,7 @@
 
 #include "platform/backend/Log.h"
 #include "platform/devices/ServerSockets.h"
+#include "platform/devices/pulse/PulseLog.h"
 
 #include <algorithm>
 #include <pulse/introspect.h>
@@ -285,6 +286,7 @@ void PulseConnection::serverArrived(pa_context* /*context*/, const pa_server_inf
 {
     auto* connection = static_cast<PulseConnection*>(self);
     if (info) {
+        PulseLog::server(*info, connection->m_loggedServer);
         connection->takeServer(info->default_sink_name, info->default_source_name);
     }
     connection->replyArrived(info != nullptr);

@@ -108,6 +108,7 @@ private:
     std::vector<std::shared_ptr<Client>> m_clients;
 
     SoundDevices m_devices; // the last published ones
+    QByteArray m_loggedServer;
     SoundDevices m_arriving;
     ChannelVolumes m_volumes; // of the last complete round
     ChannelVolumes m_arrivingVolumes;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/pulse/PulsePlayback.h"
 
+#include "platform/devices/pulse/PulseLog.h"
 #include "platform/devices/sound/SoundBuffer.h"
 
 #include <algorithm>
@@ -122,6 +123,8 @@ void PulsePlayback::streamStateChanged()
         // PipeWire takes another device if the named one has just gone.
         if (QString::fromUtf8(pa_stream_get_device_name(m_stream.get())) != m_speakerId) {
             finish(false);
+        } else {
+            PulseLog::formatOf(*m_stream, SoundKind::Speaker);
         }
         break;
     case PA_STREAM_FAILED:
