@@ -3,22 +3,18 @@
 #pragma once
 
 #include "platform/devices/mediafoundation/SampleBox.h"
+#include "platform/devices/windows/ComCallback.h"
 
-#include <atomic>
 #include <memory>
 
 namespace Platform {
 
 // Windows calls it on threads of its own when a sample has come, maybe still after the camera was
 // closed; so it owns the box that it uses.
-class SampleReceiver final : public IMFSourceReaderCallback
+class SampleReceiver final : public ComCallback<IMFSourceReaderCallback>
 {
 public:
     explicit SampleReceiver(std::shared_ptr<SampleBox> box) : m_box(std::move(box)) {}
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE OnReadSample(HRESULT error, DWORD stream, DWORD flags, LONGLONG time,
                                            IMFSample* sample) override;
@@ -26,9 +22,8 @@ public:
     HRESULT STDMETHODCALLTYPE OnEvent(DWORD stream, IMFMediaEvent* event) override;
 
 private:
-    ~SampleReceiver() = default; // by Release()
+    ~SampleReceiver() override = default; // by Release()
 
-    std::atomic<ULONG> m_references{1};
     const std::shared_ptr<SampleBox> m_box;
 };
 

@@ -10,34 +10,6 @@ EndpointNotice::EndpointNotice(std::function<void()> changed) : m_changed(std::m
 {
 }
 
-HRESULT EndpointNotice::QueryInterface(REFIID id, void** object)
-{
-    if (id == __uuidof(IUnknown) || id == __uuidof(IMMNotificationClient)) {
-        *object = static_cast<IMMNotificationClient*>(this);
-    } else if (id == __uuidof(IAudioEndpointVolumeCallback)) {
-        *object = static_cast<IAudioEndpointVolumeCallback*>(this);
-    } else {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-}
-
-ULONG EndpointNotice::AddRef()
-{
-    return ++m_references;
-}
-
-ULONG EndpointNotice::Release()
-{
-    const ULONG left = --m_references;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
 HRESULT EndpointNotice::OnDeviceStateChanged(LPCWSTR /*id*/, DWORD /*state*/)
 {
     return changed();

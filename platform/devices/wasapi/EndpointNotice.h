@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <atomic>
+#include "platform/devices/windows/ComCallback.h"
+
 #include <functional>
 
 #include <windows.h>
@@ -15,14 +16,10 @@ namespace Platform {
 // Hears from Windows that an endpoint came or went, or has another name, default or volume, and
 // says only that something changed. Windows calls it on threads of its own, which must not wait,
 // and may keep it for a while after it was unregistered; so the function owns all that it uses.
-class EndpointNotice final : public IMMNotificationClient, public IAudioEndpointVolumeCallback
+class EndpointNotice final : public ComCallback<IMMNotificationClient, IAudioEndpointVolumeCallback>
 {
 public:
     explicit EndpointNotice(std::function<void()> changed);
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE OnDeviceStateChanged(LPCWSTR id, DWORD state) override;
     HRESULT STDMETHODCALLTYPE OnDeviceAdded(LPCWSTR id) override;
@@ -33,10 +30,9 @@ public:
     HRESULT STDMETHODCALLTYPE OnNotify(PAUDIO_VOLUME_NOTIFICATION_DATA data) override;
 
 private:
-    ~EndpointNotice() = default; // by Release()
+    ~EndpointNotice() override = default; // by Release()
     HRESULT changed() const;
 
-    std::atomic<ULONG> m_references{1};
     const std::function<void()> m_changed;
 };
 
