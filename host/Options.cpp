@@ -304,12 +304,9 @@ private:
     void readOutputs()
     {
         checkEnding("results", {QStringLiteral("json")});
-        checkEnding("diagnose", {QStringLiteral("zip")});
-        if (m_options.diagnosisFile == Options::Output) {
-            failAt("diagnose", qtTrId("ID_Host_Takes_Ending").arg(QStringLiteral(".zip")));
-        }
         checkEnding("report", {QStringLiteral("json"), QStringLiteral("html"),
                                QStringLiteral("htm"), QStringLiteral("txt")});
+        checkEnding("diagnose", {QStringLiteral("zip")}, false);
         if (!m_options.resultsFile.isEmpty() &&
             placeOf(m_options.resultsFile) == placeOf(m_options.reportFile)) {
             fail(qtTrId("ID_Host_Usage_SamePlace")
@@ -334,13 +331,14 @@ private:
 
     // An ending that doesn't fit the format, such as "results.xlsx", is refused. A folder gets its
     // own message elsewhere.
-    void checkEnding(const char* name, const QStringList& endings)
+    void checkEnding(const char* name, const QStringList& endings, bool mayBeOutput = true)
     {
         const QFileInfo file(value(name));
-        const bool isNamed = isSet(name) && value(name) != Options::Output && !file.isDir();
+        const bool isOutput = mayBeOutput && value(name) == Options::Output;
+        const bool isNamed = isSet(name) && !isOutput && !file.isDir();
         if (isNamed && !endings.contains(file.suffix(), Qt::CaseInsensitive)) {
-            failAt(name, qtTrId("ID_Host_Takes_Ending")
-                             .arg(QLatin1Char('.') + endings.join(QStringLiteral(", ."))));
+            const char* takes = mayBeOutput ? "ID_Host_Takes_Ending" : "ID_Host_Takes_FileEnding";
+            failAt(name, qtTrId(takes).arg(QLatin1Char('.') + endings.join(QStringLiteral(", ."))));
         }
     }
 

@@ -969,7 +969,7 @@
     </message>
     <message id="ID_Host_Option_Diagnose">
         <source></source>
-        <translation>يقيس كما يفعل --unattended ويجمع التقرير والأجهزة والإصدارات والسجل في FILE.zip لمن يبحث عن السبب. من دون --redact تُحذف الأسماء والعناوين.</translation>
+        <translation>يقيس كما يفعل ‎--unattended‎ ويجمع التقرير والأجهزة والإصدارات والسجل في ‎FILE.zip‎ لمن يبحث عن السبب. من دون ‎--redact‎ تُحذف الأسماء والعناوين.</translation>
     </message>
     <message id="ID_Host_Option_FilesFrom">
         <source></source>
@@ -1338,6 +1338,10 @@
     <message id="ID_Host_Takes_Ending">
         <source></source>
         <translation>اسمًا ينتهي بأحد %1، أو - للإخراج القياسي</translation>
+    </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>اسم ملف ينتهي بـ %1</translation>
     </message>
     <message id="ID_Host_Takes_Number">
         <source></source>

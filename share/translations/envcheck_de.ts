@@ -1339,6 +1339,10 @@ Wählen Sie eine andere oder stellen Sie an ihr ein anderes Format ein.</transla
         <source></source>
         <translation>ein Name, der auf %1 endet, oder - für die Standardausgabe</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>ein Dateiname, der auf %1 endet</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>eine Zahl von %1 bis %2</translation>

@@ -1339,6 +1339,10 @@ Choose another camera, or another format in its settings.</translation>
         <source></source>
         <translation>a name that ends in %1, or - for standard output</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>a file name that ends in %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>a number from %1 to %2</translation>

@@ -1339,6 +1339,10 @@ Elija otra cámara u otro formato en sus ajustes.</translation>
         <source></source>
         <translation>un nombre que termine en %1, o - para la salida estándar</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>un nombre de archivo que termine en %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>un número del %1 al %2</translation>

@@ -1339,6 +1339,10 @@ Choisissez une autre caméra, ou un autre format dans ses réglages.</translatio
         <source></source>
         <translation>un nom qui finit par %1, ou - pour la sortie standard</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>un nom de fichier qui finit par %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>un nombre de %1 à %2</translation>

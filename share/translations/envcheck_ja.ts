@@ -1339,6 +1339,10 @@
         <source></source>
         <translation>%1 で終わる名前、または標準出力を表す -</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>%1 で終わるファイル名</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 から %2 までの数</translation>

@@ -1339,6 +1339,10 @@
         <source></source>
         <translation>%1(으)로 끝나는 이름 또는 표준 출력을 뜻하는 -</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>%1(으)로 끝나는 파일 이름</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1부터 %2까지의 숫자</translation>

@@ -1339,6 +1339,10 @@ Escolha outra câmera ou outro formato nas configurações dela.</translation>
         <source></source>
         <translation>um nome que termine em %1, ou - para a saída padrão</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>um nome de arquivo que termine em %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>um número de %1 a %2</translation>

@@ -1339,6 +1339,10 @@
         <source></source>
         <translation>имя с окончанием %1 или - для стандартного вывода</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>имя файла с окончанием %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>число от %1 до %2</translation>

@@ -1339,6 +1339,10 @@ Hãy chọn camera hoặc định dạng khác.</translation>
         <source></source>
         <translation>một tên kết thúc bằng %1, hoặc - cho đầu ra chuẩn</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>một tên tệp kết thúc bằng %1</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>một số từ %1 đến %2</translation>

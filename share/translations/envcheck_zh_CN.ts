@@ -1339,6 +1339,10 @@
         <source></source>
         <translation>以 %1 结尾的名称，或表示标准输出的 -</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>以 %1 结尾的文件名</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 到 %2 之间的数字</translation>

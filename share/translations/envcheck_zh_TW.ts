@@ -1339,6 +1339,10 @@
         <source></source>
         <translation>以 %1 結尾的名稱，或代表標準輸出的 -</translation>
     </message>
+    <message id="ID_Host_Takes_FileEnding">
+        <source></source>
+        <translation>以 %1 結尾的檔案名稱</translation>
+    </message>
     <message id="ID_Host_Takes_Number">
         <source></source>
         <translation>%1 到 %2 之間的數字</translation>

@@ -270,6 +270,8 @@ void tst_Options::wrongOnes_data()
                                        << "some";
     QTest::newRow("loop with a person") << "--loop"
                                         << "--unattended";
+    QTest::newRow("report of another ending") << "--report a.pdf"
+                                              << "a.pdf";
     QTest::newRow("diagnosis without its ending") << "--diagnose a.json"
                                                   << ".zip";
     QTest::newRow("diagnosis on the output") << "--diagnose -"
