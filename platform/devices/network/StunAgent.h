@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/network/StunFunctions.h"
+#include "platform/devices/stun/StunFunctions.h"
 
 namespace Platform {
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "platform/devices/network/StunFunctions.h"
+#include "platform/devices/stun/StunFunctions.h"
 
 namespace Platform {
 
