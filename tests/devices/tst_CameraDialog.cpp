@@ -3,9 +3,9 @@
 #include "tests/devices/DeviceDialog.h"
 #include "tests/devices/DialogCameras.h"
 #include "tests/support/GapMeter.h"
+#include "tests/support/PopupChoice.h"
 #include "widgets/LumToolTip.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPainter>
 #include <QPushButton>
@@ -83,7 +83,7 @@ private:
     }
     void openCameraPage() const { m_dialog->click("label_CameraCheck"); }
     void openSystemPage() const { m_dialog->click("label_SystemCheck"); }
-    void chooseInPopup(const QString& text) const;
+    QComboBox& list() const { return *child<QComboBox>("cb_vd_name"); }
     bool previewShows(QRgb color) const;
     QStringList entries() const;
     const QWidget* balloon() const; // null if none is visible
@@ -127,7 +127,7 @@ void tst_CameraDialog::tellsTwoCamerasApart()
         QCOMPARE(entries(), expected);
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isEnabled());
         keepFrame("camera-first");
-        chooseInPopup(QStringLiteral("Desk camera"));
+        chooseInPopup(list(), QStringLiteral("Desk camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Green), LongMs);
         QCOMPARE(child<QComboBox>("cb_vd_name")->currentText(), QStringLiteral("Desk camera"));
         keepFrame("camera-second");
@@ -193,13 +193,13 @@ void tst_CameraDialog::showsEveryDeviceState()
         QTRY_VERIFY(child<QPushButton>("Btn_CanSee")->isEnabled());
         keepState();
 
-        chooseInPopup(qtTrId("ID_Engine_NoCamera"));
+        chooseInPopup(list(), qtTrId("ID_Engine_NoCamera"));
         QTRY_VERIFY(!child<QPushButton>("Btn_CanSee")->isVisible());
         QTRY_VERIFY(previewShows(Background));
         QVERIFY(balloon());
         keepState();
 
-        chooseInPopup(QStringLiteral("Front camera"));
+        chooseInPopup(list(), QStringLiteral("Front camera"));
         QTRY_VERIFY_WITH_TIMEOUT(previewShows(Red), LongMs);
         m_cameras->unplug(NameA);
         QTRY_COMPARE(child<QComboBox>("cb_vd_name")->currentIndex(), -1);
@@ -329,17 +329,6 @@ void tst_CameraDialog::freezeAt(int step)
             thawLater();
         }
     }
-}
-
-void tst_CameraDialog::chooseInPopup(const QString& text) const
-{
-    auto* const box = child<QComboBox>("cb_vd_name");
-    box->showPopup();
-    QAbstractItemView* const view = box->view();
-    const QModelIndex index = box->model()->index(box->findText(text), 0);
-    const QPoint place = view->visualRect(index).center();
-    QTest::mouseMove(view->viewport(), place);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
 }
 
 bool tst_CameraDialog::previewShows(QRgb color) const

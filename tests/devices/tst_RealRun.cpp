@@ -12,6 +12,7 @@
 #include "tests/devices/DialogCameras.h"
 #include "tests/devices/RunDevices.h"
 #include "tests/support/PictureBoard.h"
+#include "tests/support/PopupChoice.h"
 #include "tests/support/Signals.h"
 
 #include <QAbstractButton>
@@ -73,7 +74,6 @@ private:
     template <typename Widget>
     Widget* find(const char* name) const;
     void click(const char* name) const;
-    void choose(const char* list, const QString& device) const;
     bool isShown(const char* name) const;
     bool isMeasured() const;
     bool previewIsRed() const;
@@ -229,7 +229,8 @@ void tst_RealRun::passSpeaker()
 {
     QTRY_VERIFY(isShown("tb_play_test_sound"));
 #ifdef Q_OS_WIN
-    choose("cb_ad_output_name", id("Test Speaker A")); // which one is first is Wine's choice
+    // Which one is first is Wine's choice.
+    chooseInPopup(*find<QComboBox>("cb_ad_output_name"), id("Test Speaker A"));
 #endif
     QCOMPARE(find<QComboBox>("cb_ad_output_name")->currentText(), id("Test Speaker A"));
     const auto* const label = find<QLabel>("label_Play");
@@ -315,18 +316,6 @@ Widget* tst_RealRun::find(const char* name) const
 void tst_RealRun::click(const char* name) const
 {
     QTest::mouseClick(find<QWidget>(name), Qt::LeftButton);
-}
-
-// With the keys.
-void tst_RealRun::choose(const char* list, const QString& device) const
-{
-    auto* const box = find<QComboBox>(list);
-    const int wanted = box->findText(device);
-    while (wanted >= 0 && box->currentIndex() != wanted) {
-        const int before = box->currentIndex();
-        QTest::keyClick(box, before < wanted ? Qt::Key_Down : Qt::Key_Up);
-        QVERIFY(box->currentIndex() != before);
-    }
 }
 
 bool tst_RealRun::isShown(const char* name) const
