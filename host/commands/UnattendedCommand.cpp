@@ -69,6 +69,16 @@ QString detailOf(const ReportCheck& check)
                : delay + QStringLiteral(", ") + figure(FigureName::Loss, Figures::Unit::Percent);
 }
 
+// Prints a line if it can't be.
+bool isWritten(const QString& place, const QByteArray& content)
+{
+    const QString problem = CheckCommand::writeTo(place, content);
+    if (!problem.isEmpty()) {
+        Console::printError(problem);
+    }
+    return problem.isEmpty();
+}
+
 ExitCode codeOf(RunEnd outcome)
 {
     switch (outcome) {
@@ -129,13 +139,13 @@ ExitCode UnattendedCommand::run(const QString& language)
                              installed.engine().systemFacts());
     const Report report = redaction.redacted(plainReport);
     print(report);
-    bool isWritten = write(report);
+    bool areWritten = write(report);
     if (log) {
         const Diagnosis diagnosis{devices, plainReport, log->content()};
-        isWritten = writeDiagnosis(diagnosis.toZip(redaction)) && isWritten;
+        areWritten = writeDiagnosis(diagnosis.toZip(redaction)) && areWritten;
     }
     installed.post(report);
-    return isWritten ? codeOf(report.outcome) : ExitCode::CannotWrite;
+    return areWritten ? codeOf(report.outcome) : ExitCode::CannotWrite;
 }
 
 bool UnattendedCommand::prepare()
@@ -173,21 +183,14 @@ bool UnattendedCommand::write(const Report& report) const
     if (m_options.reportFile.isEmpty()) {
         return true;
     }
-    const QString problem = CheckCommand::writeTo(
-        m_options.reportFile,
-        ReportWriter::toFormat(report, ReportWriter::formatOf(m_options.reportFile),
-                               report.language));
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
-    }
-    return problem.isEmpty();
+    return isWritten(m_options.reportFile,
+                     ReportWriter::toFormat(report, ReportWriter::formatOf(m_options.reportFile),
+                                            report.language));
 }
 
 bool UnattendedCommand::writeDiagnosis(const QByteArray& archive) const
 {
-    const QString problem = CheckCommand::writeTo(m_options.diagnosisFile, archive);
-    if (!problem.isEmpty()) {
-        Console::printError(problem);
+    if (!isWritten(m_options.diagnosisFile, archive)) {
         return false;
     }
     Console::printAside(qtTrId("ID_Host_ReportIsIn").arg(m_options.diagnosisFile) +

@@ -53,7 +53,7 @@ QByteArray Diagnosis::toZip(const Redaction& redaction) const
     return bytes;
 }
 
-// What the report and the lists name, and where this program runs.
+// The names in the report and in the lists, and those of the machine and of the user's folder.
 QStringList Diagnosis::privateTexts() const
 {
     QStringList texts{QSysInfo::machineHostName(), QDir::homePath(),

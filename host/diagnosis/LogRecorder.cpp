@@ -13,7 +13,6 @@
 namespace {
 
 const char* const EnginePrefix = "engine.";
-const char* const Rules = "*.debug=false\n*.info=false\n*.warning=true\nengine.*=true";
 
 struct Record
 {

@@ -23,8 +23,7 @@ using ReportReader::Read;
 // What may be read and not yet handed over, in KiB of files.
 constexpr int ReadAheadKiB = 512;
 constexpr int BytesPerKiB = 1024;
-// At most so much is in one block: to wake a thread for each small file takes longer than to read
-// it.
+// The most that one block has. To wake a thread for each small file takes longer than to read it.
 constexpr int BlockFiles = 16;
 constexpr int BlockKiB = 128;
 
