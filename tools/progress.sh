@@ -21,21 +21,33 @@ with_progress()
     rm -f "$log"
 }
 
-# Reads the lines of Ninja ("[12/231] ...") and of apt-get ("Setting up ...").
+# package_step LINE: what apt-get did with a package, or 1 if the line tells of nothing.
+package_step()
+{
+    case $1 in
+    Get:*) echo "fetched" ;;
+    "Unpacking "*) echo "unpacked" ;;
+    "Setting up "*) echo "set up" ;;
+    *) return 1 ;;
+    esac
+}
+
+# Reads the lines of Ninja ("[12/231] ...") and those of apt-get for each package ("Get:12 ...", ...).
 show_progress()
 {
-    local what=$1 next=$2 line state="" total="" done_count=0 told=$SECONDS is_terminal=false
+    local what=$1 next=$2 line state="" total="" step told=$SECONDS is_terminal=false
+    local -A counts=()
     [ ! -t 2 ] || is_terminal=true
-    local steps='^\[([0-9]+)/([0-9]+)\]' packages='([0-9]+) newly installed'
+    local steps='^\[([0-9]+)/([0-9]+)\]' packages='^([0-9]+) upgraded, ([0-9]+) newly installed'
     while IFS= read -r line; do
         if [[ $line =~ $steps ]]; then
             state="${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
         elif [[ $line =~ $packages ]]; then
-            total=${BASH_REMATCH[1]}
+            total=$((BASH_REMATCH[1] + BASH_REMATCH[2]))
             continue
-        elif [[ $line == "Setting up "* ]]; then
-            done_count=$((done_count + 1))
-            state="$done_count of $total"
+        elif step=$(package_step "$line"); then
+            counts[$step]=$((${counts[$step]:-0} + 1))
+            state="${counts[$step]} of $total $step"
         else
             continue
         fi

@@ -43,7 +43,7 @@ install_packages()
         [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get)
+    local apt=(env DEBIAN_FRONTEND=noninteractive LC_ALL=C apt-get)
     if [ "$(id -u)" -ne 0 ]; then
         if ! sudo -n true 2>/dev/null && ! { [ -t 0 ] && command -v sudo >/dev/null; }; then
             echo "These packages are missing, and only root may install them. Please run:" >&2
