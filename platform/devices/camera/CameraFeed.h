@@ -5,6 +5,7 @@
 #include "platform/backend/DeviceInfo.h"
 
 #include <QSize>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -12,6 +13,9 @@ namespace Platform {
 
 class EndingThreads;
 class FrameSlot;
+
+// Changes of the list come several at a time. So long after the first one they are told, once.
+constexpr std::chrono::milliseconds CameraBurstWindow(50);
 
 enum class CameraServer {
     Answers,

@@ -11,7 +11,6 @@ namespace Platform {
 
 namespace {
 
-constexpr int MaxEdge = 8192;         // a larger frame can't be converted
 constexpr FrameRate UsualRate{30, 1}; // what a preview needs to look fluent
 constexpr double EnoughRate = 29.0;   // 29.97 is 30, too
 constexpr double MaxRate = 1000.0;    // a camera with a higher one doesn't mean it
@@ -39,8 +38,9 @@ bool isOffer(const CameraModes::Offer& offer)
 {
     return offer.pixelFormat != PixelFormat::None && !offer.smallest.isEmpty() &&
            offer.smallest.width() <= offer.largest.width() &&
-           offer.smallest.height() <= offer.largest.height() && offer.smallest.width() <= MaxEdge &&
-           offer.smallest.height() <= MaxEdge && isRate(offer.lowest) && isRate(offer.highest) &&
+           offer.smallest.height() <= offer.largest.height() &&
+           offer.smallest.width() <= MaxFrameEdge && offer.smallest.height() <= MaxFrameEdge &&
+           isRate(offer.lowest) && isRate(offer.highest) &&
            offer.lowest.value() <= offer.highest.value();
 }
 
@@ -153,7 +153,7 @@ void CameraModes::add(const Offer& offer)
     Offer bounded = offer;
     bounded.step = offer.step.expandedTo(QSize(1, 1));
     if (offer.smallest != offer.largest) {
-        bounded.largest = offer.largest.boundedTo(QSize(MaxEdge, MaxEdge));
+        bounded.largest = offer.largest.boundedTo(QSize(MaxFrameEdge, MaxFrameEdge));
     }
     if (offer.lowest.value() < MaxRate && offer.highest.value() > MaxRate) {
         bounded.highest = {static_cast<qint64>(MaxRate), 1}; // some say that any rate will do

@@ -9,9 +9,8 @@ namespace Platform {
 
 namespace {
 
-constexpr int MaxEdge = 8192;          // no camera sends more; a larger size is a broken one
-constexpr int MaxStride = 8 * MaxEdge; // twice the longest row, in bytes
-constexpr int HalfOfBoth = 128;        // of 256
+constexpr int MaxStride = 8 * MaxFrameEdge; // twice the longest row, in bytes
+constexpr int HalfOfBoth = 128;             // of 256
 
 int halfUp(int value)
 {
@@ -26,7 +25,7 @@ uchar* sized(std::vector<uchar>& bytes, int width, int height)
 
 bool isReasonable(const QSize& size)
 {
-    return !size.isEmpty() && size.width() <= MaxEdge && size.height() <= MaxEdge;
+    return !size.isEmpty() && size.width() <= MaxFrameEdge && size.height() <= MaxFrameEdge;
 }
 
 // libyuv multiplies strides and rows as 32-bit numbers.

@@ -9,6 +9,9 @@
 
 namespace Platform {
 
+// Of a frame, in pixels. No camera sends a longer one: a larger size is a broken one.
+constexpr int MaxFrameEdge = 8192;
+
 // How a pixel is stored. The formats of four bytes are named in memory order.
 enum class PixelFormat { None, Yuy2, Uyvy, Nv12, I420, Bgrx, Rgbx, Xrgb, Xbgr, Rgb, Bgr, Mjpg };
 

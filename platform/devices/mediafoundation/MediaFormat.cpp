@@ -10,7 +10,6 @@ namespace Platform {
 
 namespace {
 
-constexpr int MaxEdge = 8192;    // as in FrameConverter
 constexpr int MaxStride = 65536; // bytes
 
 struct Format
@@ -85,7 +84,7 @@ UINT32 numberOf(IMFMediaType& type, const GUID& key, UINT32 otherwise)
 QSize sizeOf(IMFMediaType& type)
 {
     const Pair pair = pairOf(type, MF_MT_FRAME_SIZE);
-    const bool isPlausible = pair.high <= MaxEdge && pair.low <= MaxEdge;
+    const bool isPlausible = pair.high <= MaxFrameEdge && pair.low <= MaxFrameEdge;
     return isPlausible ? QSize(static_cast<int>(pair.high), static_cast<int>(pair.low)) : QSize();
 }
 

@@ -12,9 +12,6 @@ namespace Platform {
 
 namespace {
 
-// A camera comes with many messages.
-constexpr std::chrono::milliseconds BurstWindow(50);
-
 CameraNode nodeOf(const CameraSourceThread::Camera& camera)
 {
     CameraNode node;
@@ -42,7 +39,7 @@ MediaFoundationCapture::MediaFoundationCapture(const MediaFoundationLoader& load
 {
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { m_opening.wake(); });
-    m_burstTimer.setInterval(BurstWindow);
+    m_burstTimer.setInterval(CameraBurstWindow);
     m_burstTimer.setSingleShot(true);
     QObject::connect(&m_burstTimer, &QTimer::timeout, &m_burstTimer,
                      [this] { m_sources->lookAgain(); });

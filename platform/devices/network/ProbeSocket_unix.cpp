@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/ProbeSocket.h"
 
+#include "platform/devices/network/Datagrams.h"
+
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QUdpSocket>
 
 namespace Platform {
-
-namespace {
-
-constexpr qint64 MaxDatagramSize = 1500;
-
-} // namespace
 
 class ProbeSocket::System
 {

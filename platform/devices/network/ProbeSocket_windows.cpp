@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/ProbeSocket.h"
 
+#include "platform/devices/network/Datagrams.h"
 #include "platform/devices/network/SocketAddress.h"
 
 #include <QSocketNotifier>
@@ -9,8 +10,6 @@
 namespace Platform {
 
 namespace {
-
-constexpr int MaxDatagramSize = 1500;
 
 ProbeSocket::Outcome outcomeOf(int error)
 {

@@ -3,6 +3,7 @@
 #include "platform/devices/network/ProbeWorker.h"
 
 #include "platform/backend/Log.h"
+#include "platform/devices/network/Datagrams.h"
 #include "platform/devices/network/ProbeSocket.h"
 #include "platform/devices/network/ServerLookup.h"
 
@@ -19,7 +20,6 @@ constexpr int VerdictIntervalMs = 1000;
 constexpr ProbeWindow::Time LookupInterval = std::chrono::seconds(1);
 // So long without an answer, and the address is looked up anew.
 constexpr ProbeWindow::Time SilenceLimit = ProbeWindow::Deadline + std::chrono::seconds(1);
-constexpr int MaxDatagramsAtOnce = 64; // a flood must not hold up the timers
 
 } // namespace
 

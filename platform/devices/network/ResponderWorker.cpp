@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/network/ResponderWorker.h"
 
+#include "platform/devices/network/Datagrams.h"
+
 #include <QNetworkDatagram>
 #include <QRandomGenerator>
 
 namespace Platform {
-
-namespace {
-
-constexpr qint64 MaxDatagramSize = 1500;
-constexpr int MaxDatagramsAtOnce = 64;
-
-} // namespace
 
 ResponderWorker::ResponderWorker()
     : m_budget(QRandomGenerator::system()->generate64()), m_socket(this)

@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::chrono::milliseconds ReconnectDelay(300);
 constexpr std::chrono::milliseconds AppearedDelay(20); // the socket is there before anybody listens
-constexpr std::chrono::milliseconds BurstWindow(50);
 // They have the file open for those who read through them.
 const QStringList ServerPrograms = {QStringLiteral("pipewire"), QStringLiteral("wireplumber")};
 
@@ -313,7 +312,7 @@ void PipeWireConnection::listMayBeComplete()
 void PipeWireConnection::announceSoon()
 {
     if (m_isListed && !m_announceTimer.isActive()) {
-        m_announceTimer.startOnce(BurstWindow);
+        m_announceTimer.startOnce(CameraBurstWindow);
     }
 }
 

@@ -94,7 +94,7 @@ double rateOf(const spa_fraction& rate, const spa_fraction& highest)
     return agreed.denom > 0 ? double(agreed.num) / agreed.denom : 0.0;
 }
 
-QSize sizeOf(const spa_rectangle& size)
+QSize frameSizeOf(const spa_rectangle& size)
 {
     const uint32_t limit = LargestSize.width;
     return {static_cast<int>(std::min(size.width, limit)),
@@ -255,13 +255,13 @@ void PipeWireStream::onFormatChanged(const spa_pod* format)
     if (info.media_subtype == SPA_MEDIA_SUBTYPE_mjpg) {
         spa_format_video_mjpg_parse(format, &info.info.mjpg);
         m_format.pixelFormat = PixelFormat::Mjpg;
-        m_format.size = sizeOf(info.info.mjpg.size);
+        m_format.size = frameSizeOf(info.info.mjpg.size);
         m_listener.rateAgreed(rateOf(info.info.mjpg.framerate, info.info.mjpg.max_framerate));
     } else if (info.media_subtype == SPA_MEDIA_SUBTYPE_raw) {
         spa_format_video_raw_parse(format, &info.info.raw);
         m_format.pixelFormat = pixelFormatOf(info.info.raw.format);
         m_format.color = colorOf(info.info.raw);
-        m_format.size = sizeOf(info.info.raw.size);
+        m_format.size = frameSizeOf(info.info.raw.size);
         m_listener.rateAgreed(rateOf(info.info.raw.framerate, info.info.raw.max_framerate));
     }
     uint8_t memory[1024];

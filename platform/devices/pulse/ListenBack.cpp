@@ -14,7 +14,7 @@ constexpr unsigned RequestMs = 5;
 // Playback starts at this fill level; the buffer never gets full.
 constexpr unsigned StartMs = 7;
 constexpr unsigned BufferMs = 200;
-constexpr char StreamName[] = "Listening to oneself";
+constexpr char ListeningName[] = "Listening to oneself";
 
 } // namespace
 
@@ -45,7 +45,7 @@ void ListenBack::contextStateChanged()
 void ListenBack::connectStream()
 {
     const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, m_rate, 1};
-    m_stream.reset(pa_stream_new(m_context.get(), StreamName, &spec, nullptr));
+    m_stream.reset(pa_stream_new(m_context.get(), ListeningName, &spec, nullptr));
     if (!m_stream) {
         pa_context_disconnect(m_context.get());
         return;

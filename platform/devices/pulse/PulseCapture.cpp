@@ -20,7 +20,7 @@ constexpr std::size_t SmallestPiece = Channels * Rate * FragmentMs / 1000 / 2;
 constexpr pa_usec_t WatchIntervalUs =
     std::chrono::microseconds(CaptureMeter::WatchInterval).count();
 constexpr std::chrono::milliseconds ListenRetry(250);
-constexpr char StreamName[] = "Microphone check";
+constexpr char CaptureName[] = "Microphone check";
 
 } // namespace
 
@@ -43,7 +43,7 @@ void PulseCapture::open(const QString& microphoneId, std::shared_ptr<MicrophoneA
     m_microphoneId = microphoneId;
     m_meter.emplace(Rate, std::move(analysis), m_events.metered, CaptureMeter::Clock::now());
     const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, Rate, Channels};
-    m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
+    m_stream.reset(pa_stream_new(context, CaptureName, &spec, nullptr));
     if (!m_stream) {
         fail();
         return;

@@ -18,7 +18,7 @@ namespace {
 // starts with the first piece, and the device adds no more delay.
 constexpr unsigned BufferMs = 400;
 constexpr unsigned RequestMs = 10;
-constexpr char StreamName[] = "Test sound";
+constexpr char PlaybackName[] = "Test sound";
 
 } // namespace
 
@@ -87,7 +87,7 @@ void PulsePlayback::openStream()
     const SoundBuffer::Format format = m_sound->format();
     const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, format.rate,
                                  static_cast<std::uint8_t>(format.channels)};
-    m_stream.reset(pa_stream_new(context, StreamName, &spec, nullptr));
+    m_stream.reset(pa_stream_new(context, PlaybackName, &spec, nullptr));
     if (!m_stream) {
         finish(false);
         return;

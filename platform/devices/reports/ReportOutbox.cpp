@@ -38,7 +38,7 @@ QString now()
     return QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
 }
 
-QString newId()
+QString newReportId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
@@ -98,7 +98,7 @@ void ReportOutbox::postCode(const QString& managerName, int code)
         return;
     }
     const QJsonObject content{{QStringLiteral("version"), ReportVersion},
-                              {QStringLiteral("id"), newId()},
+                              {QStringLiteral("id"), newReportId()},
                               {QStringLiteral("time"), time},
                               {QStringLiteral("manager"), managerName},
                               {QStringLiteral("code"), code}};
@@ -129,7 +129,7 @@ QString ReportOutbox::newFileName()
     return QStringLiteral("%1-%2-%3.json")
         .arg(now().remove(QLatin1Char(':')))
         .arg(m_count++, 4, 10, QLatin1Char('0'))
-        .arg(newId());
+        .arg(newReportId());
 }
 
 QString ReportOutbox::pathOf(const QString& fileName) const

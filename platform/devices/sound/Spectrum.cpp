@@ -2,19 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/Spectrum.h"
 
+#include "platform/devices/sound/FourierPlan.h"
+
 #include <algorithm>
-#include <kiss_fftr.h>
 
 namespace Platform {
-
-namespace {
-
-struct PlanDeleter
-{
-    void operator()(kiss_fftr_state* plan) const { kiss_fftr_free(plan); }
-};
-
-} // namespace
 
 struct Spectrum::Transform
 {
@@ -24,7 +16,7 @@ struct Spectrum::Transform
     {
     }
 
-    std::unique_ptr<kiss_fftr_state, PlanDeleter> plan;
+    FourierPlan plan;
     std::vector<kiss_fft_cpx> result;
 };
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/sound/Sweep.h"
 
+#include "platform/devices/sound/FourierPlan.h"
 #include "platform/devices/sound/SoundMath.h"
 
 #include <algorithm>
 #include <cmath>
-#include <kiss_fftr.h>
 #include <memory>
 #include <numeric>
 
@@ -14,15 +14,10 @@ namespace Platform {
 
 namespace {
 
-using Spectrum = std::vector<kiss_fft_cpx>;
+using Bins = std::vector<kiss_fft_cpx>;
 
 // A window of the recording that is quieter than this has no sweep: rounding makes as much.
 constexpr double QuietestDb = -100.0;
-
-struct PlanDeleter
-{
-    void operator()(kiss_fftr_state* plan) const { kiss_fftr_free(plan); }
-};
 
 // Both directions of one transform. The way there and back multiplies by the size.
 class Transform
@@ -40,15 +35,15 @@ public:
         return static_cast<double>(bin) * rate / m_size;
     }
 
-    Spectrum spectrumOf(std::vector<float> samples) const
+    Bins spectrumOf(std::vector<float> samples) const
     {
         samples.resize(static_cast<std::size_t>(m_size));
-        Spectrum result(static_cast<std::size_t>(m_size) / 2 + 1);
+        Bins result(static_cast<std::size_t>(m_size) / 2 + 1);
         kiss_fftr(m_forward.get(), samples.data(), result.data());
         return result;
     }
 
-    std::vector<double> samplesOf(const Spectrum& spectrum) const
+    std::vector<double> samplesOf(const Bins& spectrum) const
     {
         std::vector<float> scaled(static_cast<std::size_t>(m_size));
         kiss_fftri(m_back.get(), spectrum.data(), scaled.data());
@@ -60,8 +55,8 @@ public:
 
 private:
     int m_size;
-    std::unique_ptr<kiss_fftr_state, PlanDeleter> m_forward;
-    std::unique_ptr<kiss_fftr_state, PlanDeleter> m_back;
+    FourierPlan m_forward;
+    FourierPlan m_back;
 };
 
 kiss_fft_cpx productWithConjugate(kiss_fft_cpx a, kiss_fft_cpx b)
@@ -70,7 +65,7 @@ kiss_fft_cpx productWithConjugate(kiss_fft_cpx a, kiss_fft_cpx b)
 }
 
 // What is not in the band of the sweep can't be the sweep.
-void keepBand(Spectrum& spectrum, const Transform& transform, double rate)
+void keepBand(Bins& spectrum, const Transform& transform, double rate)
 {
     for (std::size_t bin = 0; bin < spectrum.size(); ++bin) {
         const double frequency = transform.frequency(bin, rate);
@@ -112,8 +107,8 @@ std::optional<Sweep::Match> Sweep::bestMatch(const std::vector<float>& recording
         return std::nullopt;
     }
     const Transform transform(recording.size() + sweep.size());
-    Spectrum heard = transform.spectrumOf(recording);
-    Spectrum sought = transform.spectrumOf(sweep);
+    Bins heard = transform.spectrumOf(recording);
+    Bins sought = transform.spectrumOf(sweep);
     keepBand(heard, transform, rate);
     keepBand(sought, transform, rate);
     const std::vector<double> sound = transform.samplesOf(heard);

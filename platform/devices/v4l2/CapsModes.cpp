@@ -15,13 +15,13 @@ using Offer = CameraModes::Offer;
 constexpr const char* RawMedia = "video/x-raw";
 constexpr const char* JpegMedia = "image/jpeg";
 
-struct Format
+struct NamedFormat
 {
     const char* name;
     PixelFormat pixelFormat;
 };
 
-constexpr Format Formats[] = {
+constexpr NamedFormat NamedFormats[] = {
     {"YUY2", PixelFormat::Yuy2}, {"UYVY", PixelFormat::Uyvy}, {"NV12", PixelFormat::Nv12},
     {"I420", PixelFormat::I420}, {"RGB", PixelFormat::Rgb},   {"BGR", PixelFormat::Bgr},
     {"RGBx", PixelFormat::Rgbx}, {"BGRx", PixelFormat::Bgrx}, {"xRGB", PixelFormat::Xrgb},
@@ -134,11 +134,10 @@ void addModes(const GstStructure* structure, CameraModes& modes)
 
 PixelFormat CapsModes::pixelFormatOf(const char* format)
 {
-    const auto* const it =
-        std::find_if(std::begin(Formats), std::end(Formats), [format](const Format& known) {
-            return format && strcmp(known.name, format) == 0;
-        });
-    return it == std::end(Formats) ? PixelFormat::None : it->pixelFormat;
+    const auto* const it = std::find_if(
+        std::begin(NamedFormats), std::end(NamedFormats),
+        [format](const NamedFormat& known) { return format && strcmp(known.name, format) == 0; });
+    return it == std::end(NamedFormats) ? PixelFormat::None : it->pixelFormat;
 }
 
 CameraModes CapsModes::modesOf(const GstCaps* caps)
@@ -161,7 +160,7 @@ GstCaps* CapsModes::capsOf(const CameraMode& mode)
                             static_cast<int>(mode.rate.numerator),
                             static_cast<int>(mode.rate.denominator), nullptr);
     }
-    for (const Format& format : Formats) {
+    for (const NamedFormat& format : NamedFormats) {
         if (format.pixelFormat == mode.pixelFormat) {
             gst_caps_set_simple(result, "format", G_TYPE_STRING, format.name, nullptr);
         }

@@ -9,8 +9,6 @@ namespace Platform {
 
 namespace {
 
-constexpr std::chrono::milliseconds BurstWindow(50);
-
 // With the same place as PipeWire finds: a remembered camera is known in both systems.
 CameraNode nodeOf(const VideoDevices::Properties& properties)
 {
@@ -40,7 +38,7 @@ V4l2Capture::V4l2Capture(const V4l2Parts& parts, std::shared_ptr<FrameSlot> slot
 {
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { m_opening.wake(); });
-    m_announceTimer.setInterval(BurstWindow);
+    m_announceTimer.setInterval(CameraBurstWindow);
     m_announceTimer.setSingleShot(true);
     QObject::connect(&m_announceTimer, &QTimer::timeout, &m_announceTimer, [this] { announce(); });
     m_devices->start(*this);
