@@ -34,12 +34,20 @@ endif()
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    set(cache_settings "")
     # Clones in other folders share the cache, unless the user has arranged that otherwise.
     execute_process(COMMAND ${CCACHE_PROGRAM} --get-config base_dir
         OUTPUT_VARIABLE base_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
     if(NOT base_dir)
-        list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-            CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1)
+        list(APPEND cache_settings CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1)
+    endif()
+    # By its manual, ccache keeps what precompiled headers went into only with both.
+    if(ENVCHECK_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        list(APPEND cache_settings CCACHE_SLOPPINESS=pch_defines,time_macros)
+        add_compile_options(-fpch-preprocess)
+    endif()
+    if(cache_settings)
+        list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env ${cache_settings})
     endif()
 endif()
 
