@@ -8,8 +8,8 @@
 
 class QWidget;
 
-// Lets a window paint a hundred times a second at most. Qt paints in every round of the event loop
-// in which something changed, which can be thousands of times. What changes after a pause is
+// Lets a window paint about sixty times a second at most. Qt paints in every round of the event
+// loop in which something changed, which can be thousands of times. What changes after a pause is
 // painted at once; what changes sooner is painted together when its time has come. It is a child of
 // the window, and has a timer only while something waits. GUI thread only.
 class PaintPace : public QObject
@@ -18,7 +18,7 @@ class PaintPace : public QObject
     Q_DISABLE_COPY(PaintPace)
 
 public:
-    static constexpr int IntervalMs = 10;
+    static constexpr int IntervalMs = 16;
 
     explicit PaintPace(QWidget* window);
     ~PaintPace() override;
