@@ -4,6 +4,7 @@
 
 #include "platform/LumWidgets/DialogPopups.h"
 #include "platform/LumWidgets/FocusRing.h"
+#include "platform/LumWidgets/PaintPace.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -55,6 +56,7 @@ LumCustomNormalDialog::LumCustomNormalDialog(Type /*type*/, QWidget* parent, Qt:
     m_titleBar = m_customTitleBar ? m_customTitleBar->widget() : createTitleBar();
     layout->addWidget(m_titleBar);
     new FocusRing(this);
+    new PaintPace(this);
     if (parent) {
         connect(parent, &QObject::destroyed, this, &LumCustomNormalDialog::abandon);
     }

@@ -13,6 +13,12 @@ namespace {
 
 constexpr int MaxNameLength = 200;
 
+bool isPrintable(QChar c)
+{
+    return c.category() != QChar::Other_Control && c != QChar::LineSeparator &&
+           c != QChar::ParagraphSeparator;
+}
+
 } // namespace
 
 QString nameIn(const DeviceList& devices, const QString& id)
@@ -47,12 +53,15 @@ QString toString(DeviceState state)
 
 QString printableName(const QString& name)
 {
-    QString result;
-    for (const QChar c : name.left(MaxNameLength + 1)) {
-        result += c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-                          c == QChar::ParagraphSeparator
-                      ? QChar(' ')
-                      : c;
+    if (name.isEmpty()) {
+        return {};
+    }
+    // Nearly every name is printable, and is then returned without a copy of its text.
+    QString result = name.left(MaxNameLength + 1);
+    for (int i = 0; i < result.size(); ++i) {
+        if (!isPrintable(result.at(i))) {
+            result[i] = QChar(' ');
+        }
     }
     if (result.size() > MaxNameLength) {
         result.truncate(MaxNameLength - 1);

@@ -43,6 +43,23 @@ private:
     bool m_refuses;
 };
 
+class PaintedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    int paints = 0;
+    QString painted;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QLabel::paintEvent(event);
+        ++paints;
+        painted = text();
+    }
+};
+
 class TitleBar : public QLabel, public ICustomedTitleBar
 {
 public:
@@ -80,6 +97,8 @@ private Q_SLOTS:
     void parentlessPopupsBelongToIt();
     void questionHasNoPictures();
     void questionHasAnEdge();
+    void paintsNoMoreOftenThanAScreenShows();
+    void paintsAtOnceAfterAPause();
 
 private:
     static void addPalettes();
@@ -447,6 +466,47 @@ void tst_LumCustomNormalDialog::questionHasNoPictures()
         nullptr, "title", "text", QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     QCOMPARE(answer, QMessageBox::No);
     QCOMPARE(buttons, 2);
+}
+
+// As when a thousand devices come and go in a second.
+void tst_LumCustomNormalDialog::paintsNoMoreOftenThanAScreenShows()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new PaintedLabel("0");
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    center->paints = 0;
+    QElapsedTimer clock;
+    clock.start();
+    int changes = 0;
+    while (clock.elapsed() < 300) {
+        center->setText(QString::number(++changes));
+        QCoreApplication::processEvents();
+        if (changes % 2 == 0) {
+            center->repaint();
+        }
+    }
+    const int most = static_cast<int>(clock.elapsed() / 15) + 2;
+    QVERIFY2(changes > 2 * most, qPrintable(QString::number(changes)));
+    QVERIFY2(center->paints <= most, qPrintable(QString::number(center->paints)));
+    QTRY_COMPARE(center->painted, QString::number(changes));
+}
+
+// Whoever moves a slider doesn't wait.
+void tst_LumCustomNormalDialog::paintsAtOnceAfterAPause()
+{
+    LumCustomNormalDialog dialog(LumCustomNormalDialog::Normal, nullptr, {}, nullptr, false);
+    auto* center = new PaintedLabel("0");
+    dialog.setCenterWidget(center, false);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    for (int i = 1; i <= 5; ++i) {
+        QTest::qWait(40);
+        center->setText(QString::number(i));
+        QCoreApplication::processEvents();
+        QCOMPARE(center->painted, QString::number(i));
+    }
 }
 
 QTEST_MAIN(tst_LumCustomNormalDialog)

@@ -11,7 +11,8 @@ struct SRC_STATE_tag;
 namespace Platform {
 
 // Makes a sound longer or shorter by up to 1.5 %, so that the clock of one device follows that of
-// another without tears.
+// another without tears. Of silence nothing is computed but its length: most of the processor time
+// of listening to oneself goes into the filter, and a muted microphone sends nothing but zeros.
 class DriftResampler
 {
 public:
@@ -31,6 +32,9 @@ public:
     void process(const std::vector<float>& samples, std::vector<float>& result); // appends
 
 private:
+    bool isAllSilent(const std::vector<float>& samples); // and the filter holds nothing else
+    void extendSilence(std::size_t count, std::vector<float>& result);
+
     struct Deleter
     {
         void operator()(SRC_STATE_tag* state) const;
@@ -38,6 +42,8 @@ private:
 
     std::unique_ptr<SRC_STATE_tag, Deleter> m_state;
     double m_deviation = 0.0;
+    std::size_t m_silentSamples = 0; // the last ones that came in
+    double m_owedSamples = 0.0;      // of silence, less than one
 };
 
 } // namespace Platform

@@ -63,6 +63,34 @@ private Q_SLOTS:
         }
     }
 
+    // Some devices have many channels, and some only a telephone's rate.
+    void levelsOfUnusualDevices_data()
+    {
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<int>("rate");
+        QTest::newRow("32 channels") << 32 << 48000;
+        QTest::newRow("5 kHz") << 1 << 5000;
+        QTest::newRow("32 channels, 5 kHz") << 32 << 5000;
+        QTest::newRow("192 kHz") << 2 << 192000;
+    }
+
+    void levelsOfUnusualDevices()
+    {
+        QFETCH(int, channels);
+        QFETCH(int, rate);
+        m_server->plugSpeaker(id("odd"), id("Odd"), channels, rate);
+        m_server->plugMicrophone(id("odd_microphone"), id("Odd microphone"), id("odd"));
+        QTRY_COMPARE(m_microphone->devices().size(), std::size_t{2});
+        m_microphone->setCurrent(id("odd_microphone"));
+        QTRY_VERIFY(m_listener->isCurrent(id("odd_microphone")));
+        m_microphone->open();
+        const QString fault = TestSupport::measuredFault([&] {
+            const SoundSource voice(id("odd"), TestSupport::tone(20.0, 1000.0, -20.0));
+            return levelFault(-20.0);
+        });
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
+    }
+
     void tellsWhetherItHeardSound()
     {
         m_microphone->open();

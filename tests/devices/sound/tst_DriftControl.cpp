@@ -6,6 +6,7 @@
 #include <QTest>
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 #include <random>
 
 using Platform::DriftControl;
@@ -146,6 +147,75 @@ private Q_SLOTS:
                 QVERIFY(std::abs(static_cast<double>(result[i]) - expected) < 0.001);
             }
         }
+    }
+
+    // A muted microphone goes on for as long as its sound would, and the sound after it is whole.
+    void resamplerKeepsSilenceInTime()
+    {
+        constexpr std::size_t Count = 480000;
+        constexpr std::size_t PieceSize = 240;
+        for (const double deviation : {0.0, 0.003, -0.003, 0.015}) {
+            DriftResampler resampler;
+            resampler.setDeviation(deviation);
+            std::vector<float> result;
+            const auto feed = [&](std::size_t count, auto wave) {
+                for (std::size_t i = 0; i < count; i += PieceSize) {
+                    std::vector<float> piece;
+                    for (std::size_t k = i; k < i + PieceSize; ++k) {
+                        piece.push_back(static_cast<float>(wave(static_cast<double>(k))));
+                    }
+                    resampler.process(piece, result);
+                }
+            };
+            const auto wave = [](double at) { return std::sin(0.05 * at); };
+            feed(PieceSize, wave);
+            feed(Count, [](double) { return 0.0; });
+            const double step = 1.0 + deviation;
+            QVERIFY(std::abs(static_cast<double>(result.size()) - (Count + PieceSize) / step) <
+                    3.0);
+            QVERIFY(std::all_of(result.begin() + 2 * PieceSize, result.end(),
+                                [](float sample) { return std::abs(sample) < 1e-6F; }));
+
+            const std::size_t start = result.size();
+            feed(4800, wave);
+            double worst = 0.0;
+            for (std::size_t i = start + 100; i < result.size(); ++i) {
+                // The silence before may have been a sample shorter or longer.
+                double nearest = 1.0;
+                for (double shift = -2.0; shift <= 2.0; shift += 0.05) {
+                    const double at = static_cast<double>(i - start) * step -
+                                      DriftResampler::DelaySamples + shift;
+                    nearest =
+                        std::min(nearest, std::abs(static_cast<double>(result[i]) - wave(at)));
+                }
+                worst = std::max(worst, nearest);
+            }
+            QVERIFY2(worst < 0.01, qPrintable(QString::number(worst)));
+        }
+    }
+
+    // Nothing moves on the page then, and nearly nothing is to be computed.
+    void resamplerRestsInSilence()
+    {
+        const auto processorTimeOf = [](float amplitude) {
+            DriftResampler resampler;
+            resampler.setDeviation(0.001);
+            std::vector<float> piece(240);
+            for (std::size_t i = 0; i < piece.size(); ++i) {
+                piece[i] = amplitude * static_cast<float>(std::sin(0.05 * static_cast<double>(i)));
+            }
+            std::vector<float> result;
+            const std::clock_t before = std::clock();
+            for (int i = 0; i < 4000; ++i) {
+                result.clear();
+                resampler.process(piece, result);
+            }
+            return static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+        };
+        const double sound = processorTimeOf(0.1F);
+        const double silence = processorTimeOf(0.0F);
+        QVERIFY2(silence < 0.25 * sound,
+                 qPrintable(QStringLiteral("%1 s, sound %2 s").arg(silence).arg(sound)));
     }
 
     // A controller changes the ratio with nearly every piece. There are libraries that crash then.

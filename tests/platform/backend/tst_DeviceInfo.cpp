@@ -36,6 +36,7 @@ private Q_SLOTS:
     void numbersEqualNames();
     void blanksControlCharacters();
     void cutsLongNames();
+    void copiesNoPrintableName();
     void comparesIdAndName();
     void findsById();
 };
@@ -104,6 +105,15 @@ void tst_DeviceInfo::cutsLongNames()
     const QString emoji =
         QString(198, QLatin1Char('x')) + QString::fromUcs4(U"\U0001F4F7", 1) + QStringLiteral("yz");
     QCOMPARE(namesOf({emoji}), QStringList{QString(198, QLatin1Char('x')) + QChar(0x2026)});
+}
+
+// A list of thousands may change many times a second.
+void tst_DeviceInfo::copiesNoPrintableName()
+{
+    const QString name = QStringLiteral("Loudspeaker %1").arg(1);
+    const QString printable = printableName(name);
+    QCOMPARE(printable, name);
+    QVERIFY(printable.constData() == name.constData());
 }
 
 void tst_DeviceInfo::comparesIdAndName()
