@@ -6,7 +6,6 @@
 #include <QTest>
 #include <algorithm>
 #include <cmath>
-#include <ctime>
 #include <random>
 
 using Platform::DriftControl;
@@ -192,30 +191,6 @@ private Q_SLOTS:
             }
             QVERIFY2(worst < 0.01, qPrintable(QString::number(worst)));
         }
-    }
-
-    // Nothing moves on the page then, and nearly nothing is to be computed.
-    void resamplerRestsInSilence()
-    {
-        const auto processorTimeOf = [](float amplitude) {
-            DriftResampler resampler;
-            resampler.setDeviation(0.001);
-            std::vector<float> piece(240);
-            for (std::size_t i = 0; i < piece.size(); ++i) {
-                piece[i] = amplitude * static_cast<float>(std::sin(0.05 * static_cast<double>(i)));
-            }
-            std::vector<float> result;
-            const std::clock_t before = std::clock();
-            for (int i = 0; i < 4000; ++i) {
-                result.clear();
-                resampler.process(piece, result);
-            }
-            return static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
-        };
-        const double sound = processorTimeOf(0.1F);
-        const double silence = processorTimeOf(0.0F);
-        QVERIFY2(silence < 0.25 * sound,
-                 qPrintable(QStringLiteral("%1 s, sound %2 s").arg(silence).arg(sound)));
     }
 
     // A controller changes the ratio with nearly every piece. There are libraries that crash then.
