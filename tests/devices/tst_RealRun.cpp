@@ -11,8 +11,8 @@
 #include "tests/devices/CoturnServer.h"
 #include "tests/devices/DialogCameras.h"
 #include "tests/devices/RunDevices.h"
+#include "tests/support/MachineDelay.h"
 #include "tests/support/PictureBoard.h"
-#include "tests/support/PopupChoice.h"
 #include "tests/support/Signals.h"
 
 #include <QAbstractButton>
@@ -57,9 +57,7 @@ private Q_SLOTS:
     void cleanupTestCase();
 
     void everyCheckPasses();
-#ifdef Q_OS_UNIX
-    void everyCheckFails(); // Wine keeps the devices of a process' start
-#endif
+    void everyCheckFails();
 
 private:
     using Visit = void (tst_RealRun::*)();
@@ -78,6 +76,7 @@ private:
     bool isMeasured() const;
     bool previewIsRed() const;
     const char* buttonFor(const std::vector<float>& heard) const;
+    static QFileInfoList sounds();
     void compareTable(const QList<QPair<QString, QString>>& rows) const;
     void keepFrame(const char* caption);
 
@@ -126,7 +125,6 @@ void tst_RealRun::everyCheckPasses()
     QCOMPARE(m_outcome, QStringList()); // there was none
 }
 
-#ifdef Q_OS_UNIX
 void tst_RealRun::everyCheckFails()
 {
     m_devices->unplugSound();
@@ -137,7 +135,6 @@ void tst_RealRun::everyCheckFails()
     QCOMPARE(m_outcome.count(qtTrId("ID_Host_Remedy_NoAnswer")), 1);
     QCOMPARE(m_outcome.count(qtTrId("ID_Host_Remedy_Absent")), 3);
 }
-#endif
 
 // As main() does it, but that somebody is there to look and to click.
 void tst_RealRun::run(Visit visit, ExitCode expected)
@@ -228,17 +225,13 @@ void tst_RealRun::passCamera()
 void tst_RealRun::passSpeaker()
 {
     QTRY_VERIFY(isShown("tb_play_test_sound"));
-#ifdef Q_OS_WIN
-    // Which one is first is Wine's choice.
-    chooseInPopup(*find<QComboBox>("cb_ad_output_name"), id("Test Speaker A"));
-#endif
     QCOMPARE(find<QComboBox>("cb_ad_output_name")->currentText(), id("Test Speaker A"));
     const auto* const label = find<QLabel>("label_Play");
     const auto says = [label](const QString& text) {
         return QTest::qWaitFor([label, &text] { return label->text() == text; }, LongMs);
     };
     const char* button = nullptr;
-    const QString fault = RunDevices::measuredFault([&] {
+    const QString fault = measuredFault([&] {
         if (!m_devices->listen()) {
             return id("nothing is recorded");
         }
@@ -341,15 +334,13 @@ bool tst_RealRun::previewIsRed() const
 // The answer that names what was heard; null where none of them does.
 const char* tst_RealRun::buttonFor(const std::vector<float>& heard) const
 {
-    const QFileInfoList sounds =
-        QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/share/sounds")).entryInfoList({id("*.mp3")});
     for (const char* button : {"item0", "item1", "item2", "item3"}) {
         const QString answer = find<QAbstractButton>(button)->text();
-        for (const QFileInfo& sound : sounds) {
+        for (const QFileInfo& sound : sounds()) {
             if (answer != qtTrId(SoundNames::textId(sound.completeBaseName()))) {
                 continue;
             }
-            const double alike = correlation(heard, RunDevices::soundFile(sound.filePath()));
+            const double alike = correlation(heard, soundFile(sound.filePath()));
             qInfo("%s: %.3f", qPrintable(sound.fileName()), alike);
             if (alike > AlikeAtLeast) {
                 return button;
@@ -357,6 +348,11 @@ const char* tst_RealRun::buttonFor(const std::vector<float>& heard) const
         }
     }
     return nullptr;
+}
+
+QFileInfoList tst_RealRun::sounds()
+{
+    return QDir(QStringLiteral(ENVCHECK_SOURCE_DIR "/share/sounds")).entryInfoList({id("*.mp3")});
 }
 
 // Each row's problems and its result.
