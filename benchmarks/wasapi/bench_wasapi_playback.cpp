@@ -7,6 +7,7 @@
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
+#include "tests/support/SoundRecording.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -21,9 +22,9 @@
 // sound decoded, and this program doesn't: that is in its figures.
 
 using namespace Platform;
-using TestSupport::NativeRecording;
 using TestSupport::NativeSoundServer;
 using TestSupport::SoundRate;
+using TestSupport::SoundRecording;
 
 namespace {
 
@@ -44,7 +45,7 @@ struct Contestant
 // both. Nothing if it wasn't heard.
 std::optional<double> click(const Contestant& contestant)
 {
-    NativeRecording ear(QStringLiteral("speaker_a.monitor"), 1);
+    SoundRecording ear(QStringLiteral("speaker_a.monitor"));
     if (!ear.waitForStart()) {
         return std::nullopt;
     }

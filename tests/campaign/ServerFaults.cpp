@@ -99,7 +99,7 @@ void ServerFaults::switchDefault(CheckRun& run, Step /*step*/)
 
 void ServerFaults::plugStorm(CheckRun& run, Step /*step*/)
 {
-    const PlugStorm storm(StormRounds);
+    const PlugStorm storm(run.rig().server(), StormRounds);
     while (!storm.isOver()) {
         run.wait(10);
     }

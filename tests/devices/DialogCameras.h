@@ -9,7 +9,8 @@
 namespace TestSupport {
 
 // The cameras that the engine of this system finds, as a test of the dialog needs them: virtual
-// ones of a PipeWire server, or those that are staged for Windows. A camera's name is its id.
+// ones of a PipeWire server, or those that are staged for Windows. A camera's name is its id. For
+// programs that a test starts on Windows, DialogCameras_program.cpp has what there is.
 class DialogCameras
 {
 public:
@@ -36,6 +37,9 @@ public:
     // Whatever brings the cameras answers nothing.
     void freeze();
     void thaw();
+#ifdef Q_OS_UNIX
+    void kill(); // the server
+#endif
 
 private:
     struct Parts;

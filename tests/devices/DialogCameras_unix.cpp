@@ -82,4 +82,9 @@ void DialogCameras::thaw()
     m_parts->server.thaw();
 }
 
+void DialogCameras::kill()
+{
+    m_parts->server.kill();
+}
+
 } // namespace TestSupport

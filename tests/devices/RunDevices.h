@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/SoundRecording.h"
+#include "tests/support/SoundServer.h"
+
 #include <QString>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -11,6 +13,7 @@ namespace TestSupport {
 
 // The devices of a whole run, virtual ones of real servers: the speaker "Test Speaker A", the
 // microphone "Test Microphone A" and the camera "Test Camera", whose picture is DialogCameras::Red.
+// What brings the camera stands in one source file for each system.
 class RunDevices
 {
 public:
@@ -19,27 +22,23 @@ public:
     RunDevices(const RunDevices&) = delete;
     RunDevices& operator=(const RunDevices&) = delete;
 
-    bool start(); // speakers and microphone
+    bool start() { return m_sound.start(); } // speakers and microphone
     bool plugCamera();
-#ifndef Q_OS_WIN
     void unplugSound();
-#endif
 
     bool listen(); // to the speaker; true once it is recorded
-    std::vector<float> heard() const;
+    std::vector<float> heard() const { return m_ear->samples(); }
     // A voice speaks into the microphone. Returns what it says, nothing if it can't.
     std::vector<float> say(const QString& text);
-    bool waitForVoice(); // until it has ended
-
-    static std::vector<float> soundFile(const QString& path);
-    // Runs a measurement in real time, which returns what is wrong or an empty text; again if the
-    // machine may have been too busy for it.
-    static QString measuredFault(const std::function<QString()>& measure);
+    bool waitForVoice() { return m_voice->waitForEnd(); } // until it has ended
 
 private:
-    struct Parts;
+    struct Cameras;
 
-    std::unique_ptr<Parts> m_parts;
+    SoundServer m_sound;
+    std::unique_ptr<Cameras> m_cameras;
+    std::unique_ptr<SoundRecording> m_ear;
+    std::unique_ptr<SoundSource> m_voice;
 };
 
 } // namespace TestSupport

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "tests/devices/NativeProgram.h"
 #include "tests/devices/ServerProcess.h"
+#include "tests/support/NativeProgram.h"
 
 class ServerProcess::System
 {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "tests/support/CameraProcess.h"
-#include "tests/support/PipeWireServer.h"
+#include "tests/devices/DialogCameras.h"
 #include "tests/support/SoundServer.h"
 
 #include <QJsonArray>
@@ -65,12 +64,14 @@ private Q_SLOTS:
     void noDevices();
     void killedSoundServer();
     void frozenSoundServer();
+#ifdef Q_OS_UNIX // Windows has no service of cameras that could be gone
     void absentCameraService();
     void frozenCameraService();
+#endif
 
 private:
     std::unique_ptr<SoundServer> m_sound;
-    std::unique_ptr<PipeWireServer> m_cameras;
+    std::unique_ptr<DialogCameras> m_cameras;
 };
 
 void tst_DevicesCommand::init()
@@ -78,7 +79,7 @@ void tst_DevicesCommand::init()
     m_sound = std::make_unique<SoundServer>(SoundServer::Kind::PulseAudio);
     QVERIFY(m_sound->start());
     const QByteArray soundAddress = qgetenv("PULSE_SERVER");
-    m_cameras = std::make_unique<PipeWireServer>(); // with an environment that has no sound
+    m_cameras = std::make_unique<DialogCameras>(); // with an environment that has no sound
     qputenv("PULSE_SERVER", soundAddress);
     QVERIFY2(m_cameras->start(), qPrintable(m_cameras->problem()));
 }
@@ -91,8 +92,7 @@ void tst_DevicesCommand::cleanup()
 
 void tst_DevicesCommand::everythingIsThere()
 {
-    CameraProcess desk(QStringLiteral("desk"), QStringLiteral("Desk camera"));
-    QTRY_VERIFY_WITH_TIMEOUT(desk.output().contains("paused"), TimeoutMs);
+    m_cameras->plug(QStringLiteral("desk"), QStringLiteral("Desk camera"));
     const Listing listing = list();
     QCOMPARE(listing.code, 0);
     QCOMPARE(listing.count("cameras"), 1);
@@ -138,6 +138,7 @@ void tst_DevicesCommand::frozenSoundServer()
     QCOMPARE(listing.text.count(QLatin1String("The sound service does not answer")), 2);
 }
 
+#ifdef Q_OS_UNIX
 void tst_DevicesCommand::absentCameraService()
 {
     m_cameras->kill();
@@ -158,6 +159,7 @@ void tst_DevicesCommand::frozenCameraService()
     QVERIFY(listing.count("speakers") > 0);
     QVERIFY(listing.text.contains(QLatin1String("The camera service does not answer")));
 }
+#endif
 
 QTEST_GUILESS_MAIN(tst_DevicesCommand)
 #include "tst_DevicesCommand.moc"

@@ -109,12 +109,14 @@ void tst_MicrophoneDialog::showsEveryState()
             QTRY_VERIFY(level() > LitPercent);
             keepFrame("counting");
         }
+#ifdef Q_OS_UNIX // Windows makes nothing louder than 100 %
         QTest::keyClick(slider(), Qt::Key_End);
         QTRY_VERIFY(isBalloonShown("ID_MicrophonePage_MayNoisy"));
         QTRY_VERIFY(volume().contains("150%"));
         keepFrame("turned up");
         QTest::keyClick(slider(), Qt::Key_Home);
         QTRY_VERIFY(!isBalloonShown("ID_MicrophonePage_MayNoisy"));
+#endif
 
         box()->setCurrentIndex(box()->count() - 1);
         QTRY_VERIFY(isBalloonShown("ID_MicrophonePage_DisabledWillMakeMicrophoneUnusable"));
@@ -301,7 +303,7 @@ void tst_MicrophoneDialog::neverBlocksWhileTheServerIsFrozen()
     // The dialog was closed with a frozen server.
     m_server->thaw();
     QTRY_COMPARE(captures() + playbacks(), 0);
-    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxDialogGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -381,7 +383,7 @@ void tst_MicrophoneDialog::survivesTheServersDeath()
         startAgain();
     });
     QTRY_COMPARE(captures() + playbacks(), 0);
-    QVERIFY2(m_dialog->worstGapMs() < DeviceDialog::MaxStartGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxStartGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -397,7 +399,7 @@ void tst_MicrophoneDialog::survivesManyPluggings()
         QElapsedTimer clock;
         clock.start();
         m_dialog->meter("many pluggings while listening", [&] {
-            const PlugStorm storm(PlugEvents / 2, PlugStorm::Device::Microphone);
+            const PlugStorm storm(*m_server, PlugEvents / 2, HastyDevice::Kind::Microphone);
             QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
             QCOMPARE(storm.events(), PlugEvents);
         });
@@ -410,7 +412,7 @@ void tst_MicrophoneDialog::survivesManyPluggings()
         QCOMPARE(captures(), 1);
         QCOMPARE(playbacks(), 1);
     });
-    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxDialogGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -453,12 +455,12 @@ QByteArray tst_MicrophoneDialog::volume()
 
 int tst_MicrophoneDialog::captures()
 {
-    return m_server->control({id("list"), id("source-outputs")}).count("Microphone check");
+    return m_server->streams("source-outputs", "Microphone check");
 }
 
 int tst_MicrophoneDialog::playbacks()
 {
-    return m_server->control({id("list"), id("sink-inputs")}).count("Listening to oneself");
+    return m_server->streams("sink-inputs", "Listening to oneself");
 }
 
 void tst_MicrophoneDialog::keepFrame(const char* caption)

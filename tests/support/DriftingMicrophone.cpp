@@ -6,6 +6,7 @@
 #include "tests/support/SoundRecording.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <array>
 #include <cstring>

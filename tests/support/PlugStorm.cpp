@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/PlugStorm.h"
 
-#include "tests/support/PulseClient.h"
-
 namespace TestSupport {
 
-PlugStorm::PlugStorm(int rounds, Device device)
-    : m_thread([this, rounds, device] { run(rounds, device); })
+PlugStorm::PlugStorm(SoundServer& server, int rounds, HastyDevice::Kind kind)
+    : m_thread([this, &server, rounds, kind] { run(server, rounds, kind); })
 {
 }
 
@@ -17,19 +15,14 @@ PlugStorm::~PlugStorm()
     m_thread.join();
 }
 
-void PlugStorm::run(int rounds, Device device)
+void PlugStorm::run(SoundServer& server, int rounds, HastyDevice::Kind kind)
 {
-    const bool isSpeaker = device == Device::Speaker;
-    const char* const module = isSpeaker ? "module-null-sink" : "module-remap-source";
-    const char* const arguments =
-        isSpeaker ? "norewinds=1 sink_name=hasty" : "source_name=hasty master=voice.monitor";
-    PulseClient client;
-    bool isGood = client.connect();
+    HastyDevice device(server, kind);
+    bool isGood = true;
     for (int i = 0; i < rounds && isGood && !m_isEnding; ++i) {
-        std::uint32_t index = 0;
-        isGood = client.loadModule(module, arguments, index);
+        isGood = device.plug();
         m_events += isGood ? 1 : 0;
-        isGood = isGood && client.unloadModule(index);
+        isGood = isGood && device.unplug();
         m_events += isGood ? 1 : 0;
     }
     m_isOver = true;

@@ -2,18 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/HastyDevice.h"
+
 #include <atomic>
 #include <thread>
 
 namespace TestSupport {
 
-// Plugs and unplugs a device as fast as the sound server can, on its own thread and connection.
+// Plugs and unplugs a device as fast as the system can, on its own thread and connection.
 class PlugStorm
 {
 public:
-    enum class Device { Speaker, Microphone };
-
-    explicit PlugStorm(int rounds, Device device = Device::Speaker);
+    PlugStorm(SoundServer& server, int rounds, HastyDevice::Kind kind = HastyDevice::Kind::Speaker);
     ~PlugStorm(); // stops early
     PlugStorm(const PlugStorm&) = delete;
     PlugStorm& operator=(const PlugStorm&) = delete;
@@ -22,7 +22,7 @@ public:
     int events() const { return m_events; } // so far
 
 private:
-    void run(int rounds, Device device);
+    void run(SoundServer& server, int rounds, HastyDevice::Kind kind);
 
     std::atomic<bool> m_isEnding{false};
     std::atomic<bool> m_isOver{false};

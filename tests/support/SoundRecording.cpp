@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/SoundRecording.h"
 
-#include <QEventLoop>
+#include <QObject>
+#ifndef Q_OS_WIN
+#include <QProcess>
 #include <QTemporaryDir>
+#endif
 #include <QTest>
-#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -17,32 +19,62 @@ namespace {
 
 constexpr int StartTimeoutMs = 5000;
 constexpr int EndTimeoutMs = 30000;
+#ifdef Q_OS_WIN
+constexpr int PlayingMs = 200; // Wine keeps the machine busy, and a sound mustn't tear
+#else
+constexpr int PlayingMs = 20;
+#endif
 
-QStringList rawFormat(const QString& device, int channels)
+QStringList rawFormat(const QString& device, int channels, int latencyMs)
 {
-    return {QStringLiteral("--raw"),
+    return {QStringLiteral("--server=") + qEnvironmentVariable("PULSE_SERVER"),
+            QStringLiteral("--raw"),
             QStringLiteral("--device=%1").arg(device),
             QStringLiteral("--format=float32le"),
             QStringLiteral("--rate=%1").arg(SoundRecording::Rate),
             QStringLiteral("--channels=%1").arg(channels),
-            QStringLiteral("--latency-msec=20")};
+            QStringLiteral("--latency-msec=%1").arg(latencyMs)};
+}
+
+QByteArray rawBytes(const std::vector<float>& samples)
+{
+    return {reinterpret_cast<const char*>(samples.data()),
+            static_cast<int>(samples.size() * sizeof(float))};
+}
+
+std::vector<float> decoded(const QStringList& input)
+{
+    SoundTool decoder;
+    decoder.start(QStringLiteral("ffmpeg"),
+                  QStringList{QStringLiteral("-v"), QStringLiteral("error")} + input +
+                      QStringList{QStringLiteral("-f"), QStringLiteral("f32le"),
+                                  QStringLiteral("-ac"), QStringLiteral("1"), QStringLiteral("-ar"),
+                                  QString::number(SoundRecording::Rate), QStringLiteral("-")});
+    decoder.waitForEnd(EndTimeoutMs);
+    const QByteArray data = decoder.output().readAll();
+    if (data.isEmpty()) {
+        qWarning("%s can't be decoded", qUtf8Printable(input.join(QLatin1Char(' '))));
+    }
+    std::vector<float> result(static_cast<std::size_t>(data.size()) / sizeof(float));
+    std::memcpy(result.data(), data.constData(), result.size() * sizeof(float));
+    return result;
 }
 
 } // namespace
 
-SoundRecording::SoundRecording(const QString& device, const QString& channelMap)
+SoundRecording::SoundRecording(const QString& device, const QString& channelMap, int pieceMs)
     : m_channels(channelMap.isEmpty() ? 2 : channelMap.count(QLatin1Char(',')) + 1)
 {
-    QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
-                     [this] { take(); });
-    QStringList arguments = rawFormat(device, m_channels);
+    QStringList arguments = rawFormat(device, m_channels, pieceMs);
     // Otherwise a recording of the default device moves when PipeWire's default changes.
     arguments += QStringLiteral("--property=node.dont-reconnect=true");
     if (!channelMap.isEmpty()) {
         arguments += QStringLiteral("--channel-map=%1").arg(channelMap);
         arguments += QStringLiteral("--no-remix");
     }
-    m_process.start(QStringLiteral("parec"), arguments);
+    m_recorder.start(QStringLiteral("parec"), arguments);
+    QObject::connect(&m_recorder.output(), &QIODevice::readyRead, &m_recorder.output(),
+                     [this] { take(); });
 }
 
 SoundRecording::~SoundRecording()
@@ -108,10 +140,7 @@ void SoundRecording::forget()
 
 void SoundRecording::stop()
 {
-    if (m_process.state() != QProcess::NotRunning) {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
+    m_recorder.kill();
 }
 
 // Data may arrive late but never early, so the earliest estimate is the best one.
@@ -121,51 +150,39 @@ void SoundRecording::take()
     m_start = std::min(m_start,
                        std::chrono::steady_clock::now() -
                            std::chrono::duration_cast<std::chrono::steady_clock::duration>(before));
-    m_data += m_process.readAllStandardOutput();
+    m_data += m_recorder.output().readAll();
 }
 
 SoundSource::SoundSource(const QString& device, const std::vector<float>& samples)
     : m_lengthMs(static_cast<int>(samples.size() * 1000 / SoundRecording::Rate))
 {
-    m_process.start(QStringLiteral("pacat"), rawFormat(device, 1));
-    m_process.write(reinterpret_cast<const char*>(samples.data()),
-                    static_cast<qint64>(samples.size() * sizeof(float)));
-    m_process.closeWriteChannel();
-}
-
-SoundSource::~SoundSource()
-{
-    if (m_process.state() != QProcess::NotRunning) {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
+    m_player.start(QStringLiteral("pacat"), rawFormat(device, 1, PlayingMs), rawBytes(samples));
 }
 
 bool SoundSource::waitForEnd()
 {
-    return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; },
-                           m_lengthMs + EndTimeoutMs);
+    return m_player.waitForEnd(m_lengthMs + EndTimeoutMs);
 }
 
 std::vector<float> soundFile(const QString& path)
 {
-    QProcess decoder;
-    decoder.start(QStringLiteral("ffmpeg"),
-                  {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), path,
-                   QStringLiteral("-f"), QStringLiteral("f32le"), QStringLiteral("-ac"),
-                   QStringLiteral("1"), QStringLiteral("-ar"),
-                   QString::number(SoundRecording::Rate), QStringLiteral("-")});
-    decoder.waitForFinished(EndTimeoutMs);
-    const QByteArray data = decoder.readAllStandardOutput();
-    if (data.isEmpty()) {
-        qWarning("%s can't be read: %s", qUtf8Printable(path),
-                 decoder.readAllStandardError().constData());
-    }
-    std::vector<float> result(static_cast<std::size_t>(data.size()) / sizeof(float));
-    std::memcpy(result.data(), data.constData(), result.size() * sizeof(float));
-    return result;
+#ifdef Q_OS_WIN
+    // As the system below knows it: Wine shows its files on drive Z.
+    const bool isOnZ = path.startsWith(QLatin1String("Z:"), Qt::CaseInsensitive);
+    return decoded({QStringLiteral("-i"), isOnZ ? path.mid(2) : path});
+#else
+    return decoded({QStringLiteral("-i"), path});
+#endif
 }
 
+#ifdef Q_OS_WIN
+// The helper's programs share no folder with this one, so the decoder speaks itself.
+std::vector<float> speech(const QString& text)
+{
+    return decoded({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                    QStringLiteral("flite=text='%1'").arg(text)});
+}
+#else
 std::vector<float> speech(const QString& text)
 {
     const QTemporaryDir folder;
@@ -173,5 +190,6 @@ std::vector<float> speech(const QString& text)
     QProcess::execute(QStringLiteral("espeak-ng"), {QStringLiteral("-w"), path, text});
     return soundFile(path);
 }
+#endif
 
 } // namespace TestSupport

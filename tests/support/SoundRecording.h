@@ -3,9 +3,8 @@
 #pragma once
 
 #include "tests/support/Signals.h"
+#include "tests/support/SoundTool.h"
 
-#include <QElapsedTimer>
-#include <QProcess>
 #include <QString>
 #include <chrono>
 #include <vector>
@@ -18,8 +17,12 @@ class SoundRecording
 public:
     static constexpr int Rate = SoundRate;
 
+    static constexpr int UsualPieceMs = 20;
+
     // device: a source of the server, such as "speaker_a.monitor". Two channels without a map.
-    explicit SoundRecording(const QString& device, const QString& channelMap = {});
+    // pieceMs: how late a sample is told at most. Short pieces cost the machine time.
+    explicit SoundRecording(const QString& device, const QString& channelMap = {},
+                            int pieceMs = UsualPieceMs);
     ~SoundRecording();
 
     bool waitForStart(); // until the first sample
@@ -38,7 +41,7 @@ public:
 private:
     void take();
 
-    QProcess m_process;
+    SoundTool m_recorder;
     int m_channels;
     QByteArray m_data;
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::time_point::max();
@@ -49,17 +52,17 @@ class SoundSource
 {
 public:
     SoundSource(const QString& device, const std::vector<float>& samples);
-    ~SoundSource();
 
     bool waitForEnd();
 
 private:
     int m_lengthMs;
-    QProcess m_process;
+    SoundTool m_player;
 };
 
 // Decodes a sound file of any format. Empty, with a warning, if it can't be read.
 std::vector<float> soundFile(const QString& path);
 // A synthetic voice that says the text.
 std::vector<float> speech(const QString& text);
+
 } // namespace TestSupport

@@ -103,12 +103,21 @@ status=0
 run_in_wine "$bin/envcheck.exe" network --json --count 3 --server "127.0.0.1:$(free_port)" \
     >"$folder/refused.json" || status=$?
 [ $status -eq 1 ] || { cat "$folder/refused.json"; fail "network where nobody listens: exit code $status"; }
+# With a camera, which only this run and the list of devices have.
+cat >"$folder/cameras.json" <<'JSON'
+[{ "link": "desk", "name": "教室 <b>Camera</b>", "modes": [{ "format": "YUY2", "size": [640, 480], "rate": 30 }] }]
+JSON
+with_camera()
+{
+    ENVCHECK_WINE_CAMERAS=$build/tests/devices/mediafoundation/mf.dll \
+        ENVCHECK_STAGED_CAMERAS=$(windows_path "$folder/cameras.json") "$@"
+}
 status=0
-run_in_wine "$bin/envcheck.exe" check --unattended --server "127.0.0.1:$port" \
+with_camera run_in_wine "$bin/envcheck.exe" check --unattended --server "127.0.0.1:$port" \
     --report "$(windows_path "$folder/unattended.json")" >"$folder/unattended.log" 2>&1 || status=$?
 [ $status -eq 1 ] || { cat "$folder/unattended.log"; fail "check --unattended: exit code $status"; }
 
-# Devices: without a sound server, then with one. Wine has no cameras.
+# Devices: without any, then with a camera and a sound server.
 list_devices()
 {
     status=0
@@ -129,7 +138,7 @@ for ((i = 0; i < 100; ++i)); do
     ! pactl --server="unix:$folder/pulse" info >/dev/null 2>&1 || break
     sleep 0.1
 done
-list_devices some
+with_camera list_devices some
 kill $pulse
 python3 - "$folder" <<'PY'
 import json, sys
@@ -143,9 +152,11 @@ none, some = (json.load(open(f"{sys.argv[1]}/{name}.json")) for name in ("none",
 assert none["causes"] == {"cameras": "absent", "microphones": "absent", "speakers": "absent"}, none
 names = lambda kind: {device["name"] for device in some[kind] if device["state"] == "ready"}
 assert names("microphones") == {"Mic"} and names("speakers") == {"Loudspeaker", "Feed"}, some
+assert names("cameras") == {"教室 <b>Camera</b>"}, some
 report = json.load(open(f"{sys.argv[1]}/unattended.json", encoding="utf-8"))
 checks = {check["check"]: (check["verdict"], check.get("causes")) for check in report["checks"]}
 assert checks.pop("network")[0] == "works", report
+assert checks.pop("camera") == ("works", None), report
 assert all(check[1] == ["absent"] for check in checks.values()), checks
 print("network:", answered[2])
 print("network where nobody listens:", refused[0], refused[2])

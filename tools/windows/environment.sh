@@ -44,8 +44,9 @@ start_wine()
 # end_wine FOLDER: ends what start_wine started, but for the display.
 end_wine() { WINEPREFIX=$1/prefix in_wine wineserver --kill 2>/dev/null || true; }
 
-# in_wine COMMAND...: quiet, and without the questions for what Wine could install.
-in_wine() { WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=' "$@"; }
+# in_wine COMMAND...: without the questions for what Wine could install.
+#   wine_debug: what Wine itself prints; nothing unless it is set
+in_wine() { WINEDEBUG=${wine_debug:--all} WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=' "$@"; }
 
 # put_cameras PREFIX: whoever sets ENVCHECK_WINE_CAMERAS gets that DLL as the system's, all others Wine's own.
 put_cameras()

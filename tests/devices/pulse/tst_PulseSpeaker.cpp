@@ -302,7 +302,7 @@ private Q_SLOTS:
     void survivesManyPluggings()
     {
         constexpr int Events = 1000;
-        const TestSupport::PlugStorm storm(Events / 2);
+        const TestSupport::PlugStorm storm(*m_server, Events / 2);
         QTRY_VERIFY_WITH_TIMEOUT(storm.isOver(), 60000);
         QCOMPARE(storm.events(), Events);
         m_server->plugSpeaker(id("last"), id("Last"));

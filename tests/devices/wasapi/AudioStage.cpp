@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/wasapi/AudioStage.h"
 
+#include "tests/devices/wasapi/SystemAudio.h"
+
 namespace TestSupport {
 
 namespace {
@@ -26,6 +28,20 @@ std::vector<Listener*> held(const std::vector<Listener*>& listeners)
 
 } // namespace
 
+HRESULT AudioStage::activate(Platform::SoundKind kind, const QString& name, REFIID id,
+                             void** object)
+{
+    Platform::ComPointer<IMMDeviceEnumerator> enumerator;
+    const HRESULT error = SystemAudio::createEnumerator(enumerator);
+    if (FAILED(error)) {
+        return error;
+    }
+    const EDataFlow flow = kind == Platform::SoundKind::Speaker ? eRender : eCapture;
+    const auto device = SystemAudio::find(*enumerator.get(), flow, name);
+    return device ? device->Activate(id, CLSCTX_ALL, nullptr, object)
+                  : HRESULT_FROM_WIN32(ERROR_NOT_FOUND);
+}
+
 void AudioStage::tell(const std::function<void(IMMNotificationClient&)>& function)
 {
     std::unique_lock lock(mutex);
@@ -33,6 +49,7 @@ void AudioStage::tell(const std::function<void(IMMNotificationClient&)>& functio
     lock.unlock();
     tellAll(present, function);
 }
+
 void AudioStage::setVolume(const QString& id, const Platform::VolumeState& volume)
 {
     std::unique_lock lock(mutex);

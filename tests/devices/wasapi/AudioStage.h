@@ -49,6 +49,9 @@ struct AudioStage
             std::find_if(all.begin(), all.end(), [&id](const Staged& one) { return one.id == id; });
         return found == all.end() ? nullptr : &*found;
     }
+    // Opens the system's endpoint of that name for a stream.
+    static HRESULT activate(Platform::SoundKind kind, const QString& name, REFIID id,
+                            void** object);
     void tell(const std::function<void(IMMNotificationClient&)>& function);
     void setVolume(const QString& id, const Platform::VolumeState& volume);
 
@@ -58,9 +61,14 @@ struct AudioStage
     int hanging = 0;    // calls that do
     HRESULT enumeratorError = S_OK;
     HRESULT streamError = AUDCLNT_E_ENDPOINT_CREATE_FAILED;
+    bool hasSystemStreams = false;
     std::vector<Staged> all;
     std::map<std::pair<Platform::SoundKind, ERole>, QString> defaults;
     std::vector<IMMNotificationClient*> listeners;
+    // By the program. Not guarded: it is there from the beginning.
+    std::function<void(Platform::SoundKind kind, const QString& id,
+                       const Platform::VolumeState& before, const Platform::VolumeState& now)>
+        volumeSet;
     std::atomic<int> lists{0};
     std::atomic<int> objects{0};
 };

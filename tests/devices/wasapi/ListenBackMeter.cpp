@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/wasapi/ListenBackMeter.h"
 
-#include "tests/devices/wasapi/NativeSound.h"
+#include "tests/support/SoundRecording.h"
 
 #include <QTest>
 #include <algorithm>
@@ -19,7 +19,6 @@ constexpr double TailSeconds = 0.5; // until the last of it is heard
 constexpr float Burst = 0.2F;
 constexpr int SpeakerChannel = 0;
 constexpr int VoiceChannel = 2;
-constexpr int BusChannels = 4;
 constexpr int PieceMs = 200; // Wine's work for shorter ones tears the sound that is measured
 constexpr auto Spacing = static_cast<std::size_t>(SpacingSeconds * SoundRate);
 
@@ -90,11 +89,13 @@ QString ListenBackFigures::toString() const
 
 std::optional<ListenBackFigures> ListenBackMeter::measure(double seconds)
 {
-    NativeRecording recording(QStringLiteral("bus.monitor"), BusChannels, PieceMs);
+    SoundRecording recording(QStringLiteral("bus.monitor"),
+                             QStringLiteral("front-left,front-right,rear-left,rear-right"),
+                             PieceMs);
     if (!recording.waitForStart()) {
         return std::nullopt;
     }
-    const NativeSource source(QStringLiteral("bus_voice"), voice(seconds));
+    const SoundSource source(QStringLiteral("bus_voice"), voice(seconds));
     const double until = recording.seconds() + seconds + TailSeconds;
     if (!QTest::qWaitFor([&] { return recording.seconds() > until; },
                          int(seconds * 1000) + TimeoutMs)) {

@@ -3,14 +3,12 @@
 #include "tests/devices/wasapi/NativeSound.h"
 
 #include <QTest>
-#include <cstring>
 
 namespace TestSupport {
 
 namespace {
 
 constexpr int TimeoutMs = 10000;
-constexpr int PlayingMs = 200; // a sound that a test plays mustn't tear
 
 // Such as "unix:/folder/native"; run-program sets it.
 QString address()
@@ -18,15 +16,9 @@ QString address()
     return qEnvironmentVariable("PULSE_SERVER");
 }
 
-QStringList rawFormat(const QString& device, int channels, int latencyMs)
+QStringList forThisServer(const QStringList& arguments)
 {
-    return {QStringLiteral("--server=") + address(),
-            QStringLiteral("--raw"),
-            QStringLiteral("--device=") + device,
-            QStringLiteral("--format=float32le"),
-            QStringLiteral("--rate=%1").arg(SoundRate),
-            QStringLiteral("--channels=%1").arg(channels),
-            QStringLiteral("--latency-msec=%1").arg(latencyMs)};
+    return QStringList(QStringLiteral("--server=") + address()) + arguments;
 }
 
 } // namespace
@@ -36,7 +28,7 @@ NativeSoundServer::~NativeSoundServer()
     kill();
 }
 
-bool NativeSoundServer::start()
+bool NativeSoundServer::launch()
 {
     const bool hasStarted = m_server.start(
         QStringLiteral("pulseaudio"),
@@ -47,8 +39,13 @@ bool NativeSoundServer::start()
          QStringLiteral("--load=module-native-protocol-unix socket=%1 auth-anonymous=1 "
                         "auth-cookie-enabled=0")
              .arg(address().section(QLatin1Char(':'), 1))});
-    if (!hasStarted ||
-        !QTest::qWaitFor([] { return !control({QStringLiteral("info")}).isEmpty(); }, TimeoutMs)) {
+    return hasStarted &&
+           QTest::qWaitFor([] { return !control({QStringLiteral("info")}).isEmpty(); }, TimeoutMs);
+}
+
+bool NativeSoundServer::start()
+{
+    if (!launch()) {
         return false;
     }
     const bool isWhole =
@@ -141,67 +138,17 @@ bool NativeSoundServer::plugBus()
 QByteArray NativeSoundServer::control(const QStringList& arguments)
 {
     NativeProgram client;
-    const bool hasEnded =
-        client.start(QStringLiteral("pactl"),
-                     QStringList(QStringLiteral("--server=") + address()) + arguments) &&
-        QTest::qWaitFor([&client] { return !client.isRunning(); }, TimeoutMs);
+    const bool hasEnded = client.start(QStringLiteral("pactl"), forThisServer(arguments)) &&
+                          QTest::qWaitFor([&client] { return !client.isRunning(); }, TimeoutMs);
     return hasEnded ? client.socket().readAll().trimmed() : QByteArray();
 }
 
-// Channels are taken as they are: the server mustn't mix them.
-NativeRecording::NativeRecording(const QString& device, int channels, int pieceMs)
-    : m_channels(channels)
+void NativeSoundServer::order(const QStringList& arguments)
 {
-    QStringList arguments = rawFormat(device, channels, pieceMs);
-    if (channels == 4) {
-        arguments += QStringLiteral("--channel-map=front-left,front-right,rear-left,rear-right");
+    NativeProgram client;
+    if (client.start(QStringLiteral("pactl"), forThisServer(arguments))) {
+        client.waitForEnd();
     }
-    m_program.start(QStringLiteral("parec"), arguments);
-}
-
-bool NativeRecording::waitForStart()
-{
-    return QTest::qWaitFor([this] { return !data().isEmpty(); }, TimeoutMs);
-}
-
-std::vector<float> NativeRecording::samples(int channel)
-{
-    const std::size_t frameSize = static_cast<std::size_t>(m_channels) * sizeof(float);
-    const QByteArray& all = data();
-    std::vector<float> result(static_cast<std::size_t>(all.size()) / frameSize);
-    for (std::size_t frame = 0; frame < result.size(); ++frame) {
-        const char* at = all.constData() + frame * frameSize;
-        std::memcpy(&result[frame], at + static_cast<std::size_t>(channel) * sizeof(float),
-                    sizeof(float));
-    }
-    return result;
-}
-
-double NativeRecording::seconds()
-{
-    const std::size_t frameSize = static_cast<std::size_t>(m_channels) * sizeof(float);
-    return static_cast<double>(static_cast<std::size_t>(data().size()) / frameSize) / SoundRate;
-}
-
-QByteArray& NativeRecording::data()
-{
-    m_data += m_program.socket().readAll();
-    return m_data;
-}
-
-NativeSource::NativeSource(const QString& device, const std::vector<float>& samples)
-    : m_lengthMs(static_cast<int>(1000 * samples.size() / SoundRate))
-{
-    m_program.start(QStringLiteral("pacat"), rawFormat(device, 1, PlayingMs));
-    const auto bytes = static_cast<int>(samples.size() * sizeof(float));
-    m_program.socket().write(QByteArray::number(bytes) + '\n');
-    m_program.socket().write(reinterpret_cast<const char*>(samples.data()), bytes);
-    m_program.socket().flush();
-}
-
-bool NativeSource::waitForEnd()
-{
-    return QTest::qWaitFor([this] { return !m_program.isRunning(); }, m_lengthMs + TimeoutMs);
 }
 
 } // namespace TestSupport

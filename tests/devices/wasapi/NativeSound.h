@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/devices/NativeProgram.h"
+#include "tests/support/NativeProgram.h"
 #include "tests/support/Signals.h"
 
 #include <QByteArray>
 #include <QString>
-#include <vector>
 
 namespace TestSupport {
 
@@ -19,8 +18,9 @@ class NativeSoundServer
 public:
     ~NativeSoundServer();
 
-    bool start(); // waits until it answers
-    void kill();  // like a crash
+    bool start();  // waits until it answers and has them
+    bool launch(); // the same without devices
+    void kill();   // like a crash
     bool freeze() { return m_server.order("freeze", "done"); }
     bool thaw() { return m_server.order("thaw", "done"); }
 
@@ -36,48 +36,19 @@ public:
     // The server itself plays the bus' microphone on its speaker, until unplug().
     QByteArray loopBusBack(int latencyMs);
 
+    // Runs the command-line client of the server. The event loop goes on meanwhile.
+    static QByteArray control(const QStringList& arguments);
+    // The same on any thread, which waits for it.
+    static void order(const QStringList& arguments);
+
     // For unplug().
     QByteArray speakerB() const { return m_speakerB; }
     QByteArray microphoneA() const { return m_microphoneA; }
 
 private:
-    static QByteArray control(const QStringList& arguments);
-
     NativeProgram m_server;
     QByteArray m_speakerB;
     QByteArray m_microphoneA;
-};
-
-// Records a source of the server, such as "speaker_a.monitor", from its construction on.
-class NativeRecording
-{
-public:
-    // pieceMs: how late it is told at most. Short pieces cost Wine time.
-    explicit NativeRecording(const QString& device, int channels = 2, int pieceMs = 20);
-
-    bool waitForStart();
-    std::vector<float> samples(int channel = 0); // so far
-    double seconds();
-
-private:
-    QByteArray& data();
-
-    NativeProgram m_program;
-    int m_channels;
-    QByteArray m_data;
-};
-
-// Plays on a device, from its construction on.
-class NativeSource
-{
-public:
-    NativeSource(const QString& device, const std::vector<float>& samples);
-
-    bool waitForEnd(); // until all of it was played
-
-private:
-    int m_lengthMs;
-    NativeProgram m_program;
 };
 
 } // namespace TestSupport

@@ -68,15 +68,20 @@ public:
     {
         m_stage->pass();
         *object = nullptr;
-        const std::scoped_lock lock(m_stage->mutex);
+        std::unique_lock lock(m_stage->mutex);
         const AudioStage::Staged* staged = m_stage->find(m_id);
         if (!staged->isPresent) {
             return AUDCLNT_E_DEVICE_INVALIDATED;
         }
         if (id != __uuidof(IAudioEndpointVolume)) {
-            return m_stage->streamError;
+            const SoundKind kind = staged->kind;
+            const QString name = staged->name;
+            const HRESULT error = m_stage->streamError;
+            const bool isOfSystem = m_stage->hasSystemStreams;
+            lock.unlock(); // the system may hang
+            return isOfSystem ? AudioStage::activate(kind, name, id, object) : error;
         }
-        *object = staged->hasVolume ? new StagedVolume(m_stage, m_id) : nullptr;
+        *object = staged->hasVolume ? new StagedVolume(m_stage, staged->kind, m_id) : nullptr;
         return staged->hasVolume ? S_OK : E_NOINTERFACE;
     }
     HRESULT STDMETHODCALLTYPE OpenPropertyStore(DWORD, IPropertyStore** properties) override
@@ -225,9 +230,11 @@ private:
 
 // COM looks for the class in the apartment of the thread that asks, and finds this one from all
 // threads of the multithreaded one. A thread keeps that apartment alive.
-StagedAudio::StagedAudio()
+StagedAudio::StagedAudio(VolumeSet volumeSet)
     : m_stage(std::make_shared<AudioStage>()), m_end(CreateEventW(nullptr, TRUE, FALSE, nullptr))
 {
+    m_stage->hasSystemStreams = static_cast<bool>(volumeSet);
+    m_stage->volumeSet = std::move(volumeSet);
     const HANDLE isReady = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     m_registrar = std::thread([stage = m_stage, isReady, end = m_end] {
         CoInitializeEx(nullptr, COINIT_MULTITHREADED);
@@ -316,6 +323,24 @@ VolumeState StagedAudio::volumeOf(const QString& id) const
 {
     const std::scoped_lock lock(m_stage->mutex);
     return m_stage->find(id)->volume;
+}
+
+QStringList StagedAudio::present() const
+{
+    const std::scoped_lock lock(m_stage->mutex);
+    QStringList result;
+    for (const AudioStage::Staged& staged : m_stage->all) {
+        if (staged.isPresent) {
+            result << staged.id;
+        }
+    }
+    return result;
+}
+
+QString StagedAudio::defaultId(SoundKind kind) const
+{
+    const std::scoped_lock lock(m_stage->mutex);
+    return m_stage->defaults[{kind, eConsole}];
 }
 
 void StagedAudio::refuseEnumerator(HRESULT error)

@@ -5,6 +5,8 @@
 #include "platform/devices/sound/SoundDevices.h"
 
 #include <QString>
+#include <QStringList>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -17,13 +19,19 @@ namespace TestSupport {
 struct AudioStage;
 
 // Stands for Windows' audio endpoints in this process: whoever asks COM for a device enumerator
-// gets one that has what the test staged, and that tells of changes as Windows does. There are no
-// streams. It shows what the engine makes of our reading of Windows, not Windows. Any thread may
-// use it.
+// gets one that has what the test staged, and that tells of changes as Windows does. It shows what
+// the engine makes of our reading of Windows, not Windows. Any thread may use it.
 class StagedAudio
 {
 public:
-    StagedAudio();
+    // Told on a thread of the program, which waits for it.
+    using VolumeSet =
+        std::function<void(Platform::SoundKind kind, const QString& id,
+                           const Platform::VolumeState& before, const Platform::VolumeState& now)>;
+
+    // Without volumeSet there are no streams; with it, those of the system's endpoints that have
+    // the same names. It is called if the program sets a volume.
+    explicit StagedAudio(VolumeSet volumeSet = {});
     ~StagedAudio(); // what hangs goes on
     StagedAudio(const StagedAudio&) = delete;
     StagedAudio& operator=(const StagedAudio&) = delete;
@@ -36,6 +44,8 @@ public:
     void setVolume(const QString& id, const Platform::VolumeState& volume);
     void takeVolumeAway(const QString& id); // the endpoint has none, from the next plugging on
     Platform::VolumeState volumeOf(const QString& id) const;
+    QStringList present() const;                       // ids
+    QString defaultId(Platform::SoundKind kind) const; // not that of calls
 
     // S_OK ends it. An enumerator that was refused once has no endpoints any more.
     void refuseEnumerator(HRESULT error);

@@ -13,8 +13,8 @@ namespace TestSupport {
 class StagedVolume final : public ComObject<IAudioEndpointVolume>
 {
 public:
-    StagedVolume(std::shared_ptr<AudioStage> stage, QString id)
-        : ComObject(stage), m_stage(std::move(stage)), m_id(std::move(id))
+    StagedVolume(std::shared_ptr<AudioStage> stage, Platform::SoundKind kind, QString id)
+        : ComObject(stage), m_stage(std::move(stage)), m_kind(kind), m_id(std::move(id))
     {
     }
 
@@ -96,13 +96,18 @@ private:
         Platform::VolumeState volume;
         const HRESULT error = get(volume);
         if (SUCCEEDED(error)) {
+            const Platform::VolumeState before = volume;
             function(volume);
             m_stage->setVolume(m_id, volume);
+            if (m_stage->volumeSet) {
+                m_stage->volumeSet(m_kind, m_id, before, volume);
+            }
         }
         return error;
     }
 
     std::shared_ptr<AudioStage> m_stage;
+    Platform::SoundKind m_kind;
     QString m_id;
 };
 

@@ -7,6 +7,7 @@
 #include "tests/devices/wasapi/CaptureOpening.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
+#include "tests/support/SoundRecording.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -19,8 +20,7 @@ using namespace Platform;
 using namespace std::chrono_literals;
 using Opening = TestSupport::CaptureOpening;
 using TestSupport::NativeSoundServer;
-using TestSupport::NativeSource;
-using TestSupport::SoundRate;
+using TestSupport::SoundSource;
 
 namespace {
 
@@ -60,7 +60,7 @@ private Q_SLOTS:
         WasapiCapture capture;
         const Opening opening(capture, m_microphone);
         QTRY_VERIFY_WITH_TIMEOUT(opening.outcome->delivers, TimeoutMs);
-        const NativeSource tone(QStringLiteral("voice"), TestSupport::tone(3.0, 440.0, decibels));
+        const SoundSource tone(QStringLiteral("voice"), TestSupport::tone(3.0, 440.0, decibels));
         const double expected = LevelMeter::levelOf(amplitudeOfDecibels(decibels));
         QTRY_VERIFY2_WITH_TIMEOUT(std::abs(opening.outcome->level - expected) < 0.02,
                                   qPrintable(QString::number(opening.outcome->level)), TimeoutMs);

@@ -6,6 +6,7 @@
 #include "tests/devices/SoundFiles.h"
 #include "tests/devices/wasapi/NativeSound.h"
 #include "tests/devices/wasapi/WasapiEndpoint.h"
+#include "tests/support/SoundRecording.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -16,9 +17,9 @@
 
 using namespace Platform;
 using namespace std::chrono_literals;
-using TestSupport::NativeRecording;
 using TestSupport::NativeSoundServer;
 using TestSupport::SoundRate;
+using TestSupport::SoundRecording;
 
 namespace {
 
@@ -109,8 +110,8 @@ private Q_SLOTS:
     void movesToAnotherSpeaker()
     {
         constexpr double Seconds = 3.0;
-        NativeRecording first(QStringLiteral("speaker_a.monitor"));
-        NativeRecording second(QStringLiteral("speaker_b.monitor"));
+        SoundRecording first(QStringLiteral("speaker_a.monitor"));
+        SoundRecording second(QStringLiteral("speaker_b.monitor"));
         QVERIFY(first.waitForStart() && second.waitForStart());
         Play play(TestSupport::tone(Seconds, 440.0, -12.0));
         play.playback.playOn(m_speakerA);
@@ -204,7 +205,7 @@ private:
     void playAndCompare(int sound, QString& fault) const
     {
         fault = QStringLiteral("It isn't played");
-        NativeRecording recording(QStringLiteral("speaker_a.monitor"));
+        SoundRecording recording(QStringLiteral("speaker_a.monitor"));
         QVERIFY(recording.waitForStart());
         const QString name = TestSupport::soundNames()[sound];
         Play play(TestSupport::readSound(TestSupport::soundPath(name)));
@@ -227,7 +228,7 @@ private:
     }
 
     // Without the gaps of a busy machine.
-    static double heardSeconds(NativeRecording& recording)
+    static double heardSeconds(SoundRecording& recording)
     {
         constexpr std::size_t Moment = SoundRate / 100;
         const std::vector<float> samples = recording.samples();

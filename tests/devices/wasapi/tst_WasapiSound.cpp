@@ -11,6 +11,7 @@
 #include "tests/support/MemoryReport.h"
 #include "tests/support/NoListener.h"
 #include "tests/support/ProcessResources.h"
+#include "tests/support/SoundRecording.h"
 
 #include <QElapsedTimer>
 #include <QLoggingCategory>
@@ -18,9 +19,9 @@
 #include <cmath>
 
 using namespace Platform;
-using TestSupport::NativeRecording;
 using TestSupport::NativeSoundServer;
-using TestSupport::NativeSource;
+using TestSupport::SoundRecording;
+using TestSupport::SoundSource;
 
 namespace {
 
@@ -130,7 +131,7 @@ void tst_WasapiSound::offersRealDevicesAlone()
 
 double tst_WasapiSound::likenessOfAPlayback(const QString& sound, const char* monitor)
 {
-    NativeRecording recording(text(monitor), 1);
+    SoundRecording recording(text(monitor));
     const int before = m_listener.finished;
     if (!recording.waitForStart()) {
         return 0.0;
@@ -160,7 +161,7 @@ void tst_WasapiSound::levelOfTheChosenMicrophone()
 {
     m_microphone->open();
     QTRY_VERIFY_WITH_TIMEOUT(m_microphone->state() == DeviceState::Silent, TimeoutMs);
-    const NativeSource tone(text("voice"), TestSupport::tone(4.0, 440.0, -12.0));
+    const SoundSource tone(text("voice"), TestSupport::tone(4.0, 440.0, -12.0));
     const double expected = LevelMeter::levelOf(amplitudeOfDecibels(-12.0));
     QTRY_VERIFY2_WITH_TIMEOUT(std::abs(m_listener.level - expected) < 0.02,
                               qPrintable(QString::number(m_listener.level)), TimeoutMs);
@@ -175,11 +176,11 @@ void tst_WasapiSound::microphoneIsHeardOnTheSpeaker()
 {
     m_speaker->setCurrent(speaker("Test Speaker A"));
     QTRY_COMPARE(m_speaker->currentId(), speaker("Test Speaker A"));
-    NativeRecording recording(text("speaker_a.monitor"));
+    SoundRecording recording(text("speaker_a.monitor"));
     QVERIFY(recording.waitForStart());
     m_microphone->open();
     m_microphone->setListening(true);
-    const NativeSource tone(text("voice"), TestSupport::tone(6.0, 440.0, -20.0));
+    const SoundSource tone(text("voice"), TestSupport::tone(6.0, 440.0, -20.0));
     const auto isHeard = [&recording] {
         const std::vector<float> samples = recording.samples();
         return TestSupport::firstAbove(samples, TestSupport::Audible) < samples.size();
@@ -227,7 +228,7 @@ void tst_WasapiSound::manyOpeningsLeaveNothing()
     m_microphone->setListening(true);
     const QByteArray tone = m_server.startTone(text("voice"));
     {
-        NativeRecording recording(text("speaker_a.monitor"));
+        SoundRecording recording(text("speaker_a.monitor"));
         QVERIFY(recording.waitForStart());
         openAndClose(WarmUp);
         const std::vector<float> heard = recording.samples();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
-#include "tests/devices/NativeProgram.h"
+#include "tests/support/NativeProgram.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,6 +22,18 @@ bool NativeProgram::start(const QString& program, const QStringList& options)
     const QJsonArray command = QJsonArray::fromStringList(QStringList(program) + options);
     m_socket.write(QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n');
     return expect("started");
+}
+
+void NativeProgram::feed(const QByteArray& input)
+{
+    m_socket.write(QByteArray::number(input.size()) + '\n');
+    m_socket.write(input);
+    m_socket.flush();
+}
+
+bool NativeProgram::waitForEnd()
+{
+    return !isRunning() || m_socket.waitForDisconnected(PatienceMs);
 }
 
 bool NativeProgram::order(const QByteArray& word, const QByteArray& answer)
