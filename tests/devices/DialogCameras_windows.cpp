@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/DialogCameras.h"
 
-#include "tests/devices/mediafoundation/StagedCameras.h"
+#include "tests/devices/windowscameras/StagedCameras.h"
 
 #include <QSet>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/mediafoundation/StagedSource.h"
 
-#include "tests/devices/mediafoundation/CameraStage.h"
-#include "tests/devices/mediafoundation/StagedFrame.h"
 #include "tests/devices/mediafoundation/StagedStream.h"
+#include "tests/devices/windowscameras/CameraStage.h"
+#include "tests/devices/windowscameras/StagedFrame.h"
 
 // Must follow windows.h.
 #include <mferror.h>

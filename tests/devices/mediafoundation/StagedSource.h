@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tests/devices/mediafoundation/EventGenerator.h"
-#include "tests/devices/mediafoundation/StagedMode.h"
+#include "tests/devices/windowscameras/StagedMode.h"
 
 #include <memory>
 #include <thread>
