@@ -8,6 +8,7 @@
 
 // Must follow windows.h.
 #include <mfapi.h>
+#include <uuids.h>
 
 namespace Platform {
 
@@ -22,12 +23,14 @@ struct Format
     PixelFormat pixelFormat;
 };
 
+// Those that have a code of four letters are the same for both systems.
 const Format Formats[] = {
-    {MFVideoFormat_YUY2, PixelFormat::Yuy2},  {MFVideoFormat_UYVY, PixelFormat::Uyvy},
-    {MFVideoFormat_NV12, PixelFormat::Nv12},  {MFVideoFormat_I420, PixelFormat::I420},
-    {MFVideoFormat_IYUV, PixelFormat::I420},  {MFVideoFormat_MJPG, PixelFormat::Mjpg},
-    {MFVideoFormat_RGB32, PixelFormat::Bgrx}, {MFVideoFormat_ARGB32, PixelFormat::Bgrx},
-    {MFVideoFormat_RGB24, PixelFormat::Bgr},
+    {MFVideoFormat_YUY2, PixelFormat::Yuy2},   {MFVideoFormat_UYVY, PixelFormat::Uyvy},
+    {MFVideoFormat_NV12, PixelFormat::Nv12},   {MFVideoFormat_I420, PixelFormat::I420},
+    {MFVideoFormat_IYUV, PixelFormat::I420},   {MFVideoFormat_MJPG, PixelFormat::Mjpg},
+    {MFVideoFormat_RGB32, PixelFormat::Bgrx},  {MEDIASUBTYPE_RGB32, PixelFormat::Bgrx},
+    {MFVideoFormat_ARGB32, PixelFormat::Bgrx}, {MEDIASUBTYPE_ARGB32, PixelFormat::Bgrx},
+    {MFVideoFormat_RGB24, PixelFormat::Bgr},   {MEDIASUBTYPE_RGB24, PixelFormat::Bgr},
 };
 
 bool isRgb(PixelFormat format)

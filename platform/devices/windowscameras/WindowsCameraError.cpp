@@ -8,6 +8,9 @@
 #include <iterator>
 #include <mferror.h>
 
+// Must follow windows.h.
+#include <vfwmsgs.h>
+
 namespace Platform {
 
 namespace {
@@ -25,7 +28,8 @@ constexpr HRESULT ofWin32(unsigned long error)
 }
 
 // Drivers of USB cameras say NO_SYSTEM_RESOURCES if another program has the camera: the bus has no
-// bandwidth left for a second stream.
+// bandwidth left for a second stream. A filter of DirectShow can't be made if its program is gone,
+// or is there for 32 bits alone.
 const Meaning Meanings[] = {
     {MF_E_VIDEO_RECORDING_DEVICE_INVALIDATED, DeviceState::Absent, "DEVICE_INVALIDATED"},
     {MF_E_NO_CAPTURE_DEVICES_AVAILABLE, DeviceState::Absent, "NO_CAPTURE_DEVICES_AVAILABLE"},
@@ -39,6 +43,17 @@ const Meaning Meanings[] = {
     {ofWin32(ERROR_NO_SYSTEM_RESOURCES), DeviceState::Busy, "ERROR_NO_SYSTEM_RESOURCES"},
     {ofWin32(ERROR_SHARING_VIOLATION), DeviceState::Busy, "ERROR_SHARING_VIOLATION"},
     {ofWin32(ERROR_DEVICE_IN_USE), DeviceState::Busy, "ERROR_DEVICE_IN_USE"},
+    {VFW_E_NO_CAPTURE_HARDWARE, DeviceState::Absent, "VFW_E_NO_CAPTURE_HARDWARE"},
+    {VFW_E_TIMEOUT, DeviceState::Hung, "VFW_E_TIMEOUT"},
+    {VFW_E_INVALIDMEDIATYPE, DeviceState::Unreadable, "VFW_E_INVALIDMEDIATYPE"},
+    {VFW_E_TYPE_NOT_ACCEPTED, DeviceState::Unreadable, "VFW_E_TYPE_NOT_ACCEPTED"},
+    {VFW_E_NO_TYPES, DeviceState::Unreadable, "VFW_E_NO_TYPES"},
+    {VFW_E_NO_ACCEPTABLE_TYPES, DeviceState::Unreadable, "VFW_E_NO_ACCEPTABLE_TYPES"},
+    {VFW_E_CANNOT_CONNECT, DeviceState::Unreadable, "VFW_E_CANNOT_CONNECT"},
+    {REGDB_E_CLASSNOTREG, DeviceState::Failed, "REGDB_E_CLASSNOTREG"},
+    {CO_E_DLLNOTFOUND, DeviceState::Failed, "CO_E_DLLNOTFOUND"},
+    {ofWin32(ERROR_MOD_NOT_FOUND), DeviceState::Failed, "ERROR_MOD_NOT_FOUND"},
+    {ofWin32(ERROR_BAD_EXE_FORMAT), DeviceState::Failed, "ERROR_BAD_EXE_FORMAT"},
     {MF_E_INVALIDMEDIATYPE, DeviceState::Unreadable, "MF_E_INVALIDMEDIATYPE"},
     {MF_E_NO_MORE_TYPES, DeviceState::Unreadable, "MF_E_NO_MORE_TYPES"},
     {MF_E_END_OF_STREAM, DeviceState::Failed, "MF_E_END_OF_STREAM"},

@@ -10,7 +10,7 @@
 
 namespace Platform {
 
-// What an error of Media Foundation or of a camera's driver means to the user. What
+// What an error of Media Foundation, of DirectShow or of a camera's driver means to the user. What
 // it has in common with sound is told by WasapiError.
 namespace WindowsCameraError {
 

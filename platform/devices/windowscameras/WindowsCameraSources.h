@@ -13,7 +13,8 @@ namespace Platform {
 
 class MediaSession;
 
-// Windows' cameras: those of Media Foundation. On one thread with COM.
+// Windows' cameras: those of Media Foundation, then those that only DirectShow lists. A camera that
+// both list is taken from Media Foundation. On one thread with COM.
 class WindowsCameraSources
 {
 public:
@@ -29,8 +30,12 @@ public:
     List look();
 
 private:
+    List lookAtMediaFoundation();
+    void addDirectShow(List& list);
+
     const std::optional<MediaFoundation> m_functions; // none if Windows hasn't got them
     std::shared_ptr<MediaSession> m_session;
+    HRESULT m_directShowError = S_OK; // that was told last
 };
 
 } // namespace Platform

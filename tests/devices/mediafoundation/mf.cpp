@@ -20,7 +20,7 @@ HRESULT list(const std::shared_ptr<CameraStage>& stage, IMFActivate*** entries, 
     *entries =
         static_cast<IMFActivate**>(CoTaskMemAlloc((stage->all.size() + 1) * sizeof(IMFActivate*)));
     for (const std::shared_ptr<StagedCamera>& camera : stage->all) {
-        if (camera->isPresent) {
+        if (camera->isPresent && camera->system == StagedSystem::MediaFoundation) {
             (*entries)[count++] = new StagedActivate(stage, camera);
         }
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/devices/windowscameras/StagedMode.h"
+#include "tests/devices/windowscameras/StagedSystem.h"
 
 #include <QMap>
 #include <QString>
@@ -19,6 +20,7 @@ namespace TestSupport {
 // A camera from plugging to unplugging. Guarded by the stage.
 struct StagedCamera
 {
+    StagedSystem system = StagedSystem::MediaFoundation;
     QString link;
     QString name;
     std::vector<StagedMode> modes;
@@ -32,6 +34,8 @@ struct StagedCamera
     bool isSilent = false;
     bool hasBrokenFrames = false;
     bool isOver = false;
+    bool canBeConfigured = true;
+    HRESULT streamError = S_OK; // to be told once
 };
 
 // What StagedCameras has.

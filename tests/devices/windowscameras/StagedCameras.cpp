@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/windowscameras/StagedCameras.h"
 
+#include "tests/devices/directshow/StagedEntry.h"
 #include "tests/devices/windowscameras/CameraStage.h"
 
 // Must follow windows.h.
@@ -53,12 +54,19 @@ StagedCameras::~StagedCameras()
             letGoOn(*camera);
         }
     });
+    m_entries.clear();
+}
+
+void StagedCameras::setSystem(StagedSystem system)
+{
+    m_system = system;
 }
 
 void StagedCameras::plug(const QString& link, const QString& name,
                          const std::vector<StagedMode>& modes)
 {
     auto camera = std::make_shared<StagedCamera>();
+    camera->system = m_system;
     camera->link = link;
     camera->name = name;
     camera->modes = modes;
@@ -66,21 +74,32 @@ void StagedCameras::plug(const QString& link, const QString& name,
         unplugAll(*m_stage, link);
         m_stage->all.push_back(camera);
     });
+    m_entries.erase(link);
+    if (m_system == StagedSystem::DirectShow) {
+        m_entries.emplace(link, std::make_shared<StagedEntry>(m_stage, camera));
+    }
 }
 
 void StagedCameras::unplug(const QString& link)
 {
     change(*m_stage, [&] { unplugAll(*m_stage, link); });
+    m_entries.erase(link);
 }
 
 void StagedCameras::setName(const QString& link, const QString& name)
 {
     change(*m_stage, [&] { m_stage->find(link).name = name; });
+    if (m_entries.count(link) > 0) {
+        m_entries.at(link)->write();
+    }
 }
 
 void StagedCameras::hideLink(const QString& link)
 {
     change(*m_stage, [&] { m_stage->find(link).hasLink = false; });
+    if (m_entries.count(link) > 0) {
+        m_entries.at(link)->write();
+    }
 }
 
 void StagedCameras::castDeviceChange()
@@ -144,6 +163,21 @@ void StagedCameras::breakFrames(const QString& link, bool areBroken)
 void StagedCameras::endStream(const QString& link)
 {
     change(*m_stage, [&] { m_stage->find(link).isOver = true; });
+}
+
+void StagedCameras::breakStream(const QString& link, HRESULT error)
+{
+    change(*m_stage, [&] { m_stage->find(link).streamError = error; });
+}
+
+void StagedCameras::refuseConfiguration(const QString& link)
+{
+    change(*m_stage, [&] { m_stage->find(link).canBeConfigured = false; });
+}
+
+void StagedCameras::removeClass(const QString& link)
+{
+    m_entries.at(link)->removeClass();
 }
 
 int StagedCameras::lists() const

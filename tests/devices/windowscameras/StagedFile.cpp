@@ -58,6 +58,9 @@ private:
     {
         const QString link = values[QLatin1String("link")].toString();
         if (!m_links.contains(link)) {
+            const bool isDirectShow = values[QLatin1String("isDirectShow")].toBool();
+            m_cameras.setSystem(isDirectShow ? StagedSystem::DirectShow
+                                             : StagedSystem::MediaFoundation);
             m_cameras.plug(link, values[QLatin1String("name")].toString(),
                            modesOf(values[QLatin1String("modes")].toArray()));
             m_links << link;

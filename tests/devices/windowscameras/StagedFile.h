@@ -9,7 +9,7 @@ namespace TestSupport {
 //
 //   [{ "link": "a", "name": "Camera", "modes": [{ "format": "YUY2", "size": [640, 480], "rate": 30
 //   }],
-//      "activationError": 2147942405, "isSilent": false }]
+//      "activationError": 2147942405, "isSilent": false, "isDirectShow": false }]
 namespace StagedFile {
 
 void stageIfNamed();

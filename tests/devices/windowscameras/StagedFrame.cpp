@@ -22,6 +22,10 @@ bool patternFormat(const QByteArray& format, CameraPattern::PixelFormat& result)
         result = CameraPattern::Bgrx;
         return true;
     }
+    if (format == "RGB24") {
+        result = CameraPattern::Bgr;
+        return true;
+    }
     return CameraPattern::pixelFormatFromName(QString::fromLatin1(format), result);
 }
 
@@ -34,13 +38,20 @@ QByteArray turned(const QByteArray& rows, int stride)
     return result;
 }
 
+// The number of a bitmap's format, or a code of four letters.
+unsigned long numberOf(const QByteArray& format)
+{
+    if (format == "RGB32") {
+        return D3DFMT_X8R8G8B8;
+    }
+    return format == "RGB24" ? D3DFMT_R8G8B8 : qFromLittleEndian<quint32>(format.constData());
+}
+
 } // namespace
 
 GUID subtypeOf(const QByteArray& format)
 {
-    const unsigned long number =
-        format == "RGB32" ? D3DFMT_X8R8G8B8 : qFromLittleEndian<quint32>(format.constData());
-    return {number, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+    return {numberOf(format), 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 }
 
 QByteArray frameOf(const StagedMode& mode, int number)

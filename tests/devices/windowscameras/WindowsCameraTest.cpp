@@ -45,6 +45,19 @@ void WindowsCameraTest::cleanup()
     QVERIFY(FileWriter::waitForWritten(LongMs));
 }
 
+void WindowsCameraTest::addSystems()
+{
+    QTest::addColumn<StagedSystem>("system");
+    QTest::newRow("Media Foundation") << StagedSystem::MediaFoundation;
+    QTest::newRow("DirectShow") << StagedSystem::DirectShow;
+}
+
+void WindowsCameraTest::stageOnSystem()
+{
+    QFETCH_GLOBAL(StagedSystem, system);
+    m_cameras->setSystem(system);
+}
+
 bool WindowsCameraTest::isNear(QRgb actual, QRgb expected)
 {
     constexpr int Tolerance = 24;

@@ -32,6 +32,10 @@ protected:
     static const QString IdA;
     static const QString IdB;
 
+    // The rows of a test class that runs with both systems, in its initTestCase_data().
+    static void addSystems();
+    void stageOnSystem(); // for its init(): that of the row
+
     static bool isNear(QRgb actual, QRgb expected);
 
     void makeSystem(const Platform::MediaFoundationLoader& load);

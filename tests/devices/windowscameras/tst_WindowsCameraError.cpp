@@ -30,6 +30,12 @@ private Q_SLOTS:
         same("privacy settings", 0x80070005U, DeviceState::Denied);
         same("no answer", 0x800705b4U, DeviceState::Hung);
         same("no such format", 0xc00d36b4U, DeviceState::Unreadable);
+        QTest::newRow("no hardware") << 0x80040275U << DeviceState::Absent << DeviceState::Failed;
+        same("the filter doesn't answer", 0x8004022eU, DeviceState::Hung);
+        same("no such format of the filter", 0x80040200U, DeviceState::Unreadable);
+        same("no format that the filter takes", 0x8004022aU, DeviceState::Unreadable);
+        same("can't be connected", 0x80040217U, DeviceState::Unreadable);
+        same("its program is gone", 0x80040154U, DeviceState::Failed);
         same("closed", 0xc00d3e85U, DeviceState::Failed);
         same("end of the stream", 0xc00d3e84U, DeviceState::Failed);
         same("anything else", 0x8000ffffU, DeviceState::Failed);
@@ -51,6 +57,7 @@ private Q_SLOTS:
         };
         QCOMPARE(textOf(0xc00d3ea3U), QStringLiteral("DEVICE_PREEMPTED (0xc00d3ea3)"));
         QCOMPARE(textOf(0x80070005U), QStringLiteral("E_ACCESSDENIED (0x80070005)"));
+        QCOMPARE(textOf(0x800700c1U), QStringLiteral("ERROR_BAD_EXE_FORMAT (0x800700c1)"));
         QCOMPARE(textOf(0x8000ffffU), QStringLiteral("0x8000ffff"));
     }
 };

@@ -13,6 +13,8 @@ class tst_WindowsCameraFrames : public WindowsCameraTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data() { addSystems(); }
+    void init();
     void showsColors_data();
     void showsColors();
     void keepsTheRate_data();
@@ -26,6 +28,12 @@ private Q_SLOTS:
 private:
     bool showsQuadrants() const;
 };
+
+void tst_WindowsCameraFrames::init()
+{
+    WindowsCameraTest::init();
+    stageOnSystem();
+}
 
 // Mirrored, as self-views are.
 bool tst_WindowsCameraFrames::showsQuadrants() const
@@ -52,6 +60,9 @@ void tst_WindowsCameraFrames::showsColors_data()
     QTest::newRow("NV12 1080p") << QByteArray("NV12") << QSize(1920, 1080) << 0;
     QTest::newRow("I420") << QByteArray("I420") << QSize(640, 480) << 0;
     QTest::newRow("MJPG") << QByteArray("MJPG") << QSize(640, 480) << 0;
+    QTest::newRow("RGB24 downwards") << QByteArray("RGB24") << QSize(640, 480) << 1920;
+    QTest::newRow("RGB24 upwards") << QByteArray("RGB24") << QSize(640, 480) << -1920;
+    QTest::newRow("RGB24 in whole words") << QByteArray("RGB24") << QSize(322, 240) << -968;
     QTest::newRow("RGB32 downwards") << QByteArray("RGB32") << QSize(640, 480) << 2560;
     QTest::newRow("RGB32 upwards") << QByteArray("RGB32") << QSize(640, 480) << -2560;
 }
