@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/DialogCameras.h"
 
-#include "tests/devices/mediafoundation/StagedCameras.h"
+#include "tests/devices/windowscameras/StagedCameras.h"
 
 #include <QSet>
 
@@ -29,8 +29,12 @@ struct DialogCameras::Parts
     QSet<QString> plugged;
 };
 
+// ENVCHECK_STAGED_SYSTEM chooses DirectShow.
 DialogCameras::DialogCameras() : m_parts(std::make_unique<Parts>())
 {
+    if (qEnvironmentVariable("ENVCHECK_STAGED_SYSTEM") == QLatin1String("DirectShow")) {
+        m_parts->cameras.setSystem(StagedSystem::DirectShow);
+    }
 }
 
 DialogCameras::~DialogCameras() = default;

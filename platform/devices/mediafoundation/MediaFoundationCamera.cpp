@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/mediafoundation/MediaFoundationCamera.h"
 
-#include "platform/devices/mediafoundation/CameraSources.h"
+#include "platform/devices/mediafoundation/MediaFoundationFormat.h"
+#include "platform/devices/mediafoundation/MediaFoundationSources.h"
 #include "platform/devices/mediafoundation/SampleReceiver.h"
 
 #include <algorithm>
@@ -15,13 +16,15 @@ namespace {
 constexpr auto AllStreams = static_cast<DWORD>(MF_SOURCE_READER_ALL_STREAMS);
 constexpr auto VideoStream = static_cast<DWORD>(MF_SOURCE_READER_FIRST_VIDEO_STREAM);
 constexpr std::chrono::milliseconds FlushTimeout(500);
+constexpr auto FormatFlags = static_cast<DWORD>(MF_SOURCE_READERF_NATIVEMEDIATYPECHANGED) |
+                             static_cast<DWORD>(MF_SOURCE_READERF_CURRENTMEDIATYPECHANGED);
 constexpr DWORD MaxTypes = CameraModes::MaxOffers; // a driver may have no end
 
 } // namespace
 
-MediaFoundationCamera::MediaFoundationCamera(const MediaFoundation& functions,
+MediaFoundationCamera::MediaFoundationCamera(const MediaFoundation& functions, const QString& link,
                                              std::shared_ptr<SampleBox> box)
-    : m_functions(functions), m_box(std::move(box))
+    : m_functions(functions), m_link(link), m_box(std::move(box))
 {
 }
 
@@ -44,12 +47,12 @@ MediaFoundationCamera::~MediaFoundationCamera()
     }
 }
 
-HRESULT MediaFoundationCamera::open(const QString& link)
+HRESULT MediaFoundationCamera::open()
 {
     HRESULT error = S_OK;
     m_session = MediaSession::start(m_functions, error);
     if (m_session) {
-        error = activate(link);
+        error = activate();
     }
     if (SUCCEEDED(error) && !m_box->isStopped()) {
         error = createReader();
@@ -60,7 +63,7 @@ HRESULT MediaFoundationCamera::open(const QString& link)
     return error;
 }
 
-HRESULT MediaFoundationCamera::choose(const CameraMode& mode)
+HRESULT MediaFoundationCamera::start(const CameraMode& mode)
 {
     const auto found = std::find_if(m_offers.begin(), m_offers.end(),
                                     [&mode](const Offer& offer) { return offer.mode == mode; });
@@ -69,30 +72,27 @@ HRESULT MediaFoundationCamera::choose(const CameraMode& mode)
     }
     const HRESULT error = m_reader->SetCurrentMediaType(VideoStream, nullptr, found->type.get());
     if (SUCCEEDED(error)) {
-        m_format = MediaFormat::of(*found->type.get());
+        m_format = MediaFoundationFormat::of(*found->type.get());
     }
-    return error;
+    return SUCCEEDED(error) ? request() : error;
 }
 
-HRESULT MediaFoundationCamera::request()
+HRESULT MediaFoundationCamera::take(DWORD flags)
 {
-    return m_reader->ReadSample(VideoStream, 0, nullptr, nullptr, nullptr, nullptr);
-}
-
-HRESULT MediaFoundationCamera::readFormat()
-{
-    ComPointer<IMFMediaType> type;
-    const HRESULT error = m_reader->GetCurrentMediaType(VideoStream, type.put());
-    if (SUCCEEDED(error)) {
-        m_format = MediaFormat::of(*type.get());
+    if ((flags & MF_SOURCE_READERF_ERROR) != 0) {
+        return E_FAIL;
     }
-    return error;
+    if ((flags & MF_SOURCE_READERF_ENDOFSTREAM) != 0) {
+        return MF_E_END_OF_STREAM;
+    }
+    const HRESULT error = (flags & FormatFlags) != 0 ? readFormat() : S_OK;
+    return SUCCEEDED(error) ? request() : error;
 }
 
-HRESULT MediaFoundationCamera::activate(const QString& link)
+HRESULT MediaFoundationCamera::activate()
 {
     HRESULT error = S_OK;
-    m_activate = CameraSources::find(m_functions, link, error);
+    m_activate = MediaFoundationSources::find(m_functions, m_link, error);
     if (!m_activate) {
         return error;
     }
@@ -126,19 +126,28 @@ void MediaFoundationCamera::listOffers()
         if (FAILED(m_reader->GetNativeMediaType(VideoStream, i, offer.type.put()))) {
             return;
         }
-        const MediaFormat format = MediaFormat::of(*offer.type.get());
+        const MediaFormat format = MediaFoundationFormat::of(*offer.type.get());
         offer.mode = format.mode();
-        CameraModes::Offer known;
-        known.pixelFormat = format.frame.pixelFormat;
-        known.smallest = format.frame.size;
-        known.largest = format.frame.size;
-        known.lowest = format.rate;
-        known.highest = format.rate;
-        m_modes.add(known); // knows what can be shown
+        m_modes.add(format.offer()); // knows what can be shown
         if (format.frame.pixelFormat != PixelFormat::None) {
             m_offers.push_back(std::move(offer));
         }
     }
+}
+
+HRESULT MediaFoundationCamera::request()
+{
+    return m_reader->ReadSample(VideoStream, 0, nullptr, nullptr, nullptr, nullptr);
+}
+
+HRESULT MediaFoundationCamera::readFormat()
+{
+    ComPointer<IMFMediaType> type;
+    const HRESULT error = m_reader->GetCurrentMediaType(VideoStream, type.put());
+    if (SUCCEEDED(error)) {
+        m_format = MediaFoundationFormat::of(*type.get());
+    }
+    return error;
 }
 
 } // namespace Platform

@@ -2,32 +2,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/camera/CameraModes.h"
-#include "platform/devices/mediafoundation/MediaFormat.h"
 #include "platform/devices/mediafoundation/MediaSession.h"
-#include "platform/devices/mediafoundation/SampleBox.h"
+#include "platform/devices/windows/ComPointer.h"
+#include "platform/devices/windowscameras/WindowsCamera.h"
 
 #include <QString>
 #include <vector>
 
 namespace Platform {
 
-// An opened camera: a source reader that delivers samples, as the camera sends them, into a box.
-// Each call may hang, the destructor too. On one thread with COM.
-class MediaFoundationCamera
+// A camera of Media Foundation: a source reader that delivers samples as the camera sends them. It
+// has to be asked for each one.
+class MediaFoundationCamera final : public WindowsCamera
 {
 public:
-    MediaFoundationCamera(const MediaFoundation& functions, std::shared_ptr<SampleBox> box);
-    ~MediaFoundationCamera();
-    MediaFoundationCamera(const MediaFoundationCamera&) = delete;
-    MediaFoundationCamera& operator=(const MediaFoundationCamera&) = delete;
+    MediaFoundationCamera(const MediaFoundation& functions, const QString& link,
+                          std::shared_ptr<SampleBox> box);
+    ~MediaFoundationCamera() override;
 
-    HRESULT open(const QString& link); // finds out what it offers
-    const CameraModes& modes() const { return m_modes; }
-    HRESULT choose(const CameraMode& mode); // one that it offers
-    HRESULT request();                      // one sample more, now or when there is one
-    HRESULT readFormat();                   // after Windows told that it changed
-    const MediaFormat& format() const { return m_format; }
+    HRESULT open() override;
+    const CameraModes& modes() const override { return m_modes; }
+    HRESULT start(const CameraMode& mode) override;
+    HRESULT take(DWORD flags) override; // of MF_SOURCE_READER_FLAG; asks for the next sample
+    HRESULT check() override { return S_OK; }
+    const MediaFormat& format() const override { return m_format; }
 
 private:
     struct Offer
@@ -36,11 +34,14 @@ private:
         ComPointer<IMFMediaType> type;
     };
 
-    HRESULT activate(const QString& link);
+    HRESULT activate();
     HRESULT createReader();
     void listOffers();
+    HRESULT request(); // one sample more, now or when there is one
+    HRESULT readFormat();
 
     const MediaFoundation m_functions;
+    const QString m_link;
     const std::shared_ptr<SampleBox> m_box;
     std::shared_ptr<MediaSession> m_session; // outlives what follows
     ComPointer<IMFActivate> m_activate;

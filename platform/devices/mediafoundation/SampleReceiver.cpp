@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/mediafoundation/SampleReceiver.h"
 
+#include "platform/devices/mediafoundation/MediaFoundationSample.h"
+
 namespace Platform {
 
 HRESULT SampleReceiver::OnReadSample(HRESULT error, DWORD /*stream*/, DWORD flags,
                                      LONGLONG /*time*/, IMFSample* sample)
 {
-    m_box->put(error, flags, sample);
+    m_box->put({error, flags, sample ? std::make_unique<MediaFoundationSample>(*sample) : nullptr});
     return S_OK;
 }
 

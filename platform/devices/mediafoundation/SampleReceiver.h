@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/devices/mediafoundation/SampleBox.h"
+#include "platform/devices/mediafoundation/MediaFoundation.h"
 #include "platform/devices/windows/ComCallback.h"
+#include "platform/devices/windowscameras/SampleBox.h"
 
 #include <memory>
 

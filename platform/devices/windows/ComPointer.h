@@ -24,6 +24,15 @@ public:
     ComPointer(const ComPointer&) = delete;
     ComPointer& operator=(const ComPointer&) = delete;
 
+    // With a reference more.
+    static ComPointer sharing(Interface& object)
+    {
+        object.AddRef();
+        ComPointer result;
+        result.m_object = &object;
+        return result;
+    }
+
     Interface* get() const { return m_object; }
     Interface* operator->() const { return m_object; }
     explicit operator bool() const { return m_object != nullptr; }

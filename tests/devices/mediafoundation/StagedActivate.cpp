@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/mediafoundation/StagedActivate.h"
 
-#include "tests/devices/mediafoundation/CameraStage.h"
+#include "tests/devices/windowscameras/CameraStage.h"
 
 namespace TestSupport {
 

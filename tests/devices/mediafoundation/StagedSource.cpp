@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/mediafoundation/StagedSource.h"
 
-#include "tests/devices/mediafoundation/CameraStage.h"
-#include "tests/devices/mediafoundation/StagedFrame.h"
 #include "tests/devices/mediafoundation/StagedStream.h"
+#include "tests/devices/windowscameras/CameraStage.h"
+#include "tests/devices/windowscameras/StagedFrame.h"
 
 // Must follow windows.h.
 #include <mferror.h>
@@ -15,7 +15,6 @@ namespace TestSupport {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Ticks = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>; // Media Foundation's unit
 
 constexpr std::chrono::milliseconds ReaderLinger(500); // for commands on their way
@@ -59,7 +58,8 @@ StagedSource::StagedSource(std::shared_ptr<CameraStage> stage, std::shared_ptr<S
     : EventGenerator(stage),
       m_stage(std::move(stage)),
       m_camera(std::move(camera)),
-      m_modes(m_camera->modes)
+      m_modes(m_camera->modes),
+      m_frames(m_stage, m_camera)
 {
     describe();
     *m_stream.put() = new StagedStream(m_stage, *this, *m_description.get());
@@ -69,7 +69,7 @@ StagedSource::StagedSource(std::shared_ptr<CameraStage> stage, std::shared_ptr<S
 
 StagedSource::~StagedSource()
 {
-    endThread();
+    m_frames.stop();
     countAsClosed();
 }
 
@@ -107,20 +107,19 @@ HRESULT StagedSource::Start(IMFPresentationDescriptor* /*descriptor*/, const GUI
     if (m_isShutDown) {
         return MF_E_SHUTDOWN;
     }
-    const bool isNew = !m_thread.joinable();
+    const bool isNew = !m_frames.isRunning();
     tellOf(isNew ? MENewStream : MEUpdatedStream, m_stream.get());
     tell(MESourceStarted, position);
     m_stream->tell(MEStreamStarted, position);
     if (isNew) {
-        m_isEnding = false;
-        m_thread = std::thread(&StagedSource::run, this, currentMode());
+        startFrames(currentMode());
     }
     return S_OK;
 }
 
 HRESULT StagedSource::Stop()
 {
-    endThread();
+    m_frames.stop();
     tell(MESourceStopped);
     m_stream->tell(MEStreamStopped);
     return S_OK;
@@ -129,7 +128,7 @@ HRESULT StagedSource::Stop()
 HRESULT StagedSource::Shutdown()
 {
     m_stage->pass(m_camera->hangsInShutdown);
-    endThread();
+    m_frames.stop();
     countAsClosed();
     releaseReaderLater();
     closeEvents();
@@ -169,43 +168,15 @@ StagedMode StagedSource::currentMode() const
     return m_modes.front();
 }
 
-void StagedSource::run(const StagedMode& mode)
+void StagedSource::startFrames(const StagedMode& mode)
 {
-    const std::vector<QByteArray> frames = {frameOf(mode, 0), frameOf(mode, 1)};
-    const Ticks period = periodOf(mode);
-    auto due = Clock::now();
-    std::unique_lock lock(m_stage->mutex);
-    for (int number = 0; !m_isEnding; ++number) {
-        due = qMax(due + period, Clock::now());
-        if (m_stage->goesOn.wait_until(lock, due, [this] { return m_isEnding; })) {
-            return;
-        }
-        if (!m_camera->isPresent || m_camera->isSilent) {
-            continue;
-        }
-        if (m_camera->isOver) {
-            m_stream->tell(MEEndOfStream);
-            tell(MEEndOfPresentation);
-            return;
-        }
-        QByteArray frame = frames[static_cast<std::size_t>(number) % frames.size()];
-        frame.truncate(m_camera->hasBrokenFrames ? frame.size() / 3 : frame.size());
-        lock.unlock();
+    const auto deliver = [this, period = periodOf(mode)](const QByteArray& frame, int number) {
         m_stream->deliver(frame, period.count() * number, period.count());
-        lock.lock();
-    }
-}
-
-void StagedSource::endThread()
-{
-    {
-        const std::scoped_lock lock(m_stage->mutex);
-        m_isEnding = true;
-        m_stage->goesOn.notify_all();
-    }
-    if (m_thread.joinable()) {
-        m_thread.join();
-    }
+    };
+    m_frames.start(mode, deliver, [this] {
+        m_stream->tell(MEEndOfStream);
+        tell(MEEndOfPresentation);
+    });
 }
 
 // Wine's source reader waits for itself, and then all others for it, if one of its own commands is

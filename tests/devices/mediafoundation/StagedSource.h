@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tests/devices/mediafoundation/EventGenerator.h"
-#include "tests/devices/mediafoundation/StagedMode.h"
+#include "tests/devices/windowscameras/FrameThread.h"
 
 #include <memory>
 #include <thread>
@@ -11,8 +11,6 @@
 
 namespace TestSupport {
 
-struct CameraStage;
-struct StagedCamera;
 class StagedStream;
 
 // An opened camera. A thread of its own sends the frames.
@@ -36,8 +34,7 @@ private:
 
     void describe();
     StagedMode currentMode() const;
-    void run(const StagedMode& mode);
-    void endThread();
+    void startFrames(const StagedMode& mode);
     void releaseReaderLater();
     void countAsClosed();
 
@@ -49,9 +46,8 @@ private:
     Platform::ComPointer<IMFPresentationDescriptor> m_presentation;
     Platform::ComPointer<StagedStream> m_stream;
     Platform::ComPointer<IMFAsyncCallback> m_reader; // of it
-    std::thread m_thread;
-    bool m_isEnding = false; // guarded by the stage, as are the next ones
-    bool m_isShutDown = false;
+    FrameThread m_frames;
+    bool m_isShutDown = false; // guarded by the stage
 };
 
 } // namespace TestSupport

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/devices/mediafoundation/StagedStream.h"
 
-#include "tests/devices/mediafoundation/CameraStage.h"
+#include "tests/devices/windowscameras/CameraStage.h"
 
 #include <cstring>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The EnvCheck authors
 // SPDX-License-Identifier: MIT
 // The DLL mf.dll for tests: the list of cameras that StagedCameras or a file has.
-#include "tests/devices/mediafoundation/CameraStage.h"
 #include "tests/devices/mediafoundation/StagedActivate.h"
-#include "tests/devices/mediafoundation/StagedFile.h"
+#include "tests/devices/windowscameras/CameraStage.h"
+#include "tests/devices/windowscameras/StagedFile.h"
 
 using namespace TestSupport;
 
@@ -20,7 +20,7 @@ HRESULT list(const std::shared_ptr<CameraStage>& stage, IMFActivate*** entries, 
     *entries =
         static_cast<IMFActivate**>(CoTaskMemAlloc((stage->all.size() + 1) * sizeof(IMFActivate*)));
     for (const std::shared_ptr<StagedCamera>& camera : stage->all) {
-        if (camera->isPresent) {
+        if (camera->isPresent && camera->system == StagedSystem::MediaFoundation) {
             (*entries)[count++] = new StagedActivate(stage, camera);
         }
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/devices/camera/FrameConverter.h"
 #include "tests/devices/mediafoundation/CameraReader.h"
-#include "tests/devices/mediafoundation/StagedCameras.h"
+#include "tests/devices/windowscameras/StagedCameras.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QWindow>
