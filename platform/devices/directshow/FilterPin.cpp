@@ -87,6 +87,9 @@ HRESULT FilterPin::QueryDirection(PIN_DIRECTION* direction)
 HRESULT FilterPin::QueryId(LPWSTR* id)
 {
     *id = static_cast<LPWSTR>(CoTaskMemAlloc(sizeof Name));
+    if (!*id) {
+        return E_OUTOFMEMORY;
+    }
     std::wcscpy(*id, Name);
     return S_OK;
 }

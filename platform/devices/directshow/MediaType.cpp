@@ -15,7 +15,11 @@ MediaType::MediaType(const AM_MEDIA_TYPE& other) : m_type(other)
     m_type.pbFormat = nullptr;
     if (other.pbFormat && other.cbFormat > 0) {
         m_type.pbFormat = static_cast<BYTE*>(CoTaskMemAlloc(other.cbFormat));
+    }
+    if (m_type.pbFormat) {
         std::memcpy(m_type.pbFormat, other.pbFormat, other.cbFormat);
+    } else {
+        m_type.cbFormat = 0; // a filter may claim any size
     }
     if (m_type.pUnk) {
         m_type.pUnk->AddRef();
