@@ -109,7 +109,7 @@ cat >"$folder/cameras.json" <<'JSON'
 JSON
 with_camera()
 {
-    ENVCHECK_WINE_CAMERAS=$build/tests/devices/mediafoundation/mf.dll \
+    ENVCHECK_WINE_CAMERAS=$build/tests/devices/windowscameras/mf.dll \
         ENVCHECK_STAGED_CAMERAS=$(windows_path "$folder/cameras.json") "$@"
 }
 status=0
