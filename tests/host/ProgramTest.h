@@ -28,7 +28,7 @@ protected:
         QString error;
     };
 
-    static constexpr int TimeoutMs = 20000;
+    static constexpr int TimeoutMs = 60000; // a tour of a build with sanitizers takes half of it
 
     // wrapper: a script of bash, which runs the program as "$0" "$@".
     std::unique_ptr<QProcess> started(const QStringList& arguments,
