@@ -8,7 +8,7 @@
 namespace Platform {
 
 // The filter at the end of a camera's graph: leaves the frames in a box. The camera may still call
-// it after it was closed, so it owns what it uses.
+// this filter after the graph was closed, so the filter owns what it uses.
 class FrameSink final : public OnePinFilter
 {
 public:

@@ -17,7 +17,7 @@ namespace SystemAudio {
 
 // Wine finds out here which devices there are, and keeps that for the life of the process.
 HRESULT createEnumerator(Platform::ComPointer<IMMDeviceEnumerator>& enumerator);
-// The one whose name is shown so; null if there is none.
+// The endpoint with this friendly name; null if there is none.
 Platform::ComPointer<IMMDevice> find(IMMDeviceEnumerator& enumerator, EDataFlow flow,
                                      const QString& name);
 
